@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+// By how much does the atmosphere lift a star near the pole?
+#include "geometry/refraction.h"
+
+#include <cmath>
+
+int CorrectRefraction(double value, double h, double pressure, double temperature,
+                      double &corrected)
+{
+    constexpr double radiansPerDegree = 0.017453292519943295;
+    constexpr double halfPi = 1.5707963267948966;
+
+    // Minutes of arc. Above the horizon it is below zero only close to the zenith.
+    double refraction = std::tan(halfPi - (h + 7.31 / (h + 4.4)) * radiansPerDegree);
+    if (refraction < 0.0)
+        refraction = 0.0;
+    const double kelvin = temperature + 273.0;
+    if (kelvin != 0.0)
+        refraction = refraction * (pressure / 101.0) * (283.0 / kelvin);
+    corrected = value - refraction;
+    return 0;
+}
