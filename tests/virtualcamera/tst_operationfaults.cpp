@@ -1,0 +1,291 @@
+// SPDX-License-Identifier: MIT
+// When do frames come, and what do the faults of the sky file do?
+#include <unistd.h>
+
+#include <QElapsedTimer>
+#include <QTemporaryFile>
+#include <QtTest>
+
+#include "tests/virtualcamera/veldixfixture.h"
+#include "virtualcamera/operationnames.h"
+
+using virtualsky::operationNames;
+
+namespace
+{
+// Calls one operation as it would succeed; true = it said so.
+bool succeeds(int operation, void *handle)
+{
+    const VeldixLibrary &v = veldix();
+    char id[38];
+    VeldixFrame frame;
+    switch (operation) {
+    case 0:
+        return v.initResource() == 0;
+    case 1:
+        return v.scan() == 1;
+    case 2:
+        return v.getId(0, id) == 0;
+    case 3:
+        return v.open("QUORVANDEL-V0001") != nullptr;
+    case 4:
+        return v.setReadMode(handle, 0) != failure;
+    case 5:
+        return v.setStreamMode(handle, 1) == 0;
+    case 6:
+        return v.init(handle) == 0;
+    case 7:
+        return v.setBits(handle, 8) == 0;
+    case 8:
+        return v.setBin(handle, 1, 1) == 0;
+    case 9:
+        return v.setResolution(handle, 0, 0, 1280, 960) == 0;
+    case 10:
+        return v.getParam(handle, exposureControl) != double(failure);
+    case 11:
+        return v.setParam(handle, exposureControl, 20000.0) == 0;
+    case 12:
+        return v.beginLive(handle) == 0;
+    case 13:
+        return frame.fetch(v, handle) == 0;
+    case 14:
+        return v.stopLive(handle) == 0;
+    default:
+        return v.close(handle) == 0;
+    }
+}
+} // namespace
+
+class TestOperationFaults : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QCOMPARE(veldix().initResource(), 0u); }
+    void init() { setSky("[camera]\nunthrottled = true\n"); }
+
+    void namedOperationFails_data();
+    void namedOperationFails();
+    void badHandlesAreRefused_data();
+    void badHandlesAreRefused();
+    void frameNeverBlocks();
+    void frameRate();
+    void slowFrames();
+    void unpluggedCamera();
+    void channelsAndPictures_data();
+    void channelsAndPictures();
+    void changeTakesEffectWithTheNextFrame();
+    void runRepeats();
+    void badSkyFileIsToldOnce();
+};
+
+void TestOperationFaults::namedOperationFails_data()
+{
+    QTest::addColumn<int>("operation");
+    for (std::size_t i = 0; i < operationNames.size(); ++i)
+        QTest::newRow(std::string(operationNames[i]).c_str()) << int(i);
+}
+
+void TestOperationFaults::namedOperationFails()
+{
+    QFETCH(int, operation);
+    void *const camera = veldix().openLive();
+    QVERIFY(camera);
+    const std::string name(operationNames[static_cast<std::size_t>(operation)]);
+    setSky(("[camera]\nunthrottled = true\n[faults]\nfail = " + name + "\n").c_str());
+    // The named one alone fails; Close comes last, since it would spoil the others.
+    for (int other = 0; other < 16; ++other) {
+        if (other == 14 || other == 15)
+            continue;
+        QVERIFY2(succeeds(other, camera) == (other != operation),
+                 std::string(operationNames[static_cast<std::size_t>(other)]).c_str());
+    }
+    QCOMPARE(succeeds(14, camera), operation != 14);
+    QCOMPARE(succeeds(15, camera), operation != 15);
+    if (operation == 1)
+        QCOMPARE(veldix().scan(), -1);
+    init();
+    QCOMPARE(veldix().close(camera) == 0u, operation == 15);
+}
+
+void TestOperationFaults::badHandlesAreRefused_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::newRow("null") << 0;
+    QTest::newRow("never given") << 1;
+    QTest::newRow("closed") << 2;
+}
+
+void TestOperationFaults::badHandlesAreRefused()
+{
+    QFETCH(int, kind);
+    void *handle = nullptr;
+    if (kind == 1)
+        handle = &kind;
+    if (kind == 2) {
+        handle = veldix().openLive();
+        QCOMPARE(veldix().close(handle), 0u);
+        QVERIFY(veldix().openLive() != handle);
+    }
+    for (int operation = 4; operation < 16; ++operation)
+        QVERIFY(!succeeds(operation, handle));
+    QCOMPARE(veldix().setBits(handle, 8), failure);
+    QCOMPARE(veldix().getParam(handle, 8), 4294967295.0);
+}
+
+void TestOperationFaults::frameNeverBlocks()
+{
+    setSky("\n");
+    void *const camera = veldix().openLive();
+    QCOMPARE(veldix().setParam(camera, exposureControl, 60e6), 0u);
+    VeldixFrame frame;
+    QElapsedTimer timer;
+    timer.start();
+    for (int i = 0; i < 100; ++i)
+        QVERIFY(frame.fetch(veldix(), camera) != 0u);
+    QVERIFY(timer.elapsed() < 5000);
+    // A shorter exposure takes over from the running one.
+    QCOMPARE(veldix().setParam(camera, exposureControl, 1000.0), 0u);
+    timer.restart();
+    bool fetched = false;
+    while (!fetched && timer.elapsed() < 5000)
+        fetched = frame.fetch(veldix(), camera) == 0u;
+    QVERIFY(fetched);
+    QCOMPARE(veldix().close(camera), 0u);
+}
+
+void TestOperationFaults::frameRate()
+{
+    setSky("\n");
+    void *const camera = veldix().openLive();
+    QCOMPARE(veldix().setParam(camera, exposureControl, 180000.0), 0u);
+    VeldixFrame frame;
+    // 180 ms and 13.3 ms of read-out: never early, however often it is asked.
+    QElapsedTimer timer;
+    while (frame.fetch(veldix(), camera) != 0u)
+        QTest::qSleep(1);
+    timer.start();
+    for (int i = 0; i < 5; ++i)
+        while (frame.fetch(veldix(), camera) != 0u)
+            QTest::qSleep(1);
+    // The first frame may have been fetched late, by the length of one call.
+    QVERIFY2(timer.elapsed() > 800, qPrintable(QString::number(timer.elapsed())));
+    QCOMPARE(veldix().close(camera), 0u);
+}
+
+void TestOperationFaults::slowFrames()
+{
+    setSky("[faults]\nslow = 600\n");
+    void *const camera = veldix().openLive();
+    QCOMPARE(veldix().setParam(camera, exposureControl, 1000.0), 0u);
+    VeldixFrame frame;
+    QTest::qSleep(100);
+    QVERIFY(frame.fetch(veldix(), camera) != 0u);
+    setSky("[faults]\nslow = 0\n");
+    QCOMPARE(frame.fetch(veldix(), camera), 0u);
+    QCOMPARE(veldix().close(camera), 0u);
+}
+
+void TestOperationFaults::unpluggedCamera()
+{
+    void *const camera = veldix().openLive();
+    VeldixFrame frame;
+    QCOMPARE(frame.fetch(veldix(), camera), 0u);
+    setSky("[camera]\nunthrottled = true\n[faults]\nunplugged = true\n");
+    QVERIFY(frame.fetch(veldix(), camera) != 0u);
+    QCOMPARE(veldix().scan(), 0);
+    QVERIFY(!veldix().open("QUORVANDEL-V0001"));
+    QCOMPARE(veldix().setParam(camera, exposureControl, 1000.0), failure);
+    QCOMPARE(veldix().beginLive(camera), failure);
+    // Plugged in again, the open camera goes on.
+    init();
+    QCOMPARE(frame.fetch(veldix(), camera), 0u);
+    setSky("[faults]\nunplugged = true\n");
+    QCOMPARE(veldix().stopLive(camera), 0u);
+    QCOMPARE(veldix().close(camera), 0u);
+}
+
+void TestOperationFaults::channelsAndPictures_data()
+{
+    QTest::addColumn<QByteArray>("sky");
+    QTest::addColumn<int>("channels");
+    QTest::addColumn<int>("value"); // of every sample, -1 = a sky
+    QTest::newRow("one channel") << QByteArray("") << 1 << -1;
+    QTest::newRow("three channels") << QByteArray("channels = 3\n") << 3 << -1;
+    QTest::newRow("black") << QByteArray("[faults]\npicture = black\n") << 1 << 0;
+    QTest::newRow("saturated, three channels")
+        << QByteArray("channels = 3\n[faults]\npicture = saturated\n") << 3 << 255;
+}
+
+void TestOperationFaults::channelsAndPictures()
+{
+    QFETCH(QByteArray, sky);
+    QFETCH(int, channels);
+    QFETCH(int, value);
+    setSky(("[camera]\nunthrottled = true\n" + sky).constData());
+    void *const camera = veldix().openLive();
+    VeldixFrame frame;
+    QCOMPARE(frame.fetch(veldix(), camera), 0u);
+    QCOMPARE(int(frame.channels), channels);
+    const auto end = frame.buffer.begin() + 1280 * 960 * channels;
+    if (value >= 0)
+        QVERIFY(std::all_of(frame.buffer.begin(), end, [value](int v8) { return v8 == value; }));
+    else
+        QVERIFY(std::count(frame.buffer.begin(), end, 255) > 20 * channels);
+    QCOMPARE(veldix().close(camera), 0u);
+}
+
+void TestOperationFaults::changeTakesEffectWithTheNextFrame()
+{
+    void *const camera = veldix().openLive();
+    VeldixFrame frame;
+    for (int i = 0; i < 10; ++i) {
+        setSky("[camera]\nunthrottled = true\n[faults]\npicture = black\n");
+        QCOMPARE(frame.fetch(veldix(), camera), 0u);
+        QCOMPARE(int(frame.buffer[0]), 0);
+        setSky("[camera]\nunthrottled = true\n[faults]\npicture = saturated\n");
+        QCOMPARE(frame.fetch(veldix(), camera), 0u);
+        QCOMPARE(int(frame.buffer[0]), 255);
+    }
+    QCOMPARE(veldix().close(camera), 0u);
+}
+
+void TestOperationFaults::runRepeats()
+{
+    setSky("[camera]\nunthrottled = true\n[time]\ndate = 2024-05-23T12:00:00Z\nrunning = false\n");
+    void *const camera = veldix().openLive();
+    VeldixFrame first, second, again;
+    QCOMPARE(first.fetch(veldix(), camera), 0u);
+    QCOMPARE(second.fetch(veldix(), camera), 0u);
+    QVERIFY(first.buffer != second.buffer);
+    QCOMPARE(veldix().beginLive(camera), 0u);
+    QCOMPARE(again.fetch(veldix(), camera), 0u);
+    QVERIFY(first.buffer == again.buffer);
+    QCOMPARE(again.fetch(veldix(), camera), 0u);
+    QVERIFY(second.buffer == again.buffer);
+    QCOMPARE(veldix().close(camera), 0u);
+}
+
+void TestOperationFaults::badSkyFileIsToldOnce()
+{
+    void *const camera = veldix().openLive();
+    QTemporaryFile told;
+    QVERIFY(told.open());
+    const int standardError = dup(STDERR_FILENO);
+    QVERIFY(dup2(told.handle(), STDERR_FILENO) >= 0);
+    VeldixFrame frame;
+    setSky("[site]\nlatitude = 95\n");
+    const bool goesOn = frame.fetch(veldix(), camera) == 0 && frame.fetch(veldix(), camera) == 0;
+    dup2(standardError, STDERR_FILENO);
+    ::close(standardError);
+    QVERIFY(goesOn); // still without throttle, as in the last good file
+    QVERIFY(told.seek(0));
+    QCOMPARE(QString::fromUtf8(told.readAll()),
+             QStringLiteral("virtual camera: %1: line 2: latitude: must lie between -90 and 90; "
+                            "the sky stays as it was\n")
+                 .arg(skyFolder().path()));
+    QCOMPARE(veldix().close(camera), 0u);
+}
+
+QTEST_GUILESS_MAIN(TestOperationFaults)
+#include "tst_operationfaults.moc"

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+// One opened camera: its settings, its live mode, its frames.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <mutex>
+#include <optional>
+
+#include "virtualcamera/frameclock.h"
+#include "virtualcamera/framesource.h"
+
+namespace virtualsky
+{
+struct FrameShape {
+    std::uint32_t width, height, bitsPerSample, channels;
+};
+
+/// Every member may be called from any thread. `false` is a refusal that changes nothing.
+class Device
+{
+public:
+    explicit Device(FrameSource &frameSource);
+
+    bool setReadMode(std::uint32_t mode);  ///< 0 alone
+    bool setStreamMode(std::uint8_t mode); ///< 0 single, 1 live
+    bool init();
+    bool setBits(std::uint32_t bits);              ///< 8 alone
+    bool setBin(std::uint32_t x, std::uint32_t y); ///< 1, 1 alone
+    bool setArea(std::uint32_t x, std::uint32_t y, std::uint32_t width, std::uint32_t height);
+    /// @param control the interface's number: 6 gain, 8 exposure (microseconds), 9 speed (0 to 2),
+    /// 12 USB traffic (0 to 255)
+    bool setParameter(std::int32_t control, double value);
+    std::optional<double> parameter(std::int32_t control) const;
+
+    bool beginLive(); ///< after `init`, in live stream mode
+    bool stopLive();
+    /// A frame if one is ready; never waits for one.
+    bool takeFrame(FrameShape &shape, std::uint8_t *buffer);
+
+private:
+    double exposureSeconds() const;
+    double period(double slowSeconds) const;
+
+    FrameSource &source;
+    mutable std::mutex mutex; // guards everything below
+    bool initialised = false;
+    bool live = false;
+    std::uint8_t streamMode = 0;
+    Area area;
+    std::array<double, 4> values; // in the order of the table of controls
+    FrameClock clock;
+    std::uint64_t frameNumber = 0; // frames since live mode began
+};
+} // namespace virtualsky

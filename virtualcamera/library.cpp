@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+// The register of cameras and open handles.
+#include "virtualcamera/library.h"
+
+namespace virtualsky
+{
+bool Library::fails(Operation operation)
+{
+    return source.behaviour().fail.test(static_cast<std::size_t>(operation));
+}
+
+bool Library::initResource()
+{
+    const std::lock_guard<std::mutex> lock(mutex);
+    ready = true;
+    return true;
+}
+
+unsigned Library::cameraCount()
+{
+    const Behaviour behaviour = source.behaviour();
+    const std::lock_guard<std::mutex> lock(mutex);
+    return ready && !behaviour.unplugged ? behaviour.cameras : 0;
+}
+
+std::string Library::cameraId(std::int32_t index)
+{
+    if (index < 0 || static_cast<unsigned>(index) >= cameraCount())
+        return {};
+    return "QUORVANDEL-V000" + std::to_string(index + 1);
+}
+
+std::uintptr_t Library::open(const std::string &id)
+{
+    std::int32_t index = 0;
+    for (std::string known; known != id || id.empty(); ++index) {
+        known = cameraId(index);
+        if (known.empty())
+            return 0;
+    }
+    const std::lock_guard<std::mutex> lock(mutex);
+    devices[++lastHandle] = std::make_shared<Device>(source);
+    return lastHandle;
+}
+
+std::shared_ptr<Device> Library::device(std::uintptr_t handle)
+{
+    const std::lock_guard<std::mutex> lock(mutex);
+    const auto found = devices.find(handle);
+    return found == devices.end() ? nullptr : found->second;
+}
+
+bool Library::close(std::uintptr_t handle)
+{
+    const std::lock_guard<std::mutex> lock(mutex);
+    return devices.erase(handle) == 1;
+}
+} // namespace virtualsky

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+// The equatorial mount: bolts, RA axis, tracking, and the camera's place on it.
+#include "virtualcamera/mount.h"
+
+#include <cmath>
+
+#include "virtualcamera/optics.h"
+
+namespace virtualsky
+{
+namespace
+{
+// Turns of the sky in a UT1 second: the rate of the Earth rotation angle (IAU 2000).
+constexpr double turnsPerSecond = 1.00273781191135448 / 86400.0;
+
+struct Aim {
+    double azimuth, altitude; // radians, azimuth from north through east
+};
+
+Aim axisAim(const SkyState &state)
+{
+    const double east = state.boltAzimuth * degree;
+    return {isSouth(state) ? pi - east : east,
+            (std::abs(state.latitude) + state.boltAltitude) * degree};
+}
+
+Vector3 horizonDirection(const Aim &aim)
+{
+    return {std::sin(aim.azimuth) * std::cos(aim.altitude),
+            std::cos(aim.azimuth) * std::cos(aim.altitude), std::sin(aim.altitude)};
+}
+
+// (right, down, along the axis) of somebody who looks along the axis with the zenith up.
+Matrix3 mountFromHorizon(const SkyState &state)
+{
+    const Aim aim = axisAim(state);
+    const Vector3 axis = horizonDirection(aim);
+    const Vector3 up = horizonDirection({aim.azimuth, aim.altitude + pi / 2.0});
+    return {{cross(axis, up), scaled(up, -1.0), axis}};
+}
+
+// Radians, clockwise on the screen. The mount tracks westwards: seen along the axis it turns the
+// camera counter-clockwise in the north, so that the picture turns clockwise.
+double pictureTurn(const SkyState &state, double utcSeconds)
+{
+    double turn = state.raAngle * degree;
+    if (state.tracking)
+        turn += 2.0 * pi * turnsPerSecond * (utcSeconds - state.trackingSince.value_or(utcSeconds));
+    return state.roll * degree + (isSouth(state) ? -turn : turn);
+}
+
+Matrix3 turnAboutForward(double angle)
+{
+    const double c = std::cos(angle);
+    const double s = std::sin(angle);
+    return {{{{c, -s, 0.0}, {s, c, 0.0}, {0.0, 0.0, 1.0}}}};
+}
+
+// The shortest rotation that takes forward (0, 0, 1) to `to`.
+Matrix3 tiltForwardTo(const Vector3 &to)
+{
+    const double k = 1.0 / (1.0 + to.z);
+    return {{{{1.0 - k * to.x * to.x, -k * to.x * to.y, to.x},
+              {-k * to.x * to.y, 1.0 - k * to.y * to.y, to.y},
+              {-to.x, -to.y, to.z}}}};
+}
+} // namespace
+
+bool isSouth(const SkyState &state)
+{
+    return state.latitude < 0.0;
+}
+
+Vector3 poleDirection(const SkyState &state)
+{
+    return horizonDirection({isSouth(state) ? pi : 0.0, std::abs(state.latitude) * degree});
+}
+
+Vector3 axisDirection(const SkyState &state)
+{
+    return horizonDirection(axisAim(state));
+}
+
+Matrix3 cameraFromHorizon(const SkyState &state, double utcSeconds)
+{
+    const Vector3 axisInCamera = unproject({centreX + state.axisX, centreY + state.axisY});
+    const Matrix3 cameraFromMount =
+        product(tiltForwardTo(axisInCamera), turnAboutForward(pictureTurn(state, utcSeconds)));
+    return product(cameraFromMount, mountFromHorizon(state));
+}
+} // namespace virtualsky

@@ -1,0 +1,194 @@
+// SPDX-License-Identifier: MIT
+// The table of the sky file's keys.
+#include "virtualcamera/skykeys.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <system_error>
+#include <type_traits>
+
+#include "virtualcamera/text.h"
+
+namespace virtualsky
+{
+namespace
+{
+constexpr std::array<std::string_view, 3> pictureNames = {"sky", "black", "saturated"};
+
+using Fault = std::optional<std::string>;
+
+std::string numberText(double value)
+{
+    std::array<char, 32> text;
+    const auto end = std::to_chars(text.data(), text.data() + text.size(), value).ptr;
+    return {text.data(), end};
+}
+
+std::string outside(const SkyKey &key)
+{
+    return "must lie between " + numberText(key.least) + " and " + numberText(key.most);
+}
+
+// Reads and writes the members of each type; the fault's text completes "key ...".
+struct Reader {
+    SkyState &state;
+    const SkyKey &key;
+    std::string_view text;
+
+    Fault operator()(double SkyState::*member) const { return number(state.*member); }
+    Fault operator()(unsigned SkyState::*member) const { return number(state.*member); }
+
+    Fault operator()(bool SkyState::*member) const
+    {
+        if (text != "true" && text != "false")
+            return "must be true or false";
+        state.*member = text == "true";
+        return {};
+    }
+
+    Fault operator()(Picture SkyState::*member) const
+    {
+        for (std::size_t i = 0; i < pictureNames.size(); ++i) {
+            if (text != pictureNames[i])
+                continue;
+            state.*member = static_cast<Picture>(i);
+            return {};
+        }
+        return "must be sky, black or saturated";
+    }
+
+    Fault operator()(OperationSet SkyState::*member) const
+    {
+        OperationSet set;
+        std::string_view rest = text;
+        while (!rest.empty()) {
+            const std::size_t comma = std::min(rest.find(','), rest.size());
+            const std::string_view name = trimmed(rest.substr(0, comma));
+            rest.remove_prefix(std::min(comma + 1, rest.size()));
+            std::size_t i = 0;
+            while (i < operationNames.size() && operationNames[i] != name)
+                ++i;
+            if (i == operationNames.size())
+                return "names no operation: \"" + std::string(name) + '"';
+            set.set(i);
+        }
+        state.*member = set;
+        return {};
+    }
+
+    Fault operator()(const DateMember &date) const
+    {
+        if (text == date.none) {
+            (state.*date.member).reset();
+            return {};
+        }
+        const std::optional<double> value = parseDate(text);
+        if (!value)
+            return "must be " + std::string(date.none) +
+                   " or a date from 1973 to 2100 like 2026-11-20T20:00:00Z";
+        state.*date.member = value;
+        return {};
+    }
+
+    template <typename Number> Fault number(Number &member) const
+    {
+        Number value = {};
+        const char *const end = text.data() + text.size();
+        const auto result = std::from_chars(text.data(), end, value);
+        if (result.ec == std::errc::result_out_of_range)
+            return outside(key);
+        if (text.empty() || result.ec != std::errc() || result.ptr != end)
+            return std::is_integral_v<Number> ? "must be a whole number" : "must be a number";
+        const double asDouble = static_cast<double>(value);
+        if (!(asDouble >= key.least && asDouble <= key.most))
+            return outside(key);
+        member = value;
+        return {};
+    }
+};
+
+struct Writer {
+    const SkyState &state;
+
+    std::string operator()(double SkyState::*member) const { return numberText(state.*member); }
+    std::string operator()(unsigned SkyState::*member) const
+    {
+        return std::to_string(state.*member);
+    }
+    std::string operator()(bool SkyState::*member) const
+    {
+        return state.*member ? "true" : "false";
+    }
+    std::string operator()(Picture SkyState::*member) const
+    {
+        return std::string(pictureNames[static_cast<std::size_t>(state.*member)]);
+    }
+    std::string operator()(OperationSet SkyState::*member) const
+    {
+        std::string text;
+        for (std::size_t i = 0; i < operationNames.size(); ++i)
+            if ((state.*member).test(i))
+                text += (text.empty() ? "" : ", ") + std::string(operationNames[i]);
+        return text;
+    }
+    std::string operator()(const DateMember &date) const
+    {
+        const std::optional<double> &value = state.*date.member;
+        return value ? formatDate(*value) : std::string(date.none);
+    }
+};
+} // namespace
+
+const std::vector<SkyKey> &skyKeys()
+{
+    using S = SkyState;
+    static const auto *const keys = new std::vector<SkyKey>{
+        {"site", "latitude", &S::latitude, -90.0, 90.0},
+        {"site", "longitude", &S::longitude, -180.0, 180.0},
+        {"time", "date", DateMember{&S::date, "now"}},
+        {"time", "running", &S::running},
+        {"mount", "bolt_altitude", &S::boltAltitude, -20.0, 20.0},
+        {"mount", "bolt_azimuth", &S::boltAzimuth, -20.0, 20.0},
+        {"mount", "ra_angle", &S::raAngle, -360.0, 360.0},
+        {"mount", "tracking", &S::tracking},
+        {"mount", "tracking_since", DateMember{&S::trackingSince, "start"}},
+        {"camera", "axis_x", &S::axisX, -2000.0, 2000.0},
+        {"camera", "axis_y", &S::axisY, -2000.0, 2000.0},
+        {"camera", "roll", &S::roll, -360.0, 360.0},
+        {"camera", "channels", &S::channels, 1.0, 3.0},
+        {"camera", "unthrottled", &S::unthrottled},
+        {"sensor", "seed", &S::seed, 0.0, 4294967295.0},
+        {"sensor", "noise", &S::noise},
+        {"sensor", "hot_pixels", &S::hotPixels, 0.0, 1000.0},
+        {"sensor", "fwhm", &S::fwhm, 0.5, 20.0},
+        {"sensor", "seeing", &S::seeing, 0.0, 120.0},
+        {"weather", "sky_magnitude", &S::skyMagnitude, 14.0, 25.0},
+        {"weather", "clouds", &S::clouds, 0.0, 1.0},
+        {"weather", "moon", &S::moon, 0.0, 1.0},
+        {"weather", "refraction", &S::refraction},
+        {"weather", "pressure", &S::pressure, 0.0, 1200.0},
+        {"weather", "temperature", &S::temperature, -90.0, 60.0},
+        {"weather", "humidity", &S::humidity, 0.0, 1.0},
+        {"faults", "fail", &S::fail},
+        {"faults", "cameras", &S::cameras, 0.0, 2.0},
+        {"faults", "unplugged", &S::unplugged},
+        {"faults", "slow", &S::slow, 0.0, 600.0},
+        {"faults", "picture", &S::picture},
+    };
+    return *keys;
+}
+
+std::optional<std::string> setKey(SkyState &state, const SkyKey &key, std::string_view text)
+{
+    const Fault fault = std::visit(Reader{state, key, text}, key.member);
+    if (!fault && key.name == "channels" && state.channels == 2)
+        return "must be 1 or 3";
+    return fault;
+}
+
+std::string keyText(const SkyState &state, const SkyKey &key)
+{
+    return std::visit(Writer{state}, key.member);
+}
+} // namespace virtualsky

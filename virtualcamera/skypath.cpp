@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+// Where the sky file lies, and how it is written in one go.
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+
+#include "virtualcamera/skyfile.h"
+
+namespace virtualsky
+{
+namespace
+{
+bool makeFolders(const std::string &path)
+{
+    for (std::size_t at = path.find('/', 1); at != std::string::npos; at = path.find('/', at + 1))
+        if (::mkdir(path.substr(0, at).c_str(), 0700) != 0 && errno != EEXIST)
+            return false;
+    return true;
+}
+
+bool writeAll(int file, std::string_view text)
+{
+    while (!text.empty()) {
+        const ssize_t written = ::write(file, text.data(), text.size());
+        if (written < 0 && errno != EINTR)
+            return false;
+        if (written > 0)
+            text.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return true;
+}
+} // namespace
+
+bool writeAtomically(const std::string &path, std::string_view text)
+{
+    if (!makeFolders(path))
+        return false;
+    std::string aside = path + ".XXXXXX";
+    const int file = ::mkstemp(aside.data());
+    if (file < 0)
+        return false;
+    const bool written = writeAll(file, text);
+    const bool closed = ::close(file) == 0;
+    if (written && closed && std::rename(aside.c_str(), path.c_str()) == 0)
+        return true;
+    const int reason = errno;
+    ::unlink(aside.c_str());
+    errno = reason;
+    return false;
+}
+
+std::string skyFilePath()
+{
+    const auto variable = [](const char *name) {
+        const char *value = std::getenv(name);
+        return std::string(value ? value : "");
+    };
+    if (const std::string path = variable("QUORVANDEL_SKY"); !path.empty())
+        return path;
+    // A relative folder in the variable is to be ignored (XDG base directories).
+    if (const std::string folder = variable("XDG_RUNTIME_DIR"); !folder.empty() && folder[0] == '/')
+        return folder + "/quorvandel/sky.ini";
+    return "/tmp/quorvandel-" + std::to_string(::getuid()) + "/sky.ini";
+}
+} // namespace virtualsky

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+// From the sky file to a frame.
+#include "virtualcamera/skysource.h"
+
+#include <chrono>
+
+namespace virtualsky
+{
+SkySource::SkySource(const std::string &path, SkyWatch::Report report)
+    : watch(path, std::move(report))
+{
+}
+
+Behaviour SkySource::behaviour()
+{
+    const std::lock_guard<std::mutex> lock(mutex);
+    const SkyState &state = watch.current();
+    return {state.fail, state.cameras, state.unplugged, state.slow, state.unthrottled};
+}
+
+unsigned SkySource::frame(const FrameRequest &request, std::uint8_t *out)
+{
+    const std::lock_guard<std::mutex> lock(mutex);
+    const std::chrono::duration<double> now = std::chrono::system_clock::now().time_since_epoch();
+    const Moment moment = clock.at(watch.current(), now.count());
+    const std::vector<ImagedStar> &stars = scene.starsAt(moment.state, moment.utcSeconds);
+    sensor.render(moment.state, stars, request.area, request.exposure, out);
+    return moment.state.channels;
+}
+} // namespace virtualsky

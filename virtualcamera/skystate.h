@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+// Everything that can be set about the virtual sky, the mount under it and the camera on it.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "virtualcamera/operationnames.h"
+
+namespace virtualsky
+{
+enum class Picture { Sky, Black, Saturated };
+
+/// Dates are seconds since 1970-01-01T00:00:00 UTC, without leap seconds.
+/// The file's keys, ranges and meanings are in docs/virtual-camera.md.
+struct SkyState {
+    double latitude = 40.0;   ///< degrees, north positive; below 0 the south pole is looked at
+    double longitude = 116.0; ///< degrees, east positive
+
+    std::optional<double> date; ///< absent = now
+    bool running = true;        ///< a given date goes on from when it was first read
+
+    double boltAltitude = 0.6; ///< degrees, the axis above the pole
+    double boltAzimuth = -1.0; ///< degrees about the vertical, the axis east of the pole
+    double raAngle = 0.0;      ///< degrees, positive as the mount tracks (westwards)
+    bool tracking = false;
+    std::optional<double> trackingSince; ///< where the tracked angle is 0
+
+    double axisX = 40.0;  ///< pixels right of the picture's centre
+    double axisY = -30.0; ///< pixels below the picture's centre
+    double roll = 0.0;    ///< degrees, the picture's turn about the axis point, clockwise
+    unsigned channels = 1;
+    bool unthrottled = false; ///< a new frame at every call
+
+    std::uint32_t seed = 1;
+    bool noise = true;
+    unsigned hotPixels = 12;
+    double fwhm = 2.5;   ///< pixels, the lens alone
+    double seeing = 3.0; ///< arcseconds, full width at half maximum
+
+    double skyMagnitude = 19.5; ///< V magnitudes a square arcsecond
+    double clouds = 0.0;        ///< part of all light that is held back
+    double moon = 0.0;          ///< glow, 0 none to 1 full
+    bool refraction = false;
+    double pressure = 1010.0;  ///< hectopascals
+    double temperature = 10.0; ///< degrees Celsius
+    double humidity = 0.5;     ///< 0 to 1
+
+    OperationSet fail;
+    unsigned cameras = 1;
+    bool unplugged = false;
+    double slow = 0.0; ///< seconds that every frame takes longer
+    Picture picture = Picture::Sky;
+};
+} // namespace virtualsky

@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: MIT
+// Follows the sky file.
+#include "virtualcamera/skywatch.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cmath>
+#include <ctime>
+#include <system_error>
+#include <tuple>
+
+#include "virtualcamera/skyfile.h"
+
+namespace virtualsky
+{
+namespace
+{
+constexpr std::size_t largestFile = 65536;
+
+// File systems stamp changes with a clock of some milliseconds: a stamp younger than this may hide
+// a second change of the same length.
+constexpr double stampDoubtSeconds = 0.1;
+
+double secondsNow()
+{
+    timespec now = {};
+    ::clock_gettime(CLOCK_REALTIME, &now);
+    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
+}
+
+class File
+{
+public:
+    // O_NONBLOCK: a pipe in the file's place must not hold the frame up.
+    explicit File(const std::string &path)
+        : descriptor(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK))
+    {
+    }
+    ~File()
+    {
+        if (descriptor >= 0)
+            ::close(descriptor);
+    }
+    File(const File &) = delete;
+    File &operator=(const File &) = delete;
+    const int descriptor;
+};
+} // namespace
+
+SkyWatch::SkyWatch(std::string filePath, Report faultReport)
+    : path(std::move(filePath)), report(std::move(faultReport))
+{
+}
+
+bool SkyWatch::Stamp::operator==(const Stamp &o) const
+{
+    return std::tie(exists, device, inode, size, seconds, nanoseconds) ==
+           std::tie(o.exists, o.device, o.inode, o.size, o.seconds, o.nanoseconds);
+}
+
+SkyWatch::Stamp SkyWatch::stampOf(const std::string &path)
+{
+    struct stat status = {};
+    if (::stat(path.c_str(), &status) != 0)
+        return {};
+    Stamp stamp;
+    stamp.exists = true;
+    stamp.device = static_cast<std::uint64_t>(status.st_dev);
+    stamp.inode = static_cast<std::uint64_t>(status.st_ino);
+    stamp.size = static_cast<std::int64_t>(status.st_size);
+    stamp.seconds = static_cast<std::int64_t>(status.st_mtim.tv_sec);
+    stamp.nanoseconds = static_cast<std::int64_t>(status.st_mtim.tv_nsec);
+    return stamp;
+}
+
+std::string SkyWatch::readText() const
+{
+    const File file(path);
+    struct stat status = {};
+    if (file.descriptor < 0 || ::fstat(file.descriptor, &status) != 0)
+        throw SkyFileError(0, {}, std::generic_category().message(errno));
+    if (!S_ISREG(status.st_mode))
+        throw SkyFileError(0, {}, "not an ordinary file");
+    std::string text(largestFile + 1, '\0');
+    std::size_t length = 0;
+    while (length < text.size()) {
+        const ssize_t got = ::read(file.descriptor, text.data() + length, text.size() - length);
+        if (got < 0 && errno == EINTR)
+            continue;
+        if (got < 0)
+            throw SkyFileError(0, {}, std::generic_category().message(errno));
+        if (got == 0)
+            break;
+        length += static_cast<std::size_t>(got);
+    }
+    if (length > largestFile)
+        throw SkyFileError(0, {}, "longer than 64 KiB");
+    text.resize(length);
+    return text;
+}
+
+void SkyWatch::load()
+{
+    if (!stamp.exists) {
+        good = SkyState();
+        lastFault.clear();
+        return;
+    }
+    try {
+        good = parse(readText());
+        lastFault.clear();
+    } catch (const SkyFileError &error) {
+        if (lastFault == error.what())
+            return;
+        lastFault = error.what();
+        report(path + ": " + lastFault + "; the sky stays as it was");
+    }
+}
+
+const SkyState &SkyWatch::current()
+{
+    const Stamp now = stampOf(path);
+    if (settled && now == stamp)
+        return good;
+    stamp = now;
+    const double changed =
+        static_cast<double>(stamp.seconds) + static_cast<double>(stamp.nanoseconds) * 1e-9;
+    settled = !stamp.exists || std::abs(secondsNow() - changed) > stampDoubtSeconds;
+    load();
+    return good;
+}
+} // namespace virtualsky
