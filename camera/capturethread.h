@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+// How do frames get from the camera into the two picture queues?
+#pragma once
+
+#include "camera/relaxed.h"
+
+#include <QImage>
+#include <QThread>
+#include <memory>
+
+/// Fetches frames while a camera is connected, draws the marks into them, follows the reference
+/// stars in monitor mode, and queues the pictures. It never waits for the GUI: where a queue is
+/// full the picture is dropped. Stopping the live mode is the GUI's business.
+class CaptureThread : public QThread
+{
+public:
+    explicit CaptureThread(QObject *parent = nullptr);
+    /// Asks the loop to stop and waits for its current pass to end.
+    ~CaptureThread() override;
+
+    /// Starts the loop; where an earlier one is still in its last pass, after that has ended.
+    void startCapture();
+    /// Asks the loop to stop and returns at once.
+    void stopCapture();
+
+protected:
+    void run() override;
+
+private:
+    friend class CaptureThreadProbe; // runs single passes for the measurements
+
+    enum class Fetch { NewFrame, NoFrameYet, Ended };
+
+    void waitForEnd();
+    bool beginLive();
+    Fetch fetchFrame();
+    void handleFrame();
+    void measureRate();
+    bool takeRawFrame();
+    void followStars();
+
+    Relaxed<bool> stopRequested;
+    std::unique_ptr<QImage> frameImage;     ///< the latest display picture
+    std::unique_ptr<QImage> magnifierImage; ///< the latest picture of the magnified star
+};

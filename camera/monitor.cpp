@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: MIT
+// Follows the reference stars, reckons the pole and enlarges the pole star.
+#include "camera/monitor.h"
+
+#include "camera/sharedstate.h"
+#include "geometry/polecomputation.h"
+#include "geometry/refraction.h"
+#include "geometry/saturate.h"
+#include "geometry/stardetection.h"
+
+#include <algorithm>
+#include <opencv2/imgproc.hpp>
+
+namespace
+{
+/// How far from its centre a star's mark reaches in the enlarged picture, and where it begins.
+constexpr int tickInner = 6;
+constexpr int tickOuter = 11;
+
+/// Enlarged coordinates, cut to whole pixels and held far enough from the ends of int that
+/// offsets can be added.
+cv::Point enlargedPoint(QPointF star)
+{
+    constexpr int limit = 1 << 24;
+    return {std::clamp(saturatingInt(enlargement * star.x()), -limit, limit),
+            std::clamp(saturatingInt(enlargement * star.y()), -limit, limit)};
+}
+
+void drawTicks(cv::Mat &picture, cv::Point centre, const cv::Scalar &colour)
+{
+    for (const cv::Point direction :
+         {cv::Point(-1, 0), cv::Point(1, 0), cv::Point(0, -1), cv::Point(0, 1)})
+        cv::line(picture, centre + direction * tickInner, centre + direction * tickOuter, colour, 1,
+                 cv::LINE_8);
+}
+
+void markStarA(cv::Mat &picture, cv::Point centre, bool monoStyle)
+{
+    const cv::Scalar colour = monoStyle ? cv::Scalar(255, 248, 248) : cv::Scalar(255, 0, 0);
+    cv::circle(picture, centre, 1, colour, cv::FILLED, cv::LINE_AA);
+    cv::circle(picture, centre, 8, colour, 1, cv::LINE_AA);
+    drawTicks(picture, centre, colour);
+}
+
+void markStarB(cv::Mat &picture, cv::Point centre)
+{
+    const cv::Scalar green(0, 255, 0);
+    cv::circle(picture, centre, 2, green, cv::FILLED, cv::LINE_AA);
+    drawTicks(picture, centre, green);
+}
+
+/// The frame pixels that the enlargement of `area` (enlarged pixels) is interpolated from.
+cv::Rect sourceOf(const cv::Rect &area, cv::Size frame)
+{
+    const int left = std::max(area.x / enlargement - 2, 0);
+    const int top = std::max(area.y / enlargement - 2, 0);
+    const int right = std::min((area.x + area.width) / enlargement + 3, frame.width);
+    const int bottom = std::min((area.y + area.height) / enlargement + 3, frame.height);
+    return {left, top, right - left, bottom - top};
+}
+
+cv::Rect enlarged(const cv::Rect &r)
+{
+    return {r.x * enlargement, r.y * enlargement, r.width * enlargement, r.height * enlargement};
+}
+
+/// Enlarges `source` (frame pixels) into its place in the two large matrices.
+void enlarge(const cv::Mat &frame, const cv::Rect &source, FrameMatrices &matrices)
+{
+    const cv::Size whole(frame.cols * enlargement, frame.rows * enlargement);
+    matrices.enlargedGrey.create(whole, CV_8UC1);
+    matrices.enlargedColour.create(whole, CV_8UC3);
+    cv::Mat grey = frame(source);
+    if (frame.channels() == 3)
+        cv::cvtColor(frame(source), grey, cv::COLOR_BGR2GRAY);
+    const cv::Rect place = enlarged(source);
+    cv::Mat largeGrey = matrices.enlargedGrey(place);
+    cv::Mat largeColour = matrices.enlargedColour(place);
+    cv::resize(grey, largeGrey, place.size(), 0, 0, cv::INTER_LINEAR);
+    cv::cvtColor(largeGrey, largeColour, cv::COLOR_GRAY2BGR);
+}
+} // namespace
+
+QPointF starNear(const cv::Mat &frame, QPointF expected)
+{
+    double x = 0, y = 0;
+    if (GetPreciseStarPos(&frame, expected.x(), expected.y(), x, y) != 0)
+        return expected;
+    return {x, y};
+}
+
+void trackReferenceStars(const cv::Mat &frame)
+{
+    monitorPositions.starACurrent = starNear(frame, monitorPositions.starASearch);
+    monitorPositions.starBCurrent = starNear(frame, monitorPositions.starBSearch);
+}
+
+void updatePole()
+{
+    QPointF a = monitorPositions.starACurrent;
+    QPointF b = monitorPositions.starBCurrent;
+    if (refractionSettings.enabledCorrect) {
+        // The pressure goes in as tenths of what is entered, whatever its unit is said to be.
+        const double pressure = double(refractionSettings.P) / 10.0;
+        const double latitude = double(refractionSettings.latitude);
+        const double temperature = double(refractionSettings.T);
+        for (QPointF *star : {&a, &b})
+            CorrectRefraction(star->y(), latitude, pressure, temperature, star->ry());
+        monitorPositions.starACurrent = a;
+        monitorPositions.starBCurrent = b;
+    }
+    const QPointF axis = alignmentPoints.savedAxisCenter;
+    double poleX = 0, poleY = 0;
+    const int status = CalcPoleCOOR(a.x(), a.y(), alignmentPoints.angleBAP, b.x(), b.y(),
+                                    alignmentPoints.angleABP, axis.x(), axis.y(), poleX, poleY);
+    if (status == 0)
+        monitorPositions.poleCurrent = QPointF(poleX, poleY);
+    monitorPositions.poleValid = status == 0;
+}
+
+void cropAroundStarB(const cv::Mat &frame, QPointF starA, QPointF starB, bool monoStyle,
+                     FrameMatrices &matrices)
+{
+    const cv::Point centreA = enlargedPoint(starA);
+    const cv::Point centreB = enlargedPoint(starB);
+    const cv::Rect crop(centreB.x - cropSide / 2, centreB.y - cropSide / 2, cropSide, cropSide);
+    const cv::Rect inside =
+        crop & cv::Rect(0, 0, frame.cols * enlargement, frame.rows * enlargement);
+    matrices.magnifierCrop.create(cropSide, cropSide, CV_8UC3);
+    if (inside.size() != crop.size())
+        matrices.magnifierCrop.setTo(cv::Scalar::all(0));
+    if (inside.empty())
+        return;
+    enlarge(frame, sourceOf(inside, frame.size()), matrices);
+    // Drawn at their places in the whole picture, so that clipping cuts no mark differently.
+    markStarA(matrices.enlargedColour, centreA, monoStyle);
+    markStarB(matrices.enlargedColour, centreB);
+    matrices.enlargedColour(inside).copyTo(matrices.magnifierCrop(inside - crop.tl()));
+}

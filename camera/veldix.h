@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+// What can the camera maker's library do, and how does the program call it?
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <cstdint>
+
+/// The library's error value; every operation that returns a status gives 0 for success.
+constexpr std::uint32_t veldixError = 0xFFFFFFFFu;
+
+enum VeldixControl : std::int32_t {
+    CONTROL_GAIN = 6,       ///< camera units
+    CONTROL_EXPOSURE = 8,   ///< microseconds
+    CONTROL_SPEED = 9,      ///< 0 to 2
+    CONTROL_USBTRAFFIC = 12 ///< 0 to 255; the larger, the slower the frames come
+};
+
+/// Bytes of a camera's ID with its NUL.
+constexpr int veldixIdSize = 38;
+
+// The sixteen operations of the Camera SDK, each passed on to the library that
+// InitVELDIXResource found. All may be called from any thread. Before a successful
+// InitVELDIXResource they fail: veldixError, no camera, a null handle, the value 0.
+
+/// Loads the library (see librariesToTry) and initialises it; 0 = ready. A library that is absent
+/// or lacks one of the functions is named in a critical log line.
+std::uint32_t InitVELDIXResource();
+/// Number of cameras; 0 or negative = none.
+std::int32_t ScanVELDIX();
+/// 0 = `id` holds the NUL-terminated ID of camera `index`, at most veldixIdSize bytes.
+std::uint32_t GetVELDIXId(std::int32_t index, char *id);
+/// A handle, or null.
+void *OpenVELDIX(const char *id);
+/// Only veldixError counts as a failure.
+std::uint32_t SetVELDIXReadMode(void *handle, std::uint32_t mode);
+/// Mode 1 = live video.
+std::uint32_t SetVELDIXStreamMode(void *handle, std::uint8_t mode);
+std::uint32_t InitVELDIX(void *handle);
+std::uint32_t SetVELDIXBitsMode(void *handle, std::uint32_t bits);
+std::uint32_t SetVELDIXBinMode(void *handle, std::uint32_t x, std::uint32_t y);
+std::uint32_t SetVELDIXResolution(void *handle, std::uint32_t x, std::uint32_t y,
+                                  std::uint32_t width, std::uint32_t height);
+double GetVELDIXParam(void *handle, std::int32_t control);
+std::uint32_t SetVELDIXParam(void *handle, std::int32_t control, double value);
+std::uint32_t BeginVELDIXLive(void *handle);
+/// 0 = a new frame is in `buffer`; anything else = none yet.
+std::uint32_t GetVELDIXLiveFrame(void *handle, std::uint32_t *width, std::uint32_t *height,
+                                 std::uint32_t *bpp, std::uint32_t *channels, std::uint8_t *buffer);
+std::uint32_t StopVELDIXLive(void *handle);
+std::uint32_t CloseVELDIX(void *handle);
+
+/// Where the library is looked for, the first that loads being taken: the loader's own search
+/// path, then the program's virtual camera in its private folder.
+/// \param applicationFolder folder of the executable, absolute
+QStringList librariesToTry(const QString &applicationFolder);

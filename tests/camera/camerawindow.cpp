@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: MIT
+// Works the program's window with the recording camera behind it.
+#include "tests/camera/camerawindow.h"
+
+#include "camera/camerastate.h"
+#include "camera/frames.h"
+#include "resources/resources.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QFile>
+#include <QLabel>
+#include <QMainWindow>
+#include <QPushButton>
+#include <QtTest>
+#include <map>
+
+bool operator==(const Box &a, const Box &b)
+{
+    return a.icon == b.icon && a.title == b.title && a.text == b.text && a.buttons == b.buttons &&
+           a.modal == b.modal && a.onWindow == b.onWindow;
+}
+
+char *toString(const Box &box)
+{
+    const QString text = QStringLiteral("icon %1, \"%2\", \"%3\", %4 buttons, modal %5, parent %6")
+                             .arg(box.icon)
+                             .arg(box.title, box.text)
+                             .arg(box.buttons.size())
+                             .arg(box.modal)
+                             .arg(box.onWindow);
+    return qstrdup(qPrintable(text));
+}
+
+Box okBox(QMessageBox::Icon icon, const QString &title, const QString &text)
+{
+    return {icon, title, text, {QMessageBox::Ok}, true, true};
+}
+
+BoxWatcher::BoxWatcher(std::function<void(QWidget *)> onDialog) : dialogHandler(std::move(onDialog))
+{
+    connect(&timer, &QTimer::timeout, this, &BoxWatcher::look);
+    timer.start(5);
+}
+
+void BoxWatcher::look()
+{
+    QWidget *const widget = QApplication::activeModalWidget();
+    auto *const box = qobject_cast<QMessageBox *>(widget);
+    if (!box) {
+        if (widget && dialogHandler)
+            dialogHandler(widget);
+        return;
+    }
+    Box found{box->icon(), box->windowTitle(), box->text(), {}, box->isModal(), false};
+    found.onWindow = qobject_cast<QMainWindow *>(box->parentWidget()) != nullptr;
+    for (QAbstractButton *const button : box->buttons())
+        found.buttons.append(box->standardButton(button));
+    seen.append(found);
+    box->buttons().constFirst()->click();
+}
+
+QString settingsPath()
+{
+    return QCoreApplication::applicationDirPath() + "/Quorvandel.ini";
+}
+
+CameraWindow::CameraWindow(const QByteArray &settings, const std::function<void()> &beforeStart)
+{
+    initialiseResources();
+    QFile::remove(settingsPath());
+    if (!settings.isEmpty()) {
+        QFile file(settingsPath());
+        if (!file.open(QIODevice::WriteOnly) || file.write(settings) != settings.size())
+            qFatal("the settings file can not be written");
+    }
+    cameraHandle = nullptr;
+    forgetRate();
+    forgetWaitingPictures();
+    frameMatrices.rawFrame = cv::Mat();
+    sdk().reset();
+    if (beforeStart)
+        beforeStart();
+    window = std::make_unique<MainWindow>();
+    window->resize(1600, 1100);
+    window->show();
+    if (!QTest::qWaitForWindowExposed(window.get()))
+        qFatal("the window does not come up");
+}
+
+CameraWindow::~CameraWindow()
+{
+    sdk().releaseFetches();
+    window->close();
+    window.reset();
+    QFile::remove(settingsPath());
+}
+
+void CameraWindow::trigger(const char *action) const
+{
+    child<QAction>(action).trigger();
+}
+
+void CameraWindow::call(const char *slot) const
+{
+    if (!QMetaObject::invokeMethod(window.get(), slot, Qt::DirectConnection))
+        qFatal("there is no slot %s", slot);
+}
+
+void CameraWindow::connectCamera() const
+{
+    trigger("actionConnect");
+    if (!QTest::qWaitFor([] { return !sdkCalls({"BeginVELDIXLive"}).isEmpty(); }))
+        qFatal("the live mode does not begin");
+}
+
+bool CameraWindow::waitForNewFrame() const
+{
+    // A picture of a frame fetched from now on is shown once this many more were taken: the one
+    // being worked on, two that wait, and one to be sure of.
+    sdk().setFramesLeft(0);
+    const bool drained = QTest::qWaitFor([] {
+        const int count = sdk().fetchCount();
+        QTest::qWait(30);
+        return waitingFrames().isEmpty() && sdk().fetchCount() > count;
+    });
+    child<QLabel>("label_showImg").clear();
+    sdk().setFramesLeft(-1);
+    return drained && QTest::qWaitFor([this] {
+               return !child<QLabel>("label_showImg").pixmap(Qt::ReturnByValue).isNull();
+           });
+}
+
+void CameraWindow::enterStep(int step) const
+{
+    static const std::map<int, const char *> slotInto{
+        {2, "pushbuttonSettingDoneClicked"},        {3, "pushbuttonRotateStar1ResetClicked"},
+        {5, "pushbuttonRotateStar1DoneClicked"},    {7, "pushbuttonRotateStar2DoneClicked"},
+        {9, "pushbuttonValidateCenterDoneClicked"}, {10, "pushbuttonGetEptPolarisDoneClicked"},
+        {11, "pushbuttonMovePolarisDoneClicked"},   {12, "pushbuttonGetCurPolarisDoneClicked"},
+        {13, "on_pushButton_monitor_clicked"}};
+    call(slotInto.at(step));
+    if (window->step() != step)
+        qFatal("step %d is not entered", step);
+}

@@ -1,0 +1,451 @@
+// SPDX-License-Identifier: MIT
+// What does the capture loop do with what the camera gives it?
+#include "camera/camerastate.h"
+#include "camera/capturethread.h"
+#include "camera/frames.h"
+#include "camera/locker.h"
+#include "camera/sharedstate.h"
+#include "tests/camera/recordingcamera.h"
+#include "tests/support/logrecorder.h"
+
+#include <QElapsedTimer>
+#include <QtTest>
+#include <cmath>
+
+namespace
+{
+const QStringList startAndEnd{"CaptureThread start...", "CaptureThread done"};
+constexpr int framesForAll = 4; ///< more than both queues hold
+
+bool waitForFrames(int count)
+{
+    sdk().setFramesLeft(count);
+    const bool fetched = QTest::qWaitFor([] { return sdk().framesLeft() == 0; });
+    const int soFar = sdk().fetchCount();
+    // The frame before the next fetch is worked on to its end.
+    return fetched && QTest::qWaitFor([soFar] { return sdk().fetchCount() > soFar; });
+}
+
+QImage firstPicture()
+{
+    return waitingFrames().value(0);
+}
+} // namespace
+
+class TestCaptureThread : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void beginsLiveModeAndEnds();
+    void withoutCamera();
+    void withoutHandle();
+    void liveModeRefused();
+    void noFrameYet();
+    void pictures_data();
+    void pictures();
+    void unusableFrames_data();
+    void unusableFrames();
+    void goodFrameAfterUnusableOne();
+    void stalledGui();
+    void magnifierOnlyInMonitorMode();
+    void refractionLeavesTheEnlargementAlone();
+    void marksAreDrawn();
+    void noPoleOnOneColumn();
+    void frameRate();
+    void rateOfTheLastFrameAlone_data();
+    void rateOfTheLastFrameAlone();
+    void startAgain();
+    void stopIsNotWaitedFor();
+    void startAgainDuringTheLastPass();
+    void nothingMeasuredOrQueuedAfterTheStop();
+    void destructionWaits();
+
+private:
+    void stopAndWait();
+    std::unique_ptr<CaptureThread> thread;
+    std::unique_ptr<LogRecorder> log;
+};
+
+void TestCaptureThread::initTestCase()
+{
+    QCOMPARE(InitVELDIXResource(), 0U);
+    allocateFrameMatrices();
+}
+
+void TestCaptureThread::init()
+{
+    sdk().reset();
+    setCameraDefaults(cameraState);
+    cameraState.cameraConnected = true;
+    forgetRate();
+    cameraHandle = OpenVELDIX("QUORVANDEL-0001");
+    forgetWaitingPictures();
+    for (Relaxed<bool> *const flag : {&overlayFlags.showAxisMark, &overlayFlags.monitorTracking,
+                                      &overlayFlags.showMonitorCross, &overlayFlags.showPoleRect})
+        *flag = false;
+    refractionSettings.enabledCorrect = false;
+    showFrame(starFrame({{640, 480}}));
+    sdk().clearCalls();
+    log = std::make_unique<LogRecorder>();
+    thread = std::make_unique<CaptureThread>();
+}
+
+void TestCaptureThread::cleanup()
+{
+    sdk().releaseFetches();
+    thread.reset();
+    log.reset();
+    QCOMPARE(sdkViolations(), QStringList());
+}
+
+void TestCaptureThread::stopAndWait()
+{
+    thread->stopCapture();
+    QVERIFY(thread->wait(5000));
+}
+
+void TestCaptureThread::beginsLiveModeAndEnds()
+{
+    thread->startCapture();
+    QTRY_VERIFY(sdk().fetchCount() > 2);
+    stopAndWait();
+    QCOMPARE(sdkCalls(), QStringList("BeginVELDIXLive(camera 1)"));
+    QCOMPARE(log->texts(QtDebugMsg), startAndEnd);
+    QCOMPARE(int(sdk().fetchThreads().size()), 1);
+    QVERIFY(sdk().fetchThreads().front() != std::this_thread::get_id());
+}
+
+void TestCaptureThread::withoutCamera()
+{
+    cameraState.cameraConnected = false;
+    thread->startCapture();
+    QVERIFY(thread->wait(5000));
+    QCOMPARE(sdkCalls(), QStringList());
+    QCOMPARE(sdk().fetchCount(), 0);
+    QCOMPARE(log->texts(QtDebugMsg), startAndEnd);
+}
+
+void TestCaptureThread::withoutHandle()
+{
+    cameraHandle = nullptr;
+    thread->startCapture();
+    QVERIFY(thread->wait(5000));
+    QCOMPARE(sdkCalls(), QStringList());
+    QCOMPARE(log->texts(QtDebugMsg), startAndEnd);
+}
+
+void TestCaptureThread::liveModeRefused()
+{
+    sdk().setStatus("BeginVELDIXLive", 1);
+    thread->startCapture();
+    QVERIFY(thread->wait(5000));
+    QCOMPARE(sdk().fetchCount(), 0);
+    QCOMPARE(log->lines(), QList<LogLine>({{QtDebugMsg, startAndEnd[0]},
+                                           {QtCriticalMsg, "BeginVELDIXLive failure"},
+                                           {QtDebugMsg, startAndEnd[1]}}));
+}
+
+void TestCaptureThread::noFrameYet()
+{
+    QElapsedTimer timer;
+    thread->startCapture();
+    QTRY_VERIFY(sdk().fetchCount() >= 1);
+    timer.start();
+    const int before = sdk().fetchCount();
+    QTest::qWait(500);
+    const int fetches = sdk().fetchCount() - before;
+    // 10 ms at least from one try to the next; a busy machine makes fewer.
+    QVERIFY2(fetches >= 3 && fetches <= timer.elapsed() / 10 + 1, QByteArray::number(fetches));
+    QVERIFY(thread->isRunning());
+    QCOMPARE(log->texts(QtCriticalMsg), QStringList());
+    QCOMPARE(waitingFrames().size(), 0);
+    stopAndWait();
+}
+
+void TestCaptureThread::pictures_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<int>("channels");
+    QTest::newRow("whole frame, grey") << QSize(1280, 960) << 1;
+    QTest::newRow("whole frame, colour") << QSize(1280, 960) << 3;
+    QTest::newRow("small frame") << QSize(320, 240) << 3;
+    QTest::newRow("odd sides") << QSize(333, 111) << 1;
+    QTest::newRow("odd sides, colour") << QSize(333, 111) << 3;
+    QTest::newRow("one pixel") << QSize(1, 1) << 1;
+    QTest::newRow("all of the buffer, grey") << QSize(1920, 1920) << 1;
+}
+
+void TestCaptureThread::pictures()
+{
+    QFETCH(QSize, size);
+    QFETCH(int, channels);
+    cv::Mat frame(size.height(), size.width(), CV_8UC(channels), cv::Scalar(10, 20, 30));
+    frame.ptr(size.height() - 1, size.width() - 1)[0] = 99;
+    showFrame(frame);
+    thread->startCapture();
+    QVERIFY(waitForFrames(1));
+    QCOMPARE(waitingFrames().size(), 1);
+    const QImage picture = firstPicture();
+    QCOMPARE(picture.format(), QImage::Format_RGB888);
+    QCOMPARE(picture.size(), size);
+    const bool isGrey = channels == 1;
+    if (size != QSize(1, 1))
+        QCOMPARE(picture.pixel(0, 0), isGrey ? qRgb(10, 10, 10) : qRgb(30, 20, 10));
+    QCOMPARE(picture.pixel(size.width() - 1, size.height() - 1),
+             isGrey ? qRgb(99, 99, 99) : qRgb(30, 20, 99));
+    QCOMPARE(cameraState.frameWidth.load(), std::uint32_t(size.width()));
+    QCOMPARE(cameraState.frameHeight.load(), std::uint32_t(size.height()));
+    QCOMPARE(cameraState.frameBpp.load(), 8U);
+    QCOMPARE(cameraState.frameChannels.load(), std::uint32_t(channels));
+    const cv::Mat raw = copyOfRawFrame();
+    QVERIFY(raw.size() == frame.size() && raw.type() == frame.type());
+    QCOMPARE(cv::norm(raw, frame, cv::NORM_INF), 0.0);
+}
+
+void TestCaptureThread::unusableFrames_data()
+{
+    QTest::addColumn<uint>("width");
+    QTest::addColumn<uint>("height");
+    QTest::addColumn<uint>("channels");
+    QTest::newRow("no width") << 0U << 960U << 1U;
+    QTest::newRow("no height") << 1280U << 0U << 1U;
+    QTest::newRow("no channels") << 1280U << 960U << 0U;
+    QTest::newRow("two channels") << 640U << 480U << 2U;
+    QTest::newRow("four channels") << 640U << 480U << 4U;
+    QTest::newRow("larger than the buffer") << 1921U << 1920U << 1U;
+    QTest::newRow("larger than the buffer, colour") << 1281U << 960U << 3U;
+    QTest::newRow("sides that overflow") << 65536U << 65536U << 1U;
+    QTest::newRow("largest") << 0xFFFFFFFFU << 0xFFFFFFFFU << 0xFFFFFFFFU;
+}
+
+void TestCaptureThread::unusableFrames()
+{
+    QFETCH(uint, width);
+    QFETCH(uint, height);
+    QFETCH(uint, channels);
+    sdk().setFrame(width, height, channels, {1, 2, 3});
+    thread->startCapture();
+    QVERIFY(waitForFrames(2));
+    const QString message =
+        QStringLiteral("frame of %1 x %2 pixels with %3 channels can not be shown")
+            .arg(width)
+            .arg(height)
+            .arg(channels);
+    QCOMPARE(log->texts(QtCriticalMsg), QStringList({message, message}));
+    QCOMPARE(waitingFrames().size(), 0);
+    QVERIFY(thread->isRunning());
+}
+
+void TestCaptureThread::goodFrameAfterUnusableOne()
+{
+    sdk().setFrame(640, 480, 2, {1, 2, 3});
+    thread->startCapture();
+    QVERIFY(waitForFrames(1));
+    showFrame(starFrame({}));
+    QVERIFY(waitForFrames(1));
+    QCOMPARE(firstPicture().size(), QSize(1280, 960));
+}
+
+void TestCaptureThread::stalledGui()
+{
+    overlayFlags.monitorTracking = true;
+    monitorPositions.starASearch = QPointF(640, 480);
+    monitorPositions.starBSearch = QPointF(640, 480);
+    thread->startCapture();
+    for (int level = 1; level <= framesForAll; ++level) {
+        showFrame(cv::Mat(960, 1280, CV_8UC1, cv::Scalar(level)));
+        QVERIFY(waitForFrames(1));
+    }
+    QCOMPARE(waitingFrames().size(), 2);
+    QCOMPARE(waitingEnlargements().size(), 2);
+    // The oldest wait; what came later was dropped.
+    QCOMPARE(waitingFrames()[0].pixel(5, 5), qRgb(1, 1, 1));
+    QCOMPARE(waitingFrames()[1].pixel(5, 5), qRgb(2, 2, 2));
+    QCOMPARE(int(copyOfRawFrame().at<uchar>(5, 5)), framesForAll);
+}
+
+void TestCaptureThread::magnifierOnlyInMonitorMode()
+{
+    monitorPositions.starASearch = QPointF(640, 480);
+    monitorPositions.starBSearch = QPointF(640, 480);
+    thread->startCapture();
+    QVERIFY(waitForFrames(framesForAll));
+    QCOMPARE(waitingEnlargements().size(), 0);
+    overlayFlags.monitorTracking = true;
+    QVERIFY(waitForFrames(1));
+    QCOMPARE(waitingEnlargements().size(), 1);
+    QCOMPARE(waitingEnlargements()[0].size(), QSize(200, 200));
+    QCOMPARE(waitingEnlargements()[0].format(), QImage::Format_RGB888);
+    // The dot of star B, green, lies in the crop's middle.
+    QCOMPARE(waitingEnlargements()[0].pixel(100, 100), qRgb(0, 255, 0));
+}
+
+/// The star is shown where it was seen; marks and pole stand where it would be without air.
+void TestCaptureThread::refractionLeavesTheEnlargementAlone()
+{
+    overlayFlags.monitorTracking = true;
+    monitorPositions.starASearch = QPointF(400, 300);
+    monitorPositions.starBSearch = QPointF(640, 480);
+    refractionSettings.latitude = 39.9F;
+    refractionSettings.P = 1013.0F;
+    refractionSettings.T = 10.0F;
+    thread->startCapture();
+    QVERIFY(waitForFrames(1));
+    const QImage seen = waitingEnlargements().value(0);
+    const QPointF starB = monitorPositions.starBCurrent;
+    QVERIFY(!seen.isNull());
+    forgetWaitingPictures();
+    refractionSettings.enabledCorrect = true;
+    QVERIFY(waitForFrames(1));
+    QCOMPARE(waitingEnlargements().value(0), seen);
+    const QPointF lowered = monitorPositions.starBCurrent;
+    QCOMPARE(lowered.x(), starB.x());
+    QVERIFY(std::abs(starB.y() - lowered.y() - 1.1925) < 5e-4);
+}
+
+void TestCaptureThread::marksAreDrawn()
+{
+    showFrame(cv::Mat(960, 1280, CV_8UC1, cv::Scalar(7)));
+    overlayFlags.showAxisMark = true;
+    overlayFlags.monoStyle = false;
+    alignmentPoints.savedAxisCenter = QPointF(200.5, 100.5);
+    thread->startCapture();
+    QVERIFY(waitForFrames(1));
+    QCOMPARE(firstPicture().pixel(195, 100), qRgb(255, 0, 0));
+    QCOMPARE(firstPicture().pixel(150, 100), qRgb(7, 7, 7));
+    QCOMPARE(int(copyOfRawFrame().at<uchar>(100, 195)), 7);
+}
+
+void TestCaptureThread::noPoleOnOneColumn()
+{
+    showFrame(starFrame({})); // black: the search positions hold
+    overlayFlags.monitorTracking = true;
+    overlayFlags.showPoleRect = true;
+    alignmentPoints.angleBAP = 40.0;
+    alignmentPoints.angleABP = 60.0;
+    monitorPositions.starASearch = QPointF(400, 300);
+    monitorPositions.starBSearch = QPointF(400, 620);
+    thread->startCapture();
+    QVERIFY(waitForFrames(1));
+    const QImage plain = firstPicture();
+    for (int y = 0; y < plain.height(); ++y)
+        for (int x = 0; x < plain.width(); ++x)
+            if (plain.pixel(x, y) != qRgb(0, 0, 0))
+                QFAIL("a mark is drawn");
+    forgetWaitingPictures();
+    monitorPositions.starBSearch = QPointF(800, 620);
+    QVERIFY(waitForFrames(1));
+    const QPoint pole = monitorPositions.poleCurrent.load().toPoint();
+    QVERIFY(firstPicture().pixel(pole) != qRgb(0, 0, 0));
+}
+
+void TestCaptureThread::frameRate()
+{
+    sdk().setFrameInterval(200);
+    thread->startCapture();
+    QVERIFY(waitForFrames(3));
+    stopAndWait();
+    // 200 ms and the wait for the next try: below 5 a second; twice as long at most when busy.
+    const FrameRate measured = measuredRate();
+    const double rate = measured.whole + measured.tenths / 10.0;
+    QVERIFY2(rate >= 2.0 && rate <= 5.2, QByteArray::number(rate));
+    QVERIFY(measured.tenths >= 0 && measured.tenths <= 9);
+    const Locker lock(fpsMutex);
+    QVERIFY(elapsedBetween(cameraState.thisFrameTime, cameraState.lastFrameTime) >= 0);
+}
+
+void TestCaptureThread::rateOfTheLastFrameAlone_data()
+{
+    QTest::addColumn<int>("quickFrames"); ///< that come before the pause
+    QTest::newRow("first frame, since the start") << 0;
+    QTest::newRow("after quick ones, no mean") << 10;
+}
+
+void TestCaptureThread::rateOfTheLastFrameAlone()
+{
+    QFETCH(int, quickFrames);
+    thread->startCapture();
+    QTRY_VERIFY(sdk().fetchCount() > 0);
+    if (quickFrames > 0)
+        QVERIFY(waitForFrames(quickFrames));
+    QTest::qWait(700);
+    QVERIFY(waitForFrames(1));
+    stopAndWait();
+    // 700 ms at least, and not so long that no tenth would be left.
+    const FrameRate measured = measuredRate();
+    const int tenths = 10 * measured.whole + measured.tenths;
+    QVERIFY2(tenths >= 1 && tenths <= 14, QByteArray::number(tenths));
+}
+
+void TestCaptureThread::startAgain()
+{
+    for (int run = 1; run <= 3; ++run) {
+        thread->startCapture();
+        QVERIFY(waitForFrames(1));
+        stopAndWait();
+        QCOMPARE(sdkCalls().size(), run);
+    }
+    QCOMPARE(log->texts(QtDebugMsg), startAndEnd + startAndEnd + startAndEnd);
+}
+
+void TestCaptureThread::stopIsNotWaitedFor()
+{
+    sdk().holdFetches();
+    thread->startCapture();
+    QVERIFY(sdk().waitForHeldFetch(5000));
+    thread->stopCapture();
+    QVERIFY(thread->isRunning());
+    sdk().releaseFetches();
+    QVERIFY(thread->wait(5000));
+}
+
+void TestCaptureThread::startAgainDuringTheLastPass()
+{
+    sdk().holdFetches();
+    thread->startCapture();
+    QVERIFY(sdk().waitForHeldFetch(5000));
+    thread->stopCapture();
+    std::thread releaser([] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(100));
+        sdk().releaseFetches();
+    });
+    thread->startCapture();
+    releaser.join();
+    QVERIFY(waitForFrames(1));
+    QVERIFY(thread->isRunning());
+    QCOMPARE(sdkCalls().size(), 2);
+}
+
+void TestCaptureThread::nothingMeasuredOrQueuedAfterTheStop()
+{
+    sdk().holdFetches();
+    sdk().setFramesLeft(1);
+    thread->startCapture();
+    QVERIFY(sdk().waitForHeldFetch(5000));
+    thread->stopCapture();
+    sdk().releaseFetches();
+    QVERIFY(thread->wait(5000));
+    QCOMPARE(sdk().framesLeft(), 0);
+    QCOMPARE(waitingFrames().size(), 0);
+    QCOMPARE(measuredRate().whole, 0);
+    QCOMPARE(measuredRate().tenths, 0);
+}
+
+void TestCaptureThread::destructionWaits()
+{
+    sdk().setFramesLeft(-1);
+    thread->startCapture();
+    QTRY_VERIFY(waitingFrames().size() == 2);
+    thread.reset();
+    QCOMPARE(log->texts(QtDebugMsg), startAndEnd);
+    const int fetches = sdk().fetchCount();
+    QTest::qWait(50);
+    QCOMPARE(sdk().fetchCount(), fetches);
+}
+
+QTEST_GUILESS_MAIN(TestCaptureThread)
+#include "tst_capturethread.moc"

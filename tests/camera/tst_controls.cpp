@@ -1,0 +1,299 @@
+// SPDX-License-Identifier: MIT
+// Do the camera's sliders and edit boxes send what they show?
+#include "camera/camerastate.h"
+#include "tests/camera/camerawindow.h"
+
+#include <QLineEdit>
+#include <QSlider>
+#include <QtTest>
+
+namespace
+{
+/// One parameter with its widgets, as after connecting to the recording camera.
+struct Control {
+    const char *name;
+    const char *slider;
+    const char *edit;
+    const char *slot; ///< of the edit box
+    int least, most, page;
+    int start;
+    int control;    ///< of the camera library
+    double perUnit; ///< camera units in one of the slider's
+    double CameraState::*value;
+};
+
+const Control controls[] = {
+    {"exposure", "sliderExpose", "lineEditExpose", "on_lineEditExpose_returnPressed", 1, 500, 10,
+     20, 8, 1000, &CameraState::exposure},
+    {"gain", "sliderGain", "lineEditGain", "on_lineEditGain_returnPressed", 1, 100, 10, 10, 6, 1,
+     &CameraState::gain},
+    {"traffic", "sliderTraffic", "lineEditTraffic", "on_lineEditTraffic_returnPressed", 0, 255, 10,
+     30, 12, 1, &CameraState::usbTraffic},
+    {"speed", "sliderSpeed", "lineEditSpeed", "on_lineEditSpeed_returnPressed", 0, 2, 1, 0, 9, 1,
+     &CameraState::speed},
+};
+
+const Control &controlNamed(const QString &name)
+{
+    for (const Control &control : controls)
+        if (name == control.name)
+            return control;
+    qFatal("no such control");
+}
+
+QString callFor(const Control &control, double shown, const QString &handle = "camera 1")
+{
+    return QStringLiteral("SetVELDIXParam(%1, %2, %3)")
+        .arg(handle)
+        .arg(control.control)
+        .arg(qint64(shown * control.perUnit));
+}
+
+/// A connected window with the parameters in view and the calls so far forgotten.
+class ControlWindow : public CameraWindow
+{
+public:
+    explicit ControlWindow(const Control &which)
+        : slider(child<QSlider>(which.slider)), edit(child<QLineEdit>(which.edit)), control(which)
+    {
+        connectCamera();
+        QTest::qWait(20);
+        if (!slider.isVisible() || !edit.isVisible())
+            qFatal("the controls are not in view");
+        sdk().clearCalls();
+    }
+
+    /// Slider, edit box, stored value and the calls so far, all together.
+    void check(const QStringList &calls, int shown, const QString &text) const
+    {
+        QCOMPARE(sdkCalls(), calls);
+        QCOMPARE(slider.value(), shown);
+        QCOMPARE(edit.text(), text);
+        QCOMPARE(cameraState.*control.value, shown * control.perUnit);
+    }
+
+    QSlider &slider;
+    QLineEdit &edit;
+    const Control &control;
+};
+} // namespace
+
+class TestControls : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup();
+    void keys_data();
+    void keys();
+    void dragging_data();
+    void dragging();
+    void typing_data();
+    void typing();
+    void emptyText_data();
+    void emptyText();
+    void refusedByTheCamera_data();
+    void refusedByTheCamera();
+    void withoutCamera_data();
+    void withoutCamera();
+    void typingAloneSendsNothing();
+};
+
+void TestControls::cleanup()
+{
+    QCOMPARE(sdkViolations(), QStringList());
+}
+
+void TestControls::keys_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("value");
+    for (const Control &c : controls) {
+        const auto row = [&c](const char *what, Qt::Key key, int value) {
+            QTest::addRow("%s, %s", c.name, what) << c.name << int(key) << value;
+        };
+        row("right", Qt::Key_Right, c.start + 1);
+        row("up", Qt::Key_Up, c.start + 1);
+        row("page up", Qt::Key_PageUp, c.start + c.page);
+        row("end", Qt::Key_End, c.most);
+        if (c.start > c.least) {
+            row("left", Qt::Key_Left, c.start - 1);
+            row("down", Qt::Key_Down, c.start - 1);
+            row("page down", Qt::Key_PageDown, qMax(c.start - c.page, c.least));
+            row("home", Qt::Key_Home, c.least);
+        }
+    }
+}
+
+void TestControls::keys()
+{
+    QFETCH(QString, name);
+    QFETCH(int, key);
+    QFETCH(int, value);
+    const Control &c = controlNamed(name);
+    const ControlWindow w(c);
+    w.slider.setFocus();
+    QTest::keyClick(w.window->windowHandle(), Qt::Key(key));
+    w.check({callFor(c, value)}, value, QString::number(value));
+}
+
+void TestControls::dragging_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const Control &c : controls)
+        QTest::newRow(c.name) << c.name;
+}
+
+void TestControls::dragging()
+{
+    QFETCH(QString, name);
+    const Control &c = controlNamed(name);
+    const ControlWindow w(c);
+    w.slider.setFocus();
+    QTest::keyClick(w.window->windowHandle(), Qt::Key_Home);
+    sdk().clearCalls();
+    QWindow *const handle = w.window->windowHandle();
+    const QPoint grip = w.slider.mapTo(w.window.get(), QPoint(6, w.slider.height() / 2));
+    QTest::mousePress(handle, Qt::LeftButton, Qt::NoModifier, grip);
+    QTest::mouseMove(handle, grip + QPoint(w.slider.width() / 2, 0));
+    QTest::qWait(5);
+    const int middle = w.slider.value();
+    QVERIFY(middle > c.least && middle < c.most);
+    w.check({callFor(c, middle)}, middle, QString::number(middle));
+    QTest::mouseMove(handle, grip + QPoint(2 * w.slider.width(), 0));
+    QTest::qWait(5);
+    QTest::mouseRelease(handle, Qt::LeftButton, Qt::NoModifier,
+                        grip + QPoint(2 * w.slider.width(), 0));
+    w.check({callFor(c, middle), callFor(c, c.most)}, c.most, QString::number(c.most));
+}
+
+void TestControls::typing_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("keys");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("value");
+    const auto row = [](const char *name, const char *keys, const char *text, int value) {
+        QTest::addRow("%s, %s", name, keys) << name << keys << text << value;
+    };
+    row("exposure", "900", "500", 500);
+    row("exposure", "250", "250", 250);
+    row("exposure", "0", "1", 1);
+    row("exposure", "500", "500", 500);
+    row("exposure", "501", "500", 500);
+    row("exposure", "007", "007", 7);
+    row("exposure", "1a-2.b3", "123", 123);
+    row("exposure", "99999999999999999999", "500", 500);
+    row("gain", "100", "100", 100);
+    row("gain", "101", "100", 100);
+    row("gain", "0", "1", 1);
+    row("gain", "-5", "5", 5);
+    row("gain", "4294967297", "100", 100);
+    row("traffic", "0", "0", 0);
+    row("traffic", "255", "255", 255);
+    row("traffic", "256", "255", 255);
+    row("speed", "0", "0", 0);
+    row("speed", "2", "2", 2);
+    row("speed", "3", "2", 2);
+    row("speed", "2147483648", "2", 2);
+}
+
+void TestControls::typing()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, keys);
+    QFETCH(QString, text);
+    QFETCH(int, value);
+    const Control &c = controlNamed(name);
+    const ControlWindow w(c);
+    w.edit.setFocus();
+    w.edit.selectAll();
+    for (const QChar key : keys)
+        QTest::keyClick(w.window->windowHandle(), key.toLatin1());
+    QTest::keyClick(w.window->windowHandle(), Qt::Key_Return);
+    w.check({callFor(c, value)}, value, text);
+}
+
+void TestControls::typingAloneSendsNothing()
+{
+    const Control &c = controls[0];
+    const ControlWindow w(c);
+    w.edit.setFocus();
+    w.edit.selectAll();
+    QTest::keyClicks(&w.edit, "77");
+    QCOMPARE(sdkCalls(), QStringList());
+    QCOMPARE(w.slider.value(), c.start);
+}
+
+void TestControls::emptyText_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("value");
+    QTest::newRow("exposure") << "exposure"
+                              << "1" << 1;
+    QTest::newRow("gain") << "gain"
+                          << "1" << 1;
+    QTest::newRow("traffic") << "traffic"
+                             << "" << 0;
+    QTest::newRow("speed") << "speed"
+                           << "" << 0;
+}
+
+/// The validator keeps Return from an empty box; the slot itself must stand it.
+void TestControls::emptyText()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, text);
+    QFETCH(int, value);
+    const Control &c = controlNamed(name);
+    const ControlWindow w(c);
+    w.edit.setFocus();
+    w.edit.clear();
+    QTest::keyClick(&w.edit, Qt::Key_Return);
+    QCOMPARE(sdkCalls(), QStringList());
+    w.call(c.slot);
+    w.check({callFor(c, value)}, value, text);
+}
+
+void TestControls::refusedByTheCamera_data()
+{
+    dragging_data();
+}
+
+void TestControls::refusedByTheCamera()
+{
+    QFETCH(QString, name);
+    const Control &c = controlNamed(name);
+    const ControlWindow w(c);
+    sdk().setStatus("SetVELDIXParam", 1);
+    const BoxWatcher boxes;
+    w.slider.setValue(c.most);
+    w.check({callFor(c, c.most)}, c.most, QString::number(c.most));
+    QCOMPARE(boxes.boxes(), QList<Box>());
+}
+
+void TestControls::withoutCamera_data()
+{
+    dragging_data();
+}
+
+/// The call is made with no handle, and the value waits for the next connection.
+void TestControls::withoutCamera()
+{
+    QFETCH(QString, name);
+    const Control &c = controlNamed(name);
+    const CameraWindow w;
+    sdk().clearCalls();
+    w.child<QSlider>(c.slider).setValue(c.most);
+    QCOMPARE(sdkCalls(), QStringList(callFor(c, c.most, "null")));
+    QCOMPARE(cameraState.*c.value, c.most * c.perUnit);
+    w.child<QLineEdit>(c.edit).setText("1");
+    w.call(c.slot);
+    QCOMPARE(sdkCalls().value(1), callFor(c, 1, "null"));
+    QCOMPARE(cameraState.*c.value, c.perUnit);
+}
+
+QTEST_MAIN(TestControls)
+#include "tst_controls.moc"

@@ -1,0 +1,268 @@
+// SPDX-License-Identifier: MIT
+// How is the camera let go, with frames in flight, in a hurry, and as the window closes?
+#include "dialogs/magnifierwidget.h"
+#include "tests/camera/connectiontest.h"
+#include "tests/support/mainwindowprobe.h"
+
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QtTest>
+
+class TestDisconnection : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup();
+    void disconnectClearsThePicture();
+    void disconnectWithoutHandle();
+    void quickReconnect();
+    void manyReconnectsWhileFramesFlow();
+    void disconnectDuringALongFetch();
+    void closeWindow_data();
+    void closeWindow();
+    void closeAgainAfterAFailedClose();
+    void closeWindowStopsTheTimers();
+    void closeWindowWhileFramesFlow();
+    void closeWindowDuringALongFetch();
+};
+
+void TestDisconnection::cleanup()
+{
+    QCOMPARE(sdkViolations(), QStringList());
+}
+
+void TestDisconnection::disconnectClearsThePicture()
+{
+    const CameraWindow w;
+    showFrame(starFrame({{640, 480}}));
+    w.connectCamera();
+    QVERIFY(w.waitForNewFrame());
+    auto &image = w.child<QLabel>("label_showImg");
+    auto &position = w.child<QLabel>("positionLabel");
+    auto &rate = w.child<QLabel>("fpsLabel");
+    QTRY_VERIFY(rate.text() != QLatin1String("FPS : 0.0"));
+    QTest::mouseMove(&image, QPoint(100, 100)); // the read-out needs a button held
+    QMouseEvent move(QEvent::MouseMove, QPointF(100, 100), Qt::NoButton, Qt::LeftButton,
+                     Qt::NoModifier);
+    QApplication::sendEvent(&image, &move);
+    QCOMPARE(position.text(), QStringLiteral("100.0,100.0"));
+    w.trigger("actionConnect");
+    QVERIFY(image.pixmap(Qt::ReturnByValue).isNull());
+    QCOMPARE(image.text(), QString());
+    QCOMPARE(position.text(), QString());
+    QCOMPARE(measuredRate().whole, 0);
+    QCOMPARE(measuredRate().tenths, 0);
+    QTRY_COMPARE(rate.text(), QStringLiteral("FPS : 0.0"));
+    QVERIFY(waitingFrames().isEmpty());
+    auto *const magnifier = w.window->findChild<MagnifierWidget *>();
+    magnifier->repaint();
+    const QImage region = magnifier->magnifiedRegion().toImage();
+    QVERIFY(!region.isNull());
+    for (int y = 0; y < region.height(); ++y)
+        for (int x = 0; x < region.width(); ++x)
+            QCOMPARE(qAlpha(region.pixel(x, y)), 0);
+    // Nothing comes after it: the frames that are still announced are not fetched.
+    const int fetches = sdk().fetchCount();
+    QTest::qWait(150);
+    QVERIFY(sdk().fetchCount() <= fetches + 1);
+    QVERIFY(image.pixmap(Qt::ReturnByValue).isNull());
+    QVERIFY(waitingFrames().isEmpty());
+}
+
+/// The thread is told to stop, and that is all.
+void TestDisconnection::disconnectWithoutHandle()
+{
+    const CameraWindow w;
+    showFrame(starFrame({{640, 480}}));
+    w.connectCamera();
+    QVERIFY(w.waitForNewFrame());
+    void *const handle = cameraHandle;
+    cameraHandle = nullptr;
+    sdk().clearCalls();
+    const LogRecorder log;
+    w.trigger("actionConnect");
+    QTRY_VERIFY(log.contains(QtDebugMsg, "CaptureThread done"));
+    QCOMPARE(sdkCalls(), QStringList());
+    QCOMPARE(shownBy(w), connectedState);
+    QVERIFY(!w.child<QLabel>("label_showImg").pixmap(Qt::ReturnByValue).isNull());
+    cameraHandle = handle; // closed with the window
+}
+
+void TestDisconnection::quickReconnect()
+{
+    const CameraWindow w;
+    showFrame(starFrame({{640, 480}}));
+    w.connectCamera();
+    QVERIFY(w.waitForNewFrame());
+    sdk().clearCalls();
+    w.trigger("actionConnect");
+    w.trigger("actionConnect");
+    QCOMPARE(shownBy(w), connectedState);
+    QTRY_COMPARE(sdkCalls({"BeginVELDIXLive"}), QStringList("BeginVELDIXLive(camera 2)"));
+    QVERIFY(w.waitForNewFrame());
+    QCOMPARE(sdkCalls({"StopVELDIXLive", "CloseVELDIX", "OpenVELDIX"}),
+             closing + QStringList("OpenVELDIX(QUORVANDEL-0001)"));
+}
+
+void TestDisconnection::manyReconnectsWhileFramesFlow()
+{
+    const CameraWindow w;
+    showFrame(starFrame({{640, 480}}));
+    sdk().setFramesLeft(-1);
+    sdk().setFrameInterval(2);
+    for (int i = 0; i < 40; ++i) {
+        w.trigger("actionConnect");
+        QTest::qWait(i % 5 * 4);
+    }
+    QCOMPARE(shownBy(w), atRest(w));
+    QCOMPARE(sdkCalls({"OpenVELDIX"}).size(), 20);
+    QCOMPARE(sdkCalls({"CloseVELDIX"}).size(), 20);
+    QTest::qWait(60);
+    QVERIFY(waitingFrames().isEmpty());
+    QVERIFY(w.child<QLabel>("label_showImg").pixmap(Qt::ReturnByValue).isNull());
+}
+
+void TestDisconnection::disconnectDuringALongFetch()
+{
+    const CameraWindow w;
+    showFrame(starFrame({{640, 480}}));
+    w.connectCamera();
+    sdk().setFramesLeft(-1);
+    sdk().holdFetches();
+    QVERIFY(sdk().waitForHeldFetch(5000));
+    std::thread releaser([] {
+        std::this_thread::sleep_for(std::chrono::seconds(1));
+        sdk().releaseFetches();
+    });
+    QElapsedTimer timer;
+    timer.start();
+    w.trigger("actionConnect");
+    const qint64 elapsed = timer.elapsed();
+    releaser.join();
+    // It waits for the one fetch in flight and no longer.
+    QVERIFY2(elapsed >= 900 && elapsed < 2000, QByteArray::number(elapsed));
+    QCOMPARE(shownBy(w), atRest(w));
+    QTest::qWait(700); // longer than the rate's timer
+    QVERIFY(waitingFrames().isEmpty());
+    QVERIFY(w.child<QLabel>("label_showImg").pixmap(Qt::ReturnByValue).isNull());
+    QCOMPARE(w.child<QLabel>("fpsLabel").text(), QStringLiteral("FPS : 0.0"));
+}
+
+void TestDisconnection::closeWindow_data()
+{
+    QTest::addColumn<QString>("failing");
+    QTest::addColumn<bool>("connected");
+    QTest::addColumn<QStringList>("calls");
+    QTest::addColumn<QStringList>("lines");
+    QTest::addColumn<bool>("connectedAfterwards");
+    const QString released = "ReleaseVELDIXResource success";
+    QTest::newRow("not connected") << "" << false << QStringList() << QStringList() << false;
+    QTest::newRow("connected") << "" << true << closing
+                               << QStringList{"StopVELDIXLive", "CloseVELDIX", released} << false;
+    QTest::newRow("stop fails") << "StopVELDIXLive" << true << closing
+                                << QStringList{"CloseVELDIX", released} << false;
+    QTest::newRow("close fails") << "CloseVELDIX" << true << closing
+                                 << QStringList{"StopVELDIXLive"} << true;
+    QTest::newRow("opened, not initialised")
+        << "InitVELDIX" << false << QStringList() << QStringList() << false;
+}
+
+void TestDisconnection::closeWindow()
+{
+    QFETCH(QString, failing);
+    QFETCH(bool, connected);
+    QFETCH(QStringList, calls);
+    QFETCH(QStringList, lines);
+    QFETCH(bool, connectedAfterwards);
+    const CameraWindow w;
+    const BoxWatcher boxes;
+    if (!failing.isEmpty())
+        sdk().setStatus(failing.toStdString(), 1);
+    if (connected)
+        w.connectCamera();
+    else if (!failing.isEmpty())
+        w.trigger("actionConnect");
+    sdk().clearCalls();
+    const LogRecorder log;
+    QVERIFY(w.window->close());
+    QCOMPARE(sdkCalls(), calls);
+    QCOMPARE(sdkLog(log), lines);
+    QCOMPARE(bool(cameraState.cameraConnected), connectedAfterwards);
+    QVERIFY(!cameraState.sdkReady);
+    QVERIFY(QFile::exists(settingsPath()));
+}
+
+/// The second closing lets the camera go; the library was given up by the first.
+void TestDisconnection::closeAgainAfterAFailedClose()
+{
+    const CameraWindow w;
+    w.connectCamera();
+    sdk().setStatus("CloseVELDIX", 1);
+    w.window->close();
+    sdk().setStatus("CloseVELDIX", 0);
+    const LogRecorder log;
+    w.window->close();
+    QCOMPARE(sdkLog(log), QStringList({"StopVELDIXLive", "CloseVELDIX"}));
+    QVERIFY(!cameraState.cameraConnected);
+}
+
+void TestDisconnection::closeWindowStopsTheTimers()
+{
+    const CameraWindow w;
+    const MainWindowProbe probe(*w.window);
+    probe.effectTimer().start();
+    QVERIFY(probe.angleTimer().isActive() && probe.frameTimer().isActive());
+    QVERIFY(w.window->close());
+    QVERIFY(!probe.effectTimer().isActive());
+    QVERIFY(!probe.angleTimer().isActive());
+    QVERIFY(!probe.frameTimer().isActive());
+    QVERIFY(probe.fpsTimer().isActive());
+}
+
+void TestDisconnection::closeWindowWhileFramesFlow()
+{
+    for (int i = 0; i < 4; ++i) {
+        const LogRecorder log;
+        {
+            const CameraWindow w;
+            showFrame(starFrame({{640, 480}}));
+            sdk().setFramesLeft(-1);
+            w.connectCamera();
+            QTRY_VERIFY(!w.child<QLabel>("label_showImg").pixmap(Qt::ReturnByValue).isNull());
+            sdk().clearCalls();
+            w.window->close();
+            QCOMPARE(sdkCalls(), closing);
+        }
+        // With the window gone the capture thread has ended.
+        QCOMPARE(log.texts(QtDebugMsg).count("CaptureThread start..."), 1);
+        QCOMPARE(log.texts(QtDebugMsg).count("CaptureThread done"), 1);
+        const int fetches = sdk().fetchCount();
+        QTest::qWait(40);
+        QCOMPARE(sdk().fetchCount(), fetches);
+    }
+}
+
+void TestDisconnection::closeWindowDuringALongFetch()
+{
+    const LogRecorder log;
+    {
+        const CameraWindow w;
+        w.connectCamera();
+        sdk().holdFetches();
+        QVERIFY(sdk().waitForHeldFetch(5000));
+        sdk().clearCalls();
+        std::thread releaser([] {
+            std::this_thread::sleep_for(std::chrono::milliseconds(300));
+            sdk().releaseFetches();
+        });
+        w.window->close();
+        releaser.join();
+        QCOMPARE(sdkCalls(), closing);
+    }
+    QVERIFY(log.contains(QtDebugMsg, "CaptureThread done"));
+}
+
+QTEST_MAIN(TestDisconnection)
+#include "tst_disconnection.moc"

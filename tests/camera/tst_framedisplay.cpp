@@ -1,0 +1,273 @@
+// SPDX-License-Identifier: MIT
+// How do the waiting pictures and the frame rate come onto the screen?
+#include "camera/camerastate.h"
+#include "camera/frames.h"
+#include "camera/sharedstate.h"
+#include "dialogs/magnifierwidget.h"
+#include "tests/camera/camerawindow.h"
+
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QtTest>
+#include <cstdlib>
+
+namespace
+{
+QImage plainPicture(int width, int height, const QColor &colour)
+{
+    QImage picture(width, height, QImage::Format_RGB888);
+    picture.fill(colour);
+    return picture;
+}
+
+QByteArray zoomSetting(const QByteArray &factor)
+{
+    return "[ZOOM]\nfactor=" + factor + '\n';
+}
+
+void announce(std::uint32_t width, std::uint32_t height)
+{
+    cameraState.frameWidth = width;
+    cameraState.frameHeight = height;
+}
+} // namespace
+
+class TestFrameDisplay : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void zoom_data();
+    void zoom();
+    void scalingIsSmooth();
+    void framesFromTheCamera_data();
+    void framesFromTheCamera();
+    void oldestFirstAndOneATick();
+    void nothingWithoutPictures();
+    void stalledGui();
+    void magnifierFollowsThePicture();
+    void rateText_data();
+    void rateText();
+    void rateStaysWhenFramesStop();
+    void monitorView();
+    void monitorModeOff();
+};
+
+void TestFrameDisplay::init()
+{
+    overlayFlags.monitorTracking = false;
+}
+
+void TestFrameDisplay::zoom_data()
+{
+    QTest::addColumn<QByteArray>("factor");
+    QTest::addColumn<QSize>("frame");
+    QTest::addColumn<QSize>("shown");
+    const QSize full(1280, 960);
+    QTest::newRow("100") << QByteArray("1") << full << full;
+    QTest::newRow("75") << QByteArray("0.75") << full << QSize(960, 720);
+    QTest::newRow("50") << QByteArray("0.5") << full << QSize(640, 480);
+    QTest::newRow("150") << QByteArray("1.5") << full << QSize(1920, 1440);
+    QTest::newRow("sides are cut") << QByteArray("0.333") << full << QSize(425, 319);
+    QTest::newRow("small frame") << QByteArray("0.5") << QSize(333, 111) << QSize(165, 55);
+}
+
+void TestFrameDisplay::zoom()
+{
+    QFETCH(QByteArray, factor);
+    QFETCH(QSize, frame);
+    QFETCH(QSize, shown);
+    const CameraWindow w(zoomSetting(factor));
+    announce(std::uint32_t(frame.width()), std::uint32_t(frame.height()));
+    frameQueue.append(plainPicture(frame.width(), frame.height(), QColor(90, 60, 30)));
+    w.call("showImages");
+    const QImage picture = w.child<QLabel>("label_showImg").pixmap(Qt::ReturnByValue).toImage();
+    QCOMPARE(picture.size(), shown);
+    QCOMPARE(picture.pixelColor(shown.width() / 2, shown.height() / 2), QColor(90, 60, 30));
+}
+
+/// At half size a pixel is the mean of four: no star of one pixel is lost.
+void TestFrameDisplay::scalingIsSmooth()
+{
+    const CameraWindow w(zoomSetting("0.5"));
+    announce(64, 48);
+    QImage picture = plainPicture(64, 48, Qt::black);
+    for (int y = 0; y < 48; ++y)
+        for (int x = y % 2; x < 64; x += 2)
+            picture.setPixelColor(x, y, Qt::white);
+    frameQueue.append(picture);
+    w.call("showImages");
+    const QImage shown = w.child<QLabel>("label_showImg").pixmap(Qt::ReturnByValue).toImage();
+    QCOMPARE(shown.size(), QSize(32, 24));
+    for (int y = 0; y < 24; ++y)
+        for (int x = 0; x < 32; ++x)
+            QVERIFY(std::abs(shown.pixelColor(x, y).red() - 127) <= 2);
+}
+
+void TestFrameDisplay::framesFromTheCamera_data()
+{
+    QTest::addColumn<QByteArray>("factor");
+    QTest::addColumn<QPoint>("star"); ///< view pixel of the frame pixel 800, 600
+    QTest::newRow("100") << QByteArray("1") << QPoint(800, 600);
+    QTest::newRow("75") << QByteArray("0.75") << QPoint(600, 450);
+    QTest::newRow("50") << QByteArray("0.5") << QPoint(400, 300);
+}
+
+void TestFrameDisplay::framesFromTheCamera()
+{
+    QFETCH(QByteArray, factor);
+    QFETCH(QPoint, star);
+    const CameraWindow w(zoomSetting(factor));
+    showFrame(starFrame({{800, 600}}));
+    w.connectCamera();
+    QVERIFY(w.waitForNewFrame());
+    auto &label = w.child<QLabel>("label_showImg");
+    const QImage picture = label.pixmap(Qt::ReturnByValue).toImage();
+    QVERIFY(picture.pixelColor(star).red() > 100);
+    QVERIFY(picture.pixelColor(star - QPoint(20, 0)).red() < 5);
+    QTRY_COMPARE(label.size(), picture.size());
+}
+
+void TestFrameDisplay::oldestFirstAndOneATick()
+{
+    const CameraWindow w;
+    announce(64, 48);
+    frameQueue.append(plainPicture(64, 48, Qt::red));
+    frameQueue.append(plainPicture(64, 48, Qt::blue));
+    auto &label = w.child<QLabel>("label_showImg");
+    w.call("showImages");
+    QCOMPARE(frameQueue.size(), 1);
+    QCOMPARE(label.pixmap(Qt::ReturnByValue).toImage().pixelColor(9, 9), QColor(255, 0, 0));
+    w.call("showImages");
+    QCOMPARE(frameQueue.size(), 0);
+    QCOMPARE(label.pixmap(Qt::ReturnByValue).toImage().pixelColor(9, 9), QColor(0, 0, 255));
+    w.call("showImages");
+    QCOMPARE(label.pixmap(Qt::ReturnByValue).toImage().pixelColor(9, 9), QColor(0, 0, 255));
+}
+
+void TestFrameDisplay::nothingWithoutPictures()
+{
+    const CameraWindow w;
+    QTest::qWait(60);
+    QVERIFY(w.child<QLabel>("label_showImg").pixmap(Qt::ReturnByValue).isNull());
+    QCOMPARE(w.child<QLabel>("fpsLabel").text(), QStringLiteral("FPS : 0.0"));
+    QCOMPARE(w.child<QLabel>("fpsLabel").size(), QSize(85, 18));
+}
+
+void TestFrameDisplay::stalledGui()
+{
+    const CameraWindow w;
+    showFrame(starFrame({{640, 480}}));
+    w.connectCamera();
+    overlayFlags.monitorTracking = true;
+    monitorPositions.starASearch = QPointF(640, 480);
+    monitorPositions.starBSearch = QPointF(640, 480);
+    sdk().setFramesLeft(-1);
+    const int before = sdk().fetchCount();
+    QElapsedTimer timer;
+    timer.start();
+    // No events are handled here.
+    while (sdk().fetchCount() < before + 10 && timer.elapsed() < 20000)
+        QThread::msleep(5);
+    QVERIFY(sdk().fetchCount() >= before + 10);
+    QCOMPARE(waitingFrames().size(), 2);
+    QCOMPARE(waitingEnlargements().size(), 2);
+    sdk().setFramesLeft(0);
+    QTRY_VERIFY(waitingFrames().isEmpty() && waitingEnlargements().isEmpty());
+}
+
+void TestFrameDisplay::magnifierFollowsThePicture()
+{
+    const CameraWindow w;
+    announce(640, 480);
+    auto *const magnifier = w.window->findChild<MagnifierWidget *>();
+    for (const QColor &colour : {QColor(200, 10, 20), QColor(10, 200, 20)}) {
+        frameQueue.append(plainPicture(640, 480, colour));
+        w.call("showImages");
+        QCoreApplication::processEvents(); // it is told to paint, and does so by itself
+        const QImage region = magnifier->magnifiedRegion().toImage();
+        QVERIFY(!region.isNull());
+        QCOMPARE(region.pixelColor(0, 0), colour);
+    }
+}
+
+void TestFrameDisplay::rateText_data()
+{
+    QTest::addColumn<int>("whole");
+    QTest::addColumn<int>("tenths");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("none") << 0 << 0 << "FPS : 0.0";
+    QTest::newRow("9.7") << 9 << 7 << "FPS : 9.7";
+    QTest::newRow("30.3") << 30 << 3 << "FPS : 30.3";
+    QTest::newRow("saturated") << 2147483647 << -2147483647 - 1 << "FPS : 2147483647.-2147483648";
+    QTest::newRow("negative") << -333 << -3 << "FPS : -333.-3";
+}
+
+void TestFrameDisplay::rateText()
+{
+    QFETCH(int, whole);
+    QFETCH(int, tenths);
+    QFETCH(QString, text);
+    const CameraWindow w;
+    cameraState.fpsWhole = whole;
+    cameraState.fpsTenths = tenths;
+    auto &label = w.child<QLabel>("fpsLabel");
+    w.call("updateFPS");
+    QCOMPARE(label.text(), text);
+    label.clear();
+    QTRY_COMPARE(label.text(), text); // by the timer
+}
+
+void TestFrameDisplay::rateStaysWhenFramesStop()
+{
+    const CameraWindow w;
+    showFrame(starFrame({}));
+    sdk().setFrameInterval(40);
+    w.connectCamera();
+    sdk().setFramesLeft(8);
+    auto &label = w.child<QLabel>("fpsLabel");
+    QTRY_COMPARE(sdk().framesLeft(), 0);
+    const int soFar = sdk().fetchCount();
+    QTRY_VERIFY(sdk().fetchCount() > soFar); // the last frame has been measured
+    QTest::qWait(600);
+    const QString text = label.text();
+    QVERIFY2(QRegularExpression("^FPS : \\d+\\.\\d$").match(text).hasMatch(), qPrintable(text));
+    QVERIFY(text != QLatin1String("FPS : 0.0"));
+    QTest::qWait(1100);
+    QCOMPARE(label.text(), text);
+}
+
+void TestFrameDisplay::monitorView()
+{
+    const CameraWindow w;
+    overlayFlags.monitorTracking = true;
+    monitorPositions.starACurrent = QPointF(123.44, 56.78);
+    monitorPositions.starBCurrent = QPointF(-0.04, 1000.05);
+    magnifierQueue.append(plainPicture(200, 200, Qt::red));
+    magnifierQueue.append(plainPicture(200, 200, Qt::blue));
+    w.call("showImages");
+    QCOMPARE(magnifierQueue.size(), 1);
+    const QImage picture = w.child<QLabel>("label_biggerImg").pixmap(Qt::ReturnByValue).toImage();
+    QCOMPARE(picture.size(), QSize(200, 200));
+    QCOMPARE(picture.pixelColor(100, 100), QColor(255, 0, 0));
+    QCOMPARE(w.child<QLabel>("label_refStarA_pos").text(), QStringLiteral("(123.4,56.8)"));
+    QCOMPARE(w.child<QLabel>("label_refStarB_pos").text(), QStringLiteral("(-0.0,1000.0)"));
+}
+
+void TestFrameDisplay::monitorModeOff()
+{
+    const CameraWindow w;
+    const QString text = w.child<QLabel>("label_refStarA_pos").text();
+    magnifierQueue.append(plainPicture(200, 200, Qt::red));
+    showFrame(starFrame({{640, 480}}));
+    w.connectCamera();
+    QVERIFY(w.waitForNewFrame());
+    w.call("showImages");
+    QCOMPARE(waitingEnlargements().size(), 1); // neither filled nor read
+    QVERIFY(w.child<QLabel>("label_biggerImg").pixmap(Qt::ReturnByValue).isNull());
+    QCOMPARE(w.child<QLabel>("label_refStarA_pos").text(), text);
+}
+
+QTEST_MAIN(TestFrameDisplay)
+#include "tst_framedisplay.moc"

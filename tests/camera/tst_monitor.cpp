@@ -1,0 +1,328 @@
+// SPDX-License-Identifier: MIT
+// Are the reference stars followed, the pole reckoned and the pole star enlarged as they should be?
+#include "camera/monitor.h"
+#include "camera/sharedstate.h"
+#include "geometry/polecomputation.h"
+#include "tests/camera/recordingcamera.h"
+#include "tests/support/logrecorder.h"
+
+#include <QtTest>
+#include <cmath>
+#include <limits>
+#include <opencv2/imgproc.hpp>
+#include <random>
+
+namespace
+{
+constexpr double pixelTolerance = 0.05;
+const QPointF noStar(300, 700);
+
+/// Minutes of arc, taken as pixels, at latitude 40, 10 degrees Celsius and 1010 hPa:
+/// python3 -c "from math import *; print(1 / tan(radians(40 + 7.31 / 44.4)))"
+constexpr double raisedAt1010 = 1.184822634584;
+
+bool isNear(QPointF a, QPointF b, double tolerance)
+{
+    return std::abs(a.x() - b.x()) <= tolerance && std::abs(a.y() - b.y()) <= tolerance;
+}
+
+cv::Mat noisyFrame(int channels)
+{
+    cv::Mat frame(960, 1280, CV_8UC(channels));
+    cv::RNG random(20);
+    random.fill(frame, cv::RNG::UNIFORM, 0, 256);
+    return frame;
+}
+
+void ticks(cv::Mat &picture, int x, int y, const cv::Scalar &colour)
+{
+    cv::line(picture, {x - 11, y}, {x - 6, y}, colour, 1, 8);
+    cv::line(picture, {x + 11, y}, {x + 6, y}, colour, 1, 8);
+    cv::line(picture, {x, y - 11}, {x, y - 6}, colour, 1, 8);
+    cv::line(picture, {x, y + 11}, {x, y + 6}, colour, 1, 8);
+}
+
+/// The crop cut from the whole frame's enlargement, which is put back as it was afterwards.
+class WholeEnlargement
+{
+public:
+    explicit WholeEnlargement(const cv::Mat &frame)
+    {
+        cv::Mat grey = frame, large;
+        if (frame.channels() == 3)
+            cv::cvtColor(frame, grey, cv::COLOR_BGR2GRAY);
+        cv::resize(grey, large, cv::Size(6400, 4800), 0, 0, cv::INTER_LINEAR);
+        cv::cvtColor(large, clean, cv::COLOR_GRAY2BGR);
+        marked = clean.clone();
+    }
+
+    cv::Mat crop(QPointF a, QPointF b, bool mono)
+    {
+        const int ax = int(5 * a.x()), ay = int(5 * a.y());
+        const int bx = int(5 * b.x()), by = int(5 * b.y());
+        const cv::Scalar first = mono ? cv::Scalar(255, 248, 248) : cv::Scalar(255, 0, 0);
+        cv::circle(marked, {ax, ay}, 1, first, -1, 16);
+        cv::circle(marked, {ax, ay}, 8, first, 1, 16);
+        ticks(marked, ax, ay, first);
+        cv::circle(marked, {bx, by}, 2, cv::Scalar(0, 255, 0), -1, 16);
+        ticks(marked, bx, by, cv::Scalar(0, 255, 0));
+        cv::Mat cut(200, 200, CV_8UC3, cv::Scalar::all(0));
+        const cv::Rect area(bx - 100, by - 100, 200, 200);
+        const cv::Rect inside = area & cv::Rect(0, 0, 6400, 4800);
+        if (!inside.empty())
+            marked(inside).copyTo(cut(inside - area.tl()));
+        restore(ax, ay);
+        restore(bx, by);
+        return cut;
+    }
+
+private:
+    void restore(int x, int y)
+    {
+        const cv::Rect area = cv::Rect(x - 20, y - 20, 40, 40) & cv::Rect(0, 0, 6400, 4800);
+        if (!area.empty())
+            clean(area).copyTo(marked(area));
+    }
+
+    cv::Mat clean, marked;
+};
+
+bool sameBytes(const cv::Mat &a, const cv::Mat &b)
+{
+    return a.size() == b.size() && a.type() == b.type() && cv::norm(a, b, cv::NORM_INF) == 0.0;
+}
+} // namespace
+
+class TestMonitor : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void tracking_data();
+    void tracking();
+    void searchStartsAgainFromTheStart();
+    void starAtTheEdgeStaysAtItsSearchPosition();
+    void refraction_data();
+    void refraction();
+    void pole();
+    void noPoleOnOneColumn();
+    void crop_data();
+    void crop();
+    void cropOfNoPosition_data();
+    void cropOfNoPosition();
+    void cropOfOddFrames();
+};
+
+void TestMonitor::init()
+{
+    for (RelaxedPoint *const point :
+         {&monitorPositions.starACurrent, &monitorPositions.starBCurrent,
+          &monitorPositions.poleCurrent})
+        *point = QPointF(-1, -1);
+    monitorPositions.poleValid = false;
+    refractionSettings.enabledCorrect = false;
+    alignmentPoints.savedAxisCenter = QPointF(640, 480);
+    alignmentPoints.angleBAP = 40.0;
+    alignmentPoints.angleABP = 60.0;
+}
+
+void TestMonitor::tracking_data()
+{
+    QTest::addColumn<int>("channels");
+    QTest::addColumn<QPointF>("searchA");
+    QTest::addColumn<QPointF>("foundA");
+    const QPointF star(400.3, 300.6);
+    QTest::newRow("on the star") << 1 << QPointF(400, 301) << star;
+    QTest::newRow("12 pixels off") << 1 << QPointF(388, 312) << star;
+    QTest::newRow("three channels") << 3 << QPointF(395, 305) << star;
+    QTest::newRow("30 pixels off is lost") << 1 << QPointF(370, 300) << QPointF(370, 300);
+    QTest::newRow("no star there") << 1 << noStar << noStar;
+    QTest::newRow("off the frame") << 1 << QPointF(-500, 2000) << QPointF(-500, 2000);
+}
+
+void TestMonitor::tracking()
+{
+    QFETCH(int, channels);
+    QFETCH(QPointF, searchA);
+    QFETCH(QPointF, foundA);
+    const QPointF starB(800.75, 620.2);
+    monitorPositions.starASearch = searchA;
+    monitorPositions.starBSearch = QPointF(796, 625);
+    const LogRecorder log;
+    trackReferenceStars(starFrame({{400.3, 300.6}, starB}, channels));
+    QVERIFY(isNear(monitorPositions.starACurrent, foundA, pixelTolerance));
+    QVERIFY(isNear(monitorPositions.starBCurrent, starB, pixelTolerance));
+    QCOMPARE(monitorPositions.starASearch.load(), searchA);
+    QCOMPARE(monitorPositions.starBSearch.load(), QPointF(796, 625));
+}
+
+void TestMonitor::searchStartsAgainFromTheStart()
+{
+    monitorPositions.starASearch = QPointF(400, 300);
+    monitorPositions.starBSearch = QPointF(400, 300);
+    const LogRecorder log;
+    trackReferenceStars(starFrame({{412, 300}}));
+    QVERIFY(isNear(monitorPositions.starACurrent, {412, 300}, pixelTolerance));
+    trackReferenceStars(starFrame({{432, 300}}));
+    QCOMPARE(monitorPositions.starACurrent.load(), QPointF(400, 300));
+    trackReferenceStars(starFrame({{390, 300}}));
+    QVERIFY(isNear(monitorPositions.starACurrent, {390, 300}, pixelTolerance));
+}
+
+void TestMonitor::starAtTheEdgeStaysAtItsSearchPosition()
+{
+    monitorPositions.starASearch = QPointF(5, 5);
+    monitorPositions.starBSearch = QPointF(1278, 958);
+    const LogRecorder log;
+    trackReferenceStars(starFrame({{5, 5}, {1278, 958}}));
+    QCOMPARE(monitorPositions.starACurrent.load(), QPointF(5, 5));
+    QCOMPARE(monitorPositions.starBCurrent.load(), QPointF(1278, 958));
+}
+
+void TestMonitor::refraction_data()
+{
+    QTest::addColumn<bool>("enabled");
+    QTest::addColumn<QString>("unit");
+    QTest::addColumn<float>("pressure");
+    QTest::addColumn<double>("raised"); ///< pixels towards smaller y
+    QTest::newRow("off") << false << "hPa" << 1010.0F << 0.0;
+    QTest::newRow("on") << true << "hPa" << 1010.0F << raisedAt1010;
+    QTest::newRow("the unit is not looked at") << true << "kPa" << 1010.0F << raisedAt1010;
+    QTest::newRow("half the pressure") << true << "hPa" << 505.0F << raisedAt1010 / 2;
+    QTest::newRow("entered in kPa") << true << "kPa" << 101.0F << raisedAt1010 / 10;
+}
+
+void TestMonitor::refraction()
+{
+    QFETCH(bool, enabled);
+    QFETCH(QString, unit);
+    QFETCH(float, pressure);
+    QFETCH(double, raised);
+    refractionSettings.enabledCorrect = enabled;
+    refractionSettings.P_unit = unit;
+    refractionSettings.P = pressure;
+    refractionSettings.T = 10.0F;
+    refractionSettings.latitude = 40.0F;
+    monitorPositions.starACurrent = QPointF(400, 300);
+    monitorPositions.starBCurrent = QPointF(800, 620);
+    updatePole();
+    QVERIFY(isNear(monitorPositions.starACurrent, {400, 300 - raised}, 1e-6));
+    QVERIFY(isNear(monitorPositions.starBCurrent, {800, 620 - raised}, 1e-6));
+    double x = 0, y = 0;
+    QCOMPARE(CalcPoleCOOR(400, 300 - raised, 40, 800, 620 - raised, 60, 640, 480, x, y), 0);
+    QVERIFY(isNear(monitorPositions.poleCurrent, {x, y}, 1e-6));
+}
+
+/// The pole of the triangle is the one that makes the two angles and lies on the axis's side.
+void TestMonitor::pole()
+{
+    const QPointF a(400, 300), b(800, 620);
+    monitorPositions.starACurrent = a;
+    monitorPositions.starBCurrent = b;
+    updatePole();
+    QVERIFY(monitorPositions.poleValid);
+    const QPointF p = monitorPositions.poleCurrent;
+    const auto degreesAt = [](QPointF corner, QPointF one, QPointF other) {
+        const QPointF u = one - corner, v = other - corner;
+        return std::acos(QPointF::dotProduct(u, v) /
+                         (std::hypot(u.x(), u.y()) * std::hypot(v.x(), v.y()))) *
+               180.0 / 3.141592653589793;
+    };
+    QVERIFY(std::abs(degreesAt(a, b, p) - 40.0) < 1e-9);
+    QVERIFY(std::abs(degreesAt(b, a, p) - 60.0) < 1e-9);
+}
+
+void TestMonitor::noPoleOnOneColumn()
+{
+    const LogRecorder log;
+    monitorPositions.starACurrent = QPointF(400, 300);
+    monitorPositions.starBCurrent = QPointF(800, 620);
+    updatePole();
+    QVERIFY(monitorPositions.poleValid);
+    const QPointF before = monitorPositions.poleCurrent;
+    monitorPositions.starBCurrent = QPointF(400, 620);
+    updatePole();
+    QVERIFY(!monitorPositions.poleValid);
+    QCOMPARE(monitorPositions.poleCurrent.load(), before);
+    monitorPositions.starBCurrent = QPointF(800, 620);
+    updatePole();
+    QVERIFY(monitorPositions.poleValid);
+}
+
+void TestMonitor::crop_data()
+{
+    QTest::addColumn<int>("channels");
+    QTest::addColumn<bool>("mono");
+    QTest::addColumn<bool>("atTheEdges");
+    QTest::newRow("one channel") << 1 << false << false;
+    QTest::newRow("one channel, mono") << 1 << true << false;
+    QTest::newRow("three channels") << 3 << false << false;
+    QTest::newRow("one channel, edges") << 1 << false << true;
+    QTest::newRow("three channels, edges, mono") << 3 << true << true;
+}
+
+void TestMonitor::crop()
+{
+    QFETCH(int, channels);
+    QFETCH(bool, mono);
+    QFETCH(bool, atTheEdges);
+    const cv::Mat frame = noisyFrame(channels);
+    WholeEnlargement whole(frame);
+    FrameMatrices matrices;
+    std::mt19937 random(4);
+    std::uniform_real_distribution<double> x(-60, 1340), y(-60, 1020), margin(-25, 25),
+        apart(-30, 30);
+    for (int i = 0; i < 2000; ++i) {
+        QPointF b(x(random), y(random));
+        if (atTheEdges)
+            b = i % 2 ? QPointF(i % 4 == 1 ? margin(random) : 1280 + margin(random), y(random))
+                      : QPointF(x(random), i % 4 ? margin(random) : 960 + margin(random));
+        // The first star is near enough, most times, to have its mark in the crop too.
+        const QPointF a = b + QPointF(apart(random), apart(random));
+        cropAroundStarB(frame, a, b, mono, matrices);
+        QVERIFY2(sameBytes(matrices.magnifierCrop, whole.crop(a, b, mono)),
+                 qPrintable(QStringLiteral("A %1,%2 B %3,%4")
+                                .arg(a.x(), 0, 'g', 17)
+                                .arg(a.y(), 0, 'g', 17)
+                                .arg(b.x(), 0, 'g', 17)
+                                .arg(b.y(), 0, 'g', 17)));
+    }
+}
+
+void TestMonitor::cropOfNoPosition_data()
+{
+    QTest::addColumn<QPointF>("star");
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    QTest::newRow("far left") << QPointF(-1000, 480);
+    QTest::newRow("far below") << QPointF(640, 5000);
+    QTest::newRow("just off the left") << QPointF(-20.2, 480);
+    QTest::newRow("beyond int") << QPointF(1e300, -1e300);
+    QTest::newRow("infinite") << QPointF(std::numeric_limits<double>::infinity(), 480);
+    QTest::newRow("one coordinate not a number") << QPointF(nan, 5000);
+}
+
+void TestMonitor::cropOfNoPosition()
+{
+    QFETCH(QPointF, star);
+    FrameMatrices matrices;
+    const cv::Mat frame = noisyFrame(1);
+    cropAroundStarB(frame, {640, 480}, {640, 480}, false, matrices);
+    cropAroundStarB(frame, star, star, false, matrices);
+    QVERIFY(sameBytes(matrices.magnifierCrop, cv::Mat(200, 200, CV_8UC3, cv::Scalar::all(0))));
+}
+
+/// Frames of other sizes give crops of the same size, black beyond the frame.
+void TestMonitor::cropOfOddFrames()
+{
+    FrameMatrices matrices;
+    const cv::Mat small(1, 1, CV_8UC1, cv::Scalar(90));
+    cropAroundStarB(small, {50, 50}, {0, 0}, false, matrices);
+    QVERIFY(matrices.magnifierCrop.size() == cv::Size(200, 200));
+    QCOMPARE(matrices.magnifierCrop.at<cv::Vec3b>(104, 104), cv::Vec3b(90, 90, 90));
+    QCOMPARE(matrices.magnifierCrop.at<cv::Vec3b>(105, 105), cv::Vec3b(0, 0, 0));
+    QCOMPARE(matrices.magnifierCrop.at<cv::Vec3b>(99, 99), cv::Vec3b(0, 0, 0));
+}
+
+QTEST_GUILESS_MAIN(TestMonitor)
+#include "tst_monitor.moc"

@@ -1,0 +1,229 @@
+// SPDX-License-Identifier: MIT
+// Does the window prepare monitor mode, and do the marks follow the stars from frame to frame?
+#include "camera/sharedstate.h"
+#include "geometry/starcatalogue.h"
+#include "tests/camera/camerawindow.h"
+#include "tests/support/logrecorder.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QSlider>
+#include <QtTest>
+#include <cmath>
+
+namespace
+{
+constexpr double pixelTolerance = 0.05;
+const QPointF axis(640, 480);
+
+QPointF templateB()
+{
+    return {northCatalogue.starBX, northCatalogue.starBY};
+}
+
+/// Star B's offset to star A on the template, turned clockwise on the screen.
+QPointF offsetToA(double degrees)
+{
+    const QPointF d = QPointF(northCatalogue.starAX, northCatalogue.starAY) - templateB();
+    const double angle = degrees * 3.141592653589793 / 180;
+    return {d.x() * std::cos(angle) - d.y() * std::sin(angle),
+            d.x() * std::sin(angle) + d.y() * std::cos(angle)};
+}
+
+QPointF turnedAboutAxis(QPointF point, double degrees)
+{
+    const double angle = degrees * 3.141592653589793 / 180;
+    const QPointF d = point - axis;
+    return axis + QPointF(d.x() * std::cos(angle) - d.y() * std::sin(angle),
+                          d.x() * std::sin(angle) + d.y() * std::cos(angle));
+}
+
+bool isNear(QPointF a, QPointF b, double tolerance = pixelTolerance)
+{
+    return std::abs(a.x() - b.x()) <= tolerance && std::abs(a.y() - b.y()) <= tolerance;
+}
+
+QString logText(const char *words, QPointF p)
+{
+    QString text;
+    QDebug(&text).nospace() << words << ' ' << p.x() << ' ' << p.y();
+    return text;
+}
+
+/// A connected window in step 11 with the template turned and star B picked at `starB`.
+class MonitorWindow : public CameraWindow
+{
+public:
+    MonitorWindow(int degrees, QPointF starB, const std::vector<QPointF> &stars)
+    {
+        showFrame(starFrame(stars));
+        connectCamera();
+        if (!waitForNewFrame())
+            qFatal("no frame is shown");
+        enterStep(11);
+        alignmentPoints.savedAxisCenter = axis;
+        child<QSlider>("horizontalSlider_rough_match").setValue(degrees);
+        QTest::mouseDClick(&child<QLabel>("label_showImg"), Qt::LeftButton, Qt::NoModifier,
+                           starB.toPoint());
+    }
+
+    void show(const std::vector<QPointF> &stars) const
+    {
+        showFrame(starFrame(stars));
+        if (!waitForNewFrame())
+            qFatal("no frame is shown");
+    }
+};
+} // namespace
+
+class TestMonitorMode : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void startPositions_data();
+    void startPositions();
+    void startWithoutStars();
+    void poleTracking_data();
+    void poleTracking();
+    void turnsDoNotAddUp();
+    void starsLostAndFoundAgain();
+    void endsWithTheWizardsStart();
+};
+
+void TestMonitorMode::initTestCase()
+{
+    const CameraWindow w; // reads the catalogue
+    QVERIFY(northCatalogue.starBX > 0);
+}
+
+void TestMonitorMode::startPositions_data()
+{
+    QTest::addColumn<int>("degrees");
+    QTest::addColumn<QPointF>("starB");
+    QTest::newRow("template's own place") << 0 << QPointF(400, 400);
+    QTest::newRow("turned") << 90 << QPointF(640.4, 420.3);
+    QTest::newRow("turned askew") << 217 << QPointF(600.8, 520.1);
+    QTest::newRow("whole turn") << 360 << QPointF(400, 400);
+}
+
+void TestMonitorMode::startPositions()
+{
+    QFETCH(int, degrees);
+    QFETCH(QPointF, starB);
+    const QPointF predicted = starB + offsetToA(degrees);
+    const QPointF starA = predicted + QPointF(3, -4); // the template never fits quite
+    const MonitorWindow w(degrees, starB, {starB, starA});
+    const LogRecorder log;
+    w.call("pushbuttonGetCurPolarisDoneClicked");
+    QCOMPARE(w.window->step(), 12);
+    QVERIFY(isNear(monitorPositions.starASearch, starA));
+    QVERIFY(isNear(monitorPositions.starBSearch, starB));
+    QVERIFY(log.contains(QtDebugMsg, logText("current StarA point", monitorPositions.starASearch)));
+    QVERIFY(log.contains(QtDebugMsg, logText("current StarB point", monitorPositions.starBSearch)));
+    QVERIFY(!overlayFlags.monitorTracking);
+}
+
+/// Where a star is not found its expected place stands in: for star A the template's, which at
+/// angle 0 with star B on its template pixel is the template's star A itself.
+void TestMonitorMode::startWithoutStars()
+{
+    const QPointF starB = templateB();
+    const MonitorWindow w(0, starB, {starB});
+    w.show({});
+    w.call("pushbuttonGetCurPolarisDoneClicked");
+    QVERIFY(
+        isNear(monitorPositions.starASearch, {northCatalogue.starAX, northCatalogue.starAY}, 1e-9));
+    QVERIFY(isNear(monitorPositions.starBSearch, starB, 1e-9));
+}
+
+void TestMonitorMode::poleTracking_data()
+{
+    QTest::addColumn<double>("degrees");
+    for (const double degrees : {0.0, 1.0, 90.0, 180.0, 359.0, 360.0, -15.5})
+        QTest::addRow("%g degrees", degrees) << degrees;
+}
+
+void TestMonitorMode::poleTracking()
+{
+    QFETCH(double, degrees);
+    const QPointF starB(500.5, 420.5), starA = starB + offsetToA(0);
+    const MonitorWindow w(0, starB, {starB, starA});
+    w.call("pushbuttonGetCurPolarisDoneClicked");
+    const QPointF foundA = monitorPositions.starASearch, foundB = monitorPositions.starBSearch;
+    const LogRecorder log;
+    QVERIFY(QMetaObject::invokeMethod(w.window.get(), "poleTracking", Qt::DirectConnection,
+                                      Q_ARG(double, degrees)));
+    const QPointF a = monitorPositions.starASearch, b = monitorPositions.starBSearch;
+    QVERIFY(isNear(a, turnedAboutAxis(foundA, degrees), 1e-9));
+    QVERIFY(isNear(b, turnedAboutAxis(foundB, degrees), 1e-9));
+    QCOMPARE(log.texts(QtDebugMsg),
+             QStringList({logText("StarA area", a), logText("StarB area", b)}));
+}
+
+void TestMonitorMode::turnsDoNotAddUp()
+{
+    const QPointF starB(500.5, 420.5), starA = starB + offsetToA(0);
+    const MonitorWindow w(0, starB, {starB, starA});
+    w.call("pushbuttonGetCurPolarisDoneClicked");
+    const QPointF foundB = monitorPositions.starBSearch;
+    for (const double degrees : {30.0, 30.0, 10.0}) {
+        QVERIFY(QMetaObject::invokeMethod(w.window.get(), "poleTracking", Qt::DirectConnection,
+                                          Q_ARG(double, degrees)));
+        QVERIFY(isNear(monitorPositions.starBSearch, turnedAboutAxis(foundB, degrees), 1e-9));
+    }
+}
+
+void TestMonitorMode::starsLostAndFoundAgain()
+{
+    const QPointF starB(500.5, 420.5), starA = starB + offsetToA(0);
+    const MonitorWindow w(0, starB, {starB, starA});
+    w.call("pushbuttonGetCurPolarisDoneClicked");
+    const QPointF searchA = monitorPositions.starASearch, searchB = monitorPositions.starBSearch;
+    QTest::qWait(20);
+    QTest::mouseClick(&w.child<QPushButton>("pushButton_monitor"), Qt::LeftButton);
+    QCOMPARE(w.window->step(), 13);
+    QVERIFY(overlayFlags.monitorTracking && overlayFlags.showPoleRect &&
+            overlayFlags.showMonitorCross);
+    const auto follow = [&](QPointF moved) {
+        w.show({starB + moved, starA + moved});
+        return QTest::qWaitFor([&] {
+            return isNear(monitorPositions.starACurrent, starA + moved) &&
+                   isNear(monitorPositions.starBCurrent, starB + moved);
+        });
+    };
+    QVERIFY(follow({8, -6}));
+    QVERIFY(monitorPositions.poleValid);
+    QVERIFY(follow({-10, 9}));
+    const QPointF pole = monitorPositions.poleCurrent;
+    QTRY_VERIFY(!w.child<QLabel>("label_biggerImg").pixmap(Qt::ReturnByValue).isNull());
+    w.show({}); // cloud
+    QTRY_COMPARE(monitorPositions.starACurrent.load(), searchA);
+    QTRY_COMPARE(monitorPositions.starBCurrent.load(), searchB);
+    QVERIFY(follow({4, 4}));
+    // The pole moves with its stars.
+    QTRY_VERIFY(isNear(monitorPositions.poleCurrent, pole + QPointF(14, -5), 0.3));
+    // Lost beyond the window about the start, found again at the start.
+    w.show({starB + QPointF(60, 0), starA + QPointF(60, 0)});
+    QTRY_COMPARE(monitorPositions.starBCurrent.load(), searchB);
+    QVERIFY(follow({0, 0}));
+    QCOMPARE(monitorPositions.starASearch.load(), searchA);
+    QCOMPARE(monitorPositions.starBSearch.load(), searchB);
+}
+
+void TestMonitorMode::endsWithTheWizardsStart()
+{
+    const MonitorWindow w(0, {500, 420}, {{500, 420}});
+    w.enterStep(13);
+    QVERIFY(overlayFlags.monitorTracking);
+    w.call("pushbuttonFinetunePoleDoneClicked");
+    QVERIFY(overlayFlags.monitorTracking); // only the pages go
+    w.call("pushbuttonFinetunePoleResetClicked");
+    QCOMPARE(w.window->step(), 1);
+    QVERIFY(!overlayFlags.monitorTracking && !overlayFlags.showPoleRect &&
+            !overlayFlags.showMonitorCross);
+}
+
+QTEST_MAIN(TestMonitorMode)
+#include "tst_monitormode.moc"

@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: MIT
+// What is shown of the place under the mouse, over the picture and over the pages?
+#include "dialogs/magnifierwidget.h"
+#include "tests/camera/pickingwindow.h"
+#include "tests/support/logrecorder.h"
+
+#include <QTabWidget>
+
+class TestPointer : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void readOut_data();
+    void readOut();
+    void rounding_data();
+    void rounding();
+    void noReadOutWithoutButton();
+    void overThePages_data();
+    void overThePages();
+    void notConnected();
+    void noPictureYet();
+};
+
+void TestPointer::readOut_data()
+{
+    QTest::addColumn<double>("zoom");
+    QTest::addColumn<QPoint>("scroll");
+    QTest::addColumn<QPoint>("view");
+    QTest::addColumn<QString>("text");
+    const QPoint still;
+    QTest::newRow("100") << 1.0 << still << QPoint(640, 480) << "640.0,480.0";
+    QTest::newRow("75") << 0.75 << still << QPoint(481, 400) << "641.3,533.3";
+    QTest::newRow("50") << 0.5 << still << QPoint(321, 240) << "642.0,480.0";
+    QTest::newRow("100, scrolled") << 1.0 << QPoint(90, 120) << QPoint(340, 480) << "340.0,480.0";
+    QTest::newRow("off to the left") << 0.5 << still << QPoint(-1, 217) << "-2.0,434.0";
+    QTest::newRow("off to the left, 100") << 1.0 << still << QPoint(-12, 300) << "-12.0,300.0";
+    QTest::newRow("off below") << 0.75 << still << QPoint(300, 1200) << "400.0,1600.0";
+    QTest::newRow("off to the left, scrolled")
+        << 1.0 << QPoint(90, 120) << QPoint(-30, 333) << "-30.0,333.0";
+}
+
+void TestPointer::readOut()
+{
+    QFETCH(double, zoom);
+    QFETCH(QPoint, scroll);
+    QFETCH(QPoint, view);
+    QFETCH(QString, text);
+    const PickingWindow w(zoom, scroll);
+    const LogRecorder log;
+    w.drag(QPoint(200, 420) * zoom + scroll, view);
+    QCOMPARE(w.position.text(), text);
+    QCOMPARE(w.window->step(), 1);
+    auto *const magnifier = w.window->findChild<MagnifierWidget *>();
+    if (w.image.rect().adjusted(100, 100, -100, -100).contains(view))
+        QCOMPARE(magnifier->magnifiedCentre(), view);
+    QCOMPARE(log.texts(QtCriticalMsg), QStringList());
+}
+
+void TestPointer::rounding_data()
+{
+    QTest::addColumn<double>("zoom");
+    QTest::addColumn<QPointF>("place");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("halves go up") << 1.0 << QPointF(2.5, 3.5) << "3.0,4.0";
+    QTest::newRow("below a half") << 1.0 << QPointF(2.4, 3.49) << "2.0,3.0";
+    QTest::newRow("minus a half") << 1.0 << QPointF(-0.5, -1.5) << "0.0,-1.0";
+    QTest::newRow("-4.5") << 0.5 << QPointF(-4.5, 17.2) << "-8.0,34.0";
+    QTest::newRow("single precision") << 0.75 << QPointF(1, 2) << "1.3,2.7";
+}
+
+void TestPointer::rounding()
+{
+    QFETCH(double, zoom);
+    QFETCH(QPointF, place);
+    QFETCH(QString, text);
+    const PickingWindow w(zoom);
+    sendMouse(w.image, QEvent::MouseMove, place);
+    QCOMPARE(w.position.text(), text);
+}
+
+void TestPointer::noReadOutWithoutButton()
+{
+    const PickingWindow w;
+    QTest::mouseMove(w.window->windowHandle(), w.inWindow({300, 400}));
+    QTest::qWait(20);
+    QCOMPARE(w.position.text(), QString());
+}
+
+void TestPointer::overThePages_data()
+{
+    QTest::addColumn<double>("zoom");
+    QTest::addColumn<QPoint>("scroll");
+    QTest::newRow("100") << 1.0 << QPoint();
+    QTest::newRow("75") << 0.75 << QPoint();
+    QTest::newRow("50") << 0.5 << QPoint();
+    QTest::newRow("100, scrolled") << 1.0 << QPoint(90, 120);
+}
+
+void TestPointer::overThePages()
+{
+    QFETCH(double, zoom);
+    QFETCH(QPoint, scroll);
+    const PickingWindow w(zoom, scroll);
+    auto &tabs = w.child<QTabWidget>("tabWidget_tipMsg");
+    QWidget &page = *tabs.currentWidget();
+    const QPoint from(20, 10), to(61, 17);
+    QWindow *const handle = w.window->windowHandle();
+    QTest::mousePress(handle, Qt::LeftButton, Qt::NoModifier, page.mapTo(w.window.get(), from));
+    QTest::mouseMove(handle, page.mapTo(w.window.get(), to));
+    QTest::qWait(5);
+    QTest::mouseRelease(handle, Qt::LeftButton, Qt::NoModifier, page.mapTo(w.window.get(), to));
+    // The tab widget's place counts, neither the page's own in it nor the scrolling.
+    const QPoint view = tabs.pos() + to;
+    const float factor = float(zoom);
+    const QString text = QString::number(double(float(view.x()) / factor), 'f', 1) + ',' +
+                         QString::number(double(float(view.y()) / factor), 'f', 1);
+    QCOMPARE(w.position.text(), text);
+}
+
+void TestPointer::notConnected()
+{
+    const CameraWindow w;
+    auto &image = w.child<QLabel>("label_showImg");
+    const BoxWatcher boxes;
+    const LogRecorder log;
+    sendMouse(image, QEvent::MouseMove, {10, 10});
+    sendMouse(image, QEvent::MouseButtonDblClick, {10, 10});
+    sendMouse(*w.child<QTabWidget>("tabWidget_tipMsg").currentWidget(), QEvent::MouseMove, {5, 5});
+    QTest::qWait(30);
+    QCOMPARE(w.child<QLabel>("positionLabel").text(), QString());
+    QCOMPARE(boxes.boxes(), QList<Box>());
+    QCOMPARE(log.texts(QtDebugMsg) + log.texts(QtCriticalMsg), QStringList());
+}
+
+void TestPointer::noPictureYet()
+{
+    const CameraWindow w;
+    w.connectCamera();
+    w.enterStep(3);
+    const BoxWatcher boxes;
+    const LogRecorder log;
+    sendMouse(w.child<QLabel>("label_showImg"), QEvent::MouseMove, {11, 12});
+    const QString message = "no pixmap has been set in the Label_showImg";
+    QCOMPARE(log.texts(QtCriticalMsg), QStringList(message));
+    QCOMPARE(w.child<QLabel>("positionLabel").text(), QStringLiteral("11.0,12.0"));
+    sendMouse(w.child<QLabel>("label_showImg"), QEvent::MouseButtonDblClick, {21, 22});
+    QCOMPARE(log.texts(QtCriticalMsg).value(1), message);
+    QCOMPARE(w.child<QLabel>("positionLabel").text(), QStringLiteral("21.0,22.0"));
+    QCOMPARE(boxes.boxes(), QList<Box>{noStarBox});
+    QCOMPARE(w.window->step(), 3);
+}
+
+QTEST_MAIN(TestPointer)
+#include "tst_pointer.moc"
