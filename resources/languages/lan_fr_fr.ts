@@ -1,0 +1,722 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR" sourcelanguage="en_US">
+<context>
+    <name>AboutDialog</name>
+    <message>
+        <source>About</source>
+        <translation>À propos de Quorvandel</translation>
+    </message>
+    <message>
+        <source>Quorvandel V1.3.2.6, release 2016-08-10</source>
+        <translation>Quorvandel V1.3.2.6, release 2016-08-10</translation>
+    </message>
+    <message>
+        <source>© 2021 Quorvandel. All rights reserved.</source>
+        <translation>© 2021 Quorvandel. Tous droits réservés.</translation>
+    </message>
+    <message>
+        <source>Web site</source>
+        <translation>Site web</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>English translation by the makers of Quorvandel.</source>
+        <translation>Traduction française par l&apos;équipe Quorvandel.</translation>
+    </message>
+</context>
+<context>
+    <name>AstroRefractionDialog</name>
+    <message>
+        <source>Astronomical Refraction</source>
+        <translation>Réfraction atmosphérique</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Latitude</translation>
+    </message>
+    <message>
+        <source>Latitude in degrees</source>
+        <translation>Latitude en degrés</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Longitude</translation>
+    </message>
+    <message>
+        <source>Longitude in degrees</source>
+        <translation>Longitude en degrés</translation>
+    </message>
+    <message>
+        <source>Unit of pressure</source>
+        <translation>Unité de pression</translation>
+    </message>
+    <message>
+        <source>P(kPa)</source>
+        <translation>P (kPa)</translation>
+    </message>
+    <message>
+        <source>P(hPa)</source>
+        <translation>P (hPa)</translation>
+    </message>
+    <message>
+        <source>Air pressure</source>
+        <translation>Pression atmosphérique</translation>
+    </message>
+    <message>
+        <source>T(℃)</source>
+        <translation>T (°C)</translation>
+    </message>
+    <message>
+        <source>Air temperature in degrees Celsius</source>
+        <translation>Température de l&apos;air en degrés Celsius</translation>
+    </message>
+    <message>
+        <source>Enable Astronomical Refraction Correction</source>
+        <translation>Corriger la réfraction atmosphérique</translation>
+    </message>
+</context>
+<context>
+    <name>FavoriteDialog</name>
+    <message>
+        <source>Favorite</source>
+        <translation>Favoris</translation>
+    </message>
+    <message>
+        <source>Play Music</source>
+        <translation>Écouter la musique</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Quorvandel</source>
+        <translation>Quorvandel</translation>
+    </message>
+    <message>
+        <source>Region Selection</source>
+        <translation>Choix de l&apos;hémisphère</translation>
+    </message>
+    <message>
+        <source>North</source>
+        <translation>Nord</translation>
+    </message>
+    <message>
+        <source>South</source>
+        <translation>Sud</translation>
+    </message>
+    <message>
+        <source>Quorvandel Setting</source>
+        <translation>Réglages de Quorvandel</translation>
+    </message>
+    <message>
+        <source>Exp(ms)</source>
+        <translation>Pose (ms)</translation>
+    </message>
+    <message>
+        <source>Exposure in milliseconds</source>
+        <translation>Temps de pose en millisecondes</translation>
+    </message>
+    <message>
+        <source>Gain</source>
+        <translation>Gain</translation>
+    </message>
+    <message>
+        <source>Traffic</source>
+        <translation>Trafic</translation>
+    </message>
+    <message>
+        <source>USB traffic</source>
+        <translation>Trafic USB</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>Confirm Polaris/σ Oct</source>
+        <translation>Confirmer Polaire/σ Oct</translation>
+    </message>
+    <message>
+        <source>Matching Template</source>
+        <translation>Ajustement du gabarit</translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation>Rotation</translation>
+    </message>
+    <message>
+        <source>Turn the template back by one degree</source>
+        <translation>Tourner le gabarit d&apos;un degré en arrière</translation>
+    </message>
+    <message>
+        <source>-</source>
+        <translation>-</translation>
+    </message>
+    <message>
+        <source>Template angle in degrees</source>
+        <translation>Angle du gabarit en degrés</translation>
+    </message>
+    <message>
+        <source>Turn the template on by one degree</source>
+        <translation>Tourner le gabarit d&apos;un degré en avant</translation>
+    </message>
+    <message>
+        <source>+</source>
+        <translation>+</translation>
+    </message>
+    <message>
+        <source>Rough Pole</source>
+        <translation>Mise en station approchée</translation>
+    </message>
+    <message>
+        <source>Axis Center</source>
+        <translation>Centre de l&apos;axe</translation>
+    </message>
+    <message>
+        <source>Chose the same star every times</source>
+        <translation>Choisir chaque fois la même étoile</translation>
+    </message>
+    <message>
+        <source>Lamp of star position 1</source>
+        <translation>Voyant de la position 1 de l&apos;étoile</translation>
+    </message>
+    <message>
+        <source>Star Pos 1</source>
+        <translation>Position 1</translation>
+    </message>
+    <message>
+        <source>Lamp of star position 2</source>
+        <translation>Voyant de la position 2 de l&apos;étoile</translation>
+    </message>
+    <message>
+        <source>Star Pos 2</source>
+        <translation>Position 2</translation>
+    </message>
+    <message>
+        <source>Lamp of star position 3</source>
+        <translation>Voyant de la position 3 de l&apos;étoile</translation>
+    </message>
+    <message>
+        <source>Star Pos 3</source>
+        <translation>Position 3</translation>
+    </message>
+    <message>
+        <source>Axis:</source>
+        <translation>Axe&#xa0;:</translation>
+    </message>
+    <message>
+        <source>(0,0)</source>
+        <translation>(0,0)</translation>
+    </message>
+    <message>
+        <source>Current Polaris/σ Oct</source>
+        <translation>Polaire/σ Oct actuelle</translation>
+    </message>
+    <message>
+        <source>Expected Polaris/σ Oct</source>
+        <translation>Polaire/σ Oct attendue</translation>
+    </message>
+    <message>
+        <source>Precise Pole</source>
+        <translation>Mise en station précise</translation>
+    </message>
+    <message>
+        <source>Pole:</source>
+        <translation>Pôle&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Mark of the pole</source>
+        <translation>Repère du pôle</translation>
+    </message>
+    <message>
+        <source>Mark of the axis</source>
+        <translation>Repère de l&apos;axe</translation>
+    </message>
+    <message>
+        <source>Enlarged picture of the pole star</source>
+        <translation>Image agrandie de l&apos;étoile polaire</translation>
+    </message>
+    <message>
+        <source>roiBigger_image</source>
+        <translation>Image agrandie</translation>
+    </message>
+    <message>
+        <source>Monitor Pole</source>
+        <translation>Surveillance du pôle</translation>
+    </message>
+    <message>
+        <source>Reference Star A</source>
+        <translation>Étoile de référence A</translation>
+    </message>
+    <message>
+        <source>Position:</source>
+        <translation>Position&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Reference Star B</source>
+        <translation>Étoile de référence B</translation>
+    </message>
+    <message>
+        <source>Start Monitor</source>
+        <translation>Lancer la surveillance</translation>
+    </message>
+    <message>
+        <source>Live picture</source>
+        <translation>Image en direct</translation>
+    </message>
+    <message>
+        <source>Star template</source>
+        <translation>Gabarit d&apos;étoiles</translation>
+    </message>
+    <message>
+        <source>template_image</source>
+        <translation>Image du gabarit</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>Appareil</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Outils</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>Enregistrer sous...</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Connecter</translation>
+    </message>
+    <message>
+        <source>Display Template</source>
+        <translation>Afficher le gabarit</translation>
+    </message>
+    <message>
+        <source>Mono Style</source>
+        <translation>Style monochrome</translation>
+    </message>
+    <message>
+        <source>Stretch</source>
+        <translation>Étirement</translation>
+    </message>
+    <message>
+        <source>Astronomical Refraction</source>
+        <translation>Réfraction atmosphérique</translation>
+    </message>
+    <message>
+        <source>Manual Trace</source>
+        <translation>Suivi manuel du pôle</translation>
+    </message>
+    <message>
+        <source>Unfreeze</source>
+        <translation>Dégeler</translation>
+    </message>
+    <message>
+        <source>Favorite</source>
+        <translation>Favoris</translation>
+    </message>
+    <message>
+        <source>100%</source>
+        <translation>100&#xa0;%</translation>
+    </message>
+    <message>
+        <source>75%</source>
+        <translation>75&#xa0;%</translation>
+    </message>
+    <message>
+        <source>50%</source>
+        <translation>50&#xa0;%</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>简体中文</source>
+        <translation>简体中文</translation>
+    </message>
+    <message>
+        <source>日本語</source>
+        <translation>日本語</translation>
+    </message>
+    <message>
+        <source>русский</source>
+        <translation>русский</translation>
+    </message>
+    <message>
+        <source>français</source>
+        <translation>français</translation>
+    </message>
+    <message>
+        <source>Deutsch</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>Español</source>
+        <translation>Español</translation>
+    </message>
+    <message>
+        <source>português</source>
+        <translation>português</translation>
+    </message>
+    <message>
+        <source>italiano</source>
+        <translation>italiano</translation>
+    </message>
+    <message>
+        <source>한국어</source>
+        <translation>한국어</translation>
+    </message>
+    <message>
+        <source>Quorvandel Manual</source>
+        <translation>Manuel de Quorvandel</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>À propos de Quorvandel</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>Déconnecter</translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>Not Found VELDIX Quorvandel equipment!</source>
+        <translation>Aucun appareil VELDIX Quorvandel trouvé&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Erreur</translation>
+    </message>
+    <message>
+        <source>Can not connect Quorvandel as OpenVELDIX error!</source>
+        <translation>Impossible de connecter Quorvandel&#xa0;: erreur OpenVELDIX&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Can not connect Quorvandel as InitVELDIX error!</source>
+        <translation>Impossible de connecter Quorvandel&#xa0;: erreur InitVELDIX&#xa0;!</translation>
+    </message>
+    <message>
+        <source>Warn</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>Seems no star in this point, please try other point.</source>
+        <translation>Il ne semble pas y avoir d&apos;étoile à cet endroit. Veuillez essayer un autre point.</translation>
+    </message>
+    <message>
+        <source>Can not get the Axis center, please click &apos;reset&apos; to re-find it.</source>
+        <translation>Impossible de déterminer le centre de l&apos;axe. Veuillez cliquer sur «&#xa0;Réinitialiser&#xa0;» pour le rechercher à nouveau.</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Question</source>
+        <translation>Question</translation>
+    </message>
+    <message>
+        <source>Would you like to use the &apos;Axis center position&apos; recorded last time you used Quorvandel ?</source>
+        <translation>Voulez-vous utiliser la position du centre de l&apos;axe enregistrée lors de la dernière utilisation de Quorvandel&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Set the parameters to the left to make more stars around Polaris visable.</source>
+        <translation>Réglez les paramètres à gauche pour rendre visibles davantage d&apos;étoiles autour de la Polaire.</translation>
+    </message>
+    <message>
+        <source>Set the parameters to the left to make more stars around σ Oct visable.</source>
+        <translation>Réglez les paramètres à gauche pour rendre visibles davantage d&apos;étoiles autour de σ Oct.</translation>
+    </message>
+    <message>
+        <source>Has setting up finished?</source>
+        <translation>Les réglages sont-ils terminés&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Setting Finished</source>
+        <translation>Réglages terminés</translation>
+    </message>
+    <message>
+        <source>Double Click Polaris and use the &apos;Rotate&apos; slider on the left to rotate the Template to match up to the stars around Polaris.</source>
+        <translation>Double-cliquez sur la Polaire, puis tournez le gabarit avec le curseur «&#xa0;Rotation&#xa0;» à gauche jusqu&apos;à le faire coïncider avec les étoiles autour de la Polaire.</translation>
+    </message>
+    <message>
+        <source>Double Click σ Oct and use the &apos;Rotate&apos; slider on the left to rotate the Template to match up to the stars around σ Oct.</source>
+        <translation>Double-cliquez sur σ Oct, puis tournez le gabarit avec le curseur «&#xa0;Rotation&#xa0;» à gauche jusqu&apos;à le faire coïncider avec les étoiles autour de σ Oct.</translation>
+    </message>
+    <message>
+        <source>Does match success?</source>
+        <translation>Le gabarit coïncide-t-il&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Success</source>
+        <translation>Le gabarit coïncide</translation>
+    </message>
+    <message>
+        <source>Choose a star other than Polaris and Double click it in the image. Remember this star, you will be selecting it again in the following steps (Step 1 of 3).</source>
+        <translation>Choisissez une étoile autre que la Polaire et double-cliquez dessus dans l&apos;image. Retenez bien cette étoile&#xa0;: vous devrez la sélectionner à nouveau dans les étapes suivantes (étape 1 sur 3).</translation>
+    </message>
+    <message>
+        <source>Choose a star other than σ Oct and Double click it in the image. Remember this star, you will be selecting it again in the following steps (Step 1 of 3).</source>
+        <translation>Choisissez une étoile autre que σ Oct et double-cliquez dessus dans l&apos;image. Retenez bien cette étoile&#xa0;: vous devrez la sélectionner à nouveau dans les étapes suivantes (étape 1 sur 3).</translation>
+    </message>
+    <message>
+        <source>Rotate your mounts &apos;RA&apos; axis in the direction indicated by the arrow now at the top of the screen (rotate a minimum of 30 degree&apos;s).</source>
+        <translation>Tournez l&apos;axe d&apos;ascension droite (AD) de votre monture dans le sens indiqué par la flèche en haut de l&apos;écran (d&apos;au moins 30 degrés).</translation>
+    </message>
+    <message>
+        <source>Has rotation finished?</source>
+        <translation>La rotation est-elle terminée&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Réinitialiser</translation>
+    </message>
+    <message>
+        <source>rotation Finished</source>
+        <translation>Rotation terminée</translation>
+    </message>
+    <message>
+        <source>Double click the same star again chosen in the previous step (Step 2 of 3).</source>
+        <translation>Double-cliquez à nouveau sur l&apos;étoile choisie à l&apos;étape précédente (étape 2 sur 3).</translation>
+    </message>
+    <message>
+        <source>Again, Rotate your mounts &apos;RA&apos; axis in the same direction at least 30 degrees.</source>
+        <translation>Tournez encore l&apos;axe d&apos;ascension droite (AD) de votre monture dans le même sens d&apos;au moins 30 degrés.</translation>
+    </message>
+    <message>
+        <source>Double click the same star one last time chosen in the previous 2 steps (Step 3 of 3).</source>
+        <translation>Double-cliquez une dernière fois sur l&apos;étoile choisie aux deux étapes précédentes (étape 3 sur 3).</translation>
+    </message>
+    <message>
+        <source>Return the &apos;RA&apos; axis to the &apos;Home&apos; position - Ensure your chosen star stays on the circle while your mount rotates to the PARK position.</source>
+        <translation>Ramenez l&apos;axe d&apos;ascension droite (AD) à la position de départ (Home). Vérifiez que l&apos;étoile choisie reste sur le cercle pendant que la monture tourne vers sa position de parking (Park).</translation>
+    </message>
+    <message>
+        <source>Is the axis center correct?</source>
+        <translation>Le centre de l&apos;axe est-il correct&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Correct</source>
+        <translation>Centre correct</translation>
+    </message>
+    <message>
+        <source>Expected position: Double Click Polaris and use the &apos;Rotate&apos; slider on the left to rotate the Template to match up to the stars around Polaris.</source>
+        <translation>Position attendue&#xa0;: double-cliquez sur la Polaire, puis tournez le gabarit avec le curseur «&#xa0;Rotation&#xa0;» à gauche jusqu&apos;à le faire coïncider avec les étoiles autour de la Polaire.</translation>
+    </message>
+    <message>
+        <source>Expected position: Double Click σ Oct and use the &apos;Rotate&apos; slider on the left to rotate the Template to match up to the stars around σ Oct.</source>
+        <translation>Position attendue&#xa0;: double-cliquez sur σ Oct, puis tournez le gabarit avec le curseur «&#xa0;Rotation&#xa0;» à gauche jusqu&apos;à le faire coïncider avec les étoiles autour de σ Oct.</translation>
+    </message>
+    <message>
+        <source>Using your Altitude and Azimuth bolts, move Polaris into the center of the small Rotating circle now shown on the image.</source>
+        <translation>À l&apos;aide des vis d&apos;altitude et d&apos;azimut, amenez la Polaire au centre du petit cercle tournant maintenant affiché sur l&apos;image.</translation>
+    </message>
+    <message>
+        <source>Using your Altitude and Azimuth bolts, move σ Oct into the center of the small Rotating circle now shown on the image.</source>
+        <translation>À l&apos;aide des vis d&apos;altitude et d&apos;azimut, amenez σ Oct au centre du petit cercle tournant maintenant affiché sur l&apos;image.</translation>
+    </message>
+    <message>
+        <source>Has adjustment finished?</source>
+        <translation>La monture est-elle réglée ?</translation>
+    </message>
+    <message>
+        <source>adjustment Finished</source>
+        <translation>Monture réglée</translation>
+    </message>
+    <message>
+        <source>Current position: Double Click Polaris and use the &apos;Rotate&apos; slider on the left to rotate the Template to match up to the stars around Polaris.</source>
+        <translation>Position actuelle&#xa0;: double-cliquez sur la Polaire, puis tournez le gabarit avec le curseur «&#xa0;Rotation&#xa0;» à gauche jusqu&apos;à le faire coïncider avec les étoiles autour de la Polaire.</translation>
+    </message>
+    <message>
+        <source>Current position: Double Click σ Oct and use the &apos;Rotate&apos; slider on the left to rotate the Template to match up to the stars around σ Oct.</source>
+        <translation>Position actuelle&#xa0;: double-cliquez sur σ Oct, puis tournez le gabarit avec le curseur «&#xa0;Rotation&#xa0;» à gauche jusqu&apos;à le faire coïncider avec les étoiles autour de σ Oct.</translation>
+    </message>
+    <message>
+        <source>Please click the &apos;Start Monitor&apos; button.</source>
+        <translation>Veuillez cliquer sur le bouton «&#xa0;Lancer la surveillance&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Use your Altitude and Azimuth bolts only to move the Pole rectangle on top of the Axis circle.</source>
+        <translation>À l&apos;aide des vis d&apos;altitude et d&apos;azimut uniquement, superposez le rectangle du pôle au cercle de l&apos;axe.</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Recommencer</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Terminé</translation>
+    </message>
+</context>
+<context>
+    <name>PoleTrackingDialog</name>
+    <message>
+        <source>Pole Tracking</source>
+        <translation>Suivi du pôle</translation>
+    </message>
+    <message>
+        <source>If the Pole was lost after used GOTO in the astrograph, then you can this to track.</source>
+        <translation>Si le pôle a été perdu après un GOTO du télescope, retrouvez-le en réglant l&apos;angle ici.</translation>
+    </message>
+    <message>
+        <source>Tracking:</source>
+        <translation>Suivi&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Turn back by one degree</source>
+        <translation>Tourner d&apos;un degré en arrière</translation>
+    </message>
+    <message>
+        <source>-</source>
+        <translation>-</translation>
+    </message>
+    <message>
+        <source>Tracking angle in degrees</source>
+        <translation>Angle de suivi en degrés</translation>
+    </message>
+    <message>
+        <source>Turn on by one degree</source>
+        <translation>Tourner d&apos;un degré en avant</translation>
+    </message>
+    <message>
+        <source>+</source>
+        <translation>+</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>RAZ</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Look in:</source>
+        <translation>Chercher dans&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>Dossier&#xa0;:</translation>
+    </message>
+    <message>
+        <source>File &amp;name:</source>
+        <translation>&amp;Nom du fichier&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Files of type:</source>
+        <translation>Type de fichiers&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Ouvrir</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Précédent</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>Dossier parent</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>Créer un dossier</translation>
+    </message>
+    <message>
+        <source>List View</source>
+        <translation>Vue en liste</translation>
+    </message>
+    <message>
+        <source>Detail View</source>
+        <translation>Vue détaillée</translation>
+    </message>
+    <message>
+        <source>%1 already exists.
+Do you want to replace it?</source>
+        <translation>%1 existe déjà.
+Voulez-vous le remplacer&#xa0;?</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Taille</translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation>Ordinateur</translation>
+    </message>
+    <message>
+        <source>Date Modified</source>
+        <translation>Date de modification</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Oui</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Non</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,722 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ko_KR" sourcelanguage="en_US">
+<context>
+    <name>AboutDialog</name>
+    <message>
+        <source>About</source>
+        <translation>Quorvandel 정보</translation>
+    </message>
+    <message>
+        <source>Quorvandel V1.3.2.6, release 2016-08-10</source>
+        <translation>Quorvandel V1.3.2.6, 2016-08-10 배포</translation>
+    </message>
+    <message>
+        <source>© 2021 Quorvandel. All rights reserved.</source>
+        <translation>© 2021 Quorvandel. 모든 권리 보유.</translation>
+    </message>
+    <message>
+        <source>Web site</source>
+        <translation>웹사이트</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>English translation by the makers of Quorvandel.</source>
+        <translation>한국어 번역: Quorvandel 제작진</translation>
+    </message>
+</context>
+<context>
+    <name>AstroRefractionDialog</name>
+    <message>
+        <source>Astronomical Refraction</source>
+        <translation>대기 굴절</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>위도</translation>
+    </message>
+    <message>
+        <source>Latitude in degrees</source>
+        <translation>위도(도)</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>경도</translation>
+    </message>
+    <message>
+        <source>Longitude in degrees</source>
+        <translation>경도(도)</translation>
+    </message>
+    <message>
+        <source>Unit of pressure</source>
+        <translation>기압 단위</translation>
+    </message>
+    <message>
+        <source>P(kPa)</source>
+        <translation>P(kPa)</translation>
+    </message>
+    <message>
+        <source>P(hPa)</source>
+        <translation>P(hPa)</translation>
+    </message>
+    <message>
+        <source>Air pressure</source>
+        <translation>기압</translation>
+    </message>
+    <message>
+        <source>T(℃)</source>
+        <translation>T(℃)</translation>
+    </message>
+    <message>
+        <source>Air temperature in degrees Celsius</source>
+        <translation>기온(℃)</translation>
+    </message>
+    <message>
+        <source>Enable Astronomical Refraction Correction</source>
+        <translation>대기 굴절 보정 사용</translation>
+    </message>
+</context>
+<context>
+    <name>FavoriteDialog</name>
+    <message>
+        <source>Favorite</source>
+        <translation>즐겨찾기</translation>
+    </message>
+    <message>
+        <source>Play Music</source>
+        <translation>음악 재생</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Quorvandel</source>
+        <translation>Quorvandel</translation>
+    </message>
+    <message>
+        <source>Region Selection</source>
+        <translation>반구 선택</translation>
+    </message>
+    <message>
+        <source>North</source>
+        <translation>북반구</translation>
+    </message>
+    <message>
+        <source>South</source>
+        <translation>남반구</translation>
+    </message>
+    <message>
+        <source>Quorvandel Setting</source>
+        <translation>Quorvandel 설정</translation>
+    </message>
+    <message>
+        <source>Exp(ms)</source>
+        <translation>노출(ms)</translation>
+    </message>
+    <message>
+        <source>Exposure in milliseconds</source>
+        <translation>노출 시간(밀리초)</translation>
+    </message>
+    <message>
+        <source>Gain</source>
+        <translation>게인</translation>
+    </message>
+    <message>
+        <source>Traffic</source>
+        <translation>트래픽</translation>
+    </message>
+    <message>
+        <source>USB traffic</source>
+        <translation>USB 트래픽</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>속도</translation>
+    </message>
+    <message>
+        <source>Confirm Polaris/σ Oct</source>
+        <translation>북극성/σ Oct 확인</translation>
+    </message>
+    <message>
+        <source>Matching Template</source>
+        <translation>템플릿 맞추기</translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation>회전</translation>
+    </message>
+    <message>
+        <source>Turn the template back by one degree</source>
+        <translation>템플릿을 1도 뒤로 돌리기</translation>
+    </message>
+    <message>
+        <source>-</source>
+        <translation>-</translation>
+    </message>
+    <message>
+        <source>Template angle in degrees</source>
+        <translation>템플릿 각도(도)</translation>
+    </message>
+    <message>
+        <source>Turn the template on by one degree</source>
+        <translation>템플릿을 1도 앞으로 돌리기</translation>
+    </message>
+    <message>
+        <source>+</source>
+        <translation>+</translation>
+    </message>
+    <message>
+        <source>Rough Pole</source>
+        <translation>극축 대략 정렬</translation>
+    </message>
+    <message>
+        <source>Axis Center</source>
+        <translation>회전축 중심</translation>
+    </message>
+    <message>
+        <source>Chose the same star every times</source>
+        <translation>매번 같은 별을 선택하세요</translation>
+    </message>
+    <message>
+        <source>Lamp of star position 1</source>
+        <translation>별 위치 1 표시등</translation>
+    </message>
+    <message>
+        <source>Star Pos 1</source>
+        <translation>별 위치 1</translation>
+    </message>
+    <message>
+        <source>Lamp of star position 2</source>
+        <translation>별 위치 2 표시등</translation>
+    </message>
+    <message>
+        <source>Star Pos 2</source>
+        <translation>별 위치 2</translation>
+    </message>
+    <message>
+        <source>Lamp of star position 3</source>
+        <translation>별 위치 3 표시등</translation>
+    </message>
+    <message>
+        <source>Star Pos 3</source>
+        <translation>별 위치 3</translation>
+    </message>
+    <message>
+        <source>Axis:</source>
+        <translation>축:</translation>
+    </message>
+    <message>
+        <source>(0,0)</source>
+        <translation>(0,0)</translation>
+    </message>
+    <message>
+        <source>Current Polaris/σ Oct</source>
+        <translation>북극성/σ Oct 현재 위치</translation>
+    </message>
+    <message>
+        <source>Expected Polaris/σ Oct</source>
+        <translation>북극성/σ Oct 목표 위치</translation>
+    </message>
+    <message>
+        <source>Precise Pole</source>
+        <translation>극축 정밀 정렬</translation>
+    </message>
+    <message>
+        <source>Pole:</source>
+        <translation>극:</translation>
+    </message>
+    <message>
+        <source>Mark of the pole</source>
+        <translation>극 표시</translation>
+    </message>
+    <message>
+        <source>Mark of the axis</source>
+        <translation>축 표시</translation>
+    </message>
+    <message>
+        <source>Enlarged picture of the pole star</source>
+        <translation>극성 확대 영상</translation>
+    </message>
+    <message>
+        <source>roiBigger_image</source>
+        <translation>확대 영상</translation>
+    </message>
+    <message>
+        <source>Monitor Pole</source>
+        <translation>극 모니터링</translation>
+    </message>
+    <message>
+        <source>Reference Star A</source>
+        <translation>기준성 A</translation>
+    </message>
+    <message>
+        <source>Position:</source>
+        <translation>위치:</translation>
+    </message>
+    <message>
+        <source>Reference Star B</source>
+        <translation>기준성 B</translation>
+    </message>
+    <message>
+        <source>Start Monitor</source>
+        <translation>모니터링 시작</translation>
+    </message>
+    <message>
+        <source>Live picture</source>
+        <translation>실시간 영상</translation>
+    </message>
+    <message>
+        <source>Star template</source>
+        <translation>별 템플릿</translation>
+    </message>
+    <message>
+        <source>template_image</source>
+        <translation>템플릿 영상</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>파일</translation>
+    </message>
+    <message>
+        <source>Device</source>
+        <translation>장치</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>도구</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>확대/축소</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>언어</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>도움말</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>다른 이름으로 저장...</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>종료</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>연결</translation>
+    </message>
+    <message>
+        <source>Display Template</source>
+        <translation>템플릿 표시</translation>
+    </message>
+    <message>
+        <source>Mono Style</source>
+        <translation>흑백 스타일</translation>
+    </message>
+    <message>
+        <source>Stretch</source>
+        <translation>스트레치</translation>
+    </message>
+    <message>
+        <source>Astronomical Refraction</source>
+        <translation>대기 굴절</translation>
+    </message>
+    <message>
+        <source>Manual Trace</source>
+        <translation>수동 추적</translation>
+    </message>
+    <message>
+        <source>Unfreeze</source>
+        <translation>동결 해제</translation>
+    </message>
+    <message>
+        <source>Favorite</source>
+        <translation>즐겨찾기</translation>
+    </message>
+    <message>
+        <source>100%</source>
+        <translation>100%</translation>
+    </message>
+    <message>
+        <source>75%</source>
+        <translation>75%</translation>
+    </message>
+    <message>
+        <source>50%</source>
+        <translation>50%</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>简体中文</source>
+        <translation>简体中文</translation>
+    </message>
+    <message>
+        <source>日本語</source>
+        <translation>日本語</translation>
+    </message>
+    <message>
+        <source>русский</source>
+        <translation>русский</translation>
+    </message>
+    <message>
+        <source>français</source>
+        <translation>français</translation>
+    </message>
+    <message>
+        <source>Deutsch</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message>
+        <source>Español</source>
+        <translation>Español</translation>
+    </message>
+    <message>
+        <source>português</source>
+        <translation>português</translation>
+    </message>
+    <message>
+        <source>italiano</source>
+        <translation>italiano</translation>
+    </message>
+    <message>
+        <source>한국어</source>
+        <translation>한국어</translation>
+    </message>
+    <message>
+        <source>Quorvandel Manual</source>
+        <translation>Quorvandel 설명서</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Quorvandel 정보</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>연결 해제</translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation>알림</translation>
+    </message>
+    <message>
+        <source>Not Found VELDIX Quorvandel equipment!</source>
+        <translation>VELDIX Quorvandel 장비를 찾을 수 없습니다!</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>오류</translation>
+    </message>
+    <message>
+        <source>Can not connect Quorvandel as OpenVELDIX error!</source>
+        <translation>OpenVELDIX 오류로 Quorvandel에 연결할 수 없습니다!</translation>
+    </message>
+    <message>
+        <source>Can not connect Quorvandel as InitVELDIX error!</source>
+        <translation>InitVELDIX 오류로 Quorvandel에 연결할 수 없습니다!</translation>
+    </message>
+    <message>
+        <source>Warn</source>
+        <translation>경고</translation>
+    </message>
+    <message>
+        <source>Seems no star in this point, please try other point.</source>
+        <translation>이 위치에는 별이 없는 것 같습니다. 다른 위치를 시도해 보세요.</translation>
+    </message>
+    <message>
+        <source>Can not get the Axis center, please click &apos;reset&apos; to re-find it.</source>
+        <translation>회전축 중심을 구할 수 없습니다. ‘초기화’를 눌러 다시 찾아 주세요.</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>저장</translation>
+    </message>
+    <message>
+        <source>Question</source>
+        <translation>질문</translation>
+    </message>
+    <message>
+        <source>Would you like to use the &apos;Axis center position&apos; recorded last time you used Quorvandel ?</source>
+        <translation>지난번 Quorvandel을 사용할 때 기록된 ‘회전축 중심 위치’를 사용하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Set the parameters to the left to make more stars around Polaris visable.</source>
+        <translation>북극성 주변의 별이 더 많이 보이도록 왼쪽의 값을 조정해 주세요.</translation>
+    </message>
+    <message>
+        <source>Set the parameters to the left to make more stars around σ Oct visable.</source>
+        <translation>σ Oct 주변의 별이 더 많이 보이도록 왼쪽의 값을 조정해 주세요.</translation>
+    </message>
+    <message>
+        <source>Has setting up finished?</source>
+        <translation>설정이 끝났습니까?</translation>
+    </message>
+    <message>
+        <source>Setting Finished</source>
+        <translation>설정 완료</translation>
+    </message>
+    <message>
+        <source>Double Click Polaris and use the &apos;Rotate&apos; slider on the left to rotate the Template to match up to the stars around Polaris.</source>
+        <translation>북극성을 더블클릭한 다음 왼쪽의 ‘회전’ 슬라이더로 템플릿을 돌려 북극성 주변의 별과 맞춰 주세요.</translation>
+    </message>
+    <message>
+        <source>Double Click σ Oct and use the &apos;Rotate&apos; slider on the left to rotate the Template to match up to the stars around σ Oct.</source>
+        <translation>σ Oct를 더블클릭한 다음 왼쪽의 ‘회전’ 슬라이더로 템플릿을 돌려 σ Oct 주변의 별과 맞춰 주세요.</translation>
+    </message>
+    <message>
+        <source>Does match success?</source>
+        <translation>템플릿이 잘 맞았습니까?</translation>
+    </message>
+    <message>
+        <source>Success</source>
+        <translation>맞추기 완료</translation>
+    </message>
+    <message>
+        <source>Choose a star other than Polaris and Double click it in the image. Remember this star, you will be selecting it again in the following steps (Step 1 of 3).</source>
+        <translation>북극성을 제외한 별 하나를 골라 영상에서 더블클릭해 주세요. 이후 단계에서 다시 선택해야 하므로 이 별을 기억해 두세요(3단계 중 1단계).</translation>
+    </message>
+    <message>
+        <source>Choose a star other than σ Oct and Double click it in the image. Remember this star, you will be selecting it again in the following steps (Step 1 of 3).</source>
+        <translation>σ Oct를 제외한 별 하나를 골라 영상에서 더블클릭해 주세요. 이후 단계에서 다시 선택해야 하므로 이 별을 기억해 두세요(3단계 중 1단계).</translation>
+    </message>
+    <message>
+        <source>Rotate your mounts &apos;RA&apos; axis in the direction indicated by the arrow now at the top of the screen (rotate a minimum of 30 degree&apos;s).</source>
+        <translation>화면 위쪽의 화살표가 가리키는 방향으로 적도의의 적경축(RA)을 돌려 주세요(30도 이상).</translation>
+    </message>
+    <message>
+        <source>Has rotation finished?</source>
+        <translation>회전이 끝났습니까?</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>초기화</translation>
+    </message>
+    <message>
+        <source>rotation Finished</source>
+        <translation>회전 완료</translation>
+    </message>
+    <message>
+        <source>Double click the same star again chosen in the previous step (Step 2 of 3).</source>
+        <translation>이전 단계에서 선택한 별을 다시 더블클릭해 주세요(3단계 중 2단계).</translation>
+    </message>
+    <message>
+        <source>Again, Rotate your mounts &apos;RA&apos; axis in the same direction at least 30 degrees.</source>
+        <translation>적도의의 적경축(RA)을 같은 방향으로 다시 30도 이상 돌려 주세요.</translation>
+    </message>
+    <message>
+        <source>Double click the same star one last time chosen in the previous 2 steps (Step 3 of 3).</source>
+        <translation>앞의 두 단계에서 선택한 별을 마지막으로 한 번 더 더블클릭해 주세요(3단계 중 3단계).</translation>
+    </message>
+    <message>
+        <source>Return the &apos;RA&apos; axis to the &apos;Home&apos; position - Ensure your chosen star stays on the circle while your mount rotates to the PARK position.</source>
+        <translation>적경축(RA)을 ‘홈’ 위치로 되돌려 주세요. 적도의가 파크 위치까지 회전하는 동안 선택한 별이 원을 벗어나지 않는지 확인하세요.</translation>
+    </message>
+    <message>
+        <source>Is the axis center correct?</source>
+        <translation>회전축 중심이 맞습니까?</translation>
+    </message>
+    <message>
+        <source>Correct</source>
+        <translation>맞음</translation>
+    </message>
+    <message>
+        <source>Expected position: Double Click Polaris and use the &apos;Rotate&apos; slider on the left to rotate the Template to match up to the stars around Polaris.</source>
+        <translation>목표 위치: 북극성을 더블클릭한 다음 왼쪽의 ‘회전’ 슬라이더로 템플릿을 돌려 북극성 주변의 별과 맞춰 주세요.</translation>
+    </message>
+    <message>
+        <source>Expected position: Double Click σ Oct and use the &apos;Rotate&apos; slider on the left to rotate the Template to match up to the stars around σ Oct.</source>
+        <translation>목표 위치: σ Oct를 더블클릭한 다음 왼쪽의 ‘회전’ 슬라이더로 템플릿을 돌려 σ Oct 주변의 별과 맞춰 주세요.</translation>
+    </message>
+    <message>
+        <source>Using your Altitude and Azimuth bolts, move Polaris into the center of the small Rotating circle now shown on the image.</source>
+        <translation>고도·방위각 조절 나사를 사용하여 북극성을 영상에 표시된 회전하는 작은 원의 중심으로 옮겨 주세요.</translation>
+    </message>
+    <message>
+        <source>Using your Altitude and Azimuth bolts, move σ Oct into the center of the small Rotating circle now shown on the image.</source>
+        <translation>고도·방위각 조절 나사를 사용하여 σ Oct를 영상에 표시된 회전하는 작은 원의 중심으로 옮겨 주세요.</translation>
+    </message>
+    <message>
+        <source>Has adjustment finished?</source>
+        <translation>조정이 끝났습니까?</translation>
+    </message>
+    <message>
+        <source>adjustment Finished</source>
+        <translation>조정 완료</translation>
+    </message>
+    <message>
+        <source>Current position: Double Click Polaris and use the &apos;Rotate&apos; slider on the left to rotate the Template to match up to the stars around Polaris.</source>
+        <translation>현재 위치: 북극성을 더블클릭한 다음 왼쪽의 ‘회전’ 슬라이더로 템플릿을 돌려 북극성 주변의 별과 맞춰 주세요.</translation>
+    </message>
+    <message>
+        <source>Current position: Double Click σ Oct and use the &apos;Rotate&apos; slider on the left to rotate the Template to match up to the stars around σ Oct.</source>
+        <translation>현재 위치: σ Oct를 더블클릭한 다음 왼쪽의 ‘회전’ 슬라이더로 템플릿을 돌려 σ Oct 주변의 별과 맞춰 주세요.</translation>
+    </message>
+    <message>
+        <source>Please click the &apos;Start Monitor&apos; button.</source>
+        <translation>‘모니터링 시작’ 버튼을 눌러 주세요.</translation>
+    </message>
+    <message>
+        <source>Use your Altitude and Azimuth bolts only to move the Pole rectangle on top of the Axis circle.</source>
+        <translation>고도·방위각 조절 나사만 사용하여 극의 사각형을 축의 원에 겹쳐 주세요.</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>다시 시작</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>완료</translation>
+    </message>
+</context>
+<context>
+    <name>PoleTrackingDialog</name>
+    <message>
+        <source>Pole Tracking</source>
+        <translation>극 추적</translation>
+    </message>
+    <message>
+        <source>If the Pole was lost after used GOTO in the astrograph, then you can this to track.</source>
+        <translation>망원경이 GOTO로 이동한 뒤 극을 놓쳤다면 여기서 추적할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Tracking:</source>
+        <translation>추적:</translation>
+    </message>
+    <message>
+        <source>Turn back by one degree</source>
+        <translation>1도 뒤로 돌리기</translation>
+    </message>
+    <message>
+        <source>-</source>
+        <translation>-</translation>
+    </message>
+    <message>
+        <source>Tracking angle in degrees</source>
+        <translation>추적 각도(도)</translation>
+    </message>
+    <message>
+        <source>Turn on by one degree</source>
+        <translation>1도 앞으로 돌리기</translation>
+    </message>
+    <message>
+        <source>+</source>
+        <translation>+</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>초기화</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>Look in:</source>
+        <translation>찾는 위치:</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>폴더:</translation>
+    </message>
+    <message>
+        <source>File &amp;name:</source>
+        <translation>파일 이름(&amp;N):</translation>
+    </message>
+    <message>
+        <source>Files of type:</source>
+        <translation>파일 형식:</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>저장(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>열기(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>뒤로</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>앞으로</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>상위 폴더</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>새 폴더 만들기</translation>
+    </message>
+    <message>
+        <source>List View</source>
+        <translation>목록 보기</translation>
+    </message>
+    <message>
+        <source>Detail View</source>
+        <translation>자세히 보기</translation>
+    </message>
+    <message>
+        <source>%1 already exists.
+Do you want to replace it?</source>
+        <translation>%1 파일이 이미 있습니다.
+바꾸시겠습니까?</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Name</source>
+        <translation>이름</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>크기</translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation>컴퓨터</translation>
+    </message>
+    <message>
+        <source>Date Modified</source>
+        <translation>수정한 날짜</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>예(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>아니요(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>저장</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>열기</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,185 @@
+// SPDX-License-Identifier: MIT
+// Is every text there in every language, finished, with its placeholders, and really translated?
+#include "dialogs/languages.h"
+#include "dialogs/toolkittexts.h"
+#include "resources/resources.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QMap>
+#include <QRegularExpression>
+#include <QSet>
+#include <QTest>
+#include <QTranslator>
+#include <QXmlStreamReader>
+#include <algorithm>
+
+namespace
+{
+struct Message {
+    QString context, source, translation, state;
+};
+
+QString sourceFile(const Language &language)
+{
+    const QString name = QFileInfo(language.catalogue).completeBaseName();
+    return QStringLiteral(PROJECT_SOURCE_DIR "/resources/languages/%1.ts").arg(name);
+}
+
+QList<Message> messagesOf(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QXmlStreamReader xml(&file);
+    QList<Message> messages;
+    QString context;
+    while (!xml.atEnd()) {
+        xml.readNext();
+        if (!xml.isStartElement())
+            continue;
+        if (xml.name() == QLatin1String("name")) {
+            context = xml.readElementText();
+        } else if (xml.name() == QLatin1String("message")) {
+            messages.append({context, {}, {}, {}});
+        } else if (xml.name() == QLatin1String("source")) {
+            messages.last().source = xml.readElementText();
+        } else if (xml.name() == QLatin1String("translation")) {
+            messages.last().state = xml.attributes().value("type").toString();
+            messages.last().translation = xml.readElementText();
+        }
+    }
+    return messages;
+}
+
+QStringList placeholdersIn(const QString &text)
+{
+    static const QRegularExpression placeholder("%[0-9n]");
+    QStringList found;
+    auto match = placeholder.globalMatch(text);
+    while (match.hasNext())
+        found.append(match.next().captured());
+    found.sort();
+    return found;
+}
+
+/// Texts that are the same in every language: names, numbers, signs, formulas.
+bool isUniversal(const QString &source)
+{
+    static const QRegularExpression withoutWords(R"(^[^\p{L}]*$)");
+    static const QSet<QString> names{
+        "Quorvandel", "English",  "简体中文", "日本語",
+        "русский",    "français", "Deutsch",  "Español",
+        "português",  "italiano", "한국어",   "P(kPa)",
+        "P(hPa)",     "T(℃)",     "OK",       "Quorvandel V1.3.2.6, release 2016-08-10"};
+    return names.contains(source) || withoutWords.match(source).hasMatch() ||
+           source.startsWith("<html>");
+}
+
+/// Words that are written as in English in one language.
+const QMap<QString, QSet<QString>> &loanWords()
+{
+    static const QMap<QString, QSet<QString>> words{
+        {"DE", {"Gain", "Traffic", "Position:", "Zoom", "Name", "Computer"}},
+        {"FR", {"Latitude", "Longitude", "Gain", "Zoom", "Question", "Position:"}},
+        {"ES", {"Zoom", "Error", "&No"}},
+        {"PT", {"Zoom", "Latitude", "Longitude"}},
+        {"IT", {"File", "Zoom", "Computer", "&No"}},
+    };
+    return words;
+}
+} // namespace
+
+class TestCatalogues : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { initialiseResources(); }
+    void isComplete_data();
+    void isComplete();
+    void keepsPlaceholders_data() { isComplete_data(); }
+    void keepsPlaceholders();
+    void keepsMnemonics_data() { isComplete_data(); }
+    void keepsMnemonics();
+    void isTranslated_data() { isComplete_data(); }
+    void isTranslated();
+    void isCompiledIn_data() { isComplete_data(); }
+    void isCompiledIn();
+    void hasTheToolkitsTexts_data() { isComplete_data(); }
+    void hasTheToolkitsTexts();
+};
+
+void TestCatalogues::isComplete_data()
+{
+    QTest::addColumn<int>("number");
+    for (std::size_t i = 0; i < languages.size(); ++i)
+        QTest::newRow(languages[i].code) << int(i);
+}
+
+void TestCatalogues::isComplete()
+{
+    QFETCH(int, number);
+    const auto english = messagesOf(sourceFile(languages.front()));
+    const auto messages = messagesOf(sourceFile(languages.at(std::size_t(number))));
+    QVERIFY(english.size() > 150);
+    QCOMPARE(messages.size(), english.size());
+    for (int i = 0; i < messages.size(); ++i) {
+        QCOMPARE(messages[i].context, english[i].context);
+        QCOMPARE(messages[i].source, english[i].source);
+        QCOMPARE(messages[i].state, QString());
+        QVERIFY2(!messages[i].translation.trimmed().isEmpty(), qPrintable(messages[i].source));
+    }
+}
+
+void TestCatalogues::keepsPlaceholders()
+{
+    QFETCH(int, number);
+    for (const Message &m : messagesOf(sourceFile(languages.at(std::size_t(number)))))
+        QVERIFY2(placeholdersIn(m.source) == placeholdersIn(m.translation), qPrintable(m.source));
+}
+
+/// As many ampersands as the source: none in our own texts, one in some of the toolkit's.
+void TestCatalogues::keepsMnemonics()
+{
+    QFETCH(int, number);
+    for (const Message &m : messagesOf(sourceFile(languages.at(std::size_t(number)))))
+        QVERIFY2(m.source.count('&') == m.translation.count('&'), qPrintable(m.translation));
+}
+
+void TestCatalogues::isTranslated()
+{
+    QFETCH(int, number);
+    const Language &language = languages.at(std::size_t(number));
+    const bool isEnglish = number == 0;
+    for (const Message &m : messagesOf(sourceFile(language))) {
+        if (isEnglish) {
+            QCOMPARE(m.translation, m.source);
+            continue;
+        }
+        const bool maySame =
+            isUniversal(m.source) || loanWords().value(language.code).contains(m.source);
+        QVERIFY2(maySame || m.translation != m.source, qPrintable(m.source));
+    }
+}
+
+void TestCatalogues::isCompiledIn()
+{
+    QFETCH(int, number);
+    QTranslator translator;
+    QVERIFY(translator.load(languages.at(std::size_t(number)).catalogue));
+    QVERIFY(!translator.isEmpty());
+}
+
+void TestCatalogues::hasTheToolkitsTexts()
+{
+    QFETCH(int, number);
+    QTranslator translator;
+    QVERIFY(translator.load(languages.at(std::size_t(number)).catalogue));
+    for (const ToolkitText &text : toolkitTexts)
+        QVERIFY2(!translator.translate(text.context, text.text).isEmpty(), text.text);
+}
+
+QTEST_MAIN(TestCatalogues)
+#include "tst_catalogues.moc"
