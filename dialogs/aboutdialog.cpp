@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+// The About dialog.
+#include "dialogs/aboutdialog.h"
+
+#include "dialogs/dialogframe.h"
+#include "ui_aboutdialog.h"
+
+#include <QDesktopServices>
+#include <QUrl>
+
+AboutDialog::AboutDialog(QWidget *parent) : QDialog(parent), ui(std::make_unique<Ui::AboutDialog>())
+{
+    ui->setupUi(this);
+    showVersion();
+    fixDialogFrame(*this);
+}
+
+AboutDialog::~AboutDialog() = default;
+
+void AboutDialog::on_label_logo_linkActivated(QString link)
+{
+    QDesktopServices::openUrl(QUrl(link));
+}
+
+void AboutDialog::on_pushButton_ok_clicked()
+{
+    close();
+}
+
+void AboutDialog::uiReset()
+{
+    ui->retranslateUi(this);
+    showVersion();
+}
+
+void AboutDialog::showVersion()
+{
+    ui->label_version->setText(
+        QStringLiteral("Quorvandel %1, release on %2").arg("21.9.17", "2021-09-17"));
+}

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+// What would the user like besides? So far nothing that has an effect.
+#pragma once
+
+#include <QDialog>
+#include <memory>
+
+namespace Ui
+{
+class FavoriteDialog;
+}
+
+/// One check box, which changes nothing.
+class FavoriteDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit FavoriteDialog(QWidget *parent = nullptr);
+    ~FavoriteDialog() override;
+
+public slots:
+    void on_cBox_playMusic_clicked(bool checked);
+
+protected:
+    /// Follows the language.
+    void changeEvent(QEvent *event) override;
+
+private:
+    std::unique_ptr<Ui::FavoriteDialog> ui;
+};
