@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+// What do the sliders and edit boxes of the camera and the hemisphere buttons do?
+#include "mainwindow/mainwindow.h"
+
+#include "camera/camerastate.h"
+#include "camera/sharedstate.h"
+#include "geometry/starcatalogue.h"
+#include "mainwindow/wizardtable.h"
+#include "ui_mainwindow.h"
+
+#include <QLineEdit>
+#include <QSlider>
+#include <QtDebug>
+#include <algorithm>
+#include <limits>
+
+/// One camera parameter with its two widgets.
+struct MainWindow::Parameter {
+    QSlider &slider;
+    QLineEdit &edit;
+    double &value;        ///< in CameraState
+    double perSliderUnit; ///< camera units in one unit of the slider
+    VeldixControl control;
+};
+
+namespace
+{
+constexpr double microsecondsPerMillisecond = 1000.0;
+
+/// The number that `digits` spell; one too large for int is still too large for any slider.
+int numberIn(const QString &digits)
+{
+    bool isNumber = false;
+    const int number = digits.toInt(&isNumber);
+    return isNumber || digits.isEmpty() ? number : std::numeric_limits<int>::max();
+}
+} // namespace
+
+MainWindow::Parameter MainWindow::exposureParameter()
+{
+    return {*ui->sliderExpose, *ui->lineEditExpose, cameraState.exposure,
+            microsecondsPerMillisecond, CONTROL_EXPOSURE};
+}
+
+MainWindow::Parameter MainWindow::gainParameter()
+{
+    return {*ui->sliderGain, *ui->lineEditGain, cameraState.gain, 1.0, CONTROL_GAIN};
+}
+
+MainWindow::Parameter MainWindow::trafficParameter()
+{
+    return {*ui->sliderTraffic, *ui->lineEditTraffic, cameraState.usbTraffic, 1.0,
+            CONTROL_USBTRAFFIC};
+}
+
+MainWindow::Parameter MainWindow::speedParameter()
+{
+    return {*ui->sliderSpeed, *ui->lineEditSpeed, cameraState.speed, 1.0, CONTROL_SPEED};
+}
+
+void MainWindow::parameterSliderMoved(const Parameter &parameter, int value)
+{
+    parameter.value = value * parameter.perSliderUnit;
+    parameter.edit.setText(QString::number(value));
+    SetVELDIXParam(cameraHandle, parameter.control, parameter.value);
+}
+
+void MainWindow::parameterTyped(const Parameter &parameter)
+{
+    {
+        const QSignalBlocker blocker(parameter.slider);
+        const int typed = numberIn(parameter.edit.text());
+        const int kept = std::clamp(typed, parameter.slider.minimum(), parameter.slider.maximum());
+        if (kept != typed)
+            parameter.edit.setText(QString::number(kept));
+        parameter.slider.setValue(kept);
+    }
+    parameter.value = parameter.edit.text().toDouble() * parameter.perSliderUnit;
+    SetVELDIXParam(cameraHandle, parameter.control, parameter.value);
+}
+
+void MainWindow::on_sliderExpose_valueChanged(int value)
+{
+    parameterSliderMoved(exposureParameter(), value);
+}
+
+void MainWindow::on_lineEditExpose_returnPressed()
+{
+    parameterTyped(exposureParameter());
+}
+
+void MainWindow::on_sliderGain_valueChanged(int value)
+{
+    parameterSliderMoved(gainParameter(), value);
+}
+
+void MainWindow::on_lineEditGain_returnPressed()
+{
+    parameterTyped(gainParameter());
+}
+
+void MainWindow::on_sliderTraffic_valueChanged(int value)
+{
+    parameterSliderMoved(trafficParameter(), value);
+}
+
+void MainWindow::on_lineEditTraffic_returnPressed()
+{
+    parameterTyped(trafficParameter());
+}
+
+void MainWindow::on_sliderSpeed_valueChanged(int value)
+{
+    parameterSliderMoved(speedParameter(), value);
+}
+
+void MainWindow::on_lineEditSpeed_returnPressed()
+{
+    parameterTyped(speedParameter());
+}
+
+/// Takes over a hemisphere's stars and texts and starts the alignment anew.
+void MainWindow::changeRegion(const char *name)
+{
+    regionName = name;
+    qDebug() << "change region to " << regionName;
+    const StarCatalogue &stars = regionCatalogue();
+    alignmentPoints.angleBAP = stars.angleBAP;
+    alignmentPoints.angleABP = stars.angleABP;
+    applyRegionTexts();
+    switchStep(1);
+}
+
+void MainWindow::on_radioButton_north_toggled(bool checked)
+{
+    if (checked)
+        changeRegion("North");
+}
+
+void MainWindow::on_radioButton_south_toggled(bool checked)
+{
+    if (checked)
+        changeRegion("South");
+}

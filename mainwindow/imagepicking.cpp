@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: MIT
+// What does the mouse do over the picture and over the instruction pages?
+#include "mainwindow/mainwindow.h"
+
+#include "camera/camerastate.h"
+#include "camera/frames.h"
+#include "camera/sharedstate.h"
+#include "dialogs/magnifierwidget.h"
+#include "geometry/axiscentre.h"
+#include "geometry/stardetection.h"
+#include "mainwindow/pointtext.h"
+#include "ui_mainwindow.h"
+
+#include <QLabel>
+#include <QMessageBox>
+#include <QMouseEvent>
+#include <QTabWidget>
+#include <QTimer>
+#include <QtDebug>
+
+namespace
+{
+/// The frame position of a view pixel, in single precision.
+QPointF framePosition(QPoint view, float zoomFactor)
+{
+    return {double(float(view.x()) / zoomFactor), double(float(view.y()) / zoomFactor)};
+}
+
+/// The event's position in whole pixels of the widget that it was sent to; halves go up.
+QPoint positionOf(const QEvent *event)
+{
+    const QPointF position = static_cast<const QMouseEvent *>(event)->localPos();
+    return {qRound(position.x()), qRound(position.y())};
+}
+} // namespace
+
+bool MainWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool isMove = event->type() == QEvent::MouseMove;
+    const bool isDoubleClick = event->type() == QEvent::MouseButtonDblClick;
+    if (cameraState.cameraConnected) {
+        if (watched == ui->label_showImg && (isMove || isDoubleClick))
+            return imageEvent(event);
+        if (watched != ui->label_showImg && isMove)
+            return pageEvent(event);
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+bool MainWindow::imageEvent(QEvent *event)
+{
+    const QPoint view = positionOf(event);
+    followPointer(view);
+    if (event->type() == QEvent::MouseButtonDblClick)
+        pickStar(view);
+    return true;
+}
+
+/// The read-out over a page takes the place of the tab widget alone into account; it is never
+/// used for picking.
+bool MainWindow::pageEvent(QEvent *event)
+{
+    followPointer(tipTabs->pos() + positionOf(event));
+    return true;
+}
+
+/// Shows the pointer's frame position and what lies under it, magnified.
+void MainWindow::followPointer(QPoint view)
+{
+    positionLabel->setText(coordinateText(framePosition(view, zoomFactor)));
+    const QPixmap picture = ui->label_showImg->pixmap(Qt::ReturnByValue);
+    if (picture.isNull()) {
+        qCritical("no pixmap has been set in the Label_showImg");
+        return;
+    }
+    magnifier->setSource(picture);
+    magnifier->setCentre(view);
+    magnifier->update();
+}
+
+void MainWindow::pickStar(QPoint view)
+{
+    const QPointF start = framePosition(view, zoomFactor);
+    const cv::Mat frame = copyOfRawFrame();
+    double x = 0, y = 0;
+    if (GetPreciseStarPos(&frame, start.x(), start.y(), x, y) != 0) {
+        QMessageBox::warning(this, tr("Warn"),
+                             tr("Seems no star in this point, please try other point."),
+                             QMessageBox::Ok);
+        return;
+    }
+    const QPointF star(x, y);
+    switch (currentStep) {
+    case 2:
+        placeTemplateAt(view);
+        break;
+    case 3:
+        starPos1 = star;
+        qDebug() << "star pos1" << x << y;
+        switchStep(4);
+        break;
+    case 5:
+        starPos2 = star;
+        qDebug() << "star pos2" << x << y;
+        switchStep(6);
+        break;
+    case 7:
+        pickThirdStar(star);
+        break;
+    case 9:
+    case 11:
+        pickPoleStar(view, star);
+        break;
+    default:
+        break;
+    }
+}
+
+/// Centres the template on the click, not on the star.
+void MainWindow::placeTemplateAt(QPoint view)
+{
+    clickViewPos = view;
+    templateCenter = framePosition(view, zoomFactor);
+    QLabel &label = *ui->label_templateImg;
+    label.move(view.x() - label.width() / 2, view.y() - label.height() / 2);
+    label.show();
+    rotateTemplate(rotateValue);
+    effectTimer->start();
+}
+
+void MainWindow::pickPoleStar(QPoint view, QPointF star)
+{
+    placeTemplateAt(view);
+    polarisPos = star;
+    ui->label_curPos->setText(pointText(star));
+    // The target would otherwise be the one of an earlier pick until the slider is moved.
+    showPolarisTarget();
+}
+
+void MainWindow::pickThirdStar(QPointF star)
+{
+    starPos3 = star;
+    qDebug() << "star pos3" << star.x() << star.y();
+    double x = axisCenter.x(), y = axisCenter.y();
+    if (CenterOfCircle(starPos1.x(), starPos1.y(), starPos2.x(), starPos2.y(), starPos3.x(),
+                       starPos3.y(), x, y, axisRadius) != 0) {
+        QMessageBox::warning(this, tr("Warn"),
+                             tr("Can not get the Axis center, please click 'reset' to re-find it."),
+                             QMessageBox::Ok);
+        return;
+    }
+    axisCenter = QPointF(x, y);
+    qDebug() << "axis center" << x << y << axisRadius;
+    alignmentPoints.savedAxisCenter = axisCenter;
+    alignmentPoints.savedAxisRadius = axisRadius;
+    switchStep(8);
+}

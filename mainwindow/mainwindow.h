@@ -1,0 +1,263 @@
+// SPDX-License-Identifier: MIT
+// The one window of the program: who owns what, and which signals and slots are there?
+#pragma once
+
+#include "camera/capturethread.h"
+#include "dialogs/style.h"
+
+#include <QImage>
+#include <QMainWindow>
+#include <QPoint>
+#include <QPointF>
+#include <QTranslator>
+#include <memory>
+
+class AboutDialog;
+class AstroRefractionDialog;
+class FavoriteDialog;
+class MagnifierWidget;
+class PoleTrackingDialog;
+class QGraphicsDropShadowEffect;
+class QLabel;
+class QMediaPlayer;
+class QSlider;
+class QTabWidget;
+class QTimer;
+struct Settings;
+struct StarCatalogue;
+struct WizardPage;
+struct WizardStep;
+
+namespace Ui
+{
+class MainWindow;
+}
+
+/// Owns every other object of the program and all of its state but for the process-wide records.
+/// The class lies over several files, each named for its concern.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindow(QWidget *parent = nullptr);
+    ~MainWindow() override;
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+    /// The wizard's step: 1 to 13, and 1 after construction.
+    int step() const { return currentStep; }
+
+signals:
+    void initAstroRefraction();
+    void changeLanguage();
+    void resetUI();
+
+private slots:
+    // wizard.cpp: the sections' heads and the pages' buttons
+    void on_pushButton_head_region_toggled(bool checked);
+    void on_pushButton_head_setting_toggled(bool checked);
+    void on_pushButton_head_confirm_toggled(bool checked);
+    void on_pushButton_head_rough_toggled(bool checked);
+    void on_pushButton_head_precise_toggled(bool checked);
+    void pushbuttonSettingDoneClicked();
+    void pushbuttonConfirmDoneClicked();
+    void pushbuttonRotateStar1ResetClicked();
+    void pushbuttonRotateStar1DoneClicked();
+    void pushbuttonGetStar2ResetClicked();
+    void pushbuttonRotateStar2ResetClicked();
+    void pushbuttonRotateStar2DoneClicked();
+    void pushbuttonGetStar3ResetClicked();
+    void pushbuttonValidateCenterResetClicked();
+    void pushbuttonValidateCenterDoneClicked();
+    void pushbuttonGetEptPolarisDoneClicked();
+    void pushbuttonMovePolarisDoneClicked();
+    void pushbuttonGetCurPolarisDoneClicked();
+    void pushbuttonFinetunePoleResetClicked();
+    void pushbuttonFinetunePoleDoneClicked();
+    // framedisplay.cpp and wizard.cpp: the timers
+    void showImages();
+    void increaseAngleTimeout();
+    void graphicsEffectTimeout();
+    void updateFPS();
+    // monitormode.cpp
+    void poleTracking(double degree);
+    // texts.cpp
+    void languageChanged();
+    void uiReset();
+    // capturecontrols.cpp and templateoverlay.cpp
+    void on_radioButton_north_toggled(bool checked);
+    void on_radioButton_south_toggled(bool checked);
+    void on_horizontalSlider_confirm_match_valueChanged(int value);
+    void on_pushButton_confirm_minus_clicked();
+    void on_pushButton_confirm_add_clicked();
+    void on_horizontalSlider_rough_match_valueChanged(int value);
+    void on_pushButton_rough_minus_clicked();
+    void on_pushButton_rough_add_clicked();
+    void on_pushButton_monitor_clicked();
+    // menuactions.cpp
+    void on_actionSave_As_triggered();
+    void on_actionExit_triggered();
+    void on_actionConnect_triggered();
+    void on_actionDisplay_Template_toggled(bool checked);
+    void on_actionMono_Style_toggled(bool arg1);
+    void on_actionStretch_toggled(bool checked);
+    void on_actionAstronomical_Refraction_triggered();
+    void on_actionManual_Trace_triggered();
+    void on_action100_toggled(bool checked);
+    void on_action75_toggled(bool checked);
+    void on_action50_toggled(bool checked);
+    void on_actionQuorvandel_Manual_triggered();
+    void on_actionAbout_triggered();
+    void on_actionEnglish_toggled(bool checked);
+    void on_actionChinese_toggled(bool checked);
+    void on_actionJapanese_toggled(bool checked);
+    void on_actionRussian_toggled(bool checked);
+    void on_actionFrench_toggled(bool checked);
+    void on_actionGerman_toggled(bool checked);
+    void on_actionSpanish_toggled(bool checked);
+    void on_actionPortuguese_toggled(bool checked);
+    void on_actionItalian_toggled(bool checked);
+    void on_actionKorean_toggled(bool checked);
+    // capturecontrols.cpp: the camera's parameters
+    void on_sliderExpose_valueChanged(int value);
+    void on_lineEditExpose_returnPressed();
+    void on_sliderGain_valueChanged(int value);
+    void on_lineEditGain_returnPressed();
+    void on_sliderTraffic_valueChanged(int value);
+    void on_lineEditTraffic_returnPressed();
+    void on_sliderSpeed_valueChanged(int value);
+    void on_lineEditSpeed_returnPressed();
+    void on_actionFavorite_triggered();
+    void on_actionPlay_Audio_toggled(bool checked);
+    void on_actionPlay_Audio_triggered();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+
+private:
+    friend class MainWindowProbe; // reads and sets the state for the tests
+
+    // construction.cpp
+    void buildImageArea();
+    void buildShadows();
+    void buildActionGroups();
+    void buildStatusBar();
+    void buildDialogs();
+    void connectSignals();
+    void startTimers();
+    void loadStarCatalogue();
+    void applyRegion();
+    void applyStyle();
+    void applyZoomAction();
+    void applyLanguageAction();
+    void applyIdleState();
+    void buildValidators();
+    void buildPlayer();
+    void initialiseSdk();
+
+    // wizardpages.cpp
+    void buildWizardPages();
+    void buildWizardPage(const WizardPage &page);
+    void applyPageTexts();
+    void applyRegionTexts();
+    void placeImageOverlays();
+
+    // wizard.cpp
+    void switchStep(int step);
+    void openSections(unsigned open);
+    void showLamps(LampCount lit);
+    void setOverlayFlags(const WizardStep &step);
+    void sectionToggled(int section, bool checked);
+
+    // settings.cpp
+    bool loadSettings();
+    void saveSettings() const;
+    void takeSettings(const Settings &settings);
+    void setStyleName(const QString &name);
+
+    // cameraconnection.cpp
+    void connectCamera();
+    void disconnectCamera();
+    bool chooseCamera();
+    bool openCamera();
+    void configureCamera();
+    void readCameraParameters();
+    void showConnected(bool connected);
+    void showNotFound();
+    bool closeCamera();
+
+    // imagepicking.cpp
+    bool imageEvent(QEvent *event);
+    bool pageEvent(QEvent *event);
+    void followPointer(QPoint view);
+    void pickStar(QPoint view);
+    void placeTemplateAt(QPoint view);
+    void pickPoleStar(QPoint view, QPointF star);
+    void pickThirdStar(QPointF star);
+
+    // templateoverlay.cpp
+    void computeTemplatePoles();
+    const QImage &regionMask() const;
+    const StarCatalogue &regionCatalogue() const;
+    void rotateTemplate(int angle);
+    void showFlatTemplate();
+    void showPolarisTarget();
+    void scaleDirectionArrow();
+    void setZoom(float factor);
+    void stepRotation(QSlider &slider, int degrees);
+
+    // capturecontrols.cpp
+    struct Parameter;
+    Parameter exposureParameter();
+    Parameter gainParameter();
+    Parameter trafficParameter();
+    Parameter speedParameter();
+    void parameterSliderMoved(const Parameter &parameter, int value);
+    void parameterTyped(const Parameter &parameter);
+    void changeRegion(const char *name);
+
+    // texts.cpp
+    void chooseLanguage(const char *code, bool checked);
+
+    std::unique_ptr<Ui::MainWindow> ui;
+
+    int currentStep = 0;
+    float zoomFactor = 1.0F;
+    int rotateValue = 0;    ///< template angle, degrees 0..360, clockwise on the screen
+    QPoint clickViewPos;    ///< template centre in view pixels
+    QPointF templateCenter; ///< template centre in frame pixels
+    QPointF starPos1, starPos2, starPos3; ///< one star at three RA angles, frame pixels
+    QPointF axisCenter;                   ///< fitted RA axis, frame pixels
+    int axisRadius = 0;                   ///< of the circle through the three picks, frame pixels
+    QPointF polarisPos;                   ///< the picked pole star, frame pixels
+    QPointF starAStart, starBStart;       ///< reference stars as found when monitoring was prepared
+    QString regionName;                   ///< "North" or "South"
+    QString languageCode;                 ///< "EN", "ZH", ...
+    QString styleName;                    ///< "Color" or "Mono"
+
+    QImage blankImage;   ///< what the magnifier shows without a camera
+    QImage displayImage; ///< the last shown picture, at its zoom; what Save As writes
+    QImage northMask, southMask;
+
+    QTabWidget *tipTabs = nullptr;
+    QLabel *directionArrow = nullptr;
+    QLabel *positionLabel = nullptr;
+    QLabel *fpsLabel = nullptr;
+    MagnifierWidget *magnifier = nullptr;
+    QGraphicsDropShadowEffect *sliderShadow = nullptr;
+    QGraphicsDropShadowEffect *roughSliderShadow = nullptr;
+    QTimer *frameTimer = nullptr;
+    QTimer *fpsTimer = nullptr;
+    QTimer *angleTimer = nullptr;
+    QTimer *effectTimer = nullptr;
+    AboutDialog *aboutDialog = nullptr;
+    AstroRefractionDialog *refractionDialog = nullptr;
+    PoleTrackingDialog *trackingDialog = nullptr;
+    FavoriteDialog *favoriteDialog = nullptr;
+    QTranslator *translator = nullptr;
+    QMediaPlayer *player = nullptr;
+    std::unique_ptr<CaptureThread> captureThread;
+};

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+// Where does the capture thread look for the reference stars?
+#include "mainwindow/mainwindow.h"
+
+#include "camera/frames.h"
+#include "camera/monitor.h"
+#include "camera/sharedstate.h"
+#include "geometry/axiscentre.h"
+#include "geometry/templateoverlay.h"
+
+#include <QtDebug>
+
+namespace
+{
+QPointF turned(QPointF point, QPointF centre, double degrees)
+{
+    double x = 0, y = 0;
+    RotatePointByDegrees(degrees, point.x(), point.y(), centre.x(), centre.y(), x, y);
+    return {x, y};
+}
+} // namespace
+
+void MainWindow::pushbuttonGetCurPolarisDoneClicked()
+{
+    const cv::Mat frame = copyOfRawFrame();
+    starAStart = starNear(frame, predictedStarA(regionCatalogue(), rotateValue, polarisPos));
+    monitorPositions.starASearch = starAStart;
+    qDebug() << "current StarA point" << starAStart.x() << starAStart.y();
+    starBStart = starNear(frame, polarisPos);
+    monitorPositions.starBSearch = starBStart;
+    qDebug() << "current StarB point" << starBStart.x() << starBStart.y();
+    switchStep(12);
+}
+
+void MainWindow::on_pushButton_monitor_clicked()
+{
+    switchStep(13);
+}
+
+/// Always from where the stars were found at the start: successive turns do not add up.
+void MainWindow::poleTracking(double degree)
+{
+    const QPointF axis = alignmentPoints.savedAxisCenter;
+    const QPointF a = turned(starAStart, axis, degree);
+    const QPointF b = turned(starBStart, axis, degree);
+    monitorPositions.starASearch = a;
+    monitorPositions.starBSearch = b;
+    qDebug() << "StarA area" << a.x() << a.y();
+    qDebug() << "StarB area" << b.x() << b.y();
+}

@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: MIT
+// Where does the template lie over the picture, and how does it follow the sliders and the zoom?
+#include "mainwindow/mainwindow.h"
+
+#include "camera/sharedstate.h"
+#include "geometry/saturate.h"
+#include "geometry/starcatalogue.h"
+#include "geometry/templateoverlay.h"
+#include "geometry/templatepole.h"
+#include "mainwindow/pointtext.h"
+#include "mainwindow/wizardtable.h"
+#include "ui_mainwindow.h"
+
+#include <QLabel>
+#include <QSlider>
+#include <algorithm>
+
+namespace
+{
+/// The arrow picture's size at full zoom, pixels.
+const QSize arrowSize(238, 171);
+/// The largest arrow, whatever the zoom factor.
+constexpr int largestArrow = 4096;
+
+void showPlaced(QLabel &label, const PlacedTemplate &placed)
+{
+    if (placed.image.isNull())
+        return;
+    label.setGeometry(placed.geometry);
+    label.setPixmap(QPixmap::fromImage(placed.image));
+}
+} // namespace
+
+/// The poles are marked in the masks themselves, so that the marks turn and scale with them.
+void MainWindow::computeTemplatePoles()
+{
+    if (!northMask.isNull())
+        computeTemplatePole(northCatalogue, northMask, "north");
+    if (!southMask.isNull())
+        computeTemplatePole(southCatalogue, southMask, "south");
+}
+
+const QImage &MainWindow::regionMask() const
+{
+    return regionName == QLatin1String("South") ? southMask : northMask;
+}
+
+const StarCatalogue &MainWindow::regionCatalogue() const
+{
+    return regionName == QLatin1String("North") ? northCatalogue : southCatalogue;
+}
+
+void MainWindow::rotateTemplate(int angle)
+{
+    if (ui->label_templateImg->isVisible())
+        showPlaced(*ui->label_templateImg,
+                   turnTemplate(regionMask(), angle, zoomFactor, clickViewPos));
+    rotateValue = angle;
+}
+
+void MainWindow::showFlatTemplate()
+{
+    showPlaced(*ui->label_templateImg, flatTemplate(regionMask(), zoomFactor, templateCenter));
+}
+
+/// Where the pole star must be placed, from the template's angle: for the capture side and the eye.
+void MainWindow::showPolarisTarget()
+{
+    const QPointF pole = expectedPole(regionCatalogue(), rotateValue, polarisPos);
+    const QPointF target = polarisTarget(polarisPos, pole, alignmentPoints.savedAxisCenter);
+    alignmentPoints.polarisTarget = target;
+    ui->label_eptPos->setText(pointText(target));
+}
+
+void MainWindow::scaleDirectionArrow()
+{
+    const auto side = [this](int full) {
+        return std::min(saturatingInt(double(float(full) * zoomFactor)), largestArrow);
+    };
+    const QPixmap arrow = QPixmap(QStringLiteral(":/images/direction.png"))
+                              .scaled(side(arrowSize.width()), side(arrowSize.height()),
+                                      Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    directionArrow->setPixmap(arrow);
+    placeImageOverlays();
+}
+
+void MainWindow::setZoom(float factor)
+{
+    zoomFactor = factor;
+    scaleDirectionArrow();
+    showFlatTemplate();
+    if (!showsTemplate(currentStep))
+        return;
+    clickViewPos = viewPosition(zoomFactor, templateCenter);
+    rotateTemplate(rotateValue);
+}
+
+void MainWindow::on_action100_toggled(bool checked)
+{
+    if (checked)
+        setZoom(1.0F);
+}
+
+void MainWindow::on_action75_toggled(bool checked)
+{
+    if (checked)
+        setZoom(0.75F);
+}
+
+void MainWindow::on_action50_toggled(bool checked)
+{
+    if (checked)
+        setZoom(0.5F);
+}
+
+void MainWindow::on_horizontalSlider_confirm_match_valueChanged(int value)
+{
+    rotateTemplate(value);
+}
+
+void MainWindow::on_horizontalSlider_rough_match_valueChanged(int value)
+{
+    rotateTemplate(value);
+    showPolarisTarget();
+}
+
+/// Turns the shared angle by some degrees, within 0 to 360, and moves `slider` there.
+void MainWindow::stepRotation(QSlider &slider, int degrees)
+{
+    rotateValue = std::clamp(rotateValue + degrees, slider.minimum(), slider.maximum());
+    // The sliders share the angle: this one may stand there already, and its slot must run still.
+    if (slider.value() == rotateValue)
+        emit slider.valueChanged(rotateValue);
+    else
+        slider.setValue(rotateValue);
+}
+
+void MainWindow::on_pushButton_confirm_minus_clicked()
+{
+    stepRotation(*ui->horizontalSlider_confirm_match, -1);
+}
+
+void MainWindow::on_pushButton_confirm_add_clicked()
+{
+    stepRotation(*ui->horizontalSlider_confirm_match, 1);
+}
+
+void MainWindow::on_pushButton_rough_minus_clicked()
+{
+    stepRotation(*ui->horizontalSlider_rough_match, -1);
+}
+
+void MainWindow::on_pushButton_rough_add_clicked()
+{
+    stepRotation(*ui->horizontalSlider_rough_match, 1);
+}

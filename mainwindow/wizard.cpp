@@ -1,0 +1,226 @@
+// SPDX-License-Identifier: MIT
+// In which step is the alignment, and what moves it on?
+#include "mainwindow/mainwindow.h"
+
+#include "camera/sharedstate.h"
+#include "geometry/axiscentre.h"
+#include "mainwindow/pointtext.h"
+#include "mainwindow/wizardtable.h"
+#include "ui_mainwindow.h"
+
+#include <QGraphicsDropShadowEffect>
+#include <QLabel>
+#include <QMessageBox>
+#include <QTabWidget>
+#include <QTimer>
+#include <QtDebug>
+#include <array>
+
+namespace
+{
+void apply(Change change, QWidget *widget)
+{
+    if (change != Change::Keep)
+        widget->setVisible(change == Change::On);
+}
+
+void apply(Change change, Relaxed<bool> &flag)
+{
+    if (change != Change::Keep)
+        flag = change == Change::On;
+}
+
+struct SectionWidgets {
+    QPushButton *head;
+    QWidget *body;
+    const char *word; ///< in the log
+};
+
+std::array<SectionWidgets, sectionCount> sectionsOf(const Ui::MainWindow &ui)
+{
+    return {{{ui.pushButton_head_region, ui.widget_region, "region head "},
+             {ui.pushButton_head_setting, ui.widget_setting, "setting head "},
+             {ui.pushButton_head_confirm, ui.widget_confirm, "confirm head "},
+             {ui.pushButton_head_rough, ui.widget_rough, "rough head "},
+             {ui.pushButton_head_precise, ui.widget_precise, "precise head "}}};
+}
+} // namespace
+
+void MainWindow::switchStep(int step)
+{
+    if (step == wizardStepDone) {
+        tipTabs->hide();
+        return;
+    }
+    if (step < 1 || step > wizardStepCount) {
+        tipTabs->hide();
+        openSections(0);
+        ui->label_templateImg->hide();
+        directionArrow->hide();
+        return;
+    }
+    const WizardStep &row = wizardStep(step);
+    tipTabs->show();
+    tipTabs->setCurrentIndex(step - 1);
+    openSections(row.open);
+    apply(row.templateLabel, ui->label_templateImg);
+    apply(row.arrow, directionArrow);
+    if (row.lamps != lampsUnchanged)
+        showLamps(row.lamps);
+    setOverlayFlags(row);
+    if (row.stopsBlinking)
+        effectTimer->stop();
+    currentStep = step;
+    placeImageOverlays();
+}
+
+void MainWindow::setOverlayFlags(const WizardStep &row)
+{
+    apply(row.axisMark, overlayFlags.showAxisMark);
+    apply(row.starCircle, overlayFlags.showStarCircle);
+    apply(row.rotatingArc, overlayFlags.showRotatingArc);
+    for (Relaxed<bool> *const flag : {&overlayFlags.monitorTracking, &overlayFlags.showPoleRect,
+                                      &overlayFlags.showMonitorCross})
+        apply(row.monitor, *flag);
+}
+
+void MainWindow::openSections(unsigned open)
+{
+    const auto sections = sectionsOf(*ui);
+    for (std::size_t i = 0; i < sections.size(); ++i) {
+        const bool isOpen = (open & (1U << i)) != 0;
+        sections[i].head->setChecked(isOpen);
+        sections[i].body->setVisible(isOpen);
+    }
+}
+
+void MainWindow::showLamps(LampCount lit)
+{
+    const Style &style = styleNamed(styleName);
+    const QPixmap on(style.lampOn);
+    const QPixmap off(style.lampOff);
+    int lamp = 0;
+    for (QLabel *const icon :
+         {ui->label_starPos1_icon, ui->label_starPos2_icon, ui->label_starPos3_icon})
+        icon->setPixmap(lamp++ < lit ? on : off);
+}
+
+void MainWindow::sectionToggled(int section, bool checked)
+{
+    const SectionWidgets widgets = sectionsOf(*ui).at(static_cast<std::size_t>(section));
+    qDebug() << widgets.word << checked;
+    widgets.body->setVisible(checked);
+    widgets.head->setIcon(QIcon(checked ? QStringLiteral(":/images/collapse.png")
+                                        : QStringLiteral(":/images/expand.png")));
+}
+
+void MainWindow::on_pushButton_head_region_toggled(bool checked)
+{
+    sectionToggled(0, checked);
+}
+void MainWindow::on_pushButton_head_setting_toggled(bool checked)
+{
+    sectionToggled(1, checked);
+}
+void MainWindow::on_pushButton_head_confirm_toggled(bool checked)
+{
+    sectionToggled(2, checked);
+}
+void MainWindow::on_pushButton_head_rough_toggled(bool checked)
+{
+    sectionToggled(3, checked);
+}
+void MainWindow::on_pushButton_head_precise_toggled(bool checked)
+{
+    sectionToggled(4, checked);
+}
+
+void MainWindow::pushbuttonSettingDoneClicked()
+{
+    switchStep(2);
+}
+void MainWindow::pushbuttonRotateStar1ResetClicked()
+{
+    switchStep(3);
+}
+void MainWindow::pushbuttonRotateStar1DoneClicked()
+{
+    switchStep(5);
+}
+void MainWindow::pushbuttonGetStar2ResetClicked()
+{
+    switchStep(3);
+}
+void MainWindow::pushbuttonRotateStar2ResetClicked()
+{
+    switchStep(3);
+}
+void MainWindow::pushbuttonRotateStar2DoneClicked()
+{
+    switchStep(7);
+}
+void MainWindow::pushbuttonGetStar3ResetClicked()
+{
+    switchStep(3);
+}
+void MainWindow::pushbuttonValidateCenterResetClicked()
+{
+    switchStep(3);
+}
+void MainWindow::pushbuttonGetEptPolarisDoneClicked()
+{
+    switchStep(10);
+}
+void MainWindow::pushbuttonMovePolarisDoneClicked()
+{
+    switchStep(11);
+}
+void MainWindow::pushbuttonFinetunePoleResetClicked()
+{
+    switchStep(1);
+}
+void MainWindow::pushbuttonFinetunePoleDoneClicked()
+{
+    switchStep(wizardStepDone);
+}
+
+void MainWindow::pushbuttonConfirmDoneClicked()
+{
+    const QPointF saved = alignmentPoints.savedAxisCenter;
+    if (!(saved.x() > 0.0 && saved.y() > 0.0)) {
+        switchStep(3);
+        return;
+    }
+    const auto answer =
+        QMessageBox::question(nullptr, tr("Question"),
+                              tr("Would you like to use the 'Axis center position' recorded last "
+                                 "time you used Quorvandel ?"),
+                              QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes);
+    if (answer == QMessageBox::Yes) {
+        ui->label_axisPos->setText(pointText(saved));
+        switchStep(9);
+    } else {
+        alignmentPoints.savedAxisCenter = QPointF(0, 0);
+        switchStep(3);
+    }
+}
+
+void MainWindow::pushbuttonValidateCenterDoneClicked()
+{
+    alignmentPoints.savedAxisCenter = axisCenter;
+    ui->label_axisPos->setText(pointText(axisCenter));
+    switchStep(9);
+}
+
+void MainWindow::increaseAngleTimeout()
+{
+    overlayFlags.arcAngle = nextArcAngle(overlayFlags.arcAngle);
+}
+
+void MainWindow::graphicsEffectTimeout()
+{
+    if (currentStep == 2)
+        sliderShadow->setEnabled(!sliderShadow->isEnabled());
+    else if (showsTemplate(currentStep))
+        roughSliderShadow->setEnabled(!roughSliderShadow->isEnabled());
+}

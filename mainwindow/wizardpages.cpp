@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+// How are the instruction pages built, worded and placed over the picture?
+#include "mainwindow/mainwindow.h"
+
+#include "dialogs/magnifierwidget.h"
+#include "mainwindow/wizardtable.h"
+#include "ui_mainwindow.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QVBoxLayout>
+#include <algorithm>
+
+namespace
+{
+/// Distance of the overlays from the edges of the image area and from each other, pixels.
+constexpr int gap = 6;
+/// Wider than this a tip is harder to read than tall.
+constexpr int widestPage = 760;
+
+template <typename Widget> Widget *named(Widget *widget, const char *name)
+{
+    widget->setObjectName(name);
+    return widget;
+}
+} // namespace
+
+void MainWindow::buildWizardPages()
+{
+    tipTabs = named(new QTabWidget(ui->scrollArea_showImg), "tabWidget_tipMsg");
+    tipTabs->tabBar()->hide();
+    for (int step = 1; step <= wizardStepCount; ++step)
+        buildWizardPage(wizardPage(step));
+    applyPageTexts();
+}
+
+void MainWindow::buildWizardPage(const WizardPage &page)
+{
+    auto *const widget = new QWidget;
+    if (page.name)
+        widget->setObjectName(page.name);
+    auto *const rows = new QVBoxLayout(widget);
+    auto *const tip = named(new QLabel(widget), page.tipName);
+    tip->setWordWrap(true);
+    rows->addWidget(tip, 1);
+    auto *const row = new QHBoxLayout;
+    row->addStretch(1);
+    if (page.askName)
+        row->addWidget(named(new QLabel(widget), page.askName));
+    for (const PageButton &button : page.buttons) {
+        if (!button.name)
+            continue;
+        auto *const pushButton = named(new QPushButton(widget), button.name);
+        connect(pushButton, SIGNAL(clicked(bool)), this, button.slot);
+        row->addWidget(pushButton);
+    }
+    if (row->count() > 1)
+        rows->addLayout(row);
+    else
+        delete row;
+    widget->installEventFilter(this);
+    tipTabs->addTab(widget, QString());
+}
+
+void MainWindow::applyPageTexts()
+{
+    for (int step = 1; step <= wizardStepCount; ++step) {
+        const WizardPage &page = wizardPage(step);
+        tipTabs->findChild<QLabel *>(page.tipName)->setText(tr(page.northTip));
+        if (page.askName)
+            tipTabs->findChild<QLabel *>(page.askName)->setText(tr(page.ask));
+        for (const PageButton &button : page.buttons)
+            if (button.name)
+                tipTabs->findChild<QPushButton *>(button.name)->setText(tr(button.text));
+    }
+}
+
+void MainWindow::applyRegionTexts()
+{
+    for (int step = 1; step <= wizardStepCount; ++step) {
+        const WizardPage &page = wizardPage(step);
+        if (const char *const tip = regionTip(page, regionName))
+            tipTabs->findChild<QLabel *>(page.tipName)->setText(tr(tip));
+    }
+}
+
+/// Puts the page over the top of the picture, right of the magnifier and no higher than its text
+/// needs, and the arrow below it.
+void MainWindow::placeImageOverlays()
+{
+    const QRect area = ui->scrollArea_showImg->viewport()->geometry();
+    const int left = magnifier->geometry().right() + gap;
+    const int width = std::clamp(area.right() - gap - left, 0, widestPage);
+    QWidget *const page = tipTabs->currentWidget();
+    const int frame = std::max(tipTabs->height() - page->height(), 0);
+    page->layout()->activate();
+    const int height = std::max(page->layout()->totalHeightForWidth(width - frame), 0) + frame;
+    tipTabs->setGeometry(left, gap, width, std::max(height, page->minimumSizeHint().height()));
+    directionArrow->adjustSize();
+    directionArrow->move(std::max(left + (width - directionArrow->width()) / 2, 0),
+                         tipTabs->geometry().bottom() + gap);
+}

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+// What do the tests of the wizard begin with? A window that knows nothing of earlier runs.
+#pragma once
+
+#include "mainwindow/mainwindow.h"
+#include "resources/resources.h"
+#include "tests/support/mainwindowprobe.h"
+#include "tests/window/windowtest.h"
+
+#include <QObject>
+#include <memory>
+
+/// Each test function has a new window of its own, made without a settings file.
+class FreshWindowTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { initialiseResources(); }
+    void init()
+    {
+        removeSettings();
+        window = std::make_unique<MainWindow>();
+        probe = std::make_unique<MainWindowProbe>(*window);
+    }
+    void cleanup() { window.reset(); }
+    void cleanupTestCase() { removeSettings(); }
+
+protected:
+    std::unique_ptr<MainWindow> window;
+    std::unique_ptr<MainWindowProbe> probe;
+};
