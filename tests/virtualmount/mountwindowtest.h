@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+// How do tests take hold of the virtual mount's window?
+#pragma once
+
+#include "tests/virtualmount/mounttest.h"
+#include "virtualmount/mountwindow.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QLabel>
+#include <QtTest>
+
+/// The child of that class and name; the test run ends at once where there is none.
+template <typename T> T &named(const QObject &parent, const QString &name)
+{
+    T *const found = parent.findChild<T *>(name);
+    if (!found)
+        qFatal("no widget %s", qPrintable(name));
+    return *found;
+}
+
+inline QString textOf(const QObject &window, const QString &label)
+{
+    return named<QLabel>(window, label).text();
+}
+
+inline void clickOn(const QObject &window, const QString &button)
+{
+    auto &widget = named<QAbstractButton>(window, button);
+    const QPoint place(12, widget.height() / 2); // a check box takes clicks on its left only
+    QTest::mouseClick(&widget, Qt::LeftButton, Qt::NoModifier, place);
+}
+
+/// Sends a key to whatever has the keyboard.
+inline void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+{
+    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+}
+
+/// Alt and the underlined letter of a button, which then stays down for a tenth of a second.
+inline void pressMnemonic(Qt::Key key)
+{
+    press(key, Qt::AltModifier);
+    QTest::qWait(250);
+}
+
+/// A window on screen that has the keyboard.
+class ShownWindow
+{
+public:
+    explicit ShownWindow(const QString &skyFile) : window(skyFile)
+    {
+        window.show();
+        window.activateWindow();
+        if (!QTest::qWaitForWindowActive(&window))
+            qFatal("the window does not become active");
+    }
+    MountWindow window;
+};

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+// The virtual mount's entry point: the look, the sky file, the window, the event loop.
+#include "app/stylesheet.h"
+#include "resources/resources.h"
+#include "virtualcamera/skyfile.h"
+#include "virtualmount/mountwindow.h"
+#include "virtualmount/places.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QFile>
+#include <QScreen>
+#include <cstdio>
+
+namespace
+{
+/// In the form that -qwindowgeometry takes.
+QByteArray geometryText(const QRect &place)
+{
+    return QStringLiteral("%1x%2+%3+%4")
+        .arg(place.width())
+        .arg(place.height())
+        .arg(place.x())
+        .arg(place.y())
+        .toLatin1();
+}
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    // Nothing is drawn with OpenGL: its libraries are not even loaded.
+    QApplication::setAttribute(Qt::AA_ForceRasterWidgets);
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("quorvandel-mount"));
+    QCommandLineParser options;
+    options.setApplicationDescription(QStringLiteral(
+        "The knobs of Quorvandel's virtual mount: edits the virtual camera's sky file."));
+    options.addHelpOption();
+    options.addOption(
+        {QStringLiteral("places"),
+         QStringLiteral("Print where the program and this window stand side by side.")});
+    options.process(application);
+    initialiseResources();
+    applyStyleSheet(application, QStringLiteral(":/qss/default.qss"));
+    MountWindow window(QFile::decodeName(virtualsky::skyFilePath().c_str()));
+    if (options.isSet(QStringLiteral("places"))) {
+        window.ensurePolished();
+        const Places places =
+            sideBySide(QGuiApplication::primaryScreen()->availableGeometry(), window.sizeHint());
+        printf("%s %s\n", geometryText(places.program).constData(),
+               geometryText(places.mount).constData());
+        return 0;
+    }
+    window.show();
+    return QApplication::exec();
+}

@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: MIT
+// The hand's actions, each on a state given to it.
+#include "virtualmount/mountmodel.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace virtualmount
+{
+namespace
+{
+constexpr double pi = 3.141592653589793;
+// Degrees in a UT1 second: the rate of the Earth rotation angle (IAU 2000).
+constexpr double skyRate = 360.0 * 1.00273781191135448 / 86400.0;
+constexpr double longestPause = 0.25; // seconds
+constexpr double boltLimit = 20.0;    // degrees
+constexpr double grains = 1e7;        // a degree; 0.4 milliarcseconds each
+
+double grained(double degrees)
+{
+    return std::round(degrees * grains) / grains;
+}
+
+// Puts the tracked turn into the axis' own angle and lets tracking begin anew.
+void settleTracking(SkyState &state, const Moment &moment)
+{
+    if (state.tracking)
+        turnAxis(state, trackedTurn(moment));
+    state.trackingSince.reset();
+}
+
+// With the computer's time the beginning is known for good, whoever looks at the file and when.
+// A date of its own is counted from when the camera reads it: the beginning is left to it.
+void beginTracking(SkyState &state, double utcSeconds)
+{
+    if (state.tracking && !state.date)
+        state.trackingSince = utcSeconds;
+}
+} // namespace
+
+double wrapped(double degrees)
+{
+    if (!std::isfinite(degrees))
+        return 0.0;
+    const double turned = grained(std::remainder(degrees, 360.0));
+    return turned <= -180.0 ? 180.0 : turned + 0.0; // no -0
+}
+
+double AxisMotion::advance(double seconds)
+{
+    const double most = turnRate * std::clamp(seconds, 0.0, longestPause);
+    if (std::abs(left) <= most) {
+        const double last = left;
+        left = 0.0;
+        return last;
+    }
+    const double step = std::copysign(most, left);
+    left -= step;
+    return step;
+}
+
+double trackedTurn(const Moment &moment)
+{
+    if (!moment.state.tracking)
+        return 0.0;
+    return skyRate * (moment.utcSeconds - moment.state.trackingSince.value_or(moment.utcSeconds));
+}
+
+double axisAngle(const Moment &moment)
+{
+    return wrapped(moment.state.raAngle + trackedTurn(moment));
+}
+
+void turnAxis(SkyState &state, double degrees)
+{
+    state.raAngle = wrapped(state.raAngle + degrees);
+}
+
+void turnBolt(SkyState &state, double SkyState::*bolt, double degrees)
+{
+    const double turned = grained(state.*bolt + degrees);
+    state.*bolt = std::clamp(turned, -boltLimit, boltLimit) + 0.0;
+}
+
+void setTracking(SkyState &state, const Moment &moment, bool on)
+{
+    if (state.tracking == on)
+        return;
+    settleTracking(state, moment);
+    state.tracking = on;
+    beginTracking(state, moment.utcSeconds);
+}
+
+TimeMode timeMode(const SkyState &state)
+{
+    if (!state.date)
+        return TimeMode::Now;
+    return state.running ? TimeMode::Running : TimeMode::Still;
+}
+
+void setTime(SkyState &state, const Moment &moment, double systemSeconds, TimeMode mode,
+             double date)
+{
+    settleTracking(state, moment);
+    state.running = mode != TimeMode::Still;
+    if (mode == TimeMode::Now)
+        state.date.reset();
+    else
+        state.date = date;
+    beginTracking(state, systemSeconds);
+}
+
+double passingClouds(double seconds)
+{
+    // Two periods that meet again after five minutes; what lies below the threshold is clear sky.
+    const double bank = std::sin(2.0 * pi * seconds / 60.0);
+    const double wisp = std::sin(2.0 * pi * seconds / 25.0);
+    const double thickness = 0.7 * bank + 0.3 * wisp;
+    return std::round(90.0 * std::clamp(thickness, 0.0, 1.0)) / 100.0;
+}
+
+bool movedSite(const SkyState &before, const SkyState &after)
+{
+    return before.latitude != after.latitude || before.longitude != after.longitude;
+}
+} // namespace virtualmount

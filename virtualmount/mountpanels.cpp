@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: MIT
+// The virtual mount's window: which knobs turn the axis and the bolts, and what tells how it
+// stands?
+#include "virtualmount/fields.h"
+#include "virtualmount/mountwindow.h"
+
+#include <QCheckBox>
+#include <QDial>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QShortcut>
+#include <QStatusBar>
+
+using namespace virtualmount;
+
+/// A push turns a bolt.
+struct MountWindow::BoltButton {
+    Bolt bolt;
+    double degrees;
+    const char *name, *text, *what;
+    QKeySequence key;
+    int row, column;
+};
+
+void MountWindow::addShortcut(const QKeySequence &key, const std::function<void()> &action)
+{
+    auto *const shortcut = new QShortcut(key, this);
+    connect(shortcut, &QShortcut::activated, this, action);
+}
+
+QWidget *MountWindow::axisPanel()
+{
+    auto *const panel = new QGroupBox(tr("RA axis"), this);
+    QGridLayout &grid = gridIn(*panel);
+    dial = new QDial(panel);
+    nameWidget(*dial, QStringLiteral("dial"), tr("Angle of the RA axis in degrees"),
+               tr("Turns the RA axis; clockwise as the mount tracks"));
+    dial->setRange(-180, 180);
+    dial->setWrapping(true);
+    dial->setPageStep(15);
+    dial->setFixedSize(96, 96);
+    dial->installEventFilter(this);
+    connect(dial, &QDial::valueChanged, this, &MountWindow::followDial);
+    angle = new QLabel(panel);
+    angle->setObjectName(QStringLiteral("angle"));
+    auto *const label = new QLabel(tr("&Angle:"), panel);
+    label->setBuddy(dial);
+    grid.addWidget(dial, 0, 0, 3, 2, Qt::AlignCenter);
+    grid.addWidget(label, 3, 0, Qt::AlignRight);
+    grid.addWidget(angle, 3, 1);
+    for (std::size_t i = 0; i < axisTurns.size(); ++i) {
+        const double turn = axisTurns[i];
+        const QString text = turn > 0 ? tr("+%1°").arg(turn) : tr("−%1°").arg(-turn);
+        const QKeySequence key(int(Qt::CTRL) + Qt::Key_1 + int(i));
+        auto *const button = new QPushButton(text, panel);
+        nameWidget(*button, QStringLiteral("turn%1").arg(turn),
+                   tr("Turn the RA axis by %1 degrees").arg(turn),
+                   key.toString(QKeySequence::NativeText));
+        connect(button, &QPushButton::clicked, this, [this, turn] { turnAxisBy(turn); });
+        addShortcut(key, [this, turn] { turnAxisBy(turn); });
+        grid.addWidget(button, int(i) / 3, 2 + int(i) % 3);
+    }
+    auto *const home = new QPushButton(tr("&Home"), panel);
+    nameWidget(*home, QStringLiteral("home"), tr("Turn the RA axis back to 0"));
+    connect(home, &QPushButton::clicked, this, [this] { turnAxisTo(0.0); });
+    grid.addWidget(home, 2, 2);
+    auto *const tracking = new QCheckBox(tr("Trac&king"), panel);
+    nameWidget(*tracking, QStringLiteral("tracking"), tr("The RA axis follows the sky"));
+    connect(tracking, &QCheckBox::toggled, this, &MountWindow::setTracking);
+    fields.emplace_back([tracking](const SkyState &state) { showIn(*tracking, state.tracking); });
+    grid.addWidget(tracking, 2, 3, 1, 2);
+    grid.setColumnMinimumWidth(1, 56);
+    return panel;
+}
+
+QWidget *MountWindow::boltButton(const BoltButton &row)
+{
+    auto *const button = new QPushButton(tr(row.text), this);
+    nameWidget(*button, QLatin1String(row.name), tr(row.what),
+               row.key.toString(QKeySequence::NativeText));
+    button->setAutoRepeat(true);
+    button->setAutoRepeatDelay(400);
+    button->setAutoRepeatInterval(120);
+    const auto turn = [this, bolt = row.bolt, degrees = row.degrees] {
+        edit([bolt, degrees](SkyState &state) { turnBolt(state, bolt, degrees); });
+    };
+    connect(button, &QPushButton::clicked, this, turn);
+    addShortcut(row.key, turn);
+    return button;
+}
+
+QWidget *MountWindow::boltPanel()
+{
+    constexpr Bolt altitude = &SkyState::boltAltitude;
+    constexpr Bolt azimuth = &SkyState::boltAzimuth;
+    const BoltButton buttons[] = {
+        {altitude, -coarseStep, "altitudeDown", QT_TR_NOOP("▼ Down"),
+         QT_TR_NOOP("Altitude bolt: down, a quarter of a turn"), Qt::Key_Down, 0, 0},
+        {altitude, -fineStep, "altitudeDownFine", QT_TR_NOOP("fine ▼"),
+         QT_TR_NOOP("Altitude bolt: down, finely"), int(Qt::SHIFT) + Qt::Key_Down, 0, 1},
+        {altitude, fineStep, "altitudeUpFine", QT_TR_NOOP("▲ fine"),
+         QT_TR_NOOP("Altitude bolt: up, finely"), int(Qt::SHIFT) + Qt::Key_Up, 0, 3},
+        {altitude, coarseStep, "altitudeUp", QT_TR_NOOP("Up ▲"),
+         QT_TR_NOOP("Altitude bolt: up, a quarter of a turn"), Qt::Key_Up, 0, 4},
+        {azimuth, -coarseStep, "azimuthWest", QT_TR_NOOP("◀ West"),
+         QT_TR_NOOP("Azimuth bolt: west, a quarter of a turn"), Qt::Key_Left, 1, 0},
+        {azimuth, -fineStep, "azimuthWestFine", QT_TR_NOOP("fine ◀"),
+         QT_TR_NOOP("Azimuth bolt: west, finely"), int(Qt::SHIFT) + Qt::Key_Left, 1, 1},
+        {azimuth, fineStep, "azimuthEastFine", QT_TR_NOOP("▶ fine"),
+         QT_TR_NOOP("Azimuth bolt: east, finely"), int(Qt::SHIFT) + Qt::Key_Right, 1, 3},
+        {azimuth, coarseStep, "azimuthEast", QT_TR_NOOP("East ▶"),
+         QT_TR_NOOP("Azimuth bolt: east, a quarter of a turn"), Qt::Key_Right, 1, 4},
+    };
+    auto *const panel = new QGroupBox(tr("Altitude and azimuth bolts: turns of the knobs"), this);
+    QGridLayout &grid = gridIn(*panel);
+    for (const BoltButton &row : buttons)
+        grid.addWidget(boltButton(row), row.row, row.column);
+    const auto counter = [&](const char *name, const QString &what, int row) {
+        auto *const label = new QLabel(panel);
+        nameWidget(*label, QLatin1String(name), what, what);
+        label->setAlignment(Qt::AlignCenter);
+        label->setMinimumWidth(76);
+        grid.addWidget(label, row, 2);
+        return label;
+    };
+    altitudeCount = counter("altitudeCount", tr("Turns of the altitude knob"), 0);
+    azimuthCount = counter("azimuthCount", tr("Turns of the azimuth knob"), 1);
+    return panel;
+}
+
+QWidget *MountWindow::truthPanel()
+{
+    auto *const panel = new QGroupBox(this);
+    QGridLayout &grid = gridIn(*panel);
+    truthButton = new QPushButton(panel);
+    nameWidget(*truthButton, QStringLiteral("showTruth"), tr("Show or hide the remaining error"));
+    connect(truthButton, &QPushButton::clicked, this, [this] { setTruthShown(!truthShown); });
+    auto *const resetButton = new QPushButton(tr("&Reset"), panel);
+    nameWidget(*resetButton, QStringLiteral("reset"), tr("Set everything as it was at first"),
+               tr("Sets everything as it was at first"));
+    connect(resetButton, &QPushButton::clicked, this, &MountWindow::reset);
+    truthLabel = new QLabel(panel);
+    nameWidget(*truthLabel, QStringLiteral("truth"), tr("Remaining error"));
+    truthLabel->setMinimumHeight(2 * truthLabel->fontMetrics().lineSpacing() + 2);
+    grid.addWidget(truthButton, 0, 0);
+    grid.addWidget(resetButton, 0, 1);
+    grid.addWidget(truthLabel, 1, 0, 1, 2);
+    grid.setColumnStretch(0, 2);
+    grid.setColumnStretch(1, 1);
+    return panel;
+}
+
+void MountWindow::addStatusLine()
+{
+    status = new QLabel(this);
+    status->setObjectName(QStringLiteral("status"));
+    status->setWordWrap(true);
+    status->setMinimumHeight(32);
+    replaceButton = new QPushButton(tr("Replace &it"), this);
+    nameWidget(*replaceButton, QStringLiteral("replace"),
+               tr("Write a new sky file over the one with the fault"));
+    connect(replaceButton, &QPushButton::clicked, this, &MountWindow::replaceFile);
+    statusBar()->setSizeGripEnabled(false);
+    statusBar()->setContentsMargins(0, 0, 6, 0);
+    statusBar()->addWidget(status, 1);
+    statusBar()->addPermanentWidget(replaceButton);
+}

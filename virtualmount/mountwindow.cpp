@@ -1,0 +1,291 @@
+// SPDX-License-Identifier: MIT
+// The virtual mount's window at work: from a hand's action to the file, and from the file back.
+#include "virtualmount/mountwindow.h"
+
+#include "virtualmount/fields.h"
+#include "virtualmount/mounttexts.h"
+
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QDateTime>
+#include <QDateTimeEdit>
+#include <QDial>
+#include <QDir>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <cmath>
+#include <utility>
+
+using namespace virtualmount;
+
+namespace
+{
+constexpr int tickMilliseconds = 66;  // fifteen writes a second while the axis turns
+constexpr int pollMilliseconds = 500; // for what the watcher misses, and for the clock
+
+double systemSeconds()
+{
+    return double(QDateTime::currentMSecsSinceEpoch()) / 1000.0;
+}
+} // namespace
+
+MountWindow::MountWindow(const QString &skyFile, QWidget *parent)
+    : QMainWindow(parent),
+      document(skyFile),
+      shown(document.state()),
+      altitudeBase(shown.boltAltitude),
+      azimuthBase(shown.boltAzimuth)
+{
+    setWindowTitle(tr("Quorvandel Virtual Mount"));
+    auto *const central = new QWidget(this);
+    central->setObjectName(QStringLiteral("centralWidget"));
+    auto *const column = new QVBoxLayout(central);
+    column->setContentsMargins(8, 8, 8, 4);
+    column->setSpacing(6);
+    setCentralWidget(central);
+    for (QWidget *const panel :
+         {axisPanel(), boltPanel(), sitePanel(), weatherPanel(), faultPanel(), truthPanel()})
+        column->addWidget(panel);
+    column->addStretch(1);
+    addStatusLine();
+
+    ticker.setInterval(tickMilliseconds);
+    ticker.setTimerType(Qt::PreciseTimer);
+    connect(&ticker, &QTimer::timeout, this, &MountWindow::tick);
+    connect(&watcher, &QFileSystemWatcher::fileChanged, this, &MountWindow::look);
+    connect(&watcher, &QFileSystemWatcher::directoryChanged, this, &MountWindow::look);
+    connect(&poll, &QTimer::timeout, this, &MountWindow::look);
+    poll.start(pollMilliseconds);
+    watch();
+    // Away from the fields, where the arrow keys turn the bolts.
+    const auto toBolts = [this] {
+        findChild<QPushButton *>(QStringLiteral("altitudeUp"))->setFocus(Qt::ShortcutFocusReason);
+    };
+    addShortcut(Qt::Key_Escape, toBolts);
+    toBolts();
+    setTruthShown(false);
+    refresh();
+}
+
+void MountWindow::watch()
+{
+    // A file that was renamed over is another file: its watch ended with the old one.
+    const QFileInfo info(document.filePath());
+    for (const QString &path : {info.absoluteFilePath(), info.absolutePath()})
+        if (QFileInfo::exists(path) && !watcher.files().contains(path) &&
+            !watcher.directories().contains(path))
+            watcher.addPath(path);
+}
+
+void MountWindow::look()
+{
+    watch();
+    document.refresh();
+    refresh();
+}
+
+void MountWindow::edit(const SkyDocument::Change &change)
+{
+    if (!document.change(change))
+        stopMotion();
+    refresh();
+}
+
+void MountWindow::turnAxisBy(double degrees)
+{
+    dialLeads = false;
+    motion.turnBy(degrees);
+    keepTicking();
+}
+
+void MountWindow::turnAxisTo(double degrees)
+{
+    dialLeads = false;
+    const double here = axisAngle(clock.at(document.state(), systemSeconds()));
+    motion.turnInstead(wrapped(degrees - here));
+    keepTicking();
+}
+
+void MountWindow::followDial(int degrees)
+{
+    turnAxisTo(degrees);
+    dialLeads = motion.isMoving();
+}
+
+void MountWindow::keepTicking()
+{
+    const bool needed = motion.isMoving() || passing->isChecked();
+    if (needed && !ticker.isActive()) {
+        sinceTick.start();
+        ticker.start();
+    } else if (!needed) {
+        ticker.stop();
+    }
+}
+
+void MountWindow::stopMotion()
+{
+    motion.turnInstead(0.0);
+    dialLeads = false;
+}
+
+void MountWindow::tick()
+{
+    const double step = motion.advance(double(sinceTick.restart()) / 1000.0);
+    const bool clouds = passing->isChecked();
+    const double held =
+        clouds ? passingClouds(double(sincePassing.elapsed()) / 1000.0) : document.state().clouds;
+    if (step != 0.0 || held != document.state().clouds)
+        edit([step, clouds, held](SkyState &state) {
+            if (step != 0.0)
+                turnAxis(state, step);
+            if (clouds)
+                state.clouds = held;
+        });
+    if (!motion.isMoving() && std::exchange(dialLeads, false))
+        refresh();
+    keepTicking();
+}
+
+void MountWindow::setTracking(bool on)
+{
+    edit([this, on](SkyState &state) {
+        virtualmount::setTracking(state, clock.at(state, systemSeconds()), on);
+    });
+}
+
+void MountWindow::setTimeMode(int index)
+{
+    edit([this, index](SkyState &state) {
+        if (TimeMode(index) == virtualmount::timeMode(state))
+            return;
+        const double now = systemSeconds();
+        const Moment moment = clock.at(state, now);
+        setTime(state, moment, now, TimeMode(index), std::floor(moment.utcSeconds));
+    });
+}
+
+void MountWindow::setDate(const QDateTime &utc)
+{
+    edit([this, &utc](SkyState &state) {
+        const double now = systemSeconds();
+        setTime(state, clock.at(state, now), now, virtualmount::timeMode(state),
+                double(utc.toSecsSinceEpoch()));
+    });
+}
+
+void MountWindow::setPassing(bool on)
+{
+    if (on)
+        cloudsBefore = document.state().clouds;
+    else
+        edit([this](SkyState &state) { state.clouds = cloudsBefore; });
+    sincePassing.start();
+    cloudSlider->setEnabled(!on);
+    keepTicking();
+}
+
+void MountWindow::setTruthShown(bool on)
+{
+    truthShown = on;
+    truthButton->setText(on ? tr("Hide the tru&th") : tr("Show me the tru&th"));
+    refreshTexts();
+}
+
+void MountWindow::reset()
+{
+    stopMotion();
+    showIn(*passing, false);
+    cloudSlider->setEnabled(true);
+    setTruthShown(false);
+    edit([](SkyState &state) { state = SkyState(); });
+    altitudeBase = document.state().boltAltitude;
+    azimuthBase = document.state().boltAzimuth;
+    keepTicking();
+    refreshTexts();
+}
+
+void MountWindow::replaceFile()
+{
+    document.replace();
+    watch();
+    refresh();
+}
+
+void MountWindow::refresh()
+{
+    const SkyState before = std::exchange(shown, document.state());
+    const Moment moment = clock.at(shown, systemSeconds());
+    for (const auto &field : fields)
+        field(shown);
+    showIn(*timeMode, int(virtualmount::timeMode(shown)));
+    showIn(*date, moment.utcSeconds);
+    date->setEnabled(shown.date.has_value());
+    refreshAxis(moment);
+    if (truthShown && movedSite(before, shown))
+        setTruthShown(false);
+    else
+        refreshTexts();
+}
+
+void MountWindow::refreshAxis(const Moment &moment)
+{
+    const double stands = axisAngle(moment);
+    angle->setText(angleText(stands));
+    if (dialLeads || dial->isSliderDown())
+        return;
+    const QSignalBlocker blocker(dial);
+    dial->setValue(int(std::lround(stands)));
+}
+
+void MountWindow::refreshTexts()
+{
+    altitudeCount->setText(altitudeTurns(shown.boltAltitude - altitudeBase));
+    azimuthCount->setText(azimuthTurns(shown.boltAzimuth - azimuthBase));
+    truthLabel->setText(truthShown ? truthText() : tr("What is left of the error is hidden."));
+    replaceButton->setVisible(!document.fault().isEmpty());
+    status->setText(statusText());
+    status->setToolTip(document.filePath());
+}
+
+QString MountWindow::truthText() const
+{
+    // The error lies in the bolts and the site alone: any time will do.
+    const TruthTexts truth = truthTexts(virtualsky::truth(shown, systemSeconds()));
+    return tr("The RA axis misses the pole by %1:\n%2 and %3.")
+        .arg(truth.total, truth.altitude, truth.azimuth);
+}
+
+QString MountWindow::statusText() const
+{
+    if (!document.fault().isEmpty())
+        return tr("Fault in the sky file: %1. Nothing is written.").arg(document.fault());
+    if (!document.writeFault().isEmpty())
+        return tr("The sky file can not be written: %1.").arg(document.writeFault());
+    return tr("Arrow keys turn the bolts, with Shift finely.\nCtrl+1 to Ctrl+6 turn the axis, Esc "
+              "leaves a field.");
+}
+
+void MountWindow::closeEvent(QCloseEvent *event)
+{
+    if (passing->isChecked())
+        passing->setChecked(false);
+    QMainWindow::closeEvent(event);
+}
+
+bool MountWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto &key = static_cast<const QKeyEvent &>(*event);
+        const bool isArrow = key.key() >= Qt::Key_Left && key.key() <= Qt::Key_Down;
+        if (isArrow) {
+            event->accept();
+            return true;
+        }
+    }
+    return QMainWindow::eventFilter(watched, event);
+}

@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+// The window with the virtual mount's knobs: what does a hand turn, and when is it written?
+#pragma once
+
+#include "virtualmount/mountmodel.h"
+#include "virtualmount/skydocument.h"
+
+#include <QElapsedTimer>
+#include <QFileSystemWatcher>
+#include <QMainWindow>
+#include <QTimer>
+#include <functional>
+#include <vector>
+
+class QCheckBox;
+class QComboBox;
+class QDateTimeEdit;
+class QDial;
+class QGridLayout;
+class QLabel;
+class QPushButton;
+class QSlider;
+
+/// Edits one sky file, live, and keeps nothing else. Shows what the file says, whoever wrote it.
+class MountWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MountWindow(const QString &skyFile, QWidget *parent = nullptr);
+
+protected:
+    /// A sky with passing clouds is left as it was before them.
+    void closeEvent(QCloseEvent *event) override;
+    /// Keeps the arrow keys for the fields that need them themselves.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    using SkyState = virtualsky::SkyState;
+    using Bolt = double SkyState::*;
+
+    // The panels, in the order in which they stand and the Tab key goes: those of the mount are in
+    // mountpanels.cpp, those of what is round it in skypanels.cpp.
+    QWidget *axisPanel();
+    QWidget *boltPanel();
+    QWidget *sitePanel();
+    QWidget *weatherPanel();
+    QWidget *faultPanel();
+    QWidget *truthPanel();
+    struct BoltButton;
+    struct Slider;
+    struct Place;
+    QWidget *boltButton(const BoltButton &row);
+    QSlider *addSlider(QGridLayout &grid, const Slider &row);
+    void addPlace(QGridLayout &grid, const Place &row);
+    QWidget *timeFields();
+    QCheckBox *checkBox(const QString &name, const QString &text,
+                        const std::function<bool(const SkyState &)> &isOn,
+                        const std::function<void(SkyState &, bool)> &set);
+    void addStatusLine();
+    void addShortcut(const QKeySequence &key, const std::function<void()> &action);
+
+    void edit(const virtualmount::SkyDocument::Change &change);
+    void turnAxisBy(double degrees);
+    void turnAxisTo(double degrees);
+    void followDial(int degrees);
+    void setTracking(bool on);
+    void setTimeMode(int index);
+    void setDate(const QDateTime &utc);
+    void setPassing(bool on);
+    void setTruthShown(bool on);
+    void reset();
+    void replaceFile();
+
+    void look(); ///< at the file, and show what has changed
+    void watch();
+    void tick(); ///< of the moving axis and the passing clouds
+    void keepTicking();
+    void stopMotion();
+    void refresh();
+    void refreshAxis(const virtualsky::Moment &moment);
+    void refreshTexts();
+    QString truthText() const;
+    QString statusText() const;
+
+    virtualmount::SkyDocument document;
+    virtualsky::SkyClock clock;
+    virtualmount::AxisMotion motion;
+    SkyState shown; ///< what the fields show
+    bool truthShown = false;
+    bool dialLeads = false;           ///< the dial was turned and the axis follows it
+    double altitudeBase, azimuthBase; ///< the bolts where the count of turns is 0, degrees
+    double cloudsBefore = 0.0;        ///< what goes on once no more clouds pass
+
+    QFileSystemWatcher watcher;
+    QTimer poll, ticker;
+    QElapsedTimer sinceTick, sincePassing;
+
+    std::vector<std::function<void(const SkyState &)>> fields; ///< each shows a state
+    QDial *dial = nullptr;
+    QLabel *angle = nullptr, *altitudeCount = nullptr, *azimuthCount = nullptr;
+    QCheckBox *passing = nullptr;
+    QWidget *cloudSlider = nullptr;
+    QComboBox *timeMode = nullptr;
+    QDateTimeEdit *date = nullptr;
+    QPushButton *truthButton = nullptr, *replaceButton = nullptr;
+    QLabel *truthLabel = nullptr, *status = nullptr;
+};

@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: MIT
+// Reads, changes and writes the sky file so that nobody's change is lost.
+#include "virtualmount/skydocument.h"
+
+#include "virtualcamera/skyfile.h"
+#include "virtualmount/skytext.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QLockFile>
+#include <QThread>
+#include <cerrno>
+#include <system_error>
+#include <utility>
+
+namespace virtualmount
+{
+namespace
+{
+constexpr qint64 largestFile = 65536; // bytes, as the camera takes it
+constexpr int lockMilliseconds = 500; // a write takes a few
+
+QString translated(const char *source)
+{
+    return QCoreApplication::translate("SkyDocument", source);
+}
+
+struct FileText {
+    bool exists = false;
+    std::string text;
+    QString fault; // empty = the text was read
+};
+
+FileText readFile(const QString &path)
+{
+    const QFileInfo info(path);
+    if (!info.exists())
+        return {};
+    // A pipe would hold the window up.
+    if (!info.isFile())
+        return {true, {}, translated(QT_TRANSLATE_NOOP("SkyDocument", "not an ordinary file"))};
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        // Taken away or replaced in between: the next look tells.
+        return QFileInfo::exists(path) ? FileText{true, {}, file.errorString()} : FileText{};
+    }
+    const QByteArray bytes = file.read(largestFile + 1);
+    if (bytes.size() > largestFile)
+        return {true, {}, translated(QT_TRANSLATE_NOOP("SkyDocument", "longer than 64 KiB"))};
+    return {true, bytes.toStdString(), {}};
+}
+
+/// Held from reading to writing. Where no lock file can be made, nothing can be written either,
+/// and the writing tells why.
+class Lock
+{
+public:
+    explicit Lock(const QString &path) : file(path + QStringLiteral(".lock"))
+    {
+        // QLockFile's own waiting is too coarse for a hand that turns a knob.
+        QElapsedTimer waited;
+        waited.start();
+        while (!file.tryLock(0)) {
+            free = file.error() != QLockFile::LockFailedError;
+            if (free || waited.hasExpired(lockMilliseconds))
+                return;
+            QThread::msleep(2);
+        }
+        free = true;
+    }
+    bool isOurs() const { return free; }
+
+private:
+    QLockFile file;
+    bool free = false;
+};
+} // namespace
+
+SkyDocument::SkyDocument(QString filePath) : path(std::move(filePath))
+{
+    refresh();
+}
+
+bool SkyDocument::refresh()
+{
+    FileText now = readFile(path);
+    const QString faultBefore = readFault;
+    if (now.fault.isEmpty() && readFault.isEmpty() && now.exists == exists && now.text == text)
+        return false;
+    const std::string textBefore = std::exchange(text, std::move(now.text));
+    const bool existed = std::exchange(exists, now.exists);
+    readFault = now.fault;
+    if (!exists) {
+        good = virtualsky::SkyState();
+        return existed || !faultBefore.isEmpty();
+    }
+    if (readFault.isEmpty()) {
+        try {
+            good = virtualsky::parse(text);
+        } catch (const virtualsky::SkyFileError &error) {
+            readFault = QString::fromUtf8(error.what());
+        }
+    }
+    return !existed || text != textBefore || readFault != faultBefore;
+}
+
+bool SkyDocument::write(const std::string &newText)
+{
+    if (newText == text && exists)
+        return true;
+    try {
+        const virtualsky::SkyState written = virtualsky::parse(newText);
+        if (!virtualsky::writeAtomically(QFile::encodeName(path).toStdString(), newText))
+            throw virtualsky::SkyFileError(0, {}, std::generic_category().message(errno));
+        good = written;
+    } catch (const virtualsky::SkyFileError &error) {
+        lastWriteFault = QString::fromUtf8(error.what());
+        return false;
+    }
+    text = newText;
+    exists = true;
+    return true;
+}
+
+bool SkyDocument::change(const Change &apply)
+{
+    lastWriteFault.clear();
+    const Lock lock(path);
+    if (!lock.isOurs()) {
+        lastWriteFault =
+            translated(QT_TRANSLATE_NOOP("SkyDocument", "another program holds it locked"));
+        return false;
+    }
+    refresh();
+    if (!readFault.isEmpty())
+        return false;
+    virtualsky::SkyState after = good;
+    apply(after);
+    return write(exists ? withChanges(text, good, after) : virtualsky::format(after));
+}
+
+bool SkyDocument::replace()
+{
+    lastWriteFault.clear();
+    const Lock lock(path);
+    refresh();
+    if (readFault.isEmpty())
+        return true;
+    if (!lock.isOurs() || !write(virtualsky::format(good)))
+        return false;
+    readFault.clear();
+    return true;
+}
+} // namespace virtualmount
