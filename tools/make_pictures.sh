@@ -1,0 +1,64 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# Makes every picture of the README and the manual anew, from the program at work on the virtual
+# camera: tools/make_pictures.sh [build folder]. Needs convert (imagemagick) and optipng.
+set -u
+cd "$(dirname "$0")/.." || exit 1
+. tools/stages.sh
+
+build=${1:-build/release}
+if [ $# -eq 0 ]; then configured release || exit 1; fi
+stage "Building the tour" cmake --build "$build" --target quorvandel-tour veldix || exit 1
+
+images=docs/images
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+chmod 700 "$scratch"
+
+# tour OPTION...: the tour without a screen and without a trace of this user's settings.
+tour() {
+  QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 HOME="$scratch" XDG_RUNTIME_DIR="$scratch" \
+    XDG_CONFIG_HOME="$scratch" QUORVANDEL_SKY="$scratch/sky.ini" \
+    LD_LIBRARY_PATH="$PWD/$build/lib/quorvandel${LD_LIBRARY_PATH:+:$LD_LIBRARY_PATH}" \
+    "$build/tour/quorvandel-tour" --fast "$@"
+}
+
+# shrink FILE...: 200 colours are enough for a night sky, and a third of the size.
+shrink() {
+  local file
+  for file in "$@"; do
+    convert "$file" +dither -colors 200 -strip -define png:exclude-chunks=date,time "$file" &&
+      optipng -quiet -o2 "$file" || return 1
+  done
+}
+
+make_set() { # make_set FOLDER OPTION...
+  local folder=$1
+  shift
+  rm -rf "${images:?}/$folder"
+  tour --pictures "$images/$folder" --zoom 75 "$@" && tour --views "$images/$folder" "$@" &&
+    shrink "$images/$folder"/*.png || return 1
+  local zoom
+  for zoom in 100 75 50; do
+    mv "$images/$folder/zoom-$zoom.png" "$images/connected-$folder-$zoom.png" || return 1
+  done
+}
+
+# The last step from near, three times as large; it rests at both ends.
+make_animation() {
+  tour --frames "$scratch/frames" --zoom 100 || return 1
+  local frames=("$scratch"/frames/*.png)
+  local last=${frames[-1]} first=${frames[0]}
+  convert "$first" -scale 300% -strip "$images/closeup-before.png" &&
+    convert "$last" -scale 300% -strip "$images/closeup-aligned.png" &&
+    shrink "$images"/closeup-*.png &&
+    convert -loop 0 -delay 120 "$first" -delay 10 "${frames[@]:1:${#frames[@]}-2}" \
+      -delay 250 "$last" -scale 300% +dither -colors 48 -layers OptimizePlus "$images/fine-adjustment.gif"
+}
+
+mkdir -p "$images"
+stage "Pictures of the north" make_set north || exit 1
+stage "Pictures of the south" make_set south --south || exit 1
+stage "Pictures in Chinese" make_set zh --language ZH || exit 1
+stage "Animated picture" make_animation || exit 1
+echo "$images holds $(du -sk "$images" | cut -f1) KB."

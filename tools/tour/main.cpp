@@ -1,0 +1,217 @@
+// SPDX-License-Identifier: MIT
+// Shows the whole alignment by itself in the real window, and prints the mount's true error before
+// and after.
+#include "app/stylesheet.h"
+#include "dialogs/settingsfile.h"
+#include "mainwindow/mainwindow.h"
+#include "resources/resources.h"
+#include "tools/tour/album.h"
+#include "tools/tour/caption.h"
+#include "tools/tour/exhibits.h"
+#include "tools/tour/person.h"
+#include "virtualcamera/skyfile.h"
+#include "virtualmount/mountwindow.h"
+#include "virtualmount/places.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDateTime>
+#include <QFile>
+#include <QLabel>
+#include <QScreen>
+#include <QTemporaryDir>
+#include <QTest>
+#include <cstdio>
+#include <memory>
+
+namespace
+{
+/// The errors that the tour starts with, degrees.
+constexpr double altitudeOff = 0.8;
+constexpr double azimuthOff = -0.9;
+/// After every action, for somebody who watches.
+constexpr int watchingPause = 1500;
+constexpr int watchedBoltParts = 8;
+/// A window narrower than this is better shown at half size.
+constexpr int narrowWindow = 1200;
+
+virtualsky::SkyState startingSky(bool south, bool isFast, bool isQuiet)
+{
+    virtualsky::SkyState sky;
+    sky.latitude = south ? -34.0 : 40.0;
+    sky.longitude = south ? 149.0 : 116.0;
+    sky.date =
+        double(QDateTime::fromString("2024-05-23T14:00:00Z", Qt::ISODate).toSecsSinceEpoch());
+    sky.running = false;
+    sky.boltAltitude = altitudeOff;
+    sky.boltAzimuth = azimuthOff;
+    sky.unthrottled = isFast;
+    sky.noise = !isQuiet; // pictures of a quiet sensor are small files
+    return sky;
+}
+
+/// How far the animated fine adjustment starts from its aim, frame pixels: well inside the 20 by
+/// which the program follows the reference stars.
+constexpr double animatedX = -11;
+constexpr double animatedY = 9;
+constexpr int animatedParts = 30;
+/// The part of the window that is animated, round the axis mark.
+constexpr QSize animatedSize(320, 240);
+
+QRect roundAxis(const MainWindow &window, const Knobs &knobs, int zoomPercent)
+{
+    const auto *const picture = window.findChild<QLabel *>("label_showImg");
+    QRect part(QPoint(), animatedSize);
+    part.moveCenter(picture->mapTo(&window, (knobs.axis() * zoomPercent / 100).toPoint()));
+    return part;
+}
+
+void addOptions(QCommandLineParser &options)
+{
+    options.setApplicationDescription("Runs the alignment by itself on the virtual camera.");
+    options.addHelpOption();
+    options.addOption({"south", "Align on the southern pole."});
+    options.addOption({"fast", "Without pauses, as fast as the pictures come."});
+    options.addOption({"pictures", "Save a picture of every step to <folder>.", "folder"});
+    options.addOption(
+        {"frames", "Save the pictures of the fine adjustment to <folder>.", "folder"});
+    options.addOption({"views",
+                       "Instead of aligning, save the window at every zoom, the menus and "
+                       "the dialogs to <folder>.",
+                       "folder"});
+    options.addOption({"zoom", "100, 75 or 50 percent.", "percent", "75"});
+    options.addOption({"language", "EN, ZH, JA, RU, FR, DE, ES, PT, IT or KO.", "code", "EN"});
+    options.addOption({"mono", "In the mono style."});
+}
+
+/// Connects and photographs what there is to see without aligning.
+void showViews(MainWindow &window, Knobs &knobs, Person::Options how, const Album &album)
+{
+    Person person(window, knobs, how, 1);
+    person.connectCamera();
+    person.prepare();
+    person.setExposure();
+    for (const int zoom : {50, 75, 100}) {
+        how.zoomPercent = zoom;
+        Person viewer(window, knobs, how, 1);
+        viewer.arrived = [&](const QString &) {
+            album.add(window, QStringLiteral("zoom-%1").arg(zoom));
+        };
+        viewer.prepare();
+    }
+    showMenusAndDialogs(window, album);
+}
+
+/// Aligns, with pictures of the steps and of the fine adjustment where they are wanted.
+void alignInView(Person &person, Knobs &knobs, Album *animation, MainWindow &window,
+                 int zoomPercent)
+{
+    printf("true error before: %.1f arcminutes\n", knobs.poleError() / 60);
+    person.connectCamera();
+    person.prepare();
+    person.setExposure();
+    person.confirmTemplate();
+    person.findAxis();
+    person.placePoleStar();
+    if (animation) {
+        knobs.nudgeStarB({animatedX, animatedY});
+        person.moved = [&, animation, zoomPercent] {
+            animation->addFrame(window, roundAxis(window, knobs, zoomPercent));
+        };
+    }
+    person.startMonitor();
+    person.fineAdjust();
+    person.finish();
+    printf("true error after: %.0f arcseconds\n", knobs.poleError());
+}
+
+std::unique_ptr<Album> albumFor(const QCommandLineParser &options, const QString &option)
+{
+    return options.isSet(option) ? std::make_unique<Album>(options.value(option)) : nullptr;
+}
+
+/// Both windows in view, and the picture small enough to be seen whole.
+void placeSideBySide(MainWindow &window, MountWindow &mount, Person::Options &how)
+{
+    mount.ensurePolished();
+    const Places places =
+        sideBySide(QGuiApplication::primaryScreen()->availableGeometry(), mount.sizeHint());
+    window.setGeometry(places.program);
+    mount.setGeometry(places.mount);
+    mount.show();
+    if (places.program.width() < narrowWindow)
+        how.zoomPercent = 50;
+}
+
+void run(const QCommandLineParser &options)
+{
+    Person::Options how;
+    how.south = options.isSet("south");
+    how.mono = options.isSet("mono");
+    how.zoomPercent = options.value("zoom").toInt();
+    how.pauseMilliseconds = options.isSet("fast") ? 0 : watchingPause;
+    const auto steps = albumFor(options, "pictures");
+    const auto animation = albumFor(options, "frames");
+    const auto views = albumFor(options, "views");
+    const bool isWatched = !options.isSet("fast");
+    if (isWatched)
+        how.boltParts = watchedBoltParts;
+    if (animation)
+        how.boltParts = animatedParts;
+    const bool isQuiet = steps || animation || views;
+    Knobs knobs(virtualsky::skyFilePath(), startingSky(how.south, options.isSet("fast"), isQuiet));
+    Settings settings;
+    settings.languageCode = options.value("language");
+    writeSettings(settingsFilePath(), settings);
+
+    MainWindow window;
+    window.resize(1280, 800);
+    std::unique_ptr<MountWindow> mount;
+    if (isWatched) {
+        mount = std::make_unique<MountWindow>(QFile::decodeName(virtualsky::skyFilePath().c_str()));
+        placeSideBySide(window, *mount, how);
+    }
+    window.show();
+    if (views) {
+        showViews(window, knobs, how, *views);
+        window.close();
+        return;
+    }
+    Caption caption(window, *window.findChild<QWidget *>("scrollArea_showImg"));
+    Person person(window, knobs, how, 1);
+    person.announce = [&](const QString &text) {
+        printf("%s\n", qPrintable(text));
+        if (isWatched)
+            caption.say(text);
+    };
+    if (steps)
+        person.arrived = [&](const QString &name) { steps->add(window, name); };
+    alignInView(person, knobs, animation.get(), window, how.zoomPercent);
+    QTest::qWait(how.pauseMilliseconds);
+    window.close();
+}
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    setvbuf(stdout, nullptr, _IOLBF, 0); // each action is told as it is done, into a file as well
+    QApplication application(argc, argv);
+    QCommandLineParser options;
+    addOptions(options);
+    options.process(application);
+
+    // The sky of somebody who practises is left alone.
+    const QTemporaryDir ownSky;
+    if (qEnvironmentVariableIsEmpty("QUORVANDEL_SKY"))
+        qputenv("QUORVANDEL_SKY", QFile::encodeName(ownSky.filePath("sky.ini")));
+
+    initialiseResources();
+    applyStyleSheet(application, ":/qss/default.qss");
+    try {
+        run(options);
+    } catch (const std::exception &problem) {
+        fprintf(stderr, "the tour is stuck: %s\n", problem.what());
+        return 1;
+    }
+    return 0;
+}
