@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+// Measures the whole program on the virtual camera in monitor mode: memory, load, rate, clicks,
+// large allocations.
+#include "app/stylesheet.h"
+#include "bench/clicks.h"
+#include "bench/fetches.h"
+#include "bench/largeallocations.h"
+#include "bench/processfigures.h"
+#include "bench/session.h"
+#include "resources/resources.h"
+
+#include <QApplication>
+#include <QPushButton>
+#include <QScrollArea>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+namespace
+{
+constexpr double settleSeconds = 3;
+
+void measureMemory(Session &session, double)
+{
+    session.wait(settleSeconds);
+    printf("resident %.1f MiB, of it anonymous %.1f and of files %.1f; peak %.1f; reserved %.1f\n",
+           statusMebibytes("VmRSS"), statusMebibytes("RssAnon"), statusMebibytes("RssFile"),
+           statusMebibytes("VmHWM"), statusMebibytes("VmSize"));
+}
+
+/// Frames a second and processor seconds a second, by thread, over a while.
+void measureLoad(Session &session, double seconds)
+{
+    session.wait(settleSeconds);
+    const auto threadsBefore = threadSeconds();
+    const Fetches before = fetches();
+    const long faultsBefore = pageFaults();
+    const double cpuBefore = clockSeconds(CLOCK_PROCESS_CPUTIME_ID);
+    const double clockBefore = clockSeconds(CLOCK_MONOTONIC);
+    session.wait(seconds);
+    const double passed = clockSeconds(CLOCK_MONOTONIC) - clockBefore;
+    const double cpu = clockSeconds(CLOCK_PROCESS_CPUTIME_ID) - cpuBefore;
+    const Fetches after = fetches();
+    const double frames = double(after.frames - before.frames);
+    printf("%.1f pages of memory touched anew a frame\n",
+           double(pageFaults() - faultsBefore) / frames);
+    printf("%.1f frames a second; %.1f %% of a core, of it the virtual camera %.1f %%\n",
+           frames / passed, 100 * cpu / passed, 100 * (after.seconds - before.seconds) / passed);
+    for (const auto &[name, now] : threadSeconds()) {
+        const auto earlier = threadsBefore.find(name);
+        const double share = now - (earlier == threadsBefore.end() ? 0.0 : earlier->second);
+        if (share > 0.001 * passed)
+            printf("  %-16s %5.1f %%\n", name.c_str(), 100 * share / passed);
+    }
+}
+
+void measureClicks(Session &session, double seconds)
+{
+    auto *const button = session.window.findChild<QPushButton *>("pushButton_monitor");
+    session.window.findChild<QScrollArea *>("scrollArea_manager")->ensureWidgetVisible(button);
+    const std::vector<double> times = clickTimes(*button, int(seconds / 0.08));
+    if (times.empty()) {
+        printf("no click was answered\n");
+        return;
+    }
+    printf("%zu clicks answered: median %.1f ms, 99 of 100 within %.1f ms, worst %.1f ms\n",
+           times.size(), times[times.size() / 2], times[times.size() * 99 / 100], times.back());
+}
+
+void measureRate(Session &session, double seconds)
+{
+    session.setUnthrottled(true);
+    measureLoad(session, seconds);
+    measureClicks(session, seconds);
+}
+
+void listAllocations(Session &session, double seconds)
+{
+    session.wait(settleSeconds);
+    const std::uint64_t before = fetches().frames;
+    countLargeAllocations();
+    session.wait(seconds);
+    const double frames = double(fetches().frames - before);
+    const auto counts = largeAllocations();
+    printf("%.0f frames; requests of %zu bytes and more for each frame:\n", frames, largeBlock);
+    for (const auto &[who, count] : counts)
+        printf("  %.2f  %s\n", count / frames, who.c_str());
+}
+
+/// Resident mebibytes every second, for bench/plot_memory.py.
+void soak(Session &session, double seconds)
+{
+    printf("seconds,resident_mebibytes,frames\n");
+    const double begin = clockSeconds(CLOCK_MONOTONIC);
+    for (double now = 0; now < seconds; now = clockSeconds(CLOCK_MONOTONIC) - begin) {
+        printf("%.1f,%.2f,%llu\n", now, statusMebibytes("VmRSS"),
+               static_cast<unsigned long long>(fetches().frames));
+        fflush(stdout);
+        session.wait(1);
+    }
+}
+
+const struct {
+    const char *name;
+    void (*measure)(Session &session, double seconds);
+    double seconds; ///< unless told otherwise
+} measurements[] = {{"memory", measureMemory, 0},  {"load", measureLoad, 20},
+                    {"clicks", measureClicks, 15}, {"rate", measureRate, 15},
+                    {"soak", soak, 600},           {"allocations", listAllocations, 10}};
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    for (const auto &measurement : measurements) {
+        if (argc < 2 || std::strcmp(argv[1], measurement.name) != 0)
+            continue;
+        const int zoom = argc > 2 ? std::atoi(argv[2]) : 75;
+        const double seconds = argc > 3 ? std::atof(argv[3]) : measurement.seconds;
+        QApplication::setAttribute(Qt::AA_ForceRasterWidgets);
+        QApplication application(argc, argv);
+        initialiseResources();
+        applyStyleSheet(application, QStringLiteral(":/qss/default.qss"));
+        try {
+            Session session(zoom);
+            measurement.measure(session, seconds);
+        } catch (const std::exception &problem) {
+            fprintf(stderr, "%s\n", problem.what());
+            return 1;
+        }
+        return 0;
+    }
+    fprintf(stderr, "usage: load memory|load|clicks|rate|allocations|soak [zoom [seconds]]\n");
+    return 2;
+}

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+// How does the whole program get into monitor mode by itself?
+#pragma once
+
+#include "mainwindow/mainwindow.h"
+#include "tools/tour/knobs.h"
+
+/// The window, connected to the virtual camera and monitoring; closed at the end.
+class Session
+{
+public:
+    /// \param zoomPercent 100, 75 or 50
+    explicit Session(int zoomPercent);
+    ~Session();
+
+    /// A new frame at every call, or the rate of a real camera: 30 a second.
+    void setUnthrottled(bool unthrottled);
+    /// Lets the window work.
+    void wait(double seconds) const;
+
+    MainWindow window;
+
+private:
+    void typeInto(const char *lineEdit, const char *text);
+
+    Knobs knobs;
+};

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+// Measures single pieces of the program's work beside the plain forms of the same work.
+#include "bench/ratioreporter.h"
+#include "resources/resources.h"
+
+#include <QApplication>
+#include <opencv2/core/utility.hpp>
+#include <vector>
+
+int main(int argc, char *argv[])
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    initialiseResources();
+    // Repetitions of all benchmarks take turns, so that another load of the machine meets all.
+    std::vector<char *> arguments(argv, argv + argc);
+    char turns[] = "--benchmark_enable_random_interleaving=true";
+    char repetitions[] = "--benchmark_repetitions=15";
+    char duration[] = "--benchmark_min_time=0.1";
+    char summary[] = "--benchmark_report_aggregates_only=false";
+    arguments.insert(arguments.begin() + 1, {turns, repetitions, duration, summary});
+    int count = int(arguments.size());
+    benchmark::Initialize(&count, arguments.data());
+    if (benchmark::ReportUnrecognizedArguments(count, arguments.data()))
+        return 1;
+    RatioReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    return 0;
+}
