@@ -1,0 +1,40 @@
+# SPDX-License-Identifier: MIT
+# What software centres show: the screenshots, and the releases as CHANGELOG.md tells them.
+
+# File in docs/images and caption; the first one is what lists show.
+set(pictures
+  "north/step-13-aligned.png|The mark of the pole meets the mark of the axis: aligned"
+  "north/step-02-template.png|The template is turned until it lies on the stars around Polaris"
+  "north/step-08-axis.png|Three positions of one star show where the axis points"
+  "south/step-13-aligned.png|South of the equator, by the stars around sigma Octantis")
+set(screenshots "")
+set(type " type=\"default\"")
+foreach(picture IN LISTS pictures)
+  string(REGEX MATCH "^(.*)\\|(.*)$" matched "${picture}")
+  string(APPEND screenshots
+    "    <screenshot${type}>\n"
+    "      <caption>${CMAKE_MATCH_2}</caption>\n"
+    "      <image>https://quorvandel.example/images/${CMAKE_MATCH_1}</image>\n"
+    "    </screenshot>\n")
+  set(type "")
+endforeach()
+
+# Newest first; latestRelease and latestDay are what the package's own changelog says.
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/CHANGELOG.md)
+file(STRINGS ${CMAKE_SOURCE_DIR}/CHANGELOG.md headings REGEX "^## \\[[0-9]")
+set(releases "")
+set(latestRelease "")
+foreach(heading IN LISTS headings)
+  if(NOT heading MATCHES "^## .([0-9.]+). - ([0-9][0-9][0-9][0-9]-[0-9][0-9]-[0-9][0-9])$")
+    message(FATAL_ERROR "CHANGELOG.md: not the heading of a release: ${heading}")
+  endif()
+  string(APPEND releases "    <release version=\"${CMAKE_MATCH_1}\" date=\"${CMAKE_MATCH_2}\"/>\n")
+  if(NOT latestRelease)
+    set(latestRelease ${CMAKE_MATCH_1})
+    set(latestDay ${CMAKE_MATCH_2})
+  endif()
+endforeach()
+
+set(metainfo example.quorvandel.quorvandel.metainfo.xml)
+configure_file(${metainfo}.in ${metainfo} @ONLY)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${metainfo} DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)

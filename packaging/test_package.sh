@@ -1,0 +1,248 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# Installs the Debian package in a clean root, runs it there as a user without rights, and removes it.
+#   packaging/test_package.sh [PACKAGE]     without PACKAGE it is built first
+# Needs root, the network (for the clean root, once, and what the package depends on) and debootstrap,
+# lintian, xvfb, xdotool. Ends with the plain count.
+set -u
+cd "$(dirname "$0")/.." || exit 1
+cache=$PWD/build/package-test
+user=observer
+home=/home/$user
+folder=.local/share/quorvandel
+
+# In a namespace of its own, so that whatever is mounted or started here ends with this script.
+if [ -z "${QUORVANDEL_PACKAGE_TEST:-}" ]; then
+  [ "$(id -u)" -eq 0 ] || { echo "This must be run as root."; exit 2; }
+  for tool in debootstrap lintian Xvfb xdotool; do
+    command -v $tool >/dev/null || { echo "$tool is missing."; exit 2; }
+  done
+  package=${1:-$(packaging/make_package.sh | tail -n 1)}
+  [ -f "$package" ] || { echo "There is no package ($package)."; exit 2; }
+  export QUORVANDEL_PACKAGE_TEST=1
+  exec unshare --mount --pid --fork --kill-child --mount-proc "$0" "$(realpath "$package")"
+fi
+package=$1
+mkdir -p "$cache/archives/partial"
+root=$(mktemp -d "$cache/root.XXXXXX")
+scratch=$(mktemp -d)
+
+screen= # Xvfb's process, which takes its lock file with it
+leave() {
+  [ -z "$screen" ] || { kill "$screen" && wait "$screen"; }
+  awk -v root="$root/" 'index($2, root) == 1 { print $2 }' /proc/mounts | sort -r | xargs -r umount
+  rm -rf --one-file-system "$root" "$scratch"
+}
+trap leave EXIT
+
+passed=0
+failed=0
+
+# check TEXT COMMAND...: counts whether COMMAND succeeds, and shows what it wrote if it does not.
+check() {
+  local text=$1
+  shift
+  if "$@" >"$scratch/check" 2>&1; then
+    passed=$((passed + 1))
+    echo "ok      $text"
+  else
+    failed=$((failed + 1))
+    echo "FAILED  $text"
+    tail -n 20 "$scratch/check" | sed 's/^/        /'
+  fi
+}
+
+same() { [ "$1" = "$2" ] || { printf 'is:        %s\nshould be: %s\n' "$1" "$2"; return 1; }; }
+absent() { [ ! -e "$1" ] && [ ! -L "$1" ]; }
+fails() { ! "$@"; }
+
+in_root() {
+  chroot "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin DEBIAN_FRONTEND=noninteractive "$@"
+}
+
+# ---- the clean root ------------------------------------------------------------------------------
+clean_root() {
+  # shellcheck disable=SC1091 # the system's own file
+  . /etc/os-release
+  local mirror=${QUORVANDEL_MIRROR:-http://deb.debian.org/debian} base=$cache/$VERSION_CODENAME.tar
+  if [ ! -f "$base" ]; then
+    debootstrap --variant=minbase "$VERSION_CODENAME" "$root" "$mirror" &&
+      tar -C "$root" --one-file-system -cf "$base.part" . && mv "$base.part" "$base" || return
+  else
+    tar -C "$root" -xf "$base" || return
+  fi
+  mount -t proc proc "$root/proc" && cp /etc/resolv.conf "$root/etc/resolv.conf" &&
+    mount --bind "$cache/archives" "$root/var/cache/apt/archives" &&
+    in_root apt-get -q update &&
+    in_root apt-get -q -y satisfy --no-install-recommends "$(dpkg-deb -f "$package" Depends)" &&
+    in_root useradd -m $user
+}
+
+# All there is, without what a system writes in passing and what belongs to users.
+everything() {
+  (cd "$root" && find . -xdev \( -path ./home -o -path ./tmp -o -path ./proc -o -path ./var/log \
+    -o -path ./var/cache -o -path ./var/lib/apt -o -path './var/lib/dpkg/*-old' \) -prune \
+    -o -print | sort)
+}
+
+# ---- running the programs ------------------------------------------------------------------------
+# start HOME COMMAND...: as the user; sets `running`; what it writes goes to $scratch/said.
+start() {
+  local at=$1
+  shift
+  chroot --userspec=$user:$user "$root" env -i PATH=/usr/bin:/bin LANG=C.UTF-8 \
+    DISPLAY="$DISPLAY" HOME="$at" "$@" >"$scratch/said" 2>&1 &
+  running=$!
+}
+
+# window NAME: waits for the window and sets `window`.
+window() {
+  for _ in $(seq 150); do
+    window=$(xdotool search --onlyvisible --name "$1" 2>/dev/null | head -n 1)
+    [ -n "$window" ] && return
+    kill -0 $running || break
+    sleep 0.2
+  done
+  cat "$scratch/said"
+  return 1
+}
+
+keys() { xdotool windowfocus --sync "$window" && sleep 0.5 && xdotool key --delay 200 "$@"; }
+
+# finished: waits for the end of the program; its status.
+finished() {
+  for _ in $(seq 100); do
+    kill -0 $running 2>/dev/null || break
+    sleep 0.2
+  done
+  if kill $running 2>/dev/null; then
+    wait $running
+    echo "it had to be ended"
+    return 1
+  fi
+  wait $running
+}
+
+close_by_menu() { keys ctrl+q && finished; }
+
+# visit TEXT HOME [KEYS...]: starts the program, presses KEYS, closes it.
+visit() {
+  local text=$1 at=$2
+  shift 2
+  start "$at" quorvandel
+  check "$text: the window opens" window '^Quorvandel'
+  [ $# -eq 0 ] || keys "$@"
+  check "$text: it closes with status 0" close_by_menu
+}
+
+setting() { sed -n "s/^$1=//p" "$root$home/$folder/bin/Quorvandel.ini"; }
+said() { grep -qF -- "$1" "$scratch/said" || { cat "$scratch/said"; return 1; }; }
+copy_is_current() {
+  cmp "$root/usr/libexec/quorvandel/bin/quorvandel" "$root$home/$folder/bin/quorvandel"
+}
+names_no_build_folder() {
+  in_root dpkg -L quorvandel | sed "s,^,$root," | xargs -d '\n' grep -lsF -d skip -- "$PWD/" && return 1
+  true
+}
+strangers() { # files of the user's outside the home
+  find "$root" -xdev -user $user -not -path "$root/home/*" -not -path "$root/proc/*" \
+    -not -path "$root/tmp/*" | grep .
+}
+
+test_first_run() {
+  start $home quorvandel
+  check "first run: the window opens" window '^Quorvandel'
+  check "first run: the executable is the user's copy" \
+    same "$(readlink /proc/$running/exe)" "$root$home/$folder/bin/quorvandel"
+  check "first run: the virtual camera is loaded from its private folder" \
+    grep -q "$root/usr/lib/[^ ]*quorvandel/libveldix.so.20" /proc/$running/maps
+  xdotool mousemove --window "$window" 95 13 click 1 # the menu Device
+  sleep 0.5
+  xdotool key --delay 200 Down Return # Connect
+  check "first run: the virtual camera connects" window '^Quorvandel - ID:QUORVANDEL-V0001'
+  check "first run: there are no settings yet" absent "$root$home/$folder/bin/Quorvandel.ini"
+  check "first run: it closes with status 0" close_by_menu
+  check "first run: twelve settings are kept" \
+    same "$(grep -c = "$root$home/$folder/bin/Quorvandel.ini")" 12
+  check "first run: the settings are the user's" \
+    same "$(in_root stat -c %U "$home/$folder/bin/Quorvandel.ini")" $user
+}
+
+test_settings() {
+  visit "second run" $home ctrl+m
+  check "a change of the style is kept" same "$(setting style)" Mono
+  visit "third run" $home
+  check "the style was read and is kept again" same "$(setting style)" Mono
+  check "nothing was written outside the home" fails strangers
+}
+
+test_upgrade() {
+  printf '\n' >>"$root/usr/libexec/quorvandel/bin/quorvandel"
+  check "after an upgrade the copy is old" fails copy_is_current
+  visit "upgraded" $home
+  check "upgraded: the copy is renewed" copy_is_current
+  check "upgraded: the settings stay" same "$(setting style)" Mono
+}
+
+test_documents() {
+  local manual=share/doc/quorvandel/manual/en/index.html
+  if [ -e "$root/usr/$manual" ]; then
+    check "the manual is found from the user's folder" \
+      in_root test -f "$home/$folder/bin/../$manual"
+  fi
+  for page in quorvandel quorvandel-mount; do
+    check "the man page of $page is there" test -f "$root/usr/share/man/man1/$page.1.gz"
+  done
+}
+
+test_homes_that_do_not_serve() {
+  mkdir "$root/home/readonly" "$root/home/noexec"
+  visit "a home of another's" /home/readonly
+  check "a home of another's: it says so" said "the settings will not be kept"
+  mount -t tmpfs -o noexec,mode=777 noexec "$root/home/noexec"
+  visit "a home without programs" /home/noexec
+  check "a home without programs: it says so" said "does not let programs be started"
+}
+
+test_mount() {
+  start $home quorvandel-mount
+  check "the virtual mount's window opens" window 'ount'
+  kill $running
+  wait $running 2>/dev/null
+}
+
+# ---- all of it -----------------------------------------------------------------------------------
+check "lintian finds nothing but what is explained" \
+  lintian --allow-root --fail-on error,warning "$package"
+check "a clean root with what the package depends on" clean_root
+[ -d "$root$home" ] || exit 1
+everything >"$scratch/before"
+cp "$package" "$root/tmp/package.deb"
+check "it is installed" in_root dpkg -i /tmp/package.deb
+check "no file of it names the folder where it was built" names_no_build_folder
+check "nothing it depends on is missing" in_root apt-get check
+
+mkdir -p "$root/tmp/.X11-unix" && chmod 1777 "$root/tmp"
+mkdir -p /tmp/.X11-unix
+# A display that is free; its number can be read as soon as it takes connections.
+mkfifo "$scratch/display"
+Xvfb -displayfd 5 -ac -screen 0 1366x900x24 5>"$scratch/display" >"$scratch/xvfb" 2>&1 &
+screen=$!
+read -r -t 60 number <"$scratch/display"
+export DISPLAY=:$number
+check "there is a screen" xdotool getdisplaygeometry
+mount --bind /tmp/.X11-unix "$root/tmp/.X11-unix"
+
+test_first_run
+test_settings
+test_upgrade
+test_documents
+test_homes_that_do_not_serve
+test_mount
+
+check "it is removed" in_root dpkg --purge quorvandel
+everything >"$scratch/after"
+check "nothing is left behind" diff "$scratch/before" "$scratch/after"
+
+echo "$passed passed, $failed failed"
+[ $failed -eq 0 ]
