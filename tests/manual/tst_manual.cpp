@@ -1,0 +1,280 @@
+// SPDX-License-Identifier: MIT
+// Is the manual found, does the menu open it, and are its pages whole?
+#include "dialogs/manual.h"
+#include "mainwindow/mainwindow.h"
+#include "resources/resources.h"
+
+#include <QAction>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTranslator>
+
+namespace
+{
+const QString manual = QStringLiteral(PROJECT_SOURCE_DIR "/docs/manual");
+const QString installed = QStringLiteral("share/" DOCUMENTS "/manual/");
+
+QString textOf(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("can not read %s", qPrintable(path));
+    return QString::fromUtf8(file.readAll());
+}
+
+/// All pages of a language in one text, the words of the source without its line ends.
+QString wordsOf(const QString &language)
+{
+    QString all;
+    const QDir folder(manual + '/' + language);
+    for (const QString &page : folder.entryList({"*.html"}))
+        all += textOf(folder.filePath(page));
+    return all.replace("&lt;", "<").replace("&gt;", ">").replace("&amp;", "&").simplified();
+}
+
+QStringList attributesIn(const QString &html, const QString &name)
+{
+    QStringList values;
+    const QRegularExpression pattern(name + "=\"([^\"]*)\"");
+    for (auto found = pattern.globalMatch(html); found.hasNext();)
+        values << found.next().captured(1);
+    return values;
+}
+} // namespace
+
+/// Takes the files that the program opens.
+class FileTaker : public QObject
+{
+    Q_OBJECT
+
+public:
+    FileTaker() { QDesktopServices::setUrlHandler("file", this, "take"); }
+    ~FileTaker() override { QDesktopServices::unsetUrlHandler("file"); }
+    QList<QUrl> urls;
+
+public slots:
+    void take(const QUrl &url) { urls << url; }
+};
+
+class ManualTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { initialiseResources(); }
+    void address_data();
+    void address();
+    void throughALink();
+    void aFolderIsNoPage();
+    void ofThisBuild_data();
+    void ofThisBuild();
+    void fromTheMenu();
+    void linksLeadSomewhere_data();
+    void linksLeadSomewhere();
+    void bothLanguagesHaveTheSamePages();
+    void tellsOfEveryMessage_data();
+    void tellsOfEveryMessage();
+    void tellsOfEveryLogLine_data();
+    void tellsOfEveryLogLine();
+};
+
+void ManualTest::address_data()
+{
+    QTest::addColumn<QStringList>("pages");
+    QTest::addColumn<QString>("executable");
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("expected"); // below the root, or an address
+    const QString en = "en/index.html", zh = "zh/index.html", tree = "docs/manual/";
+    const QStringList both{installed + en, installed + zh};
+    const QStringList inTree{tree + en, tree + zh};
+    const QString webEn = "https://quorvandel.example/manual/en/";
+    const QString webZh = "https://quorvandel.example/manual/zh/";
+    QTest::newRow("installed, English") << both << "bin"
+                                        << "EN" << installed + en;
+    QTest::newRow("installed, Chinese") << both << "bin"
+                                        << "ZH" << installed + zh;
+    QTest::newRow("installed, French") << both << "bin"
+                                       << "FR" << installed + en;
+    QTest::newRow("installed, small letters") << both << "bin"
+                                              << "zh" << installed + en;
+    QTest::newRow("installed, no language") << both << "bin"
+                                            << "" << installed + en;
+    QTest::newRow("installed, unknown language") << both << "bin"
+                                                 << "ZHX" << installed + en;
+    QTest::newRow("only English installed") << QStringList{installed + en} << "bin"
+                                            << "ZH" << webZh;
+    QTest::newRow("build tree, English") << inTree << "build/release/bin"
+                                         << "EN" << tree + en;
+    QTest::newRow("build tree, Chinese") << inTree << "build/release/bin"
+                                         << "ZH" << tree + zh;
+    QTest::newRow("deep in the build tree") << inTree << "b/u/i/l/d/x"
+                                            << "EN" << tree + en;
+    QTest::newRow("too deep") << inTree << "b/u/i/l/d/x/y"
+                              << "EN" << webEn;
+    QTest::newRow("installed goes first") << both + inTree << "bin"
+                                          << "EN" << installed + en;
+    QTest::newRow("nowhere, English") << QStringList() << "bin"
+                                      << "EN" << webEn;
+    QTest::newRow("nowhere, Chinese") << QStringList() << "bin"
+                                      << "ZH" << webZh;
+}
+
+void ManualTest::address()
+{
+    QFETCH(QStringList, pages);
+    QFETCH(QString, executable);
+    QFETCH(QString, language);
+    QFETCH(QString, expected);
+    const QTemporaryDir place;
+    const QDir root(QFileInfo(place.path()).canonicalFilePath());
+    QVERIFY(root.mkpath(executable));
+    for (const QString &page : pages) {
+        QVERIFY(root.mkpath(QFileInfo(page).path()));
+        QFile file(root.filePath(page));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+    const QUrl url = expected.startsWith("https:") ? QUrl(expected)
+                                                   : QUrl::fromLocalFile(root.filePath(expected));
+    QCOMPARE(manualUrl(language, root.filePath(executable)), url);
+}
+
+/// A user's copy of the executable sees the installed documents through a link beside its folder.
+void ManualTest::throughALink()
+{
+    const QTemporaryDir place;
+    const QDir root(QFileInfo(place.path()).canonicalFilePath());
+    QVERIFY(root.mkpath("user/bin"));
+    QVERIFY(root.mkpath("usr/" + installed + "en"));
+    QFile page(root.filePath("usr/" + installed + "en/index.html"));
+    QVERIFY(page.open(QIODevice::WriteOnly));
+    QVERIFY(QFile::link(root.filePath("usr/share"), root.filePath("user/share")));
+    QCOMPARE(manualUrl("EN", root.filePath("user/bin")), QUrl::fromLocalFile(page.fileName()));
+}
+
+void ManualTest::aFolderIsNoPage()
+{
+    const QTemporaryDir place;
+    QVERIFY(QDir(place.path()).mkpath("bin"));
+    QVERIFY(QDir(place.path()).mkpath(installed + "en/index.html"));
+    QCOMPARE(manualUrl("EN", place.path() + "/bin"), QUrl("https://quorvandel.example/manual/en/"));
+}
+
+void ManualTest::ofThisBuild_data()
+{
+    QTest::addColumn<QString>("page");
+    QTest::newRow("EN") << "/en/index.html";
+    QTest::newRow("ZH") << "/zh/index.html";
+}
+
+void ManualTest::ofThisBuild()
+{
+    QFETCH(QString, page);
+    if (!QCoreApplication::applicationDirPath().startsWith(PROJECT_SOURCE_DIR "/"))
+        QSKIP("the build folder lies outside the source tree");
+    QCOMPARE(manualUrl(QTest::currentDataTag()), QUrl::fromLocalFile(manual + page));
+}
+
+void ManualTest::fromTheMenu()
+{
+    MainWindow window;
+    const QUrl expected = manualUrl("EN");
+    if (!expected.isLocalFile())
+        QSKIP("the build folder lies outside the source tree");
+    FileTaker taker;
+    window.findChild<QAction *>("actionQuorvandel_Manual")->trigger();
+    QCOMPARE(taker.urls, QList<QUrl>{expected});
+}
+
+void ManualTest::linksLeadSomewhere_data()
+{
+    QTest::addColumn<QString>("page");
+    for (const char *const language : {"en", "zh"})
+        for (const QString &page : QDir(manual + '/' + language).entryList({"*.html"}))
+            QTest::addRow("%s/%s", language, qPrintable(page)) << QString(language) + '/' + page;
+}
+
+/// Pictures and pages are files beside the page, so that all of it works without a network.
+void ManualTest::linksLeadSomewhere()
+{
+    QFETCH(QString, page);
+    const QString path = manual + '/' + page;
+    const QString html = textOf(path);
+    const QDir folder = QFileInfo(path).dir();
+    const QStringList links = attributesIn(html, "href") + attributesIn(html, "src");
+    QVERIFY(!links.isEmpty());
+    for (const QString &link : links) {
+        const QString file = link.section('#', 0, 0), anchor = link.section('#', 1);
+        const QString target = file.isEmpty() ? path : folder.filePath(file);
+        QVERIFY2(QFileInfo(target).isFile(), qPrintable(link));
+        QVERIFY2(anchor.isEmpty() || textOf(target).contains("id=\"" + anchor + '"'),
+                 qPrintable(link));
+    }
+    for (const QString &alt : attributesIn(html, "alt"))
+        QVERIFY(!alt.isEmpty());
+    QCOMPARE(attributesIn(html, "alt").size(), attributesIn(html, "src").size());
+}
+
+void ManualTest::bothLanguagesHaveTheSamePages()
+{
+    const QStringList pages = QDir(manual + "/en").entryList({"*.html"});
+    QVERIFY(pages.contains("index.html"));
+    QCOMPARE(QDir(manual + "/zh").entryList({"*.html"}), pages);
+}
+
+void ManualTest::tellsOfEveryMessage_data()
+{
+    QTest::addColumn<QString>("message");
+    for (const char *const message :
+         {"Not Found VELDIX Quorvandel equipment!",
+          "Can not connect Quorvandel as OpenVELDIX error!",
+          "Can not connect Quorvandel as InitVELDIX error!",
+          "Seems no star in this point, please try other point.",
+          "Can not get the Axis center, please click 'reset' to re-find it.",
+          "Would you like to use the 'Axis center position' recorded last time you used "
+          "Quorvandel ?",
+          "Has setting up finished?", "Setting Finished", "Does match success?",
+          "Has rotation finished?", "rotation Finished", "Is the axis center correct?", "Correct",
+          "Has adjustment finished?", "adjustment Finished", "Start Monitor", "Restart"})
+        QTest::newRow(message) << message;
+}
+
+/// In the words that the program uses in that language.
+void ManualTest::tellsOfEveryMessage()
+{
+    QFETCH(QString, message);
+    QVERIFY(wordsOf("en").contains(message));
+    QTranslator chinese;
+    QVERIFY(chinese.load(":/languages/lan_zh_cn.qm"));
+    const QString translated = chinese.translate("MainWindow", message.toUtf8());
+    QVERIFY(!translated.isEmpty());
+    QVERIFY2(wordsOf("zh").contains(translated.simplified()), qPrintable(translated));
+}
+
+void ManualTest::tellsOfEveryLogLine_data()
+{
+    QTest::addColumn<QString>("line");
+    const QRegularExpression call("q(?:Warning|Critical)\\(\\s*\"([^\"%]*)");
+    for (const char *const name : {"app", "camera", "dialogs", "geometry", "mainwindow"}) {
+        const QDir folder(QString(PROJECT_SOURCE_DIR "/") + name);
+        for (const QString &file : folder.entryList({"*.cpp"}))
+            for (auto found = call.globalMatch(textOf(folder.filePath(file))); found.hasNext();)
+                if (const QString line = found.next().captured(1).trimmed(); !line.isEmpty())
+                    QTest::newRow(qPrintable(line)) << line;
+    }
+}
+
+/// Warnings and failures, as far as they have a fixed beginning.
+void ManualTest::tellsOfEveryLogLine()
+{
+    QFETCH(QString, line);
+    QVERIFY(wordsOf("en").contains(line));
+    QVERIFY(wordsOf("zh").contains(line));
+}
+
+QTEST_MAIN(ManualTest)
+#include "tst_manual.moc"

@@ -1,0 +1,254 @@
+// SPDX-License-Identifier: MIT
+// What does `cmake --install` put where, and is it what desktops and software centres expect?
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+#include <QImage>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QXmlStreamReader>
+
+namespace
+{
+const QList<int> iconSizes{16, 22, 24, 32, 48, 64, 128, 256};
+const QStringList programs{"quorvandel", "quorvandel-mount"};
+const QString metainfoName =
+    QStringLiteral(DATADIR "/metainfo/example.quorvandel.quorvandel.metainfo.xml");
+
+QString textOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+QString iconName(int size, const QString &program)
+{
+    return QStringLiteral(DATADIR "/icons/hicolor/%1x%1/apps/%2.png").arg(size).arg(program);
+}
+
+/// Everything but the manual's own files, relative to the prefix.
+QStringList expectedFiles()
+{
+    QStringList files{BINDIR "/quorvandel",
+                      BINDIR "/quorvandel-mount",
+                      LIBDIR "/quorvandel/libveldix.so.20",
+                      LIBEXECDIR "/quorvandel/bin/quorvandel",
+                      LIBEXECDIR "/quorvandel/lib",
+                      LIBEXECDIR "/quorvandel/share",
+                      metainfoName};
+    for (const QString &program : programs) {
+        files << DATADIR "/applications/" + program + ".desktop" << MANDIR "/man1/" + program + ".1"
+              << DATADIR "/icons/hicolor/scalable/apps/" + program + ".svg";
+        for (const int size : iconSizes)
+            files << iconName(size, program);
+    }
+    for (const char *name :
+         {"LICENSE", "CHANGELOG.md", "installing.md", "real-camera.md", "virtual-camera.md"})
+        files << QStringLiteral(DOCDIR "/") + name;
+    files.sort();
+    return files;
+}
+
+/// The texts of all elements of a name, or of one of their attributes.
+QStringList elements(const QString &path, const QString &name, const QString &attribute = {})
+{
+    QFile file(path);
+    QStringList found;
+    if (!file.open(QIODevice::ReadOnly))
+        return found;
+    QXmlStreamReader reader(&file);
+    while (!reader.atEnd())
+        if (reader.readNext() == QXmlStreamReader::StartElement && reader.name() == name)
+            found << (attribute.isEmpty() ? reader.readElementText()
+                                          : reader.attributes().value(attribute).toString());
+    return reader.hasError() ? QStringList() : found;
+}
+} // namespace
+
+class InstallationTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir scratch;
+
+    QString installed(const QString &name) const { return scratch.path() + '/' + name; }
+
+    QStringList installedFiles() const
+    {
+        QStringList files;
+        QDirIterator all(scratch.path(), QDir::Files | QDir::Hidden | QDir::System,
+                         QDirIterator::Subdirectories);
+        while (all.hasNext())
+            files << QDir(scratch.path()).relativeFilePath(all.next());
+        for (const char *link : {LIBEXECDIR "/quorvandel/lib", LIBEXECDIR "/quorvandel/share"})
+            if (QFileInfo(installed(link)).isSymLink())
+                files << link;
+        files.sort();
+        return files;
+    }
+
+private slots:
+    void initTestCase()
+    {
+        QVERIFY(scratch.isValid());
+        QProcess process;
+        process.setProcessChannelMode(QProcess::MergedChannels);
+        process.start(CMAKE_PROGRAM, {"--install", PROJECT_BINARY_DIR, "--prefix", scratch.path()});
+        QVERIFY(process.waitForFinished(60000));
+        QVERIFY2(process.exitCode() == 0, process.readAll().constData());
+    }
+
+    void everyFileIsInItsPlace()
+    {
+        QStringList files = installedFiles();
+        const QRegularExpression manual("^" DOCDIR "/(manual|images)/");
+        for (int i = files.size() - 1; i >= 0; --i)
+            if (files[i].contains(manual))
+                files.removeAt(i);
+        QCOMPARE(files, expectedFiles());
+    }
+
+    void manualIsWhole()
+    {
+        const QDir source(PROJECT_SOURCE_DIR "/docs/manual");
+        if (!source.exists("en/index.html"))
+            QSKIP("there is no manual in docs/manual");
+        QDirIterator all(source.path(), QDir::Files, QDirIterator::Subdirectories);
+        QVERIFY(all.hasNext());
+        while (all.hasNext()) {
+            const QString file = all.next();
+            const QString name = DOCDIR "/manual/" + source.relativeFilePath(file);
+            QVERIFY2(textOf(installed(name)) == textOf(file), qPrintable(name));
+        }
+    }
+
+    void linksLeadTo_data()
+    {
+        QTest::addColumn<QString>("name");
+        const QString program = QStringLiteral(LIBEXECDIR "/quorvandel/");
+        QTest::newRow("the virtual camera") << program + "lib/quorvandel/libveldix.so.20";
+        QTest::newRow("the documents") << program + "share/" +
+                                              QDir("/" DATADIR).relativeFilePath("/" DOCDIR) +
+                                              "/installing.md";
+    }
+
+    void linksLeadTo()
+    {
+        QFETCH(QString, name);
+        QVERIFY2(QFileInfo(installed(name)).isFile(), qPrintable(name));
+    }
+
+    void programsMayBeStarted_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char *name : {BINDIR "/quorvandel", BINDIR "/quorvandel-mount",
+                                 LIBEXECDIR "/quorvandel/bin/quorvandel"})
+            QTest::newRow(name) << QString(name);
+    }
+
+    void programsMayBeStarted()
+    {
+        QFETCH(QString, name);
+        const auto wanted = QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther | QFile::ReadOwner |
+                            QFile::ReadGroup | QFile::ReadOther;
+        QCOMPARE(QFile::permissions(installed(name)) & wanted, QFile::Permissions(wanted));
+    }
+
+    void iconsHaveTheSizeOfTheirFolder()
+    {
+        for (const QString &program : programs)
+            for (const int size : iconSizes) {
+                const QImage image(installed(iconName(size, program)));
+                QCOMPARE(image.size(), QSize(size, size));
+                QVERIFY2(image.hasAlphaChannel(), qPrintable(program));
+            }
+    }
+
+    void desktopEntriesNameWhatIsInstalled()
+    {
+        for (const QString &program : programs) {
+            const QString entry =
+                textOf(installed(DATADIR "/applications/" + program + ".desktop"));
+            const QStringList lines = entry.split('\n');
+            for (const char *key : {"Exec=", "TryExec=", "Icon=", "StartupWMClass="})
+                QVERIFY2(lines.contains(key + program), key);
+        }
+    }
+
+    void everyLanguageIsInTheDesktopEntries()
+    {
+        for (const QString &program : programs) {
+            const QString entry =
+                textOf(installed(DATADIR "/applications/" + program + ".desktop"));
+            for (const char *language : {"de", "es", "fr", "it", "ja", "ko", "pt", "ru", "zh_CN"})
+                for (const char *key : {"\nGenericName[%1]=", "\nComment[%1]="})
+                    QVERIFY2(entry.contains(QString(key).arg(language)), language);
+        }
+    }
+
+    void passesTheValidator_data()
+    {
+        QTest::addColumn<QString>("validator");
+        QTest::addColumn<QStringList>("arguments");
+        const auto desktop = QStringLiteral(DATADIR "/applications/%1.desktop");
+        const auto page = QStringLiteral(MANDIR "/man1/%1.1");
+        for (const QString &program : programs) {
+            QTest::newRow(qPrintable("menu entry of " + program))
+                << "desktop-file-validate" << QStringList{installed(desktop.arg(program))};
+            QTest::newRow(qPrintable("man page of " + program))
+                << "mandoc" << QStringList{"-Tlint", "-Wwarning", installed(page.arg(program))};
+        }
+        QTest::newRow("metainfo") << "appstreamcli"
+                                  << QStringList{"validate", "--no-net", installed(metainfoName)};
+    }
+
+    void passesTheValidator()
+    {
+        QFETCH(QString, validator);
+        QFETCH(QStringList, arguments);
+        if (QStandardPaths::findExecutable(validator).isEmpty())
+            QSKIP(qPrintable(validator + " is not installed"));
+        QProcess process;
+        process.setProcessChannelMode(QProcess::MergedChannels);
+        process.start(validator, arguments);
+        QVERIFY(process.waitForFinished(30000));
+        QVERIFY2(process.exitCode() == 0, process.readAll().constData());
+    }
+
+    void releasesAreThoseOfTheChangelog()
+    {
+        const QRegularExpression heading(R"(^## \[([0-9.]+)\] - (\S+)$)",
+                                         QRegularExpression::MultilineOption);
+        QStringList versions;
+        QStringList days;
+        auto matches = heading.globalMatch(textOf(PROJECT_SOURCE_DIR "/CHANGELOG.md"));
+        while (matches.hasNext()) {
+            const auto match = matches.next();
+            versions << match.captured(1);
+            days << match.captured(2);
+        }
+        QCOMPARE(versions.value(0), QString(VERSION));
+        QCOMPARE(elements(installed(metainfoName), "release", "version"), versions);
+        QCOMPARE(elements(installed(metainfoName), "release", "date"), days);
+    }
+
+    void screenshotsAreAmongThePictures()
+    {
+        const QStringList addresses = elements(installed(metainfoName), "image");
+        QVERIFY(addresses.size() >= 3);
+        for (const QString &address : addresses) {
+            const QString start = QStringLiteral("https://quorvandel.example/images/");
+            QVERIFY2(address.startsWith(start), qPrintable(address));
+            const QImage picture(PROJECT_SOURCE_DIR "/docs/images/" + address.mid(start.size()));
+            QVERIFY2(picture.width() >= 620, qPrintable(address));
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(InstallationTest)
+#include "tst_installation.moc"

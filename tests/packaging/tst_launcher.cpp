@@ -1,0 +1,272 @@
+// SPDX-License-Identifier: MIT
+// Does the launcher start the user's copy of the program, keep it current, and cope without one?
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QTemporaryDir>
+#include <QTest>
+#include <memory>
+#include <sys/stat.h>
+#include <vector>
+
+namespace
+{
+/// Stands for the program: says which file was started and with what, and ends with 7.
+const QByteArray stub = "#!/bin/sh\nprintf '%s\\n' \"$0\" \"$@\"\nexit 7\n";
+constexpr int stubStatus = 7;
+const QString refusal = QStringLiteral("quorvandel: the settings will not be kept: ");
+
+void write(const QString &path, const QByteArray &text)
+{
+    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(text), qint64(text.size()));
+    file.close();
+    QVERIFY(file.setPermissions(QFile::Permissions(0x7755)));
+}
+
+QByteArray read(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(can not be read)");
+}
+
+ino_t inodeOf(const QString &path)
+{
+    struct stat status = {};
+    return stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_ino : 0;
+}
+
+struct Outcome {
+    QStringList lines; ///< what the stub said: its path, then its arguments
+    QString errors;
+    int status;
+};
+} // namespace
+
+class LauncherTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<QTemporaryDir> scratch;
+    QString prefix;    ///< the installed tree
+    QString launcher;  ///< in it
+    QString installed; ///< the stub in it
+    QString home;
+    QString folder; ///< the user's folder, where XDG_DATA_HOME is not set
+    QString copy;   ///< the copy in it
+
+    void install()
+    {
+        launcher = prefix + "/bin/quorvandel";
+        const QString program = QDir::cleanPath(prefix + "/bin/" PROGRAM_FROM_LAUNCHER);
+        installed = program + "/bin/quorvandel";
+        write(launcher, read(LAUNCHER));
+        write(installed, stub);
+        write(program + "/lib/quorvandel/mark", "library");
+        write(program + "/share/doc/mark", "document");
+    }
+
+    void prepare(QProcess &process, const QStringList &variables) const
+    {
+        QProcessEnvironment environment;
+        environment.insert("PATH", "/usr/bin:/bin");
+        for (const QString &variable : variables)
+            environment.insert(variable.section('=', 0, 0), variable.section('=', 1));
+        process.setProcessEnvironment(environment);
+        process.setWorkingDirectory(scratch->path());
+    }
+
+    Outcome run(const QStringList &variables, const QStringList &arguments = {},
+                const QString &command = {}) const
+    {
+        QProcess process;
+        prepare(process, variables);
+        process.start(command.isEmpty() ? launcher : command, arguments);
+        if (!process.waitForFinished(20000) || process.exitStatus() != QProcess::NormalExit)
+            return {{}, "the launcher did not end well", -1};
+        QStringList lines = QString::fromUtf8(process.readAllStandardOutput()).split('\n');
+        lines.removeLast();
+        return {lines, QString::fromUtf8(process.readAllStandardError()), process.exitCode()};
+    }
+
+    Outcome runAtHome() const { return run({"HOME=" + home}); }
+
+private slots:
+    void init()
+    {
+        scratch = std::make_unique<QTemporaryDir>();
+        QVERIFY(scratch->isValid());
+        const QString root = QFileInfo(scratch->path()).canonicalFilePath();
+        prefix = root + "/prefix";
+        home = root + "/home";
+        folder = home + "/.local/share/quorvandel";
+        copy = folder + "/bin/quorvandel";
+        QVERIFY(QDir().mkpath(home));
+        install();
+    }
+
+    void startsTheCopyIn_data()
+    {
+        QTest::addColumn<QStringList>("variables");
+        QTest::addColumn<QString>("expected");
+        const QString usual = "home/.local/share/quorvandel";
+        QTest::newRow("home alone") << QStringList{"HOME=%/home"} << usual;
+        QTest::newRow("a data folder")
+            << QStringList{"HOME=%/home", "XDG_DATA_HOME=%/data"} << "data/quorvandel";
+        QTest::newRow("a data folder and no home")
+            << QStringList{"XDG_DATA_HOME=%/data"} << "data/quorvandel";
+        QTest::newRow("an empty data folder does not count")
+            << QStringList{"HOME=%/home", "XDG_DATA_HOME="} << usual;
+        QTest::newRow("a relative data folder does not count")
+            << QStringList{"HOME=%/home", "XDG_DATA_HOME=data"} << usual;
+        QTest::newRow("blanks, quotes and letters of other languages")
+            << QStringList{QString::fromUtf8("HOME=%/my 'home' $x *é 家")}
+            << QString::fromUtf8("my 'home' $x *é 家/.local/share/quorvandel");
+    }
+
+    void startsTheCopyIn()
+    {
+        QFETCH(QStringList, variables);
+        QFETCH(QString, expected);
+        const QString root = QFileInfo(scratch->path()).canonicalFilePath();
+        variables.replaceInStrings("%", root);
+        const Outcome outcome = run(variables);
+        const QString user = root + '/' + expected;
+        QCOMPARE(outcome.errors, QString());
+        QCOMPARE(outcome.lines, QStringList{user + "/bin/quorvandel"});
+        QCOMPARE(read(user + "/bin/../lib/quorvandel/mark"), QByteArray("library"));
+        QCOMPARE(read(user + "/bin/../share/doc/mark"), QByteArray("document"));
+    }
+
+    void passesArgumentsAndStatus()
+    {
+        const QStringList arguments{"-style", "two words", "", "*", "--"};
+        const Outcome outcome = run({"HOME=" + home}, arguments);
+        QCOMPARE(outcome.lines, QStringList{copy} + arguments);
+        QCOMPARE(outcome.status, stubStatus);
+    }
+
+    void worksThroughASymbolicLink()
+    {
+        const QString link = scratch->path() + "/elsewhere";
+        QVERIFY(QFile::link(launcher, link));
+        const Outcome outcome = run({"HOME=" + home}, {}, link);
+        QCOMPARE(outcome.errors, QString());
+        QCOMPARE(outcome.lines, QStringList{copy});
+    }
+
+    void renewsTheCopyWhen_data()
+    {
+        QTest::addColumn<QByteArray>("program");
+        QTest::addColumn<int>("ageInDays");
+        QTest::newRow("a newer one is installed") << stub + "# another\n" << 0;
+        QTest::newRow("an older one is installed") << stub + "# another\n" << 1000;
+        QTest::newRow("another of the same length")
+            << QByteArray(stub).replace("exit 7", "exit 8") << 0;
+    }
+
+    void renewsTheCopyWhen()
+    {
+        QFETCH(QByteArray, program);
+        QFETCH(int, ageInDays);
+        QCOMPARE(runAtHome().lines, QStringList{copy});
+        write(folder + "/bin/Quorvandel.ini", "[STYLE]\nstyle=Mono\n");
+        write(installed, program);
+        QFile file(installed);
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        QVERIFY(file.setFileTime(QDateTime::currentDateTime().addDays(-ageInDays),
+                                 QFileDevice::FileModificationTime));
+        file.close();
+        QVERIFY(read(copy) != program);
+        QCOMPARE(runAtHome().lines, QStringList{copy});
+        QCOMPARE(read(copy), program);
+        QCOMPARE(read(folder + "/bin/Quorvandel.ini"), QByteArray("[STYLE]\nstyle=Mono\n"));
+    }
+
+    void leavesACurrentCopyAlone()
+    {
+        QCOMPARE(runAtHome().lines, QStringList{copy});
+        const ino_t before = inodeOf(copy);
+        QVERIFY(before != 0);
+        QCOMPARE(runAtHome().lines, QStringList{copy});
+        QCOMPARE(inodeOf(copy), before);
+    }
+
+    void makesADamagedCopyAnew()
+    {
+        QCOMPARE(runAtHome().lines, QStringList{copy});
+        write(copy, "#!/bin/sh\n");
+        QCOMPARE(runAtHome().lines, QStringList{copy});
+        QCOMPARE(read(copy), stub);
+    }
+
+    void followsAMovedPrefix()
+    {
+        QCOMPARE(runAtHome().lines, QStringList{copy});
+        const QString moved = prefix + "-moved";
+        QVERIFY(QDir().rename(prefix, moved));
+        QVERIFY(!QFile::exists(folder + "/share/doc/mark"));
+        const Outcome outcome = run({"HOME=" + home}, {}, moved + "/bin/quorvandel");
+        QCOMPARE(outcome.errors, QString());
+        QCOMPARE(outcome.lines, QStringList{copy});
+        QCOMPARE(read(folder + "/lib/quorvandel/mark"), QByteArray("library"));
+        QCOMPARE(read(folder + "/share/doc/mark"), QByteArray("document"));
+    }
+
+    void severalStartsAtOnce()
+    {
+        std::vector<std::unique_ptr<QProcess>> processes(8);
+        for (auto &process : processes) {
+            process = std::make_unique<QProcess>();
+            prepare(*process, {"HOME=" + home});
+            process->start(launcher, QStringList());
+        }
+        for (auto &process : processes) {
+            QVERIFY(process->waitForFinished(20000));
+            QCOMPARE(process->readAllStandardError(), QByteArray());
+            QCOMPARE(process->readAllStandardOutput(), QFile::encodeName(copy) + '\n');
+        }
+        const auto all = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+        QCOMPARE(QDir(folder + "/bin").entryList(all), QStringList{"quorvandel"});
+        QCOMPARE(QDir(folder).entryList(all, QDir::Name), (QStringList{"bin", "lib", "share"}));
+    }
+
+    void startsTheInstalledOneWhere_data()
+    {
+        QTest::addColumn<QStringList>("variables");
+        QTest::addColumn<QString>("fileInTheWay"); ///< ends with a slash: a folder
+        QTest::newRow("there is no home") << QStringList() << QString();
+        QTest::newRow("the home is a file") << QStringList{"HOME=%/home/file"} << "home/file";
+        QTest::newRow("a file has the folder's name")
+            << QStringList{"HOME=%/home"} << "home/.local/share/quorvandel";
+        QTest::newRow("a folder has the copy's name")
+            << QStringList{"HOME=%/home"} << "home/.local/share/quorvandel/bin/quorvandel/x";
+        QTest::newRow("a folder has a link's name")
+            << QStringList{"HOME=%/home"} << "home/.local/share/quorvandel/share/x";
+        QTest::newRow("the system's own files") << QStringList{"HOME=/proc"} << QString();
+    }
+
+    void startsTheInstalledOneWhere()
+    {
+        QFETCH(QStringList, variables);
+        QFETCH(QString, fileInTheWay);
+        const QString root = QFileInfo(scratch->path()).canonicalFilePath();
+        variables.replaceInStrings("%", root);
+        if (!fileInTheWay.isEmpty())
+            write(root + '/' + fileInTheWay, "in the way");
+        const Outcome outcome = run(variables, {"argument"});
+        QCOMPARE(outcome.lines, (QStringList{installed, "argument"}));
+        QCOMPARE(outcome.status, stubStatus);
+        QVERIFY2(outcome.errors.startsWith(refusal), qPrintable(outcome.errors));
+        QVERIFY2(outcome.errors.size() > refusal.size() + 1, "no reason is given");
+    }
+};
+
+QTEST_GUILESS_MAIN(LauncherTest)
+#include "tst_launcher.moc"

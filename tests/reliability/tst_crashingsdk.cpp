@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+// Does the program start although the camera library crashes, ends it or hangs as it is loaded?
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
+
+class CrashingSdkTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void programStarts_data();
+    void programStarts();
+};
+
+void CrashingSdkTest::programStarts_data()
+{
+    QTest::addColumn<QString>("way");
+    QTest::addColumn<QByteArray>("complaint");
+    for (const char *const way : {"abort", "segmentation fault", "exit", "hang"})
+        QTest::newRow(way) << way << QByteArray("is left out");
+    QTest::newRow("loads, without any function") << "" << QByteArray("lacks the function");
+}
+
+void CrashingSdkTest::programStarts()
+{
+    QFETCH(QString, way);
+    QFETCH(QByteArray, complaint);
+    const QTemporaryDir home;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("HOME", home.path());
+    environment.insert("XDG_CONFIG_HOME", home.path() + "/config");
+    environment.insert("QT_LOGGING_TO_CONSOLE", "1");
+    environment.insert("LD_LIBRARY_PATH", CRASHING_FOLDER);
+    environment.insert("CRASHING_SDK", way);
+    QProcess program;
+    program.setProcessEnvironment(environment);
+    program.setReadChannel(QProcess::StandardError);
+    program.start(PROGRAM_FILE, QStringList());
+    QByteArray errors;
+    while (!errors.contains("InitVELDIXResource: failed") && program.waitForReadyRead(60000))
+        errors += program.readAllStandardError();
+    QVERIFY2(errors.contains("InitVELDIXResource: failed"), errors);
+    QVERIFY2(errors.contains(complaint), errors);
+    QTest::qWait(500); // from the last line of the constructor to the event loop
+    program.terminate();
+    QVERIFY(program.waitForFinished(60000));
+    QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(program.exitCode(), 0);
+}
+
+QTEST_GUILESS_MAIN(CrashingSdkTest)
+#include "tst_crashingsdk.moc"

@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: MIT
+// Does the log file hold every line of every thread, and does the program write one when built so?
+#include "app/logging.h"
+
+#include <QDir>
+#include <QFile>
+#include <QHash>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
+#include <memory>
+#include <thread>
+
+namespace
+{
+constexpr int lineCount = 10000;
+
+QStringList linesOf(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QStringList lines = QString::fromUtf8(file.readAll()).split('\n');
+    if (lines.takeLast() != QString())
+        return {"the last line has no end"};
+    return lines;
+}
+} // namespace
+
+class FileLogTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void twoThreadsLoseNoLine_data();
+    void twoThreadsLoseNoLine();
+    void programWritesItsLog();
+
+private:
+    std::unique_ptr<QTemporaryDir> folder;
+};
+
+void FileLogTest::init()
+{
+    folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(folder->isValid());
+}
+
+void FileLogTest::twoThreadsLoseNoLine_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::addColumn<int>("padding"); // characters
+    QTest::newRow("short lines") << lineCount << 0;
+    QTest::newRow("lines longer than any buffer") << 300 << 100000;
+}
+
+void FileLogTest::twoThreadsLoseNoLine()
+{
+    QFETCH(int, count);
+    QFETCH(int, padding);
+    logFilePath = folder->filePath("run.log");
+    const QString tail(padding, 'x');
+    const QtMessageHandler before = qInstallMessageHandler(logMessageHandler);
+    const auto logAll = [&](const char *name) {
+        for (int i = 0; i < count; ++i)
+            qDebug("%s %d %s", name, i, qPrintable(tail));
+    };
+    std::thread other(logAll, "other");
+    logAll("this");
+    other.join();
+    qInstallMessageHandler(before);
+
+    const QStringList lines = linesOf(logFilePath);
+    QCOMPARE(lines.size(), 2 * count);
+    static const QRegularExpression form("^.{19}\tDebug\t (this|other) (\\d+) (x*)$");
+    QHash<QString, int> next; // the lines of each thread come in its order
+    for (const QString &line : lines) {
+        const auto match = form.match(line);
+        QVERIFY2(match.hasMatch(), qPrintable(line.left(200)));
+        QCOMPARE(match.captured(2).toInt(), next[match.captured(1)]++);
+        QCOMPARE(match.captured(3).size(), padding);
+    }
+    QCOMPARE(next.value("this"), count);
+    QCOMPARE(next.value("other"), count);
+}
+
+/// The program itself, built with file logging: its messages are in the file and nowhere else.
+void FileLogTest::programWritesItsLog()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("HOME", folder->path());
+    environment.insert("XDG_CONFIG_HOME", folder->path() + "/config");
+    environment.insert("QT_LOGGING_TO_CONSOLE", "1");
+    const QString documents = folder->path() + "/Documents";
+    QVERIFY(QDir().mkpath(documents));
+    QProcess program;
+    program.setProcessEnvironment(environment);
+    program.start(LOGGING_PROGRAM, QStringList());
+    QVERIFY(program.waitForStarted());
+    const QDir log(documents + "/Quorvandel/Log");
+    const auto text = [&log] {
+        QString all;
+        for (const QString &name : log.entryList({"*.log"}, QDir::Files))
+            all += linesOf(log.filePath(name)).join('\n');
+        return all;
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(text().contains("InitVELDIX"), 60000);
+    program.terminate();
+    QVERIFY(program.waitForFinished(60000));
+    QCOMPARE(log.entryList(QDir::Files).size(), 1);
+    QVERIFY2(text().contains("\tDebug\t change region to"), qPrintable(text()));
+    QVERIFY(!program.readAllStandardError().contains("change region to"));
+}
+
+QTEST_GUILESS_MAIN(FileLogTest)
+#include "tst_filelog.moc"

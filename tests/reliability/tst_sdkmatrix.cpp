@@ -1,0 +1,393 @@
+// SPDX-License-Identifier: MIT
+// Does the program bear every failure and every wrong answer of the camera library, at every point,
+// and connect again once that is over?
+#include "camera/camerastate.h"
+#include "tests/camera/camerawindow.h"
+#include "tests/support/logrecorder.h"
+
+#include <QLabel>
+#include <QSlider>
+#include <QtTest>
+#include <limits>
+#include <optional>
+#include <thread>
+
+namespace
+{
+constexpr std::uint32_t sdkError = 0xFFFFFFFFu;
+constexpr std::size_t bufferSize = 3686400;
+
+/// When the fault begins.
+enum class Moment {
+    Start,     ///< before the window is there
+    Live,      ///< while pictures come; the controls are moved, then Disconnect is chosen
+    Again,     ///< while pictures come; then Disconnect and Connect are chosen
+    WindowEnd, ///< while pictures come; then the window is closed
+};
+const std::pair<Moment, const char *> moments[] = {{Moment::Start, "at the start"},
+                                                   {Moment::Live, "while live"},
+                                                   {Moment::Again, "connecting again"},
+                                                   {Moment::WindowEnd, "closing the window"}};
+
+/// What an operation answers; which member counts depends on the operation.
+struct Fault {
+    QString operation;
+    std::uint32_t status = 0;
+    std::int32_t count = 0;
+    double value = 0;
+    QString name; ///< of the answer
+};
+
+void apply(const Fault &fault)
+{
+    if (fault.operation == "ScanVELDIX")
+        sdk().setCameraCount(fault.count);
+    else if (fault.operation == "GetVELDIXId")
+        sdk().failId(0);
+    else if (fault.operation == "GetVELDIXParam")
+        for (const int control : {CONTROL_GAIN, CONTROL_EXPOSURE})
+            sdk().setParam(control, fault.value);
+    else
+        sdk().setStatus(fault.operation.toStdString(), fault.status);
+}
+
+void lift(const Fault &fault)
+{
+    sdk().setCameraCount(1);
+    sdk().failId(-1);
+    sdk().setParam(CONTROL_GAIN, 10);
+    sdk().setParam(CONTROL_EXPOSURE, 20000);
+    sdk().setStatus(fault.operation.toStdString(), 0);
+}
+
+QList<Fault> allFaults()
+{
+    QList<Fault> faults;
+    for (const char *const operation :
+         {"InitVELDIXResource", "SetVELDIXReadMode", "SetVELDIXStreamMode", "InitVELDIX",
+          "SetVELDIXBitsMode", "SetVELDIXBinMode", "SetVELDIXResolution", "SetVELDIXParam",
+          "BeginVELDIXLive", "GetVELDIXLiveFrame", "StopVELDIXLive", "CloseVELDIX"})
+        for (const std::uint32_t status : {1U, 0x80000000U, sdkError})
+            faults.append({operation, status, 0, 0, QString::number(status, 16)});
+    faults.append({"OpenVELDIX", sdkError, 0, 0, "null"});
+    faults.append({"GetVELDIXId", sdkError, 0, 0, "ffffffff"});
+    for (const std::int32_t count :
+         {0, -1, std::numeric_limits<int>::min(), 5, std::numeric_limits<int>::max()})
+        faults.append({"ScanVELDIX", 0, count, 0, QString::number(count)});
+    for (const double value :
+         {-1.0, 0.0, 1e300, -1e300, double(sdkError), std::numeric_limits<double>::infinity(),
+          std::numeric_limits<double>::quiet_NaN()})
+        faults.append({"GetVELDIXParam", 0, 0, value, QString::number(value)});
+    return faults;
+}
+
+/// What a Connect under a fault comes to.
+struct Outcome {
+    bool connects = true;
+    std::optional<Box> box;
+    QString critical; ///< the one critical line, if any
+};
+
+Box errorBox(const char *operation)
+{
+    return okBox(QMessageBox::Critical, "Error",
+                 QStringLiteral("Can not connect Quorvandel as %1 error!").arg(operation));
+}
+
+Outcome outcomeOfConnecting(const Fault &fault)
+{
+    const Box notFound =
+        okBox(QMessageBox::Information, "Info", "Not Found VELDIX Quorvandel equipment!");
+    if (fault.operation == "ScanVELDIX" && fault.count <= 0)
+        return {false, notFound, {}};
+    if (fault.operation == "GetVELDIXId")
+        return {false, notFound, {}};
+    if (fault.operation == "OpenVELDIX")
+        return {false, errorBox("OpenVELDIX"), "OpenVELDIX failure!"};
+    if (fault.operation == "SetVELDIXReadMode" && fault.status == sdkError)
+        return {true, {}, "SetVELDIXReadMode 0 Failure"};
+    if (fault.operation == "SetVELDIXStreamMode")
+        return {false, {}, "SetVELDIXStreamMode 1 Failure"};
+    if (fault.operation == "InitVELDIX")
+        return {false, errorBox("InitVELDIX"), "InitVELDIX failure!"};
+    if (fault.operation == "BeginVELDIXLive")
+        return {true, {}, "BeginVELDIXLive failure"};
+    return {};
+}
+
+void giveGoodFrames()
+{
+    const std::vector<std::uint8_t> grey(320 * 240, 40);
+    sdk().setFrame(320, 240, 1, grey);
+    sdk().setFrameBits(8);
+    sdk().setFrameInterval(5);
+    sdk().setFramesLeft(-1);
+}
+
+/// Whether a picture is shown that was not there before, of that size (none given: of any).
+bool newPicture(const CameraWindow &w, const QSize &size = {})
+{
+    auto &label = w.child<QLabel>("label_showImg");
+    label.clear();
+    return QTest::qWaitFor(
+        [&] {
+            const QPixmap picture = label.pixmap(Qt::ReturnByValue);
+            return !picture.isNull() && (size.isEmpty() || picture.size() == size);
+        },
+        10000);
+}
+
+void moveControls(const CameraWindow &w)
+{
+    for (const char *const name : {"sliderExpose", "sliderGain", "sliderTraffic", "sliderSpeed"}) {
+        auto &slider = w.child<QSlider>(name);
+        slider.setValue(slider.maximum());
+        slider.setValue(slider.minimum() + 1);
+    }
+    QTest::qWait(30);
+}
+
+/// Connects, sees a picture and disconnects, as if nothing had been.
+bool worksAgain(const CameraWindow &w)
+{
+    if (cameraState.cameraConnected) // after a refused closing, for example
+        w.trigger("actionConnect");
+    giveGoodFrames();
+    w.trigger("actionConnect");
+    const bool live = cameraState.cameraConnected && newPicture(w);
+    w.trigger("actionConnect");
+    return live && !cameraState.cameraConnected;
+}
+} // namespace
+Q_DECLARE_METATYPE(Fault)
+Q_DECLARE_METATYPE(Moment)
+
+class SdkMatrix : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup() { QCOMPARE(sdkViolations(), QStringList()); }
+    void failure_data();
+    void failure();
+    void frame_data();
+    void frame();
+    void id_data();
+    void id();
+    void hangingFetch_data();
+    void hangingFetch();
+
+private:
+    void connecting(const CameraWindow &w, const Fault &fault, bool ready);
+    void compareWith(const LogRecorder &log, const BoxWatcher &boxes, const Outcome &outcome);
+};
+
+void SdkMatrix::failure_data()
+{
+    QTest::addColumn<Fault>("fault");
+    QTest::addColumn<Moment>("moment");
+    for (const Fault &fault : allFaults())
+        for (const auto &[moment, name] : moments)
+            QTest::addRow("%s gives %s %s", qPrintable(fault.operation), qPrintable(fault.name),
+                          name)
+                << fault << moment;
+}
+
+void SdkMatrix::compareWith(const LogRecorder &log, const BoxWatcher &boxes, const Outcome &outcome)
+{
+    QCOMPARE(log.texts(QtCriticalMsg),
+             outcome.critical.isEmpty() ? QStringList() : QStringList(outcome.critical));
+    QCOMPARE(boxes.boxes().size(), outcome.box ? 1 : 0);
+    if (outcome.box)
+        QCOMPARE(boxes.boxes().first(), *outcome.box);
+    QCOMPARE(bool(cameraState.cameraConnected), outcome.connects);
+}
+
+/// Chooses Connect under the fault and compares what comes of it.
+void SdkMatrix::connecting(const CameraWindow &w, const Fault &fault, bool ready)
+{
+    const LogRecorder log;
+    const BoxWatcher boxes;
+    w.trigger("actionConnect");
+    QTest::qWait(60);
+    compareWith(log, boxes, ready ? outcomeOfConnecting(fault) : Outcome{false, {}, {}});
+}
+
+void SdkMatrix::failure()
+{
+    QFETCH(Fault, fault);
+    QFETCH(Moment, moment);
+    const bool atStart = moment == Moment::Start;
+    const bool neverReady = atStart && fault.operation == "InitVELDIXResource";
+    const bool staysOpen = fault.operation == "CloseVELDIX" && !atStart;
+    auto w = std::make_unique<CameraWindow>(QByteArray(), [&] {
+        if (atStart)
+            apply(fault);
+        giveGoodFrames();
+    });
+    QCOMPARE(bool(cameraState.sdkReady), !neverReady);
+    if (atStart) {
+        connecting(*w, fault, !neverReady);
+    } else {
+        w->trigger("actionConnect");
+        QVERIFY(newPicture(*w));
+        apply(fault);
+        const LogRecorder log;
+        const BoxWatcher boxes;
+        moveControls(*w);
+        if (moment == Moment::WindowEnd)
+            w->window->close();
+        else
+            w->trigger("actionConnect");
+        compareWith(log, boxes, {staysOpen, {}, {}});
+    }
+    if (QTest::currentTestFailed())
+        return;
+    if (moment == Moment::Again && !staysOpen)
+        connecting(*w, fault, true);
+    lift(fault);
+    if (moment == Moment::WindowEnd || neverReady) { // only a new start can do more
+        w.reset();
+        w = std::make_unique<CameraWindow>();
+    }
+    QVERIFY(worksAgain(*w));
+}
+
+void SdkMatrix::frame_data()
+{
+    QTest::addColumn<uint>("width");
+    QTest::addColumn<uint>("height");
+    QTest::addColumn<uint>("channels");
+    QTest::addColumn<uint>("bits");
+    QTest::addColumn<int>("step");
+    const std::array<uint, 4> frames[] = {
+        {0, 0, 1, 8},          {0, 960, 1, 8},
+        {1280, 0, 3, 8},       {1280, 960, 0, 8},
+        {1, 1, 1, 8},          {2, 3, 3, 8},
+        {1281, 961, 1, 8},     {640, 480, 2, 8},
+        {640, 480, 4, 8},      {1280, 960, 4, 8},
+        {1280, 960, 1, 16},    {1280, 960, 3, 16},
+        {640, 480, 1, 0},      {2560, 1440, 1, 8},
+        {1281, 960, 3, 8},     {3686400, 1, 1, 8},
+        {1, 3686400, 1, 8},    {1228800, 1, 3, 8},
+        {40000, 90, 1, 8},     {65536, 65536, 1, 8},
+        {0x80000000, 2, 1, 8}, {sdkError, sdkError, sdkError, sdkError}};
+    for (const auto &[width, height, channels, bits] : frames)
+        for (const int step : {1, 2, 9, 10, 13})
+            QTest::addRow("%u x %u, %u channels, %u bits, in step %d", width, height, channels,
+                          bits, step)
+                << width << height << channels << bits << step;
+}
+
+/// Good frames, then strange ones, then good ones again; the mouse and the controls work meanwhile.
+void SdkMatrix::frame()
+{
+    QFETCH(uint, width);
+    QFETCH(uint, height);
+    QFETCH(uint, channels);
+    QFETCH(uint, bits);
+    QFETCH(int, step);
+    const bool usable = width > 0 && height > 0 && (channels == 1 || channels == 3) &&
+                        quint64(width) * height * channels <= bufferSize;
+    const CameraWindow w({}, giveGoodFrames);
+    const BoxWatcher boxes;
+    w.trigger("actionConnect");
+    QVERIFY(newPicture(w));
+    if (step > 1)
+        w.enterStep(step);
+    const LogRecorder log;
+    sdk().setFrameBits(bits);
+    sdk().setFrame(width, height, channels, std::vector<std::uint8_t>(bufferSize, 90));
+    const int before = sdk().fetchCount();
+    QVERIFY(QTest::qWaitFor([&] { return sdk().fetchCount() > before + 3; }));
+    QTest::mouseDClick(&w.child<QLabel>("label_showImg"), Qt::LeftButton, {}, QPoint(0, 0));
+    moveControls(w);
+    QTRY_COMPARE(!log.texts(QtCriticalMsg).filter("can not be shown").isEmpty(), !usable);
+    if (usable)
+        QVERIFY(newPicture(w));
+    giveGoodFrames();
+    QVERIFY(newPicture(w, QSize(320, 240)));
+    w.trigger("actionConnect");
+    QVERIFY(worksAgain(w));
+}
+
+void SdkMatrix::id_data()
+{
+    QTest::addColumn<QByteArray>("id");
+    QTest::addColumn<bool>("terminated");
+    QTest::addColumn<bool>("connects");
+    QTest::newRow("empty") << QByteArray() << true << false;
+    QTest::newRow("empty, no NUL") << QByteArray() << false << false;
+    QTest::newRow("38 letters, no NUL") << QByteArray(38, 'Q') << false << false;
+    QTest::newRow("ours, 38 letters, no NUL")
+        << "QUORVANDEL-" + QByteArray(27, '7') << false << true;
+    QTest::newRow("ours, 37 letters") << "QUORVANDEL-" + QByteArray(26, '7') << true << true;
+    QTest::newRow("ours, 200 letters") << "QUORVANDEL-" + QByteArray(189, '7') << true << true;
+    QTest::newRow("38 hyphens") << QByteArray(38, '-') << false << false;
+    QTest::newRow("bytes that are no text") << QByteArray(38, '\xFF') << false << false;
+    QTest::newRow("format signs") << QByteArray("QUORVANDEL-%s%n%1") << true << true;
+}
+
+void SdkMatrix::id()
+{
+    QFETCH(QByteArray, id);
+    QFETCH(bool, terminated);
+    QFETCH(bool, connects);
+    const CameraWindow w({}, [&] {
+        sdk().setCameras({id.toStdString()}, terminated);
+        giveGoodFrames();
+    });
+    {
+        const BoxWatcher boxes;
+        w.trigger("actionConnect");
+        QCOMPARE(bool(cameraState.cameraConnected), connects);
+        QCOMPARE(boxes.boxes().size(), connects ? 0 : 1);
+        if (connects)
+            QVERIFY(newPicture(w));
+    }
+    sdk().setCameras({"QUORVANDEL-0001"});
+    QVERIFY(worksAgain(w));
+}
+
+void SdkMatrix::hangingFetch_data()
+{
+    QTest::addColumn<bool>("disconnects");
+    QTest::newRow("nothing is done") << false;
+    QTest::newRow("Disconnect is chosen") << true;
+}
+
+/// The window goes on while a fetch hangs; Disconnect waits for it and no longer.
+void SdkMatrix::hangingFetch()
+{
+    QFETCH(bool, disconnects);
+    static constexpr int hang = 3000; // milliseconds
+    const CameraWindow w({}, giveGoodFrames);
+    w.trigger("actionConnect");
+    QVERIFY(newPicture(w));
+    sdk().holdFetches();
+    QVERIFY(sdk().waitForHeldFetch(10000));
+    std::thread releasing([] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(hang));
+        sdk().releaseFetches();
+    });
+    QElapsedTimer timer;
+    timer.start();
+    if (disconnects) {
+        w.trigger("actionConnect");
+        QVERIFY(!cameraState.cameraConnected);
+    } else {
+        int ticks = 0;
+        QTimer tick;
+        connect(&tick, &QTimer::timeout, [&ticks] { ++ticks; });
+        tick.start(20);
+        QTest::qWait(hang / 2);
+        QVERIFY2(ticks > hang / 2 / 20 / 5, qPrintable(QString::number(ticks)));
+        QVERIFY(cameraState.cameraConnected);
+    }
+    releasing.join();
+    QVERIFY(timer.elapsed() < hang + 5000);
+    QVERIFY(worksAgain(w));
+}
+
+QTEST_MAIN(SdkMatrix)
+#include "tst_sdkmatrix.moc"

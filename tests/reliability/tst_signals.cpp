@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: MIT
+// Does a signal end the program as the close button does, with the settings saved?
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QtTest>
+#include <csignal>
+#include <sys/types.h>
+
+namespace
+{
+constexpr int patience = 60000; // milliseconds
+
+/// The folder of the program under test, whose settings file lies beside it.
+QString settingsPath()
+{
+    return QFileInfo(QStringLiteral(PROGRAM_FILE)).absolutePath() + "/Quorvandel.ini";
+}
+
+/// The program, running, in a home of its own.
+class Program
+{
+public:
+    Program()
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("HOME", home.path());
+        environment.insert("XDG_CONFIG_HOME", home.path() + "/config");
+        environment.insert("QT_LOGGING_TO_CONSOLE", "1");
+        environment.insert("LD_LIBRARY_PATH", CAMERA_FOLDER);
+        environment.insert("QUORVANDEL_SKY", home.path() + "/sky.ini");
+        process.setProcessEnvironment(environment);
+        process.setReadChannel(QProcess::StandardError);
+        process.start(PROGRAM_FILE, QStringList());
+    }
+
+    /// Waits until the program has logged `text`.
+    bool hasSaid(const char *text)
+    {
+        while (!errors.contains(text) && process.waitForReadyRead(patience))
+            errors += process.readAllStandardError();
+        return errors.contains(text);
+    }
+    void send(int number) const { ::kill(pid_t(process.processId()), number); }
+    bool ends() { return process.waitForFinished(patience); }
+
+    QTemporaryDir home;
+    QProcess process;
+    QByteArray errors;
+};
+} // namespace
+
+class SignalsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void signalClosesTheWindow_data();
+    void signalClosesTheWindow();
+    void manySignals();
+    void otherSignalsStay();
+};
+
+void SignalsTest::initTestCase()
+{
+    // A shell may have started the tests with SIGINT ignored, which children inherit.
+    for (const int number : {SIGTERM, SIGINT})
+        std::signal(number, SIG_DFL);
+}
+
+void SignalsTest::init()
+{
+    QFile::remove(settingsPath());
+}
+
+void SignalsTest::signalClosesTheWindow_data()
+{
+    QTest::addColumn<int>("number");
+    QTest::newRow("SIGTERM") << SIGTERM;
+    QTest::newRow("SIGINT") << SIGINT;
+}
+
+void SignalsTest::signalClosesTheWindow()
+{
+    QFETCH(int, number);
+    Program program;
+    QVERIFY2(program.hasSaid("InitVELDIXSDK success"), program.errors);
+    QTest::qWait(500); // from the last line of the constructor to the event loop
+    QVERIFY(!QFile::exists(settingsPath()));
+    program.send(number);
+    QVERIFY(program.ends());
+    QCOMPARE(program.process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(program.process.exitCode(), 0);
+    const QSettings file(settingsPath(), QSettings::IniFormat);
+    QCOMPARE(file.allKeys().size(), 12);
+    QCOMPARE(file.value("ZOOM/factor").toString(), QString("1"));
+}
+
+/// A second and a hundredth signal during the end do no harm to the file.
+void SignalsTest::manySignals()
+{
+    Program program;
+    QVERIFY2(program.hasSaid("InitVELDIXSDK success"), program.errors);
+    QTest::qWait(500);
+    for (int i = 0; i < 100; ++i)
+        program.send(i % 2 ? SIGTERM : SIGINT);
+    QVERIFY(program.ends());
+    const QSettings file(settingsPath(), QSettings::IniFormat);
+    QCOMPARE(file.allKeys().size(), 12);
+}
+
+/// A signal that is not ours ends the process at once, with nothing saved.
+void SignalsTest::otherSignalsStay()
+{
+    Program program;
+    QVERIFY2(program.hasSaid("InitVELDIXSDK success"), program.errors);
+    QTest::qWait(500);
+    program.send(SIGHUP);
+    QVERIFY(program.ends());
+    QCOMPARE(program.process.exitStatus(), QProcess::CrashExit);
+    QVERIFY(!QFile::exists(settingsPath()));
+}
+
+QTEST_GUILESS_MAIN(SignalsTest)
+#include "tst_signals.moc"

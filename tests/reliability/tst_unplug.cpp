@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+// What if the camera's cable is pulled and put back, in any step of the alignment?
+#include "tests/reliability/virtualwindow.h"
+
+#include "mainwindow/wizardtable.h"
+#include "tests/support/mainwindowprobe.h"
+
+#include <QtTest>
+
+namespace
+{
+enum class Then { PlugIn, Reconnect, CloseWindow };
+const std::pair<Then, const char *> endings[] = {{Then::PlugIn, "plugged in again"},
+                                                 {Then::Reconnect, "disconnected, connected again"},
+                                                 {Then::CloseWindow, "window closed"}};
+} // namespace
+Q_DECLARE_METATYPE(Then)
+
+class UnplugTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void unplugged_data();
+    void unplugged();
+
+private:
+    void useControls(const VirtualWindow &w);
+};
+
+void UnplugTest::unplugged_data()
+{
+    QTest::addColumn<int>("step");
+    QTest::addColumn<Then>("then");
+    for (int step = 1; step <= wizardStepCount; ++step)
+        for (const auto &[then, name] : endings)
+            QTest::addRow("step %d, %s", step, name) << step << then;
+}
+
+/// What somebody tries while no picture comes.
+void UnplugTest::useControls(const VirtualWindow &w)
+{
+    for (const char *const name : {"sliderExpose", "sliderGain", "sliderTraffic", "sliderSpeed"})
+        named<QSlider>(*w.window, name).setValue(2);
+    for (const char *const name : {"action50", "actionMono_Style", "actionGerman", "action100"})
+        named<QAction>(*w.window, name).trigger();
+    QTest::mouseDClick(&named<QLabel>(*w.window, "label_showImg"), Qt::LeftButton, {},
+                       QPoint(300, 300));
+    QTest::qWait(50);
+}
+
+void UnplugTest::unplugged()
+{
+    QFETCH(int, step);
+    QFETCH(Then, then);
+    VirtualWindow w;
+    BoxAnswerer boxes(QMessageBox::Ok);
+    QVERIFY(w.connectCamera());
+    MainWindowProbe(*w.window).switchStep(step);
+    QVERIFY(w.hasNewPicture());
+
+    w.plug(false);
+    // The frame under way and those that wait are still shown.
+    QTRY_VERIFY_WITH_TIMEOUT(!w.hasNewPicture(500), 30000);
+    QCOMPARE(w.window->step(), step);
+    QVERIFY(cameraState.cameraConnected);
+    useControls(w);
+    const int boxesOfControls = boxes.seen.count; // a double click may find no star
+
+    switch (then) {
+    case Then::PlugIn:
+        w.plug(true);
+        QVERIFY(w.hasNewPicture());
+        QVERIFY(cameraState.cameraConnected);
+        break;
+    case Then::Reconnect:
+        w.toggleConnection();
+        QVERIFY(!cameraState.cameraConnected);
+        w.toggleConnection();
+        QVERIFY(!cameraState.cameraConnected);
+        QCOMPARE(boxes.seen.count, boxesOfControls + 1);
+        w.plug(true);
+        QVERIFY(w.connectCamera());
+        QCOMPARE(w.window->step(), 1);
+        break;
+    case Then::CloseWindow:
+        QVERIFY(w.window->close());
+        QVERIFY(!cameraState.cameraConnected);
+        QVERIFY(QFile::exists(settingsFilePath()));
+        break;
+    }
+}
+
+QTEST_MAIN(UnplugTest)
+#include "tst_unplug.moc"
