@@ -200,6 +200,10 @@ void MainWindow::disconnectCamera()
         const Locker lock(frameMutex);
         frameQueue.clear();
     }
+    {
+        const Locker lock(magnifierMutex);
+        magnifierQueue.clear();
+    }
     ui->label_showImg->clear();
     magnifier->setSource(QPixmap::fromImage(blankImage));
     magnifier->update();
