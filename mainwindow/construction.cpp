@@ -83,8 +83,8 @@ MainWindow::MainWindow(QWidget *parent)
 
 MainWindow::~MainWindow()
 {
-    // The capture thread writes into what follows it; it ends before anything else goes.
-    captureThread.reset();
+    // Not while the window's children go one by one.
+    ui->scrollArea_showImg->viewport()->removeEventFilter(tipTabs);
 }
 
 void MainWindow::buildImageArea()

@@ -124,15 +124,21 @@ bool SkyDocument::write(const std::string &newText)
     return true;
 }
 
-bool SkyDocument::change(const Change &apply)
+/// Passes on whether the lock is ours; where it is not, says so in lastWriteFault.
+bool SkyDocument::mayWrite(bool locked)
 {
     lastWriteFault.clear();
-    const Lock lock(path);
-    if (!lock.isOurs()) {
+    if (!locked)
         lastWriteFault =
             translated(QT_TRANSLATE_NOOP("SkyDocument", "another program holds it locked"));
+    return locked;
+}
+
+bool SkyDocument::change(const Change &apply)
+{
+    const Lock lock(path);
+    if (!mayWrite(lock.isOurs()))
         return false;
-    }
     refresh();
     if (!readFault.isEmpty())
         return false;
@@ -143,12 +149,13 @@ bool SkyDocument::change(const Change &apply)
 
 bool SkyDocument::replace()
 {
-    lastWriteFault.clear();
     const Lock lock(path);
+    if (!mayWrite(lock.isOurs()))
+        return false;
     refresh();
     if (readFault.isEmpty())
         return true;
-    if (!lock.isOurs() || !write(virtualsky::format(good)))
+    if (!write(virtualsky::format(good)))
         return false;
     readFault.clear();
     return true;
