@@ -105,6 +105,7 @@ private slots:
     void starAtTheEdgeStaysAtItsSearchPosition();
     void refraction_data();
     void refraction();
+    void pole_data();
     void pole();
     void noPoleOnOneColumn();
     void crop_data();
@@ -209,10 +210,23 @@ void TestMonitor::refraction()
     QVERIFY(isNear(monitorPositions.poleCurrent, {x, y}, 1e-6));
 }
 
-/// The pole of the triangle is the one that makes the two angles and lies on the axis's side.
+void TestMonitor::pole_data()
+{
+    QTest::addColumn<QPointF>("axis");
+    QTest::addColumn<bool>("above"); ///< the line from star A to star B
+    QTest::newRow("axis above the line") << QPointF(700, 400) << true;
+    QTest::newRow("axis below the line") << QPointF(500, 500) << false;
+    QTest::newRow("far above") << QPointF(1279, 0) << true;
+    QTest::newRow("far below") << QPointF(0, 959) << false;
+}
+
+/// Two places make the two angles, one on each side of the line: the pole is the one on the axis's.
 void TestMonitor::pole()
 {
+    QFETCH(QPointF, axis);
+    QFETCH(bool, above);
     const QPointF a(400, 300), b(800, 620);
+    alignmentPoints.savedAxisCenter = axis;
     updatePole({a, b});
     QVERIFY(monitorPositions.poleValid);
     const QPointF p = monitorPositions.poleCurrent;
@@ -224,6 +238,9 @@ void TestMonitor::pole()
     };
     QVERIFY(std::abs(degreesAt(a, b, p) - 40.0) < 1e-9);
     QVERIFY(std::abs(degreesAt(b, a, p) - 60.0) < 1e-9);
+    // Up is where y is smaller.
+    const double lineAtPole = a.y() + (p.x() - a.x()) * (b.y() - a.y()) / (b.x() - a.x());
+    QCOMPARE(p.y() < lineAtPole, above);
 }
 
 void TestMonitor::noPoleOnOneColumn()

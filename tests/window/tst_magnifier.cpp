@@ -209,22 +209,26 @@ void MagnifierTest::initialState()
 
 void MagnifierTest::regionHoldsTheSquare_data()
 {
-    QTest::addColumn<int>("side");
+    QTest::addColumn<QSize>("view");
     QTest::addColumn<float>("zoom");
     QTest::addColumn<QRect>("square");
-    QTest::newRow("150 at 3") << 150 << 3.0F << QRect(75, 75, 50, 50);
-    QTest::newRow("150 at 5") << 150 << 5.0F << QRect(85, 85, 30, 30);
-    QTest::newRow("120 at 3") << 120 << 3.0F << QRect(80, 80, 40, 40);
-    QTest::newRow("an odd side") << 150 << 2.0F << QRect(63, 63, 75, 75);
-    QTest::newRow("truncated") << 150 << 4.0F << QRect(82, 82, 37, 37);
+    const QSize large(150, 150);
+    QTest::newRow("150 at 3") << large << 3.0F << QRect(75, 75, 50, 50);
+    QTest::newRow("150 at 5") << large << 5.0F << QRect(85, 85, 30, 30);
+    QTest::newRow("120 at 3") << QSize(120, 120) << 3.0F << QRect(80, 80, 40, 40);
+    QTest::newRow("an odd side") << large << 2.0F << QRect(63, 63, 75, 75);
+    QTest::newRow("truncated") << large << 4.0F << QRect(82, 82, 37, 37);
+    // The width alone counts.
+    QTest::newRow("wider than high") << QSize(150, 90) << 3.0F << QRect(75, 75, 50, 50);
+    QTest::newRow("higher than wide") << QSize(90, 150) << 3.0F << QRect(85, 85, 30, 30);
 }
 
 void MagnifierTest::regionHoldsTheSquare()
 {
-    QFETCH(int, side);
+    QFETCH(QSize, view);
     QFETCH(float, zoom);
     QFETCH(QRect, square);
-    MagnifierWidget widget(side, side);
+    MagnifierWidget widget(view.width(), view.height());
     widget.setZoom(zoom);
     const QPixmap source = placePicture(200, 200);
     widget.setSource(source);
