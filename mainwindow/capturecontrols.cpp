@@ -128,7 +128,7 @@ void MainWindow::changeRegion(const char *name)
     alignmentPoints.angleBAP = stars.angleBAP;
     alignmentPoints.angleABP = stars.angleABP;
     applyRegionTexts();
-    switchStep(1);
+    switchStep(SetExposure);
 }
 
 void MainWindow::on_radioButton_north_toggled(bool checked)

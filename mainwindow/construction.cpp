@@ -15,6 +15,7 @@
 #include "dialogs/settingsfile.h"
 #include "geometry/saturate.h"
 #include "geometry/starcatalogue.h"
+#include "mainwindow/wizardtable.h"
 #include "ui_mainwindow.h"
 
 #include <QActionGroup>
@@ -247,7 +248,7 @@ void MainWindow::applyIdleState()
     for (QAction *const action :
          {ui->actionStretch, ui->actionDisplay_Template, ui->actionFavorite})
         action->setVisible(false);
-    openSections(0);
+    openSections(noSections);
     for (QPushButton *const head :
          {ui->pushButton_head_region, ui->pushButton_head_setting, ui->pushButton_head_confirm,
           ui->pushButton_head_rough, ui->pushButton_head_precise})

@@ -23,6 +23,7 @@ class QMediaPlayer;
 class QSlider;
 class QTabWidget;
 class QTimer;
+enum class Section;
 struct Settings;
 struct StarCatalogue;
 struct WizardPage;
@@ -170,7 +171,7 @@ private:
     void openSections(unsigned open);
     void showLamps(LampCount lit);
     void setOverlayFlags(const WizardStep &step);
-    void sectionToggled(int section, bool checked);
+    void sectionToggled(Section section, bool checked);
 
     // settings.cpp
     bool loadSettings();
