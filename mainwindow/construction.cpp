@@ -13,6 +13,7 @@
 #include "dialogs/magnifierwidget.h"
 #include "dialogs/poletrackingdialog.h"
 #include "dialogs/settingsfile.h"
+#include "dialogs/style.h"
 #include "geometry/saturate.h"
 #include "geometry/starcatalogue.h"
 #include "mainwindow/wizardtable.h"

@@ -3,7 +3,6 @@
 #pragma once
 
 #include "camera/capturethread.h"
-#include "dialogs/style.h"
 
 #include <QImage>
 #include <QMainWindow>
@@ -169,7 +168,7 @@ private:
     // wizard.cpp
     void switchStep(int step);
     void openSections(unsigned open);
-    void showLamps(LampCount lit);
+    void showLamps(int lit);
     void setOverlayFlags(const WizardStep &step);
     void sectionToggled(Section section, bool checked);
 

@@ -8,6 +8,8 @@
 #include "dialogs/favoritedialog.h"
 #include "dialogs/manual.h"
 #include "dialogs/poletrackingdialog.h"
+#include "dialogs/style.h"
+#include "mainwindow/wizardtable.h"
 #include "ui_mainwindow.h"
 
 #include <QDesktopServices>

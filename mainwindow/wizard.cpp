@@ -3,6 +3,7 @@
 #include "mainwindow/mainwindow.h"
 
 #include "camera/sharedstate.h"
+#include "dialogs/style.h"
 #include "geometry/axiscentre.h"
 #include "mainwindow/pointtext.h"
 #include "mainwindow/wizardtable.h"
@@ -94,7 +95,7 @@ void MainWindow::openSections(Sections open)
     }
 }
 
-void MainWindow::showLamps(LampCount lit)
+void MainWindow::showLamps(int lit)
 {
     const Style &style = styleNamed(styleName);
     const QPixmap on(style.lampOn);

@@ -205,6 +205,14 @@ const WizardStep &wizardStep(int step)
     return steps.at(static_cast<std::size_t>(step - 1));
 }
 
+LampCount lampsOnStyleChange(int step)
+{
+    // Entering this step leaves the three lamps lit that the pole star's expected position lit.
+    if (step == CurrentPosition)
+        return wizardStep(ExpectedPosition).lamps;
+    return isWizardStep(step) ? wizardStep(step).lamps : lampsUnchanged;
+}
+
 const WizardPage &wizardPage(int step)
 {
     return pages.at(static_cast<std::size_t>(step - 1));

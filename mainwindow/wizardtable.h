@@ -2,8 +2,7 @@
 // What does each step of the alignment show, and what does it say?
 #pragma once
 
-#include "dialogs/style.h"
-
+#include <QString>
 #include <array>
 
 /// The steps in their order; each has one instruction page.
@@ -45,6 +44,10 @@ constexpr bool isWizardStep(int step)
 /// What entering a step does to something that is on or off.
 enum class Change { Keep, Off, On };
 
+/// How many of the three star lamps are lit, from the first one on; -1 = they stay as they are.
+using LampCount = int;
+constexpr LampCount lampsUnchanged = -1;
+
 /// Everything that entering one step sets; what is Keep stays as it was.
 struct WizardStep {
     Sections open; ///< all other sections are closed
@@ -61,6 +64,9 @@ struct WizardStep {
 
 /// \param step 1 to wizardStepCount
 const WizardStep &wizardStep(int step);
+
+/// The lamps that a change of style draws anew in a step; lampsUnchanged where there is no step.
+LampCount lampsOnStyleChange(int step);
 
 /// The steps in which the template lies over the picture and follows the rotate sliders.
 constexpr bool showsTemplate(int step)
