@@ -201,16 +201,6 @@ void MainWindow::loadStarCatalogue()
     loadStarCatalogues(QDate::currentDate());
 }
 
-void MainWindow::applyRegion()
-{
-    // Checking a button runs its slot, which loads the hemisphere and enters step 1.
-    if (regionName == QLatin1String("North"))
-        ui->radioButton_north->setChecked(true);
-    else
-        ui->radioButton_south->setChecked(true);
-    showFlatTemplate();
-}
-
 void MainWindow::applyStyle()
 {
     if (styleName == QLatin1String("Mono"))

@@ -85,7 +85,7 @@ private slots:
     // texts.cpp
     void languageChanged();
     void uiReset();
-    // capturecontrols.cpp and templateoverlay.cpp
+    // region.cpp and templateoverlay.cpp
     void on_radioButton_north_toggled(bool checked);
     void on_radioButton_south_toggled(bool checked);
     void on_horizontalSlider_confirm_match_valueChanged(int value);
@@ -149,7 +149,6 @@ private:
     void connectSignals();
     void startTimers();
     void loadStarCatalogue();
-    void applyRegion();
     void applyStyle();
     void applyZoomAction();
     void applyLanguageAction();
@@ -200,14 +199,19 @@ private:
 
     // templateoverlay.cpp
     void computeTemplatePoles();
-    const QImage &regionMask() const;
-    const StarCatalogue &regionCatalogue() const;
     void rotateTemplate(int angle);
     void showFlatTemplate();
     void showPolarisTarget();
     void scaleDirectionArrow();
     void setZoom(float factor);
     void stepRotation(QSlider &slider, int degrees);
+
+    // region.cpp
+    bool isSouth() const;
+    const QImage &regionMask() const;
+    const StarCatalogue &regionCatalogue() const;
+    void applyRegion();
+    void changeRegion(const char *name);
 
     // capturecontrols.cpp
     struct Parameter;
@@ -217,7 +221,6 @@ private:
     Parameter speedParameter();
     void parameterSliderMoved(const Parameter &parameter, int value);
     void parameterTyped(const Parameter &parameter);
-    void changeRegion(const char *name);
 
     // texts.cpp
     void chooseLanguage(const char *code, bool checked);

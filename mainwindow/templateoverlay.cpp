@@ -40,16 +40,6 @@ void MainWindow::computeTemplatePoles()
         computeTemplatePole(southCatalogue, southMask, "south");
 }
 
-const QImage &MainWindow::regionMask() const
-{
-    return regionName == QLatin1String("South") ? southMask : northMask;
-}
-
-const StarCatalogue &MainWindow::regionCatalogue() const
-{
-    return regionName == QLatin1String("North") ? northCatalogue : southCatalogue;
-}
-
 void MainWindow::rotateTemplate(int angle)
 {
     if (ui->label_templateImg->isVisible())
