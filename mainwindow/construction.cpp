@@ -98,7 +98,6 @@ void MainWindow::buildImageArea()
 
     directionArrow = new QLabel(ui->scrollArea_showImg);
     directionArrow->setObjectName(QStringLiteral("directionArrow"));
-    directionArrow->setPixmap(QPixmap(QStringLiteral(":/images/direction.png")));
     directionArrow->setAttribute(Qt::WA_TransparentForMouseEvents);
 
     northMask.load(QStringLiteral(":/images/north_mask.png"));
@@ -205,10 +204,15 @@ void MainWindow::applyStyle()
 {
     if (styleName == QLatin1String("Mono"))
         ui->actionMono_Style->setChecked(true);
-    const Style &style = styleNamed(styleName);
+    showStyle(styleNamed(styleName));
+    showLamps(0);
+}
+
+/// The icons and the glow; the lamps are the wizard's.
+void MainWindow::showStyle(const Style &style)
+{
     ui->label_precise_poleIcon->setPixmap(QPixmap(style.poleIcon));
     ui->label_precise_axisIcon->setPixmap(QPixmap(style.axisIcon));
-    showLamps(0);
     for (QGraphicsDropShadowEffect *const shadow : {sliderShadow, roughSliderShadow})
         shadow->setColor(style.glow);
 }

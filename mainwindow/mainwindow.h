@@ -25,6 +25,7 @@ class QTimer;
 enum class Section;
 struct Settings;
 struct StarCatalogue;
+struct Style;
 struct WizardPage;
 struct WizardStep;
 
@@ -150,6 +151,7 @@ private:
     void startTimers();
     void loadStarCatalogue();
     void applyStyle();
+    void showStyle(const Style &style);
     void applyZoomAction();
     void applyLanguageAction();
     void applyIdleState();

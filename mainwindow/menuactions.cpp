@@ -14,8 +14,6 @@
 
 #include <QDesktopServices>
 #include <QFileDialog>
-#include <QGraphicsDropShadowEffect>
-#include <QLabel>
 #include <QMediaPlayer>
 #include <QMediaPlaylist>
 #include <QtDebug>
@@ -53,11 +51,7 @@ void MainWindow::on_actionMono_Style_toggled(bool arg1)
     else
         qDebug("switch to color style");
     setStyleName(arg1 ? QStringLiteral("Mono") : QStringLiteral("Color"));
-    const Style &style = styleNamed(styleName);
-    sliderShadow->setColor(style.glow);
-    roughSliderShadow->setColor(style.glow);
-    ui->label_precise_poleIcon->setPixmap(QPixmap(style.poleIcon));
-    ui->label_precise_axisIcon->setPixmap(QPixmap(style.axisIcon));
+    showStyle(styleNamed(styleName));
     const LampCount lit = lampsOnStyleChange(currentStep);
     if (lit != lampsUnchanged)
         showLamps(lit);
