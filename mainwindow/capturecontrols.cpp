@@ -63,15 +63,15 @@ void MainWindow::parameterSliderMoved(const Parameter &parameter, int value)
 
 void MainWindow::parameterTyped(const Parameter &parameter)
 {
+    const int typed = numberIn(parameter.edit.text());
+    const int kept = std::clamp(typed, parameter.slider.minimum(), parameter.slider.maximum());
+    if (kept != typed)
+        parameter.edit.setText(QString::number(kept));
     {
         const QSignalBlocker blocker(parameter.slider);
-        const int typed = numberIn(parameter.edit.text());
-        const int kept = std::clamp(typed, parameter.slider.minimum(), parameter.slider.maximum());
-        if (kept != typed)
-            parameter.edit.setText(QString::number(kept));
         parameter.slider.setValue(kept);
     }
-    parameter.value = parameter.edit.text().toDouble() * parameter.perSliderUnit;
+    parameter.value = kept * parameter.perSliderUnit;
     SetVELDIXParam(cameraHandle, parameter.control, parameter.value);
 }
 

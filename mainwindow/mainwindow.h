@@ -206,7 +206,7 @@ private:
     void showPolarisTarget();
     void scaleDirectionArrow();
     void setZoom(float factor);
-    void stepRotation(QSlider &slider, int degrees);
+    void stepRotation(QSlider &slider, int degrees, void (MainWindow::*turned)(int));
 
     // region.cpp
     bool isSouth() const;
