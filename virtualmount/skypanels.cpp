@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The virtual mount's window: which fields set the site, the time, the weather and the camera's
 // faults?
+#include "virtualcamera/skykeys.h"
 #include "virtualmount/fields.h"
 #include "virtualmount/mountwindow.h"
 
@@ -87,8 +88,9 @@ QWidget *MountWindow::timeFields()
     date = new QDateTimeEdit(this);
     nameWidget(*date, QStringLiteral("date"), tr("Date and time, UTC"), tr("Date and time, UTC"));
     date->setTimeSpec(Qt::UTC);
-    date->setDateTimeRange(QDateTime(QDate(1973, 1, 1), QTime(0, 0), Qt::UTC),
-                           QDateTime(QDate(2100, 12, 31), QTime(23, 59, 59), Qt::UTC));
+    date->setDateTimeRange(
+        QDateTime(QDate(virtualsky::firstYear, 1, 1), QTime(0, 0), Qt::UTC),
+        QDateTime(QDate(virtualsky::lastYear, 12, 31), QTime(23, 59, 59), Qt::UTC));
     date->setMinimumWidth(178); // the style sheet's buttons are not in the size hint
     date->setDisplayFormat(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
     date->setKeyboardTracking(false);
