@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Shows the whole alignment by itself in the real window, and prints the mount's true error before
 // and after.
-#include "app/stylesheet.h"
+#include "app/startup.h"
 #include "dialogs/settingsfile.h"
 #include "mainwindow/mainwindow.h"
-#include "resources/resources.h"
 #include "tools/tour/album.h"
 #include "tools/tour/caption.h"
 #include "tools/tour/exhibits.h"
@@ -195,6 +194,7 @@ void run(const QCommandLineParser &options)
 int main(int argc, char *argv[])
 {
     setvbuf(stdout, nullptr, _IOLBF, 0); // each action is told as it is done, into a file as well
+    prepareApplication();
     QApplication application(argc, argv);
     QCommandLineParser options;
     addOptions(options);
@@ -205,8 +205,7 @@ int main(int argc, char *argv[])
     if (qEnvironmentVariableIsEmpty("QUORVANDEL_SKY"))
         qputenv("QUORVANDEL_SKY", QFile::encodeName(ownSky.filePath("sky.ini")));
 
-    initialiseResources();
-    applyStyleSheet(application, ":/qss/default.qss");
+    startWindows(application);
     try {
         run(options);
     } catch (const std::exception &problem) {
