@@ -4,6 +4,7 @@
 #include "app/startup.h"
 #include "dialogs/settingsfile.h"
 #include "mainwindow/mainwindow.h"
+#include "tools/practicesky.h"
 #include "tools/tour/album.h"
 #include "tools/tour/caption.h"
 #include "tools/tour/exhibits.h"
@@ -14,7 +15,6 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QDateTime>
 #include <QFile>
 #include <QLabel>
 #include <QScreen>
@@ -36,12 +36,7 @@ constexpr int narrowWindow = 1200;
 
 virtualsky::SkyState startingSky(bool south, bool isFast, bool isQuiet)
 {
-    virtualsky::SkyState sky;
-    sky.latitude = south ? -34.0 : 40.0;
-    sky.longitude = south ? 149.0 : 116.0;
-    sky.date =
-        double(QDateTime::fromString("2024-05-23T14:00:00Z", Qt::ISODate).toSecsSinceEpoch());
-    sky.running = false;
+    virtualsky::SkyState sky = practiceSky(south);
     sky.boltAltitude = altitudeOff;
     sky.boltAzimuth = azimuthOff;
     sky.unthrottled = isFast;
