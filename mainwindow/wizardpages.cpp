@@ -79,11 +79,11 @@ void MainWindow::buildWizardPage(const WizardPage &page)
     row->addStretch(1);
     if (page.askName)
         row->addWidget(named(new QLabel(widget), page.askName));
-    for (const PageButton &button : page.buttons) {
-        if (!button.name)
+    for (const PageButton *const button : {&page.back, &page.forward}) {
+        if (!button->name)
             continue;
-        auto *const pushButton = named(new QPushButton(widget), button.name);
-        connect(pushButton, SIGNAL(clicked(bool)), this, button.slot);
+        auto *const pushButton = named(new QPushButton(widget), button->name);
+        connect(pushButton, SIGNAL(clicked(bool)), this, button->slot);
         row->addWidget(pushButton);
     }
     if (row->count() > 1)
@@ -101,9 +101,9 @@ void MainWindow::applyPageTexts()
         tipTabs->findChild<QLabel *>(page.tipName)->setText(tr(page.northTip));
         if (page.askName)
             tipTabs->findChild<QLabel *>(page.askName)->setText(tr(page.ask));
-        for (const PageButton &button : page.buttons)
-            if (button.name)
-                tipTabs->findChild<QPushButton *>(button.name)->setText(tr(button.text));
+        for (const PageButton *const button : {&page.back, &page.forward})
+            if (button->name)
+                tipTabs->findChild<QPushButton *>(button->name)->setText(tr(button->text));
     }
 }
 

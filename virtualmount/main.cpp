@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The virtual mount's entry point: the look, the sky file, the window, the event loop.
-#include "app/stylesheet.h"
-#include "resources/resources.h"
+#include "app/startup.h"
 #include "virtualcamera/skyfile.h"
 #include "virtualmount/mountwindow.h"
 #include "virtualmount/places.h"
@@ -28,8 +27,7 @@ QByteArray geometryText(const QRect &place)
 
 int main(int argc, char *argv[])
 {
-    // Nothing is drawn with OpenGL: its libraries are not even loaded.
-    QApplication::setAttribute(Qt::AA_ForceRasterWidgets);
+    prepareApplication();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("quorvandel-mount"));
     QCommandLineParser options;
@@ -40,8 +38,7 @@ int main(int argc, char *argv[])
         {QStringLiteral("places"),
          QStringLiteral("Print where the program and this window stand side by side.")});
     options.process(application);
-    initialiseResources();
-    applyStyleSheet(application, QStringLiteral(":/qss/default.qss"));
+    startWindows(application);
     MountWindow window(QFile::decodeName(virtualsky::skyFilePath().c_str()));
     if (options.isSet(QStringLiteral("places"))) {
         window.ensurePolished();

@@ -19,7 +19,6 @@ namespace virtualmount
 {
 namespace
 {
-constexpr qint64 largestFile = 65536; // bytes, as the camera takes it
 constexpr int lockMilliseconds = 500; // a write takes a few
 
 QString translated(const char *source)
@@ -46,8 +45,8 @@ FileText readFile(const QString &path)
         // Taken away or replaced in between: the next look tells.
         return QFileInfo::exists(path) ? FileText{true, {}, file.errorString()} : FileText{};
     }
-    const QByteArray bytes = file.read(largestFile + 1);
-    if (bytes.size() > largestFile)
+    const QByteArray bytes = file.read(qint64(virtualsky::largestSkyFile) + 1);
+    if (bytes.size() > qint64(virtualsky::largestSkyFile))
         return {true, {}, translated(QT_TRANSLATE_NOOP("SkyDocument", "longer than 64 KiB"))};
     return {true, bytes.toStdString(), {}};
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The virtual mount's window: which fields set the site, the time, the weather and the camera's
 // faults?
+#include "virtualcamera/skykeys.h"
 #include "virtualmount/fields.h"
 #include "virtualmount/mountwindow.h"
 
@@ -19,8 +20,8 @@ using namespace virtualmount;
 /// A slider over a number of the state.
 struct MountWindow::Slider {
     double SkyState::*member;
-    double unit; ///< of the number, for one step of the slider
-    int most;    ///< steps
+    double stepsPerUnit; ///< of the number
+    int most;            ///< steps
     const char *name, *label;
     QString shown; ///< with %1 for the steps
 };
@@ -87,8 +88,9 @@ QWidget *MountWindow::timeFields()
     date = new QDateTimeEdit(this);
     nameWidget(*date, QStringLiteral("date"), tr("Date and time, UTC"), tr("Date and time, UTC"));
     date->setTimeSpec(Qt::UTC);
-    date->setDateTimeRange(QDateTime(QDate(1973, 1, 1), QTime(0, 0), Qt::UTC),
-                           QDateTime(QDate(2100, 12, 31), QTime(23, 59, 59), Qt::UTC));
+    date->setDateTimeRange(
+        QDateTime(QDate(virtualsky::firstYear, 1, 1), QTime(0, 0), Qt::UTC),
+        QDateTime(QDate(virtualsky::lastYear, 12, 31), QTime(23, 59, 59), Qt::UTC));
     date->setMinimumWidth(178); // the style sheet's buttons are not in the size hint
     date->setDisplayFormat(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
     date->setKeyboardTracking(false);
@@ -129,18 +131,18 @@ QSlider *MountWindow::addSlider(QGridLayout &grid, const Slider &row)
     slider->setPageStep(row.most / 10);
     slider->installEventFilter(this);
     connect(slider, &QSlider::valueChanged, this,
-            [this, member = row.member, unit = row.unit](int steps) {
-                edit([=](SkyState &state) { state.*member = double(steps) / unit; });
+            [this, member = row.member, stepsPerUnit = row.stepsPerUnit](int steps) {
+                edit([=](SkyState &state) { state.*member = double(steps) / stepsPerUnit; });
             });
     auto *const label = new QLabel(tr(row.label), this);
     label->setBuddy(slider);
     auto *const value = new QLabel(this);
     value->setMinimumWidth(44);
-    fields.emplace_back(
-        [slider, value, member = row.member, unit = row.unit, text = row.shown](const SkyState &s) {
-            showIn(*slider, s.*member * unit);
-            value->setText(text.arg(std::round(s.*member * unit), 0, 'f', 0));
-        });
+    fields.emplace_back([slider, value, member = row.member, stepsPerUnit = row.stepsPerUnit,
+                         text = row.shown](const SkyState &s) {
+        showIn(*slider, s.*member * stepsPerUnit);
+        value->setText(text.arg(std::round(s.*member * stepsPerUnit), 0, 'f', 0));
+    });
     const int line = grid.rowCount();
     grid.addWidget(label, line, 0);
     grid.addWidget(slider, line, 1);

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Shows the whole alignment by itself in the real window, and prints the mount's true error before
 // and after.
-#include "app/stylesheet.h"
+#include "app/startup.h"
 #include "dialogs/settingsfile.h"
 #include "mainwindow/mainwindow.h"
-#include "resources/resources.h"
+#include "tools/practicesky.h"
 #include "tools/tour/album.h"
 #include "tools/tour/caption.h"
 #include "tools/tour/exhibits.h"
@@ -15,7 +15,6 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QDateTime>
 #include <QFile>
 #include <QLabel>
 #include <QScreen>
@@ -37,12 +36,7 @@ constexpr int narrowWindow = 1200;
 
 virtualsky::SkyState startingSky(bool south, bool isFast, bool isQuiet)
 {
-    virtualsky::SkyState sky;
-    sky.latitude = south ? -34.0 : 40.0;
-    sky.longitude = south ? 149.0 : 116.0;
-    sky.date =
-        double(QDateTime::fromString("2024-05-23T14:00:00Z", Qt::ISODate).toSecsSinceEpoch());
-    sky.running = false;
+    virtualsky::SkyState sky = practiceSky(south);
     sky.boltAltitude = altitudeOff;
     sky.boltAzimuth = azimuthOff;
     sky.unthrottled = isFast;
@@ -195,6 +189,7 @@ void run(const QCommandLineParser &options)
 int main(int argc, char *argv[])
 {
     setvbuf(stdout, nullptr, _IOLBF, 0); // each action is told as it is done, into a file as well
+    prepareApplication();
     QApplication application(argc, argv);
     QCommandLineParser options;
     addOptions(options);
@@ -205,8 +200,7 @@ int main(int argc, char *argv[])
     if (qEnvironmentVariableIsEmpty("QUORVANDEL_SKY"))
         qputenv("QUORVANDEL_SKY", QFile::encodeName(ownSky.filePath("sky.ini")));
 
-    initialiseResources();
-    applyStyleSheet(application, ":/qss/default.qss");
+    startWindows(application);
     try {
         run(options);
     } catch (const std::exception &problem) {
