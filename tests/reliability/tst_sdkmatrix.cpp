@@ -6,8 +6,8 @@
 #include "tests/support/logrecorder.h"
 
 #include <QLabel>
-#include <QSlider>
 #include <QRegularExpression>
+#include <QSlider>
 #include <QtTest>
 #include <limits>
 #include <optional>
