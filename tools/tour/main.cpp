@@ -34,12 +34,12 @@ constexpr int watchedBoltParts = 8;
 /// A window narrower than this is better shown at half size.
 constexpr int narrowWindow = 1200;
 
-virtualsky::SkyState startingSky(bool south, bool isFast, bool isQuiet)
+virtualsky::SkyState startingSky(bool south, bool isUnthrottled, bool isQuiet)
 {
     virtualsky::SkyState sky = practiceSky(south);
     sky.boltAltitude = altitudeOff;
     sky.boltAzimuth = azimuthOff;
-    sky.unthrottled = isFast;
+    sky.unthrottled = isUnthrottled;
     sky.noise = !isQuiet; // pictures of a quiet sensor are small files
     return sky;
 }
@@ -66,6 +66,7 @@ void addOptions(QCommandLineParser &options)
     options.addHelpOption();
     options.addOption({"south", "Align on the southern pole."});
     options.addOption({"fast", "Without pauses, as fast as the pictures come."});
+    options.addOption({"real-rate", "With --fast: no faster than a camera, for honest read-outs."});
     options.addOption({"pictures", "Save a picture of every step to <folder>.", "folder"});
     options.addOption(
         {"frames", "Save the pictures of the fine adjustment to <folder>.", "folder"});
@@ -153,7 +154,8 @@ void run(const QCommandLineParser &options)
     if (animation)
         how.boltParts = animatedParts;
     const bool isQuiet = steps || animation || views;
-    Knobs knobs(virtualsky::skyFilePath(), startingSky(how.south, options.isSet("fast"), isQuiet));
+    const bool isUnthrottled = options.isSet("fast") && !options.isSet("real-rate");
+    Knobs knobs(virtualsky::skyFilePath(), startingSky(how.south, isUnthrottled, isQuiet));
     Settings settings;
     settings.languageCode = options.value("language");
     writeSettings(settingsFilePath(), settings);
