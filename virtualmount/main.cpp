@@ -3,6 +3,7 @@
 #include "app/stylesheet.h"
 #include "resources/resources.h"
 #include "virtualcamera/skyfile.h"
+#include "virtualmount/languages.h"
 #include "virtualmount/mountwindow.h"
 #include "virtualmount/places.h"
 
@@ -39,8 +40,17 @@ int main(int argc, char *argv[])
     options.addOption(
         {QStringLiteral("places"),
          QStringLiteral("Print where the program and this window stand side by side.")});
+    options.addOption({QStringLiteral("language"),
+                       QStringLiteral("EN, ZH, JA, RU, FR, DE, ES, PT, IT or KO; the system's "
+                                      "language if it is left out."),
+                       QStringLiteral("code")});
     options.process(application);
     initialiseResources();
+    if (!virtualmount::speakAsAsked(options.value(QStringLiteral("language")))) {
+        fprintf(stderr, "quorvandel-mount: --language takes EN, ZH, JA, RU, FR, DE, ES, PT, IT or "
+                        "KO\n");
+        return 1;
+    }
     applyStyleSheet(application, QStringLiteral(":/qss/default.qss"));
     MountWindow window(QFile::decodeName(virtualsky::skyFilePath().c_str()));
     if (options.isSet(QStringLiteral("places"))) {

@@ -21,7 +21,7 @@ struct MountWindow::Slider {
     double SkyState::*member;
     double unit; ///< of the number, for one step of the slider
     int most;    ///< steps
-    const char *name, *label;
+    const char *name, *label, *what;
     QString shown; ///< with %1 for the steps
 };
 
@@ -29,7 +29,7 @@ struct MountWindow::Slider {
 struct MountWindow::Place {
     double SkyState::*member;
     double most; ///< degrees
-    const char *name, *label, *positive, *negative;
+    const char *name, *label, *positive, *negative, *what, *whichSide;
 };
 
 QCheckBox *MountWindow::checkBox(const QString &name, const QString &text,
@@ -47,15 +47,14 @@ QCheckBox *MountWindow::checkBox(const QString &name, const QString &text,
 void MountWindow::addPlace(QGridLayout &grid, const Place &row)
 {
     auto *const box = new QDoubleSpinBox(this);
-    nameWidget(*box, QLatin1String(row.name), tr("%1 in degrees").arg(QLatin1String(row.name)));
+    nameWidget(*box, QLatin1String(row.name), tr(row.what));
     box->setRange(0.0, row.most);
     box->setDecimals(3);
     box->setSuffix(QStringLiteral("°"));
     box->setKeyboardTracking(false);
     box->installEventFilter(this);
     auto *const side = new QComboBox(this);
-    nameWidget(*side, QLatin1String(row.name) + QStringLiteral("Side"),
-               tr("Side of the %1").arg(QLatin1String(row.name)));
+    nameWidget(*side, QLatin1String(row.name) + QStringLiteral("Side"), tr(row.whichSide));
     side->addItems({tr(row.positive), tr(row.negative)});
     side->installEventFilter(this);
     const auto set = [this, box, side, member = row.member] {
@@ -89,7 +88,7 @@ QWidget *MountWindow::timeFields()
     date->setTimeSpec(Qt::UTC);
     date->setDateTimeRange(QDateTime(QDate(1973, 1, 1), QTime(0, 0), Qt::UTC),
                            QDateTime(QDate(2100, 12, 31), QTime(23, 59, 59), Qt::UTC));
-    date->setMinimumWidth(178); // the style sheet's buttons are not in the size hint
+    date->setMinimumWidth(190); // the style sheet's buttons are not in the size hint
     date->setDisplayFormat(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
     date->setKeyboardTracking(false);
     date->installEventFilter(this);
@@ -103,9 +102,11 @@ QWidget *MountWindow::sitePanel()
     QGridLayout &grid = gridIn(*panel);
     const Place places[] = {
         {&SkyState::latitude, 90.0, "latitude", QT_TR_NOOP("&Latitude"), QT_TR_NOOP("North"),
-         QT_TR_NOOP("South")},
+         QT_TR_NOOP("South"), QT_TR_NOOP("Latitude in degrees"),
+         QT_TR_NOOP("Latitude: north or south")},
         {&SkyState::longitude, 180.0, "longitude", QT_TR_NOOP("L&ongitude"), QT_TR_NOOP("East"),
-         QT_TR_NOOP("West")},
+         QT_TR_NOOP("West"), QT_TR_NOOP("Longitude in degrees"),
+         QT_TR_NOOP("Longitude: east or west")},
     };
     for (const Place &row : places)
         addPlace(grid, row);
@@ -124,7 +125,7 @@ QWidget *MountWindow::sitePanel()
 QSlider *MountWindow::addSlider(QGridLayout &grid, const Slider &row)
 {
     auto *const slider = new QSlider(Qt::Horizontal, this);
-    nameWidget(*slider, QLatin1String(row.name), QLatin1String(row.name));
+    nameWidget(*slider, QLatin1String(row.name), tr(row.what));
     slider->setRange(0, row.most);
     slider->setPageStep(row.most / 10);
     slider->installEventFilter(this);
@@ -152,10 +153,27 @@ QWidget *MountWindow::weatherPanel()
 {
     auto *const panel = new QGroupBox(tr("Weather"), this);
     QGridLayout &grid = gridIn(*panel);
-    const Slider clouds = {&SkyState::clouds,     100.0,     100, "clouds",
-                           QT_TR_NOOP("&Clouds"), tr("%1 %")};
-    const Slider moon = {&SkyState::moon, 100.0, 100, "moon", QT_TR_NOOP("&Moon"), tr("%1 %")};
-    const Slider seeing = {&SkyState::seeing, 1.0, 120, "seeing", QT_TR_NOOP("&Seeing"), tr("%1″")};
+    const Slider clouds = {&SkyState::clouds,
+                           100.0,
+                           100,
+                           "clouds",
+                           QT_TR_NOOP("&Clouds"),
+                           QT_TR_NOOP("Clouds in percent"),
+                           tr("%1 %")};
+    const Slider moon = {&SkyState::moon,
+                         100.0,
+                         100,
+                         "moon",
+                         QT_TR_NOOP("&Moon"),
+                         QT_TR_NOOP("Glow of the moon in percent"),
+                         tr("%1 %")};
+    const Slider seeing = {&SkyState::seeing,
+                           1.0,
+                           120,
+                           "seeing",
+                           QT_TR_NOOP("&Seeing"),
+                           QT_TR_NOOP("Seeing in seconds of arc"),
+                           tr("%1″")};
     cloudSlider = addSlider(grid, clouds);
     passing = new QCheckBox(tr("&Passing"), panel);
     nameWidget(*passing, QStringLiteral("passing"), tr("Clouds come and go"),
