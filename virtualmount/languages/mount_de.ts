@@ -193,7 +193,7 @@ Strg+1 bis Strg+6 drehen die Achse, Esc verlässt ein Feld.</translation>
     </message>
     <message>
         <source>Runs from</source>
-        <translation>Läuft ab</translation>
+        <translation>Läuft von</translation>
     </message>
     <message>
         <source>Stands at</source>

@@ -253,7 +253,7 @@ Ctrl+1 a Ctrl+6 giran el eje; Esc sale de un campo.</translation>
     </message>
     <message>
         <source>Weather</source>
-        <translation>Tiempo atmosférico</translation>
+        <translation>Meteorología</translation>
     </message>
     <message>
         <source>&amp;Clouds</source>

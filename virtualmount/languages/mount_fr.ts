@@ -166,7 +166,7 @@
     <message>
         <source>The RA axis misses the pole by %1:
 %2 and %3.</source>
-        <translation>L&apos;axe d&apos;AD manque le pôle de %1&#xa0;:
+        <translation>L&apos;axe d&apos;AD passe à %1 du pôle&#xa0;:
 %2 et %3.</translation>
     </message>
     <message>

@@ -175,13 +175,13 @@
     </message>
     <message>
         <source>Fault in the sky file: %1. Nothing is written.</source>
-        <translation>Errore nel file del cielo: %1. Non si scrive nulla.</translation>
+        <translation>Errore nel file del cielo: %1. Non viene scritto nulla.</translation>
     </message>
     <message>
         <source>Arrow keys turn the bolts, with Shift finely.
 Ctrl+1 to Ctrl+6 turn the axis, Esc leaves a field.</source>
         <translation>Le frecce girano le viti, con Maiusc solo un poco.
-Da Ctrl+1 a Ctrl+6 ruotano l&apos;asse, Esc lascia un campo.</translation>
+Ctrl+1 … Ctrl+6 ruotano l&apos;asse, Esc esce da un campo.</translation>
     </message>
     <message>
         <source>Which time it is</source>

@@ -145,7 +145,7 @@
     </message>
     <message>
         <source>Write a new sky file over the one with the fault</source>
-        <translation>誤りのある空ファイルを新しいものに置き換える</translation>
+        <translation>誤りのある天空ファイルを新しいものに置き換える</translation>
     </message>
     <message>
         <source>Quorvandel Virtual Mount</source>
@@ -161,7 +161,7 @@
     </message>
     <message>
         <source>What is left of the error is hidden.</source>
-        <translation>残りの誤差は隠されています。</translation>
+        <translation>残りの誤差は非表示です。</translation>
     </message>
     <message>
         <source>The RA axis misses the pole by %1:
@@ -171,11 +171,11 @@
     </message>
     <message>
         <source>The sky file can not be written: %1.</source>
-        <translation>空ファイルに書き込めません: %1。</translation>
+        <translation>天空ファイルに書き込めません: %1。</translation>
     </message>
     <message>
         <source>Fault in the sky file: %1. Nothing is written.</source>
-        <translation>空ファイルの誤り: %1。何も書き込みません。</translation>
+        <translation>天空ファイルの誤り: %1。何も書き込みません。</translation>
     </message>
     <message>
         <source>Arrow keys turn the bolts, with Shift finely.

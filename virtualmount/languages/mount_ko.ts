@@ -289,7 +289,7 @@ Ctrl+1~Ctrl+6으로 축을 돌리고 Esc로 입력란에서 나옵니다.</trans
     </message>
     <message>
         <source>&amp;Passing</source>
-        <translation>지나감(&amp;P)</translation>
+        <translation>지나가는 구름(&amp;P)</translation>
     </message>
     <message>
         <source>Clouds come and go</source>

@@ -166,7 +166,7 @@
     <message>
         <source>The RA axis misses the pole by %1:
 %2 and %3.</source>
-        <translation>O eixo de AR falha o polo por %1:
+        <translation>O eixo de AR desvia-se %1 do polo:
 %2 e %3.</translation>
     </message>
     <message>
@@ -253,7 +253,7 @@ Ctrl+1 a Ctrl+6 rodam o eixo; Esc sai de um campo.</translation>
     </message>
     <message>
         <source>Weather</source>
-        <translation>Tempo atmosférico</translation>
+        <translation>Meteorologia</translation>
     </message>
     <message>
         <source>&amp;Clouds</source>

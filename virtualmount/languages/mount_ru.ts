@@ -522,11 +522,11 @@ Ctrl+1 … Ctrl+6 поворачивают ось, Esc — выход из по�
     </message>
     <message>
         <source>%1 east</source>
-        <translation>%1 В</translation>
+        <translation>%1 вост.</translation>
     </message>
     <message>
         <source>%1 west</source>
-        <translation>%1 З</translation>
+        <translation>%1 зап.</translation>
     </message>
 </context>
 </TS>

@@ -193,11 +193,11 @@ Ctrl+1 至 Ctrl+6 转动赤经轴，Esc 离开输入框。</translation>
     </message>
     <message>
         <source>Runs from</source>
-        <translation>从此走时</translation>
+        <translation>从此时起</translation>
     </message>
     <message>
         <source>Stands at</source>
-        <translation>停在此刻</translation>
+        <translation>停在此时</translation>
     </message>
     <message>
         <source>Date and time, UTC</source>
@@ -289,7 +289,7 @@ Ctrl+1 至 Ctrl+6 转动赤经轴，Esc 离开输入框。</translation>
     </message>
     <message>
         <source>&amp;Passing</source>
-        <translation>飘云(&amp;P)</translation>
+        <translation>云飘过(&amp;P)</translation>
     </message>
     <message>
         <source>Clouds come and go</source>
