@@ -44,7 +44,7 @@ MountWindow::MountWindow(const QString &skyFile, QWidget *parent)
     auto *const central = new QWidget(this);
     central->setObjectName(QStringLiteral("centralWidget"));
     auto *const column = new QVBoxLayout(central);
-    column->setContentsMargins(8, 6, 8, 4);
+    column->setContentsMargins(8, 4, 8, 2);
     column->setSpacing(5);
     setCentralWidget(central);
     for (QWidget *const panel :
