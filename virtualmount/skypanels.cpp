@@ -21,8 +21,9 @@ struct MountWindow::Slider {
     double SkyState::*member;
     double unit; ///< of the number, for one step of the slider
     int most;    ///< steps
-    const char *name, *label, *what;
+    const char *name, *label;
     QString shown; ///< with %1 for the steps
+    const char *what;
 };
 
 /// A coordinate of the site with its side: north and east are positive.
@@ -158,22 +159,22 @@ QWidget *MountWindow::weatherPanel()
                            100,
                            "clouds",
                            QT_TR_NOOP("&Clouds"),
-                           QT_TR_NOOP("Clouds in percent"),
-                           tr("%1 %")};
+                           tr("%1 %"),
+                           QT_TR_NOOP("Clouds in percent")};
     const Slider moon = {&SkyState::moon,
                          100.0,
                          100,
                          "moon",
                          QT_TR_NOOP("&Moon"),
-                         QT_TR_NOOP("Glow of the moon in percent"),
-                         tr("%1 %")};
+                         tr("%1 %"),
+                         QT_TR_NOOP("Glow of the moon in percent")};
     const Slider seeing = {&SkyState::seeing,
                            1.0,
                            120,
                            "seeing",
                            QT_TR_NOOP("&Seeing"),
-                           QT_TR_NOOP("Seeing in seconds of arc"),
-                           tr("%1″")};
+                           tr("%1″"),
+                           QT_TR_NOOP("Seeing in seconds of arc")};
     cloudSlider = addSlider(grid, clouds);
     passing = new QCheckBox(tr("&Passing"), panel);
     nameWidget(*passing, QStringLiteral("passing"), tr("Clouds come and go"),
