@@ -2,6 +2,7 @@
 // The virtual mount's entry point: the look, the sky file, the window, the event loop.
 #include "app/startup.h"
 #include "virtualcamera/skyfile.h"
+#include "virtualmount/languages.h"
 #include "virtualmount/mountwindow.h"
 #include "virtualmount/places.h"
 
@@ -37,7 +38,16 @@ int main(int argc, char *argv[])
     options.addOption(
         {QStringLiteral("places"),
          QStringLiteral("Print where the program and this window stand side by side.")});
+    options.addOption({QStringLiteral("language"),
+                       QStringLiteral("EN, ZH, JA, RU, FR, DE, ES, PT, IT or KO; the system's "
+                                      "language if it is left out."),
+                       QStringLiteral("code")});
     options.process(application);
+    if (!virtualmount::speakAsAsked(options.value(QStringLiteral("language")))) {
+        fprintf(stderr, "quorvandel-mount: --language takes EN, ZH, JA, RU, FR, DE, ES, PT, IT or "
+                        "KO\n");
+        return 1;
+    }
     startWindows(application);
     MountWindow window(QFile::decodeName(virtualsky::skyFilePath().c_str()));
     if (options.isSet(QStringLiteral("places"))) {

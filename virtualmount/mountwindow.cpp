@@ -44,8 +44,8 @@ MountWindow::MountWindow(const QString &skyFile, QWidget *parent)
     auto *const central = new QWidget(this);
     central->setObjectName(QStringLiteral("centralWidget"));
     auto *const column = new QVBoxLayout(central);
-    column->setContentsMargins(8, 8, 8, 4);
-    column->setSpacing(6);
+    column->setContentsMargins(8, 4, 8, 2);
+    column->setSpacing(5);
     setCentralWidget(central);
     for (QWidget *const panel :
          {axisPanel(), boltPanel(), sitePanel(), weatherPanel(), faultPanel(), truthPanel()})
@@ -249,7 +249,7 @@ void MountWindow::refreshTexts()
     truthLabel->setText(truthShown ? truthText() : tr("What is left of the error is hidden."));
     replaceButton->setVisible(!document.fault().isEmpty());
     status->setText(statusText());
-    status->setToolTip(document.filePath());
+    status->setToolTip(document.filePath() + QLatin1Char('\n') + status->text());
 }
 
 QString MountWindow::truthText() const

@@ -3,6 +3,7 @@
 #include "virtualmount/skydocument.h"
 
 #include "virtualcamera/skyfile.h"
+#include "virtualmount/faulttexts.h"
 #include "virtualmount/skytext.h"
 
 #include <QCoreApplication>
@@ -12,7 +13,6 @@
 #include <QLockFile>
 #include <QThread>
 #include <cerrno>
-#include <system_error>
 #include <utility>
 
 namespace virtualmount
@@ -99,7 +99,7 @@ bool SkyDocument::refresh()
         try {
             good = virtualsky::parse(text);
         } catch (const virtualsky::SkyFileError &error) {
-            readFault = QString::fromUtf8(error.what());
+            readFault = faultText(error);
         }
     }
     return !existed || text != textBefore || readFault != faultBefore;
@@ -112,10 +112,10 @@ bool SkyDocument::write(const std::string &newText)
     try {
         const virtualsky::SkyState written = virtualsky::parse(newText);
         if (!virtualsky::writeAtomically(QFile::encodeName(path).toStdString(), newText))
-            throw virtualsky::SkyFileError(0, {}, std::generic_category().message(errno));
+            throw virtualsky::SkyFileError(0, {}, qt_error_string(errno).toStdString());
         good = written;
     } catch (const virtualsky::SkyFileError &error) {
-        lastWriteFault = QString::fromUtf8(error.what());
+        lastWriteFault = faultText(error);
         return false;
     }
     text = newText;
