@@ -11,7 +11,6 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QDial>
-#include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QTest>
@@ -84,7 +83,8 @@ void MonitorSkyTest::initTestCase_data()
 
 void MonitorSkyTest::initTestCase()
 {
-    qputenv("QUORVANDEL_SKY", QDir::temp().filePath("quorvandel-tst-monitorsky.ini").toUtf8());
+    // Beside the executable, as the settings file: runs of other builds have their own.
+    qputenv("QUORVANDEL_SKY", (QCoreApplication::applicationDirPath() + "/sky.ini").toUtf8());
     initialiseResources();
     applyStyleSheet(*qApp, ":/qss/default.qss");
     QFile::remove(settingsFilePath());
