@@ -276,7 +276,6 @@ void TestFrameDisplay::readOutsWaitForAPicture()
         monitorPositions.starACurrent = QPointF(100 + i, 200);
         monitorPositions.starBCurrent = QPointF(300, 400 + i);
         // The picture itself goes on coming.
-        announce(64, 48);
         frameQueue.append(plainPicture(64, 48, Qt::blue));
         w.call("showImages");
         QCOMPARE(starA.text() + starB.text(), QStringLiteral("(100.0,200.0)(300.0,400.0)"));
