@@ -11,6 +11,8 @@
 #include "tests/reliability/processcounts.h"
 #include "tests/support/logrecorder.h"
 #include "tests/support/mainwindowprobe.h"
+#include "tests/support/ordinaryuser.h"
+#include "tests/support/patience.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -120,33 +122,12 @@ void clearPlace()
         ::unlink(path);
 }
 
-/// The rights of an ordinary user while it lives, where the tests run as root, whom no rights bind.
-class OrdinaryUser
-{
-public:
-    static constexpr uid_t number = 65534; ///< whom the test's folder is given to
-
-    OrdinaryUser() : root(geteuid() == 0)
-    {
-        if (root && seteuid(number) != 0)
-            qFatal("can not become an ordinary user");
-    }
-    ~OrdinaryUser()
-    {
-        if (root && seteuid(0) != 0)
-            qFatal("can not become root again");
-    }
-
-private:
-    bool root;
-};
-
 /// Works a window as far as a person might who has not connected: pictures, template, style.
 void work(MainWindow &window)
 {
     window.resize(1600, 1100);
     window.show();
-    if (!QTest::qWaitForWindowExposed(&window))
+    if (!QTest::qWaitForWindowExposed(&window, patience))
         qFatal("the window does not come up");
     cameraState.frameWidth = 1280;
     cameraState.frameHeight = 960;
@@ -162,7 +143,7 @@ void work(MainWindow &window)
         const Locker lock(frameMutex);
         return frameQueue.isEmpty();
     };
-    if (!QTest::qWaitFor(isTaken))
+    if (!comesTrue(isTaken))
         qFatal("the picture is not taken");
     QTest::mouseDClick(&named<QLabel>(window, "label_showImg"), Qt::LeftButton, {}, QPoint(0, 0));
     for (const int angle : {90, 359, 0})
@@ -394,7 +375,7 @@ void SettingsMatrix::hugeFile()
     timer.start();
     const LogRecorder log;
     const qint64 huge = peakOfOneWindow();
-    QVERIFY2(timer.elapsed() < 20000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY2(timer.elapsed() < patience, qPrintable(QString::number(timer.elapsed())));
     const qint64 more = huge - plain;
     QVERIFY2(more < 16 * 1024 * 1024, qPrintable(QString::number(more)));
     QCOMPARE(log.texts(QtWarningMsg).filter("settings file").size(), 1);
