@@ -14,7 +14,7 @@
 
 namespace
 {
-constexpr int closingSignals[] = {SIGTERM, SIGINT};
+constexpr int closingSignals[] = {SIGTERM, SIGINT, SIGHUP};
 
 /// Where the handler writes to; -1 = nowhere.
 std::atomic<int> writeEnd{-1};
@@ -36,8 +36,12 @@ void handleWith(void (*handler)(int))
     action.sa_handler = handler;
     action.sa_flags = SA_RESTART;
     sigemptyset(&action.sa_mask);
-    for (const int number : closingSignals)
-        sigaction(number, &action, nullptr);
+    for (const int number : closingSignals) {
+        struct sigaction before = {};
+        sigaction(number, nullptr, &before);
+        if (before.sa_handler != SIG_IGN) // as nohup leaves SIGHUP
+            sigaction(number, &action, nullptr);
+    }
 }
 } // namespace
 

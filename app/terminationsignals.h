@@ -6,7 +6,8 @@
 
 class QWidget;
 
-/// While it lives, SIGTERM and SIGINT close `window` as its close button does, from the event loop.
+/// While it lives, SIGTERM, SIGINT and SIGHUP, if they are not ignored already, close `window` as
+/// its close button does, from the event loop.
 /// One at a time; afterwards the signals end the process at once, as they do by default.
 class TerminationSignals : public QObject
 {

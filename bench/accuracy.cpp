@@ -6,6 +6,8 @@
 #include "geometry/polecomputation.h"
 #include "geometry/starcatalogue.h"
 #include "geometry/stardetection.h"
+#include "tools/practicesky.h"
+#include "virtualcamera/catalogue.h"
 #include "virtualcamera/scene.h"
 #include "virtualcamera/sensor.h"
 #include "virtualcamera/truth.h"
@@ -14,6 +16,7 @@
 #include <cmath>
 #include <map>
 #include <opencv2/core.hpp>
+#include <optional>
 #include <random>
 
 namespace
@@ -22,9 +25,6 @@ using virtualsky::SkyState;
 
 /// Degrees of RA between the three picks: 30 to 60, as the instructions ask for.
 constexpr double turns[][2] = {{30, 60}, {40, 80}, {45, 90}, {60, 120}};
-
-constexpr double magnitudeA[] = {6.3, 7.2}; // north, south
-constexpr double magnitudeB[] = {1.97, 5.5};
 
 QPointF toPointF(const std::optional<virtualsky::Point> &p)
 {
@@ -77,52 +77,36 @@ double centroidBound(const AccuracyCase &sky, const SkyState &state, double magn
 class Camera
 {
 public:
-    Camera(const AccuracyCase &skyCase, const SkyState &initial) : sky(skyCase), state(initial) {}
+    Camera(const AccuracyCase &skyCase, const SkyState &initial) : sky(skyCase), current(initial) {}
 
     /// A frame as the camera takes it at one angle of the RA axis.
     const cv::Mat &frameAt(double raAngle)
     {
-        state.raAngle = raAngle;
+        current.raAngle = raAngle;
         picture.create(virtualsky::sensorHeight, virtualsky::sensorWidth, CV_8UC1);
-        sensor.render(state, scene.starsAt(state, *state.date), {},
+        sensor.render(current, scene.starsAt(current, *current.date), {},
                       {sky.seconds, sky.gain, ++number}, picture.data);
         return picture;
     }
-    virtualsky::Truth truth() const { return virtualsky::truth(state, *state.date); }
+    virtualsky::Truth truth() const { return virtualsky::truth(current, *current.date); }
 
-    SkyState &edit() { return state; }
+    SkyState &edit() { return current; }
+    const SkyState &state() const { return current; }
 
 private:
     const AccuracyCase &sky;
-    SkyState state;
+    SkyState current;
     virtualsky::Scene scene;
     virtualsky::Sensor sensor;
     cv::Mat picture;
     std::uint64_t number = 0;
 };
 
-/// A click is a pixel or two off the star.
-QPointF find(const cv::Mat &frame, QPointF star, std::mt19937 &random)
-{
-    std::uniform_real_distribution<double> slip(-2, 2);
-    double x = 0, y = 0;
-    GetPreciseStarPos(&frame, star.x() + slip(random), star.y() + slip(random), x, y);
-    return {x, y};
-}
-
-double rmsPerAxis(double sumOfSquares, int count)
-{
-    return std::sqrt(sumOfSquares / (2.0 * count));
-}
-
 SkyState skyOf(const AccuracyCase &sky)
 {
-    SkyState state;
-    state.latitude = sky.south ? -34.0 : 40.0;
-    state.longitude = sky.south ? 149.0 : 116.0;
+    SkyState state = practiceSky(sky.south);
     state.date =
         double(QDateTime::fromString(sky.date + "T14:00:00Z", Qt::ISODate).toSecsSinceEpoch());
-    state.running = false;
     // Nearly aligned, as when the pole is monitored: in the south the triangle's two candidates for
     // the pole lie some 34 pixels apart, and the one nearer to the axis is taken.
     state.boltAltitude = 0.03;
@@ -130,6 +114,143 @@ SkyState skyOf(const AccuracyCase &sky)
     state.clouds = sky.clouds;
     state.noise = sky.noise;
     return state;
+}
+
+StarCatalogue anglesOf(const AccuracyCase &sky)
+{
+    return readStarCatalogue(
+        sky.south ? ":/starData/SStarPosData.ini" : ":/starData/NStarPosData.ini", sky.epoch);
+}
+
+/// What was found minus what is true, of one thing, pixels.
+class Errors
+{
+public:
+    void add(QPointF error) { errors.push_back(error); }
+    QPointF mean() const
+    {
+        QPointF sum;
+        for (const QPointF &error : errors)
+            sum += error / count();
+        return sum;
+    }
+    double rms(QPointF about = {}) const { return std::sqrt(squares(about) / count()); }
+    double rmsPerAxis() const { return std::sqrt(squares({}) / (2.0 * count())); }
+
+private:
+    double count() const { return double(errors.size()); }
+    double squares(QPointF about) const
+    {
+        double sum = 0;
+        for (const QPointF &error : errors)
+            sum += std::pow(length(error - about), 2);
+        return sum;
+    }
+
+    std::vector<QPointF> errors;
+};
+
+/// The method's tries under one sky.
+class Tries
+{
+public:
+    explicit Tries(const AccuracyCase &skyCase)
+        : sky(skyCase), stars(anglesOf(skyCase)), camera(skyCase, skyOf(skyCase))
+    {
+    }
+
+    /// The axis, and all stars with it, comes to another place between the pixels.
+    void moveAxis()
+    {
+        std::uniform_real_distribution<double> place(-3, 3);
+        camera.edit().axisX = 40 + place(random);
+        camera.edit().axisY = -30 + place(random);
+    }
+    void tryPole();
+    /// \param turn degrees of RA of the second and third pick
+    void tryAxis(const double (&turn)[2]);
+
+    Accuracy result() const;
+
+private:
+    std::optional<QPointF> find(const cv::Mat &frame, QPointF star);
+    double bound(virtualsky::TemplateStar star, QPointF place) const;
+
+    const AccuracyCase &sky;
+    StarCatalogue stars;
+    Camera camera;
+    std::mt19937 random{20240523};
+    Errors starA, starB, axis, pole;
+    QPointF lastA, lastB, lastAxis; ///< the true places in the last picture for a pole
+    int failures = 0;
+};
+
+/// A click is a pixel or two off the star. Nothing, and one failure more, where no star is found.
+std::optional<QPointF> Tries::find(const cv::Mat &frame, QPointF star)
+{
+    std::uniform_real_distribution<double> slip(-2, 2);
+    double x = 0, y = 0;
+    if (GetPreciseStarPos(&frame, star.x() + slip(random), star.y() + slip(random), x, y) == 0)
+        return QPointF(x, y);
+    ++failures;
+    return {};
+}
+
+void Tries::tryPole()
+{
+    const cv::Mat &frame = camera.frameAt(0);
+    const virtualsky::Truth truth = camera.truth();
+    lastA = toPointF(truth.starA);
+    lastB = toPointF(truth.starB);
+    lastAxis = toPointF(truth.axis);
+    const std::optional<QPointF> a = find(frame, lastA), b = find(frame, lastB);
+    if (a)
+        starA.add(*a - lastA);
+    if (b)
+        starB.add(*b - lastB);
+    if (!a || !b)
+        return;
+    double x = 0, y = 0;
+    if (CalcPoleCOOR(a->x(), a->y(), stars.angleBAP, b->x(), b->y(), stars.angleABP, lastAxis.x(),
+                     lastAxis.y(), x, y) == 0)
+        pole.add(QPointF(x, y) - toPointF(truth.pole));
+    else
+        ++failures;
+}
+
+void Tries::tryAxis(const double (&turn)[2])
+{
+    std::optional<QPointF> picks[3];
+    for (int i = 0; i < 3; ++i) {
+        const cv::Mat &turned = camera.frameAt(i == 0 ? 0 : turn[i - 1]);
+        picks[i] = find(turned, toPointF(camera.truth().starD));
+    }
+    if (!picks[0] || !picks[1] || !picks[2])
+        return;
+    double x = 0, y = 0;
+    int radius = 0;
+    if (CenterOfCircle(picks[0]->x(), picks[0]->y(), picks[1]->x(), picks[1]->y(), picks[2]->x(),
+                       picks[2]->y(), x, y, radius) == 0)
+        axis.add(QPointF(x, y) - lastAxis);
+    else
+        ++failures;
+}
+
+double Tries::bound(virtualsky::TemplateStar star, QPointF place) const
+{
+    const double magnitude = virtualsky::templateStar(sky.south, star).vMagnitude;
+    return sky.noise ? centroidBound(sky, camera.state(), magnitude, place) : 0.0;
+}
+
+Accuracy Tries::result() const
+{
+    return {{starA.rmsPerAxis(), bound(virtualsky::TemplateStar::A, lastA)},
+            {starB.rmsPerAxis(), bound(virtualsky::TemplateStar::B, lastB)},
+            axis.rmsPerAxis(),
+            virtualsky::pixelScale * length(pole.mean()),
+            virtualsky::pixelScale * pole.rms(),
+            virtualsky::pixelScale * pole.rms(pole.mean()),
+            failures};
 }
 } // namespace
 
@@ -167,55 +288,11 @@ double poleErrorOfTheAngles(const QString &date, bool south)
 
 Accuracy measureAccuracy(const AccuracyCase &sky, int trials)
 {
-    const StarCatalogue stars = readStarCatalogue(
-        sky.south ? ":/starData/SStarPosData.ini" : ":/starData/NStarPosData.ini", sky.epoch);
-    std::mt19937 random(20240523);
-    std::uniform_real_distribution<double> place(-3, 3);
-    Camera camera(sky, skyOf(sky));
-    double squaresA = 0, squaresB = 0, squaresAxis = 0, squaresPole = 0;
-    std::vector<QPointF> poleErrors;
-    QPointF lastA, lastB;
+    Tries tries(sky);
     for (int trial = 0; trial < trials; ++trial) {
-        camera.edit().axisX = 40 + place(random);
-        camera.edit().axisY = -30 + place(random);
-        const cv::Mat &frame = camera.frameAt(0);
-        const virtualsky::Truth truth = camera.truth();
-        lastA = toPointF(truth.starA);
-        lastB = toPointF(truth.starB);
-        const QPointF a = find(frame, lastA, random), b = find(frame, lastB, random);
-        squaresA += std::pow(length(a - lastA), 2);
-        squaresB += std::pow(length(b - lastB), 2);
-        const QPointF axis = toPointF(truth.axis);
-        double x = 0, y = 0;
-        CalcPoleCOOR(a.x(), a.y(), stars.angleBAP, b.x(), b.y(), stars.angleABP, axis.x(), axis.y(),
-                     x, y);
-        poleErrors.push_back(QPointF(x, y) - toPointF(truth.pole));
-        squaresPole += std::pow(length(poleErrors.back()), 2);
-
-        QPointF picks[3];
-        const auto &turn = turns[std::size_t(trial) % std::size(turns)];
-        for (int i = 0; i < 3; ++i) {
-            const cv::Mat &turned = camera.frameAt(i == 0 ? 0 : turn[i - 1]);
-            picks[i] = find(turned, toPointF(camera.truth().starD), random);
-        }
-        int radius = 0;
-        CenterOfCircle(picks[0].x(), picks[0].y(), picks[1].x(), picks[1].y(), picks[2].x(),
-                       picks[2].y(), x, y, radius);
-        squaresAxis += std::pow(length(QPointF(x, y) - axis), 2);
+        tries.moveAxis();
+        tries.tryPole();
+        tries.tryAxis(turns[std::size_t(trial) % std::size(turns)]);
     }
-    QPointF mean;
-    for (const QPointF &error : poleErrors)
-        mean += error / trials;
-    double squaresScatter = 0;
-    for (const QPointF &error : poleErrors)
-        squaresScatter += std::pow(length(error - mean), 2);
-    const auto bound = [&](const double(&magnitudes)[2], QPointF star) {
-        return sky.noise ? centroidBound(sky, camera.edit(), magnitudes[sky.south], star) : 0.0;
-    };
-    return {{rmsPerAxis(squaresA, trials), bound(magnitudeA, lastA)},
-            {rmsPerAxis(squaresB, trials), bound(magnitudeB, lastB)},
-            rmsPerAxis(squaresAxis, trials),
-            virtualsky::pixelScale * length(mean),
-            virtualsky::pixelScale * std::sqrt(squaresPole / trials),
-            virtualsky::pixelScale * std::sqrt(squaresScatter / trials)};
+    return tries.result();
 }

@@ -30,6 +30,7 @@ struct Accuracy {
     double poleMean;    ///< arcseconds; distance of the mean pole from the true one
     double poleRms;     ///< arcseconds; distance of single poles from the true one
     double poleScatter; ///< arcseconds; of single poles about their mean, both axes together
+    int failures;       ///< stars, poles and axes that were not found; the errors leave them out
 };
 
 /// Every hemisphere, date and light of the report.

@@ -21,6 +21,9 @@ int main(int argc, char *argv[])
                sky.south ? "south" : "north", qPrintable(sky.date), qPrintable(sky.name),
                a.starA.rms, a.starA.bound, a.starB.rms, a.starB.bound, a.axisRms, a.poleMean,
                a.poleRms, a.poleScatter, poleErrorOfTheAngles(sky.date, sky.south));
+        if (a.failures > 0)
+            fprintf(stderr, "%s %s %s: %d times nothing was found\n", sky.south ? "south" : "north",
+                    qPrintable(sky.date), qPrintable(sky.name), a.failures);
     }
     return 0;
 }

@@ -15,7 +15,12 @@
 class CaptureThreadProbe
 {
 public:
-    void handleFrame() { thread.handleFrame(); }
+    /// With a grey frame of `size` in the fetch buffer.
+    void handleFrame(cv::Size size)
+    {
+        thread.fetched = {std::uint32_t(size.width), std::uint32_t(size.height), 8, 1};
+        thread.handleFrame();
+    }
     void followStars() { thread.followStars(); }
 
 private:
@@ -35,9 +40,6 @@ void prepare(bool marks, bool monitoring)
     const SkyFrame &frame = skyFrame();
     allocateFrameMatrices();
     setCameraDefaults(cameraState);
-    cameraState.frameWidth = std::uint32_t(frame.grey.cols);
-    cameraState.frameHeight = std::uint32_t(frame.grey.rows);
-    cameraState.frameChannels = 1;
     for (auto *const buffer : {&cameraState.frameBuffer, &cameraState.latestBuffer})
         std::copy_n(frame.grey.data, frame.grey.total(), (*buffer)->data());
     alignmentPoints.savedAxisCenter = found(frame.truth.axis);
@@ -60,7 +62,7 @@ void capturePass(benchmark::State &state, bool marks)
     prepare(marks, false);
     CaptureThreadProbe capture;
     for (auto _ : state) {
-        capture.handleFrame();
+        capture.handleFrame(skyFrame().grey.size());
         frameQueue.clear(); // as the GUI takes each picture
     }
 }
@@ -82,7 +84,7 @@ void monitoringAdded(benchmark::State &state)
 {
     prepare(false, true);
     CaptureThreadProbe capture;
-    capture.handleFrame();
+    capture.handleFrame(skyFrame().grey.size());
     for (auto _ : state) {
         magnifierQueue.clear();
         capture.followStars();
@@ -94,7 +96,7 @@ void monitoringPlain(benchmark::State &state)
 {
     prepare(false, true);
     CaptureThreadProbe capture;
-    capture.handleFrame();
+    capture.handleFrame(skyFrame().grey.size());
     const cv::Mat &grey = skyFrame().grey;
     QPointF starA, starB;
     PlainMagnifier magnifier;

@@ -27,8 +27,6 @@ void shown(benchmark::State &state, const char *zoom)
 {
     MainWindow window;
     window.findChild<QAction *>(zoom)->trigger();
-    cameraState.frameWidth = std::uint32_t(picture().width());
-    cameraState.frameHeight = std::uint32_t(picture().height());
     for (auto _ : state) {
         frameQueue.append(picture());
         QMetaObject::invokeMethod(&window, "showImages", Qt::DirectConnection);

@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Measures the time from the start of the process to the first painted window, over several starts.
-#include "app/logging.h"
-#include "app/stylesheet.h"
+#include "app/startup.h"
 #include "app/terminationsignals.h"
 #include "bench/processfigures.h"
 #include "mainwindow/mainwindow.h"
-#include "resources/resources.h"
 
 #include <QApplication>
-#include <QDateTime>
 #include <QTimer>
 #include <algorithm>
 #include <cstdio>
@@ -44,12 +41,10 @@ int showWindow(int argc, char *argv[], double started)
 {
     const auto passed = [started] { return 1e3 * (monotonicSeconds() - started); };
     const double entered = passed();
-    QApplication::setAttribute(Qt::AA_ForceRasterWidgets);
+    prepareApplication();
     QApplication application(argc, argv);
     const double connected = passed();
-    initialiseResources();
-    prepareLogFile(QDateTime::currentDateTime());
-    applyStyleSheet(application, QStringLiteral(":/qss/default.qss"));
+    startProgram(application, nullptr);
     const double styled = passed();
     MainWindow window;
     const TerminationSignals closing(window);

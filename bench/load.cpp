@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 // Measures the whole program on the virtual camera in monitor mode: memory, load, rate, clicks,
 // large allocations.
-#include "app/stylesheet.h"
+#include "app/startup.h"
 #include "bench/clicks.h"
 #include "bench/fetches.h"
 #include "bench/largeallocations.h"
 #include "bench/processfigures.h"
 #include "bench/session.h"
-#include "resources/resources.h"
 
 #include <QApplication>
 #include <QPushButton>
@@ -116,10 +115,9 @@ int main(int argc, char *argv[])
             continue;
         const int zoom = argc > 2 ? std::atoi(argv[2]) : 75;
         const double seconds = argc > 3 ? std::atof(argv[3]) : measurement.seconds;
-        QApplication::setAttribute(Qt::AA_ForceRasterWidgets);
+        prepareApplication();
         QApplication application(argc, argv);
-        initialiseResources();
-        applyStyleSheet(application, QStringLiteral(":/qss/default.qss"));
+        startWindows(application);
         try {
             Session session(zoom);
             measurement.measure(session, seconds);

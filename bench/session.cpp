@@ -3,6 +3,7 @@
 #include "bench/session.h"
 
 #include "dialogs/settingsfile.h"
+#include "tools/practicesky.h"
 #include "tools/tour/person.h"
 #include "virtualcamera/skyfile.h"
 
@@ -13,9 +14,7 @@ namespace
 {
 virtualsky::SkyState startingSky()
 {
-    virtualsky::SkyState sky;
-    sky.date = 1716472800.0; // 2024-05-23T14:00:00Z
-    sky.running = false;
+    virtualsky::SkyState sky = practiceSky(false);
     sky.boltAltitude = 0.8;
     sky.boltAzimuth = -0.9;
     sky.unthrottled = true; // until monitor mode is reached

@@ -49,8 +49,8 @@ struct CameraState {
 
 extern CameraState cameraState;
 
-/// The open camera; null when none is. The GUI thread writes it, under handleMutex when it goes
-/// from a camera to null.
+/// The open camera; null when none is. The GUI thread writes it, under handleMutex when a capture
+/// loop may be using it.
 extern Relaxed<void *> cameraHandle;
 /// Held by the capture thread around each of its calls on the handle, and by the GUI thread while
 /// it stops and closes: so no call meets a closed handle, and closing waits for one fetch at most.

@@ -23,11 +23,27 @@ std::int32_t now()
     return cutTo32Bits(QDateTime::currentMSecsSinceEpoch());
 }
 
-/// Whether the announced frame lies whole in its buffer and can be shown.
-bool usableFormat(std::uint32_t width, std::uint32_t height, std::uint32_t channels)
+/// Whether the announced frame lies whole in its buffer.
+bool fitsBuffer(const FrameFormat &format)
 {
-    return width > 0 && height > 0 && (channels == 1 || channels == 3) &&
-           std::uint64_t(width) * height <= frameBufferSize / channels;
+    return format.channels >= 1 && format.channels <= 4 &&
+           std::uint64_t(format.width) * format.height <= frameBufferSize / format.channels;
+}
+
+/// Whether a picture can be made of the announced frame.
+bool isUsable(const FrameFormat &format)
+{
+    return format.width > 0 && format.height > 0 &&
+           (format.channels == 1 || format.channels == 3) && fitsBuffer(format);
+}
+
+/// The fetched pixels as a matrix; empty without any. \param format one that fits the buffer
+cv::Mat matrixOver(FrameBuffer &buffer, const FrameFormat &format)
+{
+    if (format.width == 0 || format.height == 0)
+        return cv::Mat();
+    return cv::Mat(int(format.height), int(format.width), CV_8UC(int(format.channels)),
+                   buffer.data());
 }
 } // namespace
 
@@ -66,6 +82,7 @@ void CaptureThread::stopCapture()
 void CaptureThread::run()
 {
     qDebug("CaptureThread start...");
+    refused.reset();
     if (cameraState.cameraConnected && beginLive()) {
         {
             const Locker lock(fpsMutex);
@@ -75,9 +92,7 @@ void CaptureThread::run()
             const Fetch fetch = fetchFrame();
             if (fetch == Fetch::Ended)
                 break;
-            if (fetch == Fetch::NewFrame)
-                handleFrame();
-            else
+            if (fetch != Fetch::NewFrame || !handleFrame())
                 QThread::usleep(retryMicroseconds);
         }
     }
@@ -104,16 +119,12 @@ CaptureThread::Fetch CaptureThread::fetchFrame()
     void *const handle = cameraHandle;
     if (stopRequested || !handle)
         return Fetch::Ended;
-    std::uint32_t width = cameraState.frameWidth, height = cameraState.frameHeight;
-    std::uint32_t bpp = cameraState.frameBpp, channels = cameraState.frameChannels;
-    if (GetVELDIXLiveFrame(handle, &width, &height, &bpp, &channels,
-                           cameraState.frameBuffer->data()) != 0)
-        return Fetch::NoFrameYet;
-    cameraState.frameWidth = width;
-    cameraState.frameHeight = height;
-    cameraState.frameBpp = bpp;
-    cameraState.frameChannels = channels;
-    return Fetch::NewFrame;
+    fetched = {cameraState.frameWidth, cameraState.frameHeight, cameraState.frameBpp,
+               cameraState.frameChannels};
+    return GetVELDIXLiveFrame(handle, &fetched.width, &fetched.height, &fetched.bpp,
+                              &fetched.channels, cameraState.frameBuffer->data()) == 0
+               ? Fetch::NewFrame
+               : Fetch::NoFrameYet;
 }
 
 void CaptureThread::measureRate()
@@ -129,39 +140,56 @@ void CaptureThread::measureRate()
     cameraState.lastFrameTime = now();
 }
 
+/// Tells in the log why no picture can be made of the fetched frame: once for a format, since they
+/// may come a hundred times a second.
+void CaptureThread::refuseFrame()
+{
+    if (refused == fetched)
+        return;
+    refused = fetched;
+    if (!fitsBuffer(fetched)) {
+        qCritical("frame of %u x %u pixels with %u channels can not be shown", fetched.width,
+                  fetched.height, fetched.channels);
+        return;
+    }
+    const cv::Mat frame = matrixOver(*cameraState.frameBuffer, fetched);
+    MatToQImage(&frame);
+}
+
 /// Makes the fetched buffer the latest frame; false if no picture can be made of it.
 bool CaptureThread::takeRawFrame()
 {
-    const std::uint32_t width = cameraState.frameWidth, height = cameraState.frameHeight;
-    const std::uint32_t channels = cameraState.frameChannels;
-    if (!usableFormat(width, height, channels)) {
-        qCritical("frame of %u x %u pixels with %u channels can not be shown", width, height,
-                  channels);
+    if (!isUsable(fetched)) {
+        refuseFrame();
         return false;
     }
+    cameraState.frameWidth = fetched.width;
+    cameraState.frameHeight = fetched.height;
+    cameraState.frameBpp = fetched.bpp;
+    cameraState.frameChannels = fetched.channels;
     const Locker lock(rawFrameMutex);
     cameraState.frameBuffer.swap(cameraState.latestBuffer);
-    frameMatrices.rawFrame =
-        cv::Mat(int(height), int(width), CV_8UC(int(channels)), cameraState.latestBuffer->data());
+    frameMatrices.rawFrame = matrixOver(*cameraState.latestBuffer, fetched);
     return true;
 }
 
 void CaptureThread::followStars()
 {
-    trackReferenceStars(frameMatrices.rawFrame);
-    cropAroundStarB(frameMatrices.rawFrame, monitorPositions.starACurrent,
-                    monitorPositions.starBCurrent, overlayFlags.monoStyle, frameMatrices);
+    const ReferenceStars stars = trackReferenceStars(frameMatrices.rawFrame);
+    cropAroundStarB(frameMatrices.rawFrame, stars.a, stars.b, overlayFlags.monoStyle,
+                    frameMatrices);
     magnifierImage = MatToQImage(&frameMatrices.magnifierCrop);
+    updatePole(stars); // the read-outs are taken when the enlarged picture comes
     if (magnifierImage)
         enqueue(magnifierQueue, magnifierMutex, *magnifierImage, stopRequested);
-    updatePole();
 }
 
-void CaptureThread::handleFrame()
+/// False if no picture could be made of the fetched frame.
+bool CaptureThread::handleFrame()
 {
     measureRate();
     if (!takeRawFrame())
-        return;
+        return false;
     if (frameMatrices.rawFrame.channels() == 3)
         frameMatrices.rawFrame.copyTo(frameMatrices.colourFrame);
     else
@@ -170,7 +198,8 @@ void CaptureThread::handleFrame()
         followStars();
     frameImage = MatToQImage(&frameMatrices.colourFrame);
     if (!frameImage)
-        return;
+        return false;
     paintOverlay(*frameImage, currentMarks());
     enqueue(frameQueue, frameMutex, *frameImage, stopRequested);
+    return true;
 }

@@ -6,11 +6,25 @@
 
 #include <QImage>
 #include <QThread>
+#include <cstdint>
 #include <memory>
+#include <optional>
+
+/// What the camera says of a frame.
+struct FrameFormat {
+    std::uint32_t width = 0, height = 0; ///< pixels
+    std::uint32_t bpp = 0;               ///< bits a sample
+    std::uint32_t channels = 0;
+};
+
+inline bool operator==(const FrameFormat &a, const FrameFormat &b)
+{
+    return a.width == b.width && a.height == b.height && a.bpp == b.bpp && a.channels == b.channels;
+}
 
 /// Fetches frames while a camera is connected, draws the marks into them, follows the reference
-/// stars in monitor mode, and queues the pictures. It never waits for the GUI: where a queue is
-/// full the picture is dropped. Stopping the live mode is the GUI's business.
+/// stars in monitor mode, and queues the pictures. It never waits for the GUI to show one: where a
+/// queue is full the picture is dropped. Stopping the live mode is the GUI's business.
 class CaptureThread : public QThread
 {
 public:
@@ -34,12 +48,15 @@ private:
     void waitForEnd();
     bool beginLive();
     Fetch fetchFrame();
-    void handleFrame();
+    bool handleFrame();
     void measureRate();
     bool takeRawFrame();
+    void refuseFrame();
     void followStars();
 
     Relaxed<bool> stopRequested;
+    FrameFormat fetched;                    ///< of the frame in the fetch buffer
+    std::optional<FrameFormat> refused;     ///< the last one that no picture could be made of
     std::unique_ptr<QImage> frameImage;     ///< the latest display picture
     std::unique_ptr<QImage> magnifierImage; ///< the latest picture of the magnified star
 };

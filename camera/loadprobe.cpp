@@ -19,7 +19,8 @@ constexpr std::chrono::milliseconds pause(2);
 /// The child's exit status once the library's start has returned: none that a library picks.
 constexpr int returned = 115;
 
-/// Only the calling thread lives on in the child, which never comes back from here.
+/// Only the calling thread lives on in the child, which never comes back from here. The C library
+/// and its loader can be used there, whatever other threads held at that moment.
 [[noreturn]] void loadAndEnd(const char *name)
 {
     const rlimit noCore{0, 0};
@@ -55,7 +56,7 @@ bool cameBack(pid_t child)
 
 bool survivesLoading(const QByteArray &name)
 {
-    const char *const text = name.constData(); // no memory is asked for in the child
+    const char *const text = name.constData(); // the child asks Qt for nothing
     const pid_t child = fork();
     if (child == 0)
         loadAndEnd(text);

@@ -89,16 +89,15 @@ QPointF starNear(const cv::Mat &frame, QPointF expected)
     return {x, y};
 }
 
-void trackReferenceStars(const cv::Mat &frame)
+ReferenceStars trackReferenceStars(const cv::Mat &frame)
 {
-    monitorPositions.starACurrent = starNear(frame, monitorPositions.starASearch);
-    monitorPositions.starBCurrent = starNear(frame, monitorPositions.starBSearch);
+    return {starNear(frame, monitorPositions.starASearch),
+            starNear(frame, monitorPositions.starBSearch)};
 }
 
-void updatePole()
+void updatePole(ReferenceStars stars)
 {
-    QPointF a = monitorPositions.starACurrent;
-    QPointF b = monitorPositions.starBCurrent;
+    auto &[a, b] = stars;
     if (refractionSettings.enabledCorrect) {
         // The pressure goes in as tenths of what is entered, whatever its unit is said to be.
         const double pressure = double(refractionSettings.P) / 10.0;
@@ -106,9 +105,9 @@ void updatePole()
         const double temperature = double(refractionSettings.T);
         for (QPointF *star : {&a, &b})
             CorrectRefraction(star->y(), latitude, pressure, temperature, star->ry());
-        monitorPositions.starACurrent = a;
-        monitorPositions.starBCurrent = b;
     }
+    monitorPositions.starACurrent = a;
+    monitorPositions.starBCurrent = b;
     const QPointF axis = alignmentPoints.savedAxisCenter;
     double poleX = 0, poleY = 0;
     const int status = CalcPoleCOOR(a.x(), a.y(), alignmentPoints.angleBAP, b.x(), b.y(),

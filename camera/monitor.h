@@ -10,14 +10,18 @@
 /// The star near `expected` (frame pixels) in `frame`, or `expected` itself if none is found.
 QPointF starNear(const cv::Mat &frame, QPointF expected);
 
-/// Finds both reference stars near their search positions in `frame` (8 bits, one or three
-/// channels); a star that is not found stands at its search position. Results go to
-/// starACurrent and starBCurrent.
-void trackReferenceStars(const cv::Mat &frame);
+/// Frame pixels.
+struct ReferenceStars {
+    QPointF a, b;
+};
 
-/// Lowers the tracked stars by the refraction at the pole where that is switched on, and reckons
-/// the pole from them.
-void updatePole();
+/// Finds both reference stars near their search positions in `frame` (8 bits, one or three
+/// channels); a star that is not found stands at its search position.
+ReferenceStars trackReferenceStars(const cv::Mat &frame);
+
+/// Reckons the pole from the stars that were found, after the refraction at the pole was taken off
+/// their y where that is switched on; shows stars and pole to the other thread.
+void updatePole(ReferenceStars stars);
 
 /// Cuts the five-fold enlarged surroundings of star B, both stars marked, into
 /// matrices.magnifierCrop. Only the part of `frame` that the crop shows is enlarged; the crop is

@@ -39,10 +39,10 @@ struct MonitorPositions {
 
 /// The observer's refraction settings: the dialog writes, the capture thread reads the numbers.
 struct RefractionSettings {
-    Relaxed<float> latitude;      ///< degrees, taken for the pole's altitude
-    Relaxed<float> longitude;     ///< degrees; takes no part in the computation
-    Relaxed<float> P;             ///< air pressure, tenths of kPa taken whatever P_unit says
-    Relaxed<float> T;             ///< degrees Celsius
+    Relaxed<float> latitude;  ///< degrees, taken for the pole's altitude
+    Relaxed<float> longitude; ///< degrees; takes no part in the computation
+    Relaxed<float> P; ///< air pressure; a tenth of it is taken for kPa, whatever P_unit says
+    Relaxed<float> T; ///< degrees Celsius
     Relaxed<bool> enabledCorrect; ///< whether star positions are corrected
     QString P_unit;               ///< "kPa" or "hPa"; the GUI thread's alone
 };

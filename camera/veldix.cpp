@@ -7,69 +7,71 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QtDebug>
+#include <array>
 #include <dlfcn.h>
+#include <type_traits>
 
 namespace
 {
-/// The library's functions by name; all are null until the library is loaded.
-struct Functions {
-    decltype(&::InitVELDIXResource) initResource = nullptr;
-    decltype(&::ScanVELDIX) scan = nullptr;
-    decltype(&::GetVELDIXId) getId = nullptr;
-    decltype(&::OpenVELDIX) open = nullptr;
-    decltype(&::SetVELDIXReadMode) setReadMode = nullptr;
-    decltype(&::SetVELDIXStreamMode) setStreamMode = nullptr;
-    decltype(&::InitVELDIX) init = nullptr;
-    decltype(&::SetVELDIXBitsMode) setBitsMode = nullptr;
-    decltype(&::SetVELDIXBinMode) setBinMode = nullptr;
-    decltype(&::SetVELDIXResolution) setResolution = nullptr;
-    decltype(&::GetVELDIXParam) getParam = nullptr;
-    decltype(&::SetVELDIXParam) setParam = nullptr;
-    decltype(&::BeginVELDIXLive) beginLive = nullptr;
-    decltype(&::GetVELDIXLiveFrame) getLiveFrame = nullptr;
-    decltype(&::StopVELDIXLive) stopLive = nullptr;
-    decltype(&::CloseVELDIX) close = nullptr;
-};
-
-/// Written once by InitVELDIXResource, before any other thread exists; read by all afterwards.
-Functions functions;
+/// The library's function behind one of the program's; null until the library is loaded. Written
+/// once by InitVELDIXResource, before the capture thread starts; read by all afterwards.
+template <auto *operation> decltype(operation) function = nullptr;
 bool loaded = false;
 
-struct Library {
-    void *handle;
-    QString name;
-    bool complete; ///< no function was missing so far
-};
-
-template <typename Function> void resolve(Library &library, const char *symbol, Function &function)
+template <auto *operation> void set(void *address)
 {
-    void *const address = dlsym(library.handle, symbol);
-    if (!address) {
-        qCritical("%s lacks the function %s", qPrintable(library.name), symbol);
-        library.complete = false;
-    }
-    function = reinterpret_cast<Function>(address);
+    function<operation> = reinterpret_cast<decltype(operation)>(address);
 }
 
-bool resolveAll(Library &library, Functions &f)
+struct Symbol {
+    const char *name;
+    void (*set)(void *address);
+};
+
+// clang-format off
+constexpr std::array<Symbol, 16> symbols{{
+    {"InitVELDIXResource", set<InitVELDIXResource>},
+    {"ScanVELDIX", set<ScanVELDIX>},
+    {"GetVELDIXId", set<GetVELDIXId>},
+    {"OpenVELDIX", set<OpenVELDIX>},
+    {"SetVELDIXReadMode", set<SetVELDIXReadMode>},
+    {"SetVELDIXStreamMode", set<SetVELDIXStreamMode>},
+    {"InitVELDIX", set<InitVELDIX>},
+    {"SetVELDIXBitsMode", set<SetVELDIXBitsMode>},
+    {"SetVELDIXBinMode", set<SetVELDIXBinMode>},
+    {"SetVELDIXResolution", set<SetVELDIXResolution>},
+    {"GetVELDIXParam", set<GetVELDIXParam>},
+    {"SetVELDIXParam", set<SetVELDIXParam>},
+    {"BeginVELDIXLive", set<BeginVELDIXLive>},
+    {"GetVELDIXLiveFrame", set<GetVELDIXLiveFrame>},
+    {"StopVELDIXLive", set<StopVELDIXLive>},
+    {"CloseVELDIX", set<CloseVELDIX>},
+}};
+// clang-format on
+
+/// All of the functions or none; each that is missing is logged.
+bool resolveAll(void *library, const QString &libraryName)
 {
-    resolve(library, "InitVELDIXResource", f.initResource);
-    resolve(library, "ScanVELDIX", f.scan);
-    resolve(library, "GetVELDIXId", f.getId);
-    resolve(library, "OpenVELDIX", f.open);
-    resolve(library, "SetVELDIXReadMode", f.setReadMode);
-    resolve(library, "SetVELDIXStreamMode", f.setStreamMode);
-    resolve(library, "InitVELDIX", f.init);
-    resolve(library, "SetVELDIXBitsMode", f.setBitsMode);
-    resolve(library, "SetVELDIXBinMode", f.setBinMode);
-    resolve(library, "SetVELDIXResolution", f.setResolution);
-    resolve(library, "GetVELDIXParam", f.getParam);
-    resolve(library, "SetVELDIXParam", f.setParam);
-    resolve(library, "BeginVELDIXLive", f.beginLive);
-    resolve(library, "GetVELDIXLiveFrame", f.getLiveFrame);
-    resolve(library, "StopVELDIXLive", f.stopLive);
-    resolve(library, "CloseVELDIX", f.close);
-    return library.complete;
+    std::array<void *, symbols.size()> addresses{};
+    bool complete = true;
+    for (std::size_t i = 0; i < symbols.size(); ++i) {
+        addresses[i] = dlsym(library, symbols[i].name);
+        if (addresses[i])
+            continue;
+        qCritical("%s lacks the function %s", qPrintable(libraryName), symbols[i].name);
+        complete = false;
+    }
+    for (std::size_t i = 0; complete && i < symbols.size(); ++i)
+        symbols[i].set(addresses[i]);
+    return complete;
+}
+
+/// What the library's function gives, or `failed` while there is none.
+template <typename Result, typename... Parameters>
+Result call(Result (*called)(Parameters...), std::common_type_t<Result> failed,
+            std::common_type_t<Parameters>... parameters)
+{
+    return called ? called(parameters...) : failed;
 }
 
 /// Loads the first library that loads; its functions must be complete. The library stays loaded.
@@ -88,14 +90,10 @@ bool load()
             reasons.append(QString::fromLocal8Bit(dlerror()));
             continue;
         }
-        Library library{handle, name, true};
-        Functions found;
-        if (!resolveAll(library, found)) {
-            dlclose(handle);
-            return false;
-        }
-        functions = found;
-        return true;
+        if (resolveAll(handle, name))
+            return true;
+        dlclose(handle);
+        return false;
     }
     qCritical("the camera library can not be loaded: %s", qPrintable(reasons.join("; ")));
     return false;
@@ -119,85 +117,83 @@ std::uint32_t InitVELDIXResource()
 {
     if (!loaded)
         loaded = load();
-    return loaded ? functions.initResource() : veldixError;
+    return call(function<InitVELDIXResource>, veldixError);
 }
 
 std::int32_t ScanVELDIX()
 {
-    return functions.scan ? functions.scan() : 0;
+    return call(function<ScanVELDIX>, 0);
 }
 
 std::uint32_t GetVELDIXId(std::int32_t index, char *id)
 {
-    return functions.getId ? functions.getId(index, id) : veldixError;
+    return call(function<GetVELDIXId>, veldixError, index, id);
 }
 
 void *OpenVELDIX(const char *id)
 {
-    return functions.open ? functions.open(id) : nullptr;
+    return call(function<OpenVELDIX>, nullptr, id);
 }
 
 std::uint32_t SetVELDIXReadMode(void *handle, std::uint32_t mode)
 {
-    return functions.setReadMode ? functions.setReadMode(handle, mode) : veldixError;
+    return call(function<SetVELDIXReadMode>, veldixError, handle, mode);
 }
 
 std::uint32_t SetVELDIXStreamMode(void *handle, std::uint8_t mode)
 {
-    return functions.setStreamMode ? functions.setStreamMode(handle, mode) : veldixError;
+    return call(function<SetVELDIXStreamMode>, veldixError, handle, mode);
 }
 
 std::uint32_t InitVELDIX(void *handle)
 {
-    return functions.init ? functions.init(handle) : veldixError;
+    return call(function<InitVELDIX>, veldixError, handle);
 }
 
 std::uint32_t SetVELDIXBitsMode(void *handle, std::uint32_t bits)
 {
-    return functions.setBitsMode ? functions.setBitsMode(handle, bits) : veldixError;
+    return call(function<SetVELDIXBitsMode>, veldixError, handle, bits);
 }
 
 std::uint32_t SetVELDIXBinMode(void *handle, std::uint32_t x, std::uint32_t y)
 {
-    return functions.setBinMode ? functions.setBinMode(handle, x, y) : veldixError;
+    return call(function<SetVELDIXBinMode>, veldixError, handle, x, y);
 }
 
 std::uint32_t SetVELDIXResolution(void *handle, std::uint32_t x, std::uint32_t y,
                                   std::uint32_t width, std::uint32_t height)
 {
-    return functions.setResolution ? functions.setResolution(handle, x, y, width, height)
-                                   : veldixError;
+    return call(function<SetVELDIXResolution>, veldixError, handle, x, y, width, height);
 }
 
 double GetVELDIXParam(void *handle, std::int32_t control)
 {
-    return functions.getParam ? functions.getParam(handle, control) : 0.0;
+    return call(function<GetVELDIXParam>, 0.0, handle, control);
 }
 
 std::uint32_t SetVELDIXParam(void *handle, std::int32_t control, double value)
 {
-    return functions.setParam ? functions.setParam(handle, control, value) : veldixError;
+    return call(function<SetVELDIXParam>, veldixError, handle, control, value);
 }
 
 std::uint32_t BeginVELDIXLive(void *handle)
 {
-    return functions.beginLive ? functions.beginLive(handle) : veldixError;
+    return call(function<BeginVELDIXLive>, veldixError, handle);
 }
 
 std::uint32_t GetVELDIXLiveFrame(void *handle, std::uint32_t *width, std::uint32_t *height,
                                  std::uint32_t *bpp, std::uint32_t *channels, std::uint8_t *buffer)
 {
-    return functions.getLiveFrame
-               ? functions.getLiveFrame(handle, width, height, bpp, channels, buffer)
-               : veldixError;
+    return call(function<GetVELDIXLiveFrame>, veldixError, handle, width, height, bpp, channels,
+                buffer);
 }
 
 std::uint32_t StopVELDIXLive(void *handle)
 {
-    return functions.stopLive ? functions.stopLive(handle) : veldixError;
+    return call(function<StopVELDIXLive>, veldixError, handle);
 }
 
 std::uint32_t CloseVELDIX(void *handle)
 {
-    return functions.close ? functions.close(handle) : veldixError;
+    return call(function<CloseVELDIX>, veldixError, handle);
 }

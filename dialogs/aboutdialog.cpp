@@ -6,7 +6,23 @@
 #include "ui_aboutdialog.h"
 
 #include <QDesktopServices>
+#include <QFont>
+#include <QFontMetrics>
 #include <QUrl>
+
+namespace
+{
+/// Makes the label's font smaller by whole points until its text fits into its width: where the
+/// font that the form names is not installed, another may run wider.
+void fitFont(QLabel &label)
+{
+    QFont font = label.font();
+    while (font.pointSize() > 1 &&
+           QFontMetrics(font).horizontalAdvance(label.text()) > label.width())
+        font.setPointSize(font.pointSize() - 1);
+    label.setFont(font);
+}
+} // namespace
 
 AboutDialog::AboutDialog(QWidget *parent) : QDialog(parent), ui(std::make_unique<Ui::AboutDialog>())
 {
@@ -37,4 +53,5 @@ void AboutDialog::showVersion()
 {
     ui->label_version->setText(
         QStringLiteral("Quorvandel %1, release on %2").arg("21.9.17", "2021-09-17"));
+    fitFont(*ui->label_version);
 }

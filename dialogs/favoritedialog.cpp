@@ -2,6 +2,7 @@
 // The favourites dialog.
 #include "dialogs/favoritedialog.h"
 
+#include "dialogs/dialogframe.h"
 #include "ui_favoritedialog.h"
 
 #include <QEvent>
@@ -10,6 +11,7 @@ FavoriteDialog::FavoriteDialog(QWidget *parent)
     : QDialog(parent), ui(std::make_unique<Ui::FavoriteDialog>())
 {
     ui->setupUi(this);
+    fixDialogFrame(*this);
 }
 
 FavoriteDialog::~FavoriteDialog() = default;

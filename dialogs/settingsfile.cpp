@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QSettings>
 #include <QtDebug>
+#include <algorithm>
 #include <variant>
 
 namespace
@@ -42,9 +43,24 @@ constexpr qint64 largestFile = 1 << 20;
 
 enum class Place {
     Usable,  ///< nothing, or a file that the INI reader can be given
+    Partly,  ///< the same, but with lines that saving does not write back
     NoFile,  ///< a folder, a pipe, a device: neither read, which might never end, nor replaced
-    NotOurs, ///< a file that is not read, and replaced when the settings are saved
+    NotOurs, ///< a file that is not read, and makes room when the settings are saved
 };
+
+/// Whether there are lines that are neither a section nor a key: the INI writer drops them.
+bool hasLinesToLose(QByteArray bytes)
+{
+    if (bytes.startsWith("\xEF\xBB\xBF"))
+        bytes.remove(0, 3);
+    const QList<QByteArray> lines = bytes.replace('\r', '\n').split('\n');
+    return std::any_of(lines.begin(), lines.end(), [](const QByteArray &whole) {
+        const QByteArray line = whole.trimmed();
+        const bool isSection = line.startsWith('[') && line.endsWith(']');
+        const bool isKey = line.indexOf('=') > 0 && !line.startsWith(';');
+        return !line.isEmpty() && !isSection && !isKey;
+    });
+}
 
 /// What lies at `path`, before the INI reader looks at it.
 Place placeOf(const QString &path)
@@ -61,8 +77,34 @@ Place placeOf(const QString &path)
         return Place::Usable;
     // The reader makes objects of these, as large as a damaged text says they are.
     const QByteArray bytes = file.read(largestFile);
-    const bool hasObjects = bytes.contains("@Variant(") || bytes.contains("@DateTime(");
-    return hasObjects ? Place::NotOurs : Place::Usable;
+    if (bytes.contains("@Variant(") || bytes.contains("@DateTime("))
+        return Place::NotOurs;
+    return hasLinesToLose(bytes) ? Place::Partly : Place::Usable;
+}
+
+/// A name beside `path` that is still free.
+QString freeNameBeside(const QString &path)
+{
+    QString name = path + QStringLiteral(".unread");
+    for (int number = 2; QFileInfo::exists(name) || QFileInfo(name).isSymLink(); ++number)
+        name = path + QStringLiteral(".unread-") + QString::number(number);
+    return name;
+}
+
+/// Saving would lose what could not be read, so that this is kept under another name first. False
+/// if it can not be: then nothing may be saved.
+bool keepWhatWasNotRead(const QString &path, Place place)
+{
+    if (place == Place::Usable)
+        return true;
+    if (!QFile(path).open(QIODevice::Append))
+        return false;
+    const QString name = freeNameBeside(path);
+    // Of a damaged file the lines that can be read stay where they are, whatever they say.
+    const bool kept = place == Place::NotOurs ? QFile::rename(path, name) : QFile::copy(path, name);
+    if (kept)
+        qWarning("what was not read of the settings file is kept in %s", qPrintable(name));
+    return kept;
 }
 
 /// QSettings locks the file by another one beside it. One that is empty was left by a process that
@@ -135,7 +177,8 @@ bool readSettings(const QString &path, Settings &settings)
     if (!QFile::exists(path))
         return false;
     Settings read;
-    if (placeOf(path) != Place::Usable) {
+    const Place place = placeOf(path);
+    if (place == Place::NoFile || place == Place::NotOurs) {
         qWarning("the settings file %s is not read: it is not one of ours", qPrintable(path));
         settings = read;
         return true;
@@ -155,9 +198,9 @@ void writeSettings(const QString &path, const Settings &settings)
     const Place place = placeOf(path);
     if (place == Place::NoFile)
         return;
-    if (place == Place::NotOurs)
-        QFile::remove(path);
     removeEmptyLock(path);
+    if (!keepWhatWasNotRead(path, place))
+        return;
     QSettings file(path, QSettings::IniFormat);
     for (const Entry &entry : entries) {
         file.beginGroup(entry.group);

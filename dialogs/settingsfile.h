@@ -33,5 +33,6 @@ bool readSettings(const QString &path, Settings &settings);
 /// Writes every key to `path`; numbers with 6 significant digits. Keys of others stay. A file that
 /// can not be written is left as it is, without a message; so is what is no file. The file is
 /// replaced at once: whenever the process is killed, the old or the new one is there whole. A file
-/// that is not read (see readSettings) is removed first.
+/// that is not read (see readSettings), or not in full, is kept beside it as
+/// "Quorvandel.ini.unread" first, with a warning in the log.
 void writeSettings(const QString &path, const Settings &settings);

@@ -18,23 +18,3 @@ const Style &styleNamed(const QString &name)
                             QColor(248, 248, 255)};
     return name == QLatin1String(mono.name) ? mono : colour;
 }
-
-LampCount lampsOnStyleChange(int step)
-{
-    switch (step) {
-    case 3:
-        return 0;
-    case 4:
-    case 5:
-        return 1;
-    case 6:
-    case 7:
-        return 2;
-    case 8:
-    case 9:
-    case 11:
-        return 3;
-    default:
-        return lampsUnchanged;
-    }
-}

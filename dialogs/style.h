@@ -17,10 +17,3 @@ struct Style {
 
 /// The mono style for exactly "Mono", else the colour style.
 const Style &styleNamed(const QString &name);
-
-/// How many of the three star lamps are lit, from the first one on; -1 = they stay as they are.
-using LampCount = int;
-constexpr LampCount lampsUnchanged = -1;
-
-/// The lamps that a change of style draws anew in a wizard step.
-LampCount lampsOnStyleChange(int step);

@@ -2,6 +2,7 @@
 // About which point of the frame does the field turn, and where does a turn take a point?
 #include "geometry/axiscentre.h"
 
+#include "geometry/angles.h"
 #include "geometry/saturate.h"
 
 #include <QDebug>
@@ -10,8 +11,6 @@
 
 namespace
 {
-constexpr double pi = 3.141592653589793;
-
 int failStraight()
 {
     qCritical("Point in a straight line,Can not calculate center of cricle.");
@@ -51,7 +50,7 @@ int CenterOfCircle(double x1, double y1, double x2, double y2, double x3, double
 void RotatePointByDegrees(double degrees, double x, double y, double cx, double cy,
                           double &rotatedX, double &rotatedY)
 {
-    const double theta = degrees * pi / 180.0;
+    const double theta = toRadians(degrees);
     const double dx = x - cx;
     const double dy = y - cy;
     rotatedX = cx + dx * std::cos(theta) - dy * std::sin(theta);

@@ -2,13 +2,13 @@
 // Where is the celestial pole in a picture in which two stars' places are known?
 #include "geometry/polecomputation.h"
 
+#include "geometry/angles.h"
+
 #include <QDebug>
 #include <cmath>
 
 namespace
 {
-constexpr double pi = 3.141592653589793;
-
 struct Point {
     double x;
     double y;
@@ -31,12 +31,12 @@ double distance(Point p, Point q)
 /// Intersects the circles about A and B whose radii follow from the law of sines.
 Corners corners(Point a, double alpha, Point b, double beta)
 {
-    const double sinP = std::sin((180.0 - alpha - beta) * pi / 180.0);
+    const double sinP = std::sin(toRadians(180.0 - alpha - beta));
     if (sinP == 0.0 || b.x == a.x)
         return {Outcome::Invalid, {0.0, 0.0}, {0.0, 0.0}};
     const double k = distance(a, b) / sinP;
-    const double radiusA = k * std::sin(beta * pi / 180.0);
-    const double radiusB = k * std::sin(alpha * pi / 180.0);
+    const double radiusA = k * std::sin(toRadians(beta));
+    const double radiusB = k * std::sin(toRadians(alpha));
 
     // The chord through both crossings is 2 (bx - ax) x + 2 (by - ay) y = chord.
     const double chord =
@@ -68,7 +68,41 @@ double angleAtB(Point candidate, Point d, Point b)
     const double a = distance(d, b);
     const double s = distance(candidate, b);
     const double t = distance(d, candidate);
-    return std::acos((a * a + s * s - t * t) / (2.0 * a * s)) * 180.0 / pi;
+    return toDegrees(std::acos((a * a + s * s - t * t) / (2.0 * a * s)));
+}
+/// What is logged of corners that are none; null = nothing.
+struct Complaints {
+    const char *invalid, *apart, *notANumber;
+};
+
+int fail(const char *complaint)
+{
+    if (complaint)
+        qCritical("%s", complaint);
+    return -1;
+}
+
+/// Leaves the corner in poleX and poleY, in a crossing the one that `choose` takes of the two.
+/// 0, or -1 where there is none: then both are 0.
+template <typename Choose>
+int pole(const Corners &found, const Complaints &complaints, Choose choose, double &poleX,
+         double &poleY)
+{
+    const Point chosen = found.outcome == Outcome::Crossing ? choose() : found.plus;
+    poleX = chosen.x;
+    poleY = chosen.y;
+    switch (found.outcome) {
+    case Outcome::Invalid:
+        return fail(complaints.invalid);
+    case Outcome::Apart:
+        return fail(complaints.apart);
+    case Outcome::NotANumber:
+        return fail(complaints.notANumber);
+    case Outcome::Touching:
+    case Outcome::Crossing:
+        break;
+    }
+    return 0;
 }
 } // namespace
 
@@ -88,52 +122,30 @@ int PoleFromTriangle(double x1, double y1, double angleA, double x2, double y2, 
                      double xd, double yd, double angleDBP, double &poleX, double &poleY)
 {
     const Corners found = corners({x1, y1}, angleA, {x2, y2}, angleB);
-    poleX = found.plus.x;
-    poleY = found.plus.y;
-    switch (found.outcome) {
-    case Outcome::Invalid:
-        qCritical("invalid points, can not calculate pole.");
-        return -1;
-    case Outcome::Apart:
-    case Outcome::NotANumber:
-        qCritical("did not calculate the appropriate pole");
-        return -1;
-    case Outcome::Touching:
-        return 0;
-    case Outcome::Crossing:
-        break;
-    }
-    CandidateByAngle(found.plus.x, found.plus.y, found.minus.x, found.minus.y, xd, yd, x2, y2,
-                     angleDBP, poleX, poleY);
-    return 0;
+    const auto byAngle = [&] {
+        Point chosen{};
+        CandidateByAngle(found.plus.x, found.plus.y, found.minus.x, found.minus.y, xd, yd, x2, y2,
+                         angleDBP, chosen.x, chosen.y);
+        return chosen;
+    };
+    constexpr const char *none = "did not calculate the appropriate pole";
+    return pole(found, {"invalid points, can not calculate pole.", none, none}, byAngle, poleX,
+                poleY);
 }
 
 int CalcPoleCOOR(double x1, double y1, double angleA, double x2, double y2, double angleB,
                  double xr, double yr, double &poleX, double &poleY)
 {
     const Corners found = corners({x1, y1}, angleA, {x2, y2}, angleB);
-    poleX = found.plus.x;
-    poleY = found.plus.y;
-    switch (found.outcome) {
-    case Outcome::Invalid:
-        qCritical("CalcPoleCOOR - Calculate pole failed as invalid value.");
-        return -1;
-    case Outcome::Apart:
-        qCritical("CalcPoleCOOR - Calculate pole failed.");
-        return -1;
-    case Outcome::NotANumber:
-        return -1;
-    case Outcome::Touching:
-        return 0;
-    case Outcome::Crossing:
-        break;
-    }
-    const auto squaredDistance = [&](Point p) {
-        return (p.x - xr) * (p.x - xr) + (p.y - yr) * (p.y - yr);
+    const auto nearest = [&] {
+        const auto squaredDistance = [&](Point p) {
+            return (p.x - xr) * (p.x - xr) + (p.y - yr) * (p.y - yr);
+        };
+        return squaredDistance(found.plus) < squaredDistance(found.minus) ? found.plus
+                                                                          : found.minus;
     };
-    const Point chosen =
-        squaredDistance(found.plus) < squaredDistance(found.minus) ? found.plus : found.minus;
-    poleX = chosen.x;
-    poleY = chosen.y;
-    return 0;
+    return pole(found,
+                {"CalcPoleCOOR - Calculate pole failed as invalid value.",
+                 "CalcPoleCOOR - Calculate pole failed.", nullptr},
+                nearest, poleX, poleY);
 }

@@ -2,16 +2,17 @@
 // By how much does the atmosphere lift a star near the pole?
 #include "geometry/refraction.h"
 
+#include "geometry/angles.h"
+
 #include <cmath>
 
 int CorrectRefraction(double value, double h, double pressure, double temperature,
                       double &corrected)
 {
-    constexpr double radiansPerDegree = 0.017453292519943295;
-    constexpr double halfPi = 1.5707963267948966;
+    constexpr double radiansPerDegree = pi / 180.0;
 
     // Minutes of arc. Above the horizon it is below zero only close to the zenith.
-    double refraction = std::tan(halfPi - (h + 7.31 / (h + 4.4)) * radiansPerDegree);
+    double refraction = std::tan(pi / 2.0 - (h + 7.31 / (h + 4.4)) * radiansPerDegree);
     if (refraction < 0.0)
         refraction = 0.0;
     const double kelvin = temperature + 273.0;

@@ -7,13 +7,14 @@ namespace cv
 class Mat;
 }
 
-// Both functions take a frame of 8-bit depth with one channel (grey) or three (RGB order) and
-// positions in frame pixels: x to the right, y downwards, (0, 0) the centre of the top-left pixel.
-// They return 0 on success and -1 on failure, and put the start position into the outputs first.
-// A null frame fails without a message, and so does one of another depth or channel count; an
-// empty one, one of more than two dimensions, and a window that leaves the frame (also for
-// positions that are not numbers) are logged at critical level. They keep no state, never write
-// to the frame and may run on several threads at once.
+// Both functions take a frame of 8-bit depth with one channel (grey) or three, and positions in
+// frame pixels: x to the right, y downwards, (0, 0) the centre of the top-left pixel. Three
+// channels are taken for RGB; in a camera's frame, which is blue first, red and blue so change
+// weights, which does not move a star. They return 0 on success and -1 on failure, and put the
+// start position into the outputs first. A null frame fails without a message, and so does one of
+// another depth or channel count; an empty one, one of more than two dimensions, and a window that
+// leaves the frame (also for positions that are not numbers) are logged at critical level. They
+// keep no state, never write to the frame and may run on several threads at once.
 
 /// Intensity-weighted centroid in the 20 x 20 window whose top-left pixel is (x - 10, y - 10),
 /// each truncated toward zero. Only light above 30 % of the way from the window's mean to its peak

@@ -74,7 +74,7 @@ void MainWindow::connectCamera()
         return;
     cameraState.cameraConnected = true;
     ui->actionConnect->setText(tr("Disconnect"));
-    switchStep(1);
+    switchStep(SetExposure);
     showConnected(true);
     setWindowTitle(QStringLiteral("Quorvandel - ID:%1").arg(cameraState.cameraId));
     configureCamera();
@@ -199,6 +199,10 @@ void MainWindow::disconnectCamera()
     {
         const Locker lock(frameMutex);
         frameQueue.clear();
+    }
+    {
+        const Locker lock(magnifierMutex);
+        magnifierQueue.clear();
     }
     ui->label_showImg->clear();
     magnifier->setSource(QPixmap::fromImage(blankImage));

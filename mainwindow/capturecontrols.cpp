@@ -1,16 +1,12 @@
 // SPDX-License-Identifier: MIT
-// What do the sliders and edit boxes of the camera and the hemisphere buttons do?
+// What do the sliders and edit boxes of the camera do?
 #include "mainwindow/mainwindow.h"
 
 #include "camera/camerastate.h"
-#include "camera/sharedstate.h"
-#include "geometry/starcatalogue.h"
-#include "mainwindow/wizardtable.h"
 #include "ui_mainwindow.h"
 
 #include <QLineEdit>
 #include <QSlider>
-#include <QtDebug>
 #include <algorithm>
 #include <limits>
 
@@ -67,15 +63,15 @@ void MainWindow::parameterSliderMoved(const Parameter &parameter, int value)
 
 void MainWindow::parameterTyped(const Parameter &parameter)
 {
+    const int typed = numberIn(parameter.edit.text());
+    const int kept = std::clamp(typed, parameter.slider.minimum(), parameter.slider.maximum());
+    if (kept != typed)
+        parameter.edit.setText(QString::number(kept));
     {
         const QSignalBlocker blocker(parameter.slider);
-        const int typed = numberIn(parameter.edit.text());
-        const int kept = std::clamp(typed, parameter.slider.minimum(), parameter.slider.maximum());
-        if (kept != typed)
-            parameter.edit.setText(QString::number(kept));
         parameter.slider.setValue(kept);
     }
-    parameter.value = parameter.edit.text().toDouble() * parameter.perSliderUnit;
+    parameter.value = kept * parameter.perSliderUnit;
     SetVELDIXParam(cameraHandle, parameter.control, parameter.value);
 }
 
@@ -117,28 +113,4 @@ void MainWindow::on_sliderSpeed_valueChanged(int value)
 void MainWindow::on_lineEditSpeed_returnPressed()
 {
     parameterTyped(speedParameter());
-}
-
-/// Takes over a hemisphere's stars and texts and starts the alignment anew.
-void MainWindow::changeRegion(const char *name)
-{
-    regionName = name;
-    qDebug() << "change region to " << regionName;
-    const StarCatalogue &stars = regionCatalogue();
-    alignmentPoints.angleBAP = stars.angleBAP;
-    alignmentPoints.angleABP = stars.angleABP;
-    applyRegionTexts();
-    switchStep(1);
-}
-
-void MainWindow::on_radioButton_north_toggled(bool checked)
-{
-    if (checked)
-        changeRegion("North");
-}
-
-void MainWindow::on_radioButton_south_toggled(bool checked)
-{
-    if (checked)
-        changeRegion("South");
 }

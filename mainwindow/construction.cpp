@@ -13,8 +13,10 @@
 #include "dialogs/magnifierwidget.h"
 #include "dialogs/poletrackingdialog.h"
 #include "dialogs/settingsfile.h"
+#include "dialogs/style.h"
 #include "geometry/saturate.h"
 #include "geometry/starcatalogue.h"
+#include "mainwindow/wizardtable.h"
 #include "ui_mainwindow.h"
 
 #include <QActionGroup>
@@ -83,8 +85,8 @@ MainWindow::MainWindow(QWidget *parent)
 
 MainWindow::~MainWindow()
 {
-    // The capture thread writes into what follows it; it ends before anything else goes.
-    captureThread.reset();
+    // Not while the window's children go one by one.
+    ui->scrollArea_showImg->viewport()->removeEventFilter(tipTabs);
 }
 
 void MainWindow::buildImageArea()
@@ -96,7 +98,6 @@ void MainWindow::buildImageArea()
 
     directionArrow = new QLabel(ui->scrollArea_showImg);
     directionArrow->setObjectName(QStringLiteral("directionArrow"));
-    directionArrow->setPixmap(QPixmap(QStringLiteral(":/images/direction.png")));
     directionArrow->setAttribute(Qt::WA_TransparentForMouseEvents);
 
     northMask.load(QStringLiteral(":/images/north_mask.png"));
@@ -199,24 +200,19 @@ void MainWindow::loadStarCatalogue()
     loadStarCatalogues(QDate::currentDate());
 }
 
-void MainWindow::applyRegion()
-{
-    // Checking a button runs its slot, which loads the hemisphere and enters step 1.
-    if (regionName == QLatin1String("North"))
-        ui->radioButton_north->setChecked(true);
-    else
-        ui->radioButton_south->setChecked(true);
-    showFlatTemplate();
-}
-
 void MainWindow::applyStyle()
 {
     if (styleName == QLatin1String("Mono"))
         ui->actionMono_Style->setChecked(true);
-    const Style &style = styleNamed(styleName);
+    showStyle(styleNamed(styleName));
+    showLamps(0);
+}
+
+/// The icons and the glow; the lamps are the wizard's.
+void MainWindow::showStyle(const Style &style)
+{
     ui->label_precise_poleIcon->setPixmap(QPixmap(style.poleIcon));
     ui->label_precise_axisIcon->setPixmap(QPixmap(style.axisIcon));
-    showLamps(0);
     for (QGraphicsDropShadowEffect *const shadow : {sliderShadow, roughSliderShadow})
         shadow->setColor(style.glow);
 }
@@ -247,7 +243,7 @@ void MainWindow::applyIdleState()
     for (QAction *const action :
          {ui->actionStretch, ui->actionDisplay_Template, ui->actionFavorite})
         action->setVisible(false);
-    openSections(0);
+    openSections(noSections);
     for (QPushButton *const head :
          {ui->pushButton_head_region, ui->pushButton_head_setting, ui->pushButton_head_confirm,
           ui->pushButton_head_rough, ui->pushButton_head_precise})

@@ -19,7 +19,7 @@ namespace
 /// The largest side of a shown picture: a zoom factor that asks for more is held here.
 constexpr int largestSide = 8192;
 
-int scaledSide(std::uint32_t side, float zoomFactor)
+int scaledSide(int side, float zoomFactor)
 {
     return std::min(saturatingInt(double(float(side) * zoomFactor)), largestSide);
 }
@@ -45,9 +45,9 @@ void MainWindow::showImages()
     // The lock is held for the taking alone: the capture thread need not wait for the scaling.
     const QImage picture = takeOldest(frameQueue, frameMutex);
     if (!picture.isNull()) {
-        displayImage = picture.scaled(scaledSide(cameraState.frameWidth, zoomFactor),
-                                      scaledSide(cameraState.frameHeight, zoomFactor),
-                                      Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        displayImage = picture.scaled(scaledSide(picture.width(), zoomFactor),
+                                      scaledSide(picture.height(), zoomFactor), Qt::KeepAspectRatio,
+                                      Qt::SmoothTransformation);
         const QPixmap pixmap = QPixmap::fromImage(displayImage);
         ui->label_showImg->setPixmap(pixmap);
         magnifier->setSource(pixmap);

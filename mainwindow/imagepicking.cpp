@@ -9,6 +9,7 @@
 #include "geometry/axiscentre.h"
 #include "geometry/stardetection.h"
 #include "mainwindow/pointtext.h"
+#include "mainwindow/wizardtable.h"
 #include "ui_mainwindow.h"
 
 #include <QLabel>
@@ -91,24 +92,24 @@ void MainWindow::pickStar(QPoint view)
     }
     const QPointF star(x, y);
     switch (currentStep) {
-    case 2:
+    case MatchTemplate:
         placeTemplateAt(view);
         break;
-    case 3:
+    case FirstPick:
         starPos1 = star;
         qDebug() << "star pos1" << x << y;
-        switchStep(4);
+        switchStep(wizardStep(FirstPick).afterPick);
         break;
-    case 5:
+    case SecondPick:
         starPos2 = star;
         qDebug() << "star pos2" << x << y;
-        switchStep(6);
+        switchStep(wizardStep(SecondPick).afterPick);
         break;
-    case 7:
+    case ThirdPick:
         pickThirdStar(star);
         break;
-    case 9:
-    case 11:
+    case ExpectedPosition:
+    case CurrentPosition:
         pickPoleStar(view, star);
         break;
     default:
@@ -153,5 +154,5 @@ void MainWindow::pickThirdStar(QPointF star)
     qDebug() << "axis center" << x << y << axisRadius;
     alignmentPoints.savedAxisCenter = axisCenter;
     alignmentPoints.savedAxisRadius = axisRadius;
-    switchStep(8);
+    switchStep(wizardStep(ThirdPick).afterPick);
 }

@@ -3,7 +3,6 @@
 #pragma once
 
 #include "camera/capturethread.h"
-#include "dialogs/style.h"
 
 #include <QImage>
 #include <QMainWindow>
@@ -23,8 +22,10 @@ class QMediaPlayer;
 class QSlider;
 class QTabWidget;
 class QTimer;
+enum class Section;
 struct Settings;
 struct StarCatalogue;
+struct Style;
 struct WizardPage;
 struct WizardStep;
 
@@ -72,43 +73,54 @@ private slots:
     void pushbuttonValidateCenterDoneClicked();
     void pushbuttonGetEptPolarisDoneClicked();
     void pushbuttonMovePolarisDoneClicked();
+    // monitormode.cpp
     void pushbuttonGetCurPolarisDoneClicked();
+    // wizard.cpp
     void pushbuttonFinetunePoleResetClicked();
     void pushbuttonFinetunePoleDoneClicked();
-    // framedisplay.cpp and wizard.cpp: the timers
+    // framedisplay.cpp: a timer
     void showImages();
+    // wizard.cpp: two timers
     void increaseAngleTimeout();
     void graphicsEffectTimeout();
+    // framedisplay.cpp: a timer
     void updateFPS();
     // monitormode.cpp
     void poleTracking(double degree);
     // texts.cpp
     void languageChanged();
     void uiReset();
-    // capturecontrols.cpp and templateoverlay.cpp
+    // region.cpp
     void on_radioButton_north_toggled(bool checked);
     void on_radioButton_south_toggled(bool checked);
+    // templateoverlay.cpp: the rotate sliders and their buttons
     void on_horizontalSlider_confirm_match_valueChanged(int value);
     void on_pushButton_confirm_minus_clicked();
     void on_pushButton_confirm_add_clicked();
     void on_horizontalSlider_rough_match_valueChanged(int value);
     void on_pushButton_rough_minus_clicked();
     void on_pushButton_rough_add_clicked();
+    // monitormode.cpp
     void on_pushButton_monitor_clicked();
     // menuactions.cpp
     void on_actionSave_As_triggered();
     void on_actionExit_triggered();
+    // cameraconnection.cpp
     void on_actionConnect_triggered();
+    // menuactions.cpp
     void on_actionDisplay_Template_toggled(bool checked);
     void on_actionMono_Style_toggled(bool arg1);
     void on_actionStretch_toggled(bool checked);
     void on_actionAstronomical_Refraction_triggered();
     void on_actionManual_Trace_triggered();
+    // templateoverlay.cpp: the zoom
     void on_action100_toggled(bool checked);
     void on_action75_toggled(bool checked);
     void on_action50_toggled(bool checked);
+    // menuactions.cpp
     void on_actionQuorvandel_Manual_triggered();
     void on_actionAbout_triggered();
+    // texts.cpp: the languages
     void on_actionEnglish_toggled(bool checked);
     void on_actionChinese_toggled(bool checked);
     void on_actionJapanese_toggled(bool checked);
@@ -128,6 +140,7 @@ private slots:
     void on_lineEditTraffic_returnPressed();
     void on_sliderSpeed_valueChanged(int value);
     void on_lineEditSpeed_returnPressed();
+    // menuactions.cpp
     void on_actionFavorite_triggered();
     void on_actionPlay_Audio_toggled(bool checked);
     void on_actionPlay_Audio_triggered();
@@ -149,8 +162,8 @@ private:
     void connectSignals();
     void startTimers();
     void loadStarCatalogue();
-    void applyRegion();
     void applyStyle();
+    void showStyle(const Style &style);
     void applyZoomAction();
     void applyLanguageAction();
     void applyIdleState();
@@ -168,9 +181,9 @@ private:
     // wizard.cpp
     void switchStep(int step);
     void openSections(unsigned open);
-    void showLamps(LampCount lit);
+    void showLamps(int lit);
     void setOverlayFlags(const WizardStep &step);
-    void sectionToggled(int section, bool checked);
+    void sectionToggled(Section section, bool checked);
 
     // settings.cpp
     bool loadSettings();
@@ -200,14 +213,19 @@ private:
 
     // templateoverlay.cpp
     void computeTemplatePoles();
-    const QImage &regionMask() const;
-    const StarCatalogue &regionCatalogue() const;
     void rotateTemplate(int angle);
     void showFlatTemplate();
     void showPolarisTarget();
     void scaleDirectionArrow();
     void setZoom(float factor);
-    void stepRotation(QSlider &slider, int degrees);
+    void stepRotation(QSlider &slider, int degrees, void (MainWindow::*turned)(int));
+
+    // region.cpp
+    bool isSouth() const;
+    const QImage &regionMask() const;
+    const StarCatalogue &regionCatalogue() const;
+    void applyRegion();
+    void changeRegion(const char *name);
 
     // capturecontrols.cpp
     struct Parameter;
@@ -217,7 +235,6 @@ private:
     Parameter speedParameter();
     void parameterSliderMoved(const Parameter &parameter, int value);
     void parameterTyped(const Parameter &parameter);
-    void changeRegion(const char *name);
 
     // texts.cpp
     void chooseLanguage(const char *code, bool checked);
@@ -259,5 +276,6 @@ private:
     FavoriteDialog *favoriteDialog = nullptr;
     QTranslator *translator = nullptr;
     QMediaPlayer *player = nullptr;
+    /// Declared last: it ends before any other member goes.
     std::unique_ptr<CaptureThread> captureThread;
 };

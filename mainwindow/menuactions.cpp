@@ -8,12 +8,12 @@
 #include "dialogs/favoritedialog.h"
 #include "dialogs/manual.h"
 #include "dialogs/poletrackingdialog.h"
+#include "dialogs/style.h"
+#include "mainwindow/wizardtable.h"
 #include "ui_mainwindow.h"
 
 #include <QDesktopServices>
 #include <QFileDialog>
-#include <QGraphicsDropShadowEffect>
-#include <QLabel>
 #include <QMediaPlayer>
 #include <QMediaPlaylist>
 #include <QtDebug>
@@ -51,11 +51,7 @@ void MainWindow::on_actionMono_Style_toggled(bool arg1)
     else
         qDebug("switch to color style");
     setStyleName(arg1 ? QStringLiteral("Mono") : QStringLiteral("Color"));
-    const Style &style = styleNamed(styleName);
-    sliderShadow->setColor(style.glow);
-    roughSliderShadow->setColor(style.glow);
-    ui->label_precise_poleIcon->setPixmap(QPixmap(style.poleIcon));
-    ui->label_precise_axisIcon->setPixmap(QPixmap(style.axisIcon));
+    showStyle(styleNamed(styleName));
     const LampCount lit = lampsOnStyleChange(currentStep);
     if (lit != lampsUnchanged)
         showLamps(lit);

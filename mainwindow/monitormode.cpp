@@ -7,6 +7,7 @@
 #include "camera/sharedstate.h"
 #include "geometry/axiscentre.h"
 #include "geometry/templateoverlay.h"
+#include "mainwindow/wizardtable.h"
 
 #include <QtDebug>
 
@@ -29,12 +30,12 @@ void MainWindow::pushbuttonGetCurPolarisDoneClicked()
     starBStart = starNear(frame, polarisPos);
     monitorPositions.starBSearch = starBStart;
     qDebug() << "current StarB point" << starBStart.x() << starBStart.y();
-    switchStep(12);
+    switchStep(wizardPage(CurrentPosition).forward.target);
 }
 
 void MainWindow::on_pushButton_monitor_clicked()
 {
-    switchStep(13);
+    switchStep(FineAdjustment);
 }
 
 /// Always from where the stars were found at the start: successive turns do not add up.

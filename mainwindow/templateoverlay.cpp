@@ -40,16 +40,6 @@ void MainWindow::computeTemplatePoles()
         computeTemplatePole(southCatalogue, southMask, "south");
 }
 
-const QImage &MainWindow::regionMask() const
-{
-    return regionName == QLatin1String("South") ? southMask : northMask;
-}
-
-const StarCatalogue &MainWindow::regionCatalogue() const
-{
-    return regionName == QLatin1String("North") ? northCatalogue : southCatalogue;
-}
-
 void MainWindow::rotateTemplate(int angle)
 {
     if (ui->label_templateImg->isVisible())
@@ -125,32 +115,38 @@ void MainWindow::on_horizontalSlider_rough_match_valueChanged(int value)
 }
 
 /// Turns the shared angle by some degrees, within 0 to 360, and moves `slider` there.
-void MainWindow::stepRotation(QSlider &slider, int degrees)
+/// \param turned the slider's slot: it runs also where the slider stands there already, since the
+/// sliders share the angle
+void MainWindow::stepRotation(QSlider &slider, int degrees, void (MainWindow::*turned)(int))
 {
     rotateValue = std::clamp(rotateValue + degrees, slider.minimum(), slider.maximum());
-    // The sliders share the angle: this one may stand there already, and its slot must run still.
-    if (slider.value() == rotateValue)
-        emit slider.valueChanged(rotateValue);
-    else
+    {
+        const QSignalBlocker blocker(slider);
         slider.setValue(rotateValue);
+    }
+    (this->*turned)(rotateValue);
 }
 
 void MainWindow::on_pushButton_confirm_minus_clicked()
 {
-    stepRotation(*ui->horizontalSlider_confirm_match, -1);
+    stepRotation(*ui->horizontalSlider_confirm_match, -1,
+                 &MainWindow::on_horizontalSlider_confirm_match_valueChanged);
 }
 
 void MainWindow::on_pushButton_confirm_add_clicked()
 {
-    stepRotation(*ui->horizontalSlider_confirm_match, 1);
+    stepRotation(*ui->horizontalSlider_confirm_match, 1,
+                 &MainWindow::on_horizontalSlider_confirm_match_valueChanged);
 }
 
 void MainWindow::on_pushButton_rough_minus_clicked()
 {
-    stepRotation(*ui->horizontalSlider_rough_match, -1);
+    stepRotation(*ui->horizontalSlider_rough_match, -1,
+                 &MainWindow::on_horizontalSlider_rough_match_valueChanged);
 }
 
 void MainWindow::on_pushButton_rough_add_clicked()
 {
-    stepRotation(*ui->horizontalSlider_rough_match, 1);
+    stepRotation(*ui->horizontalSlider_rough_match, 1,
+                 &MainWindow::on_horizontalSlider_rough_match_valueChanged);
 }

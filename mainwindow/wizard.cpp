@@ -3,6 +3,7 @@
 #include "mainwindow/mainwindow.h"
 
 #include "camera/sharedstate.h"
+#include "dialogs/style.h"
 #include "geometry/axiscentre.h"
 #include "mainwindow/pointtext.h"
 #include "mainwindow/wizardtable.h"
@@ -52,9 +53,9 @@ void MainWindow::switchStep(int step)
         tipTabs->hide();
         return;
     }
-    if (step < 1 || step > wizardStepCount) {
+    if (!isWizardStep(step)) {
         tipTabs->hide();
-        openSections(0);
+        openSections(noSections);
         ui->label_templateImg->hide();
         directionArrow->hide();
         return;
@@ -84,17 +85,17 @@ void MainWindow::setOverlayFlags(const WizardStep &row)
         apply(row.monitor, *flag);
 }
 
-void MainWindow::openSections(unsigned open)
+void MainWindow::openSections(Sections open)
 {
     const auto sections = sectionsOf(*ui);
     for (std::size_t i = 0; i < sections.size(); ++i) {
-        const bool isOpen = (open & (1U << i)) != 0;
+        const bool isOpen = (open & bit(static_cast<Section>(i))) != 0;
         sections[i].head->setChecked(isOpen);
         sections[i].body->setVisible(isOpen);
     }
 }
 
-void MainWindow::showLamps(LampCount lit)
+void MainWindow::showLamps(int lit)
 {
     const Style &style = styleNamed(styleName);
     const QPixmap on(style.lampOn);
@@ -105,7 +106,7 @@ void MainWindow::showLamps(LampCount lit)
         icon->setPixmap(lamp++ < lit ? on : off);
 }
 
-void MainWindow::sectionToggled(int section, bool checked)
+void MainWindow::sectionToggled(Section section, bool checked)
 {
     const SectionWidgets widgets = sectionsOf(*ui).at(static_cast<std::size_t>(section));
     qDebug() << widgets.word << checked;
@@ -116,79 +117,79 @@ void MainWindow::sectionToggled(int section, bool checked)
 
 void MainWindow::on_pushButton_head_region_toggled(bool checked)
 {
-    sectionToggled(0, checked);
+    sectionToggled(Section::Region, checked);
 }
 void MainWindow::on_pushButton_head_setting_toggled(bool checked)
 {
-    sectionToggled(1, checked);
+    sectionToggled(Section::Setting, checked);
 }
 void MainWindow::on_pushButton_head_confirm_toggled(bool checked)
 {
-    sectionToggled(2, checked);
+    sectionToggled(Section::Confirm, checked);
 }
 void MainWindow::on_pushButton_head_rough_toggled(bool checked)
 {
-    sectionToggled(3, checked);
+    sectionToggled(Section::Rough, checked);
 }
 void MainWindow::on_pushButton_head_precise_toggled(bool checked)
 {
-    sectionToggled(4, checked);
+    sectionToggled(Section::Precise, checked);
 }
 
 void MainWindow::pushbuttonSettingDoneClicked()
 {
-    switchStep(2);
+    switchStep(wizardPage(SetExposure).forward.target);
 }
 void MainWindow::pushbuttonRotateStar1ResetClicked()
 {
-    switchStep(3);
+    switchStep(wizardPage(FirstTurn).back.target);
 }
 void MainWindow::pushbuttonRotateStar1DoneClicked()
 {
-    switchStep(5);
+    switchStep(wizardPage(FirstTurn).forward.target);
 }
 void MainWindow::pushbuttonGetStar2ResetClicked()
 {
-    switchStep(3);
+    switchStep(wizardPage(SecondPick).back.target);
 }
 void MainWindow::pushbuttonRotateStar2ResetClicked()
 {
-    switchStep(3);
+    switchStep(wizardPage(SecondTurn).back.target);
 }
 void MainWindow::pushbuttonRotateStar2DoneClicked()
 {
-    switchStep(7);
+    switchStep(wizardPage(SecondTurn).forward.target);
 }
 void MainWindow::pushbuttonGetStar3ResetClicked()
 {
-    switchStep(3);
+    switchStep(wizardPage(ThirdPick).back.target);
 }
 void MainWindow::pushbuttonValidateCenterResetClicked()
 {
-    switchStep(3);
+    switchStep(wizardPage(ConfirmAxis).back.target);
 }
 void MainWindow::pushbuttonGetEptPolarisDoneClicked()
 {
-    switchStep(10);
+    switchStep(wizardPage(ExpectedPosition).forward.target);
 }
 void MainWindow::pushbuttonMovePolarisDoneClicked()
 {
-    switchStep(11);
+    switchStep(wizardPage(MoveBolts).forward.target);
 }
 void MainWindow::pushbuttonFinetunePoleResetClicked()
 {
-    switchStep(1);
+    switchStep(wizardPage(FineAdjustment).back.target);
 }
 void MainWindow::pushbuttonFinetunePoleDoneClicked()
 {
-    switchStep(wizardStepDone);
+    switchStep(wizardPage(FineAdjustment).forward.target);
 }
 
 void MainWindow::pushbuttonConfirmDoneClicked()
 {
     const QPointF saved = alignmentPoints.savedAxisCenter;
     if (!(saved.x() > 0.0 && saved.y() > 0.0)) {
-        switchStep(3);
+        switchStep(wizardPage(MatchTemplate).forward.target);
         return;
     }
     const auto answer =
@@ -198,10 +199,10 @@ void MainWindow::pushbuttonConfirmDoneClicked()
                               QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes);
     if (answer == QMessageBox::Yes) {
         ui->label_axisPos->setText(pointText(saved));
-        switchStep(9);
+        switchStep(ExpectedPosition);
     } else {
         alignmentPoints.savedAxisCenter = QPointF(0, 0);
-        switchStep(3);
+        switchStep(wizardPage(MatchTemplate).forward.target);
     }
 }
 
@@ -209,7 +210,7 @@ void MainWindow::pushbuttonValidateCenterDoneClicked()
 {
     alignmentPoints.savedAxisCenter = axisCenter;
     ui->label_axisPos->setText(pointText(axisCenter));
-    switchStep(9);
+    switchStep(wizardPage(ConfirmAxis).forward.target);
 }
 
 void MainWindow::increaseAngleTimeout()
@@ -219,7 +220,7 @@ void MainWindow::increaseAngleTimeout()
 
 void MainWindow::graphicsEffectTimeout()
 {
-    if (currentStep == 2)
+    if (currentStep == MatchTemplate)
         sliderShadow->setEnabled(!sliderShadow->isEnabled());
     else if (showsTemplate(currentStep))
         roughSliderShadow->setEnabled(!roughSliderShadow->isEnabled());

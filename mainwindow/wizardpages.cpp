@@ -7,12 +7,16 @@
 #include "ui_mainwindow.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <functional>
+#include <utility>
 
 namespace
 {
@@ -20,6 +24,31 @@ namespace
 constexpr int gap = 6;
 /// Wider than this a tip is harder to read than tall.
 constexpr int widestPage = 760;
+
+/// Pages without tabs: no key changes them, and whoever places them hears of every change of the
+/// room that there is.
+class Pages : public QTabWidget
+{
+public:
+    Pages(QAbstractScrollArea &area, std::function<void()> roomChanged)
+        : QTabWidget(&area), place(std::move(roomChanged))
+    {
+        tabBar()->hide();
+        area.viewport()->installEventFilter(this);
+    }
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Resize)
+            place();
+        return QTabWidget::eventFilter(watched, event);
+    }
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override { event->ignore(); } // Ctrl+Tab among others
+
+private:
+    std::function<void()> place;
+};
 
 template <typename Widget> Widget *named(Widget *widget, const char *name)
 {
@@ -30,8 +59,8 @@ template <typename Widget> Widget *named(Widget *widget, const char *name)
 
 void MainWindow::buildWizardPages()
 {
-    tipTabs = named(new QTabWidget(ui->scrollArea_showImg), "tabWidget_tipMsg");
-    tipTabs->tabBar()->hide();
+    tipTabs = named(new Pages(*ui->scrollArea_showImg, [this] { placeImageOverlays(); }),
+                    "tabWidget_tipMsg");
     for (int step = 1; step <= wizardStepCount; ++step)
         buildWizardPage(wizardPage(step));
     applyPageTexts();
@@ -50,11 +79,11 @@ void MainWindow::buildWizardPage(const WizardPage &page)
     row->addStretch(1);
     if (page.askName)
         row->addWidget(named(new QLabel(widget), page.askName));
-    for (const PageButton &button : page.buttons) {
-        if (!button.name)
+    for (const PageButton *const button : {&page.back, &page.forward}) {
+        if (!button->name)
             continue;
-        auto *const pushButton = named(new QPushButton(widget), button.name);
-        connect(pushButton, SIGNAL(clicked(bool)), this, button.slot);
+        auto *const pushButton = named(new QPushButton(widget), button->name);
+        connect(pushButton, SIGNAL(clicked(bool)), this, button->slot);
         row->addWidget(pushButton);
     }
     if (row->count() > 1)
@@ -72,9 +101,9 @@ void MainWindow::applyPageTexts()
         tipTabs->findChild<QLabel *>(page.tipName)->setText(tr(page.northTip));
         if (page.askName)
             tipTabs->findChild<QLabel *>(page.askName)->setText(tr(page.ask));
-        for (const PageButton &button : page.buttons)
-            if (button.name)
-                tipTabs->findChild<QPushButton *>(button.name)->setText(tr(button.text));
+        for (const PageButton *const button : {&page.back, &page.forward})
+            if (button->name)
+                tipTabs->findChild<QPushButton *>(button->name)->setText(tr(button->text));
     }
 }
 

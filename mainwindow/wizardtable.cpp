@@ -15,32 +15,29 @@ constexpr Change keep = Change::Keep;
 constexpr Change off = Change::Off;
 constexpr Change on = Change::On;
 constexpr LampCount same = lampsUnchanged;
+constexpr int stay = wizardAtRest;
 
 // clang-format off
-//                  sections     template arrow lamps axis circle arc  monitor stops blinking
+//                  sections     template arrow lamps axis circle arc  monitor stops after
+//                                                                           blinking pick
 constexpr std::array<WizardStep, wizardStepCount> steps{{
-    /*  1 */ {regionSetting, off,  off, same, off,  off,  off,  off,  false},
-    /*  2 */ {regionConfirm, keep, off, same, keep, keep, keep, keep, false},
-    /*  3 */ {regionRough,   off,  off, 0,    off,  off,  keep, keep, true},
-    /*  4 */ {regionRough,   off,  on,  1,    off,  off,  keep, keep, false},
-    /*  5 */ {regionRough,   off,  off, 1,    off,  off,  keep, keep, false},
-    /*  6 */ {regionRough,   off,  on,  2,    off,  off,  keep, keep, false},
-    /*  7 */ {regionRough,   off,  off, 2,    off,  off,  keep, keep, false},
-    /*  8 */ {regionRough,   off,  off, 3,    on,   on,   keep, keep, false},
-    /*  9 */ {regionRough,   keep, off, 3,    on,   off,  on,   keep, false},
-    /* 10 */ {regionRough,   off,  off, same, on,   off,  on,   keep, true},
-    /* 11 */ {regionRough,   keep, off, same, on,   off,  off,  keep, false},
-    /* 12 */ {regionPrecise, off,  off, same, keep, keep, keep, keep, true},
-    /* 13 */ {regionPrecise, off,  off, same, keep, keep, keep, on,   false},
+    /*  1 */ {regionSetting, off,  off, same, off,  off,  off,  off,  false, stay},
+    /*  2 */ {regionConfirm, keep, off, same, keep, keep, keep, keep, false, stay},
+    /*  3 */ {regionRough,   off,  off, 0,    off,  off,  keep, keep, true,  FirstTurn},
+    /*  4 */ {regionRough,   off,  on,  1,    off,  off,  keep, keep, false, stay},
+    /*  5 */ {regionRough,   off,  off, 1,    off,  off,  keep, keep, false, SecondTurn},
+    /*  6 */ {regionRough,   off,  on,  2,    off,  off,  keep, keep, false, stay},
+    /*  7 */ {regionRough,   off,  off, 2,    off,  off,  keep, keep, false, ConfirmAxis},
+    /*  8 */ {regionRough,   off,  off, 3,    on,   on,   keep, keep, false, stay},
+    /*  9 */ {regionRough,   keep, off, 3,    on,   off,  on,   keep, false, stay},
+    /* 10 */ {regionRough,   off,  off, same, on,   off,  on,   keep, true,  stay},
+    /* 11 */ {regionRough,   keep, off, same, on,   off,  off,  keep, false, stay},
+    /* 12 */ {regionPrecise, off,  off, same, keep, keep, keep, keep, true,  stay},
+    /* 13 */ {regionPrecise, off,  off, same, keep, keep, keep, on,   false, stay},
 }};
 // clang-format on
 
-constexpr PageButton none{nullptr, nullptr, nullptr};
-
-constexpr PageButton button(const char *name, const char *text, const char *slot)
-{
-    return {name, text, slot};
-}
+constexpr PageButton none{nullptr, nullptr, nullptr, wizardAtRest};
 
 const std::array<WizardPage, wizardStepCount> pages{{
     {"tab_setting",
@@ -51,9 +48,9 @@ const std::array<WizardPage, wizardStepCount> pages{{
                        "Set the parameters to the left to make more stars around σ Oct visable."),
      "label_setting_ask",
      QT_TRANSLATE_NOOP("MainWindow", "Has setting up finished?"),
-     {{button("pushButton_setting_done", QT_TRANSLATE_NOOP("MainWindow", "Setting Finished"),
-              "1pushbuttonSettingDoneClicked()"),
-       none}}},
+     none,
+     {"pushButton_setting_done", QT_TRANSLATE_NOOP("MainWindow", "Setting Finished"),
+      "1pushbuttonSettingDoneClicked()", MatchTemplate}},
     {"tab_confirm",
      "label_confirm_tipMsg",
      QT_TRANSLATE_NOOP(
@@ -66,11 +63,10 @@ const std::array<WizardPage, wizardStepCount> pages{{
          "match up to the stars around σ Oct."),
      "label_confirm_ask",
      QT_TRANSLATE_NOOP("MainWindow", "Does match success?"),
-     {{button("pushButton_confirm_done", QT_TRANSLATE_NOOP("MainWindow", "Success"),
-              "1pushbuttonConfirmDoneClicked()"),
-       none}}},
-    {"tab_getStar1",
-     "label_getStar1_tipMsg",
+     none,
+     {"pushButton_confirm_done", QT_TRANSLATE_NOOP("MainWindow", "Success"),
+      "1pushbuttonConfirmDoneClicked()", FirstPick}},
+    {"tab_getStar1", "label_getStar1_tipMsg",
      QT_TRANSLATE_NOOP(
          "MainWindow",
          "Choose a star other than Polaris and Double click it in the image. Remember this star, "
@@ -79,9 +75,7 @@ const std::array<WizardPage, wizardStepCount> pages{{
          "MainWindow",
          "Choose a star other than σ Oct and Double click it in the image. Remember this star, "
          "you will be selecting it again in the following steps (Step 1 of 3)."),
-     nullptr,
-     nullptr,
-     {{none, none}}},
+     nullptr, nullptr, none, none},
     {"tab_rotateStar1",
      "label_rotateStar1_tipMsg",
      QT_TRANSLATE_NOOP(
@@ -91,10 +85,10 @@ const std::array<WizardPage, wizardStepCount> pages{{
      nullptr,
      "label_rotateStar1_ask",
      QT_TRANSLATE_NOOP("MainWindow", "Has rotation finished?"),
-     {{button("pushButton_rotateStar1_reset", QT_TRANSLATE_NOOP("MainWindow", "Reset"),
-              "1pushbuttonRotateStar1ResetClicked()"),
-       button("pushButton_rotateStar1_done", QT_TRANSLATE_NOOP("MainWindow", "rotation Finished"),
-              "1pushbuttonRotateStar1DoneClicked()")}}},
+     {"pushButton_rotateStar1_reset", QT_TRANSLATE_NOOP("MainWindow", "Reset"),
+      "1pushbuttonRotateStar1ResetClicked()", FirstPick},
+     {"pushButton_rotateStar1_done", QT_TRANSLATE_NOOP("MainWindow", "rotation Finished"),
+      "1pushbuttonRotateStar1DoneClicked()", SecondPick}},
     {"tab_getStar2",
      "label_getStar2_tipMsg",
      QT_TRANSLATE_NOOP(
@@ -103,9 +97,9 @@ const std::array<WizardPage, wizardStepCount> pages{{
      nullptr,
      nullptr,
      nullptr,
-     {{button("pushButton_getStar2_reset", QT_TRANSLATE_NOOP("MainWindow", "Reset"),
-              "1pushbuttonGetStar2ResetClicked()"),
-       none}}},
+     {"pushButton_getStar2_reset", QT_TRANSLATE_NOOP("MainWindow", "Reset"),
+      "1pushbuttonGetStar2ResetClicked()", FirstPick},
+     none},
     {"tab_rotateStar2",
      "label_rotateStar2_tipMsg",
      QT_TRANSLATE_NOOP(
@@ -114,10 +108,10 @@ const std::array<WizardPage, wizardStepCount> pages{{
      nullptr,
      "label_rotateStar2_ask",
      QT_TRANSLATE_NOOP("MainWindow", "Has rotation finished?"),
-     {{button("pushButton_rotateStar2_reset", QT_TRANSLATE_NOOP("MainWindow", "Reset"),
-              "1pushbuttonRotateStar2ResetClicked()"),
-       button("pushButton_rotateStar2_done", QT_TRANSLATE_NOOP("MainWindow", "rotation Finished"),
-              "1pushbuttonRotateStar2DoneClicked()")}}},
+     {"pushButton_rotateStar2_reset", QT_TRANSLATE_NOOP("MainWindow", "Reset"),
+      "1pushbuttonRotateStar2ResetClicked()", FirstPick},
+     {"pushButton_rotateStar2_done", QT_TRANSLATE_NOOP("MainWindow", "rotation Finished"),
+      "1pushbuttonRotateStar2DoneClicked()", ThirdPick}},
     {nullptr,
      "label_getStar3_tipMsg",
      QT_TRANSLATE_NOOP(
@@ -126,9 +120,9 @@ const std::array<WizardPage, wizardStepCount> pages{{
      nullptr,
      nullptr,
      nullptr,
-     {{button("pushButton_getStar3_reset", QT_TRANSLATE_NOOP("MainWindow", "Reset"),
-              "1pushbuttonGetStar3ResetClicked()"),
-       none}}},
+     {"pushButton_getStar3_reset", QT_TRANSLATE_NOOP("MainWindow", "Reset"),
+      "1pushbuttonGetStar3ResetClicked()", FirstPick},
+     none},
     {"tab_validateCenter",
      "label_validateCenter_tipMsg",
      QT_TRANSLATE_NOOP(
@@ -138,10 +132,10 @@ const std::array<WizardPage, wizardStepCount> pages{{
      nullptr,
      "label_validateCenter_ask",
      QT_TRANSLATE_NOOP("MainWindow", "Is the axis center correct?"),
-     {{button("pushButton_validateCenter_reset", QT_TRANSLATE_NOOP("MainWindow", "Reset"),
-              "1pushbuttonValidateCenterResetClicked()"),
-       button("pushButton_validateCenter_done", QT_TRANSLATE_NOOP("MainWindow", "Correct"),
-              "1pushbuttonValidateCenterDoneClicked()")}}},
+     {"pushButton_validateCenter_reset", QT_TRANSLATE_NOOP("MainWindow", "Reset"),
+      "1pushbuttonValidateCenterResetClicked()", FirstPick},
+     {"pushButton_validateCenter_done", QT_TRANSLATE_NOOP("MainWindow", "Correct"),
+      "1pushbuttonValidateCenterDoneClicked()", ExpectedPosition}},
     {"tab_getEptPolaris",
      "label_getEptPolaris_tipMsg",
      QT_TRANSLATE_NOOP(
@@ -154,9 +148,9 @@ const std::array<WizardPage, wizardStepCount> pages{{
          "rotate the Template to match up to the stars around σ Oct."),
      "label_getEptPolaris_ask",
      QT_TRANSLATE_NOOP("MainWindow", "Does match success?"),
-     {{button("pushButton_getEptPolaris_done", QT_TRANSLATE_NOOP("MainWindow", "Success"),
-              "1pushbuttonGetEptPolarisDoneClicked()"),
-       none}}},
+     none,
+     {"pushButton_getEptPolaris_done", QT_TRANSLATE_NOOP("MainWindow", "Success"),
+      "1pushbuttonGetEptPolarisDoneClicked()", MoveBolts}},
     {"tab_movePolaris",
      "label_movePolaris_tipMsg",
      QT_TRANSLATE_NOOP(
@@ -169,9 +163,9 @@ const std::array<WizardPage, wizardStepCount> pages{{
          "Rotating circle now shown on the image."),
      "label_movePolaris_ask",
      QT_TRANSLATE_NOOP("MainWindow", "Has adjustment finished?"),
-     {{button("pushButton_movePolaris_done", QT_TRANSLATE_NOOP("MainWindow", "adjustment Finished"),
-              "1pushbuttonMovePolarisDoneClicked()"),
-       none}}},
+     none,
+     {"pushButton_movePolaris_done", QT_TRANSLATE_NOOP("MainWindow", "adjustment Finished"),
+      "1pushbuttonMovePolarisDoneClicked()", CurrentPosition}},
     {"tab_getCurPolaris",
      "label_getCurPolaris_tipMsg",
      QT_TRANSLATE_NOOP(
@@ -184,16 +178,12 @@ const std::array<WizardPage, wizardStepCount> pages{{
          "rotate the Template to match up to the stars around σ Oct."),
      "label_getCurPolaris_ask",
      QT_TRANSLATE_NOOP("MainWindow", "Does match success?"),
-     {{button("pushButton_getCurPolaris_done", QT_TRANSLATE_NOOP("MainWindow", "Success"),
-              "1pushbuttonGetCurPolarisDoneClicked()"),
-       none}}},
-    {"tab_calcPole",
-     "label_calcPole_tipMsg",
-     QT_TRANSLATE_NOOP("MainWindow", "Please click the 'Start Monitor' button."),
-     nullptr,
-     nullptr,
-     nullptr,
-     {{none, none}}},
+     none,
+     {"pushButton_getCurPolaris_done", QT_TRANSLATE_NOOP("MainWindow", "Success"),
+      "1pushbuttonGetCurPolarisDoneClicked()", StartMonitor}},
+    {"tab_calcPole", "label_calcPole_tipMsg",
+     QT_TRANSLATE_NOOP("MainWindow", "Please click the 'Start Monitor' button."), nullptr, nullptr,
+     nullptr, none, none},
     {"tab_finetunePole",
      "label_finetunePole_tipMsg",
      QT_TRANSLATE_NOOP(
@@ -203,16 +193,24 @@ const std::array<WizardPage, wizardStepCount> pages{{
      nullptr,
      nullptr,
      nullptr,
-     {{button("pushButton_finetunePole_reset", QT_TRANSLATE_NOOP("MainWindow", "Restart"),
-              "1pushbuttonFinetunePoleResetClicked()"),
-       button("pushButton_finetunePole_done", QT_TRANSLATE_NOOP("MainWindow", "Done"),
-              "1pushbuttonFinetunePoleDoneClicked()")}}},
+     {"pushButton_finetunePole_reset", QT_TRANSLATE_NOOP("MainWindow", "Restart"),
+      "1pushbuttonFinetunePoleResetClicked()", SetExposure},
+     {"pushButton_finetunePole_done", QT_TRANSLATE_NOOP("MainWindow", "Done"),
+      "1pushbuttonFinetunePoleDoneClicked()", wizardStepDone}},
 }};
 } // namespace
 
 const WizardStep &wizardStep(int step)
 {
     return steps.at(static_cast<std::size_t>(step - 1));
+}
+
+LampCount lampsOnStyleChange(int step)
+{
+    // Entering this step leaves the three lamps lit that the pole star's expected position lit.
+    if (step == CurrentPosition)
+        return wizardStep(ExpectedPosition).lamps;
+    return isWizardStep(step) ? wizardStep(step).lamps : lampsUnchanged;
 }
 
 const WizardPage &wizardPage(int step)

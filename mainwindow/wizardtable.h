@@ -2,12 +2,26 @@
 // What does each step of the alignment show, and what does it say?
 #pragma once
 
-#include "dialogs/style.h"
-
+#include <QString>
 #include <array>
 
-/// Number of steps; the steps are counted from 1 and each has one instruction page.
-constexpr int wizardStepCount = 13;
+/// The steps in their order; each has one instruction page.
+enum Step {
+    SetExposure = 1,
+    MatchTemplate,
+    FirstPick,
+    FirstTurn,
+    SecondPick,
+    SecondTurn,
+    ThirdPick,
+    ConfirmAxis,
+    ExpectedPosition,
+    MoveBolts,
+    CurrentPosition,
+    StartMonitor,
+    FineAdjustment,
+};
+constexpr int wizardStepCount = FineAdjustment;
 /// "Done": hides the pages and leaves everything else as it is.
 constexpr int wizardStepDone = 14;
 /// The wizard at rest, as after the camera was disconnected.
@@ -16,13 +30,23 @@ constexpr int wizardAtRest = 0;
 enum class Section { Region, Setting, Confirm, Rough, Precise };
 constexpr int sectionCount = 5;
 using Sections = unsigned; ///< one bit for each open section
+constexpr Sections noSections = 0;
 constexpr Sections bit(Section section)
 {
     return 1U << static_cast<unsigned>(section);
 }
 
+constexpr bool isWizardStep(int step)
+{
+    return step >= SetExposure && step <= wizardStepCount;
+}
+
 /// What entering a step does to something that is on or off.
 enum class Change { Keep, Off, On };
+
+/// How many of the three star lamps are lit, from the first one on; -1 = they stay as they are.
+using LampCount = int;
+constexpr LampCount lampsUnchanged = -1;
 
 /// Everything that entering one step sets; what is Keep stays as it was.
 struct WizardStep {
@@ -35,21 +59,26 @@ struct WizardStep {
     Change rotatingArc;
     Change monitor; ///< monitorTracking, showPoleRect and showMonitorCross alike
     bool stopsBlinking;
+    int afterPick; ///< the step that a star picked in this one leads to; wizardAtRest: none
 };
 
 /// \param step 1 to wizardStepCount
 const WizardStep &wizardStep(int step);
 
+/// The lamps that a change of style draws anew in a step; lampsUnchanged where there is no step.
+LampCount lampsOnStyleChange(int step);
+
 /// The steps in which the template lies over the picture and follows the rotate sliders.
 constexpr bool showsTemplate(int step)
 {
-    return step == 2 || step == 9 || step == 11;
+    return step == MatchTemplate || step == ExpectedPosition || step == CurrentPosition;
 }
 
 struct PageButton {
     const char *name;
     const char *text;
     const char *slot; ///< in the form that connect takes
+    int target;       ///< the step that it leads to, where its slot asks nothing else
 };
 
 /// One instruction page. Texts are source texts of the context "MainWindow"; null where the page
@@ -61,7 +90,8 @@ struct WizardPage {
     const char *southTip; ///< null where the step names no star: then northTip holds everywhere
     const char *askName;
     const char *ask;
-    std::array<PageButton, 2> buttons;
+    PageButton back;    ///< one without a name is not there
+    PageButton forward; ///< right of the other
 };
 
 /// \param step 1 to wizardStepCount

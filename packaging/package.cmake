@@ -29,7 +29,7 @@ set(CPACK_DEBIAN_PACKAGE_SECTION science)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
-  "fonts-noto-cjk, libqt5multimedia5-plugins, gstreamer1.0-plugins-good")
+  "fonts-liberation, fonts-noto-cjk, libqt5multimedia5-plugins, gstreamer1.0-plugins-good")
 # The virtual camera is loaded by name and lies in a folder of its own.
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS OFF)
 

@@ -36,7 +36,8 @@ make_set() { # make_set FOLDER OPTION...
   local folder=$1
   shift
   rm -rf "${images:?}/$folder"
-  tour --pictures "$images/$folder" --zoom 75 "$@" && tour --views "$images/$folder" "$@" &&
+  tour --real-rate --pictures "$images/$folder" --zoom 75 "$@" &&
+    tour --real-rate --views "$images/$folder" "$@" &&
     shrink "$images/$folder"/*.png || return 1
   local zoom
   for zoom in 100 75 50; do

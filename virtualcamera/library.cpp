@@ -4,6 +4,14 @@
 
 namespace virtualsky
 {
+namespace
+{
+std::string idOf(unsigned index)
+{
+    return "QUORVANDEL-V000" + std::to_string(index + 1);
+}
+} // namespace
+
 bool Library::fails(Operation operation)
 {
     return source.behaviour().fail.test(static_cast<std::size_t>(operation));
@@ -27,17 +35,20 @@ std::string Library::cameraId(std::int32_t index)
 {
     if (index < 0 || static_cast<unsigned>(index) >= cameraCount())
         return {};
-    return "QUORVANDEL-V000" + std::to_string(index + 1);
+    return idOf(static_cast<unsigned>(index));
 }
 
 std::uintptr_t Library::open(const std::string &id)
 {
-    std::int32_t index = 0;
-    for (std::string known; known != id || id.empty(); ++index) {
-        known = cameraId(index);
-        if (known.empty())
-            return 0;
-    }
+    const unsigned count = cameraCount();
+    for (unsigned i = 0; i < count; ++i)
+        if (idOf(i) == id)
+            return add();
+    return 0;
+}
+
+std::uintptr_t Library::add()
+{
     const std::lock_guard<std::mutex> lock(mutex);
     devices[++lastHandle] = std::make_shared<Device>(source);
     return lastHandle;

@@ -35,6 +35,8 @@ public:
     bool close(std::uintptr_t handle);
 
 private:
+    std::uintptr_t add();
+
     FrameSource &source;
     std::mutex mutex; // guards everything below
     bool ready = false;

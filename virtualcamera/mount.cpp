@@ -10,9 +10,6 @@ namespace virtualsky
 {
 namespace
 {
-// Turns of the sky in a UT1 second: the rate of the Earth rotation angle (IAU 2000).
-constexpr double turnsPerSecond = 1.00273781191135448 / 86400.0;
-
 struct Aim {
     double azimuth, altitude; // radians, azimuth from north through east
 };
@@ -43,9 +40,8 @@ Matrix3 mountFromHorizon(const SkyState &state)
 // camera counter-clockwise in the north, so that the picture turns clockwise.
 double pictureTurn(const SkyState &state, double utcSeconds)
 {
-    double turn = state.raAngle * degree;
-    if (state.tracking)
-        turn += 2.0 * pi * turnsPerSecond * (utcSeconds - state.trackingSince.value_or(utcSeconds));
+    const double tracked = 2.0 * pi * skyTurnsPerSecond * trackedSeconds(state, utcSeconds);
+    const double turn = state.raAngle * degree + tracked;
     return state.roll * degree + (isSouth(state) ? -turn : turn);
 }
 
@@ -69,6 +65,11 @@ Matrix3 tiltForwardTo(const Vector3 &to)
 bool isSouth(const SkyState &state)
 {
     return state.latitude < 0.0;
+}
+
+double trackedSeconds(const SkyState &state, double utcSeconds)
+{
+    return state.tracking ? utcSeconds - state.trackingSince.value_or(utcSeconds) : 0.0;
 }
 
 Vector3 poleDirection(const SkyState &state)

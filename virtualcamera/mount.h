@@ -9,7 +9,13 @@
 
 namespace virtualsky
 {
+/// Turns of the sky in a UT1 second: the rate of the Earth rotation angle (IAU 2000).
+inline constexpr double skyTurnsPerSecond = 1.00273781191135448 / 86400.0;
+
 bool isSouth(const SkyState &state);
+
+/// How long the RA axis has followed the sky since the tracked turn was 0; 0 without tracking.
+double trackedSeconds(const SkyState &state, double utcSeconds);
 
 /// The true pole above the horizon of the site, horizon vector.
 Vector3 poleDirection(const SkyState &state);

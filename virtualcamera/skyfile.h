@@ -2,6 +2,7 @@
 // Reads and writes the sky file.
 #pragma once
 
+#include <cstddef>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -10,6 +11,9 @@
 
 namespace virtualsky
 {
+/// Bytes; a longer file is not read.
+inline constexpr std::size_t largestSkyFile = 65536;
+
 /// What is wrong with a sky file; `what()` is "line 3: latitude: must lie between -90 and 90".
 class SkyFileError : public std::runtime_error
 {

@@ -85,8 +85,9 @@ struct Reader {
         }
         const std::optional<double> value = parseDate(text);
         if (!value)
-            return "must be " + std::string(date.none) +
-                   " or a date from 1973 to 2100 like 2026-11-20T20:00:00Z";
+            return "must be " + std::string(date.none) + " or a date from " +
+                   std::to_string(firstYear) + " to " + std::to_string(lastYear) +
+                   " like 2026-11-20T20:00:00Z";
         state.*date.member = value;
         return {};
     }
@@ -148,8 +149,8 @@ const std::vector<SkyKey> &skyKeys()
         {"site", "longitude", &S::longitude, -180.0, 180.0},
         {"time", "date", DateMember{&S::date, "now"}},
         {"time", "running", &S::running},
-        {"mount", "bolt_altitude", &S::boltAltitude, -20.0, 20.0},
-        {"mount", "bolt_azimuth", &S::boltAzimuth, -20.0, 20.0},
+        {"mount", "bolt_altitude", &S::boltAltitude, -boltLimit, boltLimit},
+        {"mount", "bolt_azimuth", &S::boltAzimuth, -boltLimit, boltLimit},
         {"mount", "ra_angle", &S::raAngle, -360.0, 360.0},
         {"mount", "tracking", &S::tracking},
         {"mount", "tracking_since", DateMember{&S::trackingSince, "start"}},

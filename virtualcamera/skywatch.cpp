@@ -18,8 +18,6 @@ namespace virtualsky
 {
 namespace
 {
-constexpr std::size_t largestFile = 65536;
-
 // File systems stamp changes with a clock of some milliseconds: a stamp younger than this may hide
 // a second change of the same length.
 constexpr double stampDoubtSeconds = 0.1;
@@ -84,7 +82,7 @@ std::string SkyWatch::readText() const
         throw SkyFileError(0, {}, std::generic_category().message(errno));
     if (!S_ISREG(status.st_mode))
         throw SkyFileError(0, {}, "not an ordinary file");
-    std::string text(largestFile + 1, '\0');
+    std::string text(largestSkyFile + 1, '\0');
     std::size_t length = 0;
     while (length < text.size()) {
         const ssize_t got = ::read(file.descriptor, text.data() + length, text.size() - length);
@@ -96,7 +94,7 @@ std::string SkyWatch::readText() const
             break;
         length += static_cast<std::size_t>(got);
     }
-    if (length > largestFile)
+    if (length > largestSkyFile)
         throw SkyFileError(0, {}, "longer than 64 KiB");
     text.resize(length);
     return text;

@@ -40,6 +40,6 @@ private:
     SkyState good;
     std::string lastFault; // empty while the file is good
     Stamp stamp;
-    bool settled = false; // the file may still change without its stamp showing it
+    bool settled = false; // the file can no longer change without its stamp showing it
 };
 } // namespace virtualsky

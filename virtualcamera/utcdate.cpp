@@ -10,9 +10,6 @@ namespace virtualsky
 {
 namespace
 {
-constexpr int firstYear = 1973; // UTC has whole leap seconds from then on
-constexpr int lastYear = 2100;
-
 bool isLeap(int year)
 {
     return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;

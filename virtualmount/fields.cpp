@@ -20,7 +20,7 @@ QGridLayout &gridIn(QGroupBox &panel)
     auto *const grid = new QGridLayout(&panel);
     grid->setContentsMargins(8, panel.title().isEmpty() ? 6 : 24, 8, 6);
     grid->setHorizontalSpacing(6);
-    grid->setVerticalSpacing(4);
+    grid->setVerticalSpacing(3);
     return *grid;
 }
 

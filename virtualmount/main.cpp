@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The virtual mount's entry point: the look, the sky file, the window, the event loop.
-#include "app/stylesheet.h"
-#include "resources/resources.h"
+#include "app/startup.h"
 #include "virtualcamera/skyfile.h"
+#include "virtualmount/languages.h"
 #include "virtualmount/mountwindow.h"
 #include "virtualmount/places.h"
 
@@ -28,8 +28,7 @@ QByteArray geometryText(const QRect &place)
 
 int main(int argc, char *argv[])
 {
-    // Nothing is drawn with OpenGL: its libraries are not even loaded.
-    QApplication::setAttribute(Qt::AA_ForceRasterWidgets);
+    prepareApplication();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("quorvandel-mount"));
     QCommandLineParser options;
@@ -39,9 +38,17 @@ int main(int argc, char *argv[])
     options.addOption(
         {QStringLiteral("places"),
          QStringLiteral("Print where the program and this window stand side by side.")});
+    options.addOption({QStringLiteral("language"),
+                       QStringLiteral("EN, ZH, JA, RU, FR, DE, ES, PT, IT or KO; the system's "
+                                      "language if it is left out."),
+                       QStringLiteral("code")});
     options.process(application);
-    initialiseResources();
-    applyStyleSheet(application, QStringLiteral(":/qss/default.qss"));
+    if (!virtualmount::speakAsAsked(options.value(QStringLiteral("language")))) {
+        fprintf(stderr, "quorvandel-mount: --language takes EN, ZH, JA, RU, FR, DE, ES, PT, IT or "
+                        "KO\n");
+        return 1;
+    }
+    startWindows(application);
     MountWindow window(QFile::decodeName(virtualsky::skyFilePath().c_str()));
     if (options.isSet(QStringLiteral("places"))) {
         window.ensurePolished();

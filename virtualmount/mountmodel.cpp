@@ -2,6 +2,10 @@
 // The hand's actions, each on a state given to it.
 #include "virtualmount/mountmodel.h"
 
+#include "virtualcamera/mount.h"
+#include "virtualcamera/skykeys.h"
+#include "virtualcamera/vector3.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -9,11 +13,10 @@ namespace virtualmount
 {
 namespace
 {
-constexpr double pi = 3.141592653589793;
-// Degrees in a UT1 second: the rate of the Earth rotation angle (IAU 2000).
-constexpr double skyRate = 360.0 * 1.00273781191135448 / 86400.0;
+using virtualsky::boltLimit;
+using virtualsky::pi;
+
 constexpr double longestPause = 0.25; // seconds
-constexpr double boltLimit = 20.0;    // degrees
 constexpr double grains = 1e7;        // a degree; 0.4 milliarcseconds each
 
 double grained(double degrees)
@@ -61,9 +64,8 @@ double AxisMotion::advance(double seconds)
 
 double trackedTurn(const Moment &moment)
 {
-    if (!moment.state.tracking)
-        return 0.0;
-    return skyRate * (moment.utcSeconds - moment.state.trackingSince.value_or(moment.utcSeconds));
+    return 360.0 * virtualsky::skyTurnsPerSecond *
+           virtualsky::trackedSeconds(moment.state, moment.utcSeconds);
 }
 
 double axisAngle(const Moment &moment)

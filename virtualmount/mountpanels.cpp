@@ -2,6 +2,7 @@
 // The virtual mount's window: which knobs turn the axis and the bolts, and what tells how it
 // stands?
 #include "virtualmount/fields.h"
+#include "virtualmount/mounttexts.h"
 #include "virtualmount/mountwindow.h"
 
 #include <QCheckBox>
@@ -12,6 +13,7 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QStatusBar>
+#include <algorithm>
 
 using namespace virtualmount;
 
@@ -113,20 +115,27 @@ QWidget *MountWindow::boltPanel()
         {azimuth, coarseStep, "azimuthEast", QT_TR_NOOP("East ▶"),
          QT_TR_NOOP("Azimuth bolt: east, a quarter of a turn"), Qt::Key_Right, 1, 4},
     };
-    auto *const panel = new QGroupBox(tr("Altitude and azimuth bolts: turns of the knobs"), this);
+    auto *const panel = new QGroupBox(tr("Altitude and azimuth bolts: turns"), this);
     QGridLayout &grid = gridIn(*panel);
     for (const BoltButton &row : buttons)
         grid.addWidget(boltButton(row), row.row, row.column);
-    const auto counter = [&](const char *name, const QString &what, int row) {
+    const auto counter = [&](const char *name, const QString &what, QString (*text)(double),
+                             int row) {
         auto *const label = new QLabel(panel);
         nameWidget(*label, QLatin1String(name), what, what);
         label->setAlignment(Qt::AlignCenter);
-        label->setMinimumWidth(76);
+        label->ensurePolished(); // the style sheet's font
+        int widest = 76;
+        for (const double turns : {-88.88, 88.88}) {
+            label->setText(text(turns * degreesPerTurn));
+            widest = std::max(widest, label->sizeHint().width());
+        }
+        label->setMinimumWidth(widest);
         grid.addWidget(label, row, 2);
         return label;
     };
-    altitudeCount = counter("altitudeCount", tr("Turns of the altitude knob"), 0);
-    azimuthCount = counter("azimuthCount", tr("Turns of the azimuth knob"), 1);
+    altitudeCount = counter("altitudeCount", tr("Turns of the altitude knob"), altitudeTurns, 0);
+    azimuthCount = counter("azimuthCount", tr("Turns of the azimuth knob"), azimuthTurns, 1);
     return panel;
 }
 
@@ -157,12 +166,13 @@ void MountWindow::addStatusLine()
     status = new QLabel(this);
     status->setObjectName(QStringLiteral("status"));
     status->setWordWrap(true);
-    status->setMinimumHeight(32);
+    status->setMinimumHeight(34);
     replaceButton = new QPushButton(tr("Replace &it"), this);
     nameWidget(*replaceButton, QStringLiteral("replace"),
                tr("Write a new sky file over the one with the fault"));
     connect(replaceButton, &QPushButton::clicked, this, &MountWindow::replaceFile);
     statusBar()->setSizeGripEnabled(false);
+    statusBar()->setFixedHeight(44); // two lines; the size hint of text that wraps is a guess
     statusBar()->setContentsMargins(0, 0, 6, 0);
     statusBar()->addWidget(status, 1);
     statusBar()->addPermanentWidget(replaceButton);

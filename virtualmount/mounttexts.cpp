@@ -5,6 +5,7 @@
 #include "virtualmount/mountmodel.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <cmath>
 
 namespace virtualmount
@@ -27,7 +28,7 @@ QString sided(double arcseconds, const char *positive, const char *negative)
 QString turns(double degrees, const char *positive, const char *negative)
 {
     const double turned = degrees / degreesPerTurn;
-    const QString size = QString::number(std::abs(turned), 'f', 2);
+    const QString size = QLocale().toString(std::abs(turned), 'f', 2);
     if (!(std::abs(turned) >= 0.005))
         return QStringLiteral("0");
     return text(turned > 0.0 ? positive : negative).arg(size);
@@ -69,6 +70,7 @@ QString azimuthTurns(double degrees)
 QString angleText(double degrees)
 {
     const double tenths = std::round(10.0 * degrees) / 10.0 + 0.0;
-    return (tenths > 0.0 ? QStringLiteral("+%1°") : QStringLiteral("%1°")).arg(tenths, 0, 'f', 1);
+    return (tenths > 0.0 ? QStringLiteral("+%1°") : QStringLiteral("%1°"))
+        .arg(QLocale().toString(tenths, 'f', 1));
 }
 } // namespace virtualmount

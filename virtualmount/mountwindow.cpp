@@ -44,8 +44,8 @@ MountWindow::MountWindow(const QString &skyFile, QWidget *parent)
     auto *const central = new QWidget(this);
     central->setObjectName(QStringLiteral("centralWidget"));
     auto *const column = new QVBoxLayout(central);
-    column->setContentsMargins(8, 8, 8, 4);
-    column->setSpacing(6);
+    column->setContentsMargins(8, 4, 8, 2);
+    column->setSpacing(5);
     setCentralWidget(central);
     for (QWidget *const panel :
          {axisPanel(), boltPanel(), sitePanel(), weatherPanel(), faultPanel(), truthPanel()})
@@ -249,7 +249,7 @@ void MountWindow::refreshTexts()
     truthLabel->setText(truthShown ? truthText() : tr("What is left of the error is hidden."));
     replaceButton->setVisible(!document.fault().isEmpty());
     status->setText(statusText());
-    status->setToolTip(document.filePath());
+    status->setToolTip(document.filePath() + QLatin1Char('\n') + status->text());
 }
 
 QString MountWindow::truthText() const
@@ -262,10 +262,10 @@ QString MountWindow::truthText() const
 
 QString MountWindow::statusText() const
 {
-    if (!document.fault().isEmpty())
-        return tr("Fault in the sky file: %1. Nothing is written.").arg(document.fault());
     if (!document.writeFault().isEmpty())
         return tr("The sky file can not be written: %1.").arg(document.writeFault());
+    if (!document.fault().isEmpty())
+        return tr("Fault in the sky file: %1. Nothing is written.").arg(document.fault());
     return tr("Arrow keys turn the bolts, with Shift finely.\nCtrl+1 to Ctrl+6 turn the axis, Esc "
               "leaves a field.");
 }

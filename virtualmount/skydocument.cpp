@@ -3,6 +3,7 @@
 #include "virtualmount/skydocument.h"
 
 #include "virtualcamera/skyfile.h"
+#include "virtualmount/faulttexts.h"
 #include "virtualmount/skytext.h"
 
 #include <QCoreApplication>
@@ -12,14 +13,12 @@
 #include <QLockFile>
 #include <QThread>
 #include <cerrno>
-#include <system_error>
 #include <utility>
 
 namespace virtualmount
 {
 namespace
 {
-constexpr qint64 largestFile = 65536; // bytes, as the camera takes it
 constexpr int lockMilliseconds = 500; // a write takes a few
 
 QString translated(const char *source)
@@ -46,8 +45,8 @@ FileText readFile(const QString &path)
         // Taken away or replaced in between: the next look tells.
         return QFileInfo::exists(path) ? FileText{true, {}, file.errorString()} : FileText{};
     }
-    const QByteArray bytes = file.read(largestFile + 1);
-    if (bytes.size() > largestFile)
+    const QByteArray bytes = file.read(qint64(virtualsky::largestSkyFile) + 1);
+    if (bytes.size() > qint64(virtualsky::largestSkyFile))
         return {true, {}, translated(QT_TRANSLATE_NOOP("SkyDocument", "longer than 64 KiB"))};
     return {true, bytes.toStdString(), {}};
 }
@@ -100,7 +99,7 @@ bool SkyDocument::refresh()
         try {
             good = virtualsky::parse(text);
         } catch (const virtualsky::SkyFileError &error) {
-            readFault = QString::fromUtf8(error.what());
+            readFault = faultText(error);
         }
     }
     return !existed || text != textBefore || readFault != faultBefore;
@@ -113,10 +112,10 @@ bool SkyDocument::write(const std::string &newText)
     try {
         const virtualsky::SkyState written = virtualsky::parse(newText);
         if (!virtualsky::writeAtomically(QFile::encodeName(path).toStdString(), newText))
-            throw virtualsky::SkyFileError(0, {}, std::generic_category().message(errno));
+            throw virtualsky::SkyFileError(0, {}, qt_error_string(errno).toStdString());
         good = written;
     } catch (const virtualsky::SkyFileError &error) {
-        lastWriteFault = QString::fromUtf8(error.what());
+        lastWriteFault = faultText(error);
         return false;
     }
     text = newText;
@@ -124,15 +123,21 @@ bool SkyDocument::write(const std::string &newText)
     return true;
 }
 
-bool SkyDocument::change(const Change &apply)
+/// Passes on whether the lock is ours; where it is not, says so in lastWriteFault.
+bool SkyDocument::mayWrite(bool locked)
 {
     lastWriteFault.clear();
-    const Lock lock(path);
-    if (!lock.isOurs()) {
+    if (!locked)
         lastWriteFault =
             translated(QT_TRANSLATE_NOOP("SkyDocument", "another program holds it locked"));
+    return locked;
+}
+
+bool SkyDocument::change(const Change &apply)
+{
+    const Lock lock(path);
+    if (!mayWrite(lock.isOurs()))
         return false;
-    }
     refresh();
     if (!readFault.isEmpty())
         return false;
@@ -143,12 +148,13 @@ bool SkyDocument::change(const Change &apply)
 
 bool SkyDocument::replace()
 {
-    lastWriteFault.clear();
     const Lock lock(path);
+    if (!mayWrite(lock.isOurs()))
+        return false;
     refresh();
     if (readFault.isEmpty())
         return true;
-    if (!lock.isOurs() || !write(virtualsky::format(good)))
+    if (!write(virtualsky::format(good)))
         return false;
     readFault.clear();
     return true;

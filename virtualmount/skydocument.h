@@ -36,6 +36,7 @@ public:
     bool replace();
 
 private:
+    bool mayWrite(bool locked);
     bool write(const std::string &newText);
 
     QString path;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The virtual mount's window: which fields set the site, the time, the weather and the camera's
 // faults?
+#include "virtualcamera/skykeys.h"
 #include "virtualmount/fields.h"
 #include "virtualmount/mountwindow.h"
 
@@ -19,17 +20,18 @@ using namespace virtualmount;
 /// A slider over a number of the state.
 struct MountWindow::Slider {
     double SkyState::*member;
-    double unit; ///< of the number, for one step of the slider
-    int most;    ///< steps
+    double stepsPerUnit; ///< of the number
+    int most;            ///< steps
     const char *name, *label;
     QString shown; ///< with %1 for the steps
+    const char *what;
 };
 
 /// A coordinate of the site with its side: north and east are positive.
 struct MountWindow::Place {
     double SkyState::*member;
     double most; ///< degrees
-    const char *name, *label, *positive, *negative;
+    const char *name, *label, *positive, *negative, *what, *whichSide;
 };
 
 QCheckBox *MountWindow::checkBox(const QString &name, const QString &text,
@@ -47,15 +49,14 @@ QCheckBox *MountWindow::checkBox(const QString &name, const QString &text,
 void MountWindow::addPlace(QGridLayout &grid, const Place &row)
 {
     auto *const box = new QDoubleSpinBox(this);
-    nameWidget(*box, QLatin1String(row.name), tr("%1 in degrees").arg(QLatin1String(row.name)));
+    nameWidget(*box, QLatin1String(row.name), tr(row.what));
     box->setRange(0.0, row.most);
     box->setDecimals(3);
     box->setSuffix(QStringLiteral("°"));
     box->setKeyboardTracking(false);
     box->installEventFilter(this);
     auto *const side = new QComboBox(this);
-    nameWidget(*side, QLatin1String(row.name) + QStringLiteral("Side"),
-               tr("Side of the %1").arg(QLatin1String(row.name)));
+    nameWidget(*side, QLatin1String(row.name) + QStringLiteral("Side"), tr(row.whichSide));
     side->addItems({tr(row.positive), tr(row.negative)});
     side->installEventFilter(this);
     const auto set = [this, box, side, member = row.member] {
@@ -87,9 +88,10 @@ QWidget *MountWindow::timeFields()
     date = new QDateTimeEdit(this);
     nameWidget(*date, QStringLiteral("date"), tr("Date and time, UTC"), tr("Date and time, UTC"));
     date->setTimeSpec(Qt::UTC);
-    date->setDateTimeRange(QDateTime(QDate(1973, 1, 1), QTime(0, 0), Qt::UTC),
-                           QDateTime(QDate(2100, 12, 31), QTime(23, 59, 59), Qt::UTC));
-    date->setMinimumWidth(178); // the style sheet's buttons are not in the size hint
+    date->setDateTimeRange(
+        QDateTime(QDate(virtualsky::firstYear, 1, 1), QTime(0, 0), Qt::UTC),
+        QDateTime(QDate(virtualsky::lastYear, 12, 31), QTime(23, 59, 59), Qt::UTC));
+    date->setMinimumWidth(190); // the style sheet's buttons are not in the size hint
     date->setDisplayFormat(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
     date->setKeyboardTracking(false);
     date->installEventFilter(this);
@@ -103,9 +105,11 @@ QWidget *MountWindow::sitePanel()
     QGridLayout &grid = gridIn(*panel);
     const Place places[] = {
         {&SkyState::latitude, 90.0, "latitude", QT_TR_NOOP("&Latitude"), QT_TR_NOOP("North"),
-         QT_TR_NOOP("South")},
+         QT_TR_NOOP("South"), QT_TR_NOOP("Latitude in degrees"),
+         QT_TR_NOOP("Latitude: north or south")},
         {&SkyState::longitude, 180.0, "longitude", QT_TR_NOOP("L&ongitude"), QT_TR_NOOP("East"),
-         QT_TR_NOOP("West")},
+         QT_TR_NOOP("West"), QT_TR_NOOP("Longitude in degrees"),
+         QT_TR_NOOP("Longitude: east or west")},
     };
     for (const Place &row : places)
         addPlace(grid, row);
@@ -124,23 +128,23 @@ QWidget *MountWindow::sitePanel()
 QSlider *MountWindow::addSlider(QGridLayout &grid, const Slider &row)
 {
     auto *const slider = new QSlider(Qt::Horizontal, this);
-    nameWidget(*slider, QLatin1String(row.name), QLatin1String(row.name));
+    nameWidget(*slider, QLatin1String(row.name), tr(row.what));
     slider->setRange(0, row.most);
     slider->setPageStep(row.most / 10);
     slider->installEventFilter(this);
     connect(slider, &QSlider::valueChanged, this,
-            [this, member = row.member, unit = row.unit](int steps) {
-                edit([=](SkyState &state) { state.*member = double(steps) / unit; });
+            [this, member = row.member, stepsPerUnit = row.stepsPerUnit](int steps) {
+                edit([=](SkyState &state) { state.*member = double(steps) / stepsPerUnit; });
             });
     auto *const label = new QLabel(tr(row.label), this);
     label->setBuddy(slider);
     auto *const value = new QLabel(this);
     value->setMinimumWidth(44);
-    fields.emplace_back(
-        [slider, value, member = row.member, unit = row.unit, text = row.shown](const SkyState &s) {
-            showIn(*slider, s.*member * unit);
-            value->setText(text.arg(std::round(s.*member * unit), 0, 'f', 0));
-        });
+    fields.emplace_back([slider, value, member = row.member, stepsPerUnit = row.stepsPerUnit,
+                         text = row.shown](const SkyState &s) {
+        showIn(*slider, s.*member * stepsPerUnit);
+        value->setText(text.arg(std::round(s.*member * stepsPerUnit), 0, 'f', 0));
+    });
     const int line = grid.rowCount();
     grid.addWidget(label, line, 0);
     grid.addWidget(slider, line, 1);
@@ -152,10 +156,27 @@ QWidget *MountWindow::weatherPanel()
 {
     auto *const panel = new QGroupBox(tr("Weather"), this);
     QGridLayout &grid = gridIn(*panel);
-    const Slider clouds = {&SkyState::clouds,     100.0,     100, "clouds",
-                           QT_TR_NOOP("&Clouds"), tr("%1 %")};
-    const Slider moon = {&SkyState::moon, 100.0, 100, "moon", QT_TR_NOOP("&Moon"), tr("%1 %")};
-    const Slider seeing = {&SkyState::seeing, 1.0, 120, "seeing", QT_TR_NOOP("&Seeing"), tr("%1″")};
+    const Slider clouds = {&SkyState::clouds,
+                           100.0,
+                           100,
+                           "clouds",
+                           QT_TR_NOOP("&Clouds"),
+                           tr("%1 %"),
+                           QT_TR_NOOP("Clouds in percent")};
+    const Slider moon = {&SkyState::moon,
+                         100.0,
+                         100,
+                         "moon",
+                         QT_TR_NOOP("&Moon"),
+                         tr("%1 %"),
+                         QT_TR_NOOP("Glow of the moon in percent")};
+    const Slider seeing = {&SkyState::seeing,
+                           1.0,
+                           120,
+                           "seeing",
+                           QT_TR_NOOP("&Seeing"),
+                           tr("%1″"),
+                           QT_TR_NOOP("Seeing in seconds of arc")};
     cloudSlider = addSlider(grid, clouds);
     passing = new QCheckBox(tr("&Passing"), panel);
     nameWidget(*passing, QStringLiteral("passing"), tr("Clouds come and go"),

@@ -45,6 +45,7 @@ void TestAccuracy::method()
     QFETCH(int, number);
     const AccuracyCase sky = accuracyCases().at(std::size_t(number));
     const Accuracy found = measureAccuracy(sky, trials);
+    QCOMPARE(found.failures, 0);
 
     for (const CentroidError &star : {found.starA, found.starB}) {
         QVERIFY2(star.rms < 0.35, qPrintable(QString::number(star.rms)));

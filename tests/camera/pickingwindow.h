@@ -47,7 +47,8 @@ public:
         sdk().setFrameInterval(50);
         const auto &area = child<QScrollArea>("scrollArea_showImg");
         if (!scroll.isNull()) {
-            window->resize(window->minimumSizeHint().expandedTo(QSize(900, 700)));
+            // Smaller than the picture, so that it scrolls.
+            window->resize(900, zoomFactor > 0.5 ? 700 : 500);
             QTest::qWait(50);
             area.horizontalScrollBar()->setValue(scroll.x());
             area.verticalScrollBar()->setValue(scroll.y());
@@ -55,6 +56,16 @@ public:
                 area.verticalScrollBar()->value() != scroll.y())
                 qFatal("the picture does not scroll");
         }
+        QTest::qWait(30);
+    }
+
+    /// Shows other stars than those at the start.
+    void show(const cv::Mat &other)
+    {
+        frame = other;
+        showFrame(frame);
+        if (!waitForNewFrame())
+            qFatal("no frame is shown");
         QTest::qWait(30);
     }
 

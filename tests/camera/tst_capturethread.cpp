@@ -33,6 +33,8 @@ private slots:
     void pictures();
     void unusableFrames_data();
     void unusableFrames();
+    void unusableFramesAreNotHurriedFor();
+    void eachUnusableFormatIsTold();
     void goodFrameAfterUnusableOne();
     void stalledGui();
     void magnifierOnlyInMonitorMode();
@@ -168,33 +170,79 @@ void TestCaptureThread::unusableFrames_data()
     QTest::addColumn<uint>("width");
     QTest::addColumn<uint>("height");
     QTest::addColumn<uint>("channels");
-    QTest::newRow("no width") << 0U << 960U << 1U;
-    QTest::newRow("no height") << 1280U << 0U << 1U;
-    QTest::newRow("no channels") << 1280U << 960U << 0U;
-    QTest::newRow("two channels") << 640U << 480U << 2U;
-    QTest::newRow("four channels") << 640U << 480U << 4U;
-    QTest::newRow("larger than the buffer") << 1921U << 1920U << 1U;
-    QTest::newRow("larger than the buffer, colour") << 1281U << 960U << 3U;
-    QTest::newRow("sides that overflow") << 65536U << 65536U << 1U;
-    QTest::newRow("largest") << 0xFFFFFFFFU << 0xFFFFFFFFU << 0xFFFFFFFFU;
+    QTest::addColumn<QString>("message");
+    const QString empty = "MatToQImage: Input Mat is null or empty.";
+    const auto channelCount = [](int count) {
+        return QStringLiteral("MatToQImage: image format is not supported : depth=8U and "
+                              "channels=%1")
+            .arg(count);
+    };
+    const auto outside = [](uint width, uint height, uint channels) {
+        return QStringLiteral("frame of %1 x %2 pixels with %3 channels can not be shown")
+            .arg(width)
+            .arg(height)
+            .arg(channels);
+    };
+    constexpr uint most = 0xFFFFFFFFU;
+    QTest::newRow("no width") << 0U << 960U << 1U << empty;
+    QTest::newRow("no height") << 1280U << 0U << 1U << empty;
+    QTest::newRow("nothing") << 0U << 0U << 0U << outside(0, 0, 0);
+    QTest::newRow("no channels") << 1280U << 960U << 0U << outside(1280, 960, 0);
+    QTest::newRow("two channels") << 640U << 480U << 2U << channelCount(2);
+    QTest::newRow("four channels") << 640U << 480U << 4U << channelCount(4);
+    QTest::newRow("five channels") << 640U << 480U << 5U << outside(640, 480, 5);
+    QTest::newRow("larger than the buffer") << 1921U << 1920U << 1U << outside(1921, 1920, 1);
+    QTest::newRow("larger than the buffer, colour") << 1281U << 960U << 3U << outside(1281, 960, 3);
+    QTest::newRow("sides that overflow") << 65536U << 65536U << 1U << outside(65536, 65536, 1);
+    QTest::newRow("largest") << most << most << most << outside(most, most, most);
 }
 
+/// Told once, however many come; what was known of the good frames stays.
 void TestCaptureThread::unusableFrames()
 {
     QFETCH(uint, width);
     QFETCH(uint, height);
     QFETCH(uint, channels);
+    QFETCH(QString, message);
+    const std::uint32_t knownWidth = cameraState.frameWidth;
     sdk().setFrame(width, height, channels, {1, 2, 3});
     thread->startCapture();
-    QVERIFY(waitForFrames(2));
-    const QString message =
-        QStringLiteral("frame of %1 x %2 pixels with %3 channels can not be shown")
-            .arg(width)
-            .arg(height)
-            .arg(channels);
-    QCOMPARE(log->texts(QtCriticalMsg), QStringList({message, message}));
+    QVERIFY(waitForFrames(3));
+    QCOMPARE(log->texts(QtCriticalMsg), QStringList(message));
     QCOMPARE(waitingFrames().size(), 0);
+    QCOMPARE(cameraState.frameWidth.load(), knownWidth);
     QVERIFY(thread->isRunning());
+}
+
+/// It is not asked for the next one at once: one that gives rubbish without a pause would take a
+/// whole processor.
+void TestCaptureThread::unusableFramesAreNotHurriedFor()
+{
+    sdk().setFrame(0, 0, 1, {1});
+    sdk().setFramesLeft(-1);
+    QElapsedTimer timer;
+    timer.start();
+    thread->startCapture();
+    QTest::qWait(200);
+    stopAndWait();
+    QVERIFY2(sdk().fetchCount() <= timer.elapsed() / 10 + 1,
+             QByteArray::number(sdk().fetchCount()));
+}
+
+/// Another format is told of, the same one after it too, and after a new start everything again.
+void TestCaptureThread::eachUnusableFormatIsTold()
+{
+    thread->startCapture();
+    for (const uint channels : {2U, 2U, 4U, 2U}) {
+        sdk().setFrame(640, 480, channels, {1});
+        QVERIFY(waitForFrames(1));
+    }
+    stopAndWait();
+    QCOMPARE(log->texts(QtCriticalMsg).size(), 3);
+    thread->startCapture();
+    QVERIFY(waitForFrames(1));
+    stopAndWait();
+    QCOMPARE(log->texts(QtCriticalMsg).size(), 4);
 }
 
 void TestCaptureThread::goodFrameAfterUnusableOne()

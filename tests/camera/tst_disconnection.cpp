@@ -96,9 +96,9 @@ void TestDisconnection::disconnectWithoutHandle()
     showFrame(starFrame({{640, 480}}));
     w.connectCamera();
     QVERIFY(w.waitForNewFrame());
-    void *const handle = cameraHandle;
-    const LogRecorder log; // the thread ends as soon as there is no handle
     sdk().clearCalls();
+    const LogRecorder log; // from before the handle goes: the loop may end at once without it
+    void *const handle = cameraHandle;
     cameraHandle = nullptr;
     w.trigger("actionConnect");
     QTRY_VERIFY(log.contains(QtDebugMsg, "CaptureThread done"));
@@ -176,19 +176,19 @@ void TestDisconnection::disconnectDuringALongFetch()
     sdk().holdFetches();
     QVERIFY(sdk().waitForHeldFetch(patience));
     const int fetches = sdk().fetchCount();
-    std::atomic<bool> disconnecting{false}, released{false};
+    std::atomic<bool> asked{false}, released{false};
     std::thread releaser([&] {
-        while (!disconnecting)
+        while (!asked)
             std::this_thread::sleep_for(std::chrono::milliseconds(1));
         std::this_thread::sleep_for(std::chrono::seconds(1));
         released = true;
         sdk().releaseFetches();
     });
-    disconnecting = true;
+    asked = true;
     w.trigger("actionConnect");
     const bool waited = released;
     releaser.join();
-    // It waits for the one fetch in flight and no longer: there was no other.
+    // It waits for the one fetch in flight, and for no other.
     QVERIFY(waited);
     QCOMPARE(sdk().fetchCount(), fetches);
     QCOMPARE(shownBy(w), atRest(w));

@@ -24,12 +24,6 @@ QByteArray zoomSetting(const QByteArray &factor)
 {
     return "[ZOOM]\nfactor=" + factor + '\n';
 }
-
-void announce(std::uint32_t width, std::uint32_t height)
-{
-    cameraState.frameWidth = width;
-    cameraState.frameHeight = height;
-}
 } // namespace
 
 class TestFrameDisplay : public QObject
@@ -40,6 +34,7 @@ private slots:
     void init();
     void zoom_data();
     void zoom();
+    void waitingPictureKeepsItsSize();
     void scalingIsSmooth();
     void framesFromTheCamera_data();
     void framesFromTheCamera();
@@ -80,7 +75,6 @@ void TestFrameDisplay::zoom()
     QFETCH(QSize, frame);
     QFETCH(QSize, shown);
     const CameraWindow w(zoomSetting(factor));
-    announce(std::uint32_t(frame.width()), std::uint32_t(frame.height()));
     frameQueue.append(plainPicture(frame.width(), frame.height(), QColor(90, 60, 30)));
     w.call("showImages");
     const QImage picture = w.child<QLabel>("label_showImg").pixmap(Qt::ReturnByValue).toImage();
@@ -88,11 +82,21 @@ void TestFrameDisplay::zoom()
     QCOMPARE(picture.pixelColor(shown.width() / 2, shown.height() / 2), QColor(90, 60, 30));
 }
 
+/// Whatever the camera has said of the frames after it.
+void TestFrameDisplay::waitingPictureKeepsItsSize()
+{
+    const CameraWindow w(zoomSetting("0.5"));
+    frameQueue.append(plainPicture(640, 480, Qt::blue));
+    cameraState.frameWidth = 65536;
+    cameraState.frameHeight = 0;
+    w.call("showImages");
+    QCOMPARE(w.child<QLabel>("label_showImg").pixmap(Qt::ReturnByValue).size(), QSize(320, 240));
+}
+
 /// At half size a pixel is the mean of four: no star of one pixel is lost.
 void TestFrameDisplay::scalingIsSmooth()
 {
     const CameraWindow w(zoomSetting("0.5"));
-    announce(64, 48);
     QImage picture = plainPicture(64, 48, Qt::black);
     for (int y = 0; y < 48; ++y)
         for (int x = y % 2; x < 64; x += 2)
@@ -133,7 +137,6 @@ void TestFrameDisplay::framesFromTheCamera()
 void TestFrameDisplay::oldestFirstAndOneATick()
 {
     const CameraWindow w;
-    announce(64, 48);
     frameQueue.append(plainPicture(64, 48, Qt::red));
     frameQueue.append(plainPicture(64, 48, Qt::blue));
     auto &label = w.child<QLabel>("label_showImg");
@@ -181,7 +184,6 @@ void TestFrameDisplay::stalledGui()
 void TestFrameDisplay::magnifierFollowsThePicture()
 {
     const CameraWindow w;
-    announce(640, 480);
     auto *const magnifier = w.window->findChild<MagnifierWidget *>();
     for (const QColor &colour : {QColor(200, 10, 20), QColor(10, 200, 20)}) {
         frameQueue.append(plainPicture(640, 480, colour));
@@ -274,7 +276,6 @@ void TestFrameDisplay::readOutsWaitForAPicture()
         monitorPositions.starACurrent = QPointF(100 + i, 200);
         monitorPositions.starBCurrent = QPointF(300, 400 + i);
         // The picture itself goes on coming.
-        announce(64, 48);
         frameQueue.append(plainPicture(64, 48, Qt::blue));
         w.call("showImages");
         QCOMPARE(starA.text() + starB.text(), QStringLiteral("(100.0,200.0)(300.0,400.0)"));

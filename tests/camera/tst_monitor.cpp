@@ -105,6 +105,7 @@ private slots:
     void starAtTheEdgeStaysAtItsSearchPosition();
     void refraction_data();
     void refraction();
+    void pole_data();
     void pole();
     void noPoleOnOneColumn();
     void crop_data();
@@ -150,9 +151,9 @@ void TestMonitor::tracking()
     monitorPositions.starASearch = searchA;
     monitorPositions.starBSearch = QPointF(796, 625);
     const LogRecorder log;
-    trackReferenceStars(starFrame({{400.3, 300.6}, starB}, channels));
-    QVERIFY(isNear(monitorPositions.starACurrent, foundA, pixelTolerance));
-    QVERIFY(isNear(monitorPositions.starBCurrent, starB, pixelTolerance));
+    const ReferenceStars stars = trackReferenceStars(starFrame({{400.3, 300.6}, starB}, channels));
+    QVERIFY(isNear(stars.a, foundA, pixelTolerance));
+    QVERIFY(isNear(stars.b, starB, pixelTolerance));
     QCOMPARE(monitorPositions.starASearch.load(), searchA);
     QCOMPARE(monitorPositions.starBSearch.load(), QPointF(796, 625));
 }
@@ -162,12 +163,9 @@ void TestMonitor::searchStartsAgainFromTheStart()
     monitorPositions.starASearch = QPointF(400, 300);
     monitorPositions.starBSearch = QPointF(400, 300);
     const LogRecorder log;
-    trackReferenceStars(starFrame({{412, 300}}));
-    QVERIFY(isNear(monitorPositions.starACurrent, {412, 300}, pixelTolerance));
-    trackReferenceStars(starFrame({{432, 300}}));
-    QCOMPARE(monitorPositions.starACurrent.load(), QPointF(400, 300));
-    trackReferenceStars(starFrame({{390, 300}}));
-    QVERIFY(isNear(monitorPositions.starACurrent, {390, 300}, pixelTolerance));
+    QVERIFY(isNear(trackReferenceStars(starFrame({{412, 300}})).a, {412, 300}, pixelTolerance));
+    QCOMPARE(trackReferenceStars(starFrame({{432, 300}})).a, QPointF(400, 300));
+    QVERIFY(isNear(trackReferenceStars(starFrame({{390, 300}})).a, {390, 300}, pixelTolerance));
 }
 
 void TestMonitor::starAtTheEdgeStaysAtItsSearchPosition()
@@ -175,9 +173,9 @@ void TestMonitor::starAtTheEdgeStaysAtItsSearchPosition()
     monitorPositions.starASearch = QPointF(5, 5);
     monitorPositions.starBSearch = QPointF(1278, 958);
     const LogRecorder log;
-    trackReferenceStars(starFrame({{5, 5}, {1278, 958}}));
-    QCOMPARE(monitorPositions.starACurrent.load(), QPointF(5, 5));
-    QCOMPARE(monitorPositions.starBCurrent.load(), QPointF(1278, 958));
+    const ReferenceStars stars = trackReferenceStars(starFrame({{5, 5}, {1278, 958}}));
+    QCOMPARE(stars.a, QPointF(5, 5));
+    QCOMPARE(stars.b, QPointF(1278, 958));
 }
 
 void TestMonitor::refraction_data()
@@ -204,9 +202,7 @@ void TestMonitor::refraction()
     refractionSettings.P = pressure;
     refractionSettings.T = 10.0F;
     refractionSettings.latitude = 40.0F;
-    monitorPositions.starACurrent = QPointF(400, 300);
-    monitorPositions.starBCurrent = QPointF(800, 620);
-    updatePole();
+    updatePole({QPointF(400, 300), QPointF(800, 620)});
     QVERIFY(isNear(monitorPositions.starACurrent, {400, 300 - raised}, 1e-6));
     QVERIFY(isNear(monitorPositions.starBCurrent, {800, 620 - raised}, 1e-6));
     double x = 0, y = 0;
@@ -214,13 +210,24 @@ void TestMonitor::refraction()
     QVERIFY(isNear(monitorPositions.poleCurrent, {x, y}, 1e-6));
 }
 
-/// The pole of the triangle is the one that makes the two angles and lies on the axis's side.
+void TestMonitor::pole_data()
+{
+    QTest::addColumn<QPointF>("axis");
+    QTest::addColumn<bool>("above"); ///< the line from star A to star B
+    QTest::newRow("axis above the line") << QPointF(700, 400) << true;
+    QTest::newRow("axis below the line") << QPointF(500, 500) << false;
+    QTest::newRow("far above") << QPointF(1279, 0) << true;
+    QTest::newRow("far below") << QPointF(0, 959) << false;
+}
+
+/// Two places make the two angles, one on each side of the line: the pole is the one on the axis's.
 void TestMonitor::pole()
 {
+    QFETCH(QPointF, axis);
+    QFETCH(bool, above);
     const QPointF a(400, 300), b(800, 620);
-    monitorPositions.starACurrent = a;
-    monitorPositions.starBCurrent = b;
-    updatePole();
+    alignmentPoints.savedAxisCenter = axis;
+    updatePole({a, b});
     QVERIFY(monitorPositions.poleValid);
     const QPointF p = monitorPositions.poleCurrent;
     const auto degreesAt = [](QPointF corner, QPointF one, QPointF other) {
@@ -231,22 +238,22 @@ void TestMonitor::pole()
     };
     QVERIFY(std::abs(degreesAt(a, b, p) - 40.0) < 1e-9);
     QVERIFY(std::abs(degreesAt(b, a, p) - 60.0) < 1e-9);
+    // Up is where y is smaller.
+    const double lineAtPole = a.y() + (p.x() - a.x()) * (b.y() - a.y()) / (b.x() - a.x());
+    QCOMPARE(p.y() < lineAtPole, above);
 }
 
 void TestMonitor::noPoleOnOneColumn()
 {
     const LogRecorder log;
-    monitorPositions.starACurrent = QPointF(400, 300);
-    monitorPositions.starBCurrent = QPointF(800, 620);
-    updatePole();
+    const QPointF a(400, 300), b(800, 620);
+    updatePole({a, b});
     QVERIFY(monitorPositions.poleValid);
     const QPointF before = monitorPositions.poleCurrent;
-    monitorPositions.starBCurrent = QPointF(400, 620);
-    updatePole();
+    updatePole({a, QPointF(400, 620)});
     QVERIFY(!monitorPositions.poleValid);
     QCOMPARE(monitorPositions.poleCurrent.load(), before);
-    monitorPositions.starBCurrent = QPointF(800, 620);
-    updatePole();
+    updatePole({a, b});
     QVERIFY(monitorPositions.poleValid);
 }
 

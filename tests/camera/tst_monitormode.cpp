@@ -1,79 +1,20 @@
 // SPDX-License-Identifier: MIT
 // Does the window prepare monitor mode, and do the marks follow the stars from frame to frame?
-#include "camera/sharedstate.h"
-#include "geometry/starcatalogue.h"
-#include "tests/camera/camerawindow.h"
+#include "tests/camera/monitorwindow.h"
 #include "tests/support/logrecorder.h"
 
-#include <QLabel>
+#include <QDial>
+#include <QDialog>
 #include <QPushButton>
-#include <QSlider>
-#include <QtTest>
-#include <cmath>
 
 namespace
 {
-constexpr double pixelTolerance = 0.05;
-const QPointF axis(640, 480);
-
-QPointF templateB()
-{
-    return {northCatalogue.starBX, northCatalogue.starBY};
-}
-
-/// Star B's offset to star A on the template, turned clockwise on the screen.
-QPointF offsetToA(double degrees)
-{
-    const QPointF d = QPointF(northCatalogue.starAX, northCatalogue.starAY) - templateB();
-    const double angle = degrees * 3.141592653589793 / 180;
-    return {d.x() * std::cos(angle) - d.y() * std::sin(angle),
-            d.x() * std::sin(angle) + d.y() * std::cos(angle)};
-}
-
-QPointF turnedAboutAxis(QPointF point, double degrees)
-{
-    const double angle = degrees * 3.141592653589793 / 180;
-    const QPointF d = point - axis;
-    return axis + QPointF(d.x() * std::cos(angle) - d.y() * std::sin(angle),
-                          d.x() * std::sin(angle) + d.y() * std::cos(angle));
-}
-
-bool isNear(QPointF a, QPointF b, double tolerance = pixelTolerance)
-{
-    return std::abs(a.x() - b.x()) <= tolerance && std::abs(a.y() - b.y()) <= tolerance;
-}
-
 QString logText(const char *words, QPointF p)
 {
     QString text;
     QDebug(&text).nospace() << words << ' ' << p.x() << ' ' << p.y();
     return text;
 }
-
-/// A connected window in step 11 with the template turned and star B picked at `starB`.
-class MonitorWindow : public CameraWindow
-{
-public:
-    MonitorWindow(int degrees, QPointF starB, const std::vector<QPointF> &stars)
-    {
-        showFrame(starFrame(stars));
-        connectCamera();
-        if (!waitForNewFrame())
-            qFatal("no frame is shown");
-        enterStep(11);
-        alignmentPoints.savedAxisCenter = axis;
-        child<QSlider>("horizontalSlider_rough_match").setValue(degrees);
-        QTest::mouseDClick(&child<QLabel>("label_showImg"), Qt::LeftButton, Qt::NoModifier,
-                           starB.toPoint());
-    }
-
-    void show(const std::vector<QPointF> &stars) const
-    {
-        showFrame(starFrame(stars));
-        if (!waitForNewFrame())
-            qFatal("no frame is shown");
-    }
-};
 } // namespace
 
 class TestMonitorMode : public QObject
@@ -87,7 +28,11 @@ private slots:
     void startWithoutStars();
     void poleTracking_data();
     void poleTracking();
+    void turnsDoNotAddUp_data();
     void turnsDoNotAddUp();
+    void dialTurnsTheSearch_data();
+    void dialTurnsTheSearch();
+    void dialKeepsItsValueWhileHidden();
     void starsLostAndFoundAgain();
     void endsWithTheWizardsStart();
 };
@@ -100,21 +45,25 @@ void TestMonitorMode::initTestCase()
 
 void TestMonitorMode::startPositions_data()
 {
+    QTest::addColumn<QString>("region");
     QTest::addColumn<int>("degrees");
     QTest::addColumn<QPointF>("starB");
-    QTest::newRow("template's own place") << 0 << QPointF(400, 400);
-    QTest::newRow("turned") << 90 << QPointF(640.4, 420.3);
-    QTest::newRow("turned askew") << 217 << QPointF(600.8, 520.1);
-    QTest::newRow("whole turn") << 360 << QPointF(400, 400);
+    QTest::newRow("template's own place") << "North" << 0 << QPointF(400, 400);
+    QTest::newRow("turned") << "North" << 90 << QPointF(640.4, 420.3);
+    QTest::newRow("turned askew") << "North" << 217 << QPointF(600.8, 520.1);
+    QTest::newRow("whole turn") << "North" << 360 << QPointF(400, 400);
+    QTest::newRow("south") << "South" << 0 << QPointF(640.4, 420.3);
+    QTest::newRow("south, turned askew") << "South" << 217 << QPointF(600.8, 520.1);
 }
 
 void TestMonitorMode::startPositions()
 {
+    QFETCH(QString, region);
     QFETCH(int, degrees);
     QFETCH(QPointF, starB);
-    const QPointF predicted = starB + offsetToA(degrees);
+    const QPointF predicted = starB + offsetToA(degrees, region);
     const QPointF starA = predicted + QPointF(3, -4); // the template never fits quite
-    const MonitorWindow w(degrees, starB, {starB, starA});
+    const MonitorWindow w(degrees, starB, {starB, starA}, region);
     const LogRecorder log;
     w.call("pushbuttonGetCurPolarisDoneClicked");
     QCOMPARE(w.window->step(), 12);
@@ -129,7 +78,7 @@ void TestMonitorMode::startPositions()
 /// angle 0 with star B on its template pixel is the template's star A itself.
 void TestMonitorMode::startWithoutStars()
 {
-    const QPointF starB = templateB();
+    const QPointF starB = templateB("North");
     const MonitorWindow w(0, starB, {starB});
     w.show({});
     w.call("pushbuttonGetCurPolarisDoneClicked");
@@ -162,17 +111,86 @@ void TestMonitorMode::poleTracking()
              QStringList({logText("StarA area", a), logText("StarB area", b)}));
 }
 
+void TestMonitorMode::turnsDoNotAddUp_data()
+{
+    QTest::addColumn<QString>("region");
+    QTest::newRow("north") << "North";
+    QTest::newRow("south") << "South";
+}
+
 void TestMonitorMode::turnsDoNotAddUp()
+{
+    QFETCH(QString, region);
+    const QPointF starB(500.5, 420.5), starA = starB + offsetToA(0, region);
+    const MonitorWindow w(0, starB, {starB, starA}, region);
+    w.call("pushbuttonGetCurPolarisDoneClicked");
+    const QPointF foundA = monitorPositions.starASearch, foundB = monitorPositions.starBSearch;
+    QVERIFY(isNear(foundA, starA) && isNear(foundB, starB));
+    for (const double degrees : {30.0, 30.0, 10.0}) {
+        QVERIFY(QMetaObject::invokeMethod(w.window.get(), "poleTracking", Qt::DirectConnection,
+                                          Q_ARG(double, degrees)));
+        QVERIFY(isNear(monitorPositions.starASearch, turnedAboutAxis(foundA, degrees), 1e-9));
+        QVERIFY(isNear(monitorPositions.starBSearch, turnedAboutAxis(foundB, degrees), 1e-9));
+    }
+}
+
+void TestMonitorMode::dialTurnsTheSearch_data()
+{
+    turnsDoNotAddUp_data();
+}
+
+/// From the dialog's knobs to where the capture thread looks.
+void TestMonitorMode::dialTurnsTheSearch()
+{
+    QFETCH(QString, region);
+    const QPointF starB(500.5, 420.5), starA = starB + offsetToA(0, region);
+    const MonitorWindow w(0, starB, {starB, starA}, region);
+    w.call("pushbuttonGetCurPolarisDoneClicked");
+    const QPointF foundA = monitorPositions.starASearch, foundB = monitorPositions.starBSearch;
+    const auto isTurnedBy = [&](double degrees) {
+        return isNear(monitorPositions.starASearch, turnedAboutAxis(foundA, degrees), 1e-9) &&
+               isNear(monitorPositions.starBSearch, turnedAboutAxis(foundB, degrees), 1e-9);
+    };
+    w.trigger("actionManual_Trace");
+    auto &dial = w.child<QDial>("dial_tracking");
+    const auto press = [&w](const char *button) {
+        QTest::mouseClick(&w.child<QPushButton>(button), Qt::LeftButton);
+    };
+    dial.setValue(30);
+    QVERIFY(isTurnedBy(30));
+    QTest::keyClick(&dial, Qt::Key_Up);
+    QVERIFY(isTurnedBy(31));
+    press("pushButton_tracking_add");
+    QVERIFY(isTurnedBy(32));
+    dial.setValue(350);
+    QVERIFY(isTurnedBy(350));
+    press("pushButton_tracking_minus");
+    QVERIFY(isTurnedBy(349));
+    press("pushButton_reset");
+    QVERIFY(isTurnedBy(0));
+}
+
+void TestMonitorMode::dialKeepsItsValueWhileHidden()
 {
     const QPointF starB(500.5, 420.5), starA = starB + offsetToA(0);
     const MonitorWindow w(0, starB, {starB, starA});
     w.call("pushbuttonGetCurPolarisDoneClicked");
     const QPointF foundB = monitorPositions.starBSearch;
-    for (const double degrees : {30.0, 30.0, 10.0}) {
-        QVERIFY(QMetaObject::invokeMethod(w.window.get(), "poleTracking", Qt::DirectConnection,
-                                          Q_ARG(double, degrees)));
-        QVERIFY(isNear(monitorPositions.starBSearch, turnedAboutAxis(foundB, degrees), 1e-9));
-    }
+    auto &dial = w.child<QDial>("dial_tracking");
+    QWidget &dialog = *dial.window();
+    QCOMPARE(dialog.metaObject()->className(), "PoleTrackingDialog");
+    w.trigger("actionManual_Trace");
+    QVERIFY(dialog.isVisible());
+    dial.setValue(77);
+    const LogRecorder log;
+    dialog.close();
+    QVERIFY(!dialog.isVisible());
+    QCOMPARE(dial.value(), 77);
+    w.trigger("actionManual_Trace");
+    QVERIFY(dialog.isVisible());
+    QCOMPARE(dial.value(), 77);
+    QCOMPARE(log.texts(QtDebugMsg).filter("area"), QStringList()); // nothing is turned anew
+    QVERIFY(isNear(monitorPositions.starBSearch, turnedAboutAxis(foundB, 77), 1e-9));
 }
 
 void TestMonitorMode::starsLostAndFoundAgain()

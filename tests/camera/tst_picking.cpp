@@ -2,9 +2,12 @@
 // What does a double click on the picture do in each step?
 #include "camera/sharedstate.h"
 #include "geometry/axiscentre.h"
+#include "geometry/starcatalogue.h"
+#include "geometry/templateoverlay.h"
 #include "mainwindow/pointtext.h"
 #include "tests/camera/pickingwindow.h"
 #include "tests/support/logrecorder.h"
+#include "tests/support/mainwindowprobe.h"
 
 #include <QGraphicsEffect>
 #include <QSlider>
@@ -21,11 +24,17 @@ private slots:
     void templateOnThePoleStar();
     void poleStar_data();
     void poleStar();
+    void pickGivesTheTarget_data();
+    void pickGivesTheTarget();
     void threeStars_data();
     void threeStars();
     void threeOnALine();
+    void twoOnARow_data();
+    void twoOnARow();
     void emptyPatch_data();
     void emptyPatch();
+    void emptyPatchChangesNothing_data() { emptyPatch_data(); }
+    void emptyPatchChangesNothing();
     void nearTheEdge();
     void clicksOverAPageAreNoPicks();
     void scrolledClickFindsItsStar();
@@ -144,6 +153,34 @@ void TestPicking::poleStar()
     QCOMPARE(boxes.boxes(), QList<Box>());
 }
 
+void TestPicking::pickGivesTheTarget_data()
+{
+    QTest::addColumn<int>("step");
+    QTest::addColumn<int>("angle");
+    for (const int step : {9, 11})
+        for (const int angle : {0, 45})
+            QTest::addRow("step %d, %d degrees", step, angle) << step << angle;
+}
+
+/// Each pick by itself: no slider is moved after the axis is there.
+void TestPicking::pickGivesTheTarget()
+{
+    QFETCH(int, step);
+    QFETCH(int, angle);
+    const PickingWindow w;
+    w.enterStep(step);
+    w.child<QSlider>("horizontalSlider_rough_match").setValue(angle);
+    alignmentPoints.savedAxisCenter = QPointF(612.5, 497.25);
+    for (const QPointF &star : {onCircle[1], onLine[2]}) {
+        w.doubleClick(w.view(star));
+        const QPointF found = w.starAt(w.view(star));
+        const QPointF pole = expectedPole(northCatalogue, angle, found);
+        const QPointF target = polarisTarget(found, pole, {612.5, 497.25});
+        QCOMPARE(w.child<QLabel>("label_eptPos").text(), pointText(target));
+        QCOMPARE(alignmentPoints.polarisTarget.load(), target);
+    }
+}
+
 void TestPicking::threeStars_data()
 {
     QTest::addColumn<double>("zoom");
@@ -183,22 +220,57 @@ void TestPicking::threeStars()
                          "axis center " + pairText({x, y}) + ' ' + QString::number(radius)));
 }
 
+/// After a fit that failed the last one holds; the pick is the third star's all the same.
 void TestPicking::threeOnALine()
 {
     const PickingWindow w;
+    w.pickThree(onCircle);
+    QCOMPARE(w.window->step(), 8);
     const QPointF before = alignmentPoints.savedAxisCenter;
+    const int radius = alignmentPoints.savedAxisRadius;
+    const MainWindowProbe probe(*w.window);
     const BoxWatcher boxes;
     const LogRecorder log;
     w.pickThree(onLine);
     QCOMPARE(boxes.boxes(), QList<Box>{noCentreBox});
     QCOMPARE(w.window->step(), 7);
     QCOMPARE(alignmentPoints.savedAxisCenter.load(), before);
+    QCOMPARE(alignmentPoints.savedAxisRadius.load(), radius);
+    QCOMPARE(probe.axisCenter(), before);
+    QCOMPARE(probe.axisRadius(), radius);
+    QCOMPARE(probe.starPos3(), w.starAt(w.view(onLine[2])));
     QVERIFY(log.texts(QtDebugMsg).filter("axis center").isEmpty());
     // Another third position, without a reset.
     w.doubleClick(w.view(onCircle[1]));
     QCOMPARE(boxes.boxes().size(), 1);
     QCOMPARE(w.window->step(), 8);
     QVERIFY(alignmentPoints.savedAxisCenter.load() != before);
+    QCOMPARE(probe.axisCenter(), alignmentPoints.savedAxisCenter.load());
+    QCOMPARE(probe.starPos3(), w.starAt(w.view(onCircle[1])));
+}
+
+void TestPicking::twoOnARow_data()
+{
+    QTest::addColumn<QList<int>>("rows"); ///< of the three picks in turn
+    QTest::newRow("first and second") << QList<int>{350, 350, 450};
+    QTest::newRow("second and third") << QList<int>{350, 450, 450};
+}
+
+/// No circle is tried through them, which the log does not tell but the window does.
+void TestPicking::twoOnARow()
+{
+    QFETCH(QList<int>, rows);
+    const QPointF stars[] = {
+        {400, double(rows[0])}, {500, double(rows[1])}, {640, double(rows[2])}};
+    PickingWindow w;
+    w.show(starFrame({stars[0], stars[1], stars[2]}));
+    const BoxWatcher boxes;
+    const LogRecorder log;
+    w.pickThree(stars);
+    QCOMPARE(boxes.boxes(), QList<Box>{noCentreBox});
+    QCOMPARE(w.window->step(), 7);
+    QCOMPARE(log.texts(QtCriticalMsg), QStringList());
+    QVERIFY(log.texts(QtDebugMsg).filter("cent").isEmpty());
 }
 
 void TestPicking::emptyPatch_data()
@@ -219,6 +291,37 @@ void TestPicking::emptyPatch()
     QCOMPARE(w.window->step(), step);
     QVERIFY(!w.child<QLabel>("label_templateImg").isVisible());
     QCOMPARE(w.position.text(), QStringLiteral("860.0,420.0"));
+}
+
+void TestPicking::emptyPatchChangesNothing()
+{
+    QFETCH(int, step);
+    const PickingWindow w(0.5);
+    const MainWindowProbe probe(*w.window);
+    const auto text = [&w](const char *label) { return w.child<QLabel>(label).text(); };
+    w.enterStep(9);
+    w.doubleClick(w.view(onCircle[1])); // so that there is something to lose
+    w.enterStep(3);                     // ends the blinking
+    w.enterStep(step);
+    alignmentPoints.savedAxisCenter = QPointF(601.5, 523.5); // a pick would give another target
+    const QPoint view = probe.clickViewPos();
+    const QPointF centre = probe.templateCenter();
+    const QStringList texts{text("label_curPos"), text("label_eptPos"), text("label_axisPos")};
+    const QPointF target = alignmentPoints.polarisTarget, axis = alignmentPoints.savedAxisCenter;
+    const QRect place = w.child<QLabel>("label_templateImg").geometry();
+    QVERIFY(!probe.effectTimer().isActive());
+    QVERIFY(texts[0] != "(0,0)");
+    const BoxWatcher boxes;
+    w.doubleClick(w.view(empty));
+    QCOMPARE(boxes.boxes(), QList<Box>{noStarBox});
+    QVERIFY(!probe.effectTimer().isActive());
+    QCOMPARE(probe.clickViewPos(), view);
+    QCOMPARE(probe.templateCenter(), centre);
+    QCOMPARE(QStringList({text("label_curPos"), text("label_eptPos"), text("label_axisPos")}),
+             texts);
+    QCOMPARE(alignmentPoints.polarisTarget.load(), target);
+    QCOMPARE(alignmentPoints.savedAxisCenter.load(), axis);
+    QCOMPARE(w.child<QLabel>("label_templateImg").geometry(), place);
 }
 
 void TestPicking::nearTheEdge()

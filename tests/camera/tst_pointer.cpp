@@ -6,6 +6,8 @@
 
 #include <QTabWidget>
 
+Q_DECLARE_METATYPE(QEvent::Type)
+
 class TestPointer : public QObject
 {
     Q_OBJECT
@@ -20,6 +22,8 @@ private slots:
     void overThePages();
     void notConnected();
     void noPictureYet();
+    void consumed_data();
+    void consumed();
 };
 
 void TestPointer::readOut_data()
@@ -116,6 +120,7 @@ void TestPointer::overThePages()
     const QString text = QString::number(double(float(view.x()) / factor), 'f', 1) + ',' +
                          QString::number(double(float(view.y()) / factor), 'f', 1);
     QCOMPARE(w.position.text(), text);
+    QCOMPARE(w.window->findChild<MagnifierWidget *>()->magnifiedCentre(), view);
 }
 
 void TestPointer::notConnected()
@@ -149,6 +154,61 @@ void TestPointer::noPictureYet()
     QCOMPARE(w.child<QLabel>("positionLabel").text(), QStringLiteral("21.0,22.0"));
     QCOMPARE(boxes.boxes(), QList<Box>{noStarBox});
     QCOMPARE(w.window->step(), 3);
+}
+
+void TestPointer::consumed_data()
+{
+    QTest::addColumn<bool>("connected");
+    QTest::addColumn<bool>("onPage"); ///< or else on the picture
+    QTest::addColumn<QEvent::Type>("type");
+    QTest::addColumn<bool>("expected");
+    const struct {
+        const char *name;
+        QEvent::Type type;
+        bool byPicture, byPage; ///< while connected
+    } events[] = {
+        {"move", QEvent::MouseMove, true, true},
+        {"double click", QEvent::MouseButtonDblClick, true, false},
+        {"press", QEvent::MouseButtonPress, false, false},
+        {"release", QEvent::MouseButtonRelease, false, false},
+    };
+    for (const auto &e : events) {
+        QTest::addRow("picture, %s", e.name) << true << false << e.type << e.byPicture;
+        QTest::addRow("page, %s", e.name) << true << true << e.type << e.byPage;
+        QTest::addRow("not connected, picture, %s", e.name) << false << false << e.type << false;
+        QTest::addRow("not connected, page, %s", e.name) << false << true << e.type << false;
+    }
+    // Other kinds of events go on to the widget too.
+    for (const QEvent::Type type : {QEvent::Enter, QEvent::Leave, QEvent::Show, QEvent::Resize,
+                                    QEvent::FocusIn, QEvent::HoverMove, QEvent::LanguageChange}) {
+        QTest::addRow("picture, event %d", type) << true << false << type << false;
+        QTest::addRow("page, event %d", type) << true << true << type << false;
+    }
+}
+
+/// What is consumed does not reach the widget; what is not leaves the read-out alone.
+void TestPointer::consumed()
+{
+    QFETCH(bool, connected);
+    QFETCH(bool, onPage);
+    QFETCH(QEvent::Type, type);
+    QFETCH(bool, expected);
+    const CameraWindow w;
+    auto &image = w.child<QLabel>("label_showImg");
+    if (connected) {
+        showFrame(starFrame({{300, 400}}));
+        w.connectCamera();
+        QVERIFY(w.waitForNewFrame());
+    }
+    QWidget &page = *w.child<QTabWidget>("tabWidget_tipMsg").currentWidget();
+    QWidget &watched = onPage ? page : static_cast<QWidget &>(image);
+    const BoxWatcher boxes;
+    // A mouse event for all types: none but the mouse's own may be taken for one.
+    QMouseEvent event(type, QPointF(300, 400), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QCOMPARE(w.window->eventFilter(&watched, &event), expected);
+    QCOMPARE(w.child<QLabel>("positionLabel").text().isEmpty(), !expected);
+    QCOMPARE(boxes.boxes(), QList<Box>());
+    QCOMPARE(w.window->step(), 1);
 }
 
 QTEST_MAIN(TestPointer)

@@ -87,6 +87,7 @@ private slots:
     void formats();
     void nothingSaved_data();
     void nothingSaved();
+    void beforeTheFirstPicture();
     void notConnected();
     void loggedOnly_data();
     void loggedOnly();
@@ -160,6 +161,23 @@ void TestSaveAs::nothingSaved()
     QCOMPARE(log.texts(QtCriticalMsg), QStringList());
     QCOMPARE(chooser.boxes(), QList<Box>());
     QVERIFY(path.isEmpty() || !QFile::exists(path));
+    QCOMPARE(QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
+}
+
+/// The name is asked for, but there is nothing to save, and nobody is told.
+void TestSaveAs::beforeTheFirstPicture()
+{
+    const QTemporaryDir folder;
+    const CameraWindow w;
+    w.connectCamera(); // the camera has no frames yet
+    QVERIFY(w.child<QAction>("actionSave_As").isEnabled());
+    const NameChooser chooser(folder.filePath("sky.png"));
+    const LogRecorder log;
+    w.trigger("actionSave_As");
+    QCOMPARE(chooser.dialogs, 1);
+    QVERIFY(log.contains(QtDebugMsg, "click save as..."));
+    QCOMPARE(log.texts(QtCriticalMsg), QStringList());
+    QCOMPARE(chooser.boxes(), QList<Box>());
     QCOMPARE(QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
 }
 

@@ -1,74 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Do the rotate sliders, the zoom and the hemisphere keep the template where it belongs?
-#include "camera/sharedstate.h"
-#include "geometry/starcatalogue.h"
-#include "geometry/templateoverlay.h"
-#include "mainwindow/pointtext.h"
-#include "tests/camera/camerawindow.h"
+#include "tests/camera/templatewindow.h"
 #include "tests/support/logrecorder.h"
+#include "tests/support/mainwindowprobe.h"
 
 #include <QAction>
-#include <QLabel>
-#include <QPushButton>
 #include <QRadioButton>
-#include <QSlider>
-#include <QtTest>
-
-namespace
-{
-const QPoint star(640, 400);
-
-/// A connected window with one star in the picture.
-class TemplateWindow : public CameraWindow
-{
-public:
-    TemplateWindow()
-        : confirm(child<QSlider>("horizontalSlider_confirm_match")),
-          rough(child<QSlider>("horizontalSlider_rough_match")),
-          label(child<QLabel>("label_templateImg")),
-          target(child<QLabel>("label_eptPos"))
-    {
-        showFrame(starFrame({star}));
-        connectCamera();
-        if (!waitForNewFrame())
-            qFatal("no frame is shown");
-    }
-
-    void pick(int step, double zoom = 1.0) const
-    {
-        enterStep(step);
-        QTest::qWait(20);
-        QTest::mouseDClick(&child<QLabel>("label_showImg"), Qt::LeftButton, Qt::NoModifier,
-                           (QPointF(star) * zoom).toPoint());
-        if (!label.isVisible())
-            qFatal("the template is not shown");
-    }
-
-    void click(const char *button) const
-    {
-        auto &widget = child<QPushButton>(button);
-        if (!widget.isVisible())
-            qFatal("%s is not in view", button);
-        QTest::mouseClick(&widget, Qt::LeftButton);
-    }
-
-    QSlider &confirm;
-    QSlider &rough;
-    QLabel &label;
-    QLabel &target;
-};
-
-QPoint middle(const QRect &r)
-{
-    return r.topLeft() + QPoint((r.width() - 1) / 2, (r.height() - 1) / 2);
-}
-
-QString targetText(int angle, QPointF polaris)
-{
-    const QPointF pole = expectedPole(northCatalogue, angle, polaris);
-    return pointText(polarisTarget(polaris, pole, alignmentPoints.savedAxisCenter));
-}
-} // namespace
 
 class TestTemplateControls : public QObject
 {
@@ -157,6 +94,15 @@ void TestTemplateControls::buttons()
     slider.setValue(from);
     w.click(qPrintable(button));
     QCOMPARE(slider.value(), to);
+    const MainWindowProbe probe(*w.window);
+    QCOMPARE(probe.rotateValue(), to);
+    // The shared angle has stopped where the slider has: one press leads away from there.
+    const bool adds = button.endsWith("add");
+    w.click(step == 2 ? adds ? "pushButton_confirm_minus" : "pushButton_confirm_add"
+            : adds    ? "pushButton_rough_minus"
+                      : "pushButton_rough_add");
+    QCOMPARE(slider.value(), adds ? to - 1 : to + 1);
+    QCOMPARE(probe.rotateValue(), slider.value());
 }
 
 void TestTemplateControls::slidersShareTheAngle()

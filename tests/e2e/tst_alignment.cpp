@@ -8,7 +8,6 @@
 
 #include <QApplication>
 #include <QDateTime>
-#include <QDir>
 #include <QFile>
 #include <QTest>
 #include <algorithm>
@@ -67,7 +66,8 @@ private:
 
 void TestAlignment::initTestCase()
 {
-    qputenv("QUORVANDEL_SKY", QDir::temp().filePath("quorvandel-tst-alignment.ini").toUtf8());
+    // Beside the executable, as the settings file: runs of other builds have their own.
+    qputenv("QUORVANDEL_SKY", (QCoreApplication::applicationDirPath() + "/sky.ini").toUtf8());
     initialiseResources();
     applyStyleSheet(*qApp, ":/qss/default.qss");
 }

@@ -3,65 +3,22 @@
 #include "dialogs/languages.h"
 #include "dialogs/toolkittexts.h"
 #include "resources/resources.h"
+#include "tests/support/catalogues.h"
 
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QMap>
 #include <QRegularExpression>
 #include <QSet>
 #include <QTest>
 #include <QTranslator>
-#include <QXmlStreamReader>
 #include <algorithm>
 
 namespace
 {
-struct Message {
-    QString context, source, translation, state;
-};
-
 QString sourceFile(const Language &language)
 {
     const QString name = QFileInfo(language.catalogue).completeBaseName();
     return QStringLiteral(PROJECT_SOURCE_DIR "/resources/languages/%1.ts").arg(name);
-}
-
-QList<Message> messagesOf(const QString &path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    QXmlStreamReader xml(&file);
-    QList<Message> messages;
-    QString context;
-    while (!xml.atEnd()) {
-        xml.readNext();
-        if (!xml.isStartElement())
-            continue;
-        if (xml.name() == QLatin1String("name")) {
-            context = xml.readElementText();
-        } else if (xml.name() == QLatin1String("message")) {
-            messages.append({context, {}, {}, {}});
-        } else if (xml.name() == QLatin1String("source")) {
-            messages.last().source = xml.readElementText();
-        } else if (xml.name() == QLatin1String("translation")) {
-            messages.last().state = xml.attributes().value("type").toString();
-            messages.last().translation = xml.readElementText();
-        }
-    }
-    return messages;
-}
-
-QStringList placeholdersIn(const QString &text)
-{
-    static const QRegularExpression placeholder("%[0-9n]");
-    QStringList found;
-    auto match = placeholder.globalMatch(text);
-    while (match.hasNext())
-        found.append(match.next().captured());
-    found.sort();
-    return found;
 }
 
 /// Texts that are the same in every language: names, numbers, signs, formulas.

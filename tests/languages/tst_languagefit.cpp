@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-// Has every text of every language the room that it needs, in the window, its pages and its
-// dialogs?
+// Has every text of every language the room that it needs, in the window, its pages, its menus and
+// its dialogs, and does nothing lie over its neighbour?
 #include "app/stylesheet.h"
 #include "dialogs/languages.h"
+#include "dialogs/magnifierwidget.h"
 #include "resources/resources.h"
 #include "tests/support/mainwindowprobe.h"
 
@@ -11,17 +12,33 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QDir>
+#include <QDoubleSpinBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
 #include <QMenuBar>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QStyle>
+#include <QStyleOption>
 #include <QTest>
 
 namespace
 {
-/// What is missing of the room that a widget's text needs; empty if nothing is.
-QString lackOf(const QWidget &widget)
+QString lack(const QWidget &widget, QSize needed, QSize has)
+{
+    if (needed.width() <= has.width() && needed.height() <= has.height())
+        return {};
+    return QStringLiteral("%1 needs %2 x %3 and has %4 x %5")
+        .arg(widget.objectName())
+        .arg(needed.width())
+        .arg(needed.height())
+        .arg(has.width())
+        .arg(has.height());
+}
+
+QString lackOfPlainText(const QWidget &widget)
 {
     const auto *const label = qobject_cast<const QLabel *>(&widget);
     const bool isText = (label && !label->text().isEmpty() && !label->text().startsWith('<')) ||
@@ -35,14 +52,74 @@ QString lackOf(const QWidget &widget)
     const int neededWidth = wraps ? 0 : widget.sizeHint().width();
     const int neededHeight = wraps ? widget.heightForWidth(widget.width())
                                    : std::min(widget.sizeHint().height(), metrics.ascent() + 2);
-    if (neededWidth <= widget.width() && neededHeight <= widget.height())
+    return lack(widget, {neededWidth, neededHeight}, widget.size());
+}
+
+/// Where the title of a box lies in it.
+QRect titlePlace(const QGroupBox &box)
+{
+    QStyleOptionGroupBox option;
+    option.initFrom(&box);
+    option.text = box.title();
+    option.lineWidth = 1;
+    option.textAlignment = Qt::Alignment(box.alignment());
+    option.subControls = QStyle::SC_GroupBoxFrame | QStyle::SC_GroupBoxLabel;
+    return box.style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel,
+                                       &box);
+}
+
+/// The title must lie in its box, and none of the box's contents over the title.
+QString lackOfTitle(const QGroupBox &box)
+{
+    if (box.title().isEmpty())
         return {};
-    return QStringLiteral("%1 needs %2 x %3 and has %4 x %5")
-        .arg(widget.objectName())
-        .arg(neededWidth)
-        .arg(neededHeight)
-        .arg(widget.width())
-        .arg(widget.height());
+    const QFontMetrics metrics(box.font());
+    const QRect place = titlePlace(box);
+    const QSize needed(metrics.horizontalAdvance(box.title()), metrics.ascent());
+    if (const QString less = lack(box, needed, (place & box.rect()).size()); !less.isEmpty())
+        return "title of " + less;
+    const QRect ink(place.topLeft(), needed);
+    for (const auto *const child :
+         box.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly))
+        if (child->isVisible() && child->geometry().intersects(ink))
+            return child->objectName() + " lies over the title of " + box.objectName();
+    return {};
+}
+
+/// \param text the longest that the field may have to show
+QString lackOfField(const QWidget &field, const QLineEdit &edit, const QString &text)
+{
+    QStyleOptionFrame option;
+    option.initFrom(&edit);
+    option.lineWidth =
+        edit.hasFrame() ? edit.style()->pixelMetric(QStyle::PM_DefaultFrameWidth) : 0;
+    // What the text is cut at.
+    const QRect inside = edit.style()->subElementRect(QStyle::SE_LineEditContents, &option, &edit);
+    const QFontMetrics metrics(edit.font());
+    return lack(field, {metrics.horizontalAdvance(text), metrics.ascent()}, inside.size());
+}
+
+QString lackOfNumber(const QDoubleSpinBox &box)
+{
+    const auto *const edit = box.findChild<QLineEdit *>();
+    for (const double number : {box.minimum(), box.maximum()})
+        if (const QString found = lackOfField(box, *edit, box.textFromValue(number));
+            !found.isEmpty())
+            return found;
+    return {};
+}
+
+/// What is missing of the room that a widget's text needs; empty if nothing is.
+QString lackOf(const QWidget &widget)
+{
+    if (const auto *const box = qobject_cast<const QGroupBox *>(&widget))
+        return lackOfTitle(*box);
+    if (const auto *const box = qobject_cast<const QDoubleSpinBox *>(&widget))
+        return lackOfNumber(*box);
+    const auto *const edit = qobject_cast<const QLineEdit *>(&widget);
+    if (edit && !qobject_cast<const QAbstractSpinBox *>(edit->parentWidget()))
+        return lackOfField(*edit, *edit, "500"); // the largest number of a slider
+    return lackOfPlainText(widget);
 }
 
 /// Layouts within layouts settle one after the other.
@@ -52,13 +129,90 @@ void settle()
         QCoreApplication::processEvents();
 }
 
+/// What can be seen of a widget, in its window.
+QRect placeOf(const QWidget &widget)
+{
+    const QWidget *const window = widget.window();
+    QRect place(widget.mapTo(window, QPoint()), widget.size());
+    for (const QWidget *p = widget.parentWidget(); p && p != window; p = p->parentWidget())
+        place &= QRect(p->mapTo(window, QPoint()), p->size());
+    return place;
+}
+
+/// Whether a widget shows something that no other may cover, or be covered by it. The picture and
+/// the template lie under everything else on purpose.
+bool isPiece(const QWidget &widget)
+{
+    const QString name = widget.objectName();
+    if (name == "label_showImg" || name == "label_templateImg" || name.startsWith("qt_"))
+        return false;
+    const QWidget *const parent = widget.parentWidget();
+    if (qobject_cast<const QAbstractSpinBox *>(parent) || qobject_cast<const QComboBox *>(parent) ||
+        qobject_cast<const QMenuBar *>(parent))
+        return false;
+    return qobject_cast<const QLabel *>(&widget) ||
+           qobject_cast<const QAbstractButton *>(&widget) ||
+           qobject_cast<const QAbstractSpinBox *>(&widget) ||
+           qobject_cast<const QAbstractSlider *>(&widget) ||
+           qobject_cast<const QLineEdit *>(&widget) || qobject_cast<const QComboBox *>(&widget) ||
+           qobject_cast<const QGroupBox *>(&widget) || qobject_cast<const QMenuBar *>(&widget) ||
+           qobject_cast<const MagnifierWidget *>(&widget) || name == "line";
+}
+
+QList<const QWidget *> visibleIn(const QWidget &window)
+{
+    QList<const QWidget *> found;
+    for (const QWidget *const widget : window.findChildren<QWidget *>())
+        if (widget->isVisibleTo(&window) && widget->window() == &window)
+            found.append(widget);
+    return found;
+}
+
 QStringList lacksIn(const QWidget &window)
 {
     QStringList lacks;
-    for (const QWidget *const widget : window.findChildren<QWidget *>())
-        if (widget->isVisibleTo(&window) && widget->window() == &window)
-            if (const QString lack = lackOf(*widget); !lack.isEmpty())
-                lacks.append(lack);
+    QList<QPair<const QWidget *, QRect>> pieces;
+    for (const QWidget *const widget : visibleIn(window)) {
+        if (const QString found = lackOf(*widget); !found.isEmpty())
+            lacks.append(found);
+        if (isPiece(*widget))
+            pieces.append({widget, placeOf(*widget)});
+    }
+    for (int i = 0; i < pieces.size(); ++i) {
+        for (int j = 0; j < i; ++j) {
+            const QWidget &a = *pieces[i].first, &b = *pieces[j].first;
+            if (pieces[i].second.intersects(pieces[j].second) && !a.isAncestorOf(&b) &&
+                !b.isAncestorOf(&a))
+                lacks.append(a.objectName() + " and " + b.objectName() + " overlap");
+        }
+    }
+    return lacks;
+}
+
+/// What is missing of the room for a menu's entries; the menu is opened for it.
+QStringList lacksIn(QMenu &menu)
+{
+    QStringList lacks;
+    menu.popup({0, 0});
+    settle();
+    const QFontMetrics metrics(menu.font());
+    for (QAction *const action : menu.actions()) {
+        if (!action->isVisible() || action->isSeparator())
+            continue;
+        const QRect place = menu.actionGeometry(action) & menu.rect();
+        const QString keys = action->shortcut().toString(QKeySequence::NativeText);
+        // Between the paddings for the check mark and the arrow; the keys stand apart.
+        const int needed = 30 + 28 + metrics.horizontalAdvance(action->text()) +
+                           (keys.isEmpty() ? 0 : metrics.horizontalAdvance("  " + keys));
+        if (place.width() < needed || place.height() < metrics.height())
+            lacks.append(QStringLiteral("%1 needs %2 x %3 and has %4 x %5")
+                             .arg(action->objectName())
+                             .arg(needed)
+                             .arg(metrics.height())
+                             .arg(place.width())
+                             .arg(place.height()));
+    }
+    menu.close();
     return lacks;
 }
 } // namespace
@@ -119,7 +273,13 @@ void TestLanguageFit::fits()
     }
     auto *const bar = window.findChild<QMenuBar *>("menuBar");
     QVERIFY(bar->sizeHint().width() <= window.width());
+    for (QMenu *const menu : bar->findChildren<QMenu *>()) {
+        const QStringList lacks = lacksIn(*menu);
+        QVERIFY2(lacks.isEmpty(), qPrintable(menu->objectName() + ": " + lacks.join("; ")));
+    }
     for (QDialog *const dialog : window.findChildren<QDialog *>()) {
+        if (auto *const unit = dialog->findChild<QComboBox *>("comboBox_presure"))
+            unit->setCurrentIndex(1); // of the longer numbers
         dialog->show();
         settle();
         const QStringList lacks = lacksIn(*dialog);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Does the language change at once, everywhere, and without touching anything else?
 #include "dialogs/languages.h"
+#include "dialogs/settingsfile.h"
 #include "resources/resources.h"
 #include "tests/support/logrecorder.h"
 #include "tests/support/mainwindowprobe.h"
@@ -9,10 +10,12 @@
 #include <QDial>
 #include <QDialog>
 #include <QDoubleSpinBox>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTabWidget>
 #include <QTest>
 
@@ -34,6 +37,22 @@ QString in(const Language &language, const char *context, const char *text)
     const bool loaded = translator.load(language.catalogue);
     return loaded ? translator.translate(context, text) : QString();
 }
+
+/// The settings file of a test that needs one.
+class LanguageSetting
+{
+public:
+    explicit LanguageSetting(const QByteArray &code) : file(settingsFilePath())
+    {
+        if (!file.open(QIODevice::WriteOnly) || file.write("[LANGUAGE]\nlang=" + code + '\n') < 0)
+            qFatal("the settings file can not be written");
+        file.close();
+    }
+    ~LanguageSetting() { file.remove(); }
+
+private:
+    QFile file;
+};
 } // namespace
 
 class TestLanguageSwitch : public QObject
@@ -46,6 +65,12 @@ private slots:
     void keepsTheWizardsStep();
     void keepsShownData();
     void reachesOpenAndHiddenDialogs();
+    void dialogTexts_data();
+    void dialogTexts();
+    void isToldOnce_data();
+    void isToldOnce();
+    void isToldAtStart_data();
+    void isToldAtStart();
     void choosingTheCheckedLanguageDoesNothing();
     void takesUnknownCodesForEnglish();
     void failedLoadKeepsTheLanguage();
@@ -124,6 +149,107 @@ void TestLanguageSwitch::reachesOpenAndHiddenDialogs()
              QString("Quorvandel 21.9.17, release on 2021-09-17"));
     QCOMPARE(pressure->value(), 99.5);
     QCOMPARE(dial->value(), 77);
+}
+
+void TestLanguageSwitch::dialogTexts_data()
+{
+    QTest::addColumn<QString>("dialog");
+    QTest::addColumn<QString>("widget"); ///< empty = the dialog's own title
+    QTest::addColumn<QString>("source");
+    const struct {
+        const char *dialog, *widget, *source;
+    } rows[] = {
+        {"AboutDialog", "", "About"},
+        {"AboutDialog", "label_copyright", "© 2021 Quorvandel. All rights reserved."},
+        {"AboutDialog", "label_thanksMsg", "English translation by the makers of Quorvandel."},
+        {"FavoriteDialog", "", "Favorite"},
+        {"FavoriteDialog", "cBox_playMusic", "Play Music"},
+        {"AstroRefractionDialog", "", "Astronomical Refraction"},
+        {"AstroRefractionDialog", "checkBox_enableAstroRef",
+         "Enable Astronomical Refraction Correction"},
+        {"PoleTrackingDialog", "", "Pole Tracking"},
+        {"PoleTrackingDialog", "label_tracking", "Tracking:"},
+        {"PoleTrackingDialog", "pushButton_reset", "Reset"},
+        {"PoleTrackingDialog", "label_info",
+         "If the Pole was lost after used GOTO in the astrograph, then you can this to track."},
+    };
+    for (const auto &row : rows)
+        QTest::addRow("%s %s", row.dialog, row.widget)
+            << row.dialog << row.widget << QString::fromUtf8(row.source);
+}
+
+/// French and English again; the dialog has not been shown.
+void TestLanguageSwitch::dialogTexts()
+{
+    QFETCH(QString, dialog);
+    QFETCH(QString, widget);
+    QFETCH(QString, source);
+    MainWindow window;
+    const auto text = [&] {
+        for (const auto *const each : window.findChildren<QDialog *>())
+            if (each->metaObject()->className() == dialog)
+                return widget.isEmpty()
+                           ? each->windowTitle()
+                           : each->findChild<QWidget *>(widget)->property("text").toString();
+        return QString();
+    };
+    QCOMPARE(text(), source);
+    const Language &french = languageOf("FR");
+    const QString expected = in(french, qPrintable(dialog), source.toUtf8());
+    QVERIFY(!expected.isEmpty() && expected != source);
+    window.findChild<QAction *>(french.action)->trigger();
+    QTRY_COMPARE(text(), expected); // the toolkit tells some of it by an event
+    window.findChild<QAction *>("actionEnglish")->trigger();
+    QTRY_COMPARE(text(), source);
+}
+
+void TestLanguageSwitch::isToldOnce_data()
+{
+    QTest::addColumn<QString>("from");
+    QTest::addColumn<QString>("to");
+    for (std::size_t i = 0; i < languages.size(); ++i) {
+        const Language &from = languages[i], &to = languages[(i + 1) % languages.size()];
+        QTest::addRow("%s to %s", from.code, to.code) << from.action << to.action;
+    }
+}
+
+void TestLanguageSwitch::isToldOnce()
+{
+    QFETCH(QString, from);
+    QFETCH(QString, to);
+    MainWindow window;
+    window.findChild<QAction *>(from)->setChecked(true);
+    const QSignalSpy changes(&window, SIGNAL(changeLanguage()));
+    const QSignalSpy resets(&window, SIGNAL(resetUI()));
+    const LogRecorder log;
+    window.findChild<QAction *>(to)->trigger();
+    QCOMPARE(changes.count(), 1);
+    QCOMPARE(resets.count(), 1);
+    QCOMPARE(log.texts(QtDebugMsg).filter("current language").size(), 1);
+}
+
+void TestLanguageSwitch::isToldAtStart_data()
+{
+    QTest::addColumn<int>("times");
+    for (const Language &language : languages)
+        QTest::newRow(language.code) << (&language == &languages.front() ? 1 : 2);
+    QTest::newRow("XX") << 1; // English in force
+}
+
+/// The start announces the language by itself; checking another action than English, which is
+/// checked from the first, announces it besides.
+void TestLanguageSwitch::isToldAtStart()
+{
+    QFETCH(int, times);
+    const QByteArray code = QTest::currentDataTag();
+    const LanguageSetting setting(code);
+    const LogRecorder log;
+    MainWindow window;
+    const QStringList told = log.texts(QtDebugMsg).filter("current language");
+    QCOMPARE(told.size(), times);
+    QCOMPARE(told.count("current language \"" + code + '"'), times);
+    QCOMPARE(window.findChild<QMenu *>("menuFile")->title(),
+             in(languageOf(code), "MainWindow", "File"));
 }
 
 void TestLanguageSwitch::choosingTheCheckedLanguageDoesNothing()

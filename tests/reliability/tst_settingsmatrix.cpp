@@ -110,6 +110,24 @@ void put(const QByteArray &bytes)
         qFatal("the settings file can not be written");
 }
 
+/// The files beside the settings file that keep what was not read.
+QStringList keptAside()
+{
+    const QFileInfo place(settingsFilePath());
+    QStringList paths;
+    for (const QFileInfo &file : place.dir().entryInfoList({place.fileName() + ".unread*"}))
+        paths.append(file.filePath());
+    return paths;
+}
+
+QByteArray bytesOf(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("%s can not be read", qPrintable(path));
+    return file.readAll();
+}
+
 /// Whatever a row has put there, with its rights restored.
 void clearPlace()
 {
@@ -120,6 +138,8 @@ void clearPlace()
         QDir(path).removeRecursively();
     else
         ::unlink(path);
+    for (const QString &aside : keptAside())
+        QFile::remove(aside);
 }
 
 /// Works a window as far as a person might who has not connected: pictures, template, style.
@@ -129,8 +149,6 @@ void work(MainWindow &window)
     window.show();
     if (!QTest::qWaitForWindowExposed(&window, patience))
         qFatal("the window does not come up");
-    cameraState.frameWidth = 1280;
-    cameraState.frameHeight = 960;
     QImage picture(1280, 960, QImage::Format_RGB888);
     picture.fill(Qt::blue);
     {
@@ -166,6 +184,10 @@ private slots:
     void place_data();
     void place();
     void hugeFile();
+    void nothingIsLost_data();
+    void nothingIsLost();
+    void aSecondOneIsKeptToo();
+    void damagedFileThatCanNotBeWritten();
     void rubbish_data();
     void rubbish();
 };
@@ -378,9 +400,75 @@ void SettingsMatrix::hugeFile()
     QVERIFY2(timer.elapsed() < patience, qPrintable(QString::number(timer.elapsed())));
     const qint64 more = huge - plain;
     QVERIFY2(more < 16 * 1024 * 1024, qPrintable(QString::number(more)));
-    QCOMPARE(log.texts(QtWarningMsg).filter("settings file").size(), 1);
+    QCOMPARE(log.texts(QtWarningMsg).filter("is not read").size(), 1);
     QCOMPARE(stored(settingsFilePath()), defaults);
     QVERIFY(QFileInfo(settingsFilePath()).size() < 1000);
+    QCOMPARE(keptAside().size(), 1);
+    QVERIFY(QFileInfo(keptAside().constFirst()).size() >= 100'000'000);
+}
+
+void SettingsMatrix::nothingIsLost_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<bool>("kept");
+    QTest::newRow("ours") << QByteArray("[STYLE]\nstyle=Mono\n") << false;
+    QTest::newRow("keys of others") << QByteArray("[MINE]\na=b\n") << false;
+    QTest::newRow("empty") << QByteArray() << false;
+    QTest::newRow("an object") << QByteArray("[MINE]\na=@Variant(\\0\\0\\0\\x0b)\n") << true;
+    QTest::newRow("larger than a mebibyte") << QByteArray(1 << 21, ';') << true;
+    QTest::newRow("a damaged line") << QByteArray("[MINE]\na=b\nnotes of mine\n") << true;
+    QTest::newRow("comments") << QByteArray("; my mount\n[STYLE]\nstyle=Mono\n") << true;
+    QTest::newRow("a letter") << QByteArray("Dear Quorvandel, my mount\n") << true;
+}
+
+/// What saving would not write back lies beside the settings file, to the last byte; a second save
+/// finds nothing more to keep.
+void SettingsMatrix::nothingIsLost()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(bool, kept);
+    put(bytes);
+    for (int run = 0; run < 2; ++run) {
+        const LogRecorder log;
+        MainWindow window;
+        window.close();
+        QCOMPARE(log.texts(QtWarningMsg).filter("is kept in").size(), kept && run == 0 ? 1 : 0);
+    }
+    const QStringList aside = keptAside();
+    QCOMPARE(aside.size(), kept ? 1 : 0);
+    if (kept)
+        QCOMPARE(bytesOf(aside.constFirst()), bytes);
+    QCOMPARE(stored(settingsFilePath()).filter(QRegularExpression("^$")), QStringList());
+}
+
+/// An earlier one is not overwritten.
+void SettingsMatrix::aSecondOneIsKeptToo()
+{
+    const QByteArrayList letters{"first letter\n", "second letter\n", "third letter\n"};
+    for (const QByteArray &letter : letters) {
+        put(letter);
+        MainWindow window;
+        window.close();
+    }
+    QByteArrayList kept;
+    for (const QString &path : keptAside())
+        kept.append(bytesOf(path));
+    QCOMPARE(kept, letters);
+}
+
+/// What can not be kept is not written over.
+void SettingsMatrix::damagedFileThatCanNotBeWritten()
+{
+    const QByteArray letter = "[STYLE]\nstyle=Mono\na letter\n";
+    {
+        const OrdinaryUser user;
+        put(letter);
+        chmod(settingsFilePath().toLocal8Bit(), 0444);
+        MainWindow window;
+        window.close();
+    }
+    QCOMPARE(keptAside(), QStringList());
+    QCOMPARE(bytesOf(settingsFilePath()), letter);
 }
 
 /// Seeded: the same rows in every run.

@@ -71,13 +71,14 @@ private slots:
     void signalClosesTheWindow_data();
     void signalClosesTheWindow();
     void manySignals();
+    void ignoredSignalsStayIgnored();
     void otherSignalsStay();
 };
 
 void SignalsTest::initTestCase()
 {
     // A shell may have started the tests with SIGINT ignored, which children inherit.
-    for (const int number : {SIGTERM, SIGINT})
+    for (const int number : {SIGTERM, SIGINT, SIGHUP})
         std::signal(number, SIG_DFL);
 }
 
@@ -91,6 +92,7 @@ void SignalsTest::signalClosesTheWindow_data()
     QTest::addColumn<int>("number");
     QTest::newRow("SIGTERM") << SIGTERM;
     QTest::newRow("SIGINT") << SIGINT;
+    QTest::newRow("SIGHUP") << SIGHUP;
 }
 
 void SignalsTest::signalClosesTheWindow()
@@ -120,12 +122,25 @@ void SignalsTest::manySignals()
     QCOMPARE(file.allKeys().size(), 12);
 }
 
+/// As under nohup.
+void SignalsTest::ignoredSignalsStayIgnored()
+{
+    std::signal(SIGHUP, SIG_IGN); // the child inherits it
+    Program program;
+    std::signal(SIGHUP, SIG_DFL);
+    QVERIFY2(program.isReady(), program.errors);
+    program.send(SIGHUP);
+    QVERIFY(!program.process.waitForFinished(300));
+    program.send(SIGTERM);
+    QVERIFY(program.ends());
+}
+
 /// A signal that is not ours ends the process at once, with nothing saved.
 void SignalsTest::otherSignalsStay()
 {
     Program program;
     QVERIFY2(program.isReady(), program.errors);
-    program.send(SIGHUP);
+    program.send(SIGUSR1);
     QVERIFY(program.ends());
     QCOMPARE(program.process.exitStatus(), QProcess::CrashExit);
     QVERIFY(!QFile::exists(settingsPath()));

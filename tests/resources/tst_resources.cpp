@@ -109,6 +109,7 @@ private slots:
     void icon();
     void starData_data();
     void starData();
+    void sound();
     void englishCatalogue();
     void masks_data();
     void masks();
@@ -198,6 +199,19 @@ void TestResources::starData()
     QFile file(path);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll().count("\r\n"), 60);
+}
+
+/// A sound of MPEG audio, behind a tag or not, that does not make the program heavy.
+void TestResources::sound()
+{
+    QFile file(QStringLiteral(":/audio/audio.mp3"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray bytes = file.readAll();
+    QVERIFY2(bytes.size() > 10000, qPrintable(QString::number(bytes.size())));
+    QVERIFY2(bytes.size() < 2 * 1024 * 1024, qPrintable(QString::number(bytes.size())));
+    const bool hasTag = bytes.startsWith("ID3");
+    const bool isFrame = quint8(bytes[0]) == 0xFF && (quint8(bytes[1]) & 0xE0) == 0xE0;
+    QVERIFY(hasTag || isFrame);
 }
 
 void TestResources::englishCatalogue()

@@ -17,8 +17,11 @@ public:
 
     QPoint clickViewPos() const { return window.clickViewPos; }
     QPointF templateCenter() const { return window.templateCenter; }
+    QPointF starPos1() const { return window.starPos1; }
+    QPointF starPos3() const { return window.starPos3; }
     QPointF axisCenter() const { return window.axisCenter; }
     void setAxisCenter(QPointF centre) { window.axisCenter = centre; }
+    int axisRadius() const { return window.axisRadius; }
     float zoomFactor() const { return window.zoomFactor; }
     int rotateValue() const { return window.rotateValue; }
     QString regionName() const { return window.regionName; }
@@ -29,6 +32,9 @@ public:
     QTimer &angleTimer() const { return *window.angleTimer; }
     QTimer &effectTimer() const { return *window.effectTimer; }
     QTranslator &translator() const { return *window.translator; }
+    const QImage &blankImage() const { return window.blankImage; }
+    const QImage &displayImage() const { return window.displayImage; }
+    const CaptureThread &captureThread() const { return *window.captureThread; }
 
 private:
     MainWindow &window;

@@ -11,6 +11,12 @@
 #include <QLabel>
 #include <QtTest>
 #include <algorithm>
+#include <cmath>
+
+inline bool near(double a, double b, double tolerance)
+{
+    return std::abs(a - b) <= tolerance;
+}
 
 /// The child of that class and name; the test run ends at once where there is none.
 template <typename T> T &named(const QObject &parent, const QString &name)

@@ -36,6 +36,7 @@ private slots:
     void whatTheCameraWouldRefuseIsNotWritten();
     void anUnwritablePlaceIsTold();
     void aHeldLockIsTold();
+    void aHeldLockKeepsTheFaultyFile();
     void readersNeverSeeAPart();
     void handsAtOnceLoseNothing();
 };
@@ -275,6 +276,21 @@ void SkyDocumentTest::aHeldLockIsTold()
     QCOMPARE(file.text(), text);
     held.unlock();
     QVERIFY(document.change([](SkyState &state) { state.latitude = 13.0; }));
+}
+
+void SkyDocumentTest::aHeldLockKeepsTheFaultyFile()
+{
+    const SkyFileFixture file;
+    file.writeText("no sky at all\n");
+    SkyDocument document(file.path());
+    QLockFile held(file.path() + ".lock");
+    QVERIFY(held.tryLock(0));
+    QVERIFY(!document.replace());
+    QCOMPARE(document.writeFault(), QString("another program holds it locked"));
+    QCOMPARE(file.text(), QByteArray("no sky at all\n"));
+    held.unlock();
+    QVERIFY(document.replace());
+    QCOMPARE(document.writeFault(), QString());
 }
 
 void SkyDocumentTest::readersNeverSeeAPart()

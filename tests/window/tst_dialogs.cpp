@@ -59,6 +59,8 @@ private slots:
     void versionAfterReset();
     void aboutTexts();
     void aboutLinks();
+    void aboutClicks_data();
+    void aboutClicks();
     void aboutOk();
     void favouriteHasNoEffect();
     void shownFromTheMenu_data();
@@ -78,6 +80,8 @@ void DialogsTest::frames_data()
     QTest::newRow("refraction") << QSize(369, 123) << "Astronomical Refraction";
     QTest::newRow("tracking") << QSize(353, 160) << "Pole Tracking";
     QTest::newRow("about") << QSize(338, 179) << "About";
+    const FavoriteDialog favourites; // its size is its own business, as long as it is fixed
+    QTest::newRow("favourite") << favourites.size() << favourites.windowTitle();
 }
 
 void DialogsTest::frames()
@@ -197,7 +201,12 @@ void DialogsTest::aboutTexts()
     const AboutDialog dialog;
     const auto &version = named<QLabel>(dialog, "label_version");
     QCOMPARE(version.font().family(), QString("Times New Roman"));
-    QCOMPARE(version.font().pointSize(), 14);
+    QVERIFY(version.font().pointSize() > 0 && version.font().pointSize() <= 14);
+    QFont larger = version.font();
+    larger.setPointSize(larger.pointSize() + 1);
+    if (larger.pointSize() <= 14) // made smaller only where it would not fit
+        QVERIFY(QFontMetrics(larger).horizontalAdvance(version.text()) > version.width());
+    QVERIFY(version.fontMetrics().horizontalAdvance(version.text()) <= version.width());
     QCOMPARE(named<QLabel>(dialog, "label_copyright").font().family(), QString("Times New Roman"));
     QVERIFY(!named<QLabel>(dialog, "label_copyright").text().isEmpty());
     QVERIFY(!named<QLabel>(dialog, "label_thanksMsg").text().isEmpty());
@@ -220,6 +229,35 @@ void DialogsTest::aboutLinks()
     UrlTaker taker;
     emit named<QLabel>(dialog, "label_logo").linkActivated("https://a.example/b");
     QCOMPARE(taker.urls, QList<QUrl>{QUrl("https://a.example/b")});
+}
+
+void DialogsTest::aboutClicks_data()
+{
+    QTest::addColumn<QPoint>("place"); ///< in the label
+    QTest::addColumn<int>("opened");
+    QTest::newRow("label_logo") << QPoint(65, 20) << 1;
+    QTest::newRow("label_website") << QPoint(30, 8) << 1;
+    QTest::newRow("label_copyright") << QPoint(60, 8) << 0;
+    QTest::newRow("label_version") << QPoint(60, 12) << 0;
+}
+
+/// By the mouse on the shown dialog; each click opens the address once.
+void DialogsTest::aboutClicks()
+{
+    QFETCH(QPoint, place);
+    QFETCH(int, opened);
+    AboutDialog dialog;
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    const UrlTaker taker;
+    const auto &label = named<QLabel>(dialog, QTest::currentDataTag());
+    QTest::mouseClick(dialog.windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                      label.mapTo(&dialog, place));
+    QCOMPARE(taker.urls.size(), opened);
+    for (const QUrl &url : taker.urls) {
+        QVERIFY2(url.isValid() && !url.host().isEmpty(), qPrintable(url.toString()));
+        QVERIFY(label.text().contains("<a href=\"" + url.toString() + '"'));
+    }
 }
 
 void DialogsTest::aboutOk()

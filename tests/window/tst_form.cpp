@@ -1,16 +1,14 @@
 // SPDX-License-Identifier: MIT
 // Does the main window's form have every menu, widget, text, range and size that it should?
-#include "tests/window/windowtest.h"
+#include "tests/window/formtables.h"
 
 #include "resources/resources.h"
 #include "ui_mainwindow.h"
 
 #include <QAbstractItemView>
 #include <QGridLayout>
-#include <QMainWindow>
 #include <QRadioButton>
 #include <QScrollArea>
-#include <QSlider>
 #include <QStatusBar>
 #include <memory>
 
@@ -22,16 +20,22 @@ private slots:
     void initTestCase();
     void frame();
     void menuBarOrder();
-    void menus_data();
+    void menus_data() { addMenuRows(); }
     void menus();
-    void widgets_data();
+    void menusAfterRetranslation_data();
+    void menusAfterRetranslation();
+    void entriesAfterRetranslation_data();
+    void entriesAfterRetranslation();
+    void widgets_data() { addWidgetRows(); }
     void widgets();
-    void widgetsAfterRetranslation_data() { widgets_data(); }
+    void widgetsAfterRetranslation_data() { addWidgetRows(); }
     void widgetsAfterRetranslation();
-    void ranges_data();
-    void ranges();
-    void sizes_data();
-    void sizes();
+    void ranges_data() { addRangeRows(); }
+    void ranges() { checkRange(*window); }
+    void sizes_data() { addSizeRows(); }
+    void sizes() { checkSize(*window); }
+    void parents_data();
+    void parents();
     void sectionOrder();
     void sections_data();
     void sections();
@@ -80,143 +84,54 @@ void FormTest::frame()
 
 void FormTest::menuBarOrder()
 {
-    QStringList found;
-    for (const QAction *const action : window->menuBar()->actions())
-        found << action->menu()->objectName() + '=' + action->text();
-    const QStringList expected{"menuFile=File", "menuDevice=Device",     "menuTools=Tools",
-                               "menuZoom=Zoom", "menuLanguage=Language", "menuHelp=Help"};
-    QCOMPARE(found, expected);
-}
-
-/// One entry as "name=text", with a trailing '*' where it is checkable; "-" for a rule.
-QString entryText(const QAction &action)
-{
-    if (action.isSeparator())
-        return "-";
-    return action.objectName() + '=' + action.text() + (action.isCheckable() ? "*" : "");
-}
-
-void FormTest::menus_data()
-{
-    QTest::addColumn<QStringList>("entries");
-    QTest::newRow("menuFile") << QStringList{"actionSave_As=Save As...", "-", "actionExit=Exit"};
-    QTest::newRow("menuDevice") << QStringList{"actionConnect=Connect"};
-    QTest::newRow("menuTools") << QStringList{"actionDisplay_Template=Display Template*",
-                                              "-",
-                                              "actionMono_Style=Mono Style*",
-                                              "actionStretch=Stretch*",
-                                              "-",
-                                              "actionAstronomical_Refraction=Astronomical "
-                                              "Refraction",
-                                              "actionManual_Trace=Manual Trace",
-                                              "actionPlay_Audio=Unfreeze*",
-                                              "actionFavorite=Favorite*"};
-    QTest::newRow("menuZoom") << QStringList{"action100=100%*", "action75=75%*", "action50=50%*"};
-    QTest::newRow("menuLanguage") << QStringList{
-        "actionEnglish=English*", "actionChinese=简体中文*",     "actionJapanese=日本語*",
-        "actionRussian=русский*", "actionFrench=français*",      "actionGerman=Deutsch*",
-        "actionSpanish=Español*", "actionPortuguese=português*", "actionItalian=italiano*",
-        "actionKorean=한국어*"};
-    QTest::newRow("menuHelp") << QStringList{"actionQuorvandel_Manual=Quorvandel Manual", "-",
-                                             "actionAbout=About"};
+    QCOMPARE(titlesOf(*window->menuBar()), menuTitles);
 }
 
 void FormTest::menus()
 {
     QFETCH(QStringList, entries);
-    QStringList found;
-    for (const QAction *const action : named<QMenu>(*window, QTest::currentDataTag()).actions()) {
-        found << entryText(*action);
+    const auto &menu = named<QMenu>(*window, QTest::currentDataTag());
+    QCOMPARE(entriesOf(menu), entries);
+    for (const QAction *const action : menu.actions()) {
         QVERIFY(!action->isChecked());
         QVERIFY(action->isEnabled());
         QVERIFY(action->isVisible());
     }
-    QCOMPARE(found, entries);
 }
 
-void FormTest::widgets_data()
+void FormTest::menusAfterRetranslation_data()
 {
-    QTest::addColumn<QString>("className");
-    QTest::addColumn<QString>("text");
-    const struct {
-        const char *className, *name, *text;
-    } rows[] = {
-        {"QGroupBox", "grpBox_region", ""},
-        {"QPushButton", "pushButton_head_region", "Region Selection"},
-        {"QWidget", "widget_region", nullptr},
-        {"QRadioButton", "radioButton_north", "North"},
-        {"QRadioButton", "radioButton_south", "South"},
-        {"QGroupBox", "groupBox_setting", ""},
-        {"QPushButton", "pushButton_head_setting", "Quorvandel Setting"},
-        {"QWidget", "widget_setting", nullptr},
-        {"QLabel", "label", "Traffic"},
-        {"QLabel", "label_gain", "Gain"},
-        {"QLabel", "label_exp", "Exp(ms)"},
-        {"QLabel", "labelSpeed", "Speed"},
-        {"QSlider", "sliderExpose", nullptr},
-        {"QSlider", "sliderGain", nullptr},
-        {"QSlider", "sliderTraffic", nullptr},
-        {"QSlider", "sliderSpeed", nullptr},
-        {"QLineEdit", "lineEditExpose", "50"},
-        {"QLineEdit", "lineEditGain", "50"},
-        {"QLineEdit", "lineEditTraffic", "30"},
-        {"QLineEdit", "lineEditSpeed", ""},
-        {"QGroupBox", "groupBox_confirm", ""},
-        {"QPushButton", "pushButton_head_confirm", "Confirm Polaris/σ Oct"},
-        {"QWidget", "widget_confirm", nullptr},
-        {"QGroupBox", "groupBox_confirm_match", "Matching Template"},
-        {"QLabel", "label_confirm_rotate", "Rotate"},
-        {"QPushButton", "pushButton_confirm_minus", "-"},
-        {"QSlider", "horizontalSlider_confirm_match", nullptr},
-        {"QPushButton", "pushButton_confirm_add", "+"},
-        {"QGroupBox", "groupBox_rough", ""},
-        {"QPushButton", "pushButton_head_rough", "Rough Pole"},
-        {"QWidget", "widget_rough", nullptr},
-        {"QGroupBox", "groupBox_axisCenter", "Axis Center"},
-        {"QLabel", "label_rough_tip", "Chose the same star every times"},
-        {"QLabel", "label_starPos1_icon", ""},
-        {"QLabel", "label_starPos2_icon", ""},
-        {"QLabel", "label_starPos3_icon", ""},
-        {"QLabel", "label_starPos1", "Star Pos 1"},
-        {"QLabel", "label_starPos2", "Star Pos 2"},
-        {"QLabel", "label_starPos3", "Star Pos 3"},
-        {"QLabel", "label_rough_axis", "Axis:"},
-        {"QLabel", "label_axisPos", "(0,0)"},
-        {"QGroupBox", "groupBox_rough_match", "Matching Template"},
-        {"QPushButton", "pushButton_rough_add", "+"},
-        {"QLabel", "label_rough_rotate", "Rotate"},
-        {"QSlider", "horizontalSlider_rough_match", nullptr},
-        {"QPushButton", "pushButton_rough_minus", "-"},
-        {"QLabel", "label_current", "Current Polaris/σ Oct"},
-        {"QLabel", "label_curPos", "(0,0)"},
-        {"QLabel", "label_expected", "Expected Polaris/σ Oct"},
-        {"QLabel", "label_eptPos", "(0,0)"},
-        {"QGroupBox", "groupBox_precise", ""},
-        {"QPushButton", "pushButton_head_precise", "Precise Pole"},
-        {"QWidget", "widget_precise", nullptr},
-        {"QLabel", "label_precise_pole", "Pole:"},
-        {"QLabel", "label_precise_poleIcon", ""},
-        {"QLabel", "label_precise_axis", "Axis:"},
-        {"QLabel", "label_precise_axisIcon", ""},
-        {"QWidget", "widget_biggerView", nullptr},
-        {"QLabel", "label_biggerImg", "roiBigger_image"},
-        {"QGroupBox", "groupBox_monitor", "Monitor Pole"},
-        {"QGroupBox", "groupBox_refStarA", "Reference Star A"},
-        {"QLabel", "label_refStarA_position", "Position:"},
-        {"QLabel", "label_refStarA_pos", "(0,0)"},
-        {"QGroupBox", "groupBox_refStarB", "Reference Star B"},
-        {"QLabel", "label_refStarB_position", "Position:"},
-        {"QLabel", "label_refStarB_pos", "(0,0)"},
-        {"QPushButton", "pushButton_monitor", "Start Monitor"},
-        {"QLabel", "label_pole", ""},
-        {"QLabel", "label_logo", ""},
-        {"QLabel", "label_showImg", ""},
-        {"QLabel", "label_templateImg", "template_image"},
-        {"QScrollArea", "scrollArea_manager", nullptr},
-        {"QScrollArea", "scrollArea_showImg", nullptr},
-    };
-    for (const auto &row : rows)
-        QTest::newRow(row.name) << QString(row.className) << QString::fromUtf8(row.text);
+    QTest::addColumn<QString>("title");
+    for (const QString &menu : menuTitles)
+        QTest::newRow(qPrintable(menu.section('=', 0, 0))) << menu.section('=', 1);
+}
+
+void FormTest::menusAfterRetranslation()
+{
+    QFETCH(QString, title);
+    auto &menu = named<QMenu>(*window, QTest::currentDataTag());
+    menu.setTitle("changed");
+    ui.retranslateUi(window.get());
+    QCOMPARE(menu.title(), title);
+}
+
+void FormTest::entriesAfterRetranslation_data()
+{
+    QTest::addColumn<QString>("entry");
+    for (const QString &menu : menuTitles)
+        for (const QString &entry : entriesOf(named<QMenu>(*window, menu.section('=', 0, 0))))
+            if (entry != "-")
+                QTest::newRow(qPrintable(entry.section('=', 0, 0))) << entry;
+}
+
+/// menus() has held the texts as they are at first.
+void FormTest::entriesAfterRetranslation()
+{
+    QFETCH(QString, entry);
+    auto &action = named<QAction>(*window, QTest::currentDataTag());
+    action.setText("changed");
+    ui.retranslateUi(window.get());
+    QCOMPARE(entryText(action), entry);
 }
 
 void checkWidget(const QWidget &window, const QString &name)
@@ -227,7 +142,7 @@ void checkWidget(const QWidget &window, const QString &name)
     QCOMPARE(QString(widget.metaObject()->className()), className);
     QVERIFY(isOpen(widget));
     QVERIFY(widget.isEnabled());
-    const char *const property = className == "QGroupBox" ? "title" : "text";
+    const char *const property = textProperty(className);
     if (text.isNull())
         QVERIFY(!widget.property(property).isValid());
     else
@@ -250,68 +165,57 @@ void FormTest::widgetsAfterRetranslation()
     if (className == "QWidget" || !text.contains(words))
         return checkWidget(*window, name);
     auto &widget = named<QWidget>(*window, name);
-    widget.setProperty(className == "QGroupBox" ? "title" : "text", "changed");
+    widget.setProperty(textProperty(className), "changed");
     ui.retranslateUi(window.get());
     checkWidget(*window, name);
 }
 
-void FormTest::ranges_data()
+void FormTest::parents_data()
 {
-    QTest::addColumn<int>("minimum");
-    QTest::addColumn<int>("maximum");
-    QTest::addColumn<int>("pageStep");
-    QTest::addColumn<int>("value");
-    QTest::newRow("sliderExpose") << 1 << 500 << 10 << 50;
-    QTest::newRow("sliderGain") << 1 << 100 << 10 << 50;
-    QTest::newRow("sliderTraffic") << 0 << 255 << 10 << 30;
-    QTest::newRow("sliderSpeed") << 0 << 2 << 1 << 0;
-    QTest::newRow("horizontalSlider_confirm_match") << 0 << 360 << 10 << 0;
-    QTest::newRow("horizontalSlider_rough_match") << 0 << 360 << 10 << 0;
+    QTest::addColumn<QStringList>("children");
+    QTest::newRow("widget_region") << QStringList{"radioButton_north", "radioButton_south"};
+    QTest::newRow("widget_setting")
+        << QStringList{"label",          "label_gain",   "label_exp",       "labelSpeed",
+                       "sliderExpose",   "sliderGain",   "sliderTraffic",   "sliderSpeed",
+                       "lineEditExpose", "lineEditGain", "lineEditTraffic", "lineEditSpeed"};
+    QTest::newRow("widget_confirm") << QStringList{"groupBox_confirm_match"};
+    QTest::newRow("groupBox_confirm_match")
+        << QStringList{"label_confirm_rotate", "pushButton_confirm_minus",
+                       "horizontalSlider_confirm_match", "pushButton_confirm_add"};
+    QTest::newRow("widget_rough") << QStringList{"groupBox_axisCenter", "groupBox_rough_match",
+                                                 "label_current",       "label_curPos",
+                                                 "label_expected",      "label_eptPos"};
+    QTest::newRow("groupBox_axisCenter")
+        << QStringList{"label_rough_tip",     "label_starPos1_icon", "label_starPos2_icon",
+                       "label_starPos3_icon", "label_starPos1",      "label_starPos2",
+                       "label_starPos3",      "label_rough_axis",    "label_axisPos"};
+    QTest::newRow("groupBox_rough_match")
+        << QStringList{"label_rough_rotate", "pushButton_rough_minus",
+                       "horizontalSlider_rough_match", "pushButton_rough_add"};
+    QTest::newRow("widget_precise")
+        << QStringList{"label_precise_pole", "label_precise_poleIcon", "label_precise_axis",
+                       "label_precise_axisIcon", "widget_biggerView"};
+    QTest::newRow("widget_biggerView") << QStringList{"label_biggerImg"};
+    QTest::newRow("groupBox_monitor")
+        << QStringList{"groupBox_refStarA", "groupBox_refStarB", "pushButton_monitor"};
+    QTest::newRow("groupBox_refStarA")
+        << QStringList{"label_refStarA_position", "label_refStarA_pos"};
+    QTest::newRow("groupBox_refStarB")
+        << QStringList{"label_refStarB_position", "label_refStarB_pos"};
 }
 
-void FormTest::ranges()
+/// All the named widgets that lie directly in one, and no others.
+void FormTest::parents()
 {
-    QFETCH(int, minimum);
-    QFETCH(int, maximum);
-    QFETCH(int, pageStep);
-    QFETCH(int, value);
-    const auto &slider = named<QSlider>(*window, QTest::currentDataTag());
-    QCOMPARE(slider.minimum(), minimum);
-    QCOMPARE(slider.maximum(), maximum);
-    QCOMPARE(slider.pageStep(), pageStep);
-    QCOMPARE(slider.singleStep(), 1);
-    QCOMPARE(slider.value(), value);
-    QCOMPARE(slider.orientation(), Qt::Horizontal);
-}
-
-void FormTest::sizes_data()
-{
-    constexpr int most = QWIDGETSIZE_MAX;
-    QTest::addColumn<QSize>("least");
-    QTest::addColumn<QSize>("largest");
-    QTest::newRow("scrollArea_manager") << QSize(220, 0) << QSize(most, most);
-    for (const char *const edit :
-         {"lineEditExpose", "lineEditGain", "lineEditTraffic", "lineEditSpeed"})
-        QTest::newRow(edit) << QSize(36, 0) << QSize(36, most);
-    for (const char *const button : {"pushButton_confirm_minus", "pushButton_confirm_add",
-                                     "pushButton_rough_minus", "pushButton_rough_add"})
-        QTest::newRow(button) << QSize(0, 0) << QSize(25, most);
-    for (const char *const lamp :
-         {"label_starPos1_icon", "label_starPos2_icon", "label_starPos3_icon"})
-        QTest::newRow(lamp) << QSize(25, 25) << QSize(25, 25);
-    QTest::newRow("label_rough_axis") << QSize(0, 0) << QSize(50, most);
-    QTest::newRow("label_axisPos") << QSize(120, 0) << QSize(most, most);
-    QTest::newRow("widget_biggerView") << QSize(202, 202) << QSize(most, most);
-    QTest::newRow("label_logo") << QSize(237, 50) << QSize(237, 50);
-}
-
-void FormTest::sizes()
-{
-    QFETCH(QSize, least);
-    QFETCH(QSize, largest);
-    const auto &widget = named<QWidget>(*window, QTest::currentDataTag());
-    QCOMPARE(widget.minimumSize(), least);
-    QCOMPARE(widget.maximumSize(), largest);
+    QFETCH(QStringList, children);
+    QStringList found;
+    for (const QWidget *const child :
+         named<QWidget>(*window, QTest::currentDataTag())
+             .findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly))
+        found << child->objectName();
+    found.sort();
+    children.sort();
+    QCOMPARE(found, children);
 }
 
 /// The widgets of a layout from its first item on.

@@ -30,13 +30,54 @@ QPixmap plainPicture(const QColor &colour)
     return picture;
 }
 
-QImage paint(MagnifierWidget &widget)
+QImage paint(QWidget &widget)
 {
     QImage image(widget.size(), QImage::Format_RGB32);
     image.fill(ground);
     widget.render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
     return image;
 }
+
+/// The view in its plain form: each ellipse is filled whole.
+class PlainView : public QWidget
+{
+public:
+    PlainView(QSize viewSize, const QPixmap &square, float factor)
+        : view(viewSize), region(square), zoom(double(factor))
+    {
+        resize(viewSize + QSize(2, 2));
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing, true);
+        QBrush brush(region);
+        brush.setTransform(QTransform::fromScale(zoom, zoom));
+        painter.setBrush(brush);
+        const QRect whole(QPoint(0, 0), view);
+        painter.drawEllipse(whole);
+        const auto usePen = [&](const QColor &colour, int width) {
+            painter.setPen(QPen(colour, width, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+        };
+        usePen(QColor(160, 160, 160), 1);
+        painter.drawEllipse(whole.adjusted(-1, -1, 1, 1));
+        usePen(Qt::white, 2);
+        painter.drawEllipse(whole);
+        usePen(QColor(215, 215, 215), 1);
+        painter.drawEllipse(whole.adjusted(1, 1, -1, -1));
+        usePen(Qt::green, 1);
+        const int x = view.width() / 2, y = view.height() / 2;
+        painter.drawLine(x - 8, y, x + 8, y);
+        painter.drawLine(x, y - 8, x, y + 8);
+    }
+
+private:
+    QSize view;
+    QPixmap region;
+    double zoom;
+};
 
 /// The largest difference of two colours in one channel.
 int distance(const QColor &a, const QColor &b)
@@ -67,6 +108,8 @@ private slots:
     void regionHoldsTheSquare();
     void everyPixelOfTheView_data();
     void everyPixelOfTheView();
+    void sameAsThePlainForm_data();
+    void sameAsThePlainForm();
     void cross_data();
     void cross();
     void rims_data();
@@ -166,22 +209,26 @@ void MagnifierTest::initialState()
 
 void MagnifierTest::regionHoldsTheSquare_data()
 {
-    QTest::addColumn<int>("side");
+    QTest::addColumn<QSize>("view");
     QTest::addColumn<float>("zoom");
     QTest::addColumn<QRect>("square");
-    QTest::newRow("150 at 3") << 150 << 3.0F << QRect(75, 75, 50, 50);
-    QTest::newRow("150 at 5") << 150 << 5.0F << QRect(85, 85, 30, 30);
-    QTest::newRow("120 at 3") << 120 << 3.0F << QRect(80, 80, 40, 40);
-    QTest::newRow("an odd side") << 150 << 2.0F << QRect(63, 63, 75, 75);
-    QTest::newRow("truncated") << 150 << 4.0F << QRect(82, 82, 37, 37);
+    const QSize large(150, 150);
+    QTest::newRow("150 at 3") << large << 3.0F << QRect(75, 75, 50, 50);
+    QTest::newRow("150 at 5") << large << 5.0F << QRect(85, 85, 30, 30);
+    QTest::newRow("120 at 3") << QSize(120, 120) << 3.0F << QRect(80, 80, 40, 40);
+    QTest::newRow("an odd side") << large << 2.0F << QRect(63, 63, 75, 75);
+    QTest::newRow("truncated") << large << 4.0F << QRect(82, 82, 37, 37);
+    // The width alone counts.
+    QTest::newRow("wider than high") << QSize(150, 90) << 3.0F << QRect(75, 75, 50, 50);
+    QTest::newRow("higher than wide") << QSize(90, 150) << 3.0F << QRect(85, 85, 30, 30);
 }
 
 void MagnifierTest::regionHoldsTheSquare()
 {
-    QFETCH(int, side);
+    QFETCH(QSize, view);
     QFETCH(float, zoom);
     QFETCH(QRect, square);
-    MagnifierWidget widget(side, side);
+    MagnifierWidget widget(view.width(), view.height());
     widget.setZoom(zoom);
     const QPixmap source = placePicture(200, 200);
     widget.setSource(source);
@@ -226,6 +273,43 @@ void MagnifierTest::everyPixelOfTheView()
         }
     }
     QVERIFY(compared > 15000);
+}
+
+void MagnifierTest::sameAsThePlainForm_data()
+{
+    QTest::addColumn<QSize>("view");
+    QTest::addColumn<float>("zoom");
+    QTest::addColumn<QPixmap>("source");
+    QTest::addColumn<QPoint>("centre");
+    const QPixmap places = placePicture(400, 300);
+    const QSize program(150, 150);
+    QTest::newRow("the program's") << program << 5.0F << places << QPoint(200, 150);
+    QTest::newRow("clamped") << program << 5.0F << places << QPoint(0, 299);
+    QTest::newRow("3 times") << program << 3.0F << places << QPoint(260, 257);
+    QTest::newRow("not whole") << program << 4.3F << places << QPoint(101, 77);
+    QTest::newRow("larger than the picture")
+        << program << 5.0F << placePicture(20, 13) << QPoint(5, 5);
+    QTest::newRow("no picture") << program << 5.0F << QPixmap() << QPoint(20, 20);
+    QTest::newRow("an oval") << QSize(151, 97) << 3.0F << places << QPoint(200, 150);
+    for (int side = 1; side <= 40; side += 3)
+        QTest::addRow("%d x %d", side, side + 2)
+            << QSize(side, side + 2) << 2.0F << places << QPoint(200, 150);
+}
+
+/// To the last bit.
+void MagnifierTest::sameAsThePlainForm()
+{
+    QFETCH(QSize, view);
+    QFETCH(float, zoom);
+    QFETCH(QPixmap, source);
+    QFETCH(QPoint, centre);
+    MagnifierWidget widget(view.width(), view.height());
+    widget.setZoom(zoom);
+    widget.setSource(source);
+    widget.setCentre(centre);
+    const QImage painted = paint(widget);
+    PlainView plain(view, widget.magnifiedRegion(), zoom);
+    QCOMPARE(painted, paint(plain));
 }
 
 void MagnifierTest::cross_data()

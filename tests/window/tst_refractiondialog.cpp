@@ -2,6 +2,7 @@
 // Does the refraction dialog write what it shows, within its ranges and in the right unit?
 #include "camera/sharedstate.h"
 #include "dialogs/astrorefractiondialog.h"
+#include "mainwindow/mainwindow.h"
 #include "resources/resources.h"
 #include "tests/window/windowtest.h"
 
@@ -33,6 +34,10 @@ private slots:
     void noEntryBeyondTheRange_data();
     void noEntryBeyondTheRange();
     void resetKeepsValues();
+    void resetGivesTheTexts_data();
+    void resetGivesTheTexts();
+    void throughTheWindow_data();
+    void throughTheWindow();
 };
 
 /// The record as it is without a settings file.
@@ -275,6 +280,63 @@ void RefractionDialogTest::resetKeepsValues()
     QCOMPARE(named<QDoubleSpinBox>(dialog, "doubleSpinBox_presure").value(), 1010.0);
     QCOMPARE(named<QDoubleSpinBox>(dialog, "doubleSpinBox_latitude").value(), 12.34);
     QVERIFY(named<QCheckBox>(dialog, "checkBox_enableAstroRef").isChecked());
+}
+
+void RefractionDialogTest::resetGivesTheTexts_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("label_latitude") << "Latitude";
+    QTest::newRow("label_longitude") << "Longitude";
+    QTest::newRow("label_temperature") << "T(℃)";
+    QTest::newRow("checkBox_enableAstroRef") << "Enable Astronomical Refraction Correction";
+}
+
+void RefractionDialogTest::resetGivesTheTexts()
+{
+    QFETCH(QString, text);
+    AstroRefractionDialog dialog;
+    auto &widget = named<QWidget>(dialog, QTest::currentDataTag());
+    QVERIFY(widget.setProperty("text", "changed"));
+    dialog.uiReset();
+    QCOMPARE(widget.property("text").toString(), text);
+}
+
+void RefractionDialogTest::throughTheWindow_data()
+{
+    QTest::addColumn<QString>("unit");
+    QTest::addColumn<QString>("stored");
+    QTest::addColumn<float>("inForce");
+    QTest::addColumn<QString>("saved");
+    QTest::newRow("hPa, the stored value is lost") << "hPa"
+                                                   << "1013" << 1010.0F << "1010";
+    QTest::newRow("hPa, what a run before has saved") << "hPa"
+                                                      << "1010" << 1010.0F << "1010";
+    QTest::newRow("hPa, low") << "hPa"
+                              << "950.5" << 1010.0F << "1010";
+    QTest::newRow("kPa") << "kPa"
+                         << "95.5" << 95.5F << "95.5";
+    QTest::newRow("kPa, out of range") << "kPa"
+                                       << "1013" << 110.0F << "110";
+}
+
+/// From the settings file into the record, by way of the dialog, and back into the file.
+void RefractionDialogTest::throughTheWindow()
+{
+    QFETCH(QString, unit);
+    QFETCH(QString, stored);
+    QFETCH(float, inForce);
+    QFETCH(QString, saved);
+    writeIni(settingsFilePath(), {"[ASTRONOMICAL_REFRACTION]", "P=" + stored, "P_unit=" + unit});
+    MainWindow window;
+    QCOMPARE(float(refractionSettings.P), inForce);
+    QCOMPARE(refractionSettings.P_unit, unit);
+    QCOMPARE(named<QDoubleSpinBox>(window, "doubleSpinBox_presure").value(), double(inForce));
+    QCOMPARE(named<QComboBox>(window, "comboBox_presure").currentIndex(), unit == "hPa" ? 1 : 0);
+    window.close();
+    const IniLines lines = iniLines(settingsFilePath());
+    QVERIFY2(lines.contains("P=" + saved), qPrintable(lines.join(' ')));
+    QVERIFY2(lines.contains("P_unit=" + unit), qPrintable(lines.join(' ')));
+    removeSettings();
 }
 
 QTEST_MAIN(RefractionDialogTest)

@@ -402,8 +402,6 @@ void SettingsTest::oddZoomSizesThePicture()
     QFETCH(QSize, size);
     writeIni(settingsFilePath(), {"[ZOOM]", "factor=" + factor});
     MainWindow window;
-    cameraState.frameWidth = 1280;
-    cameraState.frameHeight = 960;
     QImage picture(1280, 960, QImage::Format_RGB888);
     picture.fill(Qt::blue);
     {

@@ -3,6 +3,7 @@
 #include "camera/sharedstate.h"
 #include "dialogs/style.h"
 #include "mainwindow/mainwindow.h"
+#include "mainwindow/wizardtable.h"
 #include "resources/resources.h"
 #include "tests/support/logrecorder.h"
 #include "tests/support/mainwindowprobe.h"

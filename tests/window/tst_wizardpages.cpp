@@ -3,7 +3,10 @@
 #include "mainwindow/wizardtable.h"
 #include "tests/window/freshwindowtest.h"
 
+#include <QPushButton>
 #include <QRadioButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTabWidget>
 
 namespace
@@ -96,6 +99,9 @@ private slots:
     void textsComeBackAfterReset();
     void pageLiesOverTheTop_data();
     void pageLiesOverTheTop();
+    void pageLeavesTheScrollBarFree();
+    void keysDoNotChangeThePage_data();
+    void keysDoNotChangeThePage();
 
 private:
     QTabWidget &tabs() { return named<QTabWidget>(*window, "tabWidget_tipMsg"); }
@@ -215,6 +221,45 @@ void WizardPagesTest::pageLiesOverTheTop()
     const auto &arrow = named<QLabel>(*window, "directionArrow");
     if (arrow.isVisible())
         QVERIFY(!arrow.geometry().intersects(place));
+}
+
+/// A picture that is larger than its room brings a scroll bar, beside which the page stays.
+void WizardPagesTest::pageLeavesTheScrollBarFree()
+{
+    window->resize(1024, 700);
+    window->show();
+    probe->switchStep(1);
+    const auto &area = named<QScrollArea>(*window, "scrollArea_showImg");
+    QVERIFY(!area.verticalScrollBar()->isVisible());
+    named<QLabel>(*window, "label_showImg").setPixmap(QPixmap(1280, 960));
+    QTRY_VERIFY(area.verticalScrollBar()->isVisible());
+    QVERIFY(area.viewport()->geometry().contains(tabs().geometry()));
+}
+
+void WizardPagesTest::keysDoNotChangeThePage_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+    const Qt::KeyboardModifiers control = Qt::ControlModifier;
+    QTest::newRow("Ctrl+Tab") << Qt::Key_Tab << control;
+    QTest::newRow("Ctrl+Shift+Tab") << Qt::Key_Backtab << (control | Qt::ShiftModifier);
+    QTest::newRow("Ctrl+PageDown") << Qt::Key_PageDown << control;
+    QTest::newRow("right") << Qt::Key_Right << Qt::KeyboardModifiers(Qt::NoModifier);
+}
+
+/// Only the steps do, whatever has the focus.
+void WizardPagesTest::keysDoNotChangeThePage()
+{
+    QFETCH(Qt::Key, key);
+    QFETCH(Qt::KeyboardModifiers, modifiers);
+    window->show();
+    probe->switchStep(2);
+    auto *const button = tabs().currentWidget()->findChild<QPushButton *>();
+    button->setFocus();
+    QTest::keyClick(button, key, modifiers);
+    QCOMPARE(tabs().currentIndex(), 1);
+    QTest::keyClick(&tabs(), key, modifiers);
+    QCOMPARE(tabs().currentIndex(), 1);
 }
 
 QTEST_MAIN(WizardPagesTest)

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Shows the whole alignment by itself in the real window, and prints the mount's true error before
 // and after.
-#include "app/stylesheet.h"
+#include "app/startup.h"
 #include "dialogs/settingsfile.h"
 #include "mainwindow/mainwindow.h"
-#include "resources/resources.h"
+#include "tools/practicesky.h"
 #include "tools/tour/album.h"
 #include "tools/tour/caption.h"
 #include "tools/tour/exhibits.h"
@@ -15,7 +15,6 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QDateTime>
 #include <QFile>
 #include <QLabel>
 #include <QScreen>
@@ -35,17 +34,12 @@ constexpr int watchedBoltParts = 8;
 /// A window narrower than this is better shown at half size.
 constexpr int narrowWindow = 1200;
 
-virtualsky::SkyState startingSky(bool south, bool isFast, bool isQuiet)
+virtualsky::SkyState startingSky(bool south, bool isUnthrottled, bool isQuiet)
 {
-    virtualsky::SkyState sky;
-    sky.latitude = south ? -34.0 : 40.0;
-    sky.longitude = south ? 149.0 : 116.0;
-    sky.date =
-        double(QDateTime::fromString("2024-05-23T14:00:00Z", Qt::ISODate).toSecsSinceEpoch());
-    sky.running = false;
+    virtualsky::SkyState sky = practiceSky(south);
     sky.boltAltitude = altitudeOff;
     sky.boltAzimuth = azimuthOff;
-    sky.unthrottled = isFast;
+    sky.unthrottled = isUnthrottled;
     sky.noise = !isQuiet; // pictures of a quiet sensor are small files
     return sky;
 }
@@ -72,6 +66,7 @@ void addOptions(QCommandLineParser &options)
     options.addHelpOption();
     options.addOption({"south", "Align on the southern pole."});
     options.addOption({"fast", "Without pauses, as fast as the pictures come."});
+    options.addOption({"real-rate", "With --fast: no faster than a camera, for honest read-outs."});
     options.addOption({"pictures", "Save a picture of every step to <folder>.", "folder"});
     options.addOption(
         {"frames", "Save the pictures of the fine adjustment to <folder>.", "folder"});
@@ -159,7 +154,8 @@ void run(const QCommandLineParser &options)
     if (animation)
         how.boltParts = animatedParts;
     const bool isQuiet = steps || animation || views;
-    Knobs knobs(virtualsky::skyFilePath(), startingSky(how.south, options.isSet("fast"), isQuiet));
+    const bool isUnthrottled = options.isSet("fast") && !options.isSet("real-rate");
+    Knobs knobs(virtualsky::skyFilePath(), startingSky(how.south, isUnthrottled, isQuiet));
     Settings settings;
     settings.languageCode = options.value("language");
     writeSettings(settingsFilePath(), settings);
@@ -195,6 +191,7 @@ void run(const QCommandLineParser &options)
 int main(int argc, char *argv[])
 {
     setvbuf(stdout, nullptr, _IOLBF, 0); // each action is told as it is done, into a file as well
+    prepareApplication();
     QApplication application(argc, argv);
     QCommandLineParser options;
     addOptions(options);
@@ -205,8 +202,7 @@ int main(int argc, char *argv[])
     if (qEnvironmentVariableIsEmpty("QUORVANDEL_SKY"))
         qputenv("QUORVANDEL_SKY", QFile::encodeName(ownSky.filePath("sky.ini")));
 
-    initialiseResources();
-    applyStyleSheet(application, ":/qss/default.qss");
+    startWindows(application);
     try {
         run(options);
     } catch (const std::exception &problem) {

@@ -19,11 +19,13 @@
 #include <QTest>
 #include <QTimer>
 #include <QtMath>
+#include <algorithm>
 
 namespace
 {
 constexpr int patienceMilliseconds = 20000;
-constexpr int firstTurn = 40; ///< degrees of RA between the picks
+constexpr int firstTurn = 55; ///< degrees of RA between the picks
+constexpr int ringReach = 16; ///< frame pixels; the template's rings are smaller than that
 
 /// Waits for `condition` with the event loop running, or is stuck.
 template <typename Condition> void waitUntil(Condition condition, const char *what)
@@ -152,6 +154,27 @@ void Person::turnTemplate(const char *slider, QPointF b, QPointF a)
     const double turn =
         direction(b, a) - direction({stars.starBX, stars.starBY}, {stars.starAX, stars.starAY});
     moveSliderTo(widget<QSlider>(slider), (qRound(turn) % 360 + 360) % 360);
+    checkRingRound(a);
+}
+
+/// Throws if the shown template has no ring round a star: something of it in all four quarters.
+void Person::checkRingRound(QPointF star) const
+{
+    auto &label = widget<QLabel>("label_templateImg");
+    const QImage mask = label.pixmap(Qt::ReturnByValue).toImage();
+    const double zoom = options.zoomPercent / 100.0;
+    const QPoint centre =
+        label.mapFrom(&window, widget<QLabel>("label_showImg").mapTo(&window, inView(star)));
+    const int reach = int(ringReach * zoom);
+    bool quarters[2][2] = {};
+    for (int dy = -reach; dy <= reach; ++dy)
+        for (int dx = -reach; dx <= reach; ++dx)
+            if (mask.valid(centre + QPoint(dx, dy)) &&
+                qAlpha(mask.pixel(centre + QPoint(dx, dy))) > 60)
+                quarters[dy > 0][dx > 0] = true;
+    if (!label.isVisible() || !quarters[0][0] || !quarters[0][1] || !quarters[1][0] ||
+        !quarters[1][1])
+        throw Stuck("the template has no ring round its star");
 }
 
 /// Where a person sees something: a pixel or so off.
@@ -182,7 +205,7 @@ bool Person::isPickable(QPointF (Knobs::*star)() const) const
     return true;
 }
 
-QPoint Person::inView(QPointF frame)
+QPoint Person::inView(QPointF frame) const
 {
     return (frame * options.zoomPercent / 100.0).toPoint();
 }
@@ -233,8 +256,40 @@ QPointF Person::read(const char *label) const
     return {match.captured(1).toDouble(), match.captured(2).toDouble()};
 }
 
-/// The middle of the dancing pole mark over some frames.
-QPointF Person::poleMark() const
+QImage Person::shownPicture() const
+{
+    return widget<QLabel>("label_showImg")
+        .pixmap(Qt::ReturnByValue)
+        .toImage()
+        .convertToFormat(QImage::Format_RGB32);
+}
+
+/// The middle of the green or red pixels, in frame pixels.
+QPointF Person::markInPicture(Mark mark) const
+{
+    const QImage picture = shownPicture();
+    QPointF sum;
+    double weight = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        const auto *const line = reinterpret_cast<const QRgb *>(picture.constScanLine(y));
+        for (int x = 0; x < picture.width(); ++x) {
+            // Grey sky has none of either; where one mark lies over the other each has its share.
+            const int pure =
+                (mark == Mark::Pole ? qGreen(line[x]) : qRed(line[x])) - qBlue(line[x]);
+            if (pure <= 0)
+                continue;
+            sum += QPointF(x, y) * pure;
+            weight += pure;
+        }
+    }
+    if (weight <= 0)
+        throw Stuck(mark == Mark::Pole ? "no pole mark is to be seen"
+                                       : "no axis mark is to be seen");
+    return sum / weight * 100.0 / options.zoomPercent;
+}
+
+/// The way from the dancing pole mark to the axis mark, the mean over some frames; frame pixels.
+QPointF Person::fromPoleToAxis() const
 {
     constexpr int frames = 8;
     QPointF sum;
@@ -242,7 +297,9 @@ QPointF Person::poleMark() const
         waitForFrames(1);
         if (!monitorPositions.poleValid)
             throw Stuck("the pole is not shown");
-        sum += monitorPositions.poleCurrent.load();
+        sum += options.mono
+                   ? alignmentPoints.savedAxisCenter.load() - monitorPositions.poleCurrent.load()
+                   : markInPicture(Mark::Axis) - markInPicture(Mark::Pole);
     }
     return sum / frames;
 }
@@ -389,8 +446,7 @@ void Person::fineAdjust()
     say(QStringLiteral("Turn the bolts until the pole mark lies on the axis mark"));
     for (int i = 0; i < 4; ++i) {
         // The pole moves in the picture with the stars.
-        turnBoltsSmoothly(alignmentPoints.savedAxisCenter.load() - poleMark(),
-                          i == 0 ? options.boltParts : 1);
+        turnBoltsSmoothly(fromPoleToAxis(), i == 0 ? options.boltParts : 1);
     }
     show("step-13-aligned");
 }

@@ -4,6 +4,7 @@
 
 #include "tools/tour/knobs.h"
 
+#include <QImage>
 #include <QPointF>
 #include <QString>
 #include <functional>
@@ -25,7 +26,9 @@ public:
 
 /// Aligns the virtual mount by following the window's instructions with mouse and keys alone. Where
 /// a person looks at the picture for a star, the knobs' truth stands in for the eyes, a pixel or so
-/// off; where a person reads a mark or a number, it is read from the window.
+/// off. The coloured marks and the template's rings are looked for in the pixels that the window
+/// shows, and numbers are read from its labels; in the mono style, where shapes alone tell the
+/// white marks apart, the program's own positions stand in.
 class Person
 {
 public:
@@ -62,6 +65,8 @@ public:
     void align();
 
 private:
+    enum class Mark { Pole, Axis };
+
     template <typename Widget> Widget &widget(const char *name) const;
     void say(const QString &text);
     void show(const char *name);
@@ -73,7 +78,7 @@ private:
     void moveSliderTo(QSlider &slider, int value);
     void turnTemplate(const char *slider, QPointF b, QPointF a);
     void doubleClick(QPointF frame);
-    QPoint inView(QPointF frame);
+    QPoint inView(QPointF frame) const;
     void bringIntoView(QPoint view);
     void turnAxisTo(double degrees);
     void turnBoltsSmoothly(QPointF step, int parts);
@@ -82,7 +87,10 @@ private:
     bool isPickable(QPointF (Knobs::*star)() const) const;
     void waitForFrames(int count) const;
     QPointF read(const char *label) const;
-    QPointF poleMark() const;
+    QImage shownPicture() const;
+    QPointF markInPicture(Mark mark) const;
+    QPointF fromPoleToAxis() const;
+    void checkRingRound(QPointF star) const;
 
     QMainWindow &window;
     Knobs &knobs;

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+// Has every text of a window the room that it needs?
+#pragma once
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QFontMetrics>
+#include <QLabel>
+#include <QStringList>
+#include <algorithm>
+
+/// What is missing of the room that a widget's text needs; empty if nothing is.
+inline QString lackOf(const QWidget &widget)
+{
+    const auto *const label = qobject_cast<const QLabel *>(&widget);
+    const bool isText = (label && !label->text().isEmpty() && !label->text().startsWith('<')) ||
+                        qobject_cast<const QAbstractButton *>(&widget) ||
+                        qobject_cast<const QComboBox *>(&widget);
+    if (!isText)
+        return {};
+    const bool wraps = label && label->wordWrap();
+    // Text may use the line spacing above and below its letters: what counts is the ink.
+    const QFontMetrics metrics(widget.font());
+    const int neededWidth = wraps ? 0 : widget.sizeHint().width();
+    const int neededHeight = wraps ? widget.heightForWidth(widget.width())
+                                   : std::min(widget.sizeHint().height(), metrics.ascent() + 2);
+    if (neededWidth <= widget.width() && neededHeight <= widget.height())
+        return {};
+    return QStringLiteral("%1 needs %2 x %3 and has %4 x %5")
+        .arg(widget.objectName())
+        .arg(neededWidth)
+        .arg(neededHeight)
+        .arg(widget.width())
+        .arg(widget.height());
+}
+
+/// Layouts within layouts settle one after the other.
+inline void settle()
+{
+    for (int i = 0; i < 6; ++i)
+        QCoreApplication::processEvents();
+}
+
+/// One line a widget of the window, those in dialogs of its own left out.
+inline QStringList lacksIn(const QWidget &window)
+{
+    QStringList lacks;
+    for (const QWidget *const widget : window.findChildren<QWidget *>())
+        if (widget->isVisibleTo(&window) && widget->window() == &window)
+            if (const QString lack = lackOf(*widget); !lack.isEmpty())
+                lacks.append(lack);
+    return lacks;
+}

@@ -1,0 +1,250 @@
+// SPDX-License-Identifier: MIT
+// Is every text of the virtual mount there in every language, and is the right language chosen?
+#include "tests/support/catalogues.h"
+#include "virtualcamera/skyfile.h"
+#include "virtualmount/faulttexts.h"
+#include "virtualmount/languages.h"
+#include "virtualmount/toolkittexts.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QLocale>
+#include <QMap>
+#include <QSet>
+#include <QTest>
+#include <QTranslator>
+
+using virtualmount::Language;
+using virtualmount::languages;
+
+namespace
+{
+QString sourceFile(const Language &language)
+{
+    const QString name = QFileInfo(language.catalogue).completeBaseName();
+    return QStringLiteral(PROJECT_SOURCE_DIR "/virtualmount/languages/%1.ts").arg(name);
+}
+
+/// Texts that are the same in every language: numbers and signs, keys as the caps say them.
+bool isUniversal(const QString &source)
+{
+    static const QRegularExpression withoutWords(R"(^[^\p{L}]*$)");
+    return source == "Ctrl" || withoutWords.match(source).hasMatch();
+}
+
+/// Words that are written as in English in one language.
+const QMap<QString, QSet<QString>> &loanWords()
+{
+    static const QMap<QString, QSet<QString>> words{
+        {"ZH", {"Shift"}},
+        {"JA", {"Shift"}},
+        {"RU", {"Shift"}},
+        {"KO", {"Shift"}},
+        {"FR", {"&Home", "&Latitude", "L&ongitude", "&Date"}},
+        {"DE", {"&Home", "◀ West", "West", "%1 West", "&Seeing"}},
+        {"ES", {"&Home"}},
+        {"PT", {"&Home", "&Latitude", "L&ongitude", "Shift"}},
+        {"IT", {"&Home", "Camera"}},
+    };
+    return words;
+}
+
+void forEachLanguage()
+{
+    QTest::addColumn<int>("number");
+    for (std::size_t i = 1; i < languages.size(); ++i)
+        QTest::newRow(languages[i].code) << int(i);
+}
+} // namespace
+
+class MountCataloguesTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { QVERIFY(virtualmount::speak(languages.front())); }
+    void isComplete_data() { forEachLanguage(); }
+    void isComplete();
+    void keepsPlaceholders_data() { forEachLanguage(); }
+    void keepsPlaceholders();
+    void isTranslated_data() { forEachLanguage(); }
+    void isTranslated();
+    void isCompiledIn_data() { forEachLanguage(); }
+    void isCompiledIn();
+    void saysFaults_data() { forEachLanguage(); }
+    void saysFaults();
+    void followsTheUsersLanguages_data();
+    void followsTheUsersLanguages();
+    void followsTheOption_data();
+    void followsTheOption();
+    void unknownOptionsAreRefused();
+};
+
+void MountCataloguesTest::isComplete()
+{
+    QFETCH(int, number);
+    const auto reference = messagesOf(sourceFile(languages.at(1)));
+    const auto messages = messagesOf(sourceFile(languages.at(std::size_t(number))));
+    QVERIFY(reference.size() > 110);
+    QCOMPARE(messages.size(), reference.size());
+    for (int i = 0; i < messages.size(); ++i) {
+        QCOMPARE(messages[i].context, reference[i].context);
+        QCOMPARE(messages[i].source, reference[i].source);
+        QCOMPARE(messages[i].state, QString());
+        QVERIFY2(!messages[i].translation.trimmed().isEmpty(), qPrintable(messages[i].source));
+    }
+}
+
+/// And underlined letters and line ends.
+void MountCataloguesTest::keepsPlaceholders()
+{
+    QFETCH(int, number);
+    for (const Message &m : messagesOf(sourceFile(languages.at(std::size_t(number))))) {
+        QVERIFY2(placeholdersIn(m.source) == placeholdersIn(m.translation), qPrintable(m.source));
+        for (const char sign : {'&', '\n'})
+            QVERIFY2(m.source.count(sign) == m.translation.count(sign), qPrintable(m.translation));
+    }
+}
+
+void MountCataloguesTest::isTranslated()
+{
+    QFETCH(int, number);
+    const Language &language = languages.at(std::size_t(number));
+    for (const Message &m : messagesOf(sourceFile(language))) {
+        const bool maySame =
+            isUniversal(m.source) || loanWords().value(language.code).contains(m.source);
+        QVERIFY2(maySame || m.translation != m.source, qPrintable(m.source));
+    }
+}
+
+void MountCataloguesTest::isCompiledIn()
+{
+    QFETCH(int, number);
+    const Language &language = languages.at(std::size_t(number));
+    QVERIFY(virtualmount::speak(language));
+    const auto messages = messagesOf(sourceFile(language));
+    QVERIFY(!messages.isEmpty());
+    for (const Message &m : messages)
+        QCOMPARE(QCoreApplication::translate(m.context.toUtf8(), m.source.toUtf8()), m.translation);
+    QTranslator translator;
+    QVERIFY(translator.load(language.catalogue));
+    for (const auto &text : virtualmount::toolkitTexts)
+        QVERIFY2(!translator.translate(text.context, text.text).isEmpty(), text.text);
+}
+
+/// Every kind of fault that the reader of sky files knows is said in the language, and in English
+/// as the reader says it.
+void MountCataloguesTest::saysFaults()
+{
+    QFETCH(int, number);
+    int said = 0;
+    for (const char *const text :
+         {"", "[site]", "[site\n", "[nowhere]\n", "[site]\nlatitude\n", "latitude = 1\n",
+          "[site]\nheight = 1\n", "[site]\nlatitude = 1\nlatitude = 1\n", "[site]\nlatitude = 91\n",
+          "[mount]\ntracking = yes\n", "[faults]\npicture = blue\n",
+          "[faults]\nfail = everything\n", "[time]\ndate = today\n", "[faults]\ncameras = one\n",
+          "[site]\nlatitude = far\n", "[sensor]\nchannels = 2\n"}) {
+        try {
+            virtualsky::parse(text);
+        } catch (const virtualsky::SkyFileError &error) {
+            QVERIFY(virtualmount::speak(languages.front()));
+            const QString english = virtualmount::faultText(error);
+            QCOMPARE(english, QString(error.what()));
+            QVERIFY(virtualmount::speak(languages.at(std::size_t(number))));
+            const QString translated = virtualmount::faultText(error);
+            const QString key = QString::fromStdString(error.key());
+            QVERIFY2(translated.contains(key), qPrintable(translated));
+            const QString fault = english.section(": ", (error.line() > 0) + !key.isEmpty());
+            QVERIFY2(!translated.endsWith(fault), qPrintable(translated));
+            QVERIFY2(!translated.contains("line "), qPrintable(translated));
+            ++said;
+        }
+    }
+    QCOMPARE(said, 16);
+}
+
+void MountCataloguesTest::followsTheUsersLanguages_data()
+{
+    QTest::addColumn<QStringList>("user");
+    QTest::addColumn<QString>("code");
+    QTest::newRow("with a country") << QStringList{"de-AT"} << "DE";
+    QTest::newRow("with a script") << QStringList{"zh-Hans-CN"} << "ZH";
+    QTest::newRow("alone") << QStringList{"ja"} << "JA";
+    QTest::newRow("the first that there is") << QStringList{"sv-SE", "fr-CA", "de"} << "FR";
+    QTest::newRow("English first") << QStringList{"en-GB", "de-DE"} << "EN";
+    QTest::newRow("unknown") << QStringList{"sv-SE"} << "EN";
+    QTest::newRow("three letters") << QStringList{"fry-NL"} << "EN";
+    QTest::newRow("the C locale") << QStringList{"C"} << "EN";
+    QTest::newRow("none") << QStringList{} << "EN";
+}
+
+void MountCataloguesTest::followsTheUsersLanguages()
+{
+    QFETCH(QStringList, user);
+    QFETCH(QString, code);
+    QCOMPARE(QString(virtualmount::languageAmong(user).code), code);
+}
+
+void MountCataloguesTest::followsTheOption_data()
+{
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<QString>("north");
+    QTest::addColumn<QString>("number");
+    QTest::newRow("EN") << "EN"
+                        << "North"
+                        << "1.5";
+    QTest::newRow("ZH") << "ZH"
+                        << "北纬"
+                        << "1.5";
+    QTest::newRow("JA") << "JA"
+                        << "北緯"
+                        << "1.5";
+    QTest::newRow("RU") << "RU"
+                        << "Север"
+                        << "1,5";
+    QTest::newRow("FR") << "FR"
+                        << "Nord"
+                        << "1,5";
+    QTest::newRow("DE") << "DE"
+                        << "Nord"
+                        << "1,5";
+    QTest::newRow("ES") << "ES"
+                        << "Norte"
+                        << "1,5";
+    QTest::newRow("PT") << "PT"
+                        << "Norte"
+                        << "1,5";
+    QTest::newRow("IT") << "IT"
+                        << "Nord"
+                        << "1,5";
+    QTest::newRow("KO") << "KO"
+                        << "북위"
+                        << "1.5";
+    QTest::newRow("small letters") << "ko"
+                                   << "북위"
+                                   << "1.5";
+}
+
+void MountCataloguesTest::followsTheOption()
+{
+    QFETCH(QString, code);
+    QFETCH(QString, north);
+    QFETCH(QString, number);
+    QVERIFY(virtualmount::speakAsAsked(code));
+    QCOMPARE(QCoreApplication::translate("MountWindow", "North"), north);
+    QCOMPARE(QLocale().toString(1.5, 'f', 1), number);
+    QLocale::setDefault(QLocale::system());
+}
+
+void MountCataloguesTest::unknownOptionsAreRefused()
+{
+    QVERIFY(virtualmount::speak(languages.at(5)));
+    for (const char *const code : {"XX", "german", "D", "de_DE"})
+        QVERIFY2(!virtualmount::speakAsAsked(code), code);
+    QCOMPARE(QCoreApplication::translate("MountWindow", "South"), QString("Süd"));
+    QVERIFY(virtualmount::speakAsAsked(QString())); // the tests' locale is C
+    QCOMPARE(QCoreApplication::translate("MountWindow", "South"), QString("South"));
+}
+
+QTEST_GUILESS_MAIN(MountCataloguesTest)
+#include "tst_mountcatalogues.moc"

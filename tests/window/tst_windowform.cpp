@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: MIT
+// Does the window made from the form still say all that the form does, also after other languages?
+#include "tests/window/formtables.h"
+
+#include "mainwindow/mainwindow.h"
+#include "resources/resources.h"
+
+#include <memory>
+
+class WindowFormTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanupTestCase();
+    void titles();
+    void menus_data() { addMenuRows(); }
+    void menus();
+    void widgets_data() { addWidgetRows(); }
+    void widgets();
+    void ranges_data() { addRangeRows(); }
+    void ranges();
+    void sizes_data() { addSizeRows(); }
+    void sizes();
+    void otherLanguageSaysOther_data() { addMenuRows(); }
+    void otherLanguageSaysOther();
+
+private:
+    /// The two windows: as it was made, and after English, Chinese and English again.
+    QList<const MainWindow *> both() const { return {made.get(), travelled.get()}; }
+
+    std::unique_ptr<MainWindow> made, travelled;
+};
+
+void WindowFormTest::initTestCase()
+{
+    initialiseResources();
+    removeSettings();
+    made = std::make_unique<MainWindow>();
+    travelled = std::make_unique<MainWindow>();
+    for (const char *const action : {"actionChinese", "actionEnglish"}) {
+        QVERIFY(!named<QAction>(*travelled, action).isChecked());
+        named<QAction>(*travelled, action).trigger();
+    }
+}
+
+void WindowFormTest::cleanupTestCase()
+{
+    made.reset();
+    travelled.reset();
+    removeSettings();
+}
+
+void WindowFormTest::titles()
+{
+    for (const MainWindow *const window : both()) {
+        QCOMPARE(window->windowTitle(), QString("Quorvandel"));
+        QCOMPARE(titlesOf(named<QMenuBar>(*window, "menuBar")), menuTitles);
+    }
+}
+
+void WindowFormTest::menus()
+{
+    QFETCH(QStringList, entries);
+    for (const MainWindow *const window : both())
+        QCOMPARE(entriesOf(named<QMenu>(*window, QTest::currentDataTag())), entries);
+}
+
+void WindowFormTest::widgets()
+{
+    QFETCH(QString, className);
+    QFETCH(QString, text);
+    const QString name = QTest::currentDataTag();
+    if (name == "label_templateImg")
+        text.clear(); // the template has taken the text's place
+    for (const MainWindow *const window : both()) {
+        const auto &widget = named<QWidget>(*window, name);
+        QCOMPARE(QString(widget.metaObject()->className()), className);
+        const QVariant found = widget.property(textProperty(className));
+        QCOMPARE(found.isValid(), !text.isNull() || name == "label_templateImg");
+        QCOMPARE(found.toString(), text);
+    }
+}
+
+void WindowFormTest::ranges()
+{
+    for (const MainWindow *const window : both())
+        checkRange(*window);
+}
+
+void WindowFormTest::sizes()
+{
+    for (const MainWindow *const window : both())
+        checkSize(*window);
+}
+
+/// The way led through another language indeed.
+void WindowFormTest::otherLanguageSaysOther()
+{
+    QFETCH(QStringList, entries);
+    MainWindow window;
+    named<QAction>(window, "actionChinese").trigger();
+    const QString menu = QTest::currentDataTag();
+    QCOMPARE(titlesOf(named<QMenuBar>(window, "menuBar")).filter(menuTitles.first()),
+             QStringList());
+    const QStringList found = entriesOf(named<QMenu>(window, menu));
+    QCOMPARE(found.size(), entries.size());
+    static const QRegularExpression sameEverywhere("Language|Zoom");
+    QCOMPARE(found == entries, menu.contains(sameEverywhere));
+}
+
+QTEST_MAIN(WindowFormTest)
+#include "tst_windowform.moc"
