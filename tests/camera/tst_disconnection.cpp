@@ -176,19 +176,19 @@ void TestDisconnection::disconnectDuringALongFetch()
     sdk().holdFetches();
     QVERIFY(sdk().waitForHeldFetch(patience));
     const int fetches = sdk().fetchCount();
-    std::atomic<bool> disconnecting{false}, released{false};
+    std::atomic<bool> asked{false}, released{false};
     std::thread releaser([&] {
-        while (!disconnecting)
+        while (!asked)
             std::this_thread::sleep_for(std::chrono::milliseconds(1));
         std::this_thread::sleep_for(std::chrono::seconds(1));
         released = true;
         sdk().releaseFetches();
     });
-    disconnecting = true;
+    asked = true;
     w.trigger("actionConnect");
     const bool waited = released;
     releaser.join();
-    // It waits for the one fetch in flight and no longer: there was no other.
+    // It waits for the one fetch in flight, and for no other.
     QVERIFY(waited);
     QCOMPARE(sdk().fetchCount(), fetches);
     QCOMPARE(shownBy(w), atRest(w));

@@ -251,7 +251,7 @@ void SdkIntermittent::bogusFrames_data()
     QTest::newRow("largest") << sdkError << sdkError << sdkError;
 }
 
-/// As fast as they are fetched, for a while; the window goes on, and good frames are shown again.
+/// As many as are fetched, for a while; the window goes on, and good frames are shown again.
 void SdkIntermittent::bogusFrames()
 {
     QFETCH(uint, width);
@@ -269,10 +269,8 @@ void SdkIntermittent::bogusFrames()
     sdk().setFrameInterval(0);
     sdk().setFrame(width, height, channels, {1, 2, 3});
     const int before = sdk().fetchCount();
-    QTRY_VERIFY(sdk().fetchCount() > before + 300 && ticks > 10);
-    const QStringList critical = log.texts(QtCriticalMsg);
-    QVERIFY(!critical.isEmpty());
-    QCOMPARE(critical.filter("can not be shown"), critical);
+    QTRY_VERIFY(sdk().fetchCount() > before + 100 && ticks > 10);
+    QCOMPARE(log.texts(QtCriticalMsg).size(), 1); // however many there were
     giveGoodFrames();
     QVERIFY(pictureComes(w));
     QVERIFY(cameraState.cameraConnected);
@@ -296,8 +294,11 @@ void SdkIntermittent::bogusFramesBetweenGoodOnes()
     const BoxWatcher boxes;
     const LogRecorder log;
     w.trigger("actionConnect");
-    for (int picture = 0; picture < 20; ++picture)
+    for (int picture = 0; picture < 20; ++picture) {
         QVERIFY(newPicture(w));
+        QCOMPARE(w.child<QLabel>("label_showImg").pixmap(Qt::ReturnByValue).size(),
+                 QSize(320, 240));
+    }
     QCOMPARE(boxes.boxes(), QList<Box>());
     sdk().observe("GetVELDIXLiveFrame", {});
     sdk().setStatus("GetVELDIXLiveFrame", 0);
