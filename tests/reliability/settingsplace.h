@@ -3,6 +3,7 @@
 #pragma once
 
 #include "dialogs/settingsfile.h"
+#include "tests/support/ordinaryuser.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -48,4 +49,12 @@ inline void clearPlace()
         ::unlink(path);
     for (const QString &aside : keptAside())
         QFile::remove(aside);
+}
+
+/// Clears the place and gives its folder to OrdinaryUser; false if that fails.
+inline bool givePlaceAway()
+{
+    clearPlace();
+    const QByteArray folder = QCoreApplication::applicationDirPath().toLocal8Bit();
+    return geteuid() != 0 || chown(folder, OrdinaryUser::number, gid_t(-1)) == 0;
 }

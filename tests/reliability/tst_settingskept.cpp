@@ -6,7 +6,6 @@
 #include "mainwindow/mainwindow.h"
 #include "resources/resources.h"
 #include "tests/support/logrecorder.h"
-#include "tests/support/ordinaryuser.h"
 
 #include <QSettings>
 
@@ -15,14 +14,19 @@ class SettingsKeptTest : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { initialiseResources(); }
-    void init() { clearPlace(); }
+    void initTestCase();
     void cleanup() { clearPlace(); }
     void nothingIsLost_data();
     void nothingIsLost();
     void aSecondOneIsKeptToo();
     void damagedFileThatCanNotBeWritten();
 };
+
+void SettingsKeptTest::initTestCase()
+{
+    initialiseResources();
+    QVERIFY(givePlaceAway());
+}
 
 void SettingsKeptTest::nothingIsLost_data()
 {

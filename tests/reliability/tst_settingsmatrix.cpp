@@ -12,7 +12,6 @@
 #include "tests/reliability/processcounts.h"
 #include "tests/support/logrecorder.h"
 #include "tests/support/mainwindowprobe.h"
-#include "tests/support/ordinaryuser.h"
 #include "tests/support/patience.h"
 
 #include <QDir>
@@ -153,9 +152,7 @@ private slots:
 void SettingsMatrix::initTestCase()
 {
     initialiseResources();
-    clearPlace();
-    const QByteArray folder = QCoreApplication::applicationDirPath().toLocal8Bit();
-    QVERIFY(geteuid() != 0 || chown(folder, OrdinaryUser::number, gid_t(-1)) == 0);
+    QVERIFY(givePlaceAway());
 }
 
 void SettingsMatrix::content_data()
