@@ -84,7 +84,7 @@ CameraWindow::CameraWindow(const QByteArray &settings, const std::function<void(
     window = std::make_unique<MainWindow>();
     window->resize(1600, 1100);
     window->show();
-    if (!QTest::qWaitForWindowExposed(window.get()))
+    if (!QTest::qWaitForWindowExposed(window.get(), patience))
         qFatal("the window does not come up");
 }
 
@@ -110,7 +110,7 @@ void CameraWindow::call(const char *slot) const
 void CameraWindow::connectCamera() const
 {
     trigger("actionConnect");
-    if (!QTest::qWaitFor([] { return !sdkCalls({"BeginVELDIXLive"}).isEmpty(); }))
+    if (!comesTrue([] { return !sdkCalls({"BeginVELDIXLive"}).isEmpty(); }))
         qFatal("the live mode does not begin");
 }
 
@@ -119,14 +119,14 @@ bool CameraWindow::waitForNewFrame() const
     // A picture of a frame fetched from now on is shown once this many more were taken: the one
     // being worked on, two that wait, and one to be sure of.
     sdk().setFramesLeft(0);
-    const bool drained = QTest::qWaitFor([] {
+    const bool drained = comesTrue([] {
         const int count = sdk().fetchCount();
         QTest::qWait(30);
         return waitingFrames().isEmpty() && sdk().fetchCount() > count;
     });
     child<QLabel>("label_showImg").clear();
     sdk().setFramesLeft(-1);
-    return drained && QTest::qWaitFor([this] {
+    return drained && comesTrue([this] {
                return !child<QLabel>("label_showImg").pixmap(Qt::ReturnByValue).isNull();
            });
 }

@@ -4,6 +4,7 @@
 
 #include "mainwindow/mainwindow.h"
 #include "tests/camera/recordingcamera.h"
+#include "tests/support/patience.h"
 
 #include <QMessageBox>
 #include <QTimer>

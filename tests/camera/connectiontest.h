@@ -3,6 +3,7 @@
 #pragma once
 
 #include "camera/camerastate.h"
+#include "dialogs/magnifierwidget.h"
 #include "tests/camera/camerawindow.h"
 #include "tests/support/logrecorder.h"
 
@@ -69,13 +70,22 @@ inline char *toString(const Shown &s)
                                   .arg(s.title)));
 }
 
+/// Whether an action is enabled as soon as it is visible: a hidden one never is.
+inline bool wouldBeEnabled(QAction &action)
+{
+    const bool visible = action.isVisible();
+    action.setVisible(true);
+    const bool enabled = action.isEnabled();
+    action.setVisible(visible);
+    return enabled;
+}
+
 inline Shown shownBy(const CameraWindow &w)
 {
     const bool enabled = w.child<QMenu>("menuZoom").isEnabled();
-    // actionDisplay_Template is not among them: a hidden action is never enabled.
-    for (const char *const name :
-         {"actionSave_As", "actionAstronomical_Refraction", "actionManual_Trace"})
-        if (w.child<QAction>(name).isEnabled() != enabled)
+    for (const char *const name : {"actionSave_As", "actionDisplay_Template",
+                                   "actionAstronomical_Refraction", "actionManual_Trace"})
+        if (wouldBeEnabled(w.child<QAction>(name)) != enabled)
             qFatal("%s differs from the other actions", name);
     return {cameraState.cameraConnected, w.child<QAction>("actionConnect").text(), enabled,
             w.child<QWidget>("tabWidget_tipMsg").isVisible(), w.window->windowTitle()};
@@ -87,4 +97,20 @@ inline const Shown connectedState{true, "Disconnect", true, true, idTitle};
 inline Shown atRest(const CameraWindow &w)
 {
     return {false, "Connect", false, false, w.window->windowTitle()};
+}
+
+/// What the magnifier has painted last, without its frame and cross.
+inline QImage magnified(const CameraWindow &w)
+{
+    return w.window->findChild<MagnifierWidget *>()->magnifiedRegion().toImage();
+}
+
+/// Whether there is a picture of which nothing can be seen.
+inline bool isClear(const QImage &picture)
+{
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            if (qAlpha(picture.pixel(x, y)) != 0)
+                return false;
+    return !picture.isNull();
 }

@@ -23,6 +23,8 @@ private slots:
     void connectAndDisconnect();
     void choice_data();
     void choice();
+    void manyCameras_data();
+    void manyCameras();
     void openingIsNotReached_data();
     void openingIsNotReached();
     void readBack_data();
@@ -160,6 +162,35 @@ void TestConnection::choice()
     QCOMPARE(bool(cameraState.cameraConnected), !opened.isEmpty());
     if (!opened.isEmpty())
         QCOMPARE(w.window->windowTitle(), "Quorvandel - ID:" + opened);
+}
+
+void TestConnection::manyCameras_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::addColumn<int>("read"); ///< IDs that are asked for
+    QTest::newRow("one less than the limit") << 1023 << 1023;
+    QTest::newRow("the limit") << 1024 << 1024;
+    QTest::newRow("one more") << 1025 << 1024;
+    QTest::newRow("most") << std::numeric_limits<int>::max() << 1024;
+}
+
+/// A library that tells of more cameras than can be is not asked for the IDs of all.
+void TestConnection::manyCameras()
+{
+    QFETCH(int, count);
+    QFETCH(int, read);
+    const CameraWindow w;
+    sdk().setCameras({"OTHER-1"});
+    sdk().setCameraCount(count);
+    sdk().clearCalls();
+    const BoxWatcher boxes;
+    w.trigger("actionConnect");
+    QStringList calls{"ScanVELDIX()"};
+    for (int index = 0; index < read; ++index)
+        calls.append(QStringLiteral("GetVELDIXId(%1)").arg(index));
+    QCOMPARE(sdkCalls(), calls);
+    QCOMPARE(boxes.boxes(), QList<Box>{notFound});
+    QCOMPARE(shownBy(w), atRest(w));
 }
 
 void TestConnection::openingIsNotReached_data()

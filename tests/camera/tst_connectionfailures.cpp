@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What if an operation fails while the camera is connected or disconnected?
 #include "tests/camera/connectiontest.h"
+#include "tests/camera/pickingwindow.h"
 
 #include <QLabel>
 #include <QtTest>
@@ -128,6 +129,11 @@ void TestConnectionFailures::failedCloseLeavesItConnected()
     showFrame(starFrame({{640, 480}}));
     w.connectCamera();
     QVERIFY(w.waitForNewFrame());
+    auto &image = w.child<QLabel>("label_showImg");
+    auto &position = w.child<QLabel>("positionLabel");
+    sendMouse(image, QEvent::MouseMove, {300, 400});
+    QCOMPARE(position.text(), QStringLiteral("300.0,400.0"));
+    QTRY_VERIFY(!isClear(magnified(w)));
     sdk().setStatus("CloseVELDIX", 1);
     sdk().clearCalls();
     const LogRecorder log;
@@ -138,7 +144,9 @@ void TestConnectionFailures::failedCloseLeavesItConnected()
     QCOMPARE(shownBy(w), connectedState);
     QVERIFY(cameraHandle != nullptr);
     // What follows the closing is done all the same.
-    QVERIFY(w.child<QLabel>("label_showImg").pixmap(Qt::ReturnByValue).isNull());
+    QVERIFY(image.pixmap(Qt::ReturnByValue).isNull());
+    QCOMPARE(position.text(), QString());
+    QTRY_VERIFY(isClear(magnified(w)));
     QCOMPARE(measuredRate().whole, 0);
     QVERIFY(waitingFrames().isEmpty());
     QTRY_VERIFY(log.contains(QtDebugMsg, "CaptureThread done"));

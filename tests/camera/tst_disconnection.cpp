@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 // How is the camera let go, with frames in flight, in a hurry, and as the window closes?
-#include "dialogs/magnifierwidget.h"
 #include "tests/camera/connectiontest.h"
 #include "tests/support/mainwindowprobe.h"
 
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPushButton>
+#include <QScopeGuard>
+#include <QScrollArea>
 #include <QtTest>
 #include <atomic>
 
@@ -16,12 +18,18 @@ class TestDisconnection : public QObject
 private slots:
     void cleanup();
     void disconnectClearsThePicture();
+    void disconnectPaintsTheMagnifier();
     void disconnectWithoutHandle();
     void quickReconnect();
     void manyReconnectsWhileFramesFlow();
+    void disconnectWhileItBegins();
     void disconnectDuringALongFetch();
+    void disconnectInEveryStep_data();
+    void disconnectInEveryStep();
     void closeWindow_data();
     void closeWindow();
+    void closeWindowWithoutHandle();
+    void settingsAreSavedBeforeTheCameraStops();
     void closeAgainAfterAFailedClose();
     void closeWindowStopsTheTimers();
     void closeWindowWhileFramesFlow();
@@ -56,19 +64,29 @@ void TestDisconnection::disconnectClearsThePicture()
     QCOMPARE(measuredRate().tenths, 0);
     QTRY_COMPARE(rate.text(), QStringLiteral("FPS : 0.0"));
     QVERIFY(waitingFrames().isEmpty());
-    auto *const magnifier = w.window->findChild<MagnifierWidget *>();
-    magnifier->repaint();
-    const QImage region = magnifier->magnifiedRegion().toImage();
-    QVERIFY(!region.isNull());
-    for (int y = 0; y < region.height(); ++y)
-        for (int x = 0; x < region.width(); ++x)
-            QCOMPARE(qAlpha(region.pixel(x, y)), 0);
     // Nothing comes after it: the frames that are still announced are not fetched.
     const int fetches = sdk().fetchCount();
     QTest::qWait(150);
     QVERIFY(sdk().fetchCount() <= fetches + 1);
     QVERIFY(image.pixmap(Qt::ReturnByValue).isNull());
     QVERIFY(waitingFrames().isEmpty());
+}
+
+/// By itself: nothing else is painted that would paint it along.
+void TestDisconnection::disconnectPaintsTheMagnifier()
+{
+    const CameraWindow w;
+    showFrame(starFrame({{640, 480}}));
+    w.connectCamera();
+    QVERIFY(w.waitForNewFrame());
+    QTRY_VERIFY(!isClear(magnified(w)) && !magnified(w).isNull());
+    w.child<QScrollArea>("scrollArea_showImg").viewport()->setUpdatesEnabled(false);
+    sdk().setFramesLeft(0);
+    QTRY_VERIFY(waitingFrames().isEmpty());
+    QTest::qWait(100); // for what is still to be painted
+    QVERIFY(!isClear(magnified(w)));
+    w.trigger("actionConnect");
+    QTRY_VERIFY(isClear(magnified(w)));
 }
 
 /// The thread is told to stop, and that is all.
@@ -124,6 +142,31 @@ void TestDisconnection::manyReconnectsWhileFramesFlow()
     QVERIFY(w.child<QLabel>("label_showImg").pixmap(Qt::ReturnByValue).isNull());
 }
 
+/// The capture thread may be beginning still: the camera is not closed under it.
+void TestDisconnection::disconnectWhileItBegins()
+{
+    std::atomic<bool> inside{false}, goOn{false};
+    const CameraWindow w;
+    const auto release = qScopeGuard([&goOn] { goOn = true; });
+    sdk().observe("BeginVELDIXLive", [&] {
+        inside = true;
+        while (!goOn)
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    });
+    w.trigger("actionConnect");
+    QTRY_VERIFY(inside);
+    std::thread releaser([&goOn] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        goOn = true;
+    });
+    w.trigger("actionConnect");
+    const bool waited = goOn;
+    releaser.join();
+    QVERIFY(waited);
+    QCOMPARE(sdkCalls({"BeginVELDIXLive", "StopVELDIXLive", "CloseVELDIX"}), beginning + closing);
+    QCOMPARE(shownBy(w), atRest(w));
+}
+
 void TestDisconnection::disconnectDuringALongFetch()
 {
     const CameraWindow w;
@@ -131,12 +174,12 @@ void TestDisconnection::disconnectDuringALongFetch()
     w.connectCamera();
     sdk().setFramesLeft(-1);
     sdk().holdFetches();
-    QVERIFY(sdk().waitForHeldFetch(5000));
+    QVERIFY(sdk().waitForHeldFetch(patience));
     const int fetches = sdk().fetchCount();
     std::atomic<bool> asked{false}, released{false};
     std::thread releaser([&] {
         while (!asked)
-            std::this_thread::yield();
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
         std::this_thread::sleep_for(std::chrono::seconds(1));
         released = true;
         sdk().releaseFetches();
@@ -149,10 +192,50 @@ void TestDisconnection::disconnectDuringALongFetch()
     QVERIFY(waited);
     QCOMPARE(sdk().fetchCount(), fetches);
     QCOMPARE(shownBy(w), atRest(w));
+    auto &rate = w.child<QLabel>("fpsLabel");
+    QTRY_COMPARE(rate.text(), QStringLiteral("FPS : 0.0"));
     QTest::qWait(700); // longer than the rate's timer
+    QCOMPARE(sdk().fetchCount(), fetches);
     QVERIFY(waitingFrames().isEmpty());
     QVERIFY(w.child<QLabel>("label_showImg").pixmap(Qt::ReturnByValue).isNull());
-    QCOMPARE(w.child<QLabel>("fpsLabel").text(), QStringLiteral("FPS : 0.0"));
+    QCOMPARE(rate.text(), QStringLiteral("FPS : 0.0"));
+}
+
+void TestDisconnection::disconnectInEveryStep_data()
+{
+    QTest::addColumn<int>("step");
+    for (int step = 1; step <= 13; ++step)
+        QTest::addRow("step %d", step) << step;
+}
+
+/// The wizard is put away, and remembers where it was.
+void TestDisconnection::disconnectInEveryStep()
+{
+    QFETCH(int, step);
+    const CameraWindow w;
+    showFrame(starFrame({{640, 480}}));
+    w.connectCamera();
+    QVERIFY(w.waitForNewFrame());
+    MainWindowProbe(*w.window).switchStep(step);
+    auto &mask = w.child<QLabel>("label_templateImg");
+    auto &arrow = w.child<QLabel>("directionArrow");
+    const bool hasTemplate = step == 2 || step == 9 || step == 11;
+    if (hasTemplate)
+        QTest::mouseDClick(&w.child<QLabel>("label_showImg"), Qt::LeftButton, {}, {640, 480});
+    QCOMPARE(mask.isVisible(), hasTemplate);
+    QCOMPARE(arrow.isVisible(), step == 4 || step == 6);
+    QVERIFY(w.child<QPushButton>("pushButton_head_region").isChecked());
+    QVERIFY(w.child<QWidget>("widget_region").isVisible());
+    w.trigger("actionConnect");
+    QCOMPARE(shownBy(w), atRest(w)); // the pages among it
+    QVERIFY(!mask.isVisible());
+    QVERIFY(!arrow.isVisible());
+    for (const char *const section : {"region", "setting", "confirm", "rough", "precise"}) {
+        const QByteArray name = section;
+        QVERIFY2(!w.child<QPushButton>("pushButton_head_" + name).isChecked(), section);
+        QVERIFY2(!w.child<QWidget>("widget_" + name).isVisible(), section);
+    }
+    QCOMPARE(w.window->step(), step);
 }
 
 void TestDisconnection::closeWindow_data()
@@ -197,6 +280,43 @@ void TestDisconnection::closeWindow()
     QCOMPARE(bool(cameraState.cameraConnected), connectedAfterwards);
     QVERIFY(!cameraState.sdkReady);
     QVERIFY(QFile::exists(settingsPath()));
+}
+
+/// There is nothing to close, and nothing to say; the library is given up all the same.
+void TestDisconnection::closeWindowWithoutHandle()
+{
+    const CameraWindow w;
+    w.connectCamera();
+    QTRY_VERIFY(sdk().fetchCount() > 0);
+    cameraHandle = nullptr;
+    sdk().clearCalls();
+    const LogRecorder log;
+    QVERIFY(w.window->close());
+    QCOMPARE(sdkCalls(), QStringList());
+    QCOMPARE(sdkLog(log), QStringList());
+    QVERIFY(cameraState.cameraConnected);
+    QVERIFY(!cameraState.sdkReady);
+    QVERIFY(QFile::exists(settingsPath()));
+}
+
+/// A library that crashes or hangs as it stops takes no setting with it.
+void TestDisconnection::settingsAreSavedBeforeTheCameraStops()
+{
+    QByteArray atStop;
+    const CameraWindow w;
+    w.connectCamera();
+    sdk().observe("StopVELDIXLive", [&atStop] {
+        QFile file(settingsPath());
+        if (file.open(QIODevice::ReadOnly))
+            atStop = file.readAll();
+    });
+    QVERIFY(!QFile::exists(settingsPath()));
+    QVERIFY(w.window->close());
+    QCOMPARE(sdkCalls({"StopVELDIXLive"}).size(), 1);
+    QFile file(settingsPath());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(!atStop.isEmpty());
+    QCOMPARE(atStop, file.readAll());
 }
 
 /// The second closing lets the camera go; the library was given up by the first.
@@ -256,7 +376,7 @@ void TestDisconnection::closeWindowDuringALongFetch()
         const CameraWindow w;
         w.connectCamera();
         sdk().holdFetches();
-        QVERIFY(sdk().waitForHeldFetch(5000));
+        QVERIFY(sdk().waitForHeldFetch(patience));
         sdk().clearCalls();
         std::thread releaser([] {
             std::this_thread::sleep_for(std::chrono::milliseconds(300));

@@ -206,7 +206,7 @@ void TestMonitorMode::starsLostAndFoundAgain()
             overlayFlags.showMonitorCross);
     const auto follow = [&](QPointF moved) {
         w.show({starB + moved, starA + moved});
-        return QTest::qWaitFor([&] {
+        return comesTrue([&] {
             return isNear(monitorPositions.starACurrent, starA + moved) &&
                    isNear(monitorPositions.starBCurrent, starB + moved);
         });

@@ -146,6 +146,8 @@ private slots:
     void pixels();
     void nothingShown();
     void currentState();
+    void eachFlagDrawsItsMark_data();
+    void eachFlagDrawsItsMark();
     void poleIsLeftOutWhileThereIsNone();
 };
 
@@ -291,6 +293,42 @@ void TestOverlay::currentState()
     QCOMPARE(m.starA, QPointF(6, 7));
     QCOMPARE(m.starB, QPointF(8, 9));
     QCOMPARE(m.pole, QPointF(10, 11));
+}
+
+void TestOverlay::eachFlagDrawsItsMark_data()
+{
+    QTest::addColumn<QString>("mark");
+    QTest::addColumn<bool>("mono");
+    for (const char *const mark : {"none", "axis", "circle", "arc", "stars", "pole", "all"})
+        for (const bool mono : {false, true})
+            QTest::addRow("%s, %s", mark, mono ? "mono" : "colour") << mark << mono;
+}
+
+/// From the shared state to the pixels.
+void TestOverlay::eachFlagDrawsItsMark()
+{
+    QFETCH(QString, mark);
+    QFETCH(bool, mono);
+    const OverlayMarks wanted = shown(qPrintable(mark), mono);
+    const auto flag = [&mark](const char *name) { return mark == name || mark == "all"; };
+    overlayFlags.showAxisMark = flag("axis");
+    overlayFlags.showStarCircle = flag("circle");
+    overlayFlags.showRotatingArc = flag("arc");
+    overlayFlags.showMonitorCross = flag("stars");
+    overlayFlags.showPoleRect = flag("pole");
+    overlayFlags.monoStyle = mono;
+    overlayFlags.arcAngle = wanted.arcAngle;
+    alignmentPoints.savedAxisCenter = wanted.axisCenter;
+    alignmentPoints.savedAxisRadius = wanted.axisRadius;
+    alignmentPoints.polarisTarget = wanted.arcCenter;
+    monitorPositions.starACurrent = wanted.starA;
+    monitorPositions.starBCurrent = wanted.starB;
+    monitorPositions.poleCurrent = wanted.pole;
+    monitorPositions.poleValid = true;
+    QImage picture = sky();
+    paintOverlay(picture, currentMarks());
+    QVERIFY(picture == drawn(wanted));
+    QCOMPARE(picture == sky(), mark == "none");
 }
 
 void TestOverlay::poleIsLeftOutWhileThereIsNone()

@@ -11,7 +11,7 @@ namespace
 const QString soname = QStringLiteral("libveldix.so.20");
 const QString allFail = QStringLiteral("111111111111111"); // the fifteen operations after Init
 
-enum class File { None, Whole, Lacking, Unreadable };
+enum class File { None, Whole, Lacking, Unreadable, Crashing };
 
 bool put(File file, const QString &folder)
 {
@@ -25,7 +25,10 @@ bool put(File file, const QString &folder)
         QFile text(target);
         return text.open(QIODevice::WriteOnly) && text.write("no library") > 0;
     }
-    return QFile::copy(file == File::Whole ? WHOLE_LIBRARY : LACKING_LIBRARY, target);
+    return QFile::copy(file == File::Whole     ? WHOLE_LIBRARY
+                       : file == File::Lacking ? LACKING_LIBRARY
+                                               : CRASHING_LIBRARY,
+                       target);
 }
 } // namespace
 
@@ -87,6 +90,12 @@ void TestSdkLoader::search_data()
     QTest::newRow("no library under the name")
         << File::Unreadable << File::Whole << File::None << "lib/quorvandel"
         << "";
+    QTest::newRow("crashing one on the path, whole one behind it")
+        << File::Crashing << File::Whole << File::None << "lib/quorvandel"
+        << soname + " is left out: it ends or holds up the program as it is loaded";
+    QTest::newRow("crashing one on the path, none behind it")
+        << File::Crashing << File::None << File::None << ""
+        << soname + " is left out: it ends or holds up the program as it is loaded";
     QTest::newRow("lacks a function, loader's path")
         << File::Lacking << File::None << File::None << "" << lacks.arg(soname);
     QTest::newRow("lacks a function, a whole one behind it")
@@ -115,6 +124,7 @@ void TestSdkLoader::search()
     QProcess probe;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("LD_LIBRARY_PATH", root + "/path");
+    environment.insert("CRASHING_SDK", "abort");
     probe.setProcessEnvironment(environment);
     probe.start(root + "/bin/sdkprobe", QStringList());
     QVERIFY(probe.waitForFinished());
@@ -139,7 +149,7 @@ void TestSdkLoader::search()
         QVERIFY2(loaded.size() <= 1, qPrintable(loaded.join('\n')));
     const QStringList critical = lines.filter(QRegularExpression("^critical "));
     if (isLoaded)
-        QCOMPARE(critical, QStringList());
+        QCOMPARE(critical, message.isEmpty() ? QStringList() : QStringList("critical " + message));
     else
         QVERIFY2(critical.value(0).startsWith("critical " + message.replace("@", root)),
                  qPrintable(critical.join('\n')));

@@ -8,6 +8,7 @@
 #include <condition_variable>
 #include <cstddef>
 #include <cstring>
+#include <functional>
 #include <list>
 #include <map>
 #include <mutex>
@@ -27,6 +28,7 @@ struct Camera {
 
 struct Script {
     std::map<std::string, std::uint32_t> statuses;
+    std::map<std::string, std::function<void()>> observers;
     std::vector<std::string> ids{"QUORVANDEL-0001"};
     bool terminated = true;
     std::int32_t cameraCount = 1;
@@ -63,6 +65,12 @@ public:
     int fetchCount() const override { return read(fetches); }
     std::vector<std::thread::id> fetchThreads() const override { return read(threadsFetching); }
     std::vector<std::string> violations() const override { return read(broken); }
+    void observe(const std::string &operation, std::function<void()> observer) override
+    {
+        std::unique_lock<std::mutex> lock(mutex);
+        script.observers[operation] = std::move(observer);
+        changed.wait(lock, [&] { return observed[operation] == 0; });
+    }
     void setStatus(const std::string &operation, std::uint32_t status) override
     {
         write([&] { script.statuses[operation] = status; });
@@ -142,8 +150,9 @@ public:
     template <typename... Values>
     std::uint32_t onHandle(const char *operation, void *handle, const Values &...values)
     {
-        const std::lock_guard<std::mutex> lock(mutex);
+        std::unique_lock<std::mutex> lock(mutex);
         record(callText(operation, nameOf(handle), values...));
+        letObserve(lock, operation, handle);
         return check(operation, handle) ? statusOf(operation) : sdkError;
     }
 
@@ -187,6 +196,26 @@ private:
         return false;
     }
     bool nextFrameIsDue();
+    /// Runs the operation's observer, if any, with the lock let go; meanwhile the call counts as
+    /// one that is under way on the camera, if any.
+    void letObserve(std::unique_lock<std::mutex> &lock, const char *operation,
+                    void *handle = nullptr)
+    {
+        const std::function<void()> observer = script.observers[operation];
+        if (!observer)
+            return;
+        Camera *const camera = cameraOf(handle);
+        if (camera)
+            ++camera->callsInside;
+        ++observed[operation];
+        lock.unlock();
+        observer();
+        lock.lock();
+        --observed[operation];
+        if (camera)
+            --camera->callsInside;
+        changed.notify_all();
+    }
 
     mutable std::mutex mutex;
     mutable std::condition_variable changed;
@@ -196,6 +225,7 @@ private:
     std::vector<SdkCall> recorded;
     std::vector<std::string> broken;
     std::vector<std::thread::id> threadsFetching;
+    std::map<std::string, int> observed; ///< calls that are in an observer in this moment
     int fetches = 0;
     int heldFetches = 0;
 };
@@ -217,22 +247,25 @@ void Recorder::reset()
 
 std::uint32_t Recorder::plain(const char *operation)
 {
-    const std::lock_guard<std::mutex> lock(mutex);
+    std::unique_lock<std::mutex> lock(mutex);
     record(callText(operation));
+    letObserve(lock, operation);
     return statusOf(operation);
 }
 
 std::int32_t Recorder::scan()
 {
-    const std::lock_guard<std::mutex> lock(mutex);
+    std::unique_lock<std::mutex> lock(mutex);
     record(callText("ScanVELDIX"));
+    letObserve(lock, "ScanVELDIX");
     return script.cameraCount;
 }
 
 std::uint32_t Recorder::id(std::int32_t index, char *text)
 {
-    const std::lock_guard<std::mutex> lock(mutex);
+    std::unique_lock<std::mutex> lock(mutex);
     record(callText("GetVELDIXId", index));
+    letObserve(lock, "GetVELDIXId");
     if (index < 0 || std::size_t(index) >= script.ids.size() || index == script.failingId)
         return sdkError;
     const std::string &id = script.ids[std::size_t(index)];
@@ -242,8 +275,9 @@ std::uint32_t Recorder::id(std::int32_t index, char *text)
 
 void *Recorder::open(const char *id)
 {
-    const std::lock_guard<std::mutex> lock(mutex);
+    std::unique_lock<std::mutex> lock(mutex);
     record(callText("OpenVELDIX", id));
+    letObserve(lock, "OpenVELDIX");
     if (statusOf("OpenVELDIX") != 0)
         return nullptr;
     cameras.push_back({++opened, true, 0});
@@ -252,13 +286,14 @@ void *Recorder::open(const char *id)
 
 std::uint32_t Recorder::close(void *handle)
 {
-    const std::lock_guard<std::mutex> lock(mutex);
+    std::unique_lock<std::mutex> lock(mutex);
     record(callText("CloseVELDIX", nameOf(handle)));
+    letObserve(lock, "CloseVELDIX");
     if (!check("CloseVELDIX", handle))
         return sdkError;
     Camera *const camera = cameraOf(handle);
     if (camera->callsInside > 0)
-        broken.push_back("CloseVELDIX during a fetch");
+        broken.push_back("CloseVELDIX during another call");
     const std::uint32_t status = statusOf("CloseVELDIX");
     camera->open = status != 0;
     return status;
@@ -266,8 +301,9 @@ std::uint32_t Recorder::close(void *handle)
 
 double Recorder::param(void *handle, std::int32_t control)
 {
-    const std::lock_guard<std::mutex> lock(mutex);
+    std::unique_lock<std::mutex> lock(mutex);
     record(callText("GetVELDIXParam", nameOf(handle), control));
+    letObserve(lock, "GetVELDIXParam", handle);
     return check("GetVELDIXParam", handle) ? script.params[control] : 0.0;
 }
 
@@ -297,6 +333,7 @@ std::uint32_t Recorder::fetch(void *handle, std::uint32_t *width, std::uint32_t 
     const std::thread::id thread = std::this_thread::get_id();
     if (std::find(threadsFetching.begin(), threadsFetching.end(), thread) == threadsFetching.end())
         threadsFetching.push_back(thread);
+    letObserve(lock, "GetVELDIXLiveFrame", handle);
     if (!check("GetVELDIXLiveFrame", handle))
         return sdkError;
     Camera *const camera = cameraOf(handle);

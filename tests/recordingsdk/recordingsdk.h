@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <thread>
 #include <vector>
@@ -34,6 +35,10 @@ public:
     /// Calls with a handle that was closed or never given out, and closings during another call.
     virtual std::vector<std::string> violations() const = 0;
 
+    /// `observer` runs inside every call of `operation` from now on, on the caller's thread, before
+    /// the answer is chosen: it may look about, tell the library how to answer, or wait. An empty
+    /// one ends that. Returns once the earlier observer is left; not to be called by an observer.
+    virtual void observe(const std::string &operation, std::function<void()> observer) = 0;
     /// The status that `operation` gives from now on; OpenVELDIX gives null for anything but 0.
     virtual void setStatus(const std::string &operation, std::uint32_t status) = 0;
     /// The IDs of the cameras, each copied with a NUL behind it, or without one if so told.

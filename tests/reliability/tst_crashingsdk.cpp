@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 // Does the program start although the camera library crashes, ends it or hangs as it is loaded?
+#include "tests/reliability/handledsignals.h"
+#include "tests/support/patience.h"
+
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
+#include <csignal>
 
 class CrashingSdkTest : public QObject
 {
@@ -38,13 +42,13 @@ void CrashingSdkTest::programStarts()
     program.setReadChannel(QProcess::StandardError);
     program.start(PROGRAM_FILE, QStringList());
     QByteArray errors;
-    while (!errors.contains("InitVELDIXResource: failed") && program.waitForReadyRead(60000))
+    while (!errors.contains("InitVELDIXResource: failed") && program.waitForReadyRead(2 * patience))
         errors += program.readAllStandardError();
     QVERIFY2(errors.contains("InitVELDIXResource: failed"), errors);
     QVERIFY2(errors.contains(complaint), errors);
-    QTest::qWait(500); // from the last line of the constructor to the event loop
+    QTRY_VERIFY(waitsForSignal(program.processId(), SIGTERM));
     program.terminate();
-    QVERIFY(program.waitForFinished(60000));
+    QVERIFY(program.waitForFinished(patience));
     QCOMPARE(program.exitStatus(), QProcess::NormalExit);
     QCOMPARE(program.exitCode(), 0);
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Does the log file hold every line of every thread, and does the program write one when built so?
 #include "app/logging.h"
+#include "tests/reliability/handledsignals.h"
+#include "tests/support/patience.h"
 
 #include <QDir>
 #include <QFile>
@@ -8,12 +10,24 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
+#include <csignal>
 #include <memory>
 #include <thread>
 
 namespace
 {
 constexpr int lineCount = 10000;
+
+/// Starts the program that was built with file logging, with `home` as its user's home.
+void startLogging(QProcess &program, const QString &home)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("HOME", home);
+    environment.insert("XDG_CONFIG_HOME", home + "/config");
+    environment.insert("QT_LOGGING_TO_CONSOLE", "1");
+    program.setProcessEnvironment(environment);
+    program.start(LOGGING_PROGRAM, QStringList());
+}
 
 QStringList linesOf(const QString &path)
 {
@@ -36,6 +50,7 @@ private slots:
     void twoThreadsLoseNoLine_data();
     void twoThreadsLoseNoLine();
     void programWritesItsLog();
+    void programGoesOnWithoutItsLog();
 
 private:
     std::unique_ptr<QTemporaryDir> folder;
@@ -88,15 +103,10 @@ void FileLogTest::twoThreadsLoseNoLine()
 /// The program itself, built with file logging: its messages are in the file and nowhere else.
 void FileLogTest::programWritesItsLog()
 {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("HOME", folder->path());
-    environment.insert("XDG_CONFIG_HOME", folder->path() + "/config");
-    environment.insert("QT_LOGGING_TO_CONSOLE", "1");
     const QString documents = folder->path() + "/Documents";
     QVERIFY(QDir().mkpath(documents));
     QProcess program;
-    program.setProcessEnvironment(environment);
-    program.start(LOGGING_PROGRAM, QStringList());
+    startLogging(program, folder->path());
     QVERIFY(program.waitForStarted());
     const QDir log(documents + "/Quorvandel/Log");
     const auto text = [&log] {
@@ -105,12 +115,33 @@ void FileLogTest::programWritesItsLog()
             all += linesOf(log.filePath(name)).join('\n');
         return all;
     };
-    QTRY_VERIFY_WITH_TIMEOUT(text().contains("InitVELDIX"), 60000);
+    QTRY_VERIFY(text().contains("InitVELDIX"));
     program.terminate();
-    QVERIFY(program.waitForFinished(60000));
+    QVERIFY(program.waitForFinished(patience));
     QCOMPARE(log.entryList(QDir::Files).size(), 1);
     QVERIFY2(text().contains("\tDebug\t change region to"), qPrintable(text()));
     QVERIFY(!program.readAllStandardError().contains("change region to"));
+}
+
+/// With a file in the place of its folder it starts and ends as ever, and complains line by line.
+void FileLogTest::programGoesOnWithoutItsLog()
+{
+    const QString inTheWay = folder->path() + "/Documents/Quorvandel";
+    QVERIFY(QDir().mkpath(folder->path() + "/Documents"));
+    QFile file(inTheWay);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QProcess program;
+    startLogging(program, folder->path());
+    QVERIFY(program.waitForStarted());
+    QTRY_VERIFY(waitsForSignal(program.processId(), SIGTERM));
+    program.terminate();
+    QVERIFY(program.waitForFinished(patience));
+    QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(program.exitCode(), 0);
+    const QByteArray errors = program.readAllStandardError();
+    QVERIFY2(errors.count("Failed to open log file.") > 2, errors);
+    QVERIFY2(!errors.contains("change region to"), errors);
+    QVERIFY(QFileInfo(inTheWay).isFile());
 }
 
 QTEST_GUILESS_MAIN(FileLogTest)

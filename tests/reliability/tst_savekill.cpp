@@ -15,8 +15,9 @@
 namespace
 {
 constexpr int kills = 200;
-/// A save waits no longer than that for what a killed process has left, milliseconds.
-constexpr int patience = 5000;
+/// A save waits no longer than that for what a killed process has left, milliseconds: a lock that
+/// nobody lets go is waited for half a minute.
+constexpr int longestWait = 20000;
 
 /// Two records that share no value; the second one's file takes many writes.
 Settings recordOf(bool second)
@@ -108,7 +109,7 @@ void SaveKillTest::killedWhileSaving()
     qInfo("%d times the first, %d times the second; a save took %lld ms at most", seen[0], seen[1],
           longest);
     QVERIFY(seen[0] > 0 && seen[1] > 0);
-    QVERIFY2(longest < patience, qPrintable(QString::number(longest)));
+    QVERIFY2(longest < longestWait, qPrintable(QString::number(longest)));
 }
 
 int main(int argc, char *argv[])

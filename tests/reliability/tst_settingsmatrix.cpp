@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Does a window come up and work, whatever lies where the settings file belongs?
+#include "tests/reliability/settingsplace.h"
 #include "tests/window/windowtest.h"
 
 #include "camera/camerastate.h"
@@ -11,6 +12,7 @@
 #include "tests/reliability/processcounts.h"
 #include "tests/support/logrecorder.h"
 #include "tests/support/mainwindowprobe.h"
+#include "tests/support/patience.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -101,72 +103,12 @@ QString throughBox(const QString &key, const QString &number)
     return number;
 }
 
-void put(const QByteArray &bytes)
-{
-    QFile file(settingsFilePath());
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(bytes) != bytes.size())
-        qFatal("the settings file can not be written");
-}
-
-/// The files beside the settings file that keep what was not read.
-QStringList keptAside()
-{
-    const QFileInfo place(settingsFilePath());
-    QStringList paths;
-    for (const QFileInfo &file : place.dir().entryInfoList({place.fileName() + ".unread*"}))
-        paths.append(file.filePath());
-    return paths;
-}
-
-QByteArray bytesOf(const QString &path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("%s can not be read", qPrintable(path));
-    return file.readAll();
-}
-
-/// Whatever a row has put there, with its rights restored.
-void clearPlace()
-{
-    const QByteArray path = settingsFilePath().toLocal8Bit();
-    chmod(QCoreApplication::applicationDirPath().toLocal8Bit(), 0755);
-    chmod(path, 0755);
-    if (QFileInfo(path).isDir() && !QFileInfo(path).isSymLink())
-        QDir(path).removeRecursively();
-    else
-        ::unlink(path);
-    for (const QString &aside : keptAside())
-        QFile::remove(aside);
-}
-
-/// The rights of an ordinary user while it lives, where the tests run as root, whom no rights bind.
-class OrdinaryUser
-{
-public:
-    static constexpr uid_t number = 65534; ///< whom the test's folder is given to
-
-    OrdinaryUser() : root(geteuid() == 0)
-    {
-        if (root && seteuid(number) != 0)
-            qFatal("can not become an ordinary user");
-    }
-    ~OrdinaryUser()
-    {
-        if (root && seteuid(0) != 0)
-            qFatal("can not become root again");
-    }
-
-private:
-    bool root;
-};
-
 /// Works a window as far as a person might who has not connected: pictures, template, style.
 void work(MainWindow &window)
 {
     window.resize(1600, 1100);
     window.show();
-    if (!QTest::qWaitForWindowExposed(&window))
+    if (!QTest::qWaitForWindowExposed(&window, patience))
         qFatal("the window does not come up");
     QImage picture(1280, 960, QImage::Format_RGB888);
     picture.fill(Qt::blue);
@@ -180,7 +122,7 @@ void work(MainWindow &window)
         const Locker lock(frameMutex);
         return frameQueue.isEmpty();
     };
-    if (!QTest::qWaitFor(isTaken))
+    if (!comesTrue(isTaken))
         qFatal("the picture is not taken");
     QTest::mouseDClick(&named<QLabel>(window, "label_showImg"), Qt::LeftButton, {}, QPoint(0, 0));
     for (const int angle : {90, 359, 0})
@@ -203,10 +145,6 @@ private slots:
     void place_data();
     void place();
     void hugeFile();
-    void nothingIsLost_data();
-    void nothingIsLost();
-    void aSecondOneIsKeptToo();
-    void damagedFileThatCanNotBeWritten();
     void rubbish_data();
     void rubbish();
 };
@@ -214,9 +152,7 @@ private slots:
 void SettingsMatrix::initTestCase()
 {
     initialiseResources();
-    clearPlace();
-    const QByteArray folder = QCoreApplication::applicationDirPath().toLocal8Bit();
-    QVERIFY(geteuid() != 0 || chown(folder, OrdinaryUser::number, gid_t(-1)) == 0);
+    QVERIFY(givePlaceAway());
 }
 
 void SettingsMatrix::content_data()
@@ -416,7 +352,7 @@ void SettingsMatrix::hugeFile()
     timer.start();
     const LogRecorder log;
     const qint64 huge = peakOfOneWindow();
-    QVERIFY2(timer.elapsed() < 20000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY2(timer.elapsed() < patience, qPrintable(QString::number(timer.elapsed())));
     const qint64 more = huge - plain;
     QVERIFY2(more < 16 * 1024 * 1024, qPrintable(QString::number(more)));
     QCOMPARE(log.texts(QtWarningMsg).filter("is not read").size(), 1);
@@ -424,70 +360,6 @@ void SettingsMatrix::hugeFile()
     QVERIFY(QFileInfo(settingsFilePath()).size() < 1000);
     QCOMPARE(keptAside().size(), 1);
     QVERIFY(QFileInfo(keptAside().constFirst()).size() >= 100'000'000);
-}
-
-void SettingsMatrix::nothingIsLost_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<bool>("kept");
-    QTest::newRow("ours") << QByteArray("[STYLE]\nstyle=Mono\n") << false;
-    QTest::newRow("keys of others") << QByteArray("[MINE]\na=b\n") << false;
-    QTest::newRow("empty") << QByteArray() << false;
-    QTest::newRow("an object") << QByteArray("[MINE]\na=@Variant(\\0\\0\\0\\x0b)\n") << true;
-    QTest::newRow("larger than a mebibyte") << QByteArray(1 << 21, ';') << true;
-    QTest::newRow("a damaged line") << QByteArray("[MINE]\na=b\nnotes of mine\n") << true;
-    QTest::newRow("comments") << QByteArray("; my mount\n[STYLE]\nstyle=Mono\n") << true;
-    QTest::newRow("a letter") << QByteArray("Dear Quorvandel, my mount\n") << true;
-}
-
-/// What saving would not write back lies beside the settings file, to the last byte; a second save
-/// finds nothing more to keep.
-void SettingsMatrix::nothingIsLost()
-{
-    QFETCH(QByteArray, bytes);
-    QFETCH(bool, kept);
-    put(bytes);
-    for (int run = 0; run < 2; ++run) {
-        const LogRecorder log;
-        MainWindow window;
-        window.close();
-        QCOMPARE(log.texts(QtWarningMsg).filter("is kept in").size(), kept && run == 0 ? 1 : 0);
-    }
-    const QStringList aside = keptAside();
-    QCOMPARE(aside.size(), kept ? 1 : 0);
-    if (kept)
-        QCOMPARE(bytesOf(aside.constFirst()), bytes);
-    QCOMPARE(stored(settingsFilePath()).filter(QRegularExpression("^$")), QStringList());
-}
-
-/// An earlier one is not overwritten.
-void SettingsMatrix::aSecondOneIsKeptToo()
-{
-    const QByteArrayList letters{"first letter\n", "second letter\n", "third letter\n"};
-    for (const QByteArray &letter : letters) {
-        put(letter);
-        MainWindow window;
-        window.close();
-    }
-    QByteArrayList kept;
-    for (const QString &path : keptAside())
-        kept.append(bytesOf(path));
-    QCOMPARE(kept, letters);
-}
-
-/// What can not be kept is not written over.
-void SettingsMatrix::damagedFileThatCanNotBeWritten()
-{
-    const QByteArray letter = "[STYLE]\nstyle=Mono\na letter\n";
-    {
-        const OrdinaryUser user;
-        put(letter);
-        chmod(settingsFilePath().toLocal8Bit(), 0444);
-        MainWindow window;
-        window.close();
-    }
-    QCOMPARE(keptAside(), QStringList());
-    QCOMPARE(bytesOf(settingsFilePath()), letter);
 }
 
 /// Seeded: the same rows in every run.

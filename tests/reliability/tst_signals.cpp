@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Does a signal end the program as the close button does, with the settings saved?
+#include "tests/reliability/handledsignals.h"
+#include "tests/support/patience.h"
+
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -11,8 +14,6 @@
 
 namespace
 {
-constexpr int patience = 60000; // milliseconds
-
 /// The folder of the program under test, whose settings file lies beside it.
 QString settingsPath()
 {
@@ -42,6 +43,14 @@ public:
         while (!errors.contains(text) && process.waitForReadyRead(patience))
             errors += process.readAllStandardError();
         return errors.contains(text);
+    }
+    /// Waits until the window is made and the event loop runs.
+    bool isReady()
+    {
+        return hasSaid("InitVELDIXSDK success") && comesTrue([this] {
+                   return handlesSignal(process.processId(), SIGINT) &&
+                          waitsForSignal(process.processId(), SIGTERM);
+               });
     }
     void send(int number) const { ::kill(pid_t(process.processId()), number); }
     bool ends() { return process.waitForFinished(patience); }
@@ -90,8 +99,7 @@ void SignalsTest::signalClosesTheWindow()
 {
     QFETCH(int, number);
     Program program;
-    QVERIFY2(program.hasSaid("InitVELDIXSDK success"), program.errors);
-    QTest::qWait(500); // from the last line of the constructor to the event loop
+    QVERIFY2(program.isReady(), program.errors);
     QVERIFY(!QFile::exists(settingsPath()));
     program.send(number);
     QVERIFY(program.ends());
@@ -106,8 +114,7 @@ void SignalsTest::signalClosesTheWindow()
 void SignalsTest::manySignals()
 {
     Program program;
-    QVERIFY2(program.hasSaid("InitVELDIXSDK success"), program.errors);
-    QTest::qWait(500);
+    QVERIFY2(program.isReady(), program.errors);
     for (int i = 0; i < 100; ++i)
         program.send(i % 2 ? SIGTERM : SIGINT);
     QVERIFY(program.ends());
@@ -121,8 +128,7 @@ void SignalsTest::ignoredSignalsStayIgnored()
     std::signal(SIGHUP, SIG_IGN); // the child inherits it
     Program program;
     std::signal(SIGHUP, SIG_DFL);
-    QVERIFY2(program.hasSaid("InitVELDIXSDK success"), program.errors);
-    QTest::qWait(500);
+    QVERIFY2(program.isReady(), program.errors);
     program.send(SIGHUP);
     QVERIFY(!program.process.waitForFinished(300));
     program.send(SIGTERM);
@@ -133,8 +139,7 @@ void SignalsTest::ignoredSignalsStayIgnored()
 void SignalsTest::otherSignalsStay()
 {
     Program program;
-    QVERIFY2(program.hasSaid("InitVELDIXSDK success"), program.errors);
-    QTest::qWait(500);
+    QVERIFY2(program.isReady(), program.errors);
     program.send(SIGUSR1);
     QVERIFY(program.ends());
     QCOMPARE(program.process.exitStatus(), QProcess::CrashExit);

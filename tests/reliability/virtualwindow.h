@@ -5,6 +5,7 @@
 #include "camera/camerastate.h"
 #include "mainwindow/mainwindow.h"
 #include "resources/resources.h"
+#include "tests/support/patience.h"
 #include "tests/window/windowtest.h"
 #include "tools/tour/knobs.h"
 
@@ -42,7 +43,7 @@ public:
         window = std::make_unique<MainWindow>();
         window->resize(1600, 1100);
         window->show();
-        if (!QTest::qWaitForWindowExposed(window.get()))
+        if (!QTest::qWaitForWindowExposed(window.get(), patience))
             qFatal("the window does not come up");
     }
 
@@ -59,7 +60,7 @@ public:
     }
 
     /// Whether a picture comes from now on.
-    bool hasNewPicture(int milliseconds = 20000) const
+    bool hasNewPicture(int milliseconds = patience) const
     {
         auto &label = named<QLabel>(*window, "label_showImg");
         label.clear();

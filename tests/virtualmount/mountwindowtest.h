@@ -2,6 +2,7 @@
 // How do tests take hold of the virtual mount's window?
 #pragma once
 
+#include "tests/support/patience.h"
 #include "tests/virtualmount/mounttest.h"
 #include "virtualmount/mountwindow.h"
 
@@ -9,6 +10,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QtTest>
+#include <algorithm>
 #include <cmath>
 
 inline bool near(double a, double b, double tolerance)
@@ -48,6 +50,16 @@ inline void pressMnemonic(Qt::Key key)
 {
     press(key, Qt::AltModifier);
     QTest::qWait(250);
+    const auto isDown = [](const QWidget *widget) {
+        const auto *const button = qobject_cast<const QAbstractButton *>(widget);
+        return button && button->isDown();
+    };
+    const bool areUp = comesTrue([&isDown] {
+        const QWidgetList widgets = QApplication::allWidgets();
+        return std::none_of(widgets.begin(), widgets.end(), isDown);
+    });
+    if (!areUp)
+        qFatal("a button stays down");
 }
 
 /// A window on screen that has the keyboard.
@@ -58,7 +70,7 @@ public:
     {
         window.show();
         window.activateWindow();
-        if (!QTest::qWaitForWindowActive(&window))
+        if (!QTest::qWaitForWindowActive(&window, patience))
             qFatal("the window does not become active");
     }
     MountWindow window;

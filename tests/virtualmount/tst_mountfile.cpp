@@ -204,9 +204,11 @@ void MountFileTest::aFaultStopsTheAxis()
     clickOn(shown.window, "turn45");
     QTRY_VERIFY(!file.text().isEmpty() && file.state().raAngle > 3.0);
     file.writeText("broken\n");
+    QTRY_VERIFY(named<QAbstractButton>(shown.window, "replace").isVisible());
     QTest::qWait(300);
     QCOMPARE(file.text(), QByteArray("broken\n"));
     file.writeText("[mount]\nra_angle = 1\n");
+    QTRY_COMPARE(textOf(shown.window, "angle"), QString("+1.0°"));
     QTest::qWait(700);
     QCOMPARE(file.text(), QByteArray("[mount]\nra_angle = 1\n"));
     QCOMPARE(textOf(shown.window, "angle"), QString("+1.0°"));
@@ -255,10 +257,10 @@ void MountFileTest::readersNeverSeeAPart()
         }
     });
     clickOn(shown.window, "turn45");
-    for (int i = 0; i < 200 && textOf(shown.window, "angle") != "+45.0°"; ++i)
-        QTest::qWait(50);
+    const bool arrives = comesTrue([&] { return textOf(shown.window, "angle") == "+45.0°"; });
     done = true;
     reader.join();
+    QVERIFY(arrives);
     QVERIFY2(fault.isEmpty(), qPrintable(fault));
     QVERIFY2(different >= 5, qPrintable(QString::number(different)));
     QCOMPARE(file.state().raAngle, 45.0);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Where do the log's lines go, and what do they look like?
 #include "app/logging.h"
+#include "tests/support/ordinaryuser.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -11,7 +12,9 @@
 #include <QtTest>
 #include <cstring>
 #include <memory>
+#include <sys/stat.h>
 #include <thread>
+#include <unistd.h>
 
 namespace
 {
@@ -33,6 +36,10 @@ QStringList linesOf(const QString &path)
 
 const QDateTime start(QDate(2024, 5, 23), QTime(21, 4, 10));
 
+/// The kinds of message that the child process can log: by Qt's logger, which ends the process
+/// after a fatal one by itself, and straight to the handler.
+const char *const childKinds[] = {"--fatal", "--fatal-handled", "--debug"};
+
 /// What the child process does: logs one line, then the message that its argument names.
 int logAsChild(const char *kind, const char *path)
 {
@@ -41,6 +48,8 @@ int logAsChild(const char *kind, const char *path)
     qDebug("before");
     if (std::strcmp(kind, "--fatal") == 0)
         qFatal("the end");
+    if (std::strcmp(kind, "--fatal-handled") == 0)
+        logMessageHandler(QtFatalMsg, context, "the end");
     qDebug("after");
     return 0;
 }
@@ -57,6 +66,8 @@ private slots:
     void foldersAreMade_data();
     void foldersAreMade();
     void documentsMissing();
+    void folderCanNotBeMade_data();
+    void folderCanNotBeMade();
     void levels_data();
     void levels();
     void wholeLine();
@@ -65,7 +76,9 @@ private slots:
     void sameSecondSharesOneFile();
     void messageIsTakenAsItIs_data();
     void messageIsTakenAsItIs();
+    void messageEndsAtItsNul();
     void fileIsClosedBetweenMessages();
+    void fatalIsNotWritten_data();
     void fatalIsNotWritten();
     void unwritableFileIsReported();
     void linesOfThreadsStayWhole();
@@ -132,6 +145,48 @@ void LoggingTest::documentsMissing()
     QTest::ignoreMessage(QtDebugMsg, "Failed to open log file.");
     logMessageHandler(QtDebugMsg, context, "lost");
     QVERIFY(!QFile::exists(logFilePath));
+}
+
+void LoggingTest::folderCanNotBeMade_data()
+{
+    QTest::addColumn<QString>("file"); ///< that lies in the place of a folder
+    QTest::addColumn<int>("rights");   ///< of the user's documents
+    QTest::addColumn<bool>("writes");
+    QTest::newRow("a file for the program's folder") << "/Quorvandel" << 0755 << false;
+    QTest::newRow("a file for the log's folder") << "/Quorvandel/Log" << 0755 << false;
+    QTest::newRow("documents that are only read") << "" << 0555 << false;
+    QTest::newRow("documents that can be written") << "" << 0755 << true;
+}
+
+/// The program goes on without its log, and says so for each line that is lost.
+void LoggingTest::folderCanNotBeMade()
+{
+    QFETCH(QString, file);
+    QFETCH(int, rights);
+    QFETCH(bool, writes);
+    if (!file.isEmpty()) {
+        QVERIFY(QFileInfo(documents + file).dir().mkpath("."));
+        QFile inTheWay(documents + file);
+        QVERIFY(inTheWay.open(QIODevice::WriteOnly) && inTheWay.write("text") == 4);
+    }
+    const QByteArray path = documents.toLocal8Bit();
+    for (const QByteArray &folder : {home->path().toLocal8Bit(), path})
+        QVERIFY(geteuid() != 0 || chown(folder, OrdinaryUser::number, gid_t(-1)) == 0);
+    QCOMPARE(chmod(path, mode_t(rights)), 0);
+    if (!writes)
+        for (int i = 0; i < 2; ++i)
+            QTest::ignoreMessage(QtDebugMsg, "Failed to open log file.");
+    {
+        const OrdinaryUser user;
+        prepareLogFile(start);
+        logMessageHandler(QtDebugMsg, context, "first");
+        logMessageHandler(QtCriticalMsg, context, "second");
+    }
+    chmod(path, 0755);
+    QCOMPARE(linesOf(logFilePath).size(), writes ? 2 : 0);
+    QCOMPARE(QFileInfo(documents + "/Quorvandel/Log").isDir(), writes);
+    if (!file.isEmpty())
+        QCOMPARE(QFileInfo(documents + file).size(), qint64(4));
 }
 
 void LoggingTest::levels_data()
@@ -224,6 +279,15 @@ void LoggingTest::messageIsTakenAsItIs()
     QCOMPARE(lines.first().mid(QString("yyyy/MM/dd hh:mm:ss").size()), "\tInfo\t " + message);
 }
 
+/// The text goes through the locale's bytes, which end there.
+void LoggingTest::messageEndsAtItsNul()
+{
+    logMessageHandler(QtInfoMsg, context, QString("before") + QChar(0) + "after");
+    const QStringList lines = linesOf(logFilePath);
+    QCOMPARE(lines.size(), 1);
+    QCOMPARE(lines.first().mid(QString("yyyy/MM/dd hh:mm:ss").size()), QString("\tInfo\t before"));
+}
+
 /// A file taken away between two messages is made anew by the second.
 void LoggingTest::fileIsClosedBetweenMessages()
 {
@@ -233,10 +297,18 @@ void LoggingTest::fileIsClosedBetweenMessages()
     QCOMPARE(linesOf(logFilePath).size(), 1);
 }
 
+void LoggingTest::fatalIsNotWritten_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::newRow("by Qt's logger") << "--fatal";
+    QTest::newRow("the handler alone") << "--fatal-handled";
+}
+
 void LoggingTest::fatalIsNotWritten()
 {
+    QFETCH(QString, kind);
     QProcess child;
-    child.start(QCoreApplication::applicationFilePath(), {"--fatal", logFilePath});
+    child.start(QCoreApplication::applicationFilePath(), {kind, logFilePath});
     QVERIFY(child.waitForFinished(30000));
     QCOMPARE(child.exitStatus(), QProcess::CrashExit);
     const QStringList lines = linesOf(logFilePath);
@@ -278,8 +350,10 @@ void LoggingTest::linesOfThreadsStayWhole()
 int main(int argc, char *argv[])
 {
     QCoreApplication application(argc, argv);
-    if (argc == 3 && (std::strcmp(argv[1], "--fatal") == 0 || std::strcmp(argv[1], "--debug") == 0))
-        return logAsChild(argv[1], argv[2]);
+    if (argc == 3)
+        for (const char *const kind : childKinds)
+            if (std::strcmp(argv[1], kind) == 0)
+                return logAsChild(argv[1], argv[2]);
     LoggingTest test;
     return QTest::qExec(&test, argc, argv);
 }

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+// Does the capture loop enlarge the followed star in the style of the display, and in the same
+// memory for every frame?
+#include "tests/camera/capturetest.h"
+
+#include <utility>
+
+class TestMonitorThread : public CaptureTest
+{
+    Q_OBJECT
+
+private slots:
+    void enlargementInTheStyle_data();
+    void enlargementInTheStyle();
+    void matricesAreReused_data();
+    void matricesAreReused();
+};
+
+void TestMonitorThread::enlargementInTheStyle_data()
+{
+    QTest::addColumn<bool>("mono");
+    QTest::addColumn<QRgb>("starA");
+    QTest::newRow("colour") << false << qRgb(0, 0, 255);
+    QTest::newRow("mono") << true << qRgb(248, 248, 255);
+}
+
+/// Star A stands so near to star B that its mark lies in the enlargement, ten frame pixels to the
+/// right of the middle.
+void TestMonitorThread::enlargementInTheStyle()
+{
+    QFETCH(bool, mono);
+    QFETCH(QRgb, starA);
+    showFrame(starFrame({})); // black: the search positions hold
+    monitorPositions.starASearch = QPointF(650, 480);
+    monitorPositions.starBSearch = QPointF(640, 480);
+    overlayFlags.monitorTracking = true;
+    overlayFlags.monoStyle = mono;
+    thread->startCapture();
+    QVERIFY(waitForFrames(1));
+    const QImage seen = waitingEnlargements().value(0);
+    QCOMPARE(seen.size(), QSize(200, 200));
+    QCOMPARE(seen.pixel(150, 100), starA); // the dot
+    for (const QPoint tick :
+         {QPoint(142, 100), QPoint(158, 100), QPoint(150, 92), QPoint(150, 108)})
+        QCOMPARE(seen.pixel(tick), starA);
+    QCOMPARE(seen.pixel(100, 100), qRgb(0, 255, 0)); // star B is green in both
+}
+
+void TestMonitorThread::matricesAreReused_data()
+{
+    QTest::addColumn<int>("channels");
+    QTest::newRow("grey") << 1;
+    QTest::newRow("colour") << 3;
+}
+
+/// What is allocated once is used for every frame. The headers that are kept here keep the first
+/// memory from being given out again, so that a new allocation has another address.
+void TestMonitorThread::matricesAreReused()
+{
+    QFETCH(int, channels);
+    const FrameMatrices first = frameMatrices;
+    const std::pair<const cv::Mat &, const cv::Mat &> pairs[] = {
+        {first.colourFrame, frameMatrices.colourFrame},
+        {first.enlargedGrey, frameMatrices.enlargedGrey},
+        {first.enlargedColour, frameMatrices.enlargedColour},
+        {first.magnifierCrop, frameMatrices.magnifierCrop}};
+    overlayFlags.monitorTracking = true;
+    // The enlarged part lies elsewhere in each frame, once over the edge.
+    for (const QPointF star : {QPointF(640, 480), QPointF(100, 900), QPointF(1279, 0)}) {
+        showFrame(starFrame({star}, channels));
+        monitorPositions.starASearch = star;
+        monitorPositions.starBSearch = star;
+        thread->startCapture();
+        QVERIFY(waitForFrames(2));
+        stopAndWait();
+        QVERIFY(!waitingEnlargements().isEmpty());
+        forgetWaitingPictures();
+        for (const auto &[before, now] : pairs) {
+            QVERIFY(before.data != nullptr);
+            QVERIFY(now.data == before.data);
+            QVERIFY(now.size() == before.size() && now.type() == before.type());
+        }
+    }
+}
+
+QTEST_GUILESS_MAIN(TestMonitorThread)
+#include "tst_monitorthread.moc"

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+// Is a program that was started ready for signals?
+#pragma once
+
+#include <QFile>
+#include <QRegularExpression>
+
+/// Whether the process has a handler of its own for the signal; false where there is no such
+/// process.
+inline bool handlesSignal(qint64 process, int number)
+{
+    QFile file(QStringLiteral("/proc/%1/status").arg(process));
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    static const QRegularExpression line("SigCgt:\\s+([0-9a-f]+)");
+    const QString caught = line.match(QString::fromLatin1(file.readAll())).captured(1);
+    return (caught.toULongLong(nullptr, 16) >> (number - 1)) & 1;
+}
+
+/// Whether it handles the signal and its first thread sleeps: a program with a window does so in
+/// its event loop.
+inline bool waitsForSignal(qint64 process, int number)
+{
+    QFile file(QStringLiteral("/proc/%1/stat").arg(process));
+    return handlesSignal(process, number) && file.open(QIODevice::ReadOnly) &&
+           file.readAll().contains(") S ");
+}

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+// How does a window behave whose camera library fails? What the tests of that share.
+#pragma once
+
+#include "camera/camerastate.h"
+#include "tests/camera/camerawindow.h"
+
+#include <QLabel>
+#include <QSlider>
+
+constexpr std::uint32_t sdkError = 0xFFFFFFFFu;
+
+inline Box errorBox(const char *operation)
+{
+    return okBox(QMessageBox::Critical, "Error",
+                 QStringLiteral("Can not connect Quorvandel as %1 error!").arg(operation));
+}
+
+inline void giveGoodFrames()
+{
+    const std::vector<std::uint8_t> grey(320 * 240, 40);
+    sdk().setFrame(320, 240, 1, grey);
+    sdk().setFrameBits(8);
+    sdk().setFrameInterval(5);
+    sdk().setFramesLeft(-1);
+}
+
+/// Whether a picture is shown that was not there before, of that size (none given: of any).
+inline bool newPicture(const CameraWindow &w, const QSize &size = {})
+{
+    auto &label = w.child<QLabel>("label_showImg");
+    label.clear();
+    return comesTrue([&] {
+        const QPixmap picture = label.pixmap(Qt::ReturnByValue);
+        return !picture.isNull() && (size.isEmpty() || picture.size() == size);
+    });
+}
+
+inline void moveControls(const CameraWindow &w)
+{
+    for (const char *const name : {"sliderExpose", "sliderGain", "sliderTraffic", "sliderSpeed"}) {
+        auto &slider = w.child<QSlider>(name);
+        slider.setValue(slider.maximum());
+        slider.setValue(slider.minimum() + 1);
+    }
+    QTest::qWait(30);
+}
+
+/// Connects, sees a picture and disconnects, as if nothing had been.
+inline bool worksAgain(const CameraWindow &w)
+{
+    if (cameraState.cameraConnected) // after a refused closing, for example
+        w.trigger("actionConnect");
+    giveGoodFrames();
+    w.trigger("actionConnect");
+    const bool live = cameraState.cameraConnected && newPicture(w);
+    w.trigger("actionConnect");
+    return live && !cameraState.cameraConnected;
+}

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+// What lies in the settings file's place, and beside it?
+#pragma once
+
+#include "dialogs/settingsfile.h"
+#include "tests/support/ordinaryuser.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <sys/stat.h>
+#include <unistd.h>
+
+inline void put(const QByteArray &bytes)
+{
+    QFile file(settingsFilePath());
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(bytes) != bytes.size())
+        qFatal("the settings file can not be written");
+}
+
+/// The files beside the settings file that keep what was not read.
+inline QStringList keptAside()
+{
+    const QFileInfo place(settingsFilePath());
+    QStringList paths;
+    for (const QFileInfo &file : place.dir().entryInfoList({place.fileName() + ".unread*"}))
+        paths.append(file.filePath());
+    return paths;
+}
+
+inline QByteArray bytesOf(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("%s can not be read", qPrintable(path));
+    return file.readAll();
+}
+
+/// Whatever a row has put there, with its rights restored.
+inline void clearPlace()
+{
+    const QByteArray path = settingsFilePath().toLocal8Bit();
+    chmod(QCoreApplication::applicationDirPath().toLocal8Bit(), 0755);
+    chmod(path, 0755);
+    if (QFileInfo(path).isDir() && !QFileInfo(path).isSymLink())
+        QDir(path).removeRecursively();
+    else
+        ::unlink(path);
+    for (const QString &aside : keptAside())
+        QFile::remove(aside);
+}
+
+/// Clears the place and gives its folder to OrdinaryUser; false if that fails.
+inline bool givePlaceAway()
+{
+    clearPlace();
+    const QByteArray folder = QCoreApplication::applicationDirPath().toLocal8Bit();
+    return geteuid() != 0 || chown(folder, OrdinaryUser::number, gid_t(-1)) == 0;
+}
