@@ -95,6 +95,7 @@ void MonitorSkyTest::monitor(bool south)
 {
     if (window)
         window->close();
+    window.reset(); // with its capture thread, before the next one takes the buffers
     virtualsky::SkyState sky;
     sky.latitude = south ? -34.0 : 40.0;
     sky.longitude = south ? 149.0 : 116.0;
