@@ -16,16 +16,6 @@ constexpr int margin = 2;
 /// The largest square that is cut out, whatever the zoom.
 constexpr int sideLimit = 4096;
 
-/// What the second and later fills of a view change: they paint the same pixels once more but for
-/// the rim that was drawn between, 3 pixels wide, so that only this needs them.
-QRegion rimOf(QSize view)
-{
-    constexpr int rimWidth = 7;
-    const QRect whole({-2, -2}, view + QSize(4, 4)); // with its pens
-    const QRect inner = whole.adjusted(rimWidth, rimWidth, -rimWidth, -rimWidth);
-    return QRegion(whole).subtracted(QRegion(inner, QRegion::Ellipse));
-}
-
 QPen solidPen(const QColor &colour, int width)
 {
     return {QBrush(colour), qreal(width), Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin};
@@ -68,14 +58,12 @@ void MagnifierWidget::paintEvent(QPaintEvent *)
         painter.drawEllipse(QRect(QPoint(left, top), QPoint(right, bottom)));
     };
     ellipse(0, 0, viewWidth - 1, viewHeight - 1);
-    painter.setClipRegion(rimOf({viewWidth, viewHeight}));
     painter.setPen(solidPen(QColor(160, 160, 160), 1));
     ellipse(-1, -1, viewWidth, viewHeight);
     painter.setPen(solidPen(QColor(255, 255, 255), 2));
     ellipse(0, 0, viewWidth - 1, viewHeight - 1);
     painter.setPen(solidPen(QColor(215, 215, 215), 1));
     ellipse(1, 1, viewWidth - 2, viewHeight - 2);
-    painter.setClipping(false);
     painter.setPen(solidPen(Qt::green, 1));
     constexpr int reach = 8;
     const QPoint middle(viewWidth / 2, viewHeight / 2);
