@@ -53,6 +53,8 @@ void printFailures(const char *when)
 
 int main(int argc, char **argv)
 {
+    // Nothing is left for a forked child to write again.
+    setvbuf(stdout, nullptr, _IOLBF, 0);
     const QCoreApplication application(argc, argv);
     qInstallMessageHandler(printMessage);
     printFailures("before");
