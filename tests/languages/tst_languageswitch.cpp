@@ -5,6 +5,7 @@
 #include "resources/resources.h"
 #include "tests/support/logrecorder.h"
 #include "tests/support/mainwindowprobe.h"
+#include "tests/support/patience.h"
 
 #include <QApplication>
 #include <QDial>

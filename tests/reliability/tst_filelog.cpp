@@ -116,8 +116,10 @@ void FileLogTest::programWritesItsLog()
         return all;
     };
     QTRY_VERIFY(text().contains("InitVELDIX"));
+    QTRY_VERIFY(waitsForSignal(program.processId(), SIGTERM));
     program.terminate();
     QVERIFY(program.waitForFinished(patience));
+    QCOMPARE(program.exitStatus(), QProcess::NormalExit);
     QCOMPARE(log.entryList(QDir::Files).size(), 1);
     QVERIFY2(text().contains("\tDebug\t change region to"), qPrintable(text()));
     QVERIFY(!program.readAllStandardError().contains("change region to"));

@@ -5,6 +5,7 @@
 #include "mainwindow/mainwindow.h"
 #include "resources/resources.h"
 #include "tests/support/logrecorder.h"
+#include "tests/support/patience.h"
 
 #include <QAction>
 #include <QMediaContent>

@@ -2,6 +2,7 @@
 // Which pixels does the magnifier paint?
 #include "dialogs/magnifierwidget.h"
 #include "tests/support/logrecorder.h"
+#include "tests/support/patience.h"
 
 #include <QImage>
 #include <QPainter>

@@ -9,6 +9,7 @@
 #include "mainwindow/mainwindow.h"
 #include "resources/resources.h"
 #include "tests/support/mainwindowprobe.h"
+#include "tests/support/patience.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -2,6 +2,7 @@
 // How does the broken ring turn, and which slider blinks?
 #include "camera/sharedstate.h"
 #include "mainwindow/wizardtable.h"
+#include "tests/support/patience.h"
 #include "tests/window/freshwindowtest.h"
 
 #include <QGraphicsEffect>

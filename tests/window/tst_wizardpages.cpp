@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What do the instruction pages say in each hemisphere, and where do they lie?
 #include "mainwindow/wizardtable.h"
+#include "tests/support/patience.h"
 #include "tests/window/freshwindowtest.h"
 
 #include <QPushButton>
