@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
-// Is a program that was started ready for signals?
+// Is a program that was started ready for signals, and does it end after one?
 #pragma once
 
+#include "tests/support/patience.h"
+
 #include <QFile>
+#include <QProcess>
 #include <QRegularExpression>
 
 /// Whether the process has a handler of its own for the signal; false where there is no such
@@ -24,4 +27,12 @@ inline bool waitsForSignal(qint64 process, int number)
     QFile file(QStringLiteral("/proc/%1/stat").arg(process));
     return handlesSignal(process, number) && file.open(QIODevice::ReadOnly) &&
            file.readAll().contains(") S ");
+}
+
+/// Waits until a process that was sent a signal has ended. The thread sanitizer keeps a signal that
+/// reaches a thread at an ill time until that thread's next call, which for an idle one of Qt's
+/// pool is its end after 30 seconds.
+inline bool endsAfterSignal(QProcess &process)
+{
+    return process.waitForFinished(3 * patience);
 }

@@ -118,7 +118,7 @@ void FileLogTest::programWritesItsLog()
     QTRY_VERIFY(text().contains("InitVELDIX"));
     QTRY_VERIFY(waitsForSignal(program.processId(), SIGTERM));
     program.terminate();
-    QVERIFY(program.waitForFinished(patience));
+    QVERIFY(endsAfterSignal(program));
     QCOMPARE(program.exitStatus(), QProcess::NormalExit);
     QCOMPARE(log.entryList(QDir::Files).size(), 1);
     QVERIFY2(text().contains("\tDebug\t change region to"), qPrintable(text()));
@@ -137,7 +137,7 @@ void FileLogTest::programGoesOnWithoutItsLog()
     QVERIFY(program.waitForStarted());
     QTRY_VERIFY(waitsForSignal(program.processId(), SIGTERM));
     program.terminate();
-    QVERIFY(program.waitForFinished(patience));
+    QVERIFY(endsAfterSignal(program));
     QCOMPARE(program.exitStatus(), QProcess::NormalExit);
     QCOMPARE(program.exitCode(), 0);
     const QByteArray errors = program.readAllStandardError();

@@ -53,7 +53,7 @@ public:
                });
     }
     void send(int number) const { ::kill(pid_t(process.processId()), number); }
-    bool ends() { return process.waitForFinished(patience); }
+    bool ends() { return endsAfterSignal(process); }
 
     QTemporaryDir home;
     QProcess process;
