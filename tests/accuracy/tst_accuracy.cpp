@@ -8,7 +8,9 @@
 
 namespace
 {
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#if defined(__SANITIZE_THREAD__)
+constexpr int trials = 2;
+#elif defined(__SANITIZE_ADDRESS__)
 constexpr int trials = 4;
 #else
 constexpr int trials = 20;

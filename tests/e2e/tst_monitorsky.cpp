@@ -253,6 +253,8 @@ void MonitorSkyTest::bothInOneColumn()
         if (monitorPositions.poleValid)
             QVERIFY(distance(monitorPositions.poleCurrent, knobs->pole()) < 2 * poleTolerance);
     }
+    turnAxis(best + 30);
+    QVERIFY(QTest::qWaitFor([this] { return isFollowed(); }, patience));
 }
 
 void MonitorSkyTest::cleanupTestCase()

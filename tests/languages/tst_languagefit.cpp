@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Has every text of every language the room that it needs, in the window, its pages, its menus and
-// its dialogs, and does nothing lie over its neighbour?
+// its dialogs, and does nothing lie over its neighbour? What is measured is also saved as pictures,
+// a folder for each language, for somebody to look at.
 #include "app/stylesheet.h"
 #include "dialogs/languages.h"
 #include "dialogs/magnifierwidget.h"
@@ -23,9 +24,18 @@
 #include <QStyle>
 #include <QStyleOption>
 #include <QTest>
+#include <memory>
 
 namespace
 {
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr bool isSanitized = true; // the same pictures, many times slower
+#else
+constexpr bool isSanitized = false;
+#endif
+/// Of a picture's file: little compression, which is quick.
+constexpr int pngQuality = 80;
+
 QString lack(const QWidget &widget, QSize needed, QSize has)
 {
     if (needed.width() <= has.width() && needed.height() <= has.height())
@@ -189,12 +199,39 @@ QStringList lacksIn(const QWidget &window)
     return lacks;
 }
 
+/// The pictures of one language, or of none.
+class Pictures
+{
+public:
+    /// \param code of the language; empty: nothing is saved
+    explicit Pictures(const QString &code)
+    {
+        if (code.isEmpty())
+            return;
+        folder =
+            std::make_unique<QDir>(QCoreApplication::applicationDirPath() + "/pictures/" + code);
+        isThere = folder->mkpath(".");
+    }
+    /// Whether it is saved, where it is wanted.
+    bool add(QWidget &widget, const QString &name) const
+    {
+        return !folder ||
+               (isThere && widget.grab().save(folder->filePath(name + ".png"), "PNG", pngQuality));
+    }
+
+private:
+    std::unique_ptr<QDir> folder;
+    bool isThere = false;
+};
+
 /// What is missing of the room for a menu's entries; the menu is opened for it.
-QStringList lacksIn(QMenu &menu)
+QStringList lacksIn(QMenu &menu, const Pictures &pictures)
 {
     QStringList lacks;
     menu.popup({0, 0});
     settle();
+    if (!pictures.add(menu, menu.objectName()))
+        lacks.append("no picture can be saved");
     const QFontMetrics metrics(menu.font());
     for (QAction *const action : menu.actions()) {
         if (!action->isVisible() || action->isSeparator())
@@ -259,6 +296,8 @@ void TestLanguageFit::fits()
     window.findChild<QAction *>("actionMono_Style")->setChecked(mono);
     window.findChild<QAction *>(languages.at(std::size_t(number)).action)->setChecked(true);
     MainWindowProbe probe(window);
+    const bool isShown = !isSanitized && !mono && size.width() == 1280;
+    const Pictures pictures(isShown ? languages.at(std::size_t(number)).code : QString());
     const auto *const panel = window.findChild<QScrollArea *>("scrollArea_manager");
     for (const char *const hemisphere : {"radioButton_south", "radioButton_north"}) {
         window.findChild<QAbstractButton *>(hemisphere)->setChecked(true);
@@ -269,12 +308,15 @@ void TestLanguageFit::fits()
             QVERIFY2(lacks.isEmpty(),
                      qPrintable(QStringLiteral("step %1: ").arg(step) + lacks.join("; ")));
             QCOMPARE(panel->horizontalScrollBar()->maximum(), 0);
+            QVERIFY(pictures.add(window, QStringLiteral("%1-%2")
+                                             .arg(hemisphere + qstrlen("radioButton_"))
+                                             .arg(step, 2, 10, QLatin1Char('0'))));
         }
     }
     auto *const bar = window.findChild<QMenuBar *>("menuBar");
     QVERIFY(bar->sizeHint().width() <= window.width());
     for (QMenu *const menu : bar->findChildren<QMenu *>()) {
-        const QStringList lacks = lacksIn(*menu);
+        const QStringList lacks = lacksIn(*menu, pictures);
         QVERIFY2(lacks.isEmpty(), qPrintable(menu->objectName() + ": " + lacks.join("; ")));
     }
     for (QDialog *const dialog : window.findChildren<QDialog *>()) {
@@ -282,6 +324,7 @@ void TestLanguageFit::fits()
             unit->setCurrentIndex(1); // of the longer numbers
         dialog->show();
         settle();
+        QVERIFY(pictures.add(*dialog, dialog->objectName()));
         const QStringList lacks = lacksIn(*dialog);
         QVERIFY2(lacks.isEmpty(), qPrintable(lacks.join("; ")));
     }

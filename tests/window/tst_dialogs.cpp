@@ -59,6 +59,8 @@ private slots:
     void versionAfterReset();
     void aboutTexts();
     void aboutLinks();
+    void aboutByKeyboard();
+    void aboutLinkByKeyboard();
     void aboutClicks_data();
     void aboutClicks();
     void aboutOk();
@@ -229,6 +231,33 @@ void DialogsTest::aboutLinks()
     UrlTaker taker;
     emit named<QLabel>(dialog, "label_logo").linkActivated("https://a.example/b");
     QCOMPARE(taker.urls, QList<QUrl>{QUrl("https://a.example/b")});
+}
+
+/// The Tab key leads from the button to both links and back.
+void DialogsTest::aboutByKeyboard()
+{
+    AboutDialog dialog;
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    for (const char *name : {"pushButton_ok", "label_logo", "label_website", "pushButton_ok"}) {
+        QVERIFY(dialog.focusWidget());
+        QCOMPARE(dialog.focusWidget()->objectName(), QString(name));
+        const QWidget *const before = dialog.focusWidget();
+        while (dialog.focusWidget() == before) // a label first gets the focus, then its link
+            QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+    }
+}
+
+/// With the focus on it, Return follows the logo's link.
+void DialogsTest::aboutLinkByKeyboard()
+{
+    AboutDialog dialog;
+    UrlTaker taker;
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Return})
+        QTest::keyClick(dialog.focusWidget(), key);
+    QCOMPARE(taker.urls, QList<QUrl>{QUrl("https://www.quorvandel.example")});
 }
 
 void DialogsTest::aboutClicks_data()
