@@ -6,6 +6,7 @@
 #include "mainwindow/mainwindow.h"
 
 #include <QApplication>
+#include <cstdlib>
 
 int main(int argc, char *argv[])
 {
@@ -16,5 +17,9 @@ int main(int argc, char *argv[])
     MainWindow window;
     const TerminationSignals closing(window);
     window.show();
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    // A thread inside a library that does not return can neither be ended nor outlive its objects.
+    if (!window.captureEnds())
+        std::_Exit(status);
+    return status;
 }

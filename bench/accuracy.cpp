@@ -108,7 +108,7 @@ SkyState skyOf(const AccuracyCase &sky)
     state.date =
         double(QDateTime::fromString(sky.date + "T14:00:00Z", Qt::ISODate).toSecsSinceEpoch());
     // Nearly aligned, as when the pole is monitored: in the south the triangle's two candidates for
-    // the pole lie some 34 pixels apart, and the one nearer to the axis is taken.
+    // the pole lie some 33 pixels apart, and the one nearer to the axis is taken.
     state.boltAltitude = 0.03;
     state.boltAzimuth = 0.02;
     state.clouds = sky.clouds;

@@ -55,6 +55,9 @@ extern Relaxed<void *> cameraHandle;
 /// Held by the capture thread around each of its calls on the handle, and by the GUI thread while
 /// it stops and closes: so no call meets a closed handle, and closing waits for one fetch at most.
 extern QMutex handleMutex;
+/// How long the GUI thread waits for a call of the capture thread's, milliseconds: far longer than
+/// any frame takes, so that a library that does not return is told from a slow one.
+constexpr int longestCall = 10000;
 /// Guards lastFrameTime, thisFrameTime, fpsWhole and fpsTenths.
 extern QMutex fpsMutex;
 

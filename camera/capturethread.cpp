@@ -79,6 +79,14 @@ void CaptureThread::stopCapture()
     stopRequested = true;
 }
 
+bool CaptureThread::endsWithin(int milliseconds)
+{
+    if (!wait(static_cast<unsigned long>(milliseconds)))
+        return false;
+    noteAcquired(this);
+    return true;
+}
+
 void CaptureThread::run()
 {
     qDebug("CaptureThread start...");

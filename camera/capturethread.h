@@ -36,6 +36,8 @@ public:
     void startCapture();
     /// Asks the loop to stop and returns at once.
     void stopCapture();
+    /// Whether the loop has ended, or ends within that time; not if the camera library holds it.
+    bool endsWithin(int milliseconds);
 
 protected:
     void run() override;

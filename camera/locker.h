@@ -27,6 +27,32 @@ inline void noteReleased([[maybe_unused]] void *address)
 #endif
 }
 
+/// Locks from construction to destruction, if it can within a time.
+class TimedLocker
+{
+public:
+    TimedLocker(QMutex &guarded, int milliseconds)
+        : mutex(guarded), locked(mutex.tryLock(milliseconds))
+    {
+        if (locked)
+            noteAcquired(&mutex);
+    }
+    ~TimedLocker()
+    {
+        if (!locked)
+            return;
+        noteReleased(&mutex);
+        mutex.unlock();
+    }
+    TimedLocker(const TimedLocker &) = delete;
+    TimedLocker &operator=(const TimedLocker &) = delete;
+    explicit operator bool() const { return locked; }
+
+private:
+    QMutex &mutex;
+    bool locked;
+};
+
 /// Locks from construction to destruction.
 class Locker
 {

@@ -74,10 +74,30 @@ Result call(Result (*called)(Parameters...), std::common_type_t<Result> failed,
     return called ? called(parameters...) : failed;
 }
 
+/// Why the loader did not load `file`, in its own words.
+QString loadFailure()
+{
+    return QString::fromLocal8Bit(dlerror());
+}
+
+/// Whether `reason` says no more of `file` than of any other that is not there, in whatever
+/// language the loader speaks.
+bool saysAbsent(const QString &reason, const QByteArray &file)
+{
+    const QByteArray absent = file + ".absent";
+    if (void *const handle = dlopen(absent.constData(), RTLD_NOW | RTLD_LOCAL)) {
+        dlclose(handle);
+        return false;
+    }
+    return loadFailure() ==
+           QString(reason).replace(QFile::decodeName(file), QFile::decodeName(absent));
+}
+
 /// Loads the first library that loads; its functions must be complete. The library stays loaded.
+/// Others that are there and do not load are told of: the one behind them may be a virtual camera.
 bool load()
 {
-    QStringList reasons;
+    QStringList reasons, unusable;
     for (const QString &name : librariesToTry(QCoreApplication::applicationDirPath())) {
         const QByteArray file = QFile::encodeName(name);
         if (!survivesLoading(file)) {
@@ -87,9 +107,13 @@ bool load()
         }
         void *const handle = dlopen(file.constData(), RTLD_NOW | RTLD_LOCAL);
         if (!handle) {
-            reasons.append(QString::fromLocal8Bit(dlerror()));
+            reasons.append(loadFailure());
+            if (!saysAbsent(reasons.last(), file))
+                unusable.append(reasons.last());
             continue;
         }
+        for (const QString &reason : unusable)
+            qCritical("a camera library is left out: %s", qPrintable(reason));
         if (resolveAll(handle, name))
             return true;
         dlclose(handle);

@@ -165,10 +165,15 @@ void MainWindow::showConnected(bool connected)
 }
 
 /// Stops the live mode and closes the camera; true if it is closed. The capture thread is kept off
-/// the handle meanwhile: it is waited for as long as a fetch in flight takes.
+/// the handle meanwhile: it is waited for as long as a fetch in flight takes. One that does not
+/// return leaves the camera as it is, and the window usable.
 bool MainWindow::closeCamera()
 {
-    const Locker lock(handleMutex);
+    const TimedLocker lock(handleMutex, longestCall);
+    if (!lock) {
+        qCritical("the camera is not closed: its library does not return from a call");
+        return false;
+    }
     void *const handle = cameraHandle;
     if (StopVELDIXLive(handle) == 0)
         qDebug("StopVELDIXLive");
@@ -207,6 +212,11 @@ void MainWindow::disconnectCamera()
     ui->label_showImg->clear();
     magnifier->setSource(QPixmap::fromImage(blankImage));
     magnifier->update();
+}
+
+bool MainWindow::captureEnds() const
+{
+    return captureThread->endsWithin(longestCall);
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

@@ -21,12 +21,14 @@
 
 #include <QActionGroup>
 #include <QDate>
+#include <QEvent>
 #include <QGraphicsDropShadowEffect>
 #include <QGridLayout>
 #include <QLabel>
 #include <QMediaPlayer>
 #include <QMediaPlaylist>
 #include <QRegExpValidator>
+#include <QSlider>
 #include <QTabWidget>
 #include <QTimer>
 #include <QtDebug>
@@ -38,6 +40,21 @@ constexpr int magnifierSide = 150;
 constexpr int shadowBlur = 20;
 const QSize statusLabelSize(85, 18);
 const QPointF frameCentre(640.0, 480.0);
+
+/// Leaves the wheel over a slider to the panel that scrolls, but for the slider that has the focus:
+/// who scrolls does not mean to change the exposure or to turn the template.
+class WheelGuard : public QObject
+{
+public:
+    using QObject::QObject;
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() != QEvent::Wheel || static_cast<QWidget *>(watched)->hasFocus())
+            return QObject::eventFilter(watched, event);
+        event->ignore();
+        return true;
+    }
+};
 
 QTimer *makeTimer(QObject *parent, int milliseconds)
 {
@@ -55,6 +72,7 @@ MainWindow::MainWindow(QWidget *parent)
     ui->setupUi(this);
     blankImage.fill(Qt::transparent);
     buildImageArea();
+    guardSliders();
     buildShadows();
     buildWizardPages();
     buildActionGroups();
@@ -112,6 +130,13 @@ void MainWindow::buildImageArea()
         label->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     ui->label_templateImg->setAttribute(Qt::WA_TransparentForMouseEvents);
     ui->label_templateImg->raise();
+}
+
+void MainWindow::guardSliders()
+{
+    auto *const guard = new WheelGuard(this);
+    for (QSlider *const slider : ui->scrollArea_manager->findChildren<QSlider *>())
+        slider->installEventFilter(guard);
 }
 
 void MainWindow::buildShadows()

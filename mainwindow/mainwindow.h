@@ -46,6 +46,9 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
+    /// Whether the capture thread has ended, or does so in a moment. Not if the camera library
+    /// never returns from a call: the window can not be destroyed then.
+    bool captureEnds() const;
     /// The wizard's step: 1 to 13, and 1 after construction.
     int step() const { return currentStep; }
 
@@ -155,6 +158,7 @@ private:
 
     // construction.cpp
     void buildImageArea();
+    void guardSliders();
     void buildShadows();
     void buildActionGroups();
     void buildStatusBar();

@@ -3,11 +3,14 @@
 #include "mainwindow/mainwindow.h"
 
 #include "camera/frames.h"
+#include "camera/locker.h"
 #include "camera/monitor.h"
 #include "camera/sharedstate.h"
 #include "geometry/axiscentre.h"
 #include "geometry/templateoverlay.h"
+#include "mainwindow/pointtext.h"
 #include "mainwindow/wizardtable.h"
+#include "ui_mainwindow.h"
 
 #include <QtDebug>
 
@@ -30,11 +33,17 @@ void MainWindow::pushbuttonGetCurPolarisDoneClicked()
     starBStart = starNear(frame, polarisPos);
     monitorPositions.starBSearch = starBStart;
     qDebug() << "current StarB point" << starBStart.x() << starBStart.y();
+    ui->label_refStarA_pos->setText(pointText(starAStart));
+    ui->label_refStarB_pos->setText(pointText(starBStart));
     switchStep(wizardPage(CurrentPosition).forward.target);
 }
 
 void MainWindow::on_pushButton_monitor_clicked()
 {
+    {
+        const Locker lock(magnifierMutex); // what an earlier round has left
+        magnifierQueue.clear();
+    }
     switchStep(FineAdjustment);
 }
 

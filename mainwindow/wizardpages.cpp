@@ -9,6 +9,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QTabBar>
@@ -50,6 +51,17 @@ private:
     std::function<void()> place;
 };
 
+/// What a hand that clicks twice meant for one page is not taken for a click on the next, whose
+/// button lies in the same place.
+class PagePushButton : public QPushButton
+{
+public:
+    using QPushButton::QPushButton;
+
+protected:
+    void mouseDoubleClickEvent(QMouseEvent *event) override { event->accept(); }
+};
+
 template <typename Widget> Widget *named(Widget *widget, const char *name)
 {
     widget->setObjectName(name);
@@ -82,7 +94,7 @@ void MainWindow::buildWizardPage(const WizardPage &page)
     for (const PageButton *const button : {&page.back, &page.forward}) {
         if (!button->name)
             continue;
-        auto *const pushButton = named(new QPushButton(widget), button->name);
+        auto *const pushButton = named(new PagePushButton(widget), button->name);
         connect(pushButton, SIGNAL(clicked(bool)), this, button->slot);
         row->addWidget(pushButton);
     }

@@ -21,6 +21,7 @@ private slots:
     void startUpFails();
     void notReady();
     void connectAndDisconnect();
+    void connectedBeforeItIsSet();
     void choice_data();
     void choice();
     void manyCameras_data();
@@ -102,6 +103,18 @@ void TestConnection::connectAndDisconnect()
     // The title is not among what Disconnect puts back.
     QCOMPARE(rest.title, idTitle);
     QVERIFY(plainTitle != idTitle);
+}
+
+/// A camera that refuses a format or holds up the setting is connected all the same.
+void TestConnection::connectedBeforeItIsSet()
+{
+    const CameraWindow w;
+    std::unique_ptr<Shown> early;
+    sdk().observe("SetVELDIXBitsMode",
+                  [&w, &early] { early = std::make_unique<Shown>(shownBy(w)); });
+    w.connectCamera();
+    QVERIFY(early);
+    QCOMPARE(*early, connectedState);
 }
 
 void TestConnection::choice_data()

@@ -4,7 +4,10 @@
 #include "tests/camera/camerawindow.h"
 
 #include <QLineEdit>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSlider>
+#include <QWheelEvent>
 #include <QtTest>
 
 namespace
@@ -97,6 +100,8 @@ private slots:
     void withoutCamera_data();
     void withoutCamera();
     void typingAloneSendsNothing();
+    void wheelScrollsThePanel_data();
+    void wheelScrollsThePanel();
 };
 
 void TestControls::cleanup()
@@ -293,6 +298,54 @@ void TestControls::withoutCamera()
     w.call(c.slot);
     QCOMPARE(sdkCalls().value(1), callFor(c, 1, "null"));
     QCOMPARE(cameraState.*c.value, c.perUnit);
+}
+
+void TestControls::wheelScrollsThePanel_data()
+{
+    QTest::addColumn<int>("step");
+    QTest::addColumn<QString>("name");
+    for (const Control &control : controls)
+        QTest::newRow(control.name) << 1 << control.slider;
+    QTest::newRow("template's angle, step 2") << 2 << "horizontalSlider_confirm_match";
+    QTest::newRow("template's angle, step 9") << 9 << "horizontalSlider_rough_match";
+    QTest::newRow("template's angle, step 10") << 10 << "horizontalSlider_rough_match";
+}
+
+/// Over a slider too, unless it has the focus.
+void TestControls::wheelScrollsThePanel()
+{
+    QFETCH(int, step);
+    QFETCH(QString, name);
+    const CameraWindow w;
+    w.connectCamera();
+    if (step > 1)
+        w.enterStep(step);
+    w.window->resize(w.window->width(), 400);
+    auto &bar = *w.child<QScrollArea>("scrollArea_manager").verticalScrollBar();
+    auto &slider = w.child<QSlider>(name.toLatin1());
+    w.window->activateWindow();
+    w.window->setFocus();
+    QTRY_VERIFY(bar.maximum() > 0);
+    w.child<QScrollArea>("scrollArea_manager").ensureWidgetVisible(&slider);
+    const int value = (slider.minimum() + slider.maximum()) / 2;
+    slider.setValue(value);
+    sdk().clearCalls();
+    const auto turn = [&slider](int notches) {
+        const QPointF place = slider.rect().center();
+        QWheelEvent event(place, slider.mapToGlobal(place.toPoint()), {}, {0, notches * 120},
+                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QSpontaneKeyEvent::setSpontaneous(&event); // or it is not passed on to the panel
+        qApp->notify(&slider, &event);
+    };
+    const int before = bar.value();
+    turn(before == bar.maximum() ? 1 : -1);
+    QVERIFY(bar.value() != before);
+    QCOMPARE(slider.value(), value);
+    QCOMPARE(sdkCalls(), QStringList());
+    slider.setFocus();
+    QTRY_VERIFY(slider.hasFocus());
+    turn(1);
+    QVERIFY(slider.value() > value);
 }
 
 QTEST_MAIN(TestControls)

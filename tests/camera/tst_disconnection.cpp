@@ -24,6 +24,7 @@ private slots:
     void manyReconnectsWhileFramesFlow();
     void disconnectWhileItBegins();
     void disconnectDuringALongFetch();
+    void disconnectFromALibraryThatHangs();
     void disconnectInEveryStep_data();
     void disconnectInEveryStep();
     void closeWindow_data();
@@ -199,6 +200,34 @@ void TestDisconnection::disconnectDuringALongFetch()
     QVERIFY(waitingFrames().isEmpty());
     QVERIFY(w.child<QLabel>("label_showImg").pixmap(Qt::ReturnByValue).isNull());
     QCOMPARE(rate.text(), QStringLiteral("FPS : 0.0"));
+}
+
+/// The window comes back without the camera being closed, and a later Disconnect closes it.
+void TestDisconnection::disconnectFromALibraryThatHangs()
+{
+    const CameraWindow w;
+    showFrame(starFrame({{640, 480}}));
+    w.connectCamera();
+    QVERIFY(w.waitForNewFrame());
+    sdk().setFramesLeft(-1);
+    sdk().holdFetches();
+    const auto release = qScopeGuard([] { sdk().releaseFetches(); });
+    QVERIFY(sdk().waitForHeldFetch(patience));
+    sdk().clearCalls();
+    const LogRecorder log;
+    w.trigger("actionConnect"); // takes as long as it waits
+    QCOMPARE(log.texts(QtCriticalMsg),
+             QStringList("the camera is not closed: its library does not return from a call"));
+    QCOMPARE(sdkCalls(), QStringList());
+    QCOMPARE(shownBy(w), connectedState);
+    QVERIFY(w.child<QLabel>("label_showImg").pixmap(Qt::ReturnByValue).isNull());
+    sdk().releaseFetches();
+    QTRY_VERIFY(log.contains(QtDebugMsg, "CaptureThread done"));
+    w.trigger("actionConnect");
+    QCOMPARE(sdkCalls(), closing);
+    QCOMPARE(shownBy(w), atRest(w));
+    w.connectCamera();
+    QVERIFY(w.waitForNewFrame());
 }
 
 void TestDisconnection::disconnectInEveryStep_data()

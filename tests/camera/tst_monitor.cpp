@@ -183,12 +183,15 @@ void TestMonitor::refraction_data()
     QTest::addColumn<bool>("enabled");
     QTest::addColumn<QString>("unit");
     QTest::addColumn<float>("pressure");
+    QTest::addColumn<float>("temperature");
     QTest::addColumn<double>("raised"); ///< pixels towards smaller y
-    QTest::newRow("off") << false << "hPa" << 1010.0F << 0.0;
-    QTest::newRow("on") << true << "hPa" << 1010.0F << raisedAt1010;
-    QTest::newRow("the unit is not looked at") << true << "kPa" << 1010.0F << raisedAt1010;
-    QTest::newRow("half the pressure") << true << "hPa" << 505.0F << raisedAt1010 / 2;
-    QTest::newRow("entered in kPa") << true << "kPa" << 101.0F << raisedAt1010 / 10;
+    const double raisedInTheCold = raisedAt1010 * 283 / 253;
+    QTest::newRow("off") << false << "hPa" << 1010.0F << 10.0F << 0.0;
+    QTest::newRow("on") << true << "hPa" << 1010.0F << 10.0F << raisedAt1010;
+    QTest::newRow("the unit is not looked at") << true << "kPa" << 1010.0F << 10.0F << raisedAt1010;
+    QTest::newRow("half the pressure") << true << "hPa" << 505.0F << 10.0F << raisedAt1010 / 2;
+    QTest::newRow("entered in kPa") << true << "kPa" << 101.0F << 10.0F << raisedAt1010 / 10;
+    QTest::newRow("20 degrees of frost") << true << "hPa" << 1010.0F << -20.0F << raisedInTheCold;
 }
 
 void TestMonitor::refraction()
@@ -196,11 +199,12 @@ void TestMonitor::refraction()
     QFETCH(bool, enabled);
     QFETCH(QString, unit);
     QFETCH(float, pressure);
+    QFETCH(float, temperature);
     QFETCH(double, raised);
     refractionSettings.enabledCorrect = enabled;
     refractionSettings.P_unit = unit;
     refractionSettings.P = pressure;
-    refractionSettings.T = 10.0F;
+    refractionSettings.T = temperature;
     refractionSettings.latitude = 40.0F;
     updatePole({QPointF(400, 300), QPointF(800, 620)});
     QVERIFY(isNear(monitorPositions.starACurrent, {400, 300 - raised}, 1e-6));

@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Does the window prepare monitor mode, and do the marks follow the stars from frame to frame?
+#include "camera/frames.h"
+#include "camera/locker.h"
+#include "mainwindow/pointtext.h"
 #include "tests/camera/monitorwindow.h"
 #include "tests/support/logrecorder.h"
 
@@ -35,6 +38,7 @@ private slots:
     void dialKeepsItsValueWhileHidden();
     void starsLostAndFoundAgain();
     void endsWithTheWizardsStart();
+    void beginsWithoutTheLastRoundsPictures();
 };
 
 void TestMonitorMode::initTestCase()
@@ -72,6 +76,8 @@ void TestMonitorMode::startPositions()
     QVERIFY(log.contains(QtDebugMsg, logText("current StarA point", monitorPositions.starASearch)));
     QVERIFY(log.contains(QtDebugMsg, logText("current StarB point", monitorPositions.starBSearch)));
     QVERIFY(!overlayFlags.monitorTracking);
+    QCOMPARE(w.child<QLabel>("label_refStarA_pos").text(), pointText(monitorPositions.starASearch));
+    QCOMPARE(w.child<QLabel>("label_refStarB_pos").text(), pointText(monitorPositions.starBSearch));
 }
 
 /// Where a star is not found its expected place stands in: for star A the template's, which at
@@ -241,6 +247,26 @@ void TestMonitorMode::endsWithTheWizardsStart()
     QCOMPARE(w.window->step(), 1);
     QVERIFY(!overlayFlags.monitorTracking && !overlayFlags.showPoleRect &&
             !overlayFlags.showMonitorCross);
+}
+
+void TestMonitorMode::beginsWithoutTheLastRoundsPictures()
+{
+    const QPointF starB(500.5, 420.5), starA = starB + offsetToA(0);
+    const MonitorWindow w(0, starB, {starB, starA});
+    w.call("pushbuttonGetCurPolarisDoneClicked");
+    sdk().setFramesLeft(0);
+    QImage old(200, 200, QImage::Format_RGB888);
+    old.fill(Qt::red);
+    {
+        const Locker lock(magnifierMutex);
+        magnifierQueue.append(old);
+    }
+    QTest::mouseClick(&w.child<QPushButton>("pushButton_monitor"), Qt::LeftButton);
+    QTest::qWait(60); // three times as long as a picture waits to be shown
+    QVERIFY(w.child<QLabel>("label_biggerImg").pixmap(Qt::ReturnByValue).isNull());
+    QVERIFY(waitingEnlargements().isEmpty());
+    sdk().setFramesLeft(-1);
+    QTRY_VERIFY(!w.child<QLabel>("label_biggerImg").pixmap(Qt::ReturnByValue).isNull());
 }
 
 QTEST_MAIN(TestMonitorMode)

@@ -171,6 +171,8 @@ void TestTemplateControls::targetIsKeptUpWhileTheTemplateIsHidden()
     w.rough.setValue(77);
     QCOMPARE(w.label.geometry(), place);
     QCOMPARE(w.target.text(), targetText(77, star));
+    QCOMPARE(pointText(alignmentPoints.polarisTarget), w.target.text());
+    QCOMPARE(MainWindowProbe(*w.window).rotateValue(), 77);
     w.enterStep(11);
     QTest::qWait(20);
     w.click("pushButton_rough_add");

@@ -138,9 +138,15 @@ void TestLanguageSwitch::reachesOpenAndHiddenDialogs()
     auto *const dial = window.findChild<QDial *>("dial_tracking");
     auto *const refraction = qobject_cast<QDialog *>(pressure->window());
     auto *const tracking = qobject_cast<QDialog *>(dial->window());
+    auto *const unit = window.findChild<QComboBox *>("comboBox_presure");
+    const QList<QCheckBox *> checked{window.findChild<QCheckBox *>("checkBox_enableAstroRef"),
+                                     window.findChild<QCheckBox *>("cBox_playMusic")};
     refraction->show();
-    pressure->setValue(99.5);
+    unit->setCurrentIndex(1);
+    pressure->setValue(1013.5);
     dial->setValue(77);
+    for (QCheckBox *const box : checked)
+        box->setChecked(true);
     const Language &french = languageOf("FR");
     window.findChild<QAction *>(french.action)->setChecked(true);
     QCOMPARE(refraction->windowTitle(),
@@ -148,8 +154,11 @@ void TestLanguageSwitch::reachesOpenAndHiddenDialogs()
     QCOMPARE(tracking->windowTitle(), in(french, "PoleTrackingDialog", "Pole Tracking"));
     QCOMPARE(window.findChild<QLabel *>("label_version")->text(),
              QString("Quorvandel 21.9.17, release on 2021-09-17"));
-    QCOMPARE(pressure->value(), 99.5);
+    QCOMPARE(unit->currentIndex(), 1);
+    QCOMPARE(pressure->value(), 1013.5);
     QCOMPARE(dial->value(), 77);
+    for (const QCheckBox *const box : checked)
+        QVERIFY2(box->isChecked(), qPrintable(box->objectName()));
 }
 
 void TestLanguageSwitch::dialogTexts_data()

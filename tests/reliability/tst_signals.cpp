@@ -24,13 +24,13 @@ QString settingsPath()
 class Program
 {
 public:
-    Program()
+    explicit Program(const char *cameraFolder = CAMERA_FOLDER)
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert("HOME", home.path());
         environment.insert("XDG_CONFIG_HOME", home.path() + "/config");
         environment.insert("QT_LOGGING_TO_CONSOLE", "1");
-        environment.insert("LD_LIBRARY_PATH", CAMERA_FOLDER);
+        environment.insert("LD_LIBRARY_PATH", cameraFolder);
         environment.insert("QUORVANDEL_SKY", home.path() + "/sky.ini");
         process.setProcessEnvironment(environment);
         process.setReadChannel(QProcess::StandardError);
@@ -40,8 +40,9 @@ public:
     /// Waits until the program has logged `text`.
     bool hasSaid(const char *text)
     {
-        while (!errors.contains(text) && process.waitForReadyRead(patience))
+        do
             errors += process.readAllStandardError();
+        while (!errors.contains(text) && process.waitForReadyRead(patience));
         return errors.contains(text);
     }
     /// Waits until the window is made and the event loop runs.
@@ -73,6 +74,7 @@ private slots:
     void manySignals();
     void ignoredSignalsStayIgnored();
     void otherSignalsStay();
+    void endsThoughTheCameraLibraryHangs();
 };
 
 void SignalsTest::initTestCase()
@@ -144,6 +146,22 @@ void SignalsTest::otherSignalsStay()
     QVERIFY(program.ends());
     QCOMPARE(program.process.exitStatus(), QProcess::CrashExit);
     QVERIFY(!QFile::exists(settingsPath()));
+}
+
+/// No thread can be ended inside a library: the process ends without it, with everything saved.
+void SignalsTest::endsThoughTheCameraLibraryHangs()
+{
+    Program program(HANGING_FOLDER);
+    QVERIFY2(program.isReady(), program.errors);
+    QVERIFY2(program.hasSaid("the library hangs"), program.errors);
+    program.send(SIGTERM);
+    QVERIFY(program.ends());
+    program.errors += program.process.readAllStandardError();
+    QVERIFY2(program.errors.contains("the camera is not closed"), program.errors);
+    QCOMPARE(program.process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(program.process.exitCode(), 0);
+    const QSettings file(settingsPath(), QSettings::IniFormat);
+    QCOMPARE(file.allKeys().size(), 12);
 }
 
 QTEST_GUILESS_MAIN(SignalsTest)

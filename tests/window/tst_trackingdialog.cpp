@@ -4,9 +4,12 @@
 #include "resources/resources.h"
 #include "tests/window/windowtest.h"
 
+#include <QApplication>
 #include <QDial>
 #include <QFrame>
+#include <QMouseEvent>
 #include <QSignalSpy>
+#include <cmath>
 
 class TrackingDialogTest : public QObject
 {
@@ -18,7 +21,9 @@ private slots:
     void dialButtons_data();
     void dialButtons();
     void dialAnnouncesEveryValue();
-    void dialDoesNotWrap();
+    void keysDoNotWrap();
+    void draggingDoesNotWrap_data();
+    void draggingDoesNotWrap();
     void trackingReset();
 };
 
@@ -92,7 +97,7 @@ void TrackingDialogTest::dialAnnouncesEveryValue()
     QCOMPARE(found, (QList<double>{90, 91, 360}));
 }
 
-void TrackingDialogTest::dialDoesNotWrap()
+void TrackingDialogTest::keysDoNotWrap()
 {
     PoleTrackingDialog dialog;
     auto &dial = named<QDial>(dialog, "dial_tracking");
@@ -100,16 +105,61 @@ void TrackingDialogTest::dialDoesNotWrap()
     QTest::keyClick(&dial, Qt::Key_Up);
     QTest::keyClick(&dial, Qt::Key_PageUp);
     QCOMPARE(dial.value(), 360);
-    // Dragged along the rim to the bottom, from either side, it stays on that side's end.
-    dial.show();
-    const QPoint middle = dial.rect().center();
-    QTest::mousePress(&dial, Qt::LeftButton, Qt::NoModifier, middle + QPoint(35, 20));
-    QVERIFY(dial.value() > 180);
-    for (int x = 30; x >= 5; x -= 5)
-        QTest::mouseMove(&dial, middle + QPoint(x, 38));
-    QVERIFY(dial.value() > 180);
-    QTest::mouseRelease(&dial, Qt::LeftButton, Qt::NoModifier, middle + QPoint(5, 38));
-    QVERIFY(dial.value() > 180);
+}
+
+void TrackingDialogTest::draggingDoesNotWrap_data()
+{
+    // Directions from the dial's middle as on a clock: 12 is up, and the ends meet at 6.
+    QTest::addColumn<QList<double>>("hours");
+    QTest::addColumn<int>("least");
+    QTest::addColumn<int>("most");
+    using Hours = QList<double>;
+    QTest::newRow("past 360") << Hours{3, 4, 5, 5.8, 6.2, 7, 9} << 360 << 360;
+    QTest::newRow("past 0") << Hours{9, 8, 7, 6.2, 5.8, 5, 3} << 0 << 0;
+    QTest::newRow("past 360 in one move") << Hours{5, 7} << 360 << 360;
+    QTest::newRow("past 0 in one move") << Hours{7, 5} << 0 << 0;
+    QTest::newRow("past 360 and back") << Hours{4, 5.8, 6.2, 8, 6.2, 5.8, 3} << 280 << 295;
+    QTest::newRow("past 0 and back") << Hours{8, 6.2, 5.8, 4, 5.8, 6.2, 9} << 65 << 80;
+    QTest::newRow("past 360 and all around") << Hours{4, 5.8, 6.2, 9, 12, 3, 5} << 360 << 360;
+    QTest::newRow("past 360, around, and back")
+        << Hours{4, 5.8, 6.2, 9, 12, 3, 5.8, 6.2, 5.8, 3, 12, 9, 6.2, 5.8, 3} << 280 << 295;
+    QTest::newRow("over the top") << Hours{10, 11, 12, 1, 2} << 200 << 260;
+    QTest::newRow("over the top and back") << Hours{2, 1, 12, 11, 10} << 100 << 160;
+    QTest::newRow("over the top in one move") << Hours{10, 2} << 200 << 260;
+    QTest::newRow("pressed at one end, dragged from it") << Hours{5.5, 4, 3} << 280 << 295;
+}
+
+void TrackingDialogTest::draggingDoesNotWrap()
+{
+    QFETCH(QList<double>, hours);
+    QFETCH(int, least);
+    QFETCH(int, most);
+    PoleTrackingDialog dialog;
+    dialog.show();
+    auto &dial = named<QDial>(dialog, "dial_tracking");
+    const auto send = [&dial](QEvent::Type type, double hour, Qt::MouseButtons held) {
+        constexpr double radius = 38;
+        const double angle = hour / 6 * 3.141592653589793;
+        const QPointF place = QPointF(dial.rect().center()) +
+                              QPointF(radius * std::sin(angle), -radius * std::cos(angle));
+        QMouseEvent event(type, place.toPoint(),
+                          type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, held,
+                          Qt::NoModifier);
+        QApplication::sendEvent(&dial, &event);
+    };
+    send(QEvent::MouseButtonPress, hours.first(), Qt::LeftButton);
+    QVERIFY(dial.isSliderDown());
+    int before = dial.value();
+    for (int i = 1; i < hours.size(); ++i) {
+        send(QEvent::MouseMove, hours[i], Qt::LeftButton);
+        QVERIFY2(std::abs(dial.value() - before) < 180, qPrintable(QString::number(hours[i])));
+        before = dial.value();
+    }
+    send(QEvent::MouseButtonRelease, hours.last(), Qt::NoButton);
+    QVERIFY(!dial.isSliderDown());
+    QVERIFY2(dial.value() >= least && dial.value() <= most,
+             qPrintable(QString::number(dial.value())));
+    QCOMPARE(dial.value(), before);
 }
 
 void TrackingDialogTest::trackingReset()
