@@ -16,8 +16,10 @@ QMouseEvent at(QPoint place, const QMouseEvent &event)
 
 void EndedDial::mousePressEvent(QMouseEvent *event)
 {
-    last = event->pos();
-    turns = 0;
+    if (event->buttons() == Qt::LeftButton) { // no other button begins a drag
+        last = event->pos();
+        turns = 0;
+    }
     QDial::mousePressEvent(event);
 }
 

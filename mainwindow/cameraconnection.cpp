@@ -169,8 +169,9 @@ void MainWindow::showConnected(bool connected)
 /// return leaves the camera as it is, and the window usable.
 bool MainWindow::closeCamera()
 {
-    const TimedLocker lock(handleMutex, longestCall);
-    if (!lock) {
+    const TimedLocker lock(handleMutex, callPatience());
+    libraryHangs = !lock;
+    if (libraryHangs) {
         qCritical("the camera is not closed: its library does not return from a call");
         return false;
     }
@@ -214,9 +215,17 @@ void MainWindow::disconnectCamera()
     magnifier->update();
 }
 
-bool MainWindow::captureEnds() const
+/// What a call of the capture thread's is waited for, milliseconds: once it did not return in that
+/// time it is waited for no longer.
+int MainWindow::callPatience() const
 {
-    return captureThread->endsWithin(longestCall);
+    return libraryHangs ? 0 : longestCall;
+}
+
+bool MainWindow::captureEnds()
+{
+    captureThread->stopCapture();
+    return captureThread->endsWithin(callPatience());
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

@@ -52,7 +52,8 @@ bool MainWindow::imageEvent(QEvent *event)
 {
     const QPoint view = positionOf(event);
     followPointer(view);
-    if (event->type() == QEvent::MouseButtonDblClick)
+    if (event->type() == QEvent::MouseButtonDblClick &&
+        !beganWith(buttonPress, *static_cast<QMouseEvent *>(event)))
         pickStar(view);
     return true;
 }

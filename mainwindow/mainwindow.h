@@ -3,6 +3,7 @@
 #pragma once
 
 #include "camera/capturethread.h"
+#include "mainwindow/pagebutton.h"
 
 #include <QImage>
 #include <QMainWindow>
@@ -46,9 +47,9 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
-    /// Whether the capture thread has ended, or does so in a moment. Not if the camera library
-    /// never returns from a call: the window can not be destroyed then.
-    bool captureEnds() const;
+    /// Asks the capture thread to stop and waits for it; false if the camera library does not
+    /// return from a call: the window can not be destroyed then.
+    bool captureEnds();
     /// The wizard's step: 1 to 13, and 1 after construction.
     int step() const { return currentStep; }
 
@@ -204,6 +205,7 @@ private:
     void readCameraParameters();
     void showConnected(bool connected);
     void showNotFound();
+    int callPatience() const;
     bool closeCamera();
 
     // imagepicking.cpp
@@ -258,6 +260,9 @@ private:
     QString regionName;                   ///< "North" or "South"
     QString languageCode;                 ///< "EN", "ZH", ...
     QString styleName;                    ///< "Color" or "Mono"
+
+    bool libraryHangs = false; ///< the last closing has met a call that does not return
+    ButtonPress buttonPress;   ///< of the pages' buttons
 
     QImage blankImage;   ///< what the magnifier shows without a camera
     QImage displayImage; ///< the last shown picture, at its zoom; what Save As writes

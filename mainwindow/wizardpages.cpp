@@ -9,7 +9,6 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QMouseEvent>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QTabBar>
@@ -51,17 +50,6 @@ private:
     std::function<void()> place;
 };
 
-/// What a hand that clicks twice meant for one page is not taken for a click on the next, whose
-/// button lies in the same place.
-class PagePushButton : public QPushButton
-{
-public:
-    using QPushButton::QPushButton;
-
-protected:
-    void mouseDoubleClickEvent(QMouseEvent *event) override { event->accept(); }
-};
-
 template <typename Widget> Widget *named(Widget *widget, const char *name)
 {
     widget->setObjectName(name);
@@ -94,7 +82,7 @@ void MainWindow::buildWizardPage(const WizardPage &page)
     for (const PageButton *const button : {&page.back, &page.forward}) {
         if (!button->name)
             continue;
-        auto *const pushButton = named(new PagePushButton(widget), button->name);
+        auto *const pushButton = named(new PageButtonWidget(buttonPress, widget), button->name);
         connect(pushButton, SIGNAL(clicked(bool)), this, button->slot);
         row->addWidget(pushButton);
     }

@@ -255,6 +255,8 @@ void TestMonitorMode::beginsWithoutTheLastRoundsPictures()
     const MonitorWindow w(0, starB, {starB, starA});
     w.call("pushbuttonGetCurPolarisDoneClicked");
     sdk().setFramesLeft(0);
+    const int fetches = sdk().fetchCount();
+    QTRY_VERIFY(sdk().fetchCount() > fetches); // the last frame has gone its way
     QImage old(200, 200, QImage::Format_RGB888);
     old.fill(Qt::red);
     {

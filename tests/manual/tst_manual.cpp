@@ -77,6 +77,8 @@ private slots:
     void linksLeadSomewhere_data();
     void linksLeadSomewhere();
     void bothLanguagesHaveTheSamePages();
+    void tellsOfEveryShortcut_data();
+    void tellsOfEveryShortcut();
     void tellsOfEveryMessage_data();
     void tellsOfEveryMessage();
     void tellsOfEveryLogLine_data();
@@ -224,6 +226,31 @@ void ManualTest::bothLanguagesHaveTheSamePages()
     const QStringList pages = QDir(manual + "/en").entryList({"*.html"});
     QVERIFY(pages.contains("index.html"));
     QCOMPARE(QDir(manual + "/zh").entryList({"*.html"}), pages);
+}
+
+void ManualTest::tellsOfEveryShortcut_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::newRow("English") << "en";
+    QTest::newRow("Chinese") << "zh";
+}
+
+void ManualTest::tellsOfEveryShortcut()
+{
+    QFETCH(QString, language);
+    const MainWindow window;
+    QStringList inTheMenus, told;
+    for (const QAction *const action : window.findChildren<QAction *>())
+        if (action->isVisible() && !action->shortcut().isEmpty())
+            inTheMenus << action->shortcut().toString(QKeySequence::PortableText);
+    const QString page = textOf(manual + '/' + language + "/tools.html");
+    const QString table = page.mid(page.indexOf("id=\"keys\"")).section("</table>", 0, 0);
+    const QRegularExpression key("<kbd>([^<]*)</kbd>");
+    for (auto found = key.globalMatch(table); found.hasNext();)
+        told << found.next().captured(1);
+    inTheMenus.sort();
+    told.sort();
+    QCOMPARE(told, inTheMenus);
 }
 
 void ManualTest::tellsOfEveryMessage_data()

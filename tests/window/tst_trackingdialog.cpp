@@ -11,6 +11,22 @@
 #include <QSignalSpy>
 #include <cmath>
 
+namespace
+{
+/// At the dial's rim, in a direction from its middle as on a clock: 12 is up, the ends meet at 6.
+void sendMouse(QDial &dial, QEvent::Type type, double hour, Qt::MouseButtons held,
+               Qt::MouseButton button = Qt::LeftButton)
+{
+    constexpr double radius = 38;
+    const double angle = hour / 6 * 3.141592653589793;
+    const QPointF place = QPointF(dial.rect().center()) +
+                          QPointF(radius * std::sin(angle), -radius * std::cos(angle));
+    QMouseEvent event(type, place.toPoint(), type == QEvent::MouseMove ? Qt::NoButton : button,
+                      held, Qt::NoModifier);
+    QApplication::sendEvent(&dial, &event);
+}
+} // namespace
+
 class TrackingDialogTest : public QObject
 {
     Q_OBJECT
@@ -24,6 +40,7 @@ private slots:
     void keysDoNotWrap();
     void draggingDoesNotWrap_data();
     void draggingDoesNotWrap();
+    void noOtherButtonBeginsADrag();
     void trackingReset();
 };
 
@@ -109,7 +126,6 @@ void TrackingDialogTest::keysDoNotWrap()
 
 void TrackingDialogTest::draggingDoesNotWrap_data()
 {
-    // Directions from the dial's middle as on a clock: 12 is up, and the ends meet at 6.
     QTest::addColumn<QList<double>>("hours");
     QTest::addColumn<int>("least");
     QTest::addColumn<int>("most");
@@ -137,29 +153,34 @@ void TrackingDialogTest::draggingDoesNotWrap()
     PoleTrackingDialog dialog;
     dialog.show();
     auto &dial = named<QDial>(dialog, "dial_tracking");
-    const auto send = [&dial](QEvent::Type type, double hour, Qt::MouseButtons held) {
-        constexpr double radius = 38;
-        const double angle = hour / 6 * 3.141592653589793;
-        const QPointF place = QPointF(dial.rect().center()) +
-                              QPointF(radius * std::sin(angle), -radius * std::cos(angle));
-        QMouseEvent event(type, place.toPoint(),
-                          type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, held,
-                          Qt::NoModifier);
-        QApplication::sendEvent(&dial, &event);
-    };
-    send(QEvent::MouseButtonPress, hours.first(), Qt::LeftButton);
+    sendMouse(dial, QEvent::MouseButtonPress, hours.first(), Qt::LeftButton);
     QVERIFY(dial.isSliderDown());
     int before = dial.value();
     for (int i = 1; i < hours.size(); ++i) {
-        send(QEvent::MouseMove, hours[i], Qt::LeftButton);
+        sendMouse(dial, QEvent::MouseMove, hours[i], Qt::LeftButton);
         QVERIFY2(std::abs(dial.value() - before) < 180, qPrintable(QString::number(hours[i])));
         before = dial.value();
     }
-    send(QEvent::MouseButtonRelease, hours.last(), Qt::NoButton);
+    sendMouse(dial, QEvent::MouseButtonRelease, hours.last(), Qt::NoButton);
     QVERIFY(!dial.isSliderDown());
     QVERIFY2(dial.value() >= least && dial.value() <= most,
              qPrintable(QString::number(dial.value())));
     QCOMPARE(dial.value(), before);
+}
+
+void TrackingDialogTest::noOtherButtonBeginsADrag()
+{
+    PoleTrackingDialog dialog;
+    dialog.show();
+    auto &dial = named<QDial>(dialog, "dial_tracking");
+    sendMouse(dial, QEvent::MouseButtonPress, 4, Qt::LeftButton);
+    sendMouse(dial, QEvent::MouseMove, 5.8, Qt::LeftButton);
+    sendMouse(dial, QEvent::MouseMove, 7, Qt::LeftButton);
+    const Qt::MouseButtons both = Qt::LeftButton | Qt::RightButton;
+    sendMouse(dial, QEvent::MouseButtonPress, 7, both, Qt::RightButton);
+    sendMouse(dial, QEvent::MouseButtonRelease, 7, Qt::LeftButton, Qt::RightButton);
+    sendMouse(dial, QEvent::MouseMove, 8, Qt::LeftButton);
+    QCOMPARE(dial.value(), 360);
 }
 
 void TrackingDialogTest::trackingReset()
