@@ -273,6 +273,8 @@ void MainWindow::applyIdleState()
          {ui->pushButton_head_region, ui->pushButton_head_setting, ui->pushButton_head_confirm,
           ui->pushButton_head_rough, ui->pushButton_head_precise})
         head->setEnabled(false);
+    // Not on what would be the first in the order, "Start Monitor": the space bar would press it.
+    ui->scrollArea_showImg->setFocus();
 }
 
 void MainWindow::buildValidators()

@@ -34,6 +34,7 @@ public:
         : QTabWidget(&area), place(std::move(roomChanged))
     {
         tabBar()->hide();
+        tabBar()->setFocusPolicy(Qt::NoFocus); // or Tab would stop at it, unseen
         area.viewport()->installEventFilter(this);
     }
     bool eventFilter(QObject *watched, QEvent *event) override

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+// Is everything in the window reached by the Tab key, and is nothing begun by a key hit by chance?
+#include "tests/camera/camerawindow.h"
+#include "tests/support/mainwindowprobe.h"
+
+#include <QAbstractButton>
+#include <QTabWidget>
+#include <QWindow>
+#include <QtTest>
+
+class TestKeyboard : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void spaceBarAtTheStart();
+    void tabGoesRound_data();
+    void tabGoesRound();
+};
+
+namespace
+{
+void press(const CameraWindow &w, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+{
+    QTest::keyClick(w.window->windowHandle(), key, modifiers);
+}
+
+/// What the key goes through, from where the focus is until it is there again.
+QStringList wayRound(const CameraWindow &w, Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    constexpr int most = 40;
+    QStringList names;
+    QWidget *const start = w.window->focusWidget();
+    do {
+        names << w.window->focusWidget()->objectName();
+        press(w, key, modifiers);
+    } while (w.window->focusWidget() != start && names.size() < most);
+    return names;
+}
+} // namespace
+
+void TestKeyboard::spaceBarAtTheStart()
+{
+    const CameraWindow w;
+    w.connectCamera();
+    w.window->activateWindow();
+    QTRY_VERIFY(QApplication::focusWidget());
+    QCOMPARE(QApplication::focusWidget()->objectName(), QString("scrollArea_showImg"));
+    press(w, Qt::Key_Space);
+    QCOMPARE(w.window->step(), 1);
+    press(w, Qt::Key_Tab); // the page's button is the next
+    press(w, Qt::Key_Space);
+    QCOMPARE(w.window->step(), 2);
+}
+
+void TestKeyboard::tabGoesRound_data()
+{
+    QTest::addColumn<int>("step");
+    for (int step = 1; step <= 13; ++step)
+        QTest::addRow("step %d", step) << step;
+}
+
+void TestKeyboard::tabGoesRound()
+{
+    QFETCH(int, step);
+    const CameraWindow w;
+    w.connectCamera();
+    w.window->activateWindow();
+    MainWindowProbe(*w.window).switchStep(step);
+    QTRY_VERIFY(QApplication::focusWidget());
+    QStringList forward = wayRound(w, Qt::Key_Tab, Qt::NoModifier);
+    QStringList back = wayRound(w, Qt::Key_Backtab, Qt::ShiftModifier);
+    QCOMPARE(QSet<QString>(forward.begin(), forward.end()).size(), forward.size());
+    std::reverse(back.begin() + 1, back.end());
+    QCOMPARE(back, forward);
+    // Every button that can be pressed is on the way; of the two hemispheres the chosen one.
+    for (const QAbstractButton *const button : w.window->findChildren<QAbstractButton *>())
+        if (button->window() == w.window.get() && button->isVisible() && button->isEnabled() &&
+            (!button->autoExclusive() || button->isChecked()))
+            QVERIFY2(forward.contains(button->objectName()), qPrintable(button->objectName()));
+}
+
+QTEST_MAIN(TestKeyboard)
+#include "tst_keyboard.moc"
