@@ -13,6 +13,8 @@
 
 #include <QLabel>
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 namespace
 {
@@ -50,6 +52,8 @@ void MainWindow::showImages()
                                       Qt::SmoothTransformation);
         const QPixmap pixmap = QPixmap::fromImage(displayImage);
         ui->label_showImg->setPixmap(pixmap);
+        if (const auto place = std::exchange(placeAfterZoom, std::nullopt))
+            scrollTo(*place);
         magnifier->setSource(pixmap);
         magnifier->update();
     }

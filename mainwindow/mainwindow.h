@@ -11,6 +11,7 @@
 #include <QPointF>
 #include <QTranslator>
 #include <memory>
+#include <optional>
 
 class AboutDialog;
 class AstroRefractionDialog;
@@ -223,6 +224,8 @@ private:
     void showFlatTemplate();
     void showPolarisTarget();
     void scaleDirectionArrow();
+    QPointF placeInView() const;
+    void scrollTo(QPointF framePosition);
     void setZoom(float factor);
     void stepRotation(QSlider &slider, int degrees, void (MainWindow::*turned)(int));
 
@@ -261,8 +264,9 @@ private:
     QString languageCode;                 ///< "EN", "ZH", ...
     QString styleName;                    ///< "Color" or "Mono"
 
-    bool libraryHangs = false; ///< the last closing has met a call that does not return
-    ButtonPress buttonPress;   ///< of the pages' buttons
+    std::optional<QPointF> placeAfterZoom; ///< comes into view with the next picture, frame pixels
+    bool libraryHangs = false;             ///< the last closing has met a call that does not return
+    ButtonPress buttonPress;               ///< of the pages' buttons
 
     QImage blankImage;   ///< what the magnifier shows without a camera
     QImage displayImage; ///< the last shown picture, at its zoom; what Save As writes

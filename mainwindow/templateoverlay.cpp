@@ -3,6 +3,7 @@
 #include "mainwindow/mainwindow.h"
 
 #include "camera/sharedstate.h"
+#include "dialogs/magnifierwidget.h"
 #include "geometry/saturate.h"
 #include "geometry/starcatalogue.h"
 #include "geometry/templateoverlay.h"
@@ -12,6 +13,9 @@
 #include "ui_mainwindow.h"
 
 #include <QLabel>
+#include <QLayout>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSlider>
 #include <algorithm>
 
@@ -74,8 +78,38 @@ void MainWindow::scaleDirectionArrow()
     placeImageOverlays();
 }
 
+/// The picture's place in the middle of what is to be seen of it, frame pixels.
+QPointF MainWindow::placeInView() const
+{
+    const QPoint origin = ui->scrollAreaWidgetContents_showImg->pos();
+    const QRect area = ui->scrollArea_showImg->viewport()->rect().translated(-origin);
+    return QRectF(area & ui->label_showImg->geometry()).center() / double(zoomFactor);
+}
+
+/// Scrolls, as far as it goes, until a place of the picture is in the middle. What has just become
+/// larger or smaller is laid out first.
+void MainWindow::scrollTo(QPointF framePosition)
+{
+    QWidget &contents = *ui->scrollAreaWidgetContents_showImg;
+    contents.layout()->activate();
+    contents.resize(contents.minimumSizeHint());
+    const QPointF view = framePosition * double(zoomFactor);
+    const QSizeF area = ui->scrollArea_showImg->viewport()->size();
+    ui->scrollArea_showImg->horizontalScrollBar()->setValue(
+        saturatingInt(view.x() - area.width() / 2));
+    ui->scrollArea_showImg->verticalScrollBar()->setValue(
+        saturatingInt(view.y() - area.height() / 2));
+}
+
+/// What was in the middle of the view and in the magnifier stays there.
 void MainWindow::setZoom(float factor)
 {
+    if (zoomFactor > 0.0F && factor != zoomFactor) {
+        placeAfterZoom = placeInView();
+        const QPointF magnified =
+            QPointF(magnifier->magnifiedCentre()) * double(factor / zoomFactor);
+        magnifier->setCentre({saturatingInt(magnified.x()), saturatingInt(magnified.y())});
+    }
     zoomFactor = factor;
     scaleDirectionArrow();
     showFlatTemplate();

@@ -12,6 +12,7 @@
 #include <QGraphicsDropShadowEffect>
 #include <QLabel>
 #include <QMessageBox>
+#include <QScrollArea>
 #include <QTabWidget>
 #include <QTimer>
 #include <QtDebug>
@@ -54,6 +55,7 @@ void MainWindow::switchStep(int step)
         return;
     }
     if (!isWizardStep(step)) {
+        ui->scrollArea_showImg->setFocus(); // or it would go on to "Start Monitor"
         tipTabs->hide();
         openSections(noSections);
         ui->label_templateImg->hide();
@@ -73,6 +75,10 @@ void MainWindow::switchStep(int step)
         effectTimer->stop();
     currentStep = step;
     placeImageOverlays();
+    if (step == StartMonitor) // once the panel is laid out; the page speaks of this button
+        QTimer::singleShot(0, this, [this] {
+            ui->scrollArea_manager->ensureWidgetVisible(ui->pushButton_monitor);
+        });
 }
 
 void MainWindow::setOverlayFlags(const WizardStep &row)

@@ -117,16 +117,20 @@ void MainWindow::applyRegionTexts()
     }
 }
 
-/// Puts the page over the top of the picture, right of the magnifier and no higher than its text
-/// needs, and the arrow below it.
+/// Puts the page over the top of the picture, right of the magnifier (over it, where there is no
+/// room for the question and its buttons) and no higher than its text needs, and the arrow below
+/// it.
 void MainWindow::placeImageOverlays()
 {
     const QRect area = ui->scrollArea_showImg->viewport()->geometry();
-    const int left = magnifier->geometry().right() + gap;
-    const int width = std::clamp(area.right() - gap - left, 0, widestPage);
     QWidget *const page = tipTabs->currentWidget();
     const int frame = std::max(tipTabs->height() - page->height(), 0);
     page->layout()->activate();
+    const int right = area.right() - gap;
+    const int narrowest = page->minimumSizeHint().width() + frame;
+    const int left =
+        std::max(std::min(magnifier->geometry().right() + gap, right - narrowest), gap);
+    const int width = std::clamp(right - left, 0, widestPage);
     const int height = std::max(page->layout()->totalHeightForWidth(width - frame), 0) + frame;
     tipTabs->setGeometry(left, gap, width, std::max(height, page->minimumSizeHint().height()));
     directionArrow->adjustSize();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The virtual mount's entry point: the look, the sky file, the window, the event loop.
 #include "app/startup.h"
+#include "app/terminationsignals.h"
 #include "virtualcamera/skyfile.h"
 #include "virtualmount/languages.h"
 #include "virtualmount/mountwindow.h"
@@ -58,6 +59,7 @@ int main(int argc, char *argv[])
                geometryText(places.mount).constData());
         return 0;
     }
+    const TerminationSignals closing(window); // clouds that pass are put back
     window.show();
     return QApplication::exec();
 }

@@ -26,10 +26,11 @@ struct MountWindow::BoltButton {
     int row, column;
 };
 
-void MountWindow::addShortcut(const QKeySequence &key, const std::function<void()> &action)
+QShortcut &MountWindow::addShortcut(const QKeySequence &key, const std::function<void()> &action)
 {
     auto *const shortcut = new QShortcut(key, this);
     connect(shortcut, &QShortcut::activated, this, action);
+    return *shortcut;
 }
 
 QWidget *MountWindow::axisPanel()
@@ -43,7 +44,7 @@ QWidget *MountWindow::axisPanel()
     dial->setWrapping(true);
     dial->setPageStep(15);
     dial->setFixedSize(96, 96);
-    dial->installEventFilter(this);
+    watchField(*dial);
     connect(dial, &QDial::valueChanged, this, &MountWindow::followDial);
     angle = new QLabel(panel);
     angle->setObjectName(QStringLiteral("angle"));
@@ -61,7 +62,8 @@ QWidget *MountWindow::axisPanel()
                    tr("Turn the RA axis by %1 degrees").arg(turn),
                    key.toString(QKeySequence::NativeText));
         connect(button, &QPushButton::clicked, this, [this, turn] { turnAxisBy(turn); });
-        addShortcut(key, [this, turn] { turnAxisBy(turn); });
+        // A key that is held turns once: the turns add up, and each of them takes its time.
+        addShortcut(key, [this, turn] { turnAxisBy(turn); }).setAutoRepeat(false);
         grid.addWidget(button, int(i) / 3, 2 + int(i) % 3);
     }
     auto *const home = new QPushButton(tr("&Home"), panel);
@@ -152,7 +154,9 @@ QWidget *MountWindow::truthPanel()
     connect(resetButton, &QPushButton::clicked, this, &MountWindow::reset);
     truthLabel = new QLabel(panel);
     nameWidget(*truthLabel, QStringLiteral("truth"), tr("Remaining error"));
-    truthLabel->setMinimumHeight(2 * truthLabel->fontMetrics().lineSpacing() + 2);
+    truthLabel->ensurePolished(); // the style sheet's font, and those that stand in for it
+    truthLabel->setText(truthText());
+    truthLabel->setMinimumHeight(truthLabel->sizeHint().height());
     grid.addWidget(truthButton, 0, 0);
     grid.addWidget(resetButton, 0, 1);
     grid.addWidget(truthLabel, 1, 0, 1, 2);

@@ -5,6 +5,9 @@
 #include "virtualmount/fields.h"
 #include "virtualmount/mounttexts.h"
 
+#include <QAbstractItemView>
+#include <QAbstractSlider>
+#include <QAbstractSpinBox>
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
@@ -16,6 +19,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 #include <QVBoxLayout>
 #include <cmath>
 #include <utility>
@@ -30,6 +34,14 @@ constexpr int pollMilliseconds = 500; // for what the watcher misses, and for th
 double systemSeconds()
 {
     return double(QDateTime::currentMSecsSinceEpoch()) / 1000.0;
+}
+
+/// Whether it is a field itself, not the list that a combo box drops down.
+bool isField(const QObject &watched)
+{
+    return qobject_cast<const QAbstractSlider *>(&watched) ||
+           qobject_cast<const QAbstractSpinBox *>(&watched) ||
+           qobject_cast<const QComboBox *>(&watched);
 }
 } // namespace
 
@@ -61,11 +73,7 @@ MountWindow::MountWindow(const QString &skyFile, QWidget *parent)
     connect(&poll, &QTimer::timeout, this, &MountWindow::look);
     poll.start(pollMilliseconds);
     watch();
-    // Away from the fields, where the arrow keys turn the bolts.
-    const auto toBolts = [this] {
-        findChild<QPushButton *>(QStringLiteral("altitudeUp"))->setFocus(Qt::ShortcutFocusReason);
-    };
-    addShortcut(Qt::Key_Escape, toBolts);
+    addShortcut(Qt::Key_Escape, [this] { toBolts(); });
     toBolts();
     setTruthShown(false);
     refresh();
@@ -277,8 +285,32 @@ void MountWindow::closeEvent(QCloseEvent *event)
     QMainWindow::closeEvent(event);
 }
 
+/// Away from the fields, where the arrow keys turn the bolts.
+void MountWindow::toBolts()
+{
+    findChild<QPushButton *>(QStringLiteral("altitudeUp"))->setFocus(Qt::ShortcutFocusReason);
+}
+
+/// A field with a use of its own for the arrow keys and the wheel.
+void MountWindow::watchField(QWidget &field)
+{
+    field.setFocusPolicy(Qt::StrongFocus); // the wheel fetches no focus
+    field.installEventFilter(this);
+    if (auto *const box = qobject_cast<QComboBox *>(&field))
+        box->view()->viewport()->installEventFilter(this);
+}
+
 bool MountWindow::eventFilter(QObject *watched, QEvent *event)
 {
+    if (event->type() == QEvent::Wheel && isField(*watched) &&
+        !static_cast<QWidget *>(watched)->hasFocus()) {
+        event->ignore();
+        return true;
+    }
+    // What was done with the mouse is done: the keys are the bolts' again. Spin boxes are typed in.
+    if (event->type() == QEvent::MouseButtonRelease &&
+        (qobject_cast<QAbstractSlider *>(watched) || !isField(*watched)))
+        QTimer::singleShot(0, this, &MountWindow::toBolts);
     if (event->type() == QEvent::ShortcutOverride) {
         const auto &key = static_cast<const QKeyEvent &>(*event);
         const bool isArrow = key.key() >= Qt::Key_Left && key.key() <= Qt::Key_Down;

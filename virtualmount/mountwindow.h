@@ -19,6 +19,7 @@ class QDial;
 class QGridLayout;
 class QLabel;
 class QPushButton;
+class QShortcut;
 class QSlider;
 
 /// Edits one sky file, live, and keeps nothing else. Shows what the file says, whoever wrote it.
@@ -32,7 +33,8 @@ public:
 protected:
     /// A sky with passing clouds is left as it was before them.
     void closeEvent(QCloseEvent *event) override;
-    /// Keeps the arrow keys for the fields that need them themselves.
+    /// Keeps the arrow keys for the fields that need them themselves, the wheel for the one that
+    /// has the focus, and gives the keys back to the bolts after the mouse.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
@@ -58,7 +60,9 @@ private:
                         const std::function<bool(const SkyState &)> &isOn,
                         const std::function<void(SkyState &, bool)> &set);
     void addStatusLine();
-    void addShortcut(const QKeySequence &key, const std::function<void()> &action);
+    QShortcut &addShortcut(const QKeySequence &key, const std::function<void()> &action);
+    void watchField(QWidget &field);
+    void toBolts();
 
     void edit(const virtualmount::SkyDocument::Change &change);
     void turnAxisBy(double degrees);

@@ -54,11 +54,11 @@ void MountWindow::addPlace(QGridLayout &grid, const Place &row)
     box->setDecimals(3);
     box->setSuffix(QStringLiteral("°"));
     box->setKeyboardTracking(false);
-    box->installEventFilter(this);
+    watchField(*box);
     auto *const side = new QComboBox(this);
     nameWidget(*side, QLatin1String(row.name) + QStringLiteral("Side"), tr(row.whichSide));
     side->addItems({tr(row.positive), tr(row.negative)});
-    side->installEventFilter(this);
+    watchField(*side);
     const auto set = [this, box, side, member = row.member] {
         const double size = box->value();
         const bool negative = side->currentIndex() == 1;
@@ -83,7 +83,7 @@ QWidget *MountWindow::timeFields()
     timeMode = new QComboBox(this);
     nameWidget(*timeMode, QStringLiteral("timeMode"), tr("Which time it is"));
     timeMode->addItems({tr("Now"), tr("Runs from"), tr("Stands at")});
-    timeMode->installEventFilter(this);
+    watchField(*timeMode);
     connect(timeMode, QOverload<int>::of(&QComboBox::activated), this, &MountWindow::setTimeMode);
     date = new QDateTimeEdit(this);
     nameWidget(*date, QStringLiteral("date"), tr("Date and time, UTC"), tr("Date and time, UTC"));
@@ -94,7 +94,7 @@ QWidget *MountWindow::timeFields()
     date->setMinimumWidth(190); // the style sheet's buttons are not in the size hint
     date->setDisplayFormat(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
     date->setKeyboardTracking(false);
-    date->installEventFilter(this);
+    watchField(*date);
     connect(date, &QDateTimeEdit::dateTimeChanged, this, &MountWindow::setDate);
     return date;
 }
@@ -131,7 +131,7 @@ QSlider *MountWindow::addSlider(QGridLayout &grid, const Slider &row)
     nameWidget(*slider, QLatin1String(row.name), tr(row.what));
     slider->setRange(0, row.most);
     slider->setPageStep(row.most / 10);
-    slider->installEventFilter(this);
+    watchField(*slider);
     connect(slider, &QSlider::valueChanged, this,
             [this, member = row.member, stepsPerUnit = row.stepsPerUnit](int steps) {
                 edit([=](SkyState &state) { state.*member = double(steps) / stepsPerUnit; });

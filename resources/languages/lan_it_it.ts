@@ -186,7 +186,7 @@
     </message>
     <message>
         <source>Star Pos 1</source>
-        <translation>Posizione 1</translation>
+        <translation>Pos. 1</translation>
     </message>
     <message>
         <source>Lamp of star position 2</source>
@@ -194,7 +194,7 @@
     </message>
     <message>
         <source>Star Pos 2</source>
-        <translation>Posizione 2</translation>
+        <translation>Pos. 2</translation>
     </message>
     <message>
         <source>Lamp of star position 3</source>
@@ -202,7 +202,7 @@
     </message>
     <message>
         <source>Star Pos 3</source>
-        <translation>Posizione 3</translation>
+        <translation>Pos. 3</translation>
     </message>
     <message>
         <source>Axis:</source>

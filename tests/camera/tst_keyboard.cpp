@@ -4,6 +4,7 @@
 #include "tests/support/mainwindowprobe.h"
 
 #include <QAbstractButton>
+#include <QPushButton>
 #include <QTabWidget>
 #include <QWindow>
 #include <QtTest>
@@ -14,6 +15,7 @@ class TestKeyboard : public QObject
 
 private slots:
     void spaceBarAtTheStart();
+    void spaceBarAfterReconnecting();
     void tabGoesRound_data();
     void tabGoesRound();
 };
@@ -51,6 +53,21 @@ void TestKeyboard::spaceBarAtTheStart()
     press(w, Qt::Key_Tab); // the page's button is the next
     press(w, Qt::Key_Space);
     QCOMPARE(w.window->step(), 2);
+}
+
+void TestKeyboard::spaceBarAfterReconnecting()
+{
+    const CameraWindow w;
+    w.connectCamera();
+    w.window->activateWindow();
+    QTRY_VERIFY(QApplication::focusWidget());
+    w.child<QPushButton>("pushButton_setting_done").setFocus();
+    press(w, Qt::Key_Space);
+    QCOMPARE(w.window->step(), 2);
+    w.trigger("actionConnect");
+    w.connectCamera();
+    press(w, Qt::Key_Space);
+    QCOMPARE(w.window->step(), 1);
 }
 
 void TestKeyboard::tabGoesRound_data()

@@ -18,6 +18,8 @@ private slots:
     void rounding_data();
     void rounding();
     void noReadOutWithoutButton();
+    void zoomKeepsThePlace_data();
+    void zoomKeepsThePlace();
     void overThePages_data();
     void overThePages();
     void notConnected();
@@ -89,6 +91,46 @@ void TestPointer::noReadOutWithoutButton()
     QTest::mouseMove(w.window->windowHandle(), w.inWindow({300, 400}));
     QTest::qWait(20);
     QCOMPARE(w.position.text(), QString());
+}
+
+void TestPointer::zoomKeepsThePlace_data()
+{
+    QTest::addColumn<double>("from");
+    QTest::addColumn<QByteArray>("action");
+    QTest::addColumn<double>("to");
+    QTest::newRow("100 to 75") << 1.0 << QByteArray("action75") << 0.75;
+    QTest::newRow("75 to 100") << 0.75 << QByteArray("action100") << 1.0;
+    QTest::newRow("100 to 50") << 1.0 << QByteArray("action50") << 0.5;
+    QTest::newRow("50 to 100") << 0.5 << QByteArray("action100") << 1.0;
+}
+
+/// In the middle of the view, as far as it can be scrolled, and in the magnifier.
+void TestPointer::zoomKeepsThePlace()
+{
+    QFETCH(double, from);
+    QFETCH(QByteArray, action);
+    QFETCH(double, to);
+    const PickingWindow w(from);
+    w.window->resize(700, 400);
+    const auto &area = w.child<QScrollArea>("scrollArea_showImg");
+    QTRY_VERIFY(area.verticalScrollBar()->maximum() > 100);
+    QTRY_VERIFY(area.horizontalScrollBar()->maximum() > 100);
+    const auto place = [&](double zoom) {
+        return QPointF(area.horizontalScrollBar()->value() + area.viewport()->width() / 2.0,
+                       area.verticalScrollBar()->value() + area.viewport()->height() / 2.0) /
+               zoom;
+    };
+    area.horizontalScrollBar()->setValue(int(640 * from) - area.viewport()->width() / 2);
+    area.verticalScrollBar()->setValue(int(480 * from) - area.viewport()->height() / 2);
+    const QPoint star = (QPointF(600, 450) * from).toPoint();
+    sendMouse(w.image, QEvent::MouseMove, star);
+    const QPointF before = place(from);
+    w.trigger(action);
+    QTRY_COMPARE(w.image.width(), int(1280 * to));
+    QTest::qWait(50); // what is laid out later must not undo it
+    QVERIFY2((place(to) - before).manhattanLength() <= 6, "another place is in the middle");
+    const QPoint magnified = w.window->findChild<MagnifierWidget *>()->magnifiedCentre();
+    QVERIFY((QPointF(magnified) / to - QPointF(star) / from).manhattanLength() <= 4);
 }
 
 void TestPointer::overThePages_data()

@@ -5,11 +5,14 @@
 #include "resources/resources.h"
 #include "tests/virtualmount/mountwindowtest.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QDial>
 #include <QDoubleSpinBox>
 #include <QSet>
+#include <QShortcut>
 #include <QSlider>
+#include <QWheelEvent>
 #include <cmath>
 
 using virtualsky::SkyState;
@@ -36,6 +39,10 @@ private slots:
     void theDialLeadsTheAxis();
     void arrowsStayInTheFields_data();
     void arrowsStayInTheFields();
+    void wheelNeedsTheFocus_data();
+    void wheelNeedsTheFocus();
+    void arrowsAreTheBoltsAfterTheMouse();
+    void aHeldKeyTurnsTheAxisOnce();
     void trackingIsKeptInTheAngle();
     void theTruthIsHiddenUntilAskedFor();
     void theTruthIsHiddenAgain_data();
@@ -229,6 +236,74 @@ void MountWindowTest::arrowsStayInTheFields()
     press(Qt::Key_Escape); // out of the field
     press(Qt::Key_Up);
     QCOMPARE(textOf(shown.window, "altitudeCount"), QString("0.25 up"));
+}
+
+void MountWindowTest::wheelNeedsTheFocus_data()
+{
+    QTest::addColumn<QString>("field");
+    for (const char *field : {"dial", "latitude", "latitudeSide", "longitude", "longitudeSide",
+                              "timeMode", "date", "clouds", "moon", "seeing"})
+        QTest::newRow(field) << field;
+}
+
+/// A hand that rolls past a field changes nothing.
+void MountWindowTest::wheelNeedsTheFocus()
+{
+    QFETCH(QString, field);
+    const SkyFileFixture file;
+    file.writeText("[site]\nlatitude = 45\n[weather]\nclouds = 0.5\nmoon = 0.5\n");
+    const QByteArray before = file.text();
+    const ShownWindow shown(file.path());
+    auto &widget = named<QWidget>(shown.window, field);
+    for (const int notches : {-1, 1, 1}) {
+        const QPointF place = widget.rect().center();
+        QWheelEvent event(place, widget.mapToGlobal(place.toPoint()), {}, {0, notches * 120},
+                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QSpontaneKeyEvent::setSpontaneous(&event); // as the window system's, which fetches focus
+        qApp->notify(&widget, &event);
+    }
+    QTest::qWait(100);
+    QVERIFY(!widget.hasFocus());
+    QCOMPARE(file.text(), before);
+}
+
+void MountWindowTest::arrowsAreTheBoltsAfterTheMouse()
+{
+    const SkyFileFixture file;
+    const ShownWindow shown(file.path());
+    auto &dial = named<QDial>(shown.window, "dial");
+    QTest::mouseClick(&dial, Qt::LeftButton, Qt::NoModifier, QPoint(4, dial.height() / 2));
+    QTRY_VERIFY(!dial.hasFocus());
+    press(Qt::Key_Up);
+    QCOMPARE(textOf(shown.window, "altitudeCount"), QString("0.25 up"));
+    auto &side = named<QComboBox>(shown.window, "latitudeSide");
+    side.setFocus();
+    side.showPopup();
+    QAbstractItemView &list = *side.view();
+    QTRY_VERIFY(list.isVisible());
+    QTest::qWait(QApplication::doubleClickInterval() + 100); // until the list takes a release
+    const QPoint south(10, list.visualRect(list.model()->index(1, 0)).center().y());
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, south);
+    QTRY_COMPARE(side.currentIndex(), 1);
+    QTRY_VERIFY(!side.hasFocus());
+    press(Qt::Key_Up);
+    QCOMPARE(side.currentIndex(), 1);
+    QCOMPARE(textOf(shown.window, "altitudeCount"), QString("0.50 up"));
+}
+
+void MountWindowTest::aHeldKeyTurnsTheAxisOnce()
+{
+    const SkyFileFixture file;
+    const ShownWindow shown(file.path());
+    for (const QShortcut *const shortcut : shown.window.findChildren<QShortcut *>()) {
+        const int key = shortcut->key()[0];
+        const bool turnsTheAxis =
+            key >= int(Qt::CTRL) + Qt::Key_1 && key <= int(Qt::CTRL) + Qt::Key_6;
+        const bool turnsABolt =
+            (key & ~int(Qt::SHIFT)) >= Qt::Key_Left && (key & ~int(Qt::SHIFT)) <= Qt::Key_Down;
+        if (turnsTheAxis || turnsABolt)
+            QCOMPARE(shortcut->autoRepeat(), turnsABolt);
+    }
 }
 
 void MountWindowTest::trackingIsKeptInTheAngle()

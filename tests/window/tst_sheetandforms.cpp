@@ -6,10 +6,17 @@
 #include "dialogs/aboutdialog.h"
 #include "dialogs/poletrackingdialog.h"
 #include "mainwindow/mainwindow.h"
+#include "mainwindow/wizardtable.h"
 #include "resources/resources.h"
+#include "tests/support/mainwindowprobe.h"
+#include "tests/support/patience.h"
 
 #include <QFrame>
 #include <QGroupBox>
+#include <QMessageBox>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTabWidget>
 
 class SheetAndFormsTest : public QObject
 {
@@ -22,6 +29,10 @@ private slots:
     void sectionsHaveOneFont_data();
     void sectionsHaveOneFont();
     void versionKeepsTheFormsFont();
+    void boxesShowAllLines();
+    void pagesAreWholeInANarrowWindow_data();
+    void pagesAreWholeInANarrowWindow();
+    void startMonitorComesIntoView();
 };
 
 void SheetAndFormsTest::initTestCase()
@@ -85,6 +96,62 @@ void SheetAndFormsTest::versionKeepsTheFormsFont()
     const QFont shown = named<QLabel>(dialog, "label_version").font();
     QCOMPARE(shown.pointSize(), plain.pointSize());
     QCOMPARE(shown.family(), QString("Times New Roman"));
+}
+
+void SheetAndFormsTest::boxesShowAllLines()
+{
+    QMessageBox box(QMessageBox::Warning, "Save As",
+                    "picture.png already exists.\nDo you want to replace it?");
+    box.show();
+    const auto &text = named<QLabel>(box, "qt_msgbox_label");
+    QTRY_VERIFY(text.isVisible());
+    QVERIFY(text.height() >= 2 * text.fontMetrics().lineSpacing());
+}
+
+void SheetAndFormsTest::pagesAreWholeInANarrowWindow_data()
+{
+    QTest::addColumn<int>("step");
+    for (int step = 1; step <= wizardStepCount; ++step)
+        QTest::addRow("step %d", step) << step;
+}
+
+/// The page goes over the magnifier rather than cut its question and its buttons.
+void SheetAndFormsTest::pagesAreWholeInANarrowWindow()
+{
+    QFETCH(int, step);
+    MainWindow window;
+    window.resize(800, 600);
+    window.show();
+    MainWindowProbe(window).switchStep(step);
+    auto &pages = named<QTabWidget>(window, "tabWidget_tipMsg");
+    const auto &area = named<QScrollArea>(window, "scrollArea_showImg");
+    QTRY_VERIFY(area.viewport()->geometry().contains(pages.geometry()));
+    for (const QWidget *const part : pages.currentWidget()->findChildren<QWidget *>()) {
+        const auto *const label = qobject_cast<const QLabel *>(part);
+        if (label && label->wordWrap())
+            continue;
+        QVERIFY2(part->width() >= part->minimumSizeHint().width(), qPrintable(part->objectName()));
+    }
+}
+
+/// The page of step 12 asks for it, and it lies at the panel's end.
+void SheetAndFormsTest::startMonitorComesIntoView()
+{
+    MainWindow window;
+    window.resize(800, 500);
+    window.show();
+    MainWindowProbe(window).switchStep(11);
+    const auto &panel = named<QScrollArea>(window, "scrollArea_manager");
+    const auto &button = named<QPushButton>(window, "pushButton_monitor");
+    const auto isInView = [&] {
+        const QRect place(button.mapTo(panel.viewport(), QPoint()), button.size());
+        return panel.viewport()->rect().contains(place);
+    };
+    QTRY_VERIFY(panel.verticalScrollBar()->maximum() > 0);
+    panel.verticalScrollBar()->setValue(0);
+    QVERIFY(!isInView());
+    MainWindowProbe(window).switchStep(12);
+    QTRY_VERIFY(isInView());
 }
 
 QTEST_MAIN(SheetAndFormsTest)

@@ -199,8 +199,7 @@ int main(int argc, char *argv[])
 
     // The sky of somebody who practises is left alone.
     const QTemporaryDir ownSky;
-    if (qEnvironmentVariableIsEmpty("QUORVANDEL_SKY"))
-        qputenv("QUORVANDEL_SKY", QFile::encodeName(ownSky.filePath("sky.ini")));
+    qputenv("QUORVANDEL_SKY", QFile::encodeName(ownSky.filePath("sky.ini")));
 
     startWindows(application);
     try {
