@@ -68,23 +68,17 @@ void CaptureThread::startCapture()
     start(QThread::InheritPriority);
 }
 
-void CaptureThread::waitForEnd()
+bool CaptureThread::waitForEnd(unsigned long milliseconds)
 {
-    wait();
+    if (!wait(milliseconds))
+        return false;
     noteAcquired(this);
+    return true;
 }
 
 void CaptureThread::stopCapture()
 {
     stopRequested = true;
-}
-
-bool CaptureThread::endsWithin(int milliseconds)
-{
-    if (!wait(static_cast<unsigned long>(milliseconds)))
-        return false;
-    noteAcquired(this);
-    return true;
 }
 
 void CaptureThread::run()

@@ -6,6 +6,7 @@
 
 #include <QImage>
 #include <QThread>
+#include <climits>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -37,7 +38,7 @@ public:
     /// Asks the loop to stop and returns at once.
     void stopCapture();
     /// Whether the loop has ended, or ends within that time; not if the camera library holds it.
-    bool endsWithin(int milliseconds);
+    bool waitForEnd(unsigned long milliseconds = ULONG_MAX);
 
 protected:
     void run() override;
@@ -47,7 +48,6 @@ private:
 
     enum class Fetch { NewFrame, NoFrameYet, Ended };
 
-    void waitForEnd();
     bool beginLive();
     Fetch fetchFrame();
     bool handleFrame();

@@ -27,49 +27,29 @@ inline void noteReleased([[maybe_unused]] void *address)
 #endif
 }
 
-/// Locks from construction to destruction, if it can within a time.
-class TimedLocker
+/// Locks from construction to destruction; with a time given, if it can within that time.
+class Locker
 {
 public:
-    TimedLocker(QMutex &guarded, int milliseconds)
+    /// \param milliseconds negative = as long as it takes
+    explicit Locker(QMutex &guarded, int milliseconds = -1)
         : mutex(guarded), locked(mutex.tryLock(milliseconds))
     {
         if (locked)
             noteAcquired(&mutex);
     }
-    ~TimedLocker()
+    ~Locker()
     {
         if (!locked)
             return;
         noteReleased(&mutex);
         mutex.unlock();
     }
-    TimedLocker(const TimedLocker &) = delete;
-    TimedLocker &operator=(const TimedLocker &) = delete;
+    Locker(const Locker &) = delete;
+    Locker &operator=(const Locker &) = delete;
     explicit operator bool() const { return locked; }
 
 private:
     QMutex &mutex;
     bool locked;
-};
-
-/// Locks from construction to destruction.
-class Locker
-{
-public:
-    explicit Locker(QMutex &guarded) : mutex(guarded)
-    {
-        mutex.lock();
-        noteAcquired(&mutex);
-    }
-    ~Locker()
-    {
-        noteReleased(&mutex);
-        mutex.unlock();
-    }
-    Locker(const Locker &) = delete;
-    Locker &operator=(const Locker &) = delete;
-
-private:
-    QMutex &mutex;
 };

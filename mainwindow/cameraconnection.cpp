@@ -169,7 +169,7 @@ void MainWindow::showConnected(bool connected)
 /// return leaves the camera as it is, and the window usable.
 bool MainWindow::closeCamera()
 {
-    const TimedLocker lock(handleMutex, callPatience());
+    const Locker lock(handleMutex, callPatience());
     libraryHangs = !lock;
     if (libraryHangs) {
         qCritical("the camera is not closed: its library does not return from a call");
@@ -225,7 +225,7 @@ int MainWindow::callPatience() const
 bool MainWindow::captureEnds()
 {
     captureThread->stopCapture();
-    return captureThread->endsWithin(callPatience());
+    return captureThread->waitForEnd(static_cast<unsigned long>(callPatience()));
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

@@ -2,6 +2,7 @@
 // How is the window put together, in which order, and how is it taken apart?
 #include "mainwindow/mainwindow.h"
 
+#include "app/wheelguard.h"
 #include "camera/camerastate.h"
 #include "camera/frames.h"
 #include "camera/sharedstate.h"
@@ -21,7 +22,6 @@
 
 #include <QActionGroup>
 #include <QDate>
-#include <QEvent>
 #include <QGraphicsDropShadowEffect>
 #include <QGridLayout>
 #include <QLabel>
@@ -40,21 +40,6 @@ constexpr int magnifierSide = 150;
 constexpr int shadowBlur = 20;
 const QSize statusLabelSize(85, 18);
 const QPointF frameCentre(640.0, 480.0);
-
-/// Leaves the wheel over a slider to the panel that scrolls, but for the slider that has the focus:
-/// who scrolls does not mean to change the exposure or to turn the template.
-class WheelGuard : public QObject
-{
-public:
-    using QObject::QObject;
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (event->type() != QEvent::Wheel || static_cast<QWidget *>(watched)->hasFocus())
-            return QObject::eventFilter(watched, event);
-        event->ignore();
-        return true;
-    }
-};
 
 QTimer *makeTimer(QObject *parent, int milliseconds)
 {

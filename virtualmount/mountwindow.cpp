@@ -19,7 +19,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
-#include <QShortcut>
 #include <QVBoxLayout>
 #include <cmath>
 #include <utility>
@@ -296,17 +295,13 @@ void MountWindow::watchField(QWidget &field)
 {
     field.setFocusPolicy(Qt::StrongFocus); // the wheel fetches no focus
     field.installEventFilter(this);
+    field.installEventFilter(&wheelGuard);
     if (auto *const box = qobject_cast<QComboBox *>(&field))
         box->view()->viewport()->installEventFilter(this);
 }
 
 bool MountWindow::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Wheel && isField(*watched) &&
-        !static_cast<QWidget *>(watched)->hasFocus()) {
-        event->ignore();
-        return true;
-    }
     // What was done with the mouse is done: the keys are the bolts' again. Spin boxes are typed in.
     if (event->type() == QEvent::MouseButtonRelease &&
         (qobject_cast<QAbstractSlider *>(watched) || !isField(*watched)))

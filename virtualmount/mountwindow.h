@@ -2,6 +2,7 @@
 // The window with the virtual mount's knobs: what does a hand turn, and when is it written?
 #pragma once
 
+#include "app/wheelguard.h"
 #include "virtualmount/mountmodel.h"
 #include "virtualmount/skydocument.h"
 
@@ -33,8 +34,8 @@ public:
 protected:
     /// A sky with passing clouds is left as it was before them.
     void closeEvent(QCloseEvent *event) override;
-    /// Keeps the arrow keys for the fields that need them themselves, the wheel for the one that
-    /// has the focus, and gives the keys back to the bolts after the mouse.
+    /// Keeps the arrow keys for the fields that need them themselves, and gives them back to the
+    /// bolts after the mouse.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
@@ -96,6 +97,7 @@ private:
     double altitudeBase, azimuthBase; ///< the bolts where the count of turns is 0, degrees
     double cloudsBefore = 0.0;        ///< what goes on once no more clouds pass
 
+    WheelGuard wheelGuard;
     QFileSystemWatcher watcher;
     QTimer poll, ticker;
     QElapsedTimer sinceTick, sincePassing;

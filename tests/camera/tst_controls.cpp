@@ -2,12 +2,12 @@
 // Do the camera's sliders and edit boxes send what they show?
 #include "camera/camerastate.h"
 #include "tests/camera/camerawindow.h"
+#include "tests/support/wheel.h"
 
 #include <QLineEdit>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSlider>
-#include <QWheelEvent>
 #include <QtTest>
 
 namespace
@@ -330,21 +330,14 @@ void TestControls::wheelScrollsThePanel()
     const int value = (slider.minimum() + slider.maximum()) / 2;
     slider.setValue(value);
     sdk().clearCalls();
-    const auto turn = [&slider](int notches) {
-        const QPointF place = slider.rect().center();
-        QWheelEvent event(place, slider.mapToGlobal(place.toPoint()), {}, {0, notches * 120},
-                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-        QSpontaneKeyEvent::setSpontaneous(&event); // or it is not passed on to the panel
-        qApp->notify(&slider, &event);
-    };
     const int before = bar.value();
-    turn(before == bar.maximum() ? 1 : -1);
+    rollWheel(slider, before == bar.maximum() ? 1 : -1);
     QVERIFY(bar.value() != before);
     QCOMPARE(slider.value(), value);
     QCOMPARE(sdkCalls(), QStringList());
     slider.setFocus();
     QTRY_VERIFY(slider.hasFocus());
-    turn(1);
+    rollWheel(slider, 1);
     QVERIFY(slider.value() > value);
 }
 

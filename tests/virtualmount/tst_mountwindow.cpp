@@ -3,6 +3,7 @@
 // everything in it within reach?
 #include "app/stylesheet.h"
 #include "resources/resources.h"
+#include "tests/support/wheel.h"
 #include "tests/virtualmount/mountwindowtest.h"
 
 #include <QAbstractItemView>
@@ -12,7 +13,6 @@
 #include <QSet>
 #include <QShortcut>
 #include <QSlider>
-#include <QWheelEvent>
 #include <cmath>
 
 using virtualsky::SkyState;
@@ -255,13 +255,8 @@ void MountWindowTest::wheelNeedsTheFocus()
     const QByteArray before = file.text();
     const ShownWindow shown(file.path());
     auto &widget = named<QWidget>(shown.window, field);
-    for (const int notches : {-1, 1, 1}) {
-        const QPointF place = widget.rect().center();
-        QWheelEvent event(place, widget.mapToGlobal(place.toPoint()), {}, {0, notches * 120},
-                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-        QSpontaneKeyEvent::setSpontaneous(&event); // as the window system's, which fetches focus
-        qApp->notify(&widget, &event);
-    }
+    for (const int notches : {-1, 1, 1})
+        rollWheel(widget, notches);
     QTest::qWait(100);
     QVERIFY(!widget.hasFocus());
     QCOMPARE(file.text(), before);
