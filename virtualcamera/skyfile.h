@@ -36,8 +36,9 @@ SkyState parse(std::string_view text);
 std::string format(const SkyState &state);
 
 /// Writes beside the file and renames, so that a reader sees the old text or the new, never a part.
-/// Makes the folder (mode 0700) where it is missing. False = failed, errno tells why.
-bool writeAtomically(const std::string &path, std::string_view text);
+/// A symbolic link stays one: what it leads to is written. Makes the folder (mode 0700) where it is
+/// missing. False = failed, errno tells why.
+bool writeAtomically(const std::string &name, std::string_view text);
 
 /// $QUORVANDEL_SKY, or quorvandel/sky.ini in $XDG_RUNTIME_DIR, or in /tmp/quorvandel-<uid>.
 std::string skyFilePath();

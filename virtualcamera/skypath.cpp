@@ -22,6 +22,23 @@ bool makeFolders(const std::string &path)
     return true;
 }
 
+// The file that a chain of symbolic links leads to, there or not; the path itself where it is none,
+// and nothing, with errno set, where the chain has no end.
+std::string behindLinks(std::string path)
+{
+    constexpr int longestChain = 40; // as the kernel has it
+    for (int link = 0; link < longestChain; ++link) {
+        std::string target(4096, '\0');
+        const ssize_t length = ::readlink(path.c_str(), target.data(), target.size());
+        if (length <= 0)
+            return path;
+        target.resize(static_cast<std::size_t>(length));
+        path = target[0] == '/' ? target : path.substr(0, path.rfind('/') + 1) + target;
+    }
+    errno = ELOOP;
+    return {};
+}
+
 bool writeAll(int file, std::string_view text)
 {
     while (!text.empty()) {
@@ -35,9 +52,10 @@ bool writeAll(int file, std::string_view text)
 }
 } // namespace
 
-bool writeAtomically(const std::string &path, std::string_view text)
+bool writeAtomically(const std::string &name, std::string_view text)
 {
-    if (!makeFolders(path))
+    const std::string path = behindLinks(name);
+    if (path.empty() || !makeFolders(path))
         return false;
     std::string aside = path + ".XXXXXX";
     const int file = ::mkstemp(aside.data());

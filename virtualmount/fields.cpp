@@ -8,6 +8,7 @@
 #include <QDoubleSpinBox>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QLineEdit>
 #include <QSignalBlocker>
 #include <QSlider>
 #include <algorithm>
@@ -18,9 +19,9 @@ namespace virtualmount
 QGridLayout &gridIn(QGroupBox &panel)
 {
     auto *const grid = new QGridLayout(&panel);
-    grid->setContentsMargins(8, panel.title().isEmpty() ? 6 : 24, 8, 6);
+    grid->setContentsMargins(8, panel.title().isEmpty() ? 6 : 24, 8, 5);
     grid->setHorizontalSpacing(6);
-    grid->setVerticalSpacing(3);
+    grid->setVerticalSpacing(2);
     return *grid;
 }
 
@@ -62,7 +63,8 @@ void showIn(QComboBox &box, int index)
 
 void showIn(QDateTimeEdit &edit, double utcSeconds)
 {
-    if (edit.hasFocus())
+    const auto *const text = edit.findChild<QLineEdit *>();
+    if (edit.hasFocus() && text && text->isModified())
         return;
     const QSignalBlocker blocker(edit);
     edit.setDateTime(QDateTime::fromSecsSinceEpoch(qint64(std::floor(utcSeconds)), Qt::UTC));

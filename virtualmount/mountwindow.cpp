@@ -2,8 +2,10 @@
 // The virtual mount's window at work: from a hand's action to the file, and from the file back.
 #include "virtualmount/mountwindow.h"
 
+#include "virtualmount/exercise.h"
 #include "virtualmount/fields.h"
 #include "virtualmount/mounttexts.h"
+#include "virtualmount/starangles.h"
 
 #include <QAbstractItemView>
 #include <QAbstractSlider>
@@ -45,18 +47,15 @@ bool isField(const QObject &watched)
 } // namespace
 
 MountWindow::MountWindow(const QString &skyFile, QWidget *parent)
-    : QMainWindow(parent),
-      document(skyFile),
-      shown(document.state()),
-      altitudeBase(shown.boltAltitude),
-      azimuthBase(shown.boltAzimuth)
+    : QMainWindow(parent), document(skyFile), shown(document.state()), random(systemRandom())
 {
+    beginCounts();
     setWindowTitle(tr("Quorvandel Virtual Mount"));
     auto *const central = new QWidget(this);
     central->setObjectName(QStringLiteral("centralWidget"));
     auto *const column = new QVBoxLayout(central);
     column->setContentsMargins(8, 4, 8, 2);
-    column->setSpacing(5);
+    column->setSpacing(3);
     setCentralWidget(central);
     for (QWidget *const panel :
          {axisPanel(), boltPanel(), sitePanel(), weatherPanel(), faultPanel(), truthPanel()})
@@ -196,10 +195,15 @@ void MountWindow::setPassing(bool on)
     keepTicking();
 }
 
+QString MountWindow::truthButtonText(bool isShown)
+{
+    return isShown ? tr("Hide the tru&th") : tr("Show me the tru&th");
+}
+
 void MountWindow::setTruthShown(bool on)
 {
     truthShown = on;
-    truthButton->setText(on ? tr("Hide the tru&th") : tr("Show me the tru&th"));
+    truthButton->setText(truthButtonText(on));
     refreshTexts();
 }
 
@@ -209,11 +213,30 @@ void MountWindow::reset()
     showIn(*passing, false);
     cloudSlider->setEnabled(true);
     setTruthShown(false);
-    edit([](SkyState &state) { state = SkyState(); });
-    altitudeBase = document.state().boltAltitude;
-    azimuthBase = document.state().boltAzimuth;
+    edit([this](SkyState &state) { state = document.found(); });
+    beginCounts();
     keepTicking();
     refreshTexts();
+}
+
+/// The turns are counted from here: otherwise they would tell the exercise.
+void MountWindow::newExercise()
+{
+    edit([this](SkyState &state) {
+        const Moment moment = clock.at(state, systemSeconds());
+        beginExercise(state, moment.utcSeconds, random);
+    });
+    if (!document.fault().isEmpty() || !document.writeFault().isEmpty())
+        return;
+    beginCounts();
+    setTruthShown(false);
+}
+
+void MountWindow::beginCounts()
+{
+    altitudeBase = document.state().boltAltitude;
+    azimuthBase = document.state().boltAzimuth;
+    beganAligned = isAligned(document.state());
 }
 
 void MountWindow::replaceFile()
@@ -227,6 +250,7 @@ void MountWindow::refresh()
 {
     const SkyState before = std::exchange(shown, document.state());
     const Moment moment = clock.at(shown, systemSeconds());
+    skySeconds = moment.utcSeconds;
     for (const auto &field : fields)
         field(shown);
     showIn(*timeMode, int(virtualmount::timeMode(shown)));
@@ -253,7 +277,8 @@ void MountWindow::refreshTexts()
 {
     altitudeCount->setText(altitudeTurns(shown.boltAltitude - altitudeBase));
     azimuthCount->setText(azimuthTurns(shown.boltAzimuth - azimuthBase));
-    truthLabel->setText(truthShown ? truthText() : tr("What is left of the error is hidden."));
+    truthLabel->setText(truthShown ? truthText() : hiddenTruthText());
+    anglesLabel->setText(truthShown ? anglesText() : QString());
     replaceButton->setVisible(!document.fault().isEmpty());
     status->setText(statusText());
     status->setToolTip(document.filePath() + QLatin1Char('\n') + status->text());
@@ -265,6 +290,23 @@ QString MountWindow::truthText() const
     const TruthTexts truth = truthTexts(virtualsky::truth(shown, systemSeconds()));
     return tr("The RA axis misses the pole by %1:\n%2 and %3.")
         .arg(truth.total, truth.altitude, truth.azimuth);
+}
+
+QString MountWindow::anglesText() const
+{
+    const auto angles = builtInAnglesError(QDate::currentDate(), shown, skySeconds);
+    return angles ? tr("The age of the star angles (%1) alone makes %2.")
+                        .arg(angles->year)
+                        .arg(arcText(angles->arcseconds))
+                  : QString();
+}
+
+QString MountWindow::hiddenTruthText() const
+{
+    const bool untouched = shown.boltAltitude == altitudeBase && shown.boltAzimuth == azimuthBase;
+    return beganAligned && untouched ? tr("The mount is already aligned.\n"
+                                          "“New exercise” moves it away from the pole.")
+                                     : tr("What is left of the error is hidden.");
 }
 
 QString MountWindow::statusText() const

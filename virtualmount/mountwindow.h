@@ -11,6 +11,7 @@
 #include <QMainWindow>
 #include <QTimer>
 #include <functional>
+#include <random>
 #include <vector>
 
 class QCheckBox;
@@ -74,7 +75,10 @@ private:
     void setDate(const QDateTime &utc);
     void setPassing(bool on);
     void setTruthShown(bool on);
+    static QString truthButtonText(bool isShown);
     void reset();
+    void newExercise();
+    void beginCounts();
     void replaceFile();
 
     void look(); ///< at the file, and show what has changed
@@ -86,15 +90,20 @@ private:
     void refreshAxis(const virtualsky::Moment &moment);
     void refreshTexts();
     QString truthText() const;
+    QString hiddenTruthText() const;
+    QString anglesText() const;
     QString statusText() const;
 
     virtualmount::SkyDocument document;
     virtualsky::SkyClock clock;
     virtualmount::AxisMotion motion;
-    SkyState shown; ///< what the fields show
+    SkyState shown;          ///< what the fields show
+    double skySeconds = 0.0; ///< the sky's UTC of what they show
+    std::mt19937 random;     ///< draws exercises
     bool truthShown = false;
     bool dialLeads = false;           ///< the dial was turned and the axis follows it
     double altitudeBase, azimuthBase; ///< the bolts where the count of turns is 0, degrees
+    bool beganAligned = false;        ///< with the bolts there
     double cloudsBefore = 0.0;        ///< what goes on once no more clouds pass
 
     WheelGuard wheelGuard;
@@ -110,5 +119,5 @@ private:
     QComboBox *timeMode = nullptr;
     QDateTimeEdit *date = nullptr;
     QPushButton *truthButton = nullptr, *replaceButton = nullptr;
-    QLabel *truthLabel = nullptr, *status = nullptr;
+    QLabel *truthLabel = nullptr, *anglesLabel = nullptr, *status = nullptr;
 };

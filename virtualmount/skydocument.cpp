@@ -3,6 +3,7 @@
 #include "virtualmount/skydocument.h"
 
 #include "virtualcamera/skyfile.h"
+#include "virtualcamera/skykeys.h"
 #include "virtualmount/faulttexts.h"
 #include "virtualmount/skytext.h"
 
@@ -19,6 +20,9 @@ namespace virtualmount
 {
 namespace
 {
+using virtualsky::SkyKey;
+using virtualsky::SkyState;
+
 constexpr int lockMilliseconds = 500; // a write takes a few
 
 QString translated(const char *source)
@@ -92,12 +96,12 @@ bool SkyDocument::refresh()
     const bool existed = std::exchange(exists, now.exists);
     readFault = now.fault;
     if (!exists) {
-        good = virtualsky::SkyState();
+        take(SkyState());
         return existed || !faultBefore.isEmpty();
     }
     if (readFault.isEmpty()) {
         try {
-            good = virtualsky::parse(text);
+            take(virtualsky::parse(text));
         } catch (const virtualsky::SkyFileError &error) {
             readFault = faultText(error);
         }
@@ -105,12 +109,23 @@ bool SkyDocument::refresh()
     return !existed || text != textBefore || readFault != faultBefore;
 }
 
+/// A state that others have written.
+void SkyDocument::take(const SkyState &state)
+{
+    for (const SkyKey &key : virtualsky::skyKeys()) {
+        const std::string value = keyText(state, key);
+        if (value != keyText(good, key))
+            setKey(others, key, value);
+    }
+    good = state;
+}
+
 bool SkyDocument::write(const std::string &newText)
 {
     if (newText == text && exists)
         return true;
     try {
-        const virtualsky::SkyState written = virtualsky::parse(newText);
+        const SkyState written = virtualsky::parse(newText);
         if (!virtualsky::writeAtomically(QFile::encodeName(path).toStdString(), newText))
             throw virtualsky::SkyFileError(0, {}, qt_error_string(errno).toStdString());
         good = written;
@@ -141,7 +156,7 @@ bool SkyDocument::change(const Change &apply)
     refresh();
     if (!readFault.isEmpty())
         return false;
-    virtualsky::SkyState after = good;
+    SkyState after = good;
     apply(after);
     return write(exists ? withChanges(text, good, after) : virtualsky::format(after));
 }

@@ -22,6 +22,9 @@ public:
     const QString &filePath() const { return path; }
     /// The last good state; the defaults where there is no file or there was none that is good.
     const virtualsky::SkyState &state() const { return good; }
+    /// The state as it was found at first, with every change since then that others have made:
+    /// what this object has written is not in it.
+    const virtualsky::SkyState &found() const { return others; }
     /// What is wrong with the file, one line; empty = nothing.
     const QString &fault() const { return readFault; }
     /// Why the last change could not be written; empty = it was, or there was nothing to write.
@@ -38,9 +41,10 @@ public:
 private:
     bool mayWrite(bool locked);
     bool write(const std::string &newText);
+    void take(const virtualsky::SkyState &state);
 
     QString path;
-    virtualsky::SkyState good;
+    virtualsky::SkyState good, others;
     QString readFault, lastWriteFault;
     std::string text; // as last read
     bool exists = false;

@@ -12,6 +12,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QSlider>
 #include <cmath>
 
@@ -96,6 +97,9 @@ QWidget *MountWindow::timeFields()
     date->setKeyboardTracking(false);
     watchField(*date);
     connect(date, &QDateTimeEdit::dateTimeChanged, this, &MountWindow::setDate);
+    // What is being typed stands until it is done.
+    auto *const text = date->findChild<QLineEdit *>();
+    connect(date, &QDateTimeEdit::editingFinished, text, [text] { text->setModified(false); });
     return date;
 }
 

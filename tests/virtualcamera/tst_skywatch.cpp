@@ -65,6 +65,8 @@ private slots:
     void strangeFilesAreReported();
     void nothingIsReadWithoutAChange();
     void writesInOneGo();
+    void writesThroughLinks();
+    void aRingOfLinksIsAFailure();
     void writeFailureLeavesTheFile();
     void pathIsFound_data();
     void pathIsFound();
@@ -238,6 +240,34 @@ void TestSkyWatch::writesInOneGo()
     QCOMPARE(kept.readAll(), QByteArray("[site]\nlatitude = 5\n"));
     QCOMPARE(file.dir().entryList(QDir::Files | QDir::Hidden), QStringList("sky.ini"));
     QVERIFY(!(QFileInfo(file.dir().path()).permissions() & (QFile::ReadOther | QFile::WriteOther)));
+}
+
+void TestSkyWatch::writesThroughLinks()
+{
+    QTemporaryDir folder;
+    const auto in = [&](const char *name) { return folder.filePath(name); };
+    QVERIFY(QDir().mkpath(in("skies")));
+    QVERIFY(QFile::link("skies/tonight.ini", in("near.ini"))); // relative to its own folder
+    QVERIFY(QFile::link(in("near.ini"), in("far.ini")));
+    for (const std::string text : {"[site]\nlatitude = 5\n", "[site]\nlatitude = 6\n"}) {
+        QVERIFY(writeAtomically(in("far.ini").toStdString(), text));
+        QVERIFY(QFileInfo(in("far.ini")).isSymLink() && QFileInfo(in("near.ini")).isSymLink());
+        QFile file(in("skies/tonight.ini"));
+        QVERIFY(!QFileInfo(file).isSymLink() && file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll().toStdString(), text);
+    }
+    QCOMPARE(QDir(in("skies")).entryList(QDir::Files | QDir::Hidden), QStringList("tonight.ini"));
+}
+
+void TestSkyWatch::aRingOfLinksIsAFailure()
+{
+    QTemporaryDir folder;
+    QVERIFY(QFile::link("b.ini", folder.filePath("a.ini")));
+    QVERIFY(QFile::link("a.ini", folder.filePath("b.ini")));
+    errno = 0;
+    QVERIFY(!writeAtomically(folder.filePath("a.ini").toStdString(), "\n"));
+    QCOMPARE(errno, ELOOP);
+    QVERIFY(QFileInfo(folder.filePath("a.ini")).isSymLink());
 }
 
 void TestSkyWatch::writeFailureLeavesTheFile()

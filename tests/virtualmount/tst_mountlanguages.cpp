@@ -78,6 +78,8 @@ private slots:
     void cleanupTestCase() { QVERIFY(virtualmount::speak(languages.front())); }
     void everyTextFits_data();
     void everyTextFits();
+    void anAlignedStartFits_data() { everyTextFits_data(); }
+    void anAlignedStartFits();
     void mnemonicsAreUnique_data() { everyTextFits_data(); }
     void mnemonicsAreUnique();
     void nothingIsLeftInEnglish_data();
@@ -136,6 +138,26 @@ void MountLanguagesTest::everyTextFits()
     QCOMPARE(window.size(), places.mount.size());
 }
 
+/// What the window says of a mount that is aligned at its start takes no more room.
+void MountLanguagesTest::anAlignedStartFits()
+{
+    QFETCH(int, number);
+    QVERIFY(virtualmount::speak(languages.at(std::size_t(number))));
+    const SkyFileFixture usual;
+    const ShownWindow other(usual.path());
+    const SkyFileFixture file;
+    file.writeText("[mount]\nbolt_altitude = 0\nbolt_azimuth = 0\n");
+    const ShownWindow shown(file.path());
+    settle();
+    QVERIFY(textOf(shown.window, "truth") != textOf(other.window, "truth"));
+    QCOMPARE((lacksIn(shown.window) + cutTexts(shown.window)).join("; "), QString());
+    QCOMPARE(shown.window.sizeHint(), other.window.sizeHint());
+    // The button is named as it reads, without its letter in brackets.
+    QString button = named<QAbstractButton>(shown.window, "newExercise").text();
+    button.remove(QRegularExpression("\\(&.\\)")).remove('&');
+    QVERIFY2(textOf(shown.window, "truth").contains(button), qPrintable(button));
+}
+
 void MountLanguagesTest::mnemonicsAreUnique()
 {
     QFETCH(int, number);
@@ -155,7 +177,7 @@ void MountLanguagesTest::mnemonicsAreUnique()
     for (const auto *const label : shown.window.findChildren<QLabel *>())
         if (label->buddy())
             take(label->text());
-    QCOMPARE(users.size(), 16);
+    QCOMPARE(users.size(), 17);
 }
 
 void MountLanguagesTest::nothingIsLeftInEnglish_data()

@@ -42,6 +42,8 @@ private slots:
     void coordinates_data();
     void coordinates();
     void times();
+    void theDateRunsUnderTheFocus();
+    void aDateBeingTypedStays();
     void passingClouds();
     void closingEndsThePassing();
 };
@@ -212,6 +214,42 @@ void MountSkyTest::times()
     press(Qt::Key_Up); // Now
     QVERIFY(!file.state().date);
     QVERIFY(!date.isEnabled());
+}
+
+void MountSkyTest::theDateRunsUnderTheFocus()
+{
+    const SkyFileFixture file;
+    file.writeText("[time]\ndate = 2026-11-20T20:00:00Z\n");
+    const ShownWindow shown(file.path());
+    auto &date = named<QDateTimeEdit>(shown.window, "date");
+    date.setFocus();
+    date.setSelectedSection(QDateTimeEdit::DaySection);
+    const QDateTime first = date.dateTime();
+    QTRY_VERIFY(date.dateTime() > first);
+    QCOMPARE(date.currentSection(), QDateTimeEdit::DaySection);
+    // And what others write shows.
+    file.writeText("[time]\ndate = 2029-01-01T00:00:00Z\nrunning = false\n");
+    QTRY_COMPARE(date.dateTime().date().year(), 2029);
+    QVERIFY(date.hasFocus());
+}
+
+void MountSkyTest::aDateBeingTypedStays()
+{
+    const SkyFileFixture file;
+    file.writeText("[time]\ndate = 2026-11-20T20:00:00Z\n");
+    const ShownWindow shown(file.path());
+    auto &date = named<QDateTimeEdit>(shown.window, "date");
+    date.setFocus();
+    date.setSelectedSection(QDateTimeEdit::YearSection);
+    QTest::keyClicks(&date, "20");
+    QTest::qWait(1500); // the clock goes on meanwhile
+    QTest::keyClicks(&date, "31");
+    QTest::qWait(1500);
+    QCOMPARE(file.text(), QByteArray("[time]\ndate = 2026-11-20T20:00:00Z\n"));
+    press(Qt::Key_Return);
+    QVERIFY(file.text().startsWith("[time]\ndate = 2031-11-20T20:00:0"));
+    const QDateTime typed = date.dateTime();
+    QTRY_VERIFY(date.dateTime() > typed); // and runs on from there
 }
 
 void MountSkyTest::passingClouds()

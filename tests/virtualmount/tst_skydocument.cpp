@@ -31,6 +31,8 @@ private slots:
     void aMendedFileIsTaken();
     void replaceWritesTheLastGoodState();
     void replaceLeavesAGoodFileAlone();
+    void whatOthersWroteIsKeptApart();
+    void aLinkStaysALink();
     void aRemovedFileMeansTheDefaults();
     void nothingIsWrittenWhereNothingChanges();
     void whatTheCameraWouldRefuseIsNotWritten();
@@ -196,6 +198,50 @@ void SkyDocumentTest::replaceWritesTheLastGoodState()
     SkyState expected;
     expected.latitude = 12.0;
     QCOMPARE(file.text().toStdString(), virtualsky::format(expected));
+    QVERIFY(!document.refresh());
+}
+
+/// What was found, with the changes of others and without one's own.
+void SkyDocumentTest::whatOthersWroteIsKeptApart()
+{
+    const SkyFileFixture file;
+    file.writeText("[site]\nlatitude = 12\n");
+    SkyDocument document(file.path());
+    QVERIFY(document.change([](SkyState &state) {
+        state.latitude = 20.0;
+        state.moon = 0.5;
+    }));
+    QCOMPARE(document.found().latitude, 12.0);
+    QCOMPARE(document.found().moon, 0.0);
+    // Before a change as well as at a look; a key that others set is theirs from then on.
+    file.writeText(file.text() + "clouds = 0.25\n");
+    QVERIFY(document.change([](SkyState &state) { state.latitude = 21.0; }));
+    file.writeText(file.text().replace("moon = 0.5", "moon = 0.75"));
+    QVERIFY(document.refresh());
+    SkyState expected;
+    expected.latitude = 12.0;
+    expected.moon = 0.75;
+    expected.clouds = 0.25;
+    QCOMPARE(virtualsky::format(document.found()), virtualsky::format(expected));
+    file.writeText("nonsense\n");
+    document.refresh();
+    QCOMPARE(virtualsky::format(document.found()), virtualsky::format(expected));
+}
+
+void SkyDocumentTest::aLinkStaysALink()
+{
+    const SkyFileFixture file;
+    const QTemporaryDir elsewhere;
+    const QString real = elsewhere.filePath("mine.ini");
+    QVERIFY(QFile::link(real, file.path()));
+    SkyDocument document(file.path());
+    for (const double latitude : {12.0, 13.0}) { // first where the link leads to nothing yet
+        QVERIFY(document.change([latitude](SkyState &state) { state.latitude = latitude; }));
+        QVERIFY(QFileInfo(file.path()).isSymLink());
+        QCOMPARE(file.state().latitude, latitude);
+        QCOMPARE(QFileInfo(file.path()).symLinkTarget(), real);
+    }
+    QCOMPARE(QDir(elsewhere.path()).entryList(QDir::Files | QDir::Hidden), QStringList("mine.ini"));
     QVERIFY(!document.refresh());
 }
 

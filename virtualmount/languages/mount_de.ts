@@ -315,6 +315,28 @@ Strg+1 bis Strg+6 drehen die Achse, Esc verlässt ein Feld.</translation>
         <source>Altitude and azimuth bolts: turns</source>
         <translation>Polhöhe und Azimut: Umdrehungen</translation>
     </message>
+    <message>
+        <source>&amp;New exercise</source>
+        <translation>Neue &amp;Übung</translation>
+    </message>
+    <message>
+        <source>Turns the bolts and the camera at random, to start again from there</source>
+        <translation>Verstellt Schrauben und Kamera zufällig, um von dort neu zu beginnen</translation>
+    </message>
+    <message>
+        <source>Error of the star angles</source>
+        <translation>Fehler der Sternwinkel</translation>
+    </message>
+    <message>
+        <source>The age of the star angles (%1) alone makes %2.</source>
+        <translation>Allein das Alter der Sternwinkel (%1) macht %2 aus.</translation>
+    </message>
+    <message>
+        <source>The mount is already aligned.
+“New exercise” moves it away from the pole.</source>
+        <translation>Die Montierung ist schon auf den Pol ausgerichtet.
+„Neue Übung“ rückt sie vom Pol weg.</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractSpinBox</name>

@@ -315,6 +315,28 @@ Ctrl+1 a Ctrl+6 giran el eje; Esc sale de un campo.</translation>
         <source>Altitude and azimuth bolts: turns</source>
         <translation>Tornillos de altitud y azimut: vueltas</translation>
     </message>
+    <message>
+        <source>&amp;New exercise</source>
+        <translation>Nuevo e&amp;jercicio</translation>
+    </message>
+    <message>
+        <source>Turns the bolts and the camera at random, to start again from there</source>
+        <translation>Gira los tornillos y la cámara al azar para empezar de nuevo desde ahí</translation>
+    </message>
+    <message>
+        <source>Error of the star angles</source>
+        <translation>Error de los ángulos estelares</translation>
+    </message>
+    <message>
+        <source>The age of the star angles (%1) alone makes %2.</source>
+        <translation>La antigüedad de los ángulos (%1) supone %2.</translation>
+    </message>
+    <message>
+        <source>The mount is already aligned.
+“New exercise” moves it away from the pole.</source>
+        <translation>La montura ya está alineada.
+«Nuevo ejercicio» la aparta del polo.</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractSpinBox</name>

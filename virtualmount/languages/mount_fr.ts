@@ -315,6 +315,28 @@ Ctrl+1 à Ctrl+6 tournent l&apos;axe, Échap quitte un champ.</translation>
         <source>Altitude and azimuth bolts: turns</source>
         <translation>Vis d&apos;altitude et d&apos;azimut&#xa0;: tours</translation>
     </message>
+    <message>
+        <source>&amp;New exercise</source>
+        <translation>Nouvel e&amp;xercice</translation>
+    </message>
+    <message>
+        <source>Turns the bolts and the camera at random, to start again from there</source>
+        <translation>Tourne les vis et la caméra au hasard, pour repartir de là</translation>
+    </message>
+    <message>
+        <source>Error of the star angles</source>
+        <translation>Erreur des angles des étoiles</translation>
+    </message>
+    <message>
+        <source>The age of the star angles (%1) alone makes %2.</source>
+        <translation>L&apos;âge des angles d&apos;étoiles (%1) compte pour %2.</translation>
+    </message>
+    <message>
+        <source>The mount is already aligned.
+“New exercise” moves it away from the pole.</source>
+        <translation>La monture est déjà alignée.
+«&#xa0;Nouvel exercice&#xa0;» l&apos;écarte du pôle.</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractSpinBox</name>

@@ -315,6 +315,28 @@ Ctrl+1 … Ctrl+6 ruotano l&apos;asse, Esc esce da un campo.</translation>
         <source>Altitude and azimuth bolts: turns</source>
         <translation>Viti di altezza e azimut: giri</translation>
     </message>
+    <message>
+        <source>&amp;New exercise</source>
+        <translation>Nuovo eserci&amp;zio</translation>
+    </message>
+    <message>
+        <source>Turns the bolts and the camera at random, to start again from there</source>
+        <translation>Gira le viti e la camera a caso, per ricominciare da lì</translation>
+    </message>
+    <message>
+        <source>Error of the star angles</source>
+        <translation>Errore degli angoli delle stelle</translation>
+    </message>
+    <message>
+        <source>The age of the star angles (%1) alone makes %2.</source>
+        <translation>L&apos;età degli angoli delle stelle (%1) vale %2.</translation>
+    </message>
+    <message>
+        <source>The mount is already aligned.
+“New exercise” moves it away from the pole.</source>
+        <translation>La montatura è già allineata.
+«Nuovo esercizio» la allontana dal polo.</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractSpinBox</name>

@@ -315,6 +315,28 @@ Ctrl+1 ～ Ctrl+6 で軸を回し、Esc で入力欄を離れます。</translat
         <source>Altitude and azimuth bolts: turns</source>
         <translation>高度・方位の調整ネジ: 回転数</translation>
     </message>
+    <message>
+        <source>&amp;New exercise</source>
+        <translation>新しい練習(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Turns the bolts and the camera at random, to start again from there</source>
+        <translation>ネジとカメラの向きを無作為に変え、そこから練習し直します</translation>
+    </message>
+    <message>
+        <source>Error of the star angles</source>
+        <translation>星の角度データの誤差</translation>
+    </message>
+    <message>
+        <source>The age of the star angles (%1) alone makes %2.</source>
+        <translation>星の角度データ（%1年）の古さの分：%2</translation>
+    </message>
+    <message>
+        <source>The mount is already aligned.
+“New exercise” moves it away from the pole.</source>
+        <translation>赤道儀の極軸はすでに合っています。
+「新しい練習」で極からずらせます。</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractSpinBox</name>

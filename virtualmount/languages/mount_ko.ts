@@ -315,6 +315,28 @@ Ctrl+1~Ctrl+6으로 축을 돌리고 Esc로 입력란에서 나옵니다.</trans
         <source>Altitude and azimuth bolts: turns</source>
         <translation>고도·방위각 조절 나사: 회전수</translation>
     </message>
+    <message>
+        <source>&amp;New exercise</source>
+        <translation>새 연습(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Turns the bolts and the camera at random, to start again from there</source>
+        <translation>나사와 카메라 방향을 무작위로 바꾸어 거기서 다시 시작합니다</translation>
+    </message>
+    <message>
+        <source>Error of the star angles</source>
+        <translation>별 각도 데이터의 오차</translation>
+    </message>
+    <message>
+        <source>The age of the star angles (%1) alone makes %2.</source>
+        <translation>별 각도 데이터(%1년)가 오래되어 생긴 오차: %2</translation>
+    </message>
+    <message>
+        <source>The mount is already aligned.
+“New exercise” moves it away from the pole.</source>
+        <translation>적도의의 극축이 이미 맞춰져 있습니다.
+‘새 연습’을 누르면 극에서 벗어납니다.</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractSpinBox</name>

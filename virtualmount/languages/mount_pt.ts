@@ -315,6 +315,28 @@ Ctrl+1 a Ctrl+6 rodam o eixo; Esc sai de um campo.</translation>
         <source>Altitude and azimuth bolts: turns</source>
         <translation>Parafusos de altitude e azimute: voltas</translation>
     </message>
+    <message>
+        <source>&amp;New exercise</source>
+        <translation>Novo e&amp;xercício</translation>
+    </message>
+    <message>
+        <source>Turns the bolts and the camera at random, to start again from there</source>
+        <translation>Roda os parafusos e a câmara ao acaso, para recomeçar daí</translation>
+    </message>
+    <message>
+        <source>Error of the star angles</source>
+        <translation>Erro dos ângulos das estrelas</translation>
+    </message>
+    <message>
+        <source>The age of the star angles (%1) alone makes %2.</source>
+        <translation>A idade dos ângulos das estrelas (%1) vale %2.</translation>
+    </message>
+    <message>
+        <source>The mount is already aligned.
+“New exercise” moves it away from the pole.</source>
+        <translation>A montagem já está alinhada.
+“Novo exercício” afasta-a do polo.</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractSpinBox</name>

@@ -315,6 +315,28 @@ Ctrl+1 … Ctrl+6 поворачивают ось, Esc — выход из по�
         <source>Altitude and azimuth bolts: turns</source>
         <translation>Винты высоты и азимута: обороты</translation>
     </message>
+    <message>
+        <source>&amp;New exercise</source>
+        <translation>&amp;Новое упражнение</translation>
+    </message>
+    <message>
+        <source>Turns the bolts and the camera at random, to start again from there</source>
+        <translation>Случайно поворачивает винты и камеру, чтобы начать оттуда заново</translation>
+    </message>
+    <message>
+        <source>Error of the star angles</source>
+        <translation>Погрешность углов звёзд</translation>
+    </message>
+    <message>
+        <source>The age of the star angles (%1) alone makes %2.</source>
+        <translation>Устаревание углов звёзд (%1) даёт %2.</translation>
+    </message>
+    <message>
+        <source>The mount is already aligned.
+“New exercise” moves it away from the pole.</source>
+        <translation>Монтировка уже выставлена по полюсу.
+«Новое упражнение» уводит её от полюса.</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractSpinBox</name>

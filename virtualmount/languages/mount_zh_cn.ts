@@ -315,6 +315,28 @@ Ctrl+1 至 Ctrl+6 转动赤经轴，Esc 离开输入框。</translation>
         <source>Altitude and azimuth bolts: turns</source>
         <translation>高度和方位调节螺丝：圈数</translation>
     </message>
+    <message>
+        <source>&amp;New exercise</source>
+        <translation>新练习(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Turns the bolts and the camera at random, to start again from there</source>
+        <translation>随机转动螺丝和相机，从那里重新开始</translation>
+    </message>
+    <message>
+        <source>Error of the star angles</source>
+        <translation>星点角度数据的误差</translation>
+    </message>
+    <message>
+        <source>The age of the star angles (%1) alone makes %2.</source>
+        <translation>仅星点角度数据（%1 年）过时就造成 %2 的误差。</translation>
+    </message>
+    <message>
+        <source>The mount is already aligned.
+“New exercise” moves it away from the pole.</source>
+        <translation>赤道仪已经对准天极。
+“新练习”会让它偏离天极。</translation>
+    </message>
 </context>
 <context>
     <name>QAbstractSpinBox</name>
