@@ -31,6 +31,8 @@ private slots:
     void alignsByItself();
     void showsTheViews();
     void saysWhatIsInItsWay();
+    void refusesStrayOptions_data();
+    void refusesStrayOptions();
 
 private:
     /// Runs the tour and keeps what it prints.
@@ -113,6 +115,24 @@ void TourTest::saysWhatIsInItsWay()
     run({"--pictures", "/dev/null/nowhere"});
     QCOMPARE(exitCode, 1);
     QVERIFY2(errors.contains("the tour is stuck: can not write /dev/null/nowhere"), errors);
+}
+
+void TourTest::refusesStrayOptions_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::newRow("a word") << QStringList{"south"};
+    QTest::newRow("an option") << QStringList{"--sotuh"};
+    QTest::newRow("a zoom") << QStringList{"--zoom", "80"};
+}
+
+void TourTest::refusesStrayOptions()
+{
+    QFETCH(QStringList, options);
+    run(options);
+    QCOMPARE(exitCode, 1);
+    QVERIFY2(errors.contains(options.last().toUtf8().mid(2)) || errors.contains("--zoom takes"),
+             errors);
+    QVERIFY2(output.isEmpty(), output);
 }
 
 QTEST_GUILESS_MAIN(TourTest)

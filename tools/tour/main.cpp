@@ -7,12 +7,15 @@
 #include "tools/practicesky.h"
 #include "tools/tour/album.h"
 #include "tools/tour/caption.h"
+#include "tools/tour/ending.h"
 #include "tools/tour/exhibits.h"
 #include "tools/tour/person.h"
+#include "tools/tour/touroptions.h"
 #include "virtualcamera/skyfile.h"
 #include "virtualmount/mountwindow.h"
 #include "virtualmount/places.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFile>
@@ -31,6 +34,8 @@ constexpr double azimuthOff = -0.9;
 /// After every action, for somebody who watches.
 constexpr int watchingPause = 1500;
 constexpr int watchedBoltParts = 8;
+/// What the rough turn of the bolts leaves for somebody to see of the fine one, frame pixels.
+constexpr QPointF watchedRoughRest(-11, 9);
 /// A window narrower than this is better shown at half size.
 constexpr int narrowWindow = 1200;
 
@@ -60,25 +65,6 @@ QRect roundAxis(const MainWindow &window, const Knobs &knobs, int zoomPercent)
     return part;
 }
 
-void addOptions(QCommandLineParser &options)
-{
-    options.setApplicationDescription("Runs the alignment by itself on the virtual camera.");
-    options.addHelpOption();
-    options.addOption({"south", "Align on the southern pole."});
-    options.addOption({"fast", "Without pauses, as fast as the pictures come."});
-    options.addOption({"real-rate", "With --fast: no faster than a camera, for honest read-outs."});
-    options.addOption({"pictures", "Save a picture of every step to <folder>.", "folder"});
-    options.addOption(
-        {"frames", "Save the pictures of the fine adjustment to <folder>.", "folder"});
-    options.addOption({"views",
-                       "Instead of aligning, save the window at every zoom, the menus and "
-                       "the dialogs to <folder>.",
-                       "folder"});
-    options.addOption({"zoom", "100, 75 or 50 percent.", "percent", "75"});
-    options.addOption({"language", "EN, ZH, JA, RU, FR, DE, ES, PT, IT or KO.", "code", "EN"});
-    options.addOption({"mono", "In the mono style."});
-}
-
 /// Connects and photographs what there is to see without aligning.
 void showViews(MainWindow &window, Knobs &knobs, Person::Options how, const Album &album)
 {
@@ -97,17 +83,43 @@ void showViews(MainWindow &window, Knobs &knobs, Person::Options how, const Albu
     showMenusAndDialogs(window, album);
 }
 
-/// Aligns, with pictures of the steps and of the fine adjustment where they are wanted.
-void alignInView(Person &person, Knobs &knobs, Album *animation, MainWindow &window,
-                 int zoomPercent)
+void alignRoughly(Person &person)
 {
-    printf("true error before: %.1f arcminutes\n", knobs.poleError() / 60);
     person.connectCamera();
     person.prepare();
     person.setExposure();
     person.confirmTemplate();
     person.findAxis();
     person.placePoleStar();
+}
+
+/// Aligns for somebody who watches: the last steps from near, and the result stays until a key.
+void alignWatched(Person &person, Knobs &knobs, MainWindow &window, MountWindow &mount)
+{
+    const double before = knobs.poleError() / 60;
+    printf("true error before: %.1f arcminutes\n", before);
+    alignRoughly(person);
+    person.zoomIn();
+    person.startMonitor();
+    person.magnifyMarks();
+    person.fineAdjust();
+    person.finish();
+    const double after = knobs.poleError();
+    printf("true error after: %.0f arcseconds\n", after);
+    mount.findChild<QAbstractButton *>("showTruth")->click();
+    person.announce(QStringLiteral("Aligned: %1 arcminutes off before, %2 arcseconds now. "
+                                   "Press a key to end.")
+                        .arg(before, 0, 'f', 1)
+                        .arg(after, 0, 'f', 0));
+    waitForKey(window);
+}
+
+/// Aligns, with pictures of the steps and of the fine adjustment where they are wanted.
+void alignInView(Person &person, Knobs &knobs, Album *animation, MainWindow &window,
+                 int zoomPercent)
+{
+    printf("true error before: %.1f arcminutes\n", knobs.poleError() / 60);
+    alignRoughly(person);
     if (animation) {
         knobs.nudgeStarB({animatedX, animatedY});
         person.moved = [&, animation, zoomPercent] {
@@ -148,12 +160,15 @@ void run(const QCommandLineParser &options)
     const auto steps = albumFor(options, "pictures");
     const auto animation = albumFor(options, "frames");
     const auto views = albumFor(options, "views");
-    const bool isWatched = !options.isSet("fast");
-    if (isWatched)
+    const bool hasMount = !options.isSet("fast");
+    if (hasMount)
         how.boltParts = watchedBoltParts;
     if (animation)
         how.boltParts = animatedParts;
     const bool isQuiet = steps || animation || views;
+    const bool watched = isWatched(options.isSet("fast"), isQuiet, QGuiApplication::platformName());
+    if (watched)
+        how.roughRest = watchedRoughRest;
     const bool isUnthrottled = options.isSet("fast") && !options.isSet("real-rate");
     Knobs knobs(virtualsky::skyFilePath(), startingSky(how.south, isUnthrottled, isQuiet));
     Settings settings;
@@ -163,7 +178,7 @@ void run(const QCommandLineParser &options)
     MainWindow window;
     window.resize(1280, 800);
     std::unique_ptr<MountWindow> mount;
-    if (isWatched) {
+    if (hasMount) {
         mount = std::make_unique<MountWindow>(QFile::decodeName(virtualsky::skyFilePath().c_str()));
         placeSideBySide(window, *mount, how);
     }
@@ -177,11 +192,16 @@ void run(const QCommandLineParser &options)
     Person person(window, knobs, how, 1);
     person.announce = [&](const QString &text) {
         printf("%s\n", qPrintable(text));
-        if (isWatched)
+        if (hasMount)
             caption.say(text);
     };
     if (steps)
         person.arrived = [&](const QString &name) { steps->add(window, name); };
+    if (watched) {
+        alignWatched(person, knobs, window, *mount);
+        window.close();
+        return;
+    }
     alignInView(person, knobs, animation.get(), window, how.zoomPercent);
     QTest::qWait(how.pauseMilliseconds);
     window.close();
@@ -194,8 +214,12 @@ int main(int argc, char *argv[])
     prepareApplication();
     QApplication application(argc, argv);
     QCommandLineParser options;
-    addOptions(options);
+    addTourOptions(options);
     options.process(application);
+    if (const QString fault = tourOptionsFault(options); !fault.isEmpty()) {
+        fprintf(stderr, "quorvandel-tour: %s\n", qPrintable(fault));
+        return 1;
+    }
 
     // The sky of somebody who practises is left alone.
     const QTemporaryDir ownSky;

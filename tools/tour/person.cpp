@@ -288,6 +288,11 @@ QPointF Person::markInPicture(Mark mark) const
     return sum / weight * 100.0 / options.zoomPercent;
 }
 
+QPointF Person::axisMark() const
+{
+    return options.mono ? alignmentPoints.savedAxisCenter.load() : markInPicture(Mark::Axis);
+}
+
 /// The way from the dancing pole mark to the axis mark, the mean over some frames; frame pixels.
 QPointF Person::fromPoleToAxis() const
 {
@@ -297,9 +302,8 @@ QPointF Person::fromPoleToAxis() const
         waitForFrames(1);
         if (!monitorPositions.poleValid)
             throw Stuck("the pole is not shown");
-        sum += options.mono
-                   ? alignmentPoints.savedAxisCenter.load() - monitorPositions.poleCurrent.load()
-                   : markInPicture(Mark::Axis) - markInPicture(Mark::Pole);
+        sum += axisMark() -
+               (options.mono ? monitorPositions.poleCurrent.load() : markInPicture(Mark::Pole));
     }
     return sum / frames;
 }
@@ -318,16 +322,21 @@ void Person::disconnectCamera()
     clickAction(widget<QMenu>("menuDevice"), widget<QAction>("actionConnect"));
 }
 
-void Person::prepare()
+void Person::chooseZoom()
 {
-    auto &mono = widget<QAction>("actionMono_Style");
-    if (mono.isChecked() != options.mono)
-        clickAction(widget<QMenu>("menuTools"), mono);
     const char *const zoom = options.zoomPercent == 50   ? "action50"
                              : options.zoomPercent == 75 ? "action75"
                                                          : "action100";
     say(QStringLiteral("Zoom > %1%").arg(options.zoomPercent));
     clickAction(widget<QMenu>("menuZoom"), widget<QAction>(zoom));
+}
+
+void Person::prepare()
+{
+    auto &mono = widget<QAction>("actionMono_Style");
+    if (mono.isChecked() != options.mono)
+        clickAction(widget<QMenu>("menuTools"), mono);
+    chooseZoom();
     auto &hemisphere =
         widget<QAbstractButton>(options.south ? "radioButton_south" : "radioButton_north");
     if (!hemisphere.isChecked()) {
@@ -406,7 +415,7 @@ void Person::placePoleStar()
     show("step-09-expected");
     click("pushButton_getEptPolaris_done");
     say(QStringLiteral("Turn the bolts until the pole star is in the rotating circle"));
-    const QPointF target = read("label_eptPos");
+    const QPointF target = read("label_eptPos") + options.roughRest;
     show("step-10-before");
     for (int i = 0; i < 3; ++i) {
         turnBoltsSmoothly(target - eye(knobs.starB()), i == 0 ? options.boltParts : 1);
@@ -427,6 +436,32 @@ void Person::startMonitor()
     click("pushButton_monitor");
     waitForFrames(4);
     show("step-13-before");
+}
+
+void Person::zoomIn()
+{
+    options.zoomPercent = 100;
+    chooseZoom();
+    waitForFrames(3);
+}
+
+void Person::magnifyMarks()
+{
+    say(QStringLiteral("Drag the magnifier onto the marks: it stays there"));
+    const QPoint mark = inView(axisMark());
+    bringIntoView(mark);
+    auto &picture = widget<QLabel>("label_showImg");
+    auto *const surface = window.windowHandle();
+    constexpr QPoint way(60, 40); // from beside the marks
+    constexpr int parts = 15;
+    QTest::mousePress(surface, Qt::LeftButton, {}, picture.mapTo(&window, mark - way));
+    for (int part = 1; part <= parts; ++part) {
+        QTest::mouseMove(surface, picture.mapTo(&window, mark - way * (parts - part) / parts));
+        QTest::qWait(options.pauseMilliseconds > 0 ? 40 : 0);
+    }
+    QTest::mouseRelease(surface, Qt::LeftButton, {}, picture.mapTo(&window, mark));
+    pause();
+    show("step-13-magnified");
 }
 
 /// As a hand does it: the turn begins and ends slowly.

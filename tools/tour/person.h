@@ -38,6 +38,7 @@ public:
         bool mono = false;
         bool reuseSavedAxis = false; ///< what to answer where the program asks
         int pauseMilliseconds = 0;   ///< after every action, for somebody who watches
+        QPointF roughRest;           ///< how far off the rough turn of the bolts ends, frame pixels
         int boltParts = 1;           ///< in how many parts the first fine turn of the bolts is made
     };
 
@@ -58,6 +59,10 @@ public:
     void findAxis();
     void placePoleStar();
     void startMonitor();
+    /// Shows the picture at 100 percent.
+    void zoomIn();
+    /// Drags the magnifier onto the axis mark, where it stays.
+    void magnifyMarks();
     void fineAdjust();
     void finish();
     void disconnectCamera();
@@ -71,6 +76,7 @@ private:
     void say(const QString &text);
     void show(const char *name);
     void pause() const;
+    void chooseZoom();
     void clickAction(QMenu &menu, QAction &action);
     void click(const char *button);
     void clickAnswering(const char *button);
@@ -89,6 +95,7 @@ private:
     QPointF read(const char *label) const;
     QImage shownPicture() const;
     QPointF markInPicture(Mark mark) const;
+    QPointF axisMark() const;
     QPointF fromPoleToAxis() const;
     void checkRingRound(QPointF star) const;
 

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+// The tour's command line.
+#include "tools/tour/touroptions.h"
+
+#include "dialogs/languages.h"
+
+#include <QCommandLineParser>
+#include <algorithm>
+
+void addTourOptions(QCommandLineParser &options)
+{
+    options.setApplicationDescription("Runs the alignment by itself on the virtual camera. At the "
+                                      "end the result stays until a key is pressed.");
+    options.addHelpOption();
+    options.addOption({"south", "Align on the southern pole."});
+    options.addOption({"fast", "Without pauses, as fast as the pictures come; ends by itself."});
+    options.addOption({"real-rate", "With --fast: no faster than a camera, for honest read-outs."});
+    options.addOption(
+        {"pictures", "Save a picture of every step to <folder>; ends by itself.", "folder"});
+    options.addOption({"frames",
+                       "Save the pictures of the fine adjustment to <folder>; ends by itself.",
+                       "folder"});
+    options.addOption({"views",
+                       "Instead of aligning, save the window at every zoom, the menus and "
+                       "the dialogs to <folder>.",
+                       "folder"});
+    options.addOption({"zoom", "100, 75 or 50 percent.", "percent", "75"});
+    options.addOption({"language", "EN, ZH, JA, RU, FR, DE, ES, PT, IT or KO.", "code", "EN"});
+    options.addOption({"mono", "In the mono style."});
+}
+
+QString tourOptionsFault(const QCommandLineParser &options)
+{
+    if (!options.positionalArguments().isEmpty())
+        return "no option: " + options.positionalArguments().first();
+    if (!QStringList{"100", "75", "50"}.contains(options.value("zoom")))
+        return "--zoom takes 100, 75 or 50";
+    const QString code = options.value("language");
+    if (std::none_of(languages.begin(), languages.end(),
+                     [&](const Language &language) { return code == language.code; }))
+        return "--language takes EN, ZH, JA, RU, FR, DE, ES, PT, IT or KO";
+    if (options.isSet("real-rate") && !options.isSet("fast"))
+        return "--real-rate goes with --fast";
+    return {};
+}
