@@ -12,9 +12,16 @@ Caption::Caption(QWidget &window, const QWidget &over) : QLabel(&window), part(o
 
 void Caption::say(const QString &text)
 {
+    constexpr int edge = 10;
+    const QRect room(part.mapTo(parentWidget(), QPoint()), part.size());
+    setWordWrap(false);
     setText(text);
     adjustSize();
-    const QRect room(part.mapTo(parentWidget(), QPoint()), part.size());
+    const int widest = room.width() - 2 * edge;
+    if (width() > widest) {
+        setWordWrap(true);
+        resize(widest, heightForWidth(widest));
+    }
     move(room.center().x() - width() / 2, room.bottom() - height() - 40);
     raise();
     show();

@@ -4,7 +4,8 @@
 
 #include <QLabel>
 
-/// Shown only once there is something to say; the mouse goes through it.
+/// Shown only once there is something to say; the mouse goes through it. A text that is wider than
+/// the part is wrapped.
 class Caption : public QLabel
 {
     Q_OBJECT
