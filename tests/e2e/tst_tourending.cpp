@@ -21,6 +21,19 @@
 #include <QTest>
 #include <QTimer>
 
+namespace
+{
+/// For a wait that would not end.
+struct Impatience {
+    Impatience()
+    {
+        QObject::connect(&timer, &QTimer::timeout, [] { qFatal("still waiting"); });
+        timer.start(patience);
+    }
+    QTimer timer;
+};
+} // namespace
+
 class TourEndingTest : public QObject
 {
     Q_OBJECT
@@ -189,6 +202,7 @@ void TourEndingTest::theKeyDoesNothingElse()
     button.setFocus();
     const auto press = [&] { QTest::keyClick(window.windowHandle(), Qt::Key_Space); };
     QTimer::singleShot(50, &window, press);
+    const Impatience late;
     waitForKey(window);
     QCOMPARE(done, 0);
     press(); // and afterwards it does again
@@ -200,10 +214,7 @@ void TourEndingTest::closingEndsIt()
     QWidget window;
     window.show();
     QTimer::singleShot(50, &window, &QWidget::close);
-    QTimer late; // for a wait that would not end
-    late.setSingleShot(true);
-    connect(&late, &QTimer::timeout, &window, [] { qFatal("still waiting"); });
-    late.start(patience);
+    const Impatience late;
     waitForKey(window);
     QVERIFY(!window.isVisible());
 }
