@@ -141,49 +141,6 @@ QWidget *MountWindow::boltPanel()
     return panel;
 }
 
-QWidget *MountWindow::truthPanel()
-{
-    auto *const panel = new QGroupBox(this);
-    QGridLayout &grid = gridIn(*panel);
-    truthButton = new QPushButton(panel);
-    nameWidget(*truthButton, QStringLiteral("showTruth"), tr("Show or hide the remaining error"));
-    connect(truthButton, &QPushButton::clicked, this, [this] { setTruthShown(!truthShown); });
-    const QKeySequence exerciseKey(int(Qt::CTRL) + Qt::Key_N);
-    auto *const exercise = new QPushButton(tr("&New exercise"), panel);
-    const QString what = tr("Turns the bolts and the camera at random, to start again from there");
-    nameWidget(*exercise, QStringLiteral("newExercise"), what,
-               exerciseKey.toString(QKeySequence::NativeText) + QLatin1Char('\n') + what);
-    connect(exercise, &QPushButton::clicked, this, &MountWindow::newExercise);
-    addShortcut(exerciseKey, [this] { newExercise(); }).setAutoRepeat(false);
-    truthButton->ensurePolished();
-    int widest = 0;
-    for (const bool shows : {false, true}) {
-        truthButton->setText(truthButtonText(shows));
-        widest = std::max(widest, truthButton->sizeHint().width());
-    }
-    truthButton->setMinimumWidth(widest);
-    auto *const resetButton = new QPushButton(tr("&Reset"), panel);
-    nameWidget(*resetButton, QStringLiteral("reset"), tr("Set everything as it was at first"),
-               tr("Sets everything as it was at first"));
-    connect(resetButton, &QPushButton::clicked, this, &MountWindow::reset);
-    const auto line = [&](const char *name, const QString &says, const QString &longest) {
-        auto *const label = new QLabel(panel);
-        nameWidget(*label, QLatin1String(name), says);
-        label->ensurePolished(); // the style sheet's font, and those that stand in for it
-        label->setText(longest);
-        label->setMinimumHeight(label->sizeHint().height());
-        return label;
-    };
-    truthLabel = line("truth", tr("Remaining error"), truthText());
-    anglesLabel = line("angles", tr("Error of the star angles"), anglesText());
-    grid.addWidget(truthButton, 0, 0);
-    grid.addWidget(exercise, 0, 1);
-    grid.addWidget(resetButton, 0, 2);
-    grid.addWidget(truthLabel, 1, 0, 1, 3);
-    grid.addWidget(anglesLabel, 2, 0, 1, 3);
-    return panel;
-}
-
 void MountWindow::addStatusLine()
 {
     status = new QLabel(this);

@@ -5,7 +5,6 @@
 #include "virtualmount/exercise.h"
 #include "virtualmount/fields.h"
 #include "virtualmount/mounttexts.h"
-#include "virtualmount/starangles.h"
 
 #include <QAbstractItemView>
 #include <QAbstractSlider>
@@ -32,11 +31,6 @@ namespace
 constexpr int tickMilliseconds = 66;  // fifteen writes a second while the axis turns
 constexpr int pollMilliseconds = 500; // for what the watcher misses, and for the clock
 
-double systemSeconds()
-{
-    return double(QDateTime::currentMSecsSinceEpoch()) / 1000.0;
-}
-
 /// Whether it is a field itself, not the list that a combo box drops down.
 bool isField(const QObject &watched)
 {
@@ -45,6 +39,11 @@ bool isField(const QObject &watched)
            qobject_cast<const QComboBox *>(&watched);
 }
 } // namespace
+
+double MountWindow::systemSeconds()
+{
+    return double(QDateTime::currentMSecsSinceEpoch()) / 1000.0;
+}
 
 MountWindow::MountWindow(const QString &skyFile, QWidget *parent)
     : QMainWindow(parent), document(skyFile), shown(document.state()), random(systemRandom())
@@ -195,18 +194,6 @@ void MountWindow::setPassing(bool on)
     keepTicking();
 }
 
-QString MountWindow::truthButtonText(bool isShown)
-{
-    return isShown ? tr("Hide the tru&th") : tr("Show me the tru&th");
-}
-
-void MountWindow::setTruthShown(bool on)
-{
-    truthShown = on;
-    truthButton->setText(truthButtonText(on));
-    refreshTexts();
-}
-
 void MountWindow::reset()
 {
     stopMotion();
@@ -217,26 +204,6 @@ void MountWindow::reset()
     beginCounts();
     keepTicking();
     refreshTexts();
-}
-
-/// The turns are counted from here: otherwise they would tell the exercise.
-void MountWindow::newExercise()
-{
-    edit([this](SkyState &state) {
-        const Moment moment = clock.at(state, systemSeconds());
-        beginExercise(state, moment.utcSeconds, random);
-    });
-    if (!document.fault().isEmpty() || !document.writeFault().isEmpty())
-        return;
-    beginCounts();
-    setTruthShown(false);
-}
-
-void MountWindow::beginCounts()
-{
-    altitudeBase = document.state().boltAltitude;
-    azimuthBase = document.state().boltAzimuth;
-    beganAligned = isAligned(document.state());
 }
 
 void MountWindow::replaceFile()
@@ -282,31 +249,6 @@ void MountWindow::refreshTexts()
     replaceButton->setVisible(!document.fault().isEmpty());
     status->setText(statusText());
     status->setToolTip(document.filePath() + QLatin1Char('\n') + status->text());
-}
-
-QString MountWindow::truthText() const
-{
-    // The error lies in the bolts and the site alone: any time will do.
-    const TruthTexts truth = truthTexts(virtualsky::truth(shown, systemSeconds()));
-    return tr("The RA axis misses the pole by %1:\n%2 and %3.")
-        .arg(truth.total, truth.altitude, truth.azimuth);
-}
-
-QString MountWindow::anglesText() const
-{
-    const auto angles = builtInAnglesError(QDate::currentDate(), shown, skySeconds);
-    return angles ? tr("The age of the star angles (%1) alone makes %2.")
-                        .arg(angles->year)
-                        .arg(arcText(angles->arcseconds))
-                  : QString();
-}
-
-QString MountWindow::hiddenTruthText() const
-{
-    const bool untouched = shown.boltAltitude == altitudeBase && shown.boltAzimuth == azimuthBase;
-    return beganAligned && untouched ? tr("The mount is already aligned.\n"
-                                          "“New exercise” moves it away from the pole.")
-                                     : tr("What is left of the error is hidden.");
 }
 
 QString MountWindow::statusText() const

@@ -44,7 +44,7 @@ private:
     using Bolt = double SkyState::*;
 
     // The panels, in the order in which they stand and the Tab key goes: those of the mount are in
-    // mountpanels.cpp, those of what is round it in skypanels.cpp.
+    // mountpanels.cpp, those of what is round it in skypanels.cpp, the last in truthpanel.cpp.
     QWidget *axisPanel();
     QWidget *boltPanel();
     QWidget *sitePanel();
@@ -81,7 +81,8 @@ private:
     void beginCounts();
     void replaceFile();
 
-    void look(); ///< at the file, and show what has changed
+    static double systemSeconds(); ///< the computer's UTC since 1970
+    void look();                   ///< at the file, and show what has changed
     void watch();
     void tick(); ///< of the moving axis and the passing clouds
     void keepTicking();
