@@ -134,7 +134,7 @@
     </message>
     <message>
         <source>Speed</source>
-        <translation>Tempo</translation>
+        <translation>Geschw.</translation>
     </message>
     <message>
         <source>Confirm Polaris/σ Oct</source>
@@ -589,7 +589,7 @@
     </message>
     <message>
         <source>Tracking:</source>
-        <translation>Verfolgung:</translation>
+        <translation>Drehwinkel:</translation>
     </message>
     <message>
         <source>Turn back by one degree</source>

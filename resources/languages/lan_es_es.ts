@@ -518,7 +518,7 @@
     </message>
     <message>
         <source>Return the &apos;RA&apos; axis to the &apos;Home&apos; position - Ensure your chosen star stays on the circle while your mount rotates to the PARK position.</source>
-        <translation>Devuelva el eje de AR a la posición inicial (Home) y compruebe que la estrella elegida permanece sobre el círculo mientras la montura gira hasta la posición de aparcado (Park).</translation>
+        <translation>Devuelva el eje de AR a la posición inicial (Home) y compruebe que la estrella elegida permanece sobre el círculo mientras la montura gira hasta la posición de aparcamiento (Park).</translation>
     </message>
     <message>
         <source>Is the axis center correct?</source>

@@ -170,7 +170,7 @@
     </message>
     <message>
         <source>Rough Pole</source>
-        <translation>Mise en station approchée</translation>
+        <translation>Mise en station approximative</translation>
     </message>
     <message>
         <source>Axis Center</source>
@@ -518,7 +518,7 @@
     </message>
     <message>
         <source>Return the &apos;RA&apos; axis to the &apos;Home&apos; position - Ensure your chosen star stays on the circle while your mount rotates to the PARK position.</source>
-        <translation>Ramenez l&apos;axe d&apos;ascension droite (AD) à la position de départ (Home). Vérifiez que l&apos;étoile choisie reste sur le cercle pendant que la monture tourne vers sa position de parking (Park).</translation>
+        <translation>Ramenez l&apos;axe d&apos;ascension droite (AD) à la position initiale (Home). Vérifiez que l&apos;étoile choisie reste sur le cercle pendant que la monture tourne vers sa position de parking (Park).</translation>
     </message>
     <message>
         <source>Is the axis center correct?</source>

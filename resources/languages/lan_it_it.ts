@@ -76,7 +76,7 @@
     </message>
     <message>
         <source>Enable Astronomical Refraction Correction</source>
-        <translation>Attiva correzione rifrazione atmosferica</translation>
+        <translation>Correggi la rifrazione atmosferica</translation>
     </message>
 </context>
 <context>

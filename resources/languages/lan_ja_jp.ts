@@ -182,27 +182,27 @@
     </message>
     <message>
         <source>Lamp of star position 1</source>
-        <translation>星位置 1 のランプ</translation>
+        <translation>星の位置 1 のランプ</translation>
     </message>
     <message>
         <source>Star Pos 1</source>
-        <translation>星位置 1</translation>
+        <translation>星の位置 1</translation>
     </message>
     <message>
         <source>Lamp of star position 2</source>
-        <translation>星位置 2 のランプ</translation>
+        <translation>星の位置 2 のランプ</translation>
     </message>
     <message>
         <source>Star Pos 2</source>
-        <translation>星位置 2</translation>
+        <translation>星の位置 2</translation>
     </message>
     <message>
         <source>Lamp of star position 3</source>
-        <translation>星位置 3 のランプ</translation>
+        <translation>星の位置 3 のランプ</translation>
     </message>
     <message>
         <source>Star Pos 3</source>
-        <translation>星位置 3</translation>
+        <translation>星の位置 3</translation>
     </message>
     <message>
         <source>Axis:</source>
@@ -238,7 +238,7 @@
     </message>
     <message>
         <source>Enlarged picture of the pole star</source>
-        <translation>極の星の拡大画像</translation>
+        <translation>極星の拡大画像</translation>
     </message>
     <message>
         <source>roiBigger_image</source>
@@ -246,7 +246,7 @@
     </message>
     <message>
         <source>Monitor Pole</source>
-        <translation>極の監視</translation>
+        <translation>極のモニタリング</translation>
     </message>
     <message>
         <source>Reference Star A</source>
@@ -474,7 +474,7 @@
     </message>
     <message>
         <source>Does match success?</source>
-        <translation>照合できましたか？</translation>
+        <translation>重なりましたか？</translation>
     </message>
     <message>
         <source>Success</source>
@@ -585,7 +585,7 @@
     </message>
     <message>
         <source>If the Pole was lost after used GOTO in the astrograph, then you can this to track.</source>
-        <translation>自動導入の後に極を見失ったときは、ここで追跡できます。</translation>
+        <translation>自動導入の後に天の極を見失ったときは、ここで追跡できます。</translation>
     </message>
     <message>
         <source>Tracking:</source>

@@ -206,7 +206,7 @@
     </message>
     <message>
         <source>Axis:</source>
-        <translation>轴心:</translation>
+        <translation>轴心：</translation>
     </message>
     <message>
         <source>(0,0)</source>
@@ -226,7 +226,7 @@
     </message>
     <message>
         <source>Pole:</source>
-        <translation>天极:</translation>
+        <translation>天极：</translation>
     </message>
     <message>
         <source>Mark of the pole</source>
@@ -238,7 +238,7 @@
     </message>
     <message>
         <source>Enlarged picture of the pole star</source>
-        <translation>极星的放大图</translation>
+        <translation>北极星/σ Oct 放大图</translation>
     </message>
     <message>
         <source>roiBigger_image</source>
@@ -254,7 +254,7 @@
     </message>
     <message>
         <source>Position:</source>
-        <translation>位置:</translation>
+        <translation>位置：</translation>
     </message>
     <message>
         <source>Reference Star B</source>
@@ -518,7 +518,7 @@
     </message>
     <message>
         <source>Return the &apos;RA&apos; axis to the &apos;Home&apos; position - Ensure your chosen star stays on the circle while your mount rotates to the PARK position.</source>
-        <translation>请将赤经轴（RA）转回“初始（Home）”位置：在赤道仪转到停放（PARK）位置的过程中，确认所选的星始终位于圆圈上。</translation>
+        <translation>请将赤经轴（RA）转回“零位（Home）”位置：在赤道仪转到停放（PARK）位置的过程中，确认所选的星始终位于圆圈上。</translation>
     </message>
     <message>
         <source>Is the axis center correct?</source>
@@ -589,7 +589,7 @@
     </message>
     <message>
         <source>Tracking:</source>
-        <translation>跟踪:</translation>
+        <translation>跟踪：</translation>
     </message>
     <message>
         <source>Turn back by one degree</source>

@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>&amp;Angle:</source>
-        <translation>角度(&amp;A):</translation>
+        <translation>角度(&amp;A)：</translation>
     </message>
     <message>
         <source>+%1°</source>
@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>&amp;Home</source>
-        <translation>初始(&amp;H)</translation>
+        <translation>零位(&amp;H)</translation>
     </message>
     <message>
         <source>Turn the RA axis back to 0</source>
