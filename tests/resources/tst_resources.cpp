@@ -139,6 +139,8 @@ void TestResources::images_data()
         {{24, 24}, {"pole", "center", "pole_color", "center_color"}},
         {{25, 25}, {"lightoff_mono", "lighton_mono", "lightoff_color", "lighton_color"}},
         {{16, 16}, {"collapse", "expand"}},
+        {{48, 48},
+         {"message-critical", "message-information", "message-question", "message-warning"}},
         {{238, 171}, {"direction"}},
         {{237, 50}, {"logo"}},
         {{262, 80}, {"veldix"}},
