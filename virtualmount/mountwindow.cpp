@@ -2,7 +2,9 @@
 // The virtual mount's window at work: from a hand's action to the file, and from the file back.
 #include "virtualmount/mountwindow.h"
 
+#include "app/returnpresses.h"
 #include "virtualmount/fields.h"
+#include "virtualmount/mounticon.h"
 #include "virtualmount/mounttexts.h"
 
 #include <QAbstractItemView>
@@ -52,6 +54,7 @@ MountWindow::MountWindow(const QString &skyFile, QWidget *parent)
       azimuthBase(shown.boltAzimuth)
 {
     setWindowTitle(tr("Quorvandel Virtual Mount"));
+    setWindowIcon(windowIcon());
     auto *const central = new QWidget(this);
     central->setObjectName(QStringLiteral("centralWidget"));
     auto *const column = new QVBoxLayout(central);
@@ -63,6 +66,7 @@ MountWindow::MountWindow(const QString &skyFile, QWidget *parent)
         column->addWidget(panel);
     column->addStretch(1);
     addStatusLine();
+    new ReturnPresses(*this); // owned by the window
 
     ticker.setInterval(tickMilliseconds);
     ticker.setTimerType(Qt::PreciseTimer);

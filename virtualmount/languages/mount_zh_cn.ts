@@ -376,6 +376,10 @@ Ctrl+1 至 Ctrl+6 转动赤经轴，Esc 离开输入框。</translation>
         <source>Delete</source>
         <translation>删除</translation>
     </message>
+    <message>
+        <source>Select All</source>
+        <translation>全选</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>
