@@ -8,7 +8,7 @@ static void initialiseIcon()
     Q_INIT_RESOURCE(mounticon);
 }
 
-QIcon virtualmount::windowIcon()
+QIcon virtualmount::mountIcon()
 {
     initialiseIcon();
     QIcon icon;

@@ -7,5 +7,5 @@
 namespace virtualmount
 {
 /// The menu entry's, compiled in: it is there before anything is installed.
-QIcon windowIcon();
+QIcon mountIcon();
 } // namespace virtualmount

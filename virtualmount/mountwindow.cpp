@@ -54,7 +54,7 @@ MountWindow::MountWindow(const QString &skyFile, QWidget *parent)
       azimuthBase(shown.boltAzimuth)
 {
     setWindowTitle(tr("Quorvandel Virtual Mount"));
-    setWindowIcon(windowIcon());
+    setWindowIcon(mountIcon());
     auto *const central = new QWidget(this);
     central->setObjectName(QStringLiteral("centralWidget"));
     auto *const column = new QVBoxLayout(central);
