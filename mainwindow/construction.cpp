@@ -84,6 +84,7 @@ MainWindow::MainWindow(QWidget *parent)
     applyLanguageAction();
     applyIdleState();
     buildValidators();
+    buildPlaceholders();
     buildPlayer();
     initialiseSdk();
 }

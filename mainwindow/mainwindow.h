@@ -238,6 +238,7 @@ private:
 
     // capturecontrols.cpp
     struct Parameter;
+    void buildPlaceholders();
     Parameter exposureParameter();
     Parameter gainParameter();
     Parameter trafficParameter();
