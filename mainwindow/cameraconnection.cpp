@@ -78,6 +78,8 @@ void MainWindow::connectCamera()
     showConnected(true);
     setWindowTitle(QStringLiteral("Quorvandel - ID:%1").arg(cameraState.cameraId));
     configureCamera();
+    placeWithNextPicture =
+        QPointF(cameraState.roiWidth / 2.0, cameraState.roiHeight / 2.0); // its centre
     captureThread->startCapture();
 }
 

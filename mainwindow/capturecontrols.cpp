@@ -54,6 +54,22 @@ MainWindow::Parameter MainWindow::speedParameter()
     return {*ui->sliderSpeed, *ui->lineEditSpeed, cameraState.speed, 1.0, CONTROL_SPEED};
 }
 
+/// A field without a text, as the speed's is at first, shows in grey what is in force.
+void MainWindow::buildPlaceholders()
+{
+    const auto follow = [](QLineEdit *edit, const QSlider *slider) {
+        const auto show = [edit, slider] {
+            edit->setPlaceholderText(QString::number(slider->value()));
+        };
+        connect(edit, &QLineEdit::textChanged, slider, show);
+        show();
+    };
+    follow(ui->lineEditExpose, ui->sliderExpose);
+    follow(ui->lineEditGain, ui->sliderGain);
+    follow(ui->lineEditTraffic, ui->sliderTraffic);
+    follow(ui->lineEditSpeed, ui->sliderSpeed);
+}
+
 void MainWindow::parameterSliderMoved(const Parameter &parameter, int value)
 {
     parameter.value = value * parameter.perSliderUnit;

@@ -2,6 +2,7 @@
 // How is the window put together, in which order, and how is it taken apart?
 #include "mainwindow/mainwindow.h"
 
+#include "app/returnpresses.h"
 #include "app/wheelguard.h"
 #include "camera/camerastate.h"
 #include "camera/frames.h"
@@ -60,6 +61,7 @@ MainWindow::MainWindow(QWidget *parent)
     guardSliders();
     buildShadows();
     buildWizardPages();
+    new ReturnPresses(*this); // owned by the window
     buildActionGroups();
     buildStatusBar();
     buildDialogs();
@@ -82,6 +84,7 @@ MainWindow::MainWindow(QWidget *parent)
     applyLanguageAction();
     applyIdleState();
     buildValidators();
+    buildPlaceholders();
     buildPlayer();
     initialiseSdk();
 }

@@ -52,7 +52,7 @@ void MainWindow::showImages()
                                       Qt::SmoothTransformation);
         const QPixmap pixmap = QPixmap::fromImage(displayImage);
         ui->label_showImg->setPixmap(pixmap);
-        if (const auto place = std::exchange(placeAfterZoom, std::nullopt))
+        if (const auto place = std::exchange(placeWithNextPicture, std::nullopt))
             scrollTo(*place);
         magnifier->setSource(pixmap);
         magnifier->update();

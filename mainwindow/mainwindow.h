@@ -238,6 +238,7 @@ private:
 
     // capturecontrols.cpp
     struct Parameter;
+    void buildPlaceholders();
     Parameter exposureParameter();
     Parameter gainParameter();
     Parameter trafficParameter();
@@ -264,9 +265,10 @@ private:
     QString languageCode;                 ///< "EN", "ZH", ...
     QString styleName;                    ///< "Color" or "Mono"
 
-    std::optional<QPointF> placeAfterZoom; ///< comes into view with the next picture, frame pixels
-    bool libraryHangs = false;             ///< the last closing has met a call that does not return
-    ButtonPress buttonPress;               ///< of the pages' buttons
+    /// Comes into the middle of the view with the next picture, frame pixels.
+    std::optional<QPointF> placeWithNextPicture;
+    bool libraryHangs = false; ///< the last closing has met a call that does not return
+    ButtonPress buttonPress;   ///< of the pages' buttons
 
     QImage blankImage;   ///< what the magnifier shows without a camera
     QImage displayImage; ///< the last shown picture, at its zoom; what Save As writes

@@ -12,6 +12,7 @@
 #include "mainwindow/wizardtable.h"
 #include "ui_mainwindow.h"
 
+#include <QCoreApplication>
 #include <QLabel>
 #include <QLayout>
 #include <QScrollArea>
@@ -93,6 +94,8 @@ void MainWindow::scrollTo(QPointF framePosition)
     QWidget &contents = *ui->scrollAreaWidgetContents_showImg;
     contents.layout()->activate();
     contents.resize(contents.minimumSizeHint());
+    // The scroll bars come and go, and take of the room, by a posted call.
+    QCoreApplication::sendPostedEvents(ui->scrollArea_showImg, QEvent::MetaCall);
     const QPointF view = framePosition * double(zoomFactor);
     const QSizeF area = ui->scrollArea_showImg->viewport()->size();
     ui->scrollArea_showImg->horizontalScrollBar()->setValue(
@@ -105,7 +108,8 @@ void MainWindow::scrollTo(QPointF framePosition)
 void MainWindow::setZoom(float factor)
 {
     if (zoomFactor > 0.0F && factor != zoomFactor) {
-        placeAfterZoom = placeInView();
+        if (!placeWithNextPicture) // or nothing is in view yet, or at the factor before the last
+            placeWithNextPicture = placeInView();
         const QPointF magnified =
             QPointF(magnifier->magnifiedCentre()) * double(factor / zoomFactor);
         magnifier->setCentre({saturatingInt(magnified.x()), saturatingInt(magnified.y())});

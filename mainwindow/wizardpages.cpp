@@ -3,10 +3,10 @@
 #include "mainwindow/mainwindow.h"
 
 #include "dialogs/magnifierwidget.h"
+#include "mainwindow/buttonrow.h"
 #include "mainwindow/wizardtable.h"
 #include "ui_mainwindow.h"
 
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
@@ -76,8 +76,7 @@ void MainWindow::buildWizardPage(const WizardPage &page)
     auto *const tip = named(new QLabel(widget), page.tipName);
     tip->setWordWrap(true);
     rows->addWidget(tip, 1);
-    auto *const row = new QHBoxLayout;
-    row->addStretch(1);
+    auto *const row = new ButtonRow;
     if (page.askName)
         row->addWidget(named(new QLabel(widget), page.askName));
     for (const PageButton *const button : {&page.back, &page.forward}) {
@@ -87,7 +86,7 @@ void MainWindow::buildWizardPage(const WizardPage &page)
         connect(pushButton, SIGNAL(clicked(bool)), this, button->slot);
         row->addWidget(pushButton);
     }
-    if (row->count() > 1)
+    if (row->count() > 0)
         rows->addLayout(row);
     else
         delete row;
@@ -118,8 +117,8 @@ void MainWindow::applyRegionTexts()
 }
 
 /// Puts the page over the top of the picture, right of the magnifier (over it, where there is no
-/// room for the question and its buttons) and no higher than its text needs, and the arrow below
-/// it.
+/// room for the widest of the question and its buttons) and no higher than its text needs, and the
+/// arrow below it.
 void MainWindow::placeImageOverlays()
 {
     const QRect area = ui->scrollArea_showImg->viewport()->geometry();

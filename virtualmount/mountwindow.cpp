@@ -3,7 +3,9 @@
 #include "virtualmount/mountwindow.h"
 
 #include "virtualmount/exercise.h"
+#include "app/returnpresses.h"
 #include "virtualmount/fields.h"
+#include "virtualmount/mounticon.h"
 #include "virtualmount/mounttexts.h"
 
 #include <QAbstractItemView>
@@ -50,6 +52,7 @@ MountWindow::MountWindow(const QString &skyFile, QWidget *parent)
 {
     beginCounts();
     setWindowTitle(tr("Quorvandel Virtual Mount"));
+    setWindowIcon(mountIcon());
     auto *const central = new QWidget(this);
     central->setObjectName(QStringLiteral("centralWidget"));
     auto *const column = new QVBoxLayout(central);
@@ -61,6 +64,7 @@ MountWindow::MountWindow(const QString &skyFile, QWidget *parent)
         column->addWidget(panel);
     column->addStretch(1);
     addStatusLine();
+    new ReturnPresses(*this); // owned by the window
 
     ticker.setInterval(tickMilliseconds);
     ticker.setTimerType(Qt::PreciseTimer);

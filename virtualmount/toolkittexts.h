@@ -27,6 +27,7 @@ inline constexpr ToolkitText toolkitTexts[] = {
     {"QLineEdit", QT_TRANSLATE_NOOP("QLineEdit", "&Copy")},
     {"QLineEdit", QT_TRANSLATE_NOOP("QLineEdit", "&Paste")},
     {"QLineEdit", QT_TRANSLATE_NOOP("QLineEdit", "Delete")},
+    {"QLineEdit", QT_TRANSLATE_NOOP("QLineEdit", "Select All")},
     {"QAbstractSpinBox", QT_TRANSLATE_NOOP("QAbstractSpinBox", "&Select All")},
     {"QAbstractSpinBox", QT_TRANSLATE_NOOP("QAbstractSpinBox", "&Step up")},
     {"QAbstractSpinBox", QT_TRANSLATE_NOOP("QAbstractSpinBox", "Step &down")},

@@ -518,7 +518,7 @@
     </message>
     <message>
         <source>Return the &apos;RA&apos; axis to the &apos;Home&apos; position - Ensure your chosen star stays on the circle while your mount rotates to the PARK position.</source>
-        <translation>Devuelva el eje de AR a la posición inicial (Home) y compruebe que la estrella elegida permanece sobre el círculo mientras la montura gira hasta la posición de aparcado (Park).</translation>
+        <translation>Devuelva el eje de AR a la posición inicial (Home) y compruebe que la estrella elegida permanece sobre el círculo mientras la montura gira hasta la posición de aparcamiento (Park).</translation>
     </message>
     <message>
         <source>Is the axis center correct?</source>
@@ -617,6 +617,21 @@
     </message>
 </context>
 <context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Seleccionar todo</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>&amp;Aumentar</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>&amp;Disminuir</translation>
+    </message>
+</context>
+<context>
     <name>QFileDialog</name>
     <message>
         <source>Look in:</source>
@@ -672,6 +687,108 @@ Do you want to replace it?</source>
         <translation>%1 ya existe.
 ¿Desea reemplazarlo?</translation>
     </message>
+    <message>
+        <source>Go back</source>
+        <translation>Ir atrás</translation>
+    </message>
+    <message>
+        <source>Go forward</source>
+        <translation>Ir adelante</translation>
+    </message>
+    <message>
+        <source>Go to the parent directory</source>
+        <translation>Ir a la carpeta superior</translation>
+    </message>
+    <message>
+        <source>Create a New Folder</source>
+        <translation>Crear una carpeta nueva</translation>
+    </message>
+    <message>
+        <source>Change to list view mode</source>
+        <translation>Cambiar a la vista de lista</translation>
+    </message>
+    <message>
+        <source>Change to detail view mode</source>
+        <translation>Cambiar a la vista de detalles</translation>
+    </message>
+    <message>
+        <source>Sidebar</source>
+        <translation>Barra lateral</translation>
+    </message>
+    <message>
+        <source>List of places and bookmarks</source>
+        <translation>Lista de lugares y marcadores</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Archivos</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Show </source>
+        <translation>Mostrar: </translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>Cambia&amp;r nombre</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Eliminar</translation>
+    </message>
+    <message>
+        <source>Show &amp;hidden files</source>
+        <translation>Mostrar los arc&amp;hivos ocultos</translation>
+    </message>
+    <message>
+        <source>&amp;New Folder</source>
+        <translation>Carpeta &amp;nueva</translation>
+    </message>
+    <message>
+        <source>New Folder</source>
+        <translation>Carpeta nueva</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete &apos;%1&apos;?</source>
+        <translation>¿Seguro que desea eliminar «%1»?</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is write protected.
+Do you want to delete it anyway?</source>
+        <translation>«%1» está protegido contra escritura.
+¿Desea eliminarlo de todos modos?</translation>
+    </message>
+    <message>
+        <source>Could not delete directory.</source>
+        <translation>No se pudo eliminar la carpeta.</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>Unidad</translation>
+    </message>
+    <message>
+        <source>%1 File</source>
+        <translation>Archivo %1</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Carpeta</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Desconocido</translation>
+    </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
@@ -690,6 +807,49 @@ Do you want to replace it?</source>
     <message>
         <source>Date Modified</source>
         <translation>Fecha de modificación</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Invalid filename</source>
+        <translation>Nombre de archivo no válido</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;The name &quot;%1&quot; cannot be used.&lt;/b&gt;&lt;p&gt;Try using another name, with fewer characters or no punctuation marks.</source>
+        <translation>&lt;b&gt;No se puede usar el nombre «%1».&lt;/b&gt;&lt;p&gt;Elija otro, más corto o sin signos de puntuación.</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Cor&amp;tar</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Pegar</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleccionar todo</translation>
     </message>
 </context>
 <context>
@@ -717,6 +877,82 @@ Do you want to replace it?</source>
     <message>
         <source>Cancel</source>
         <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Desplazar hasta aquí</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Borde izquierdo</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Inicio</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Borde derecho</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Final</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Una página a la izquierda</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Una página hacia arriba</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Una página a la derecha</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Una página hacia abajo</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Desplazar a la izquierda</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Desplazar hacia arriba</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Desplazar a la derecha</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Desplazar hacia abajo</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+</context>
+<context>
+    <name>QSidebar</name>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>Copiar la dirección del en&amp;lace</translation>
     </message>
 </context>
 </TS>

@@ -170,7 +170,7 @@
     </message>
     <message>
         <source>Rough Pole</source>
-        <translation>Mise en station approchée</translation>
+        <translation>Mise en station approximative</translation>
     </message>
     <message>
         <source>Axis Center</source>
@@ -518,7 +518,7 @@
     </message>
     <message>
         <source>Return the &apos;RA&apos; axis to the &apos;Home&apos; position - Ensure your chosen star stays on the circle while your mount rotates to the PARK position.</source>
-        <translation>Ramenez l&apos;axe d&apos;ascension droite (AD) à la position de départ (Home). Vérifiez que l&apos;étoile choisie reste sur le cercle pendant que la monture tourne vers sa position de parking (Park).</translation>
+        <translation>Ramenez l&apos;axe d&apos;ascension droite (AD) à la position initiale (Home). Vérifiez que l&apos;étoile choisie reste sur le cercle pendant que la monture tourne vers sa position de parking (Park).</translation>
     </message>
     <message>
         <source>Is the axis center correct?</source>
@@ -617,6 +617,21 @@
     </message>
 </context>
 <context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>&amp;Augmenter</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>&amp;Diminuer</translation>
+    </message>
+</context>
+<context>
     <name>QFileDialog</name>
     <message>
         <source>Look in:</source>
@@ -672,6 +687,108 @@ Do you want to replace it?</source>
         <translation>%1 existe déjà.
 Voulez-vous le remplacer&#xa0;?</translation>
     </message>
+    <message>
+        <source>Go back</source>
+        <translation>Revenir en arrière</translation>
+    </message>
+    <message>
+        <source>Go forward</source>
+        <translation>Aller en avant</translation>
+    </message>
+    <message>
+        <source>Go to the parent directory</source>
+        <translation>Aller au dossier parent</translation>
+    </message>
+    <message>
+        <source>Create a New Folder</source>
+        <translation>Créer un nouveau dossier</translation>
+    </message>
+    <message>
+        <source>Change to list view mode</source>
+        <translation>Passer à la vue en liste</translation>
+    </message>
+    <message>
+        <source>Change to detail view mode</source>
+        <translation>Passer à la vue détaillée</translation>
+    </message>
+    <message>
+        <source>Sidebar</source>
+        <translation>Panneau latéral</translation>
+    </message>
+    <message>
+        <source>List of places and bookmarks</source>
+        <translation>Liste des emplacements et des signets</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Fichiers</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Show </source>
+        <translation>Afficher : </translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Renommer</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>Show &amp;hidden files</source>
+        <translation>Afficher les fichiers &amp;cachés</translation>
+    </message>
+    <message>
+        <source>&amp;New Folder</source>
+        <translation>&amp;Nouveau dossier</translation>
+    </message>
+    <message>
+        <source>New Folder</source>
+        <translation>Nouveau dossier</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete &apos;%1&apos;?</source>
+        <translation>Voulez-vous vraiment supprimer « %1 » ?</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is write protected.
+Do you want to delete it anyway?</source>
+        <translation>« %1 » est protégé en écriture.
+Le supprimer quand même ?</translation>
+    </message>
+    <message>
+        <source>Could not delete directory.</source>
+        <translation>Le dossier n’a pas pu être supprimé.</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>Lecteur</translation>
+    </message>
+    <message>
+        <source>%1 File</source>
+        <translation>Fichier %1</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Dossier</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Inconnu</translation>
+    </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
@@ -690,6 +807,49 @@ Voulez-vous le remplacer&#xa0;?</translation>
     <message>
         <source>Date Modified</source>
         <translation>Date de modification</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Invalid filename</source>
+        <translation>Nom de fichier non valide</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;The name &quot;%1&quot; cannot be used.&lt;/b&gt;&lt;p&gt;Try using another name, with fewer characters or no punctuation marks.</source>
+        <translation>&lt;b&gt;Le nom « %1 » ne peut pas être utilisé.&lt;/b&gt;&lt;p&gt;Choisissez un autre nom, plus court ou sans signes de ponctuation.</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Co&amp;uper</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>C&amp;oller</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tout sélectionner</translation>
     </message>
 </context>
 <context>
@@ -717,6 +877,82 @@ Voulez-vous le remplacer&#xa0;?</translation>
     <message>
         <source>Cancel</source>
         <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Défiler jusqu’ici</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Bord gauche</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Haut</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Bord droit</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Bas</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Page vers la gauche</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Page vers le haut</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Page vers la droite</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Page vers le bas</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Défiler vers la gauche</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Défiler vers le haut</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Défiler vers la droite</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Défiler vers le bas</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+</context>
+<context>
+    <name>QSidebar</name>
+    <message>
+        <source>Remove</source>
+        <translation>Retirer</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>Copier l’adresse du &amp;lien</translation>
     </message>
 </context>
 </TS>

@@ -76,7 +76,7 @@
     </message>
     <message>
         <source>Enable Astronomical Refraction Correction</source>
-        <translation>Attiva correzione rifrazione atmosferica</translation>
+        <translation>Correggi la rifrazione atmosferica</translation>
     </message>
 </context>
 <context>
@@ -617,6 +617,21 @@
     </message>
 </context>
 <context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Seleziona tutto</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>&amp;Aumenta</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>&amp;Diminuisci</translation>
+    </message>
+</context>
+<context>
     <name>QFileDialog</name>
     <message>
         <source>Look in:</source>
@@ -672,6 +687,108 @@ Do you want to replace it?</source>
         <translation>%1 esiste già.
 Sostituirlo?</translation>
     </message>
+    <message>
+        <source>Go back</source>
+        <translation>Torna indietro</translation>
+    </message>
+    <message>
+        <source>Go forward</source>
+        <translation>Vai avanti</translation>
+    </message>
+    <message>
+        <source>Go to the parent directory</source>
+        <translation>Vai alla cartella superiore</translation>
+    </message>
+    <message>
+        <source>Create a New Folder</source>
+        <translation>Crea una nuova cartella</translation>
+    </message>
+    <message>
+        <source>Change to list view mode</source>
+        <translation>Passa alla vista a elenco</translation>
+    </message>
+    <message>
+        <source>Change to detail view mode</source>
+        <translation>Passa alla vista dettagliata</translation>
+    </message>
+    <message>
+        <source>Sidebar</source>
+        <translation>Barra laterale</translation>
+    </message>
+    <message>
+        <source>List of places and bookmarks</source>
+        <translation>Elenco di luoghi e segnalibri</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>Tutti i file (*)</translation>
+    </message>
+    <message>
+        <source>Show </source>
+        <translation>Mostra: </translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Rinomina</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Elimina</translation>
+    </message>
+    <message>
+        <source>Show &amp;hidden files</source>
+        <translation>Mostra i file &amp;nascosti</translation>
+    </message>
+    <message>
+        <source>&amp;New Folder</source>
+        <translation>&amp;Nuova cartella</translation>
+    </message>
+    <message>
+        <source>New Folder</source>
+        <translation>Nuova cartella</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Elimina</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete &apos;%1&apos;?</source>
+        <translation>Eliminare davvero “%1”?</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is write protected.
+Do you want to delete it anyway?</source>
+        <translation>“%1” è protetto da scrittura.
+Eliminarlo comunque?</translation>
+    </message>
+    <message>
+        <source>Could not delete directory.</source>
+        <translation>Impossibile eliminare la cartella.</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>Unità</translation>
+    </message>
+    <message>
+        <source>%1 File</source>
+        <translation>File %1</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Cartella</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Sconosciuto</translation>
+    </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
@@ -690,6 +807,49 @@ Sostituirlo?</translation>
     <message>
         <source>Date Modified</source>
         <translation>Data di modifica</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Invalid filename</source>
+        <translation>Nome di file non valido</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;The name &quot;%1&quot; cannot be used.&lt;/b&gt;&lt;p&gt;Try using another name, with fewer characters or no punctuation marks.</source>
+        <translation>&lt;b&gt;Il nome “%1” non può essere usato.&lt;/b&gt;&lt;p&gt;Sceglierne un altro, più corto o senza segni di interpunzione.</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annulla</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Ripeti</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Taglia</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copia</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Incolla</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Elimina</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleziona tutto</translation>
     </message>
 </context>
 <context>
@@ -717,6 +877,82 @@ Sostituirlo?</translation>
     <message>
         <source>Cancel</source>
         <translation>Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Scorri fin qui</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Bordo sinistro</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Inizio</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Bordo destro</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Fine</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Una pagina a sinistra</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Una pagina in su</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Una pagina a destra</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Una pagina in giù</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Scorri a sinistra</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Scorri in su</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Scorri a destra</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Scorri in giù</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+</context>
+<context>
+    <name>QSidebar</name>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>Copia l’indirizzo del co&amp;llegamento</translation>
     </message>
 </context>
 </TS>

@@ -182,27 +182,27 @@
     </message>
     <message>
         <source>Lamp of star position 1</source>
-        <translation>星位置 1 のランプ</translation>
+        <translation>星の位置 1 のランプ</translation>
     </message>
     <message>
         <source>Star Pos 1</source>
-        <translation>星位置 1</translation>
+        <translation>星の位置 1</translation>
     </message>
     <message>
         <source>Lamp of star position 2</source>
-        <translation>星位置 2 のランプ</translation>
+        <translation>星の位置 2 のランプ</translation>
     </message>
     <message>
         <source>Star Pos 2</source>
-        <translation>星位置 2</translation>
+        <translation>星の位置 2</translation>
     </message>
     <message>
         <source>Lamp of star position 3</source>
-        <translation>星位置 3 のランプ</translation>
+        <translation>星の位置 3 のランプ</translation>
     </message>
     <message>
         <source>Star Pos 3</source>
-        <translation>星位置 3</translation>
+        <translation>星の位置 3</translation>
     </message>
     <message>
         <source>Axis:</source>
@@ -238,7 +238,7 @@
     </message>
     <message>
         <source>Enlarged picture of the pole star</source>
-        <translation>極の星の拡大画像</translation>
+        <translation>極星の拡大画像</translation>
     </message>
     <message>
         <source>roiBigger_image</source>
@@ -246,7 +246,7 @@
     </message>
     <message>
         <source>Monitor Pole</source>
-        <translation>極の監視</translation>
+        <translation>極のモニタリング</translation>
     </message>
     <message>
         <source>Reference Star A</source>
@@ -474,7 +474,7 @@
     </message>
     <message>
         <source>Does match success?</source>
-        <translation>照合できましたか？</translation>
+        <translation>重なりましたか？</translation>
     </message>
     <message>
         <source>Success</source>
@@ -585,7 +585,7 @@
     </message>
     <message>
         <source>If the Pole was lost after used GOTO in the astrograph, then you can this to track.</source>
-        <translation>自動導入の後に極を見失ったときは、ここで追跡できます。</translation>
+        <translation>自動導入の後に天の極を見失ったときは、ここで追跡できます。</translation>
     </message>
     <message>
         <source>Tracking:</source>
@@ -614,6 +614,21 @@
     <message>
         <source>Reset</source>
         <translation>0に戻す</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>すべて選択(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>増やす(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>減らす(&amp;D)</translation>
     </message>
 </context>
 <context>
@@ -672,6 +687,108 @@ Do you want to replace it?</source>
         <translation>%1 は既に存在します。
 置き換えますか？</translation>
     </message>
+    <message>
+        <source>Go back</source>
+        <translation>前に戻る</translation>
+    </message>
+    <message>
+        <source>Go forward</source>
+        <translation>次に進む</translation>
+    </message>
+    <message>
+        <source>Go to the parent directory</source>
+        <translation>上のフォルダーへ移動</translation>
+    </message>
+    <message>
+        <source>Create a New Folder</source>
+        <translation>新しいフォルダーを作成する</translation>
+    </message>
+    <message>
+        <source>Change to list view mode</source>
+        <translation>一覧表示に切り替える</translation>
+    </message>
+    <message>
+        <source>Change to detail view mode</source>
+        <translation>詳細表示に切り替える</translation>
+    </message>
+    <message>
+        <source>Sidebar</source>
+        <translation>サイドバー</translation>
+    </message>
+    <message>
+        <source>List of places and bookmarks</source>
+        <translation>場所とブックマークの一覧</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>Show </source>
+        <translation>表示: </translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>名前の変更(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>削除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Show &amp;hidden files</source>
+        <translation>隠しファイルを表示(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;New Folder</source>
+        <translation>新しいフォルダー(&amp;N)</translation>
+    </message>
+    <message>
+        <source>New Folder</source>
+        <translation>新しいフォルダー</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete &apos;%1&apos;?</source>
+        <translation>「%1」を削除しますか？</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is write protected.
+Do you want to delete it anyway?</source>
+        <translation>「%1」は書き込みが禁止されています。
+それでも削除しますか？</translation>
+    </message>
+    <message>
+        <source>Could not delete directory.</source>
+        <translation>フォルダーを削除できませんでした。</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>ドライブ</translation>
+    </message>
+    <message>
+        <source>%1 File</source>
+        <translation>%1 ファイル</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>フォルダー</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>不明</translation>
+    </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
@@ -690,6 +807,49 @@ Do you want to replace it?</source>
     <message>
         <source>Date Modified</source>
         <translation>更新日時</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>Invalid filename</source>
+        <translation>無効なファイル名</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;The name &quot;%1&quot; cannot be used.&lt;/b&gt;&lt;p&gt;Try using another name, with fewer characters or no punctuation marks.</source>
+        <translation>&lt;b&gt;「%1」という名前は使えません。&lt;/b&gt;&lt;p&gt;もっと短い名前か、記号のない名前にしてください。</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>やり直す(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>切り取り(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>貼り付け(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>すべて選択</translation>
     </message>
 </context>
 <context>
@@ -717,6 +877,82 @@ Do you want to replace it?</source>
     <message>
         <source>Cancel</source>
         <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>ここまでスクロール</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>左端</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>一番上</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>右端</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>一番下</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>1ページ左へ</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>1ページ上へ</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>1ページ右へ</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>1ページ下へ</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>左へスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>上へスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>右へスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>下へスクロール</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+</context>
+<context>
+    <name>QSidebar</name>
+    <message>
+        <source>Remove</source>
+        <translation>取り除く</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>リンク先をコピー(&amp;L)</translation>
     </message>
 </context>
 </TS>

@@ -617,6 +617,21 @@
     </message>
 </context>
 <context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>모두 선택(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>늘리기(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>줄이기(&amp;D)</translation>
+    </message>
+</context>
+<context>
     <name>QFileDialog</name>
     <message>
         <source>Look in:</source>
@@ -672,6 +687,108 @@ Do you want to replace it?</source>
         <translation>%1 파일이 이미 있습니다.
 바꾸시겠습니까?</translation>
     </message>
+    <message>
+        <source>Go back</source>
+        <translation>뒤로 가기</translation>
+    </message>
+    <message>
+        <source>Go forward</source>
+        <translation>앞으로 가기</translation>
+    </message>
+    <message>
+        <source>Go to the parent directory</source>
+        <translation>상위 폴더로 가기</translation>
+    </message>
+    <message>
+        <source>Create a New Folder</source>
+        <translation>새 폴더 만들기</translation>
+    </message>
+    <message>
+        <source>Change to list view mode</source>
+        <translation>목록 보기로 바꾸기</translation>
+    </message>
+    <message>
+        <source>Change to detail view mode</source>
+        <translation>자세히 보기로 바꾸기</translation>
+    </message>
+    <message>
+        <source>Sidebar</source>
+        <translation>사이드바</translation>
+    </message>
+    <message>
+        <source>List of places and bookmarks</source>
+        <translation>위치와 책갈피 목록</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>파일</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>모든 파일 (*)</translation>
+    </message>
+    <message>
+        <source>Show </source>
+        <translation>표시: </translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>이름 바꾸기(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>삭제(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Show &amp;hidden files</source>
+        <translation>숨긴 파일 표시(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;New Folder</source>
+        <translation>새 폴더(&amp;N)</translation>
+    </message>
+    <message>
+        <source>New Folder</source>
+        <translation>새 폴더</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>삭제</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete &apos;%1&apos;?</source>
+        <translation>‘%1’을(를) 삭제할까요?</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is write protected.
+Do you want to delete it anyway?</source>
+        <translation>‘%1’은(는) 쓰기가 금지되어 있습니다.
+그래도 삭제할까요?</translation>
+    </message>
+    <message>
+        <source>Could not delete directory.</source>
+        <translation>폴더를 삭제할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>드라이브</translation>
+    </message>
+    <message>
+        <source>%1 File</source>
+        <translation>%1 파일</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>파일</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>폴더</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>알 수 없음</translation>
+    </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
@@ -690,6 +807,49 @@ Do you want to replace it?</source>
     <message>
         <source>Date Modified</source>
         <translation>수정한 날짜</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>종류</translation>
+    </message>
+    <message>
+        <source>Invalid filename</source>
+        <translation>잘못된 파일 이름</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;The name &quot;%1&quot; cannot be used.&lt;/b&gt;&lt;p&gt;Try using another name, with fewer characters or no punctuation marks.</source>
+        <translation>&lt;b&gt;‘%1’ 이름은 쓸 수 없습니다.&lt;/b&gt;&lt;p&gt;더 짧거나 문장 부호가 없는 이름을 쓰십시오.</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>실행 취소(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>다시 실행(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>잘라내기(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>복사(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>붙여넣기(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>삭제</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>모두 선택</translation>
     </message>
 </context>
 <context>
@@ -717,6 +877,82 @@ Do you want to replace it?</source>
     <message>
         <source>Cancel</source>
         <translation>취소</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>여기로 스크롤</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>왼쪽 끝</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>맨 위</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>오른쪽 끝</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>맨 아래</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>한 페이지 왼쪽으로</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>한 페이지 위로</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>한 페이지 오른쪽으로</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>한 페이지 아래로</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>왼쪽으로 스크롤</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>위로 스크롤</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>오른쪽으로 스크롤</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>아래로 스크롤</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+</context>
+<context>
+    <name>QSidebar</name>
+    <message>
+        <source>Remove</source>
+        <translation>제거</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>링크 주소 복사(&amp;L)</translation>
     </message>
 </context>
 </TS>

@@ -617,6 +617,21 @@
     </message>
 </context>
 <context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Selecionar tudo</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>&amp;Aumentar</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>&amp;Diminuir</translation>
+    </message>
+</context>
+<context>
     <name>QFileDialog</name>
     <message>
         <source>Look in:</source>
@@ -672,6 +687,108 @@ Do you want to replace it?</source>
         <translation>%1 já existe.
 Deseja substituí-lo?</translation>
     </message>
+    <message>
+        <source>Go back</source>
+        <translation>Voltar atrás</translation>
+    </message>
+    <message>
+        <source>Go forward</source>
+        <translation>Ir para a frente</translation>
+    </message>
+    <message>
+        <source>Go to the parent directory</source>
+        <translation>Ir para a pasta acima</translation>
+    </message>
+    <message>
+        <source>Create a New Folder</source>
+        <translation>Criar uma pasta nova</translation>
+    </message>
+    <message>
+        <source>Change to list view mode</source>
+        <translation>Mudar para a vista de lista</translation>
+    </message>
+    <message>
+        <source>Change to detail view mode</source>
+        <translation>Mudar para a vista de detalhes</translation>
+    </message>
+    <message>
+        <source>Sidebar</source>
+        <translation>Barra lateral</translation>
+    </message>
+    <message>
+        <source>List of places and bookmarks</source>
+        <translation>Lista de locais e marcadores</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Ficheiros</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>Todos os ficheiros (*)</translation>
+    </message>
+    <message>
+        <source>Show </source>
+        <translation>Mostrar: </translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>Muda&amp;r o nome</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Eliminar</translation>
+    </message>
+    <message>
+        <source>Show &amp;hidden files</source>
+        <translation>Mostrar os fic&amp;heiros ocultos</translation>
+    </message>
+    <message>
+        <source>&amp;New Folder</source>
+        <translation>Pasta &amp;nova</translation>
+    </message>
+    <message>
+        <source>New Folder</source>
+        <translation>Pasta nova</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete &apos;%1&apos;?</source>
+        <translation>Tem a certeza de que quer eliminar «%1»?</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is write protected.
+Do you want to delete it anyway?</source>
+        <translation>«%1» está protegido contra escrita.
+Quer eliminá-lo mesmo assim?</translation>
+    </message>
+    <message>
+        <source>Could not delete directory.</source>
+        <translation>Não foi possível eliminar a pasta.</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>Unidade</translation>
+    </message>
+    <message>
+        <source>%1 File</source>
+        <translation>Ficheiro %1</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Ficheiro</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Pasta</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Desconhecido</translation>
+    </message>
 </context>
 <context>
     <name>QFileSystemModel</name>
@@ -690,6 +807,49 @@ Deseja substituí-lo?</translation>
     <message>
         <source>Date Modified</source>
         <translation>Data de modificação</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Invalid filename</source>
+        <translation>Nome de ficheiro inválido</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;The name &quot;%1&quot; cannot be used.&lt;/b&gt;&lt;p&gt;Try using another name, with fewer characters or no punctuation marks.</source>
+        <translation>&lt;b&gt;O nome «%1» não pode ser usado.&lt;/b&gt;&lt;p&gt;Escolha outro, mais curto ou sem sinais de pontuação.</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Anular</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Refazer</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Cor&amp;tar</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>Co&amp;lar</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Selecionar tudo</translation>
     </message>
 </context>
 <context>
@@ -717,6 +877,82 @@ Deseja substituí-lo?</translation>
     <message>
         <source>Cancel</source>
         <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Deslocar até aqui</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Margem esquerda</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Início</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Margem direita</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Fim</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Uma página para a esquerda</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Uma página para cima</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Uma página para a direita</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Uma página para baixo</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Deslocar para a esquerda</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Deslocar para cima</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Deslocar para a direita</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Deslocar para baixo</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+</context>
+<context>
+    <name>QSidebar</name>
+    <message>
+        <source>Remove</source>
+        <translation>Remover</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>Copiar o endereço da &amp;ligação</translation>
     </message>
 </context>
 </TS>

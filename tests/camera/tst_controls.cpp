@@ -100,6 +100,7 @@ private slots:
     void withoutCamera_data();
     void withoutCamera();
     void typingAloneSendsNothing();
+    void emptyFieldShowsTheValue();
     void wheelScrollsThePanel_data();
     void wheelScrollsThePanel();
 };
@@ -229,6 +230,21 @@ void TestControls::typingAloneSendsNothing()
     QTest::keyClicks(&w.edit, "77");
     QCOMPARE(sdkCalls(), QStringList());
     QCOMPARE(w.slider.value(), c.start);
+}
+
+/// In grey: the text itself stays empty.
+void TestControls::emptyFieldShowsTheValue()
+{
+    const CameraWindow w;
+    auto &speed = w.child<QLineEdit>("lineEditSpeed");
+    QCOMPARE(speed.text(), QString());
+    QCOMPARE(speed.placeholderText(), QString("0"));
+    w.child<QSlider>("sliderSpeed").setValue(2);
+    QCOMPARE(speed.text(), QString("2"));
+    speed.clear();
+    QCOMPARE(speed.placeholderText(), QString("2"));
+    w.child<QLineEdit>("lineEditGain").clear();
+    QCOMPARE(w.child<QLineEdit>("lineEditGain").placeholderText(), QString("50"));
 }
 
 void TestControls::emptyText_data()

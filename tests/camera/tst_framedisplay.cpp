@@ -8,6 +8,8 @@
 
 #include <QElapsedTimer>
 #include <QLabel>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QtTest>
 #include <cstdlib>
 
@@ -24,6 +26,15 @@ QByteArray zoomSetting(const QByteArray &factor)
 {
     return "[ZOOM]\nfactor=" + factor + '\n';
 }
+
+/// Whether a point of the frame lies in the middle of the view, to a few pixels.
+bool isInTheMiddle(const CameraWindow &w, double zoom, QPointF frame)
+{
+    const auto &area = w.child<QScrollArea>("scrollArea_showImg");
+    const QPointF middle(area.horizontalScrollBar()->value() + area.viewport()->width() / 2.0,
+                         area.verticalScrollBar()->value() + area.viewport()->height() / 2.0);
+    return (middle / zoom - frame).manhattanLength() <= 6.0;
+}
 } // namespace
 
 class TestFrameDisplay : public QObject
@@ -38,6 +49,9 @@ private slots:
     void scalingIsSmooth();
     void framesFromTheCamera_data();
     void framesFromTheCamera();
+    void firstPictureIsCentred_data();
+    void firstPictureIsCentred();
+    void zoomBeforeTheFirstPicture();
     void oldestFirstAndOneATick();
     void nothingWithoutPictures();
     void stalledGui();
@@ -132,6 +146,55 @@ void TestFrameDisplay::framesFromTheCamera()
     QVERIFY(picture.pixelColor(star).red() > 100);
     QVERIFY(picture.pixelColor(star - QPoint(20, 0)).red() < 5);
     QTRY_COMPARE(label.size(), picture.size());
+}
+
+void TestFrameDisplay::firstPictureIsCentred_data()
+{
+    QTest::addColumn<QByteArray>("factor");
+    QTest::newRow("100") << QByteArray("1");
+    QTest::newRow("75") << QByteArray("0.75");
+    QTest::newRow("50") << QByteArray("0.5");
+}
+
+/// After every connection, and only once: where the user scrolls to is kept.
+void TestFrameDisplay::firstPictureIsCentred()
+{
+    QFETCH(QByteArray, factor);
+    const CameraWindow w(zoomSetting(factor));
+    showFrame(starFrame({{800, 600}}));
+    sdk().setFramesLeft(-1);
+    w.window->resize(700, 400);
+    const auto &area = w.child<QScrollArea>("scrollArea_showImg");
+    for (int connection = 0; connection < 2; ++connection) {
+        w.connectCamera();
+        QTRY_VERIFY(area.verticalScrollBar()->maximum() > 100);
+        QTest::qWait(50); // what is laid out later must not undo it
+        QVERIFY2(isInTheMiddle(w, factor.toDouble(), {640, 480}), "not at first");
+        area.horizontalScrollBar()->setValue(20);
+        area.verticalScrollBar()->setValue(30);
+        const int fetched = sdk().fetchCount();
+        QTRY_VERIFY(sdk().fetchCount() > fetched + 3);
+        QTest::qWait(50);
+        QCOMPARE(area.horizontalScrollBar()->value(), 20);
+        QCOMPARE(area.verticalScrollBar()->value(), 30);
+        w.trigger("actionConnect");
+        QTRY_COMPARE(area.verticalScrollBar()->maximum(), 0);
+    }
+}
+
+void TestFrameDisplay::zoomBeforeTheFirstPicture()
+{
+    const CameraWindow w(zoomSetting("1"));
+    showFrame(starFrame({{800, 600}}));
+    w.window->resize(700, 400);
+    sdk().setFramesLeft(0);
+    w.connectCamera();
+    QVERIFY(w.child<QLabel>("label_showImg").pixmap(Qt::ReturnByValue).isNull());
+    w.trigger("action75");
+    sdk().setFramesLeft(-1);
+    QTRY_VERIFY(w.child<QScrollArea>("scrollArea_showImg").verticalScrollBar()->maximum() > 100);
+    QTest::qWait(50);
+    QVERIFY(isInTheMiddle(w, 0.75, {640, 480}));
 }
 
 void TestFrameDisplay::oldestFirstAndOneATick()

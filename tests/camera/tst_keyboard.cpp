@@ -4,7 +4,10 @@
 #include "tests/support/mainwindowprobe.h"
 
 #include <QAbstractButton>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QPushButton>
+#include <QSlider>
 #include <QTabWidget>
 #include <QWindow>
 #include <QtTest>
@@ -16,6 +19,9 @@ class TestKeyboard : public QObject
 private slots:
     void spaceBarAtTheStart();
     void spaceBarAfterReconnecting();
+    void returnPressesOnce_data();
+    void returnPressesOnce();
+    void returnInAField();
     void tabGoesRound_data();
     void tabGoesRound();
 };
@@ -67,6 +73,61 @@ void TestKeyboard::spaceBarAfterReconnecting()
     w.trigger("actionConnect");
     w.connectCamera();
     press(w, Qt::Key_Space);
+    QCOMPARE(w.window->step(), 1);
+}
+
+void TestKeyboard::returnPressesOnce_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::newRow("Return") << Qt::Key_Return;
+    QTest::newRow("Enter") << Qt::Key_Enter;
+    QTest::newRow("space bar") << Qt::Key_Space;
+}
+
+/// However long it is held, and when it comes up again.
+void TestKeyboard::returnPressesOnce()
+{
+    QFETCH(Qt::Key, key);
+    const CameraWindow w;
+    w.connectCamera();
+    w.window->activateWindow();
+    QTRY_VERIFY(QApplication::focusWidget());
+    auto &button = w.child<QPushButton>("pushButton_setting_done");
+    button.setFocus();
+    const QSignalSpy clicks(&button, &QPushButton::clicked);
+    const auto send = [&](QEvent::Type type, bool repeats) {
+        QKeyEvent event(type, key, Qt::NoModifier, QString(), repeats);
+        QCoreApplication::sendEvent(&button, &event);
+    };
+    send(QEvent::KeyPress, false);
+    QVERIFY(button.isDown());
+    QCOMPARE(clicks.count(), 0);
+    for (int i = 0; i < 3; ++i) {
+        send(QEvent::KeyRelease, true);
+        send(QEvent::KeyPress, true);
+    }
+    send(QEvent::KeyRelease, false);
+    QCOMPARE(clicks.count(), 1);
+    QCOMPARE(w.window->step(), 2);
+    // The window system's way, with whatever has the focus.
+    w.child<QPushButton>("pushButton_confirm_add").setFocus();
+    press(w, key);
+    QCOMPARE(MainWindowProbe(*w.window).rotateValue(), 1);
+}
+
+void TestKeyboard::returnInAField()
+{
+    const CameraWindow w;
+    w.connectCamera();
+    w.window->activateWindow();
+    QTRY_VERIFY(QApplication::focusWidget());
+    auto &field = w.child<QLineEdit>("lineEditGain");
+    const QSignalSpy taken(&field, &QLineEdit::returnPressed);
+    field.setFocus();
+    field.setText("7");
+    press(w, Qt::Key_Return);
+    QCOMPARE(taken.count(), 1);
+    QCOMPARE(w.child<QSlider>("sliderGain").value(), 7);
     QCOMPARE(w.window->step(), 1);
 }
 

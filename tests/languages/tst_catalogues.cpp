@@ -25,11 +25,23 @@ QString sourceFile(const Language &language)
 bool isUniversal(const QString &source)
 {
     static const QRegularExpression withoutWords(R"(^[^\p{L}]*$)");
-    static const QSet<QString> names{
-        "Quorvandel", "English",  "简体中文", "日本語",
-        "русский",    "français", "Deutsch",  "Español",
-        "português",  "italiano", "한국어",   "P(kPa)",
-        "P(hPa)",     "T(℃)",     "OK",       "Quorvandel V1.3.2.6, release 2016-08-10"};
+    static const QSet<QString> names{"Quorvandel",
+                                     "English",
+                                     "简体中文",
+                                     "日本語",
+                                     "русский",
+                                     "français",
+                                     "Deutsch",
+                                     "Español",
+                                     "português",
+                                     "italiano",
+                                     "한국어",
+                                     "P(kPa)",
+                                     "P(hPa)",
+                                     "T(℃)",
+                                     "OK",
+                                     "Ctrl",
+                                     "Quorvandel V1.3.2.6, release 2016-08-10"};
     return names.contains(source) || withoutWords.match(source).hasMatch() ||
            source.startsWith("<html>");
 }
@@ -39,7 +51,7 @@ const QMap<QString, QSet<QString>> &loanWords()
 {
     static const QMap<QString, QSet<QString>> words{
         {"DE", {"Gain", "Traffic", "Position:", "Zoom", "Name", "Computer"}},
-        {"FR", {"Latitude", "Longitude", "Gain", "Zoom", "Question", "Position:"}},
+        {"FR", {"Latitude", "Longitude", "Gain", "Zoom", "Question", "Position:", "Type"}},
         {"ES", {"Zoom", "Error", "&No"}},
         {"PT", {"Zoom", "Latitude", "Longitude"}},
         {"IT", {"File", "Zoom", "Computer", "&No"}},

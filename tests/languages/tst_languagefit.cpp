@@ -23,6 +23,7 @@
 #include <QScrollBar>
 #include <QStyle>
 #include <QStyleOption>
+#include <QTabWidget>
 #include <QTest>
 #include <memory>
 
@@ -199,6 +200,44 @@ QStringList lacksIn(const QWidget &window)
     return lacks;
 }
 
+/// What is cut of the page over the picture or of the panel beside it, and whether the page lies
+/// over the point that the magnifier shows.
+QStringList lacksOfPage(const MainWindow &window)
+{
+    QStringList lacks;
+    const auto &area = *window.findChild<QScrollArea *>("scrollArea_showImg");
+    const auto &tabs = *window.findChild<QTabWidget *>("tabWidget_tipMsg");
+    const QRect place = tabs.geometry();
+    if (!area.viewport()->geometry().contains(place))
+        lacks.append("the page is cut");
+    const QRect magnifier = window.findChild<MagnifierWidget *>()->geometry();
+    const int cross = 8; // pixels to either side of the centre
+    if (place.intersects(
+            QRect(magnifier.center(), QSize(1, 1)).adjusted(-cross, -cross, cross, cross)))
+        lacks.append("the page covers the middle of the magnifier");
+    QList<const QWidget *> pieces;
+    for (const auto *const piece : tabs.currentWidget()->findChildren<QWidget *>()) {
+        if (!tabs.currentWidget()->rect().contains(piece->geometry()))
+            lacks.append(piece->objectName() + " is cut");
+        for (const QWidget *const other : pieces)
+            if (piece->geometry().intersects(other->geometry()))
+                lacks.append(piece->objectName() + " and " + other->objectName() + " overlap");
+        pieces.append(piece);
+    }
+    const auto &arrow = *window.findChild<QLabel *>("directionArrow");
+    if (arrow.isVisible() && (arrow.geometry().intersects(place) ||
+                              !area.viewport()->geometry().contains(arrow.geometry())))
+        lacks.append("the arrow is cut");
+    const auto &panel = *window.findChild<QScrollArea *>("scrollArea_manager");
+    if (panel.horizontalScrollBar()->maximum() > 0)
+        lacks.append("the panel is cut");
+    for (const QWidget *const widget : visibleIn(window))
+        if (panel.isAncestorOf(widget) || tabs.isAncestorOf(widget))
+            if (const QString found = lackOf(*widget); !found.isEmpty())
+                lacks.append(found);
+    return lacks;
+}
+
 /// The pictures of one language, or of none.
 class Pictures
 {
@@ -262,9 +301,8 @@ private slots:
     void initTestCase();
     void fits_data();
     void fits();
-
-private:
-    void choose(MainWindow &window, const char *action);
+    void fitsOnASmallScreen_data();
+    void fitsOnASmallScreen();
 };
 
 void TestLanguageFit::initTestCase()
@@ -328,6 +366,46 @@ void TestLanguageFit::fits()
         const QStringList lacks = lacksIn(*dialog);
         QVERIFY2(lacks.isEmpty(), qPrintable(lacks.join("; ")));
     }
+}
+
+void TestLanguageFit::fitsOnASmallScreen_data()
+{
+    QTest::addColumn<int>("number");
+    QTest::addColumn<QSize>("size");
+    for (std::size_t i = 0; i < languages.size(); ++i)
+        for (const QSize size : {QSize(800, 480), QSize(800, 600), QSize(1024, 768)})
+            QTest::addRow("%s %d x %d", languages[i].code, size.width(), size.height())
+                << int(i) << size;
+}
+
+/// The page in all steps, with a picture that is larger than its room.
+void TestLanguageFit::fitsOnASmallScreen()
+{
+    QFETCH(int, number);
+    QFETCH(QSize, size);
+    MainWindow window;
+    window.resize(size);
+    window.show();
+    window.findChild<QLabel *>("label_showImg")->setPixmap(QPixmap(1280, 960));
+    window.findChild<QAction *>(languages.at(std::size_t(number)).action)->setChecked(true);
+    const bool isShown = !isSanitized && size.height() == 480;
+    const Pictures pictures(isShown ? languages.at(std::size_t(number)).code : QString());
+    MainWindowProbe probe(window);
+    for (const char *const hemisphere : {"radioButton_south", "radioButton_north"}) {
+        window.findChild<QAbstractButton *>(hemisphere)->setChecked(true);
+        for (int step = 1; step <= 13; ++step) {
+            probe.switchStep(step);
+            settle();
+            QCOMPARE(window.size(), size);
+            const QStringList lacks = lacksOfPage(window);
+            QVERIFY2(lacks.isEmpty(),
+                     qPrintable(QStringLiteral("step %1: ").arg(step) + lacks.join("; ")));
+            QVERIFY(pictures.add(window, QStringLiteral("small-%1-%2")
+                                             .arg(hemisphere + qstrlen("radioButton_"))
+                                             .arg(step, 2, 10, QLatin1Char('0'))));
+        }
+    }
+    QVERIFY(window.findChild<QMenuBar *>("menuBar")->sizeHint().width() <= window.width());
 }
 
 QTEST_MAIN(TestLanguageFit)

@@ -139,6 +139,8 @@ void TestResources::images_data()
         {{24, 24}, {"pole", "center", "pole_color", "center_color"}},
         {{25, 25}, {"lightoff_mono", "lighton_mono", "lightoff_color", "lighton_color"}},
         {{16, 16}, {"collapse", "expand"}},
+        {{48, 48},
+         {"message-critical", "message-information", "message-question", "message-warning"}},
         {{238, 171}, {"direction"}},
         {{237, 50}, {"logo"}},
         {{262, 80}, {"veldix"}},
@@ -323,7 +325,8 @@ void TestResources::styleSheetImagesExist()
         QVERIFY2(QFile::exists(path), qPrintable(path));
         paths.insert(path);
     }
-    QCOMPARE(paths.size(), 14); // every arrow, plain and under the pointer
+    // Every arrow, plain and under the pointer, and the signs in the four kinds of boxes.
+    QCOMPARE(paths.size(), 14 + 4);
 }
 
 void TestResources::styleSheetNamesEveryKind_data()

@@ -4,6 +4,7 @@
 #include "resources/resources.h"
 #include "tests/support/catalogues.h"
 #include "tests/support/textroom.h"
+#include "tests/support/toolkitwalk.h"
 #include "tests/virtualmount/mountwindowtest.h"
 #include "virtualmount/languages.h"
 #include "virtualmount/places.h"
@@ -84,6 +85,8 @@ private slots:
     void mnemonicsAreUnique();
     void nothingIsLeftInEnglish_data();
     void nothingIsLeftInEnglish();
+    void toolkitTextsAreTranslated_data() { everyTextFits_data(); }
+    void toolkitTextsAreTranslated();
     void numbersFollowTheLanguage();
     void rowsHaveNamesForScreenReaders();
     void thePartsOfTheTruth_data();
@@ -204,6 +207,31 @@ void MountLanguagesTest::nothingIsLeftInEnglish()
         while (match.hasNext())
             QVERIFY2(names.contains(match.next().captured()), qPrintable(text));
     }
+}
+
+/// In the context menus of all widgets and in the boxes' lists.
+void MountLanguagesTest::toolkitTextsAreTranslated()
+{
+    QFETCH(int, number);
+    LastTranslator last;
+    QVERIFY(virtualmount::speak(languages.at(std::size_t(number))));
+    const SkyFileFixture file;
+    ShownWindow shown(file.path());
+    last.forget(); // English stands in the sources, and has no catalogue
+    QStringList seen = contextMenusIn(shown.window);
+    for (auto *const box : shown.window.findChildren<QComboBox *>()) {
+        box->showPopup();
+        QVERIFY(QApplication::activePopupWidget());
+        seen += contextMenusIn(*QApplication::activePopupWidget());
+        box->hidePopup();
+    }
+    const auto isWord = [](const QString &entry) { return !entry.isEmpty(); };
+    QVERIFY(std::count_if(seen.begin(), seen.end(), isWord) > 20);
+    QStringList left = last.texts();
+    const auto isKey = [](const QString &text) { return text.startsWith("QShortcut: "); };
+    left.erase(std::remove_if(left.begin(), left.end(), isKey), left.end());
+    if (number > 0)
+        QCOMPARE(left.join("; "), QString());
 }
 
 void MountLanguagesTest::numbersFollowTheLanguage()

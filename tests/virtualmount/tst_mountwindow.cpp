@@ -28,6 +28,9 @@ class MountWindowTest : public QObject
     Q_OBJECT
 
 private slots:
+    void hasAnIcon();
+    void returnPressesOnce_data();
+    void returnPressesOnce();
     void initTestCase();
     void bolts_data();
     void bolts();
@@ -474,6 +477,43 @@ void MountWindowTest::fitsBesideTheMainWindow()
     QVERIFY2(size.width() >= 360 && size.width() <= 420, qPrintable(QString::number(size.width())));
     QVERIFY2(size.height() <= 700, qPrintable(QString::number(size.height())));
     QCOMPARE(shown.window.windowTitle(), QString("Quorvandel Virtual Mount"));
+}
+
+/// In every size that a title bar or a list of windows may ask for.
+void MountWindowTest::hasAnIcon()
+{
+    const SkyFileFixture file;
+    const MountWindow window(file.path());
+    for (const int side : {16, 24, 32, 48, 64, 128}) {
+        const QImage picture = window.windowIcon().pixmap(side, side).toImage();
+        QCOMPARE(picture.size(), QSize(side, side));
+        QVERIFY(picture.pixelColor(side / 2, side / 2).alpha() > 0);
+    }
+}
+
+void MountWindowTest::returnPressesOnce_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::newRow("Return") << Qt::Key_Return;
+    QTest::newRow("Enter") << Qt::Key_Enter;
+    QTest::newRow("space bar") << Qt::Key_Space;
+}
+
+void MountWindowTest::returnPressesOnce()
+{
+    QFETCH(Qt::Key, key);
+    const SkyFileFixture file;
+    const ShownWindow shown(file.path());
+    auto &truth = named<QAbstractButton>(shown.window, "showTruth");
+    const QSignalSpy clicks(&truth, &QAbstractButton::clicked);
+    truth.setFocus();
+    press(key);
+    QCOMPARE(clicks.count(), 1);
+    auto &tracking = named<QAbstractButton>(shown.window, "tracking");
+    const bool before = tracking.isChecked();
+    tracking.setFocus();
+    press(key);
+    QCOMPARE(tracking.isChecked(), !before);
 }
 
 QTEST_MAIN(MountWindowTest)

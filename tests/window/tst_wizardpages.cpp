@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What do the instruction pages say in each hemisphere, and where do they lie?
+#include "mainwindow/buttonrow.h"
 #include "mainwindow/wizardtable.h"
 #include "tests/support/patience.h"
 #include "tests/window/freshwindowtest.h"
@@ -101,6 +102,8 @@ private slots:
     void pageLiesOverTheTop_data();
     void pageLiesOverTheTop();
     void pageLeavesTheScrollBarFree();
+    void rows_data();
+    void rows();
     void keysDoNotChangeThePage_data();
     void keysDoNotChangeThePage();
 
@@ -235,6 +238,30 @@ void WizardPagesTest::pageLeavesTheScrollBarFree()
     named<QLabel>(*window, "label_showImg").setPixmap(QPixmap(1280, 960));
     QTRY_VERIFY(area.verticalScrollBar()->isVisible());
     QVERIFY(area.viewport()->geometry().contains(tabs().geometry()));
+}
+
+void WizardPagesTest::rows_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::addColumn<QVector<QRect>>("places");
+    using Places = QVector<QRect>;
+    // Of a text and two buttons, 6 pixels apart.
+    QTest::newRow("room to spare")
+        << 400 << Places{{88, 5, 100, 20}, {194, 0, 80, 30}, {280, 0, 120, 30}};
+    QTest::newRow("just one row") << 312
+                                  << Places{{0, 5, 100, 20}, {106, 0, 80, 30}, {192, 0, 120, 30}};
+    QTest::newRow("two rows") << 311
+                              << Places{{125, 5, 100, 20}, {231, 0, 80, 30}, {191, 36, 120, 30}};
+    QTest::newRow("three rows") << 130
+                                << Places{{30, 0, 100, 20}, {50, 26, 80, 30}, {10, 62, 120, 30}};
+    QTest::newRow("too narrow") << 90 << Places{{0, 0, 90, 20}, {10, 26, 80, 30}, {0, 62, 90, 30}};
+}
+
+void WizardPagesTest::rows()
+{
+    QFETCH(int, width);
+    QFETCH(QVector<QRect>, places);
+    QCOMPARE(placedInRows({{100, 20}, {80, 30}, {120, 30}}, width, 6), places);
 }
 
 void WizardPagesTest::keysDoNotChangeThePage_data()

@@ -398,6 +398,10 @@ Strg+1 bis Strg+6 drehen die Achse, Esc verlässt ein Feld.</translation>
         <source>Delete</source>
         <translation>Löschen</translation>
     </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles auswählen</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>

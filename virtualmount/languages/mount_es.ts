@@ -398,6 +398,10 @@ Ctrl+1 a Ctrl+6 giran el eje; Esc sale de un campo.</translation>
         <source>Delete</source>
         <translation>Eliminar</translation>
     </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleccionar todo</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>

@@ -398,6 +398,10 @@ Ctrl+1 à Ctrl+6 tournent l&apos;axe, Échap quitte un champ.</translation>
         <source>Delete</source>
         <translation>Supprimer</translation>
     </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tout sélectionner</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>

@@ -398,6 +398,10 @@ Ctrl+1 … Ctrl+6 ruotano l&apos;asse, Esc esce da un campo.</translation>
         <source>Delete</source>
         <translation>Elimina</translation>
     </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleziona tutto</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>

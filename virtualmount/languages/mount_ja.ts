@@ -398,6 +398,10 @@ Ctrl+1 ～ Ctrl+6 で軸を回し、Esc で入力欄を離れます。</translat
         <source>Delete</source>
         <translation>削除</translation>
     </message>
+    <message>
+        <source>Select All</source>
+        <translation>すべて選択</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>

@@ -398,6 +398,10 @@ Ctrl+1~Ctrl+6으로 축을 돌리고 Esc로 입력란에서 나옵니다.</trans
         <source>Delete</source>
         <translation>삭제</translation>
     </message>
+    <message>
+        <source>Select All</source>
+        <translation>모두 선택</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>

@@ -398,6 +398,10 @@ Ctrl+1 a Ctrl+6 rodam o eixo; Esc sai de um campo.</translation>
         <source>Delete</source>
         <translation>Eliminar</translation>
     </message>
+    <message>
+        <source>Select All</source>
+        <translation>Selecionar tudo</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>

@@ -398,6 +398,10 @@ Ctrl+1 … Ctrl+6 поворачивают ось, Esc — выход из по�
         <source>Delete</source>
         <translation>Удалить</translation>
     </message>
+    <message>
+        <source>Select All</source>
+        <translation>Выделить всё</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>

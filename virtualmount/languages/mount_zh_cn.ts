@@ -17,7 +17,7 @@
     </message>
     <message>
         <source>&amp;Angle:</source>
-        <translation>角度(&amp;A):</translation>
+        <translation>角度(&amp;A)：</translation>
     </message>
     <message>
         <source>+%1°</source>
@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>&amp;Home</source>
-        <translation>初始(&amp;H)</translation>
+        <translation>零位(&amp;H)</translation>
     </message>
     <message>
         <source>Turn the RA axis back to 0</source>
@@ -397,6 +397,10 @@ Ctrl+1 至 Ctrl+6 转动赤经轴，Esc 离开输入框。</translation>
     <message>
         <source>Delete</source>
         <translation>删除</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>全选</translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: MIT
+// Is any text of the toolkit's left in English: in the context menus, in the file dialog, in the
+// boxes?
+#include "camera/camerastate.h"
+#include "dialogs/languages.h"
+#include "resources/resources.h"
+#include "tests/support/mainwindowprobe.h"
+#include "tests/support/toolkitwalk.h"
+
+#include <QAbstractItemView>
+#include <QAction>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QToolButton>
+#include <QTreeView>
+#include <algorithm>
+#include <utility>
+
+class TestToolkitTexts : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void areTranslated_data();
+    void areTranslated();
+};
+
+namespace
+{
+/// Some that the walk must have come by, where nothing else is said in the same words.
+constexpr std::pair<const char *, const char *> shownTexts[] = {
+    {"QLineEdit", "Delete"},
+    {"QAbstractSpinBox", "&Step up"},
+    {"QScrollBar", "Scroll here"},
+    {"QScrollBar", "Page left"},
+    {"QWidgetTextControl", "Copy &Link Location"},
+    {"QFileDialog", "&New Folder"},
+    {"QFileDialog", "Show &hidden files"},
+};
+
+/// The box that has come up is closed with its last button; its text and buttons.
+QStringList answerBox()
+{
+    auto *const box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+    if (!box)
+        return {};
+    QStringList texts{box->text()};
+    for (const QAbstractButton *const button : box->buttons())
+        texts << button->text();
+    box->buttons().constLast()->click();
+    return texts;
+}
+
+/// What is never shown: the keys that a text is read as a shortcut of, and the portable names of
+/// the dialog's own.
+bool isShortcut(const QString &text)
+{
+    return text.startsWith("QShortcut: ") || text.startsWith("QFileDialog: Alt+");
+}
+
+/// Runs `action`, which may hold the program in a box; what the box said.
+QStringList boxAfter(const std::function<void()> &action)
+{
+    QStringList texts;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&texts] { texts += answerBox(); });
+    timer.start(1);
+    action();
+    QTest::qWait(20);
+    return texts;
+}
+
+QAction *actionNamed(const QWidget &dialog, const char *name)
+{
+    return dialog.findChild<QAction *>(name);
+}
+
+/// Through all that the dialog for a file's name offers. The folder has the files `here.png` and,
+/// write- protected, `locked.png`.
+QStringList walkFileDialog(QFileDialog &dialog)
+{
+    QStringList seen = contextMenusIn(dialog);
+    for (const char *const name : {"detailModeButton", "listModeButton"}) {
+        dialog.findChild<QToolButton *>(name)->click();
+        QTest::qWait(20);
+        seen += contextMenusIn(dialog);
+    }
+    dialog.findChild<QToolButton *>("detailModeButton")->click();
+    auto *const tree = dialog.findChild<QTreeView *>("treeView");
+    for (const QAction *const column : tree->header()->actions())
+        seen << column->text();
+    auto *const edit = dialog.findChild<QLineEdit *>("fileNameEdit");
+    edit->setText("here.png");
+    seen += boxAfter(
+        [&] { dialog.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Save)->click(); });
+    for (const char *const name : {"here.png", "locked.png"}) {
+        dialog.selectFile(name);
+        QTest::qWait(50);
+        seen += boxAfter([&] { actionNamed(dialog, "qt_delete_action")->trigger(); });
+    }
+    actionNamed(dialog, "qt_new_folder_action")->trigger();
+    QTest::qWait(20);
+    return seen;
+}
+} // namespace
+
+void TestToolkitTexts::initTestCase()
+{
+    initialiseResources();
+}
+
+void TestToolkitTexts::areTranslated_data()
+{
+    QTest::addColumn<int>("number");
+    for (std::size_t i = 0; i < languages.size(); ++i)
+        QTest::newRow(languages[i].code) << int(i);
+}
+
+void TestToolkitTexts::areTranslated()
+{
+    QFETCH(int, number);
+    const QTemporaryDir folder;
+    QVERIFY(QDir::setCurrent(folder.path()));
+    for (const char *const name : {"here.png", "locked.png"})
+        QVERIFY(QImage(4, 4, QImage::Format_RGB32).save(name));
+    QVERIFY(QFile::setPermissions("locked.png", QFile::ReadOwner));
+    LastTranslator last;
+    MainWindow window;
+    window.resize(700, 400); // scroll bars
+    window.show();
+    window.findChild<QLabel *>("label_showImg")->setPixmap(QPixmap(1280, 960));
+    window.findChild<QAction *>(languages.at(std::size_t(number)).action)->setChecked(true);
+    MainWindowProbe(window).switchStep(1);
+    QTest::qWait(20);
+    last.forget(); // of the window in English
+    QStringList seen = contextMenusIn(window);
+    for (QDialog *const dialog : window.findChildren<QDialog *>()) {
+        dialog->show();
+        QTest::qWait(20);
+        seen += contextMenusIn(*dialog);
+        dialog->close();
+    }
+    cameraState.cameraConnected = true;
+    window.findChild<QAction *>("actionSave_As")->setEnabled(true);
+    QTimer::singleShot(200, &window, [&seen] {
+        auto *const dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        if (!dialog)
+            return;
+        seen += walkFileDialog(*dialog);
+        dialog->reject();
+    });
+    window.findChild<QAction *>("actionSave_As")->trigger();
+    cameraState.cameraConnected = false;
+    QStringList left = last.texts();
+    left.erase(std::remove_if(left.begin(), left.end(), isShortcut), left.end());
+    QCOMPARE(left.join("; "), QString());
+    QTranslator catalogue;
+    QVERIFY(catalogue.load(languages.at(std::size_t(number)).catalogue));
+    for (const auto &[context, text] : shownTexts)
+        QVERIFY2(seen.contains(catalogue.translate(context, text)), text);
+}
+
+QTEST_MAIN(TestToolkitTexts)
+#include "tst_toolkittexts.moc"
