@@ -1,16 +1,19 @@
 // SPDX-License-Identifier: MIT
-// A local socket, named for the user and the sky file; each start asks there first.
+// A lock and a local socket, named for the user and the sky file; each start asks there first.
 #include "virtualmount/oneinstance.h"
 
 #include <QCryptographicHash>
+#include <QDeadlineTimer>
+#include <QDir>
 #include <QFileInfo>
 #include <QLocalSocket>
+#include <QThread>
 #include <QWidget>
 #include <unistd.h>
 
 namespace
 {
-constexpr int patience = 1000; // milliseconds, for an answer
+constexpr int patience = 5000; // milliseconds, for an answer of one that is just starting
 constexpr char raiseRequest[] = "raise\n";
 constexpr char findRequest[] = "find\n";
 constexpr char answer[] = "here\n";
@@ -41,31 +44,50 @@ void answerTo(QLocalSocket &socket, QWidget &window)
     socket.flush();
     socket.disconnectFromServer();
 }
-} // namespace
 
-OneInstance::OneInstance(const QString &skyFile)
+QString nameFor(const QString &skyFile)
 {
     const QByteArray place = placeOf(skyFile).toUtf8();
     const auto digest = QCryptographicHash::hash(place, QCryptographicHash::Sha1).toHex().left(16);
-    name = QStringLiteral("quorvandel-mount-%1-%2").arg(getuid()).arg(QLatin1String(digest));
-    server.setSocketOptions(QLocalServer::UserAccessOption);
+    return QStringLiteral("quorvandel-mount-%1-%2").arg(getuid()).arg(QLatin1String(digest));
 }
 
-bool OneInstance::isOpenElsewhere(bool raise) const
+bool answers(const QString &name, const char *request)
 {
     QLocalSocket socket;
     socket.connectToServer(name);
     if (!socket.waitForConnected(patience))
         return false;
-    socket.write(raise ? raiseRequest : findRequest);
+    socket.write(request);
     while (!socket.canReadLine())
         if (!socket.waitForReadyRead(patience))
             return false;
     return socket.readLine() == answer;
 }
+} // namespace
 
-bool OneInstance::announce(QWidget &window)
+OneInstance::OneInstance(const QString &skyFile)
+    : name(nameFor(skyFile)), lock(QDir::temp().filePath(name + QStringLiteral(".lock")))
 {
+    lock.setStaleLockTime(0);
+    server.setSocketOptions(QLocalServer::UserAccessOption);
+}
+
+bool OneInstance::isOpenElsewhere(bool raise)
+{
+    for (const QDeadlineTimer deadline(patience); !deadline.hasExpired(); QThread::msleep(50)) {
+        if (lock.tryLock() || lock.error() != QLockFile::LockFailedError)
+            return false;
+        if (answers(name, raise ? raiseRequest : findRequest))
+            return true;
+    }
+    return false;
+}
+
+void OneInstance::announce(QWidget &window)
+{
+    if (!lock.isLocked())
+        return;
     QObject::connect(&server, &QLocalServer::newConnection, &window, [this, &window] {
         while (QLocalSocket *const socket = server.nextPendingConnection()) {
             QObject::connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
@@ -75,5 +97,5 @@ bool OneInstance::announce(QWidget &window)
         }
     });
     QLocalServer::removeServer(name); // what a process that was killed has left
-    return server.listen(name);
+    server.listen(name);
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QLocalServer>
+#include <QLockFile>
 #include <QString>
 
 class QWidget;
@@ -13,13 +14,14 @@ class OneInstance
 public:
     explicit OneInstance(const QString &skyFile);
 
-    /// Whether another process has the sky file's window. It has raised it then, unless `raise` is
-    /// false.
-    bool isOpenElsewhere(bool raise = true) const;
-    /// From now on later starts find this window. False where that cannot be: they open their own.
-    bool announce(QWidget &window);
+    /// Whether another process has the sky file's window, or is about to open it. It has raised it
+    /// then, unless `raise` is false. After false this process has it, if anybody has.
+    bool isOpenElsewhere(bool raise = true);
+    /// From now on later starts find this window.
+    void announce(QWidget &window);
 
 private:
     QString name;
+    QLockFile lock; ///< held while the window is open; the system notices where its holder has died
     QLocalServer server;
 };
