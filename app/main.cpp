@@ -16,7 +16,10 @@ int main(int argc, char *argv[])
     startProgram(application, QUORVANDEL_FILE_LOG ? logMessageHandler : nullptr);
     MainWindow window;
     const TerminationSignals closing(window);
-    window.show();
+    if (QApplication::arguments().contains(QLatin1String("--maximized")))
+        window.showMaximized();
+    else
+        window.show();
     const int status = QApplication::exec();
     // A thread inside a library that does not return can neither be ended nor outlive its objects.
     if (!window.captureEnds())

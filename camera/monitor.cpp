@@ -28,7 +28,7 @@ cv::Point enlargedPoint(QPointF star)
 
 void drawTicks(cv::Mat &picture, cv::Point centre, const cv::Scalar &colour)
 {
-    for (const cv::Point direction :
+    for (const cv::Point &direction :
          {cv::Point(-1, 0), cv::Point(1, 0), cv::Point(0, -1), cv::Point(0, 1)})
         cv::line(picture, centre + direction * tickInner, centre + direction * tickOuter, colour, 1,
                  cv::LINE_8);

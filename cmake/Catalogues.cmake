@@ -2,20 +2,23 @@
 # How Qt Linguist's catalogues get into a library.
 
 # bundle_catalogues(TARGET NAME PREFIX catalogue.ts...): compiles the catalogues and bundles them into
-# the target as the resource NAME (Q_INIT_RESOURCE), each as PREFIX/catalogue.qm.
+# the target as the resource NAME (Q_INIT_RESOURCE), each as PREFIX/catalogue.qm. The bundle names
+# them relative to itself and rcc runs beside it: without a UTF-8 locale rcc does not find a file by
+# a path with other letters than ASCII.
 function(bundle_catalogues TARGET NAME PREFIX)
   qt5_add_translation(compiled ${ARGN})
   set(CATALOGUE_FILES "")
   foreach(file IN LISTS compiled)
     cmake_path(GET file FILENAME name)
-    string(APPEND CATALOGUE_FILES "        <file alias=\"${name}\">${file}</file>\n")
+    string(APPEND CATALOGUE_FILES "        <file>${name}</file>\n")
   endforeach()
   set(bundle ${CMAKE_CURRENT_BINARY_DIR}/${NAME})
   configure_file(${PROJECT_SOURCE_DIR}/cmake/catalogues.qrc.in ${bundle}.qrc @ONLY)
   set_source_files_properties(${bundle}.qrc PROPERTIES SKIP_AUTORCC ON)
   add_custom_command(
     OUTPUT ${bundle}.cpp
-    COMMAND Qt5::rcc --name ${NAME} --output ${bundle}.cpp ${bundle}.qrc
+    COMMAND Qt5::rcc --name ${NAME} --output ${NAME}.cpp ${NAME}.qrc
+    WORKING_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}
     DEPENDS ${bundle}.qrc ${compiled}
     COMMENT "Bundling the catalogues" VERBATIM)
   target_sources(${TARGET} PRIVATE ${bundle}.cpp)

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
-// Looks for the manual from the folder of the executable.
+// Looks for the manual from the folder of the executable, and opens it.
 #include "dialogs/manual.h"
 
 #include <QCoreApplication>
+#include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
+#include <QStatusBar>
 #include <QStringList>
+#include <QtDebug>
 
 namespace
 {
@@ -42,4 +45,14 @@ QUrl manualUrl(const QString &languageCode, const QString &applicationFolder)
             return QUrl::fromLocalFile(file.canonicalFilePath());
     }
     return QUrl(QStringLiteral("https://quorvandel.example/") + page);
+}
+
+void openManual(const QUrl &page, const QString &title, QStatusBar &bar)
+{
+    if (QDesktopServices::openUrl(page))
+        return;
+    constexpr int shownFor = 30'000; // milliseconds: long enough to copy it by hand
+    const QString place = page.toDisplayString(QUrl::PreferLocalFile);
+    qWarning() << "no program opens the manual; it lies at" << place;
+    bar.showMessage(title + QLatin1String(": ") + place, shownFor);
 }

@@ -12,7 +12,6 @@
 #include "mainwindow/wizardtable.h"
 #include "ui_mainwindow.h"
 
-#include <QDesktopServices>
 #include <QFileDialog>
 #include <QMediaPlayer>
 #include <QMediaPlaylist>
@@ -69,7 +68,7 @@ void MainWindow::on_actionManual_Trace_triggered()
 
 void MainWindow::on_actionQuorvandel_Manual_triggered()
 {
-    QDesktopServices::openUrl(manualUrl(languageCode));
+    openManual(manualUrl(languageCode), ui->actionQuorvandel_Manual->text(), *ui->statusBar);
 }
 
 void MainWindow::on_actionAbout_triggered()

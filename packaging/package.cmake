@@ -28,8 +28,10 @@ set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_SECTION science)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# What opens the manual; the libraries are added to it.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "xdg-utils")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
-  "fonts-liberation, fonts-noto-cjk, libqt5multimedia5-plugins, gstreamer1.0-plugins-good")
+  "fonts-liberation, fonts-noto-cjk, libqt5multimedia5-plugins, gstreamer1.0-plugins-good, firefox-esr | www-browser")
 # The virtual camera is loaded by name and lies in a folder of its own.
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS OFF)
 

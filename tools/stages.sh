@@ -1,73 +1,84 @@
 # SPDX-License-Identifier: MIT
-# What the scripts ./run and ./test share: stages that tell what they do, and the packages.
-# Sourced by bash with the project's root as the current folder.
+# What the scripts share: stages that report what they do, how far they are and why they failed.
+# Sourced by bash with the project's root as the current folder; brings tools/packages.sh with it.
 
 logs=build/logs
+. tools/packages.sh
 
-# stage TEXT COMMAND...: one line that tells what is being done; the output goes to a log, of which
-# the last lines are shown if the command fails. Returns the command's status.
-stage() {
-  local text=$1 log status
-  shift
-  mkdir -p "$logs"
-  log="$logs/$(printf '%s' "$text" | tr -cs 'A-Za-z0-9' '-' | cut -c1-60).log"
-  printf '%s ... ' "$text"
-  local start=$SECONDS
-  "$@" >"$log" 2>&1
-  status=$?
-  if [ $status -eq 0 ]; then
-    printf 'done (%d s)\n' $((SECONDS - start))
+# progress_of LOG: how far a running command is, by the last lines of its log: the percentage of
+# ninja's steps or of ctest's tests; otherwise the last line itself, cut.
+progress_of() {
+  local last
+  last=$(tail -c 4000 "$1" 2>/dev/null | tr '\r' '\n' | sed -nE \
+    's,^ *\[?([0-9]+)/([0-9]+)(\]| Test +#).*,\1 \2,p' | tail -n 1)
+  if [ -n "$last" ] && [ "${last#* }" -gt 0 ]; then
+    printf '%d %% (%d of %d)' $((${last% *} * 100 / ${last#* })) "${last% *}" "${last#* }"
   else
-    printf 'FAILED (%d s)\n' $((SECONDS - start))
-    printf 'The stage "%s" failed with status %d. Its last lines (all of it: %s):\n' \
-      "$text" $status "$log"
-    tail -n 40 "$log" | sed 's/^/    /'
+    tail -c 4000 "$1" 2>/dev/null | tr '\r' '\n' | grep -v '^[[:space:]]*$' | tail -n 1 |
+      sed -E 's,.*/,,' | cut -c1-40 | tr -d '\n'
   fi
-  return $status
 }
 
-# The packages of Debian and Ubuntu, smallest sets that will do.
-packages_build="cmake ninja-build g++ qtbase5-dev qttools5-dev qttools5-dev-tools qtmultimedia5-dev
-  libopencv-core-dev libopencv-imgproc-dev liberfa-dev"
-packages_run="libqt5multimedia5-plugins gstreamer1.0-plugins-good fonts-dejavu-core fonts-liberation
-  fonts-noto-cjk"
-packages_unseen="xvfb"
-packages_test="clang-format clang-tidy desktop-file-utils appstream mandoc"
-
-missing_packages() {
-  local package
-  for package in "$@"; do
-    [ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null)" = installed ] ||
-      printf '%s ' "$package"
+# show_progress TEXT LOG OWNER: until the process OWNER ends. A terminal's line is written again and
+# again; elsewhere a line is added every minute.
+show_progress() {
+  local text=$1 log=$2 owner=$3 width seconds=0 line
+  width=$(tput cols 2>/dev/null || echo 80)
+  while kill -0 "$owner" 2>/dev/null; do
+    if [ -t 1 ]; then
+      line="$text ... $(progress_of "$log"), log: $log"
+      printf '\r\033[K%s' "${line:0:$((width - 1))}"
+    elif [ $seconds -gt 0 ] && [ $((seconds % 60)) -eq 0 ]; then
+      printf '    %s\n' "$(progress_of "$log")"
+    fi
+    sleep 1 >/dev/null 2>&1
+    seconds=$((seconds + 1))
   done
 }
 
-# install_packages PACKAGE...: installs what is missing and says what.
-install_packages() {
-  local missing as_root=
-  if ! command -v apt-get >/dev/null || ! command -v dpkg-query >/dev/null; then
-    if [ -f build/packages-are-there ]; then return 0; fi
-    printf 'This is not Debian or Ubuntu. Install what these packages of Debian bring:\n   '
-    printf ' %s' "$@"
-    printf '\nand then say so with: mkdir -p build; touch build/packages-are-there\n'
-    return 1
+# reasons LOG: why a command failed: the errors of compilers, linkers, CMake and lints, or else the
+# last lines.
+reasons() {
+  local errors
+  errors=$(grep -aE -A 4 \
+    '(error|warning):|^E: |^CMake Error|undefined reference|No space left|Killed|^FAILED:' "$1" |
+    cut -c1-400)
+  if [ -n "$errors" ]; then
+    head -n 40 <<<"$errors"
+  else
+    tail -n 40 "$1"
   fi
-  missing=$(missing_packages "$@")
-  [ -n "$missing" ] || return 0
-  if [ "$(id -u)" -ne 0 ]; then
-    if ! command -v sudo >/dev/null; then
-      printf 'Packages are missing and there is no sudo. Install as root: %s\n' "$missing"
-      return 1
-    fi
-    as_root=sudo
+}
+
+# log_of TEXT: where the output of the stage TEXT goes.
+log_of() { printf '%s/%s.log' "$logs" "$(printf '%s' "$1" | tr -cs 'A-Za-z0-9' '-' | cut -c1-60)"; }
+
+# stage TEXT COMMAND...: runs COMMAND with its output in a log and reports what is being done, where
+# the log is, and, if it failed, why: by the function named in `explain`, which is given the log.
+# What COMMAND writes to file descriptor 3 is seen at once. Returns the command's status.
+stage() {
+  local text=$1 log status watcher start=$SECONDS
+  shift
+  mkdir -p "$logs"
+  log=$(log_of "$text")
+  : >"$log"
+  if [ -t 1 ]; then printf '%s ...' "$text"; else printf '%s ... (log: %s)\n' "$text" "$log"; fi
+  # Beside the command, which keeps Ctrl+C.
+  show_progress "$text" "$log" $$ &
+  watcher=$!
+  "$@" 3>&1 >"$log" 2>&1
+  status=$?
+  kill $watcher 2>/dev/null
+  wait $watcher 2>/dev/null
+  [ ! -t 1 ] || printf '\r\033[K'
+  if [ $status -eq 0 ]; then
+    printf '%s ... done (%d s)\n' "$text" $((SECONDS - start))
+  else
+    printf '%s ... FAILED (%d s) with status %d, because of (all of it: %s):\n' \
+      "$text" $((SECONDS - start)) $status "$log"
+    "${explain:-reasons}" "$log" | sed 's/^/    /'
   fi
-  printf 'Installing: %s\n' "$missing"
-  # The question for the password must be seen, so it comes before the output goes to a log.
-  [ -z "$as_root" ] || sudo -v || return 1
-  stage "Reading the package lists" $as_root apt-get update || return 1
-  # shellcheck disable=SC2086 # the list is meant to be split
-  stage "Installing the packages" $as_root env DEBIAN_FRONTEND=noninteractive \
-    apt-get install -y --no-install-recommends $missing
+  return $status
 }
 
 # configured PRESET: configures a build folder once; CMake itself notices later changes.

@@ -5,6 +5,7 @@
 #include "virtualcamera/skyfile.h"
 #include "virtualmount/languages.h"
 #include "virtualmount/mountwindow.h"
+#include "virtualmount/oneinstance.h"
 #include "virtualmount/places.h"
 
 #include <QApplication>
@@ -15,15 +16,29 @@
 
 namespace
 {
-/// In the form that -qwindowgeometry takes.
-QByteArray geometryText(const QRect &place)
+void describe(QCommandLineParser &options)
 {
-    return QStringLiteral("%1x%2+%3+%4")
-        .arg(place.width())
-        .arg(place.height())
-        .arg(place.x())
-        .arg(place.y())
-        .toLatin1();
+    options.setApplicationDescription(QStringLiteral(
+        "The knobs of Quorvandel's virtual mount: edits the virtual camera's sky file. There is "
+        "one window for each sky file: a later start brings it to the front."));
+    options.addHelpOption();
+    options.addOption(
+        {QStringLiteral("places"),
+         QStringLiteral("Print where the program and this window stand: \"beside\" or "
+                        "\"behind\" each other, and their geometries.")});
+    options.addOption({QStringLiteral("behind"),
+                       QStringLiteral("Open the window behind the others, without the focus.")});
+    options.addOption({QStringLiteral("language"),
+                       QStringLiteral("EN, ZH, JA, RU, FR, DE, ES, PT, IT or KO; the system's "
+                                      "language if it is left out."),
+                       QStringLiteral("code")});
+}
+
+void printPlaces(MountWindow &window)
+{
+    window.ensurePolished();
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    puts(placesText(sharedScreen(screen, window.sizeHint(), windowFrame())).constData());
 }
 } // namespace
 
@@ -33,16 +48,7 @@ int main(int argc, char *argv[])
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("quorvandel-mount"));
     QCommandLineParser options;
-    options.setApplicationDescription(QStringLiteral(
-        "The knobs of Quorvandel's virtual mount: edits the virtual camera's sky file."));
-    options.addHelpOption();
-    options.addOption(
-        {QStringLiteral("places"),
-         QStringLiteral("Print where the program and this window stand side by side.")});
-    options.addOption({QStringLiteral("language"),
-                       QStringLiteral("EN, ZH, JA, RU, FR, DE, ES, PT, IT or KO; the system's "
-                                      "language if it is left out."),
-                       QStringLiteral("code")});
+    describe(options);
     options.process(application);
     if (!virtualmount::speakAsAsked(options.value(QStringLiteral("language")))) {
         fprintf(stderr, "quorvandel-mount: --language takes EN, ZH, JA, RU, FR, DE, ES, PT, IT or "
@@ -50,16 +56,24 @@ int main(int argc, char *argv[])
         return 1;
     }
     startWindows(application);
-    MountWindow window(QFile::decodeName(virtualsky::skyFilePath().c_str()));
+    const QString skyFile = QFile::decodeName(virtualsky::skyFilePath().c_str());
+    const bool behind = options.isSet(QStringLiteral("behind"));
     if (options.isSet(QStringLiteral("places"))) {
-        window.ensurePolished();
-        const Places places =
-            sideBySide(QGuiApplication::primaryScreen()->availableGeometry(), window.sizeHint());
-        printf("%s %s\n", geometryText(places.program).constData(),
-               geometryText(places.mount).constData());
+        MountWindow window(skyFile);
+        printPlaces(window);
         return 0;
     }
+    OneInstance instance(skyFile);
+    if (instance.isOpenElsewhere(!behind)) {
+        puts("The virtual mount's window is open already.");
+        return 0;
+    }
+    MountWindow window(skyFile);
     const TerminationSignals closing(window); // clouds that pass are put back
+    window.setAttribute(Qt::WA_ShowWithoutActivating, behind);
     window.show();
+    if (behind)
+        window.lower();
+    instance.announce(window);
     return QApplication::exec();
 }

@@ -3,6 +3,7 @@
 #include "dialogs/manual.h"
 #include "mainwindow/mainwindow.h"
 #include "resources/resources.h"
+#include "tests/support/logrecorder.h"
 
 #include <QAction>
 #include <QDesktopServices>
@@ -10,6 +11,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTranslator>
@@ -74,6 +76,7 @@ private slots:
     void ofThisBuild_data();
     void ofThisBuild();
     void fromTheMenu();
+    void whereItLiesWithoutALauncher();
     void linksLeadSomewhere_data();
     void linksLeadSomewhere();
     void bothLanguagesHaveTheSamePages();
@@ -190,6 +193,17 @@ void ManualTest::fromTheMenu()
     FileTaker taker;
     window.findChild<QAction *>("actionQuorvandel_Manual")->trigger();
     QCOMPARE(taker.urls, QList<QUrl>{expected});
+}
+
+/// The test's platform has nothing that opens a page, as a system without a launcher.
+void ManualTest::whereItLiesWithoutALauncher()
+{
+    MainWindow window;
+    const QString place = manualUrl("EN").toDisplayString(QUrl::PreferLocalFile);
+    const LogRecorder log;
+    window.findChild<QAction *>("actionQuorvandel_Manual")->trigger();
+    QCOMPARE(window.statusBar()->currentMessage(), "Quorvandel Manual: " + place);
+    QCOMPARE(log.texts(QtWarningMsg).filter("it lies at").filter(place).size(), 1);
 }
 
 void ManualTest::linksLeadSomewhere_data()

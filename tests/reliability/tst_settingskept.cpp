@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Is what saving would lose of a settings file kept?
 #include "tests/reliability/settingsplace.h"
+#include "tests/support/reachablecopy.h"
 #include "tests/window/windowtest.h"
 
 #include "mainwindow/mainwindow.h"
@@ -93,5 +94,10 @@ void SettingsKeptTest::damagedFileThatCanNotBeWritten()
     QCOMPARE(bytesOf(settingsFilePath()), letter);
 }
 
-QTEST_MAIN(SettingsKeptTest)
+int main(int argc, char *argv[])
+{
+    if (const auto status = statusOfCopy(argv))
+        return *status;
+    QTEST_MAIN_IMPL(SettingsKeptTest)
+}
 #include "tst_settingskept.moc"

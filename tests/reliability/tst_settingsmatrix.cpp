@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Does a window come up and work, whatever lies where the settings file belongs?
 #include "tests/reliability/settingsplace.h"
+#include "tests/support/reachablecopy.h"
 #include "tests/window/windowtest.h"
 
 #include "camera/camerastate.h"
@@ -401,5 +402,10 @@ void SettingsMatrix::rubbish()
     QCOMPARE(inForce(const_cast<MainWindow &>(again)), before);
 }
 
-QTEST_MAIN(SettingsMatrix)
+int main(int argc, char *argv[])
+{
+    if (const auto status = statusOfCopy(argv))
+        return *status;
+    QTEST_MAIN_IMPL(SettingsMatrix)
+}
 #include "tst_settingsmatrix.moc"

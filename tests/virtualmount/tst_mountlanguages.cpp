@@ -118,7 +118,8 @@ void MountLanguagesTest::everyTextFits()
     ShownWindow shown(file.path());
     MountWindow &window = shown.window;
     // A screen of 1366 x 768 with a panel.
-    const Places places = sideBySide(QRect(0, 0, 1366, 728), window.sizeHint());
+    const Places places =
+        sharedScreen(QRect(0, 0, 1366, 728), window.sizeHint(), QMargins(4, 36, 4, 4));
     QCOMPARE(window.size(), places.mount.size());
     QVERIFY2(places.program.width() >= 900, qPrintable(QString::number(window.width())));
     const auto lacks = [&] {

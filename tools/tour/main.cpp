@@ -137,14 +137,17 @@ std::unique_ptr<Album> albumFor(const QCommandLineParser &options, const QString
     return options.isSet(option) ? std::make_unique<Album>(options.value(option)) : nullptr;
 }
 
-/// Both windows in view, and the picture small enough to be seen whole.
+/// Both windows in view, or on a small screen the mount's behind, and the picture small enough to
+/// be seen whole.
 void placeSideBySide(MainWindow &window, MountWindow &mount, Person::Options &how)
 {
     mount.ensurePolished();
-    const Places places =
-        sideBySide(QGuiApplication::primaryScreen()->availableGeometry(), mount.sizeHint());
-    window.setGeometry(places.program);
-    mount.setGeometry(places.mount);
+    const Places places = sharedScreen(QGuiApplication::primaryScreen()->availableGeometry(),
+                                       mount.sizeHint(), windowFrame());
+    window.resize(places.program.size());
+    window.move(places.program.topLeft()); // of the frame
+    mount.resize(places.mount.size());
+    mount.move(places.mount.topLeft());
     mount.show();
     if (places.program.width() < narrowWindow)
         how.zoomPercent = 50;

@@ -1,0 +1,77 @@
+# SPDX-License-Identifier: MIT
+# The packages of Debian and Ubuntu that the project needs, and how they are installed.
+# Sourced by tools/stages.sh.
+
+# The smallest sets that will do: to build, to run, to run unseen, for the tests, for the lints.
+packages_build="cmake ninja-build g++ qtbase5-dev qttools5-dev qttools5-dev-tools qtmultimedia5-dev
+  libopencv-core-dev libopencv-imgproc-dev liberfa-dev"
+packages_run="libqt5multimedia5-plugins gstreamer1.0-plugins-good fonts-dejavu-core fonts-liberation
+  fonts-noto-cjk xdg-utils"
+packages_unseen="xvfb"
+packages_test="desktop-file-utils appstream mandoc"
+packages_lint="clang-format clang-tidy"
+
+missing_packages() {
+  local package
+  for package in "$@"; do
+    [ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null)" = installed ] ||
+      printf '%s ' "$package"
+  done
+}
+
+# lock_holder LOG: who holds the lock that apt did not get, in apt's words; fails if apt failed for
+# another reason.
+lock_holder() {
+  grep -aqE '^(E|Error): (Could not get lock|Unable to (acquire|lock) )' "$1" || return 1
+  sed -nE 's/.*held by (process [0-9]+ \([^)]*\)).*/\1/p' "$1" | tail -n 1 | grep . ||
+    echo "another program"
+}
+
+lock_patience=1800 # seconds for which another program may hold the package system
+lock_interval=2    # seconds between two attempts
+
+# patiently COMMAND...: runs apt-get, again and again while another program holds one of its locks:
+# apt itself would wait for some of them only, and say nothing. Writes that it waits to file
+# descriptor 3.
+patiently() {
+  local attempt=$logs/apt-get.log holder status said=false since=$SECONDS
+  while true; do
+    "$@" 2>&1 | tee "$attempt"
+    status=${PIPESTATUS[0]}
+    [ "$status" -ne 0 ] && holder=$(lock_holder "$attempt") || return "$status"
+    [ $((SECONDS - since)) -lt "$lock_patience" ] || return "$status"
+    $said || printf 'Waiting for %s, which holds the package system, for at most %d minutes.\n' \
+      "$holder" $((lock_patience / 60)) >&3
+    said=true
+    sleep "$lock_interval"
+  done
+}
+
+# install_packages PACKAGE...: installs what is missing and says what.
+install_packages() {
+  local missing as_root=() apt
+  if ! command -v apt-get >/dev/null || ! command -v dpkg-query >/dev/null; then
+    if [ -f build/packages-are-there ]; then return 0; fi
+    printf 'This is not Debian or Ubuntu. Install what these packages of Debian bring:\n   '
+    printf ' %s' "$@"
+    printf '\nand then say so with: mkdir -p build; touch build/packages-are-there\n'
+    return 1
+  fi
+  missing=$(missing_packages "$@")
+  [ -n "$missing" ] || return 0
+  if [ "$(id -u)" -ne 0 ]; then
+    if ! command -v sudo >/dev/null; then
+      printf 'Packages are missing and there is no sudo. Install as root: %s\n' "$missing"
+      return 1
+    fi
+    as_root=(sudo)
+  fi
+  printf 'Installing: %s\n' "$missing"
+  # The question for the password must be seen, so it comes before the output goes to a log.
+  [ ${#as_root[@]} -eq 0 ] || sudo -v || return 1
+  # The messages are read here, so they are in English.
+  apt=("${as_root[@]}" env LC_ALL=C DEBIAN_FRONTEND=noninteractive apt-get)
+  stage "Reading the package lists" patiently "${apt[@]}" update || return 1
+  # shellcheck disable=SC2086 # the list is meant to be split
+  stage "Installing the packages" patiently "${apt[@]}" install -y --no-install-recommends $missing
+}

@@ -1,0 +1,72 @@
+# SPDX-License-Identifier: MIT
+# What ctest's output says: how many checks passed, failed and were skipped, and why those that
+# failed did. Sourced by ./test.
+#
+# REPORT is what `ctest` writes, DETAILS its Testing/Temporary/LastTest.log with what the tests wrote.
+
+# failed_tests REPORT: a line "name reason" for each test that ctest counts as failed.
+failed_tests() {
+  sed -nE '/^The following tests FAILED:/,$ s/^[[:space:]]+[0-9]+ - ([^ ]+) \(([^)]*)\).*/\1 \2/p' "$1"
+}
+
+# count_results REPORT DETAILS: "passed failed skipped". The rows of Qt Test count each; a test that
+# says nothing of rows, or fails beyond them (a crash, a leak, a timeout), counts as one.
+count_results() {
+  failed_tests "$1" | awk '
+    function close_test() {
+      if (name == "") return
+      if (!rows) { if (name in bad) f++; else p++ }
+      else if (name in bad && own == 0) f++
+      delete bad[name]
+      name = ""
+    }
+    FNR == NR { if (NF) bad[$1] = 1; next }
+    /^[0-9]+\/[0-9]+ Testing: / { close_test(); name = $3; rows = 0; own = 0 }
+    /^Totals: [0-9]+ passed, [0-9]+ failed, [0-9]+ skipped/ {
+      rows = 1; p += $2; f += $4; s += $6; own += $4
+    }
+    END {
+      close_test()
+      for (test in bad) f++
+      print p + 0, f + 0, s + 0
+    }' <(cat; echo) "$2"
+}
+
+# skipped_rows DETAILS: what was left out, and why.
+skipped_rows() { grep -ah '^SKIP ' "$1" | sort -u; }
+
+# output_of TEST DETAILS: what a test wrote, without the talk of the media framework.
+output_of() {
+  awk -v test="$1" '
+    /^[0-9]+\/[0-9]+ Testing: / { mine = $3 == test; inside = 0 }
+    mine && /^<end of output>/ { exit }
+    mine && inside > 1 && !/GStreamer|GLib|gst_|GST_|^[^ ]* [0-9]+ +0x[0-9a-f]+ / { print }
+    mine && inside == 1 { inside = 2 }
+    mine && /^Output:$/ && !inside { inside = 1 }' "$2"
+}
+
+# failures_in: of a test's output, the lines that say why it failed, each with what belongs to it.
+failures_in() {
+  awk '
+    /^(PASS|SKIP|XFAIL|BPASS|BFAIL|QDEBUG|QINFO|QWARN|QCRITICAL|QSYSTEM|RESULT|Totals|Config|\*\*\*)/ {
+      left = 0
+    }
+    /^(FAIL!|XPASS|QFATAL)/ || /(ERROR|WARNING): [A-Za-z]*Sanitizer/ || /runtime error:/ ||
+      /^terminate called/ || /^ASSERT/ || /eceived signal/ || /Unable to find executable/ { left = 12 }
+    /^SUMMARY: / { print; left = 0 }
+    left > 0 { print; left-- }'
+}
+
+# explain_failures REPORT DETAILS: for each test that failed its name and its reasons, at most 40
+# lines; the end of its output where it does not say why, or did not get to its end.
+explain_failures() {
+  local name reason lines
+  while read -r name reason; do
+    printf '%s (%s)\n' "$name" "$reason"
+    lines=$(output_of "$name" "$2" | failures_in | cut -c1-400)
+    if [ -z "$lines" ] || [ "$reason" != Failed ]; then
+      lines+=$'\n'$(output_of "$name" "$2" | tail -n 5 | cut -c1-400)
+    fi
+    printf '%s\n' "$lines" | grep . | head -n 40 | sed 's/^/    /'
+  done < <(failed_tests "$1")
+}

@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+// A lock and a local socket, named for the user and the sky file; each start asks there first.
+#include "virtualmount/oneinstance.h"
+
+#include <QCryptographicHash>
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QFileInfo>
+#include <QLocalSocket>
+#include <QThread>
+#include <QWidget>
+#include <unistd.h>
+
+namespace
+{
+constexpr int patience = 5000; // milliseconds, for an answer of one that is just starting
+constexpr char raiseRequest[] = "raise\n";
+constexpr char findRequest[] = "find\n";
+constexpr char answer[] = "here\n";
+
+/// The file need not be there, but its folder usually is: by whichever links it is reached.
+QString placeOf(const QString &skyFile)
+{
+    const QFileInfo file(skyFile);
+    const QString folder = QFileInfo(file.absolutePath()).canonicalFilePath();
+    return (folder.isEmpty() ? file.absolutePath() : folder) + '/' + file.fileName();
+}
+
+void bringForward(QWidget &window)
+{
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.show();
+    window.raise();
+    window.activateWindow();
+}
+
+void answerTo(QLocalSocket &socket, QWidget &window)
+{
+    if (!socket.canReadLine())
+        return;
+    if (socket.readLine() == raiseRequest)
+        bringForward(window);
+    socket.write(answer);
+    socket.flush();
+    socket.disconnectFromServer();
+}
+
+QString nameFor(const QString &skyFile)
+{
+    const QByteArray place = placeOf(skyFile).toUtf8();
+    const auto digest = QCryptographicHash::hash(place, QCryptographicHash::Sha1).toHex().left(16);
+    return QStringLiteral("quorvandel-mount-%1-%2").arg(getuid()).arg(QLatin1String(digest));
+}
+
+bool answers(const QString &name, const char *request)
+{
+    QLocalSocket socket;
+    socket.connectToServer(name);
+    if (!socket.waitForConnected(patience))
+        return false;
+    socket.write(request);
+    while (!socket.canReadLine())
+        if (!socket.waitForReadyRead(patience))
+            return false;
+    return socket.readLine() == answer;
+}
+} // namespace
+
+OneInstance::OneInstance(const QString &skyFile)
+    : name(nameFor(skyFile)), lock(QDir::temp().filePath(name + QStringLiteral(".lock")))
+{
+    lock.setStaleLockTime(0);
+    server.setSocketOptions(QLocalServer::UserAccessOption);
+}
+
+bool OneInstance::isOpenElsewhere(bool raise)
+{
+    for (const QDeadlineTimer deadline(patience); !deadline.hasExpired(); QThread::msleep(50)) {
+        if (lock.tryLock() || lock.error() != QLockFile::LockFailedError)
+            return false;
+        if (answers(name, raise ? raiseRequest : findRequest))
+            return true;
+    }
+    return false;
+}
+
+void OneInstance::announce(QWidget &window)
+{
+    if (!lock.isLocked())
+        return;
+    QObject::connect(&server, &QLocalServer::newConnection, &window, [this, &window] {
+        while (QLocalSocket *const socket = server.nextPendingConnection()) {
+            QObject::connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
+            QObject::connect(socket, &QLocalSocket::readyRead, &window,
+                             [socket, &window] { answerTo(*socket, window); });
+            answerTo(*socket, window); // what came with the connection
+        }
+    });
+    QLocalServer::removeServer(name); // what a process that was killed has left
+    server.listen(name);
+}
