@@ -39,6 +39,6 @@ std::string format(const SkyState &state);
 /// Makes the folder (mode 0700) where it is missing. False = failed, errno tells why.
 bool writeAtomically(const std::string &path, std::string_view text);
 
-/// $QUORVANDEL_SKY, or quorvandel/sky.ini in $XDG_RUNTIME_DIR, or in /tmp/quorvandel-<uid>.
+/// $QUORVANDEL_SKY, or quorvandel/sky.ini in $XDG_RUNTIME_DIR, or in /tmp/quorvandel-UID.
 std::string skyFilePath();
 } // namespace virtualsky

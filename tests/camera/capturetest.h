@@ -6,7 +6,7 @@
 #include "camera/camerastate.h"
 #include "camera/capturethread.h"
 #include "camera/frames.h"
-#include "camera/sharedstate.h"
+#include "core/sharedstate.h"
 #include "tests/camera/recordingcamera.h"
 #include "tests/support/logrecorder.h"
 #include "tests/support/patience.h"

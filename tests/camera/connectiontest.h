@@ -3,9 +3,9 @@
 #pragma once
 
 #include "camera/camerastate.h"
-#include "dialogs/magnifierwidget.h"
 #include "tests/camera/camerawindow.h"
 #include "tests/support/logrecorder.h"
+#include "widgets/magnifierwidget.h"
 
 #include <QAction>
 #include <QMenu>

@@ -2,7 +2,7 @@
 // How does a test bring the window to the point where monitor mode is prepared?
 #pragma once
 
-#include "camera/sharedstate.h"
+#include "core/sharedstate.h"
 #include "geometry/starcatalogue.h"
 #include "tests/camera/camerawindow.h"
 

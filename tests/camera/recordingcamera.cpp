@@ -3,7 +3,7 @@
 #include "tests/camera/recordingcamera.h"
 
 #include "camera/frames.h"
-#include "camera/locker.h"
+#include "core/locker.h"
 
 #include <QtDebug>
 #include <algorithm>

@@ -2,7 +2,7 @@
 // How does a test reach the template that lies over the picture, and what should it look like?
 #pragma once
 
-#include "camera/sharedstate.h"
+#include "core/sharedstate.h"
 #include "geometry/starcatalogue.h"
 #include "geometry/templateoverlay.h"
 #include "geometry/templatepole.h"

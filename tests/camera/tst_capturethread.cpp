@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What does the capture loop do with what the camera gives it?
-#include "camera/locker.h"
+#include "core/locker.h"
 #include "tests/camera/capturetest.h"
 
 #include <QDateTime>

@@ -2,9 +2,9 @@
 // How do the waiting pictures and the frame rate come onto the screen?
 #include "camera/camerastate.h"
 #include "camera/frames.h"
-#include "camera/sharedstate.h"
-#include "dialogs/magnifierwidget.h"
+#include "core/sharedstate.h"
 #include "tests/camera/camerawindow.h"
+#include "widgets/magnifierwidget.h"
 
 #include <QElapsedTimer>
 #include <QLabel>

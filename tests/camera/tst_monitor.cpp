@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Are the reference stars followed, the pole reckoned and the pole star enlarged as they should be?
 #include "camera/monitor.h"
-#include "camera/sharedstate.h"
+#include "core/sharedstate.h"
 #include "geometry/polecomputation.h"
 #include "tests/camera/recordingcamera.h"
 #include "tests/support/logrecorder.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Does the window prepare monitor mode, and do the marks follow the stars from frame to frame?
 #include "camera/frames.h"
-#include "camera/locker.h"
+#include "core/locker.h"
 #include "mainwindow/pointtext.h"
 #include "tests/camera/monitorwindow.h"
 #include "tests/support/logrecorder.h"

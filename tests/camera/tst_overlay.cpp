@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Do the marks over a frame have their shapes, places and colours?
 #include "camera/overlay.h"
-#include "camera/sharedstate.h"
+#include "core/sharedstate.h"
 
 #include <QPainter>
 #include <QtTest>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Does a hand that clicks twice on a page's button do more than to press it?
-#include "camera/sharedstate.h"
+#include "core/sharedstate.h"
 #include "tests/camera/camerawindow.h"
 #include "tests/support/logrecorder.h"
 #include "tests/support/mainwindowprobe.h"

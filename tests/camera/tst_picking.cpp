@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What does a double click on the picture do in each step?
-#include "camera/sharedstate.h"
+#include "core/sharedstate.h"
 #include "geometry/axiscentre.h"
 #include "geometry/starcatalogue.h"
 #include "geometry/templateoverlay.h"

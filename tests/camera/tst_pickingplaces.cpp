@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Where exactly does a double click search, and where does the template lie afterwards, at each
 // zoom and in a scrolled picture?
-#include "camera/sharedstate.h"
+#include "core/sharedstate.h"
 #include "mainwindow/pointtext.h"
 #include "tests/camera/pickingwindow.h"
 #include "tests/support/mainwindowprobe.h"

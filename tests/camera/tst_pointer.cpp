@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // What is shown of the place under the mouse, over the picture and over the pages?
-#include "dialogs/magnifierwidget.h"
 #include "tests/camera/pickingwindow.h"
 #include "tests/support/logrecorder.h"
+#include "widgets/magnifierwidget.h"
 
 #include <QTabWidget>
 

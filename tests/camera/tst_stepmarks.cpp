@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Which marks lie over the shown picture in each step of the alignment?
 #include "camera/overlay.h"
-#include "camera/sharedstate.h"
+#include "core/sharedstate.h"
 #include "tests/camera/camerawindow.h"
 #include "tests/support/mainwindowprobe.h"
 

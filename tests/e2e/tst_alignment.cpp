@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Does a person who follows the instructions end with an aligned mount?
 #include "app/stylesheet.h"
-#include "dialogs/settingsfile.h"
+#include "core/settingsfile.h"
 #include "mainwindow/mainwindow.h"
 #include "resources/resources.h"
 #include "tools/tour/person.h"

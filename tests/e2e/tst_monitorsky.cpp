@@ -2,8 +2,8 @@
 // Does monitor mode follow the real stars: lost and found again, behind clouds, with the axis
 // turned, both in one column?
 #include "app/stylesheet.h"
-#include "camera/sharedstate.h"
-#include "dialogs/settingsfile.h"
+#include "core/settingsfile.h"
+#include "core/sharedstate.h"
 #include "mainwindow/mainwindow.h"
 #include "resources/resources.h"
 #include "tools/tour/person.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Is every text there in every language, finished, with its placeholders, and really translated?
-#include "dialogs/languages.h"
-#include "dialogs/toolkittexts.h"
+#include "core/languages.h"
+#include "core/toolkittexts.h"
 #include "resources/resources.h"
 #include "tests/support/catalogues.h"
 

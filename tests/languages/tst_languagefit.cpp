@@ -3,10 +3,10 @@
 // its dialogs, and does nothing lie over its neighbour? What is measured is also saved as pictures,
 // a folder for each language, for somebody to look at.
 #include "app/stylesheet.h"
-#include "dialogs/languages.h"
-#include "dialogs/magnifierwidget.h"
+#include "core/languages.h"
 #include "resources/resources.h"
 #include "tests/support/mainwindowprobe.h"
+#include "widgets/magnifierwidget.h"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Does the language change at once, everywhere, and without touching anything else?
-#include "dialogs/languages.h"
-#include "dialogs/settingsfile.h"
+#include "core/languages.h"
+#include "core/settingsfile.h"
 #include "resources/resources.h"
 #include "tests/support/logrecorder.h"
 #include "tests/support/mainwindowprobe.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Is the manual found, does the menu open it, and are its pages whole?
-#include "dialogs/manual.h"
+#include "core/manual.h"
 #include "mainwindow/mainwindow.h"
 #include "resources/resources.h"
 

@@ -2,15 +2,15 @@
 // Which widgets and helpers has the window right after it was made, and how are they set?
 #include "tests/window/windowtest.h"
 
-#include "camera/sharedstate.h"
+#include "core/sharedstate.h"
 #include "dialogs/aboutdialog.h"
 #include "dialogs/astrorefractiondialog.h"
 #include "dialogs/favoritedialog.h"
-#include "dialogs/magnifierwidget.h"
 #include "dialogs/poletrackingdialog.h"
 #include "mainwindow/mainwindow.h"
 #include "resources/resources.h"
 #include "tests/support/mainwindowprobe.h"
+#include "widgets/magnifierwidget.h"
 
 #include <QActionGroup>
 #include <QGraphicsDropShadowEffect>

@@ -4,7 +4,7 @@
 
 #include "camera/camerastate.h"
 #include "camera/frames.h"
-#include "camera/sharedstate.h"
+#include "core/sharedstate.h"
 #include "geometry/starcatalogue.h"
 #include "mainwindow/mainwindow.h"
 #include "resources/resources.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Does the refraction dialog write what it shows, within its ranges and in the right unit?
-#include "camera/sharedstate.h"
+#include "core/sharedstate.h"
 #include "dialogs/astrorefractiondialog.h"
 #include "mainwindow/mainwindow.h"
 #include "resources/resources.h"

@@ -4,8 +4,8 @@
 
 #include "camera/camerastate.h"
 #include "camera/frames.h"
-#include "camera/locker.h"
-#include "camera/sharedstate.h"
+#include "core/locker.h"
+#include "core/sharedstate.h"
 #include "mainwindow/mainwindow.h"
 #include "resources/resources.h"
 #include "tests/support/mainwindowprobe.h"

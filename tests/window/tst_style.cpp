@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What does each display style change, in each step?
-#include "camera/sharedstate.h"
-#include "dialogs/style.h"
+#include "core/sharedstate.h"
+#include "core/style.h"
 #include "mainwindow/mainwindow.h"
 #include "mainwindow/wizardtable.h"
 #include "resources/resources.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // When is the saved axis centre used again, when replaced, and when forgotten?
-#include "camera/sharedstate.h"
+#include "core/sharedstate.h"
 #include "tests/window/freshwindowtest.h"
 
 class WizardCentreTest : public FreshWindowTest

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // How does the broken ring turn, and which slider blinks?
-#include "camera/sharedstate.h"
+#include "core/sharedstate.h"
 #include "mainwindow/wizardtable.h"
 #include "tests/support/patience.h"
 #include "tests/window/freshwindowtest.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What does entering each step change, and which button leads where?
-#include "camera/sharedstate.h"
+#include "core/sharedstate.h"
 #include "tests/support/logrecorder.h"
 #include "tests/window/freshwindowtest.h"
 

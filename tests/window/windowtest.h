@@ -2,7 +2,7 @@
 // What do the tests of the window share? Finding widgets, comparing pictures, the settings file.
 #pragma once
 
-#include "dialogs/settingsfile.h"
+#include "core/settingsfile.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The table of the two display styles.
-#include "dialogs/style.h"
+#include "core/style.h"
 
 const Style &styleNamed(const QString &name)
 {

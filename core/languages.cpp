@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The table of the ten languages.
-#include "dialogs/languages.h"
+#include "core/languages.h"
 
 #include <algorithm>
 

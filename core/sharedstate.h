@@ -3,7 +3,7 @@
 // share.
 #pragma once
 
-#include "camera/relaxed.h"
+#include "core/relaxed.h"
 
 #include <QString>
 
@@ -20,7 +20,7 @@ struct OverlayFlags {
     Relaxed<double> arcAngle;       ///< degrees, anticlockwise as QPainter counts them
 };
 
-/// What the marks and the pole are reckoned from; frame pixels. Written by the GUI thread.
+/// What the marks and the pole are computed from; frame pixels. Written by the GUI thread.
 struct AlignmentPoints {
     RelaxedPoint savedAxisCenter; ///< the RA axis of the last alignment; 0, 0 = none is saved
     Relaxed<int> savedAxisRadius; ///< of the circle through the three picks
@@ -33,8 +33,8 @@ struct AlignmentPoints {
 struct MonitorPositions {
     RelaxedPoint starASearch, starBSearch;   ///< where each frame's search starts
     RelaxedPoint starACurrent, starBCurrent; ///< where the latest frame has the stars
-    RelaxedPoint poleCurrent;                ///< the pole reckoned from them
-    Relaxed<bool> poleValid;                 ///< false: no pole could be reckoned for the frame
+    RelaxedPoint poleCurrent;                ///< the pole computed from them
+    Relaxed<bool> poleValid;                 ///< false: no pole could be computed for the frame
 };
 
 /// The observer's refraction settings: the dialog writes, the capture thread reads the numbers.
@@ -46,8 +46,3 @@ struct RefractionSettings {
     Relaxed<bool> enabledCorrect; ///< whether star positions are corrected
     QString P_unit;               ///< "kPa" or "hPa"; the GUI thread's alone
 };
-
-extern OverlayFlags overlayFlags;
-extern AlignmentPoints alignmentPoints;
-extern MonitorPositions monitorPositions;
-extern RefractionSettings refractionSettings;

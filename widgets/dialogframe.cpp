@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The frame that the dialogs share.
-#include "dialogs/dialogframe.h"
+#include "widgets/dialogframe.h"
 
 #include <QDialog>
 

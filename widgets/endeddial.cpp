@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Follows the pointer around the dial and keeps it from passing the ends.
-#include "dialogs/endeddial.h"
+#include "widgets/endeddial.h"
 
 #include <QMouseEvent>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Looks for the manual from the folder of the executable.
-#include "dialogs/manual.h"
+#include "core/manual.h"
 
 #include <QCoreApplication>
 #include <QDir>

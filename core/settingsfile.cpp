@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Reads and writes the settings file by one table of its keys.
-#include "dialogs/settingsfile.h"
+#include "core/settingsfile.h"
 
 #include <QCoreApplication>
 #include <QDir>

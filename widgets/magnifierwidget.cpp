@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Paints the circular magnified view.
-#include "dialogs/magnifierwidget.h"
+#include "widgets/magnifierwidget.h"
 
-#include "geometry/saturate.h"
+#include "core/saturate.h"
 
 #include <QBrush>
 #include <QPainter>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Leads the window into monitor mode as a person does.
-#include "bench/session.h"
+#include "bench/monitoredrun.h"
 
-#include "dialogs/settingsfile.h"
+#include "core/settingsfile.h"
 #include "tools/practicesky.h"
 #include "tools/tour/person.h"
 #include "virtualcamera/skyfile.h"
@@ -29,13 +29,13 @@ std::string preparedSkyFile()
 }
 } // namespace
 
-Session::Session(int zoomPercent) : knobs(preparedSkyFile(), startingSky())
+MonitoredRun::MonitoredRun(int zoomPercent) : knobs(preparedSkyFile(), startingSky())
 {
     window.resize(1280, 800);
     window.show();
     Person::Options how;
     how.zoomPercent = zoomPercent;
-    Person person(window, knobs, how, 1);
+    Person person(window, session, knobs, how, 1);
     person.connectCamera();
     person.prepare();
     person.setExposure();
@@ -49,24 +49,24 @@ Session::Session(int zoomPercent) : knobs(preparedSkyFile(), startingSky())
     setUnthrottled(false);
 }
 
-Session::~Session()
+MonitoredRun::~MonitoredRun()
 {
     window.close();
 }
 
-void Session::setUnthrottled(bool unthrottled)
+void MonitoredRun::setUnthrottled(bool unthrottled)
 {
     knobs.edit().unthrottled = unthrottled;
     knobs.write();
 }
 
-void Session::wait(double seconds) const
+void MonitoredRun::wait(double seconds) const
 {
     QTest::qWait(int(1000 * seconds));
 }
 
 /// Also where the field's section is folded.
-void Session::typeInto(const char *lineEdit, const char *text)
+void MonitoredRun::typeInto(const char *lineEdit, const char *text)
 {
     auto *const edit = window.findChild<QLineEdit *>(lineEdit);
     edit->setText(QString::fromLatin1(text));
