@@ -38,6 +38,8 @@ public:
     FrameRate rate() const;
 
 private:
+    friend class FrameRateMeterProbe; // reads the two times for the tests
+
     mutable QMutex mutex;
     // Milliseconds since the epoch, cut to 32 bits.
     std::int32_t lastFrameTime = 0, thisFrameTime = 0;

@@ -2,8 +2,6 @@
 // Works the program's window with the recording camera behind it.
 #include "tests/camera/camerawindow.h"
 
-#include "camera/camerastate.h"
-#include "camera/frames.h"
 #include "resources/resources.h"
 
 #include <QAction>
@@ -74,14 +72,10 @@ CameraWindow::CameraWindow(const QByteArray &settings, const std::function<void(
         if (!file.open(QIODevice::WriteOnly) || file.write(settings) != settings.size())
             qFatal("the settings file can not be written");
     }
-    cameraHandle = nullptr;
-    forgetRate();
-    forgetWaitingPictures();
-    frameMatrices.rawFrame = cv::Mat();
     sdk().reset();
     if (beforeStart)
         beforeStart();
-    window = std::make_unique<MainWindow>();
+    window = std::make_unique<SessionWindow>();
     window->resize(1600, 1100);
     window->show();
     if (!QTest::qWaitForWindowExposed(window.get(), patience))
@@ -119,10 +113,10 @@ bool CameraWindow::waitForNewFrame() const
     // A picture of a frame fetched from now on is shown once this many more were taken: the one
     // being worked on, two that wait, and one to be sure of.
     sdk().setFramesLeft(0);
-    const bool drained = comesTrue([] {
+    const bool drained = comesTrue([this] {
         const int count = sdk().fetchCount();
         QTest::qWait(30);
-        return waitingFrames().isEmpty() && sdk().fetchCount() > count;
+        return session().frameQueue.isEmpty() && sdk().fetchCount() > count;
     });
     child<QLabel>("label_showImg").clear();
     sdk().setFramesLeft(-1);

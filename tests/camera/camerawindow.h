@@ -2,9 +2,9 @@
 // How does a test work the program's window with the recording camera behind it?
 #pragma once
 
-#include "mainwindow/mainwindow.h"
 #include "tests/camera/recordingcamera.h"
 #include "tests/support/patience.h"
+#include "tests/support/sessionwindow.h"
 
 #include <QMessageBox>
 #include <QTimer>
@@ -43,7 +43,7 @@ private:
 };
 
 /// A shown window that starts from the given settings file, or from none, with the recording
-/// camera reset. The frames, queues and flags of an earlier window are forgotten.
+/// camera reset and a session of its own.
 class CameraWindow
 {
 public:
@@ -52,6 +52,8 @@ public:
     explicit CameraWindow(const QByteArray &settings = QByteArray(),
                           const std::function<void()> &beforeStart = {});
     ~CameraWindow();
+
+    Session &session() const { return window->ownSession; }
 
     template <typename T> T &child(const char *name) const
     {
@@ -71,7 +73,7 @@ public:
     /// Enters a step by the slot that leads to it: 2, 3, 5, 7, 9, 10, 11, 12 or 13.
     void enterStep(int step) const;
 
-    std::unique_ptr<MainWindow> window;
+    std::unique_ptr<SessionWindow> window;
 };
 
 /// Where the settings file of the running test lies.

@@ -2,7 +2,6 @@
 // Which calls, boxes and states belong to a connection? What the tests of connecting share.
 #pragma once
 
-#include "camera/camerastate.h"
 #include "tests/camera/camerawindow.h"
 #include "tests/support/logrecorder.h"
 #include "widgets/magnifierwidget.h"
@@ -87,7 +86,7 @@ inline Shown shownBy(const CameraWindow &w)
                                    "actionAstronomical_Refraction", "actionManual_Trace"})
         if (wouldBeEnabled(w.child<QAction>(name)) != enabled)
             qFatal("%s differs from the other actions", name);
-    return {cameraState.cameraConnected, w.child<QAction>("actionConnect").text(), enabled,
+    return {w.session().camera.cameraConnected, w.child<QAction>("actionConnect").text(), enabled,
             w.child<QWidget>("tabWidget_tipMsg").isVisible(), w.window->windowTitle()};
 }
 

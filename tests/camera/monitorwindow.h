@@ -2,7 +2,6 @@
 // How does a test bring the window to the point where monitor mode is prepared?
 #pragma once
 
-#include "core/sharedstate.h"
 #include "geometry/starcatalogue.h"
 #include "tests/camera/camerawindow.h"
 
@@ -63,7 +62,7 @@ public:
         if (!waitForNewFrame())
             qFatal("no frame is shown");
         enterStep(11);
-        alignmentPoints.savedAxisCenter = axis;
+        session().alignmentPoints.savedAxisCenter = axis;
         child<QSlider>("horizontalSlider_rough_match").setValue(degrees);
         QTest::mouseDClick(&child<QLabel>("label_showImg"), Qt::LeftButton, Qt::NoModifier,
                            starB.toPoint());

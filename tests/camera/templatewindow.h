@@ -2,7 +2,6 @@
 // How does a test reach the template that lies over the picture, and what should it look like?
 #pragma once
 
-#include "core/sharedstate.h"
 #include "geometry/starcatalogue.h"
 #include "geometry/templateoverlay.h"
 #include "geometry/templatepole.h"
@@ -92,8 +91,9 @@ inline QPoint middle(const QRect &r)
     return r.topLeft() + QPoint((r.width() - 1) / 2, (r.height() - 1) / 2);
 }
 
-inline QString targetText(int angle, QPointF polaris, const QString &region = "North")
+inline QString targetText(const TemplateWindow &w, int angle, QPointF polaris,
+                          const QString &region = "North")
 {
     const QPointF pole = expectedPole(catalogueOf(region), angle, polaris);
-    return pointText(polarisTarget(polaris, pole, alignmentPoints.savedAxisCenter));
+    return pointText(polarisTarget(polaris, pole, w.session().alignmentPoints.savedAxisCenter));
 }

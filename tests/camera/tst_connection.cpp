@@ -44,7 +44,7 @@ void TestConnection::startUp()
     const CameraWindow w;
     QCOMPARE(sdkCalls(), QStringList("InitVELDIXResource()"));
     QVERIFY(log.contains(QtDebugMsg, "InitVELDIXSDK success"));
-    QVERIFY(cameraState.sdkReady);
+    QVERIFY(w.session().camera.sdkReady);
     QCOMPARE(shownBy(w), atRest(w));
 }
 
@@ -54,7 +54,7 @@ void TestConnection::startUpFails()
     const CameraWindow w({}, [] { sdk().setStatus("InitVELDIXResource", 1); });
     QVERIFY(log.contains(QtCriticalMsg, "InitVELDIXResource: failed"));
     QVERIFY(!log.contains(QtDebugMsg, "InitVELDIXSDK success"));
-    QVERIFY(!cameraState.sdkReady);
+    QVERIFY(!w.session().camera.sdkReady);
 }
 
 void TestConnection::notReady()
@@ -96,8 +96,8 @@ void TestConnection::connectAndDisconnect()
     QCOMPARE(sdkLog(log), settingLog + QStringList({"StopVELDIXLive", "CloseVELDIX"}));
     Shown rest = atRest(w);
     QCOMPARE(shownBy(w), rest);
-    QVERIFY(cameraState.sdkReady);
-    QVERIFY(cameraHandle == nullptr);
+    QVERIFY(w.session().camera.sdkReady);
+    QVERIFY(w.session().handle.get() == nullptr);
     QTRY_VERIFY(log.contains(QtDebugMsg, "CaptureThread done"));
     QCOMPARE(boxes.boxes(), QList<Box>());
     // The title is not among what Disconnect puts back.
@@ -172,7 +172,7 @@ void TestConnection::choice()
     QCOMPARE(sdkCalls({"OpenVELDIX"}),
              opened.isEmpty() ? QStringList() : QStringList("OpenVELDIX(" + opened + ')'));
     QCOMPARE(boxes.boxes(), opened.isEmpty() ? QList<Box>{notFound} : QList<Box>());
-    QCOMPARE(bool(cameraState.cameraConnected), !opened.isEmpty());
+    QCOMPARE(bool(w.session().camera.cameraConnected), !opened.isEmpty());
     if (!opened.isEmpty())
         QCOMPARE(w.window->windowTitle(), "Quorvandel - ID:" + opened);
 }
@@ -268,8 +268,8 @@ void TestConnection::readBack()
     for (const auto &spy : spies)
         QCOMPARE(spy->count(), 0);
     QCOMPARE(sdkCalls({"SetVELDIXParam"}), setting.mid(5));
-    QVERIFY(cameraState.exposure == exposure || std::isnan(exposure));
-    QVERIFY(cameraState.gain == gain || std::isnan(gain));
+    QVERIFY(w.session().camera.exposure == exposure || std::isnan(exposure));
+    QVERIFY(w.session().camera.gain == gain || std::isnan(gain));
     QCOMPARE(w.child<QLineEdit>("lineEditExpose").text(), QString::number(shownExposure));
     QCOMPARE(w.child<QLineEdit>("lineEditGain").text(), QString::number(shownGain));
     QCOMPARE(w.child<QSlider>("sliderExpose").value(), qBound(1, shownExposure, 500));
@@ -291,7 +291,7 @@ void TestConnection::keptParametersAreSentAgain()
     QCOMPARE(sdkCalls({"SetVELDIXParam"}),
              QStringList({"SetVELDIXParam(camera 2, 12, 200)", "SetVELDIXParam(camera 2, 9, 2)"}));
     QCOMPARE(w.child<QSlider>("sliderExpose").value(), 44);
-    QCOMPARE(cameraState.exposure, 44000.0);
+    QCOMPARE(w.session().camera.exposure, 44000.0);
 }
 
 QTEST_MAIN(TestConnection)

@@ -88,7 +88,7 @@ void TestConnectionFailures::failure()
         lines = lines.filter(QRegularExpression("^(?!" + unlogged + ')'));
     QCOMPARE(sdkLog(log), lines);
     // Only a camera that was never opened leaves no handle.
-    QCOMPARE(cameraHandle == nullptr, operation == "OpenVELDIX");
+    QCOMPARE(w.session().handle.get() == nullptr, operation == "OpenVELDIX");
 }
 
 void TestConnectionFailures::againAfterAFailure_data()
@@ -108,7 +108,7 @@ void TestConnectionFailures::againAfterAFailure()
     const BoxWatcher boxes;
     sdk().setStatus(operation.toStdString(), 1);
     w.trigger("actionConnect");
-    QVERIFY(!cameraState.cameraConnected);
+    QVERIFY(!w.session().camera.cameraConnected);
     sdk().setStatus(operation.toStdString(), 0);
     sdk().clearCalls();
     w.connectCamera();
@@ -142,13 +142,13 @@ void TestConnectionFailures::failedCloseLeavesItConnected()
     QCOMPARE(sdkCalls(), closing);
     QCOMPARE(sdkLog(log), QStringList("StopVELDIXLive"));
     QCOMPARE(shownBy(w), connectedState);
-    QVERIFY(cameraHandle != nullptr);
+    QVERIFY(w.session().handle.get() != nullptr);
     // What follows the closing is done all the same.
     QVERIFY(image.pixmap(Qt::ReturnByValue).isNull());
     QCOMPARE(position.text(), QString());
     QTRY_VERIFY(isClear(magnified(w)));
-    QCOMPARE(measuredRate().whole, 0);
-    QVERIFY(waitingFrames().isEmpty());
+    QCOMPARE(w.session().frameRate.rate().whole, 0);
+    QVERIFY(w.session().frameQueue.isEmpty());
     QTRY_VERIFY(log.contains(QtDebugMsg, "CaptureThread done"));
     // The next press disconnects again; this time it succeeds.
     sdk().setStatus("CloseVELDIX", 0);

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // Do the camera's sliders and edit boxes send what they show?
-#include "camera/camerastate.h"
 #include "tests/camera/camerawindow.h"
 #include "tests/support/wheel.h"
 
@@ -72,7 +71,7 @@ public:
         QCOMPARE(sdkCalls(), calls);
         QCOMPARE(slider.value(), shown);
         QCOMPARE(edit.text(), text);
-        QCOMPARE(cameraState.*control.value, shown * control.perUnit);
+        QCOMPARE(session().camera.*control.value, shown * control.perUnit);
     }
 
     QSlider &slider;
@@ -293,11 +292,11 @@ void TestControls::withoutCamera()
     sdk().clearCalls();
     w.child<QSlider>(c.slider).setValue(c.most);
     QCOMPARE(sdkCalls(), QStringList(callFor(c, c.most, "null")));
-    QCOMPARE(cameraState.*c.value, c.most * c.perUnit);
+    QCOMPARE(w.session().camera.*c.value, c.most * c.perUnit);
     w.child<QLineEdit>(c.edit).setText("1");
     w.call(c.slot);
     QCOMPARE(sdkCalls().value(1), callFor(c, 1, "null"));
-    QCOMPARE(cameraState.*c.value, c.perUnit);
+    QCOMPARE(w.session().camera.*c.value, c.perUnit);
 }
 
 void TestControls::wheelScrollsThePanel_data()

@@ -61,16 +61,16 @@ void TestDisconnection::disconnectClearsThePicture()
     QVERIFY(image.pixmap(Qt::ReturnByValue).isNull());
     QCOMPARE(image.text(), QString());
     QCOMPARE(position.text(), QString());
-    QCOMPARE(measuredRate().whole, 0);
-    QCOMPARE(measuredRate().tenths, 0);
+    QCOMPARE(w.session().frameRate.rate().whole, 0);
+    QCOMPARE(w.session().frameRate.rate().tenths, 0);
     QTRY_COMPARE(rate.text(), QStringLiteral("FPS : 0.0"));
-    QVERIFY(waitingFrames().isEmpty());
+    QVERIFY(w.session().frameQueue.isEmpty());
     // Nothing comes after it: the frames that are still announced are not fetched.
     const int fetches = sdk().fetchCount();
     QTest::qWait(150);
     QVERIFY(sdk().fetchCount() <= fetches + 1);
     QVERIFY(image.pixmap(Qt::ReturnByValue).isNull());
-    QVERIFY(waitingFrames().isEmpty());
+    QVERIFY(w.session().frameQueue.isEmpty());
 }
 
 /// By itself: nothing else is painted that would paint it along.
@@ -83,7 +83,7 @@ void TestDisconnection::disconnectPaintsTheMagnifier()
     QTRY_VERIFY(!isClear(magnified(w)) && !magnified(w).isNull());
     w.child<QScrollArea>("scrollArea_showImg").viewport()->setUpdatesEnabled(false);
     sdk().setFramesLeft(0);
-    QTRY_VERIFY(waitingFrames().isEmpty());
+    QTRY_VERIFY(w.session().frameQueue.isEmpty());
     QTest::qWait(100); // for what is still to be painted
     QVERIFY(!isClear(magnified(w)));
     w.trigger("actionConnect");
@@ -99,14 +99,14 @@ void TestDisconnection::disconnectWithoutHandle()
     QVERIFY(w.waitForNewFrame());
     sdk().clearCalls();
     const LogRecorder log; // from before the handle goes: the loop may end at once without it
-    void *const handle = cameraHandle;
-    cameraHandle = nullptr;
+    void *const handle = w.session().handle.get();
+    w.session().handle.set(nullptr);
     w.trigger("actionConnect");
     QTRY_VERIFY(log.contains(QtDebugMsg, "CaptureThread done"));
     QCOMPARE(sdkCalls(), QStringList());
     QCOMPARE(shownBy(w), connectedState);
     QVERIFY(!w.child<QLabel>("label_showImg").pixmap(Qt::ReturnByValue).isNull());
-    cameraHandle = handle; // closed with the window
+    w.session().handle.set(handle); // closed with the window
 }
 
 void TestDisconnection::quickReconnect()
@@ -139,7 +139,7 @@ void TestDisconnection::manyReconnectsWhileFramesFlow()
     QCOMPARE(sdkCalls({"OpenVELDIX"}).size(), 20);
     QCOMPARE(sdkCalls({"CloseVELDIX"}).size(), 20);
     QTest::qWait(60);
-    QVERIFY(waitingFrames().isEmpty());
+    QVERIFY(w.session().frameQueue.isEmpty());
     QVERIFY(w.child<QLabel>("label_showImg").pixmap(Qt::ReturnByValue).isNull());
 }
 
@@ -197,7 +197,7 @@ void TestDisconnection::disconnectDuringALongFetch()
     QTRY_COMPARE(rate.text(), QStringLiteral("FPS : 0.0"));
     QTest::qWait(700); // longer than the rate's timer
     QCOMPARE(sdk().fetchCount(), fetches);
-    QVERIFY(waitingFrames().isEmpty());
+    QVERIFY(w.session().frameQueue.isEmpty());
     QVERIFY(w.child<QLabel>("label_showImg").pixmap(Qt::ReturnByValue).isNull());
     QCOMPARE(rate.text(), QStringLiteral("FPS : 0.0"));
 }
@@ -308,8 +308,8 @@ void TestDisconnection::closeWindow()
     QVERIFY(w.window->close());
     QCOMPARE(sdkCalls(), calls);
     QCOMPARE(sdkLog(log), lines);
-    QCOMPARE(bool(cameraState.cameraConnected), connectedAfterwards);
-    QVERIFY(!cameraState.sdkReady);
+    QCOMPARE(bool(w.session().camera.cameraConnected), connectedAfterwards);
+    QVERIFY(!w.session().camera.sdkReady);
     QVERIFY(QFile::exists(settingsPath()));
 }
 
@@ -319,14 +319,14 @@ void TestDisconnection::closeWindowWithoutHandle()
     const CameraWindow w;
     w.connectCamera();
     QTRY_VERIFY(sdk().fetchCount() > 0);
-    cameraHandle = nullptr;
+    w.session().handle.set(nullptr);
     sdk().clearCalls();
     const LogRecorder log;
     QVERIFY(w.window->close());
     QCOMPARE(sdkCalls(), QStringList());
     QCOMPARE(sdkLog(log), QStringList());
-    QVERIFY(cameraState.cameraConnected);
-    QVERIFY(!cameraState.sdkReady);
+    QVERIFY(w.session().camera.cameraConnected);
+    QVERIFY(!w.session().camera.sdkReady);
     QVERIFY(QFile::exists(settingsPath()));
 }
 
@@ -361,7 +361,7 @@ void TestDisconnection::closeAgainAfterAFailedClose()
     const LogRecorder log;
     w.window->close();
     QCOMPARE(sdkLog(log), QStringList({"StopVELDIXLive", "CloseVELDIX"}));
-    QVERIFY(!cameraState.cameraConnected);
+    QVERIFY(!w.session().camera.cameraConnected);
 }
 
 void TestDisconnection::closeWindowStopsTheTimers()

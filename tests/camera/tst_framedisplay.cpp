@@ -1,8 +1,5 @@
 // SPDX-License-Identifier: MIT
 // How do the waiting pictures and the frame rate come onto the screen?
-#include "camera/camerastate.h"
-#include "camera/frames.h"
-#include "core/sharedstate.h"
 #include "tests/camera/camerawindow.h"
 #include "widgets/magnifierwidget.h"
 
@@ -31,7 +28,6 @@ class TestFrameDisplay : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
     void zoom_data();
     void zoom();
     void waitingPictureKeepsItsSize();
@@ -49,11 +45,6 @@ private slots:
     void readOutsWaitForAPicture();
     void monitorModeOff();
 };
-
-void TestFrameDisplay::init()
-{
-    overlayFlags.monitorTracking = false;
-}
 
 void TestFrameDisplay::zoom_data()
 {
@@ -75,7 +66,7 @@ void TestFrameDisplay::zoom()
     QFETCH(QSize, frame);
     QFETCH(QSize, shown);
     const CameraWindow w(zoomSetting(factor));
-    frameQueue.append(plainPicture(frame.width(), frame.height(), QColor(90, 60, 30)));
+    w.session().frameQueue.append(plainPicture(frame.width(), frame.height(), QColor(90, 60, 30)));
     w.call("showImages");
     const QImage picture = w.child<QLabel>("label_showImg").pixmap(Qt::ReturnByValue).toImage();
     QCOMPARE(picture.size(), shown);
@@ -86,9 +77,9 @@ void TestFrameDisplay::zoom()
 void TestFrameDisplay::waitingPictureKeepsItsSize()
 {
     const CameraWindow w(zoomSetting("0.5"));
-    frameQueue.append(plainPicture(640, 480, Qt::blue));
-    cameraState.frameWidth = 65536;
-    cameraState.frameHeight = 0;
+    w.session().frameQueue.append(plainPicture(640, 480, Qt::blue));
+    w.session().camera.frameWidth = 65536;
+    w.session().camera.frameHeight = 0;
     w.call("showImages");
     QCOMPARE(w.child<QLabel>("label_showImg").pixmap(Qt::ReturnByValue).size(), QSize(320, 240));
 }
@@ -101,7 +92,7 @@ void TestFrameDisplay::scalingIsSmooth()
     for (int y = 0; y < 48; ++y)
         for (int x = y % 2; x < 64; x += 2)
             picture.setPixelColor(x, y, Qt::white);
-    frameQueue.append(picture);
+    w.session().frameQueue.append(picture);
     w.call("showImages");
     const QImage shown = w.child<QLabel>("label_showImg").pixmap(Qt::ReturnByValue).toImage();
     QCOMPARE(shown.size(), QSize(32, 24));
@@ -137,14 +128,14 @@ void TestFrameDisplay::framesFromTheCamera()
 void TestFrameDisplay::oldestFirstAndOneATick()
 {
     const CameraWindow w;
-    frameQueue.append(plainPicture(64, 48, Qt::red));
-    frameQueue.append(plainPicture(64, 48, Qt::blue));
+    w.session().frameQueue.append(plainPicture(64, 48, Qt::red));
+    w.session().frameQueue.append(plainPicture(64, 48, Qt::blue));
     auto &label = w.child<QLabel>("label_showImg");
     w.call("showImages");
-    QCOMPARE(frameQueue.size(), 1);
+    QCOMPARE(w.session().frameQueue.size(), 1);
     QCOMPARE(label.pixmap(Qt::ReturnByValue).toImage().pixelColor(9, 9), QColor(255, 0, 0));
     w.call("showImages");
-    QCOMPARE(frameQueue.size(), 0);
+    QCOMPARE(w.session().frameQueue.size(), 0);
     QCOMPARE(label.pixmap(Qt::ReturnByValue).toImage().pixelColor(9, 9), QColor(0, 0, 255));
     w.call("showImages");
     QCOMPARE(label.pixmap(Qt::ReturnByValue).toImage().pixelColor(9, 9), QColor(0, 0, 255));
@@ -164,9 +155,9 @@ void TestFrameDisplay::stalledGui()
     const CameraWindow w;
     showFrame(starFrame({{640, 480}}));
     w.connectCamera();
-    overlayFlags.monitorTracking = true;
-    monitorPositions.starASearch = QPointF(640, 480);
-    monitorPositions.starBSearch = QPointF(640, 480);
+    w.session().overlayFlags.monitorTracking = true;
+    w.session().monitorPositions.starASearch = QPointF(640, 480);
+    w.session().monitorPositions.starBSearch = QPointF(640, 480);
     sdk().setFramesLeft(-1);
     const int before = sdk().fetchCount();
     QElapsedTimer timer;
@@ -175,10 +166,10 @@ void TestFrameDisplay::stalledGui()
     while (sdk().fetchCount() < before + 10 && timer.elapsed() < patience)
         QThread::msleep(5);
     QVERIFY(sdk().fetchCount() >= before + 10);
-    QCOMPARE(waitingFrames().size(), 2);
-    QCOMPARE(waitingEnlargements().size(), 2);
+    QCOMPARE(w.session().frameQueue.size(), 2);
+    QCOMPARE(w.session().magnifierQueue.size(), 2);
     sdk().setFramesLeft(0);
-    QTRY_VERIFY(waitingFrames().isEmpty() && waitingEnlargements().isEmpty());
+    QTRY_VERIFY(w.session().frameQueue.isEmpty() && w.session().magnifierQueue.isEmpty());
 }
 
 void TestFrameDisplay::magnifierFollowsThePicture()
@@ -186,7 +177,7 @@ void TestFrameDisplay::magnifierFollowsThePicture()
     const CameraWindow w;
     auto *const magnifier = w.window->findChild<MagnifierWidget *>();
     for (const QColor &colour : {QColor(200, 10, 20), QColor(10, 200, 20)}) {
-        frameQueue.append(plainPicture(640, 480, colour));
+        w.session().frameQueue.append(plainPicture(640, 480, colour));
         w.call("showImages");
         QCoreApplication::processEvents(); // it is told to paint, and does so by itself
         const QImage region = magnifier->magnifiedRegion().toImage();
@@ -213,8 +204,7 @@ void TestFrameDisplay::rateText()
     QFETCH(int, tenths);
     QFETCH(QString, text);
     const CameraWindow w;
-    cameraState.fpsWhole = whole;
-    cameraState.fpsTenths = tenths;
+    w.session().frameRate.show({whole, tenths});
     auto &label = w.child<QLabel>("fpsLabel");
     w.call("updateFPS");
     QCOMPARE(label.text(), text);
@@ -233,7 +223,7 @@ void TestFrameDisplay::rateStaysWhenFramesStop()
     QTRY_COMPARE(sdk().framesLeft(), 0);
     const int soFar = sdk().fetchCount();
     QTRY_VERIFY(sdk().fetchCount() > soFar); // the last frame has been measured
-    const FrameRate last = measuredRate();
+    const FrameRate last = w.session().frameRate.rate();
     QVERIFY(last.whole + last.tenths > 0);
     const QString text = QStringLiteral("FPS : %1.%2").arg(last.whole).arg(last.tenths);
     QTRY_COMPARE(label.text(), text);
@@ -244,13 +234,13 @@ void TestFrameDisplay::rateStaysWhenFramesStop()
 void TestFrameDisplay::monitorView()
 {
     const CameraWindow w;
-    overlayFlags.monitorTracking = true;
-    monitorPositions.starACurrent = QPointF(123.44, 56.78);
-    monitorPositions.starBCurrent = QPointF(-0.04, 1000.05);
-    magnifierQueue.append(plainPicture(200, 200, Qt::red));
-    magnifierQueue.append(plainPicture(200, 200, Qt::blue));
+    w.session().overlayFlags.monitorTracking = true;
+    w.session().monitorPositions.starACurrent = QPointF(123.44, 56.78);
+    w.session().monitorPositions.starBCurrent = QPointF(-0.04, 1000.05);
+    w.session().magnifierQueue.append(plainPicture(200, 200, Qt::red));
+    w.session().magnifierQueue.append(plainPicture(200, 200, Qt::blue));
     w.call("showImages");
-    QCOMPARE(magnifierQueue.size(), 1);
+    QCOMPARE(w.session().magnifierQueue.size(), 1);
     const QImage picture = w.child<QLabel>("label_biggerImg").pixmap(Qt::ReturnByValue).toImage();
     QCOMPARE(picture.size(), QSize(200, 200));
     QCOMPARE(picture.pixelColor(100, 100), QColor(255, 0, 0));
@@ -265,23 +255,23 @@ void TestFrameDisplay::readOutsWaitForAPicture()
     auto &starA = w.child<QLabel>("label_refStarA_pos");
     auto &starB = w.child<QLabel>("label_refStarB_pos");
     auto &view = w.child<QLabel>("label_biggerImg");
-    overlayFlags.monitorTracking = true;
-    monitorPositions.starACurrent = QPointF(100, 200);
-    monitorPositions.starBCurrent = QPointF(300, 400);
-    magnifierQueue.append(plainPicture(200, 200, Qt::red));
+    w.session().overlayFlags.monitorTracking = true;
+    w.session().monitorPositions.starACurrent = QPointF(100, 200);
+    w.session().monitorPositions.starBCurrent = QPointF(300, 400);
+    w.session().magnifierQueue.append(plainPicture(200, 200, Qt::red));
     w.call("showImages");
     QCOMPARE(starA.text() + starB.text(), QStringLiteral("(100.0,200.0)(300.0,400.0)"));
     const qint64 shown = view.pixmap(Qt::ReturnByValue).cacheKey();
     for (int i = 1; i <= 3; ++i) {
-        monitorPositions.starACurrent = QPointF(100 + i, 200);
-        monitorPositions.starBCurrent = QPointF(300, 400 + i);
+        w.session().monitorPositions.starACurrent = QPointF(100 + i, 200);
+        w.session().monitorPositions.starBCurrent = QPointF(300, 400 + i);
         // The picture itself goes on coming.
-        frameQueue.append(plainPicture(64, 48, Qt::blue));
+        w.session().frameQueue.append(plainPicture(64, 48, Qt::blue));
         w.call("showImages");
         QCOMPARE(starA.text() + starB.text(), QStringLiteral("(100.0,200.0)(300.0,400.0)"));
         QCOMPARE(view.pixmap(Qt::ReturnByValue).cacheKey(), shown);
     }
-    magnifierQueue.append(plainPicture(200, 200, Qt::blue));
+    w.session().magnifierQueue.append(plainPicture(200, 200, Qt::blue));
     w.call("showImages");
     QCOMPARE(starA.text() + starB.text(), QStringLiteral("(103.0,200.0)(300.0,403.0)"));
     QVERIFY(view.pixmap(Qt::ReturnByValue).cacheKey() != shown);
@@ -291,12 +281,12 @@ void TestFrameDisplay::monitorModeOff()
 {
     const CameraWindow w;
     const QString text = w.child<QLabel>("label_refStarA_pos").text();
-    magnifierQueue.append(plainPicture(200, 200, Qt::red));
+    w.session().magnifierQueue.append(plainPicture(200, 200, Qt::red));
     showFrame(starFrame({{640, 480}}));
     w.connectCamera();
     QVERIFY(w.waitForNewFrame());
     w.call("showImages");
-    QCOMPARE(waitingEnlargements().size(), 1); // neither filled nor read
+    QCOMPARE(w.session().magnifierQueue.size(), 1); // neither filled nor read
     QVERIFY(w.child<QLabel>("label_biggerImg").pixmap(Qt::ReturnByValue).isNull());
     QCOMPARE(w.child<QLabel>("label_refStarA_pos").text(), text);
 }

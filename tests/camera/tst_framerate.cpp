@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Which frame rate follows from two frame times?
-#include "camera/camerastate.h"
+#include "camera/session.h"
+#include "tests/support/frameratemeterprobe.h"
 
 #include <QtTest>
+#include <algorithm>
 #include <limits>
 
 using Int = std::numeric_limits<std::int32_t>;
@@ -109,12 +111,14 @@ void TestFrameRate::defaults()
     QCOMPARE(state.roiY, 0U);
     QCOMPARE(state.roiWidth, 1280U);
     QCOMPARE(state.roiHeight, 960U);
-    QCOMPARE(state.frameBuffer->size(), std::size_t(3686400));
-    QVERIFY(std::all_of(state.frameBuffer->begin(), state.frameBuffer->end(),
+    QCOMPARE(frameBufferSize, std::size_t(3686400));
+    LatestFrame latest;
+    QVERIFY(std::all_of(latest.fetchBuffer(), latest.fetchBuffer() + frameBufferSize,
                         [](std::uint8_t byte) { return byte == 0; }));
-    QCOMPARE(state.fpsWhole, 0);
-    QCOMPARE(state.fpsTenths, 0);
-    QCOMPARE(state.lastFrameTime, 0);
+    const FrameRateMeter meter;
+    QCOMPARE(meter.rate().whole, 0);
+    QCOMPARE(meter.rate().tenths, 0);
+    QCOMPARE(FrameRateMeterProbe(meter).lastFrameTime(), 0);
 }
 
 QTEST_GUILESS_MAIN(TestFrameRate)

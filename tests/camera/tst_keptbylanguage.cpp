@@ -34,8 +34,8 @@ public:
         const int fetches = sdk().fetchCount();
         // The frame in flight is done with once another fetch has begun.
         const bool still = QTest::qWaitFor([&] {
-            return sdk().fetchCount() > fetches + 1 && waitingFrames().isEmpty() &&
-                   waitingEnlargements().isEmpty();
+            return sdk().fetchCount() > fetches + 1 && session().frameQueue.isEmpty() &&
+                   session().magnifierQueue.isEmpty();
         });
         if (!all || !still)
             qFatal("monitor mode does not come to rest");

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // Do the menu's entries bring up the dialogs, and what does the refraction dialog show then?
-#include "core/sharedstate.h"
 #include "tests/camera/camerawindow.h"
 
 #include <QAction>
@@ -135,11 +134,11 @@ void TestMenuDialogs::refractionAsLoaded()
     QCOMPARE(w.child<QCheckBox>("checkBox_enableAstroRef").isChecked(), enabled);
     QCOMPARE(w.child<QComboBox>("comboBox_presure").currentIndex(), unit);
     // What is shown is in force.
-    QCOMPARE(float(refractionSettings.latitude), float(shown[0]));
-    QCOMPARE(float(refractionSettings.longitude), float(shown[1]));
-    QCOMPARE(float(refractionSettings.P), float(shown[2]));
-    QCOMPARE(float(refractionSettings.T), float(shown[3]));
-    QCOMPARE(bool(refractionSettings.enabledCorrect), enabled);
+    QCOMPARE(float(w.session().refraction.latitude), float(shown[0]));
+    QCOMPARE(float(w.session().refraction.longitude), float(shown[1]));
+    QCOMPARE(float(w.session().refraction.P), float(shown[2]));
+    QCOMPARE(float(w.session().refraction.T), float(shown[3]));
+    QCOMPARE(bool(w.session().refraction.enabledCorrect), enabled);
 }
 
 QTEST_MAIN(TestMenuDialogs)

@@ -9,6 +9,7 @@
 #include <QtTest>
 #include <cmath>
 #include <limits>
+#include <memory>
 #include <opencv2/imgproc.hpp>
 #include <random>
 
@@ -113,19 +114,21 @@ private slots:
     void cropOfNoPosition_data();
     void cropOfNoPosition();
     void cropOfOddFrames();
+
+private:
+    std::unique_ptr<RefractionSettings> conditions; ///< of the refraction
+    std::unique_ptr<AlignmentPoints> points;
+    std::unique_ptr<MonitorPositions> positions;
 };
 
 void TestMonitor::init()
 {
-    for (RelaxedPoint *const point :
-         {&monitorPositions.starACurrent, &monitorPositions.starBCurrent,
-          &monitorPositions.poleCurrent})
-        *point = QPointF(-1, -1);
-    monitorPositions.poleValid = false;
-    refractionSettings.enabledCorrect = false;
-    alignmentPoints.savedAxisCenter = QPointF(640, 480);
-    alignmentPoints.angleBAP = 40.0;
-    alignmentPoints.angleABP = 60.0;
+    conditions = std::make_unique<RefractionSettings>();
+    points = std::make_unique<AlignmentPoints>();
+    positions = std::make_unique<MonitorPositions>();
+    points->savedAxisCenter = QPointF(640, 480);
+    points->angleBAP = 40.0;
+    points->angleABP = 60.0;
 }
 
 void TestMonitor::tracking_data()
@@ -148,32 +151,35 @@ void TestMonitor::tracking()
     QFETCH(QPointF, searchA);
     QFETCH(QPointF, foundA);
     const QPointF starB(800.75, 620.2);
-    monitorPositions.starASearch = searchA;
-    monitorPositions.starBSearch = QPointF(796, 625);
+    positions->starASearch = searchA;
+    positions->starBSearch = QPointF(796, 625);
     const LogRecorder log;
-    const ReferenceStars stars = trackReferenceStars(starFrame({{400.3, 300.6}, starB}, channels));
+    const ReferenceStars stars =
+        trackReferenceStars(starFrame({{400.3, 300.6}, starB}, channels), *positions);
     QVERIFY(isNear(stars.a, foundA, pixelTolerance));
     QVERIFY(isNear(stars.b, starB, pixelTolerance));
-    QCOMPARE(monitorPositions.starASearch.load(), searchA);
-    QCOMPARE(monitorPositions.starBSearch.load(), QPointF(796, 625));
+    QCOMPARE(positions->starASearch.load(), searchA);
+    QCOMPARE(positions->starBSearch.load(), QPointF(796, 625));
 }
 
 void TestMonitor::searchStartsAgainFromTheStart()
 {
-    monitorPositions.starASearch = QPointF(400, 300);
-    monitorPositions.starBSearch = QPointF(400, 300);
+    positions->starASearch = QPointF(400, 300);
+    positions->starBSearch = QPointF(400, 300);
     const LogRecorder log;
-    QVERIFY(isNear(trackReferenceStars(starFrame({{412, 300}})).a, {412, 300}, pixelTolerance));
-    QCOMPARE(trackReferenceStars(starFrame({{432, 300}})).a, QPointF(400, 300));
-    QVERIFY(isNear(trackReferenceStars(starFrame({{390, 300}})).a, {390, 300}, pixelTolerance));
+    QVERIFY(isNear(trackReferenceStars(starFrame({{412, 300}}), *positions).a, {412, 300},
+                   pixelTolerance));
+    QCOMPARE(trackReferenceStars(starFrame({{432, 300}}), *positions).a, QPointF(400, 300));
+    QVERIFY(isNear(trackReferenceStars(starFrame({{390, 300}}), *positions).a, {390, 300},
+                   pixelTolerance));
 }
 
 void TestMonitor::starAtTheEdgeStaysAtItsSearchPosition()
 {
-    monitorPositions.starASearch = QPointF(5, 5);
-    monitorPositions.starBSearch = QPointF(1278, 958);
+    positions->starASearch = QPointF(5, 5);
+    positions->starBSearch = QPointF(1278, 958);
     const LogRecorder log;
-    const ReferenceStars stars = trackReferenceStars(starFrame({{5, 5}, {1278, 958}}));
+    const ReferenceStars stars = trackReferenceStars(starFrame({{5, 5}, {1278, 958}}), *positions);
     QCOMPARE(stars.a, QPointF(5, 5));
     QCOMPARE(stars.b, QPointF(1278, 958));
 }
@@ -201,17 +207,17 @@ void TestMonitor::refraction()
     QFETCH(float, pressure);
     QFETCH(float, temperature);
     QFETCH(double, raised);
-    refractionSettings.enabledCorrect = enabled;
-    refractionSettings.P_unit = unit;
-    refractionSettings.P = pressure;
-    refractionSettings.T = temperature;
-    refractionSettings.latitude = 40.0F;
-    updatePole({QPointF(400, 300), QPointF(800, 620)});
-    QVERIFY(isNear(monitorPositions.starACurrent, {400, 300 - raised}, 1e-6));
-    QVERIFY(isNear(monitorPositions.starBCurrent, {800, 620 - raised}, 1e-6));
+    conditions->enabledCorrect = enabled;
+    conditions->P_unit = unit;
+    conditions->P = pressure;
+    conditions->T = temperature;
+    conditions->latitude = 40.0F;
+    updatePole({QPointF(400, 300), QPointF(800, 620)}, *conditions, *points, *positions);
+    QVERIFY(isNear(positions->starACurrent, {400, 300 - raised}, 1e-6));
+    QVERIFY(isNear(positions->starBCurrent, {800, 620 - raised}, 1e-6));
     double x = 0, y = 0;
     QCOMPARE(CalcPoleCOOR(400, 300 - raised, 40, 800, 620 - raised, 60, 640, 480, x, y), 0);
-    QVERIFY(isNear(monitorPositions.poleCurrent, {x, y}, 1e-6));
+    QVERIFY(isNear(positions->poleCurrent, {x, y}, 1e-6));
 }
 
 void TestMonitor::pole_data()
@@ -230,10 +236,10 @@ void TestMonitor::pole()
     QFETCH(QPointF, axis);
     QFETCH(bool, above);
     const QPointF a(400, 300), b(800, 620);
-    alignmentPoints.savedAxisCenter = axis;
-    updatePole({a, b});
-    QVERIFY(monitorPositions.poleValid);
-    const QPointF p = monitorPositions.poleCurrent;
+    points->savedAxisCenter = axis;
+    updatePole({a, b}, *conditions, *points, *positions);
+    QVERIFY(positions->poleValid);
+    const QPointF p = positions->poleCurrent;
     const auto degreesAt = [](QPointF corner, QPointF one, QPointF other) {
         const QPointF u = one - corner, v = other - corner;
         return std::acos(QPointF::dotProduct(u, v) /
@@ -251,14 +257,14 @@ void TestMonitor::noPoleOnOneColumn()
 {
     const LogRecorder log;
     const QPointF a(400, 300), b(800, 620);
-    updatePole({a, b});
-    QVERIFY(monitorPositions.poleValid);
-    const QPointF before = monitorPositions.poleCurrent;
-    updatePole({a, QPointF(400, 620)});
-    QVERIFY(!monitorPositions.poleValid);
-    QCOMPARE(monitorPositions.poleCurrent.load(), before);
-    updatePole({a, b});
-    QVERIFY(monitorPositions.poleValid);
+    updatePole({a, b}, *conditions, *points, *positions);
+    QVERIFY(positions->poleValid);
+    const QPointF before = positions->poleCurrent;
+    updatePole({a, QPointF(400, 620)}, *conditions, *points, *positions);
+    QVERIFY(!positions->poleValid);
+    QCOMPARE(positions->poleCurrent.load(), before);
+    updatePole({a, b}, *conditions, *points, *positions);
+    QVERIFY(positions->poleValid);
 }
 
 void TestMonitor::crop_data()

@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
 // Does the window prepare monitor mode, and do the marks follow the stars from frame to frame?
-#include "camera/frames.h"
-#include "core/locker.h"
 #include "mainwindow/pointtext.h"
 #include "tests/camera/monitorwindow.h"
 #include "tests/support/logrecorder.h"
@@ -71,13 +69,17 @@ void TestMonitorMode::startPositions()
     const LogRecorder log;
     w.call("pushbuttonGetCurPolarisDoneClicked");
     QCOMPARE(w.window->step(), 12);
-    QVERIFY(isNear(monitorPositions.starASearch, starA));
-    QVERIFY(isNear(monitorPositions.starBSearch, starB));
-    QVERIFY(log.contains(QtDebugMsg, logText("current StarA point", monitorPositions.starASearch)));
-    QVERIFY(log.contains(QtDebugMsg, logText("current StarB point", monitorPositions.starBSearch)));
-    QVERIFY(!overlayFlags.monitorTracking);
-    QCOMPARE(w.child<QLabel>("label_refStarA_pos").text(), pointText(monitorPositions.starASearch));
-    QCOMPARE(w.child<QLabel>("label_refStarB_pos").text(), pointText(monitorPositions.starBSearch));
+    QVERIFY(isNear(w.session().monitorPositions.starASearch, starA));
+    QVERIFY(isNear(w.session().monitorPositions.starBSearch, starB));
+    QVERIFY(log.contains(QtDebugMsg,
+                         logText("current StarA point", w.session().monitorPositions.starASearch)));
+    QVERIFY(log.contains(QtDebugMsg,
+                         logText("current StarB point", w.session().monitorPositions.starBSearch)));
+    QVERIFY(!w.session().overlayFlags.monitorTracking);
+    QCOMPARE(w.child<QLabel>("label_refStarA_pos").text(),
+             pointText(w.session().monitorPositions.starASearch));
+    QCOMPARE(w.child<QLabel>("label_refStarB_pos").text(),
+             pointText(w.session().monitorPositions.starBSearch));
 }
 
 /// Where a star is not found its expected place stands in: for star A the template's, which at
@@ -88,9 +90,9 @@ void TestMonitorMode::startWithoutStars()
     const MonitorWindow w(0, starB, {starB});
     w.show({});
     w.call("pushbuttonGetCurPolarisDoneClicked");
-    QVERIFY(
-        isNear(monitorPositions.starASearch, {northCatalogue.starAX, northCatalogue.starAY}, 1e-9));
-    QVERIFY(isNear(monitorPositions.starBSearch, starB, 1e-9));
+    QVERIFY(isNear(w.session().monitorPositions.starASearch,
+                   {northCatalogue.starAX, northCatalogue.starAY}, 1e-9));
+    QVERIFY(isNear(w.session().monitorPositions.starBSearch, starB, 1e-9));
 }
 
 void TestMonitorMode::poleTracking_data()
@@ -106,11 +108,13 @@ void TestMonitorMode::poleTracking()
     const QPointF starB(500.5, 420.5), starA = starB + offsetToA(0);
     const MonitorWindow w(0, starB, {starB, starA});
     w.call("pushbuttonGetCurPolarisDoneClicked");
-    const QPointF foundA = monitorPositions.starASearch, foundB = monitorPositions.starBSearch;
+    const QPointF foundA = w.session().monitorPositions.starASearch,
+                  foundB = w.session().monitorPositions.starBSearch;
     const LogRecorder log;
     QVERIFY(QMetaObject::invokeMethod(w.window.get(), "poleTracking", Qt::DirectConnection,
                                       Q_ARG(double, degrees)));
-    const QPointF a = monitorPositions.starASearch, b = monitorPositions.starBSearch;
+    const QPointF a = w.session().monitorPositions.starASearch,
+                  b = w.session().monitorPositions.starBSearch;
     QVERIFY(isNear(a, turnedAboutAxis(foundA, degrees), 1e-9));
     QVERIFY(isNear(b, turnedAboutAxis(foundB, degrees), 1e-9));
     QCOMPARE(log.texts(QtDebugMsg),
@@ -130,13 +134,16 @@ void TestMonitorMode::turnsDoNotAddUp()
     const QPointF starB(500.5, 420.5), starA = starB + offsetToA(0, region);
     const MonitorWindow w(0, starB, {starB, starA}, region);
     w.call("pushbuttonGetCurPolarisDoneClicked");
-    const QPointF foundA = monitorPositions.starASearch, foundB = monitorPositions.starBSearch;
+    const QPointF foundA = w.session().monitorPositions.starASearch,
+                  foundB = w.session().monitorPositions.starBSearch;
     QVERIFY(isNear(foundA, starA) && isNear(foundB, starB));
     for (const double degrees : {30.0, 30.0, 10.0}) {
         QVERIFY(QMetaObject::invokeMethod(w.window.get(), "poleTracking", Qt::DirectConnection,
                                           Q_ARG(double, degrees)));
-        QVERIFY(isNear(monitorPositions.starASearch, turnedAboutAxis(foundA, degrees), 1e-9));
-        QVERIFY(isNear(monitorPositions.starBSearch, turnedAboutAxis(foundB, degrees), 1e-9));
+        QVERIFY(isNear(w.session().monitorPositions.starASearch, turnedAboutAxis(foundA, degrees),
+                       1e-9));
+        QVERIFY(isNear(w.session().monitorPositions.starBSearch, turnedAboutAxis(foundB, degrees),
+                       1e-9));
     }
 }
 
@@ -152,10 +159,13 @@ void TestMonitorMode::dialTurnsTheSearch()
     const QPointF starB(500.5, 420.5), starA = starB + offsetToA(0, region);
     const MonitorWindow w(0, starB, {starB, starA}, region);
     w.call("pushbuttonGetCurPolarisDoneClicked");
-    const QPointF foundA = monitorPositions.starASearch, foundB = monitorPositions.starBSearch;
+    const QPointF foundA = w.session().monitorPositions.starASearch,
+                  foundB = w.session().monitorPositions.starBSearch;
     const auto isTurnedBy = [&](double degrees) {
-        return isNear(monitorPositions.starASearch, turnedAboutAxis(foundA, degrees), 1e-9) &&
-               isNear(monitorPositions.starBSearch, turnedAboutAxis(foundB, degrees), 1e-9);
+        return isNear(w.session().monitorPositions.starASearch, turnedAboutAxis(foundA, degrees),
+                      1e-9) &&
+               isNear(w.session().monitorPositions.starBSearch, turnedAboutAxis(foundB, degrees),
+                      1e-9);
     };
     w.trigger("actionManual_Trace");
     auto &dial = w.child<QDial>("dial_tracking");
@@ -181,7 +191,7 @@ void TestMonitorMode::dialKeepsItsValueWhileHidden()
     const QPointF starB(500.5, 420.5), starA = starB + offsetToA(0);
     const MonitorWindow w(0, starB, {starB, starA});
     w.call("pushbuttonGetCurPolarisDoneClicked");
-    const QPointF foundB = monitorPositions.starBSearch;
+    const QPointF foundB = w.session().monitorPositions.starBSearch;
     auto &dial = w.child<QDial>("dial_tracking");
     QWidget &dialog = *dial.window();
     QCOMPARE(dialog.metaObject()->className(), "PoleTrackingDialog");
@@ -196,7 +206,7 @@ void TestMonitorMode::dialKeepsItsValueWhileHidden()
     QVERIFY(dialog.isVisible());
     QCOMPARE(dial.value(), 77);
     QCOMPARE(log.texts(QtDebugMsg).filter("area"), QStringList()); // nothing is turned anew
-    QVERIFY(isNear(monitorPositions.starBSearch, turnedAboutAxis(foundB, 77), 1e-9));
+    QVERIFY(isNear(w.session().monitorPositions.starBSearch, turnedAboutAxis(foundB, 77), 1e-9));
 }
 
 void TestMonitorMode::starsLostAndFoundAgain()
@@ -204,49 +214,50 @@ void TestMonitorMode::starsLostAndFoundAgain()
     const QPointF starB(500.5, 420.5), starA = starB + offsetToA(0);
     const MonitorWindow w(0, starB, {starB, starA});
     w.call("pushbuttonGetCurPolarisDoneClicked");
-    const QPointF searchA = monitorPositions.starASearch, searchB = monitorPositions.starBSearch;
+    const QPointF searchA = w.session().monitorPositions.starASearch,
+                  searchB = w.session().monitorPositions.starBSearch;
     QTest::qWait(20);
     QTest::mouseClick(&w.child<QPushButton>("pushButton_monitor"), Qt::LeftButton);
     QCOMPARE(w.window->step(), 13);
-    QVERIFY(overlayFlags.monitorTracking && overlayFlags.showPoleRect &&
-            overlayFlags.showMonitorCross);
+    QVERIFY(w.session().overlayFlags.monitorTracking && w.session().overlayFlags.showPoleRect &&
+            w.session().overlayFlags.showMonitorCross);
     const auto follow = [&](QPointF moved) {
         w.show({starB + moved, starA + moved});
         return comesTrue([&] {
-            return isNear(monitorPositions.starACurrent, starA + moved) &&
-                   isNear(monitorPositions.starBCurrent, starB + moved);
+            return isNear(w.session().monitorPositions.starACurrent, starA + moved) &&
+                   isNear(w.session().monitorPositions.starBCurrent, starB + moved);
         });
     };
     QVERIFY(follow({8, -6}));
-    QVERIFY(monitorPositions.poleValid);
+    QVERIFY(w.session().monitorPositions.poleValid);
     QVERIFY(follow({-10, 9}));
-    const QPointF pole = monitorPositions.poleCurrent;
+    const QPointF pole = w.session().monitorPositions.poleCurrent;
     QTRY_VERIFY(!w.child<QLabel>("label_biggerImg").pixmap(Qt::ReturnByValue).isNull());
     w.show({}); // cloud
-    QTRY_COMPARE(monitorPositions.starACurrent.load(), searchA);
-    QTRY_COMPARE(monitorPositions.starBCurrent.load(), searchB);
+    QTRY_COMPARE(w.session().monitorPositions.starACurrent.load(), searchA);
+    QTRY_COMPARE(w.session().monitorPositions.starBCurrent.load(), searchB);
     QVERIFY(follow({4, 4}));
     // The pole moves with its stars.
-    QTRY_VERIFY(isNear(monitorPositions.poleCurrent, pole + QPointF(14, -5), 0.3));
+    QTRY_VERIFY(isNear(w.session().monitorPositions.poleCurrent, pole + QPointF(14, -5), 0.3));
     // Lost beyond the window about the start, found again at the start.
     w.show({starB + QPointF(60, 0), starA + QPointF(60, 0)});
-    QTRY_COMPARE(monitorPositions.starBCurrent.load(), searchB);
+    QTRY_COMPARE(w.session().monitorPositions.starBCurrent.load(), searchB);
     QVERIFY(follow({0, 0}));
-    QCOMPARE(monitorPositions.starASearch.load(), searchA);
-    QCOMPARE(monitorPositions.starBSearch.load(), searchB);
+    QCOMPARE(w.session().monitorPositions.starASearch.load(), searchA);
+    QCOMPARE(w.session().monitorPositions.starBSearch.load(), searchB);
 }
 
 void TestMonitorMode::endsWithTheWizardsStart()
 {
     const MonitorWindow w(0, {500, 420}, {{500, 420}});
     w.enterStep(13);
-    QVERIFY(overlayFlags.monitorTracking);
+    QVERIFY(w.session().overlayFlags.monitorTracking);
     w.call("pushbuttonFinetunePoleDoneClicked");
-    QVERIFY(overlayFlags.monitorTracking); // only the pages go
+    QVERIFY(w.session().overlayFlags.monitorTracking); // only the pages go
     w.call("pushbuttonFinetunePoleResetClicked");
     QCOMPARE(w.window->step(), 1);
-    QVERIFY(!overlayFlags.monitorTracking && !overlayFlags.showPoleRect &&
-            !overlayFlags.showMonitorCross);
+    QVERIFY(!w.session().overlayFlags.monitorTracking && !w.session().overlayFlags.showPoleRect &&
+            !w.session().overlayFlags.showMonitorCross);
 }
 
 void TestMonitorMode::beginsWithoutTheLastRoundsPictures()
@@ -259,14 +270,11 @@ void TestMonitorMode::beginsWithoutTheLastRoundsPictures()
     QTRY_VERIFY(sdk().fetchCount() > fetches); // the last frame has gone its way
     QImage old(200, 200, QImage::Format_RGB888);
     old.fill(Qt::red);
-    {
-        const Locker lock(magnifierMutex);
-        magnifierQueue.append(old);
-    }
+    w.session().magnifierQueue.append(old);
     QTest::mouseClick(&w.child<QPushButton>("pushButton_monitor"), Qt::LeftButton);
     QTest::qWait(60); // three times as long as a picture waits to be shown
     QVERIFY(w.child<QLabel>("label_biggerImg").pixmap(Qt::ReturnByValue).isNull());
-    QVERIFY(waitingEnlargements().isEmpty());
+    QVERIFY(w.session().magnifierQueue.isEmpty());
     sdk().setFramesLeft(-1);
     QTRY_VERIFY(!w.child<QLabel>("label_biggerImg").pixmap(Qt::ReturnByValue).isNull());
 }

@@ -2,6 +2,7 @@
 // Does the capture loop enlarge the followed star in the style of the display, and in the same
 // memory for every frame?
 #include "tests/camera/capturetest.h"
+#include "tests/support/capturethreadprobe.h"
 
 #include <utility>
 
@@ -31,13 +32,13 @@ void TestMonitorThread::enlargementInTheStyle()
     QFETCH(bool, mono);
     QFETCH(QRgb, starA);
     showFrame(starFrame({})); // black: the search positions hold
-    monitorPositions.starASearch = QPointF(650, 480);
-    monitorPositions.starBSearch = QPointF(640, 480);
-    overlayFlags.monitorTracking = true;
-    overlayFlags.monoStyle = mono;
+    session->monitorPositions.starASearch = QPointF(650, 480);
+    session->monitorPositions.starBSearch = QPointF(640, 480);
+    session->overlayFlags.monitorTracking = true;
+    session->overlayFlags.monoStyle = mono;
     thread->startCapture();
     QVERIFY(waitForFrames(1));
-    const QImage seen = waitingEnlargements().value(0);
+    const QImage seen = session->magnifierQueue.waiting().value(0);
     QCOMPARE(seen.size(), QSize(200, 200));
     QCOMPARE(seen.pixel(150, 100), starA); // the dot
     for (const QPoint tick :
@@ -58,22 +59,23 @@ void TestMonitorThread::matricesAreReused_data()
 void TestMonitorThread::matricesAreReused()
 {
     QFETCH(int, channels);
-    const FrameMatrices first = frameMatrices;
+    const FrameMatrices &matrices = CaptureThreadProbe(*thread).matrices();
+    const FrameMatrices first = matrices;
     const std::pair<const cv::Mat &, const cv::Mat &> pairs[] = {
-        {first.colourFrame, frameMatrices.colourFrame},
-        {first.enlargedGrey, frameMatrices.enlargedGrey},
-        {first.enlargedColour, frameMatrices.enlargedColour},
-        {first.magnifierCrop, frameMatrices.magnifierCrop}};
-    overlayFlags.monitorTracking = true;
+        {first.colourFrame, matrices.colourFrame},
+        {first.enlargedGrey, matrices.enlargedGrey},
+        {first.enlargedColour, matrices.enlargedColour},
+        {first.magnifierCrop, matrices.magnifierCrop}};
+    session->overlayFlags.monitorTracking = true;
     // The enlarged part lies elsewhere in each frame, once over the edge.
     for (const QPointF star : {QPointF(640, 480), QPointF(100, 900), QPointF(1279, 0)}) {
         showFrame(starFrame({star}, channels));
-        monitorPositions.starASearch = star;
-        monitorPositions.starBSearch = star;
+        session->monitorPositions.starASearch = star;
+        session->monitorPositions.starBSearch = star;
         thread->startCapture();
         QVERIFY(waitForFrames(2));
         stopAndWait();
-        QVERIFY(!waitingEnlargements().isEmpty());
+        QVERIFY(!session->magnifierQueue.isEmpty());
         forgetWaitingPictures();
         for (const auto &[before, now] : pairs) {
             QVERIFY(before.data != nullptr);

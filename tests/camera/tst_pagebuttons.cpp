@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // Does a hand that clicks twice on a page's button do more than to press it?
-#include "core/sharedstate.h"
 #include "tests/camera/camerawindow.h"
 #include "tests/support/logrecorder.h"
 #include "tests/support/mainwindowprobe.h"
@@ -111,7 +110,7 @@ void TestPageButtons::onThePicture()
     QFETCH(QByteArray, button);
     QFETCH(int, entered);
     const GreyWindow w;
-    alignmentPoints.savedAxisCenter = QPointF();
+    w.session().alignmentPoints.savedAxisCenter = QPointF();
     const QRect place = placeOf(w, step, button);
     const QPoint low(place.center().x(), place.bottom() - 2);
     const LogRecorder log;

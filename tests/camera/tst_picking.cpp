@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // What does a double click on the picture do in each step?
-#include "core/sharedstate.h"
 #include "geometry/axiscentre.h"
 #include "geometry/starcatalogue.h"
 #include "geometry/templateoverlay.h"
@@ -61,7 +60,7 @@ void TestPicking::stepsWithoutPick()
     }
     QCOMPARE(w.window->step(), step);
     const QRect place = w.child<QLabel>("label_templateImg").geometry();
-    const QPointF axis = alignmentPoints.savedAxisCenter;
+    const QPointF axis = w.session().alignmentPoints.savedAxisCenter;
     const QString current = w.child<QLabel>("label_curPos").text();
     const BoxWatcher boxes;
     const LogRecorder log;
@@ -71,7 +70,7 @@ void TestPicking::stepsWithoutPick()
     QCOMPARE(log.texts(QtDebugMsg), QStringList());
     QCOMPARE(w.child<QLabel>("label_templateImg").geometry(), place);
     QCOMPARE(w.child<QLabel>("label_curPos").text(), current);
-    QCOMPARE(alignmentPoints.savedAxisCenter.load(), axis);
+    QCOMPARE(w.session().alignmentPoints.savedAxisCenter.load(), axis);
     w.doubleClick(w.view(empty));
     QCOMPARE(boxes.boxes(), QList<Box>{noStarBox});
     QCOMPARE(w.window->step(), step);
@@ -170,14 +169,14 @@ void TestPicking::pickGivesTheTarget()
     const PickingWindow w;
     w.enterStep(step);
     w.child<QSlider>("horizontalSlider_rough_match").setValue(angle);
-    alignmentPoints.savedAxisCenter = QPointF(612.5, 497.25);
+    w.session().alignmentPoints.savedAxisCenter = QPointF(612.5, 497.25);
     for (const QPointF &star : {onCircle[1], onLine[2]}) {
         w.doubleClick(w.view(star));
         const QPointF found = w.starAt(w.view(star));
         const QPointF pole = expectedPole(northCatalogue, angle, found);
         const QPointF target = polarisTarget(found, pole, {612.5, 497.25});
         QCOMPARE(w.child<QLabel>("label_eptPos").text(), pointText(target));
-        QCOMPARE(alignmentPoints.polarisTarget.load(), target);
+        QCOMPARE(w.session().alignmentPoints.polarisTarget.load(), target);
     }
 }
 
@@ -214,8 +213,8 @@ void TestPicking::threeStars()
                             found[2].y(), x, y, radius),
              0);
     QVERIFY(QLineF(QPointF(x, y), QPointF(640, 480)).length() < 1);
-    QCOMPARE(alignmentPoints.savedAxisCenter.load(), QPointF(x, y));
-    QCOMPARE(alignmentPoints.savedAxisRadius.load(), radius);
+    QCOMPARE(w.session().alignmentPoints.savedAxisCenter.load(), QPointF(x, y));
+    QCOMPARE(w.session().alignmentPoints.savedAxisRadius.load(), radius);
     QVERIFY(log.contains(QtDebugMsg,
                          "axis center " + pairText({x, y}) + ' ' + QString::number(radius)));
 }
@@ -226,16 +225,16 @@ void TestPicking::threeOnALine()
     const PickingWindow w;
     w.pickThree(onCircle);
     QCOMPARE(w.window->step(), 8);
-    const QPointF before = alignmentPoints.savedAxisCenter;
-    const int radius = alignmentPoints.savedAxisRadius;
+    const QPointF before = w.session().alignmentPoints.savedAxisCenter;
+    const int radius = w.session().alignmentPoints.savedAxisRadius;
     const MainWindowProbe probe(*w.window);
     const BoxWatcher boxes;
     const LogRecorder log;
     w.pickThree(onLine);
     QCOMPARE(boxes.boxes(), QList<Box>{noCentreBox});
     QCOMPARE(w.window->step(), 7);
-    QCOMPARE(alignmentPoints.savedAxisCenter.load(), before);
-    QCOMPARE(alignmentPoints.savedAxisRadius.load(), radius);
+    QCOMPARE(w.session().alignmentPoints.savedAxisCenter.load(), before);
+    QCOMPARE(w.session().alignmentPoints.savedAxisRadius.load(), radius);
     QCOMPARE(probe.axisCenter(), before);
     QCOMPARE(probe.axisRadius(), radius);
     QCOMPARE(probe.starPos3(), w.starAt(w.view(onLine[2])));
@@ -244,8 +243,8 @@ void TestPicking::threeOnALine()
     w.doubleClick(w.view(onCircle[1]));
     QCOMPARE(boxes.boxes().size(), 1);
     QCOMPARE(w.window->step(), 8);
-    QVERIFY(alignmentPoints.savedAxisCenter.load() != before);
-    QCOMPARE(probe.axisCenter(), alignmentPoints.savedAxisCenter.load());
+    QVERIFY(w.session().alignmentPoints.savedAxisCenter.load() != before);
+    QCOMPARE(probe.axisCenter(), w.session().alignmentPoints.savedAxisCenter.load());
     QCOMPARE(probe.starPos3(), w.starAt(w.view(onCircle[1])));
 }
 
@@ -303,11 +302,13 @@ void TestPicking::emptyPatchChangesNothing()
     w.doubleClick(w.view(onCircle[1])); // so that there is something to lose
     w.enterStep(3);                     // ends the blinking
     w.enterStep(step);
-    alignmentPoints.savedAxisCenter = QPointF(601.5, 523.5); // a pick would give another target
+    w.session().alignmentPoints.savedAxisCenter =
+        QPointF(601.5, 523.5); // a pick would give another target
     const QPoint view = probe.clickViewPos();
     const QPointF centre = probe.templateCenter();
     const QStringList texts{text("label_curPos"), text("label_eptPos"), text("label_axisPos")};
-    const QPointF target = alignmentPoints.polarisTarget, axis = alignmentPoints.savedAxisCenter;
+    const QPointF target = w.session().alignmentPoints.polarisTarget,
+                  axis = w.session().alignmentPoints.savedAxisCenter;
     const QRect place = w.child<QLabel>("label_templateImg").geometry();
     QVERIFY(!probe.effectTimer().isActive());
     QVERIFY(texts[0] != "(0,0)");
@@ -319,8 +320,8 @@ void TestPicking::emptyPatchChangesNothing()
     QCOMPARE(probe.templateCenter(), centre);
     QCOMPARE(QStringList({text("label_curPos"), text("label_eptPos"), text("label_axisPos")}),
              texts);
-    QCOMPARE(alignmentPoints.polarisTarget.load(), target);
-    QCOMPARE(alignmentPoints.savedAxisCenter.load(), axis);
+    QCOMPARE(w.session().alignmentPoints.polarisTarget.load(), target);
+    QCOMPARE(w.session().alignmentPoints.savedAxisCenter.load(), axis);
     QCOMPARE(w.child<QLabel>("label_templateImg").geometry(), place);
 }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Where exactly does a double click search, and where does the template lie afterwards, at each
 // zoom and in a scrolled picture?
-#include "core/sharedstate.h"
 #include "mainwindow/pointtext.h"
 #include "tests/camera/pickingwindow.h"
 #include "tests/support/mainwindowprobe.h"
@@ -220,13 +219,13 @@ void TestPickingPlaces::fitIsAccepted()
     const PickingWindow w(zoom);
     w.pickThree(onCircle);
     QCOMPARE(w.window->step(), 8);
-    const QPointF fitted = alignmentPoints.savedAxisCenter;
+    const QPointF fitted = w.session().alignmentPoints.savedAxisCenter;
     QVERIFY(QLineF(fitted, QPointF(640, 480)).length() < 1);
     QCOMPARE(MainWindowProbe(*w.window).axisCenter(), fitted);
-    alignmentPoints.savedAxisCenter = QPointF(1, 2);
+    w.session().alignmentPoints.savedAxisCenter = QPointF(1, 2);
     QTest::mouseClick(&w.child<QPushButton>("pushButton_validateCenter_done"), Qt::LeftButton);
     QCOMPARE(w.window->step(), 9);
-    QCOMPARE(alignmentPoints.savedAxisCenter.load(), fitted);
+    QCOMPARE(w.session().alignmentPoints.savedAxisCenter.load(), fitted);
     QCOMPARE(w.child<QLabel>("label_axisPos").text(), pointText(fitted));
 }
 
@@ -235,18 +234,18 @@ void TestPickingPlaces::fitIsReset()
 {
     const PickingWindow w;
     w.pickThree(onCircle);
-    const QPointF fitted = alignmentPoints.savedAxisCenter;
+    const QPointF fitted = w.session().alignmentPoints.savedAxisCenter;
     QTest::mouseClick(&w.child<QPushButton>("pushButton_validateCenter_reset"), Qt::LeftButton);
     QCOMPARE(w.window->step(), 3);
     const MainWindowProbe probe(*w.window);
     QCOMPARE(probe.axisCenter(), fitted);
-    QCOMPARE(alignmentPoints.savedAxisCenter.load(), fitted);
+    QCOMPARE(w.session().alignmentPoints.savedAxisCenter.load(), fitted);
     QCOMPARE(w.child<QLabel>("label_axisPos").text(), QString("(0,0)"));
     const QPointF others[] = {onLine[0], onCircle[1], onCircle[2]};
     w.pickThree(others);
     QCOMPARE(w.window->step(), 8);
     QVERIFY(probe.axisCenter() != fitted);
-    QCOMPARE(alignmentPoints.savedAxisCenter.load(), probe.axisCenter());
+    QCOMPARE(w.session().alignmentPoints.savedAxisCenter.load(), probe.axisCenter());
 }
 
 QTEST_MAIN(TestPickingPlaces)

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Which marks lie over the shown picture in each step of the alignment?
 #include "camera/overlay.h"
-#include "core/sharedstate.h"
 #include "tests/camera/camerawindow.h"
 #include "tests/support/mainwindowprobe.h"
 
@@ -50,18 +49,19 @@ void TestStepMarks::marks()
     w.connectCamera();
     MainWindowProbe probe(*w.window);
     probe.angleTimer().stop();
-    for (Relaxed<bool> *const flag : {&overlayFlags.showAxisMark, &overlayFlags.showStarCircle,
-                                      &overlayFlags.showRotatingArc, &overlayFlags.monitorTracking,
-                                      &overlayFlags.showPoleRect, &overlayFlags.showMonitorCross})
+    OverlayFlags &flags = w.session().overlayFlags;
+    for (Relaxed<bool> *const flag :
+         {&flags.showAxisMark, &flags.showStarCircle, &flags.showRotatingArc,
+          &flags.monitorTracking, &flags.showPoleRect, &flags.showMonitorCross})
         *flag = before;
-    overlayFlags.arcAngle = 20;
-    alignmentPoints.savedAxisCenter = QPointF(640.5, 480.5);
-    alignmentPoints.savedAxisRadius = 90;
-    alignmentPoints.polarisTarget = QPointF(300.5, 700.5);
-    alignmentPoints.angleBAP = 40.0;
-    alignmentPoints.angleABP = 60.0;
-    monitorPositions.starASearch = QPointF(400.5, 300.5);
-    monitorPositions.starBSearch = QPointF(800.5, 620.5);
+    w.session().overlayFlags.arcAngle = 20;
+    w.session().alignmentPoints.savedAxisCenter = QPointF(640.5, 480.5);
+    w.session().alignmentPoints.savedAxisRadius = 90;
+    w.session().alignmentPoints.polarisTarget = QPointF(300.5, 700.5);
+    w.session().alignmentPoints.angleBAP = 40.0;
+    w.session().alignmentPoints.angleABP = 60.0;
+    w.session().monitorPositions.starASearch = QPointF(400.5, 300.5);
+    w.session().monitorPositions.starBSearch = QPointF(800.5, 620.5);
     probe.switchStep(step);
     QVERIFY(w.waitForNewFrame());
     sdk().setFramesLeft(0);
@@ -78,7 +78,7 @@ void TestStepMarks::marks()
     marks.arcAngle = 20;
     marks.starA = QPointF(400.5, 300.5);
     marks.starB = QPointF(800.5, 620.5);
-    marks.pole = monitorPositions.poleCurrent;
+    marks.pole = w.session().monitorPositions.poleCurrent;
     QImage expected(1280, 960, QImage::Format_RGB888);
     expected.fill(Qt::black);
     if (marks.showPoleRect)

@@ -127,13 +127,13 @@ void TestTemplateAngle::buttonOfASliderThatStandsThere()
     (step == 2 ? w.rough : w.confirm).setValue(shared);
     const QImage mask = markedMask("North");
     QVERIFY(isTurned(w.label, mask, shared, 1.0, star));
-    alignmentPoints.savedAxisCenter = QPointF(601.5, 523.5);
+    w.session().alignmentPoints.savedAxisCenter = QPointF(601.5, 523.5);
     const QString before = w.target.text();
     w.click(qPrintable(button));
     QVERIFY(isTurned(w.label, mask, 100, 1.0, star));
     QCOMPARE(MainWindowProbe(*w.window).rotateValue(), 100);
-    QVERIFY(before != targetText(100, star));
-    QCOMPARE(w.target.text(), step == 2 ? before : targetText(100, star));
+    QVERIFY(before != targetText(w, 100, star));
+    QCOMPARE(w.target.text(), step == 2 ? before : targetText(w, 100, star));
 }
 
 QTEST_MAIN(TestTemplateAngle)

@@ -129,7 +129,7 @@ void TestTemplateControls::roughSliderMovesTheTarget()
 {
     const TemplateWindow w;
     w.pick(9);
-    alignmentPoints.savedAxisCenter = QPointF(650, 470);
+    w.session().alignmentPoints.savedAxisCenter = QPointF(650, 470);
     const QPointF polaris = [&] {
         const QStringList numbers =
             w.child<QLabel>("label_curPos").text().remove('(').remove(')').split(',');
@@ -139,10 +139,10 @@ void TestTemplateControls::roughSliderMovesTheTarget()
     QString before;
     for (const int angle : {10, 100, 250, 360}) {
         w.rough.setValue(angle);
-        QCOMPARE(w.target.text(), targetText(angle, polaris));
+        QCOMPARE(w.target.text(), targetText(w, angle, polaris));
         QVERIFY(w.target.text() != before);
         before = w.target.text();
-        QVERIFY(pointText(alignmentPoints.polarisTarget) == w.target.text());
+        QVERIFY(pointText(w.session().alignmentPoints.polarisTarget) == w.target.text());
     }
 }
 
@@ -152,13 +152,13 @@ void TestTemplateControls::confirmSliderLeavesTheTarget()
     w.pick(9);
     w.rough.setValue(30);
     const QString text = w.target.text();
-    const QPointF target = alignmentPoints.polarisTarget;
+    const QPointF target = w.session().alignmentPoints.polarisTarget;
     w.confirm.setValue(200);
     QCOMPARE(w.target.text(), text);
-    QCOMPARE(alignmentPoints.polarisTarget.load(), target);
+    QCOMPARE(w.session().alignmentPoints.polarisTarget.load(), target);
     w.click("pushButton_rough_add"); // from the angle that both share
     QCOMPARE(w.rough.value(), 201);
-    QCOMPARE(w.target.text(), targetText(201, star));
+    QCOMPARE(w.target.text(), targetText(w, 201, star));
 }
 
 void TestTemplateControls::targetIsKeptUpWhileTheTemplateIsHidden()
@@ -170,8 +170,8 @@ void TestTemplateControls::targetIsKeptUpWhileTheTemplateIsHidden()
     const QRect place = w.label.geometry();
     w.rough.setValue(77);
     QCOMPARE(w.label.geometry(), place);
-    QCOMPARE(w.target.text(), targetText(77, star));
-    QCOMPARE(pointText(alignmentPoints.polarisTarget), w.target.text());
+    QCOMPARE(w.target.text(), targetText(w, 77, star));
+    QCOMPARE(pointText(w.session().alignmentPoints.polarisTarget), w.target.text());
     QCOMPARE(MainWindowProbe(*w.window).rotateValue(), 77);
     w.enterStep(11);
     QTest::qWait(20);
@@ -272,8 +272,8 @@ void TestTemplateControls::hemisphere()
     QCOMPARE(w.window->step(), 1);
     QVERIFY(log.contains(QtDebugMsg, "change region to  \"South\""));
     QVERIFY(!tip.text().contains("Polaris"));
-    QCOMPARE(alignmentPoints.angleBAP.load(), southCatalogue.angleBAP);
-    QCOMPARE(alignmentPoints.angleABP.load(), southCatalogue.angleABP);
+    QCOMPARE(w.session().alignmentPoints.angleBAP.load(), southCatalogue.angleBAP);
+    QCOMPARE(w.session().alignmentPoints.angleABP.load(), southCatalogue.angleABP);
     w.trigger("action50");
     QCOMPARE(w.label.size(), QSize(400, 337)); // the southern mask
     w.enterStep(5);
@@ -281,7 +281,7 @@ void TestTemplateControls::hemisphere()
     QCOMPARE(w.window->step(), 1);
     QVERIFY(log.contains(QtDebugMsg, "change region to  \"North\""));
     QVERIFY(tip.text().contains("Polaris"));
-    QCOMPARE(alignmentPoints.angleBAP.load(), northCatalogue.angleBAP);
+    QCOMPARE(w.session().alignmentPoints.angleBAP.load(), northCatalogue.angleBAP);
 }
 
 void TestTemplateControls::hemisphereByTheSettings_data()

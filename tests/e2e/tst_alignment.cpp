@@ -2,8 +2,8 @@
 // Does a person who follows the instructions end with an aligned mount?
 #include "app/stylesheet.h"
 #include "core/settingsfile.h"
-#include "mainwindow/mainwindow.h"
 #include "resources/resources.h"
+#include "tests/support/sessionwindow.h"
 #include "tools/tour/person.h"
 
 #include <QApplication>
@@ -59,7 +59,7 @@ private slots:
     void cleanupTestCase();
 
 private:
-    double run(MainWindow &window, Knobs &knobs, const Person::Options &options);
+    double run(SessionWindow &window, Knobs &knobs, const Person::Options &options);
 
     std::vector<Result> results;
 };
@@ -93,9 +93,9 @@ void TestAlignment::aligns_data()
                     }
 }
 
-double TestAlignment::run(MainWindow &window, Knobs &knobs, const Person::Options &options)
+double TestAlignment::run(SessionWindow &window, Knobs &knobs, const Person::Options &options)
 {
-    Person person(window, knobs, options, 20240523);
+    Person person(window, window.ownSession, knobs, options, 20240523);
     person.align();
     return knobs.poleError();
 }
@@ -129,7 +129,7 @@ void TestAlignment::aligns()
     options.mono = mono;
     try {
         if (reuse) { // an earlier night on which the axis was found
-            MainWindow earlier;
+            SessionWindow earlier;
             earlier.resize(1280, 800);
             earlier.show();
             run(earlier, knobs, options);
@@ -137,7 +137,7 @@ void TestAlignment::aligns()
             knobs.turnBoltsTo(startOff, -startOff);
             options.reuseSavedAxis = true;
         }
-        MainWindow window;
+        SessionWindow window;
         window.resize(1280, 800);
         window.show();
         const double before = knobs.poleError();

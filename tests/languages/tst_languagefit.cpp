@@ -6,6 +6,7 @@
 #include "core/languages.h"
 #include "resources/resources.h"
 #include "tests/support/mainwindowprobe.h"
+#include "tests/support/sessionwindow.h"
 #include "widgets/magnifierwidget.h"
 
 #include <QAbstractButton>
@@ -290,7 +291,7 @@ void TestLanguageFit::fits()
     QFETCH(int, number);
     QFETCH(bool, mono);
     QFETCH(QSize, size);
-    MainWindow window;
+    SessionWindow window;
     window.resize(size);
     window.show();
     window.findChild<QAction *>("actionMono_Style")->setChecked(mono);

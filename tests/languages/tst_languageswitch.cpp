@@ -6,6 +6,7 @@
 #include "tests/support/logrecorder.h"
 #include "tests/support/mainwindowprobe.h"
 #include "tests/support/patience.h"
+#include "tests/support/sessionwindow.h"
 
 #include <QApplication>
 #include <QDial>
@@ -79,7 +80,7 @@ private slots:
 
 void TestLanguageSwitch::goesThroughAllAndBack()
 {
-    MainWindow window;
+    SessionWindow window;
     MainWindowProbe probe(window);
     QList<const Language *> way;
     for (const Language &language : languages)
@@ -102,7 +103,7 @@ void TestLanguageSwitch::goesThroughAllAndBack()
 
 void TestLanguageSwitch::keepsTheWizardsStep()
 {
-    MainWindow window;
+    SessionWindow window;
     window.show();
     MainWindowProbe probe(window);
     window.findChild<QAbstractButton *>("radioButton_south")->setChecked(true);
@@ -115,7 +116,7 @@ void TestLanguageSwitch::keepsTheWizardsStep()
 
 void TestLanguageSwitch::keepsShownData()
 {
-    MainWindow window;
+    SessionWindow window;
     window.findChild<QLabel *>("label_axisPos")->setText("(1.5,2.5)");
     window.findChild<QLineEdit *>("lineEditExpose")->setText("321");
     QPixmap picture(10, 10);
@@ -132,7 +133,7 @@ void TestLanguageSwitch::keepsShownData()
 
 void TestLanguageSwitch::reachesOpenAndHiddenDialogs()
 {
-    MainWindow window;
+    SessionWindow window;
     window.show();
     auto *const pressure = window.findChild<QDoubleSpinBox *>("doubleSpinBox_presure");
     auto *const dial = window.findChild<QDial *>("dial_tracking");
@@ -194,7 +195,7 @@ void TestLanguageSwitch::dialogTexts()
     QFETCH(QString, dialog);
     QFETCH(QString, widget);
     QFETCH(QString, source);
-    MainWindow window;
+    SessionWindow window;
     const auto text = [&] {
         for (const auto *const each : window.findChildren<QDialog *>())
             if (each->metaObject()->className() == dialog)
@@ -227,7 +228,7 @@ void TestLanguageSwitch::isToldOnce()
 {
     QFETCH(QString, from);
     QFETCH(QString, to);
-    MainWindow window;
+    SessionWindow window;
     window.findChild<QAction *>(from)->setChecked(true);
     const QSignalSpy changes(&window, SIGNAL(changeLanguage()));
     const QSignalSpy resets(&window, SIGNAL(resetUI()));
@@ -254,7 +255,7 @@ void TestLanguageSwitch::isToldAtStart()
     const QByteArray code = QTest::currentDataTag();
     const LanguageSetting setting(code);
     const LogRecorder log;
-    MainWindow window;
+    SessionWindow window;
     const QStringList told = log.texts(QtDebugMsg).filter("current language");
     QCOMPARE(told.size(), times);
     QCOMPARE(told.count("current language \"" + code + '"'), times);
@@ -264,7 +265,7 @@ void TestLanguageSwitch::isToldAtStart()
 
 void TestLanguageSwitch::choosingTheCheckedLanguageDoesNothing()
 {
-    MainWindow window;
+    SessionWindow window;
     window.findChild<QAction *>("actionItalian")->setChecked(true);
     LogRecorder log;
     window.findChild<QAction *>("actionItalian")->trigger();
@@ -284,7 +285,7 @@ void TestLanguageSwitch::failedLoadKeepsTheLanguage()
 {
     QTranslator translator;
     QVERIFY(!translator.load(":/languages/lan_xx_xx.qm", "", "", ""));
-    MainWindow window;
+    SessionWindow window;
     window.findChild<QAction *>("actionSpanish")->setChecked(true);
     const QString spanish = window.findChild<QMenu *>("menuFile")->title();
     QVERIFY(spanish != "File");

@@ -98,7 +98,7 @@ void SdkIntermittent::parameters()
     QCOMPARE(sdkCalls({"SetVELDIXParam"}), calls);
     for (const auto &move : moves) {
         QCOMPARE(w.child<QSlider>(move.slider).value(), move.value);
-        QCOMPARE(cameraState.*move.stored, move.value * move.perUnit);
+        QCOMPARE(w.session().camera.*move.stored, move.value * move.perUnit);
     }
     QStringList lines;
     if (!failing.contains(1))
@@ -152,15 +152,15 @@ void SdkIntermittent::opening()
         const BoxWatcher boxes;
         const LogRecorder log;
         w.trigger("actionConnect");
-        QCOMPARE(bool(cameraState.cameraConnected), connects || !fails);
+        QCOMPARE(bool(w.session().camera.cameraConnected), connects || !fails);
         QCOMPARE(boxes.boxes(),
                  fails && hasBox ? QList<Box>{errorBox(qPrintable(operation))} : QList<Box>());
         QTRY_COMPARE(log.texts(QtCriticalMsg), fails ? QStringList(critical) : QStringList());
         if (!fails)
             QVERIFY(pictureComes(w));
-        if (cameraState.cameraConnected)
+        if (w.session().camera.cameraConnected)
             w.trigger("actionConnect");
-        QVERIFY(!cameraState.cameraConnected);
+        QVERIFY(!w.session().camera.cameraConnected);
         QCOMPARE(log.texts(QtCriticalMsg).size(), fails ? 1 : 0);
     }
     QCOMPARE(sdkCalls({operation}).size(), 4);
@@ -189,13 +189,13 @@ void SdkIntermittent::closing()
     const BoxWatcher boxes;
     const LogRecorder log;
     for (int attempt = 1; attempt <= 5; ++attempt) {
-        if (!cameraState.cameraConnected) {
+        if (!w.session().camera.cameraConnected) {
             w.trigger("actionConnect");
             QVERIFY(pictureComes(w));
         }
         w.trigger("actionConnect");
         const bool staysOpen = operation == "CloseVELDIX" && failing.contains(attempt);
-        QCOMPARE(bool(cameraState.cameraConnected), staysOpen);
+        QCOMPARE(bool(w.session().camera.cameraConnected), staysOpen);
         QCOMPARE(w.child<QAction>("actionConnect").text(),
                  QString(staysOpen ? "Disconnect" : "Connect"));
     }
@@ -273,7 +273,7 @@ void SdkIntermittent::bogusFrames()
     QCOMPARE(log.texts(QtCriticalMsg).size(), 1); // however many there were
     giveGoodFrames();
     QVERIFY(pictureComes(w));
-    QVERIFY(cameraState.cameraConnected);
+    QVERIFY(w.session().camera.cameraConnected);
     QCOMPARE(boxes.boxes(), QList<Box>());
     w.trigger("actionConnect");
     QVERIFY(worksAgain(w));

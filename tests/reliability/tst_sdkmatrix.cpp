@@ -135,7 +135,8 @@ private slots:
 
 private:
     void connecting(const CameraWindow &w, const Fault &fault, bool ready);
-    void compareWith(const LogRecorder &log, const BoxWatcher &boxes, const Outcome &outcome);
+    void compareWith(const CameraWindow &w, const LogRecorder &log, const BoxWatcher &boxes,
+                     const Outcome &outcome);
 };
 
 void SdkMatrix::failure_data()
@@ -149,13 +150,14 @@ void SdkMatrix::failure_data()
                 << fault << moment;
 }
 
-void SdkMatrix::compareWith(const LogRecorder &log, const BoxWatcher &boxes, const Outcome &outcome)
+void SdkMatrix::compareWith(const CameraWindow &w, const LogRecorder &log, const BoxWatcher &boxes,
+                            const Outcome &outcome)
 {
     QCOMPARE(log.texts(QtCriticalMsg), criticalLines(outcome));
     QCOMPARE(boxes.boxes().size(), outcome.box ? 1 : 0);
     if (outcome.box)
         QCOMPARE(boxes.boxes().first(), *outcome.box);
-    QCOMPARE(bool(cameraState.cameraConnected), outcome.connects);
+    QCOMPARE(bool(w.session().camera.cameraConnected), outcome.connects);
 }
 
 /// Chooses Connect under the fault and compares what comes of it.
@@ -171,7 +173,7 @@ void SdkMatrix::connecting(const CameraWindow &w, const Fault &fault, bool ready
     if (outcome.connects && fault.operation != "BeginVELDIXLive")
         QTRY_VERIFY(sdk().fetchCount() > fetches);
     QTest::qWait(60); // and nothing more is said
-    compareWith(log, boxes, outcome);
+    compareWith(w, log, boxes, outcome);
 }
 
 void SdkMatrix::failure()
@@ -186,7 +188,7 @@ void SdkMatrix::failure()
             apply(fault);
         giveGoodFrames();
     });
-    QCOMPARE(bool(cameraState.sdkReady), !neverReady);
+    QCOMPARE(bool(w->session().camera.sdkReady), !neverReady);
     if (atStart) {
         connecting(*w, fault, !neverReady);
     } else {
@@ -200,7 +202,7 @@ void SdkMatrix::failure()
             w->window->close();
         else
             w->trigger("actionConnect");
-        compareWith(log, boxes, {staysOpen, {}, {}});
+        compareWith(*w, log, boxes, {staysOpen, {}, {}});
     }
     if (QTest::currentTestFailed())
         return;
@@ -302,7 +304,7 @@ void SdkMatrix::id()
     {
         const BoxWatcher boxes;
         w.trigger("actionConnect");
-        QCOMPARE(bool(cameraState.cameraConnected), connects);
+        QCOMPARE(bool(w.session().camera.cameraConnected), connects);
         QCOMPARE(boxes.boxes().size(), connects ? 0 : 1);
         if (connects)
             QVERIFY(newPicture(w));
@@ -342,14 +344,14 @@ void SdkMatrix::hangingFetch()
         const bool waited = released;
         releasing.join();
         QVERIFY(waited);
-        QVERIFY(!cameraState.cameraConnected);
+        QVERIFY(!w.session().camera.cameraConnected);
     } else {
         int ticks = 0;
         QTimer tick;
         connect(&tick, &QTimer::timeout, [&ticks] { ++ticks; });
         tick.start(20);
         QTRY_VERIFY(ticks > 50);
-        QVERIFY(cameraState.cameraConnected);
+        QVERIFY(w.session().camera.cameraConnected);
     }
     QCOMPARE(sdk().fetchCount(), fetches); // it hung all the time, and there was no other
     sdk().releaseFetches();

@@ -1,13 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Does a window come up and work, whatever lies where the settings file belongs?
 #include "tests/reliability/settingsplace.h"
+#include "tests/support/sessionwindow.h"
 #include "tests/window/windowtest.h"
 
-#include "camera/camerastate.h"
-#include "camera/frames.h"
-#include "core/locker.h"
-#include "core/sharedstate.h"
-#include "mainwindow/mainwindow.h"
 #include "resources/resources.h"
 #include "tests/reliability/processcounts.h"
 #include "tests/support/logrecorder.h"
@@ -45,7 +41,7 @@ const QStringList defaults{"Color", "EN", "North", "1",   "39.9", "116.3",
 const QStringList numbers{keys[3], keys[4], keys[5], keys[6], keys[7], keys[10], keys[11]};
 const QStringList texts{keys[0], keys[1], keys[2], keys[9]};
 
-QStringList inForce(MainWindow &window)
+QStringList inForce(SessionWindow &window)
 {
     const MainWindowProbe probe(window);
     const auto number = [](double value) { return QString::number(value, 'g', 6); };
@@ -53,14 +49,14 @@ QStringList inForce(MainWindow &window)
             probe.languageCode(),
             probe.regionName(),
             number(double(probe.zoomFactor())),
-            number(double(refractionSettings.latitude)),
-            number(double(refractionSettings.longitude)),
-            number(double(refractionSettings.P)),
-            number(double(refractionSettings.T)),
-            refractionSettings.enabledCorrect ? "true" : "false",
-            refractionSettings.P_unit,
-            number(alignmentPoints.savedAxisCenter.x),
-            number(alignmentPoints.savedAxisCenter.y)};
+            number(double(window.ownSession.refraction.latitude)),
+            number(double(window.ownSession.refraction.longitude)),
+            number(double(window.ownSession.refraction.P)),
+            number(double(window.ownSession.refraction.T)),
+            window.ownSession.refraction.enabledCorrect ? "true" : "false",
+            window.ownSession.refraction.P_unit,
+            number(window.ownSession.alignmentPoints.savedAxisCenter.x),
+            number(window.ownSession.alignmentPoints.savedAxisCenter.y)};
 }
 
 QStringList stored(const QString &path)
@@ -104,7 +100,7 @@ QString throughBox(const QString &key, const QString &number)
 }
 
 /// Works a window as far as a person might who has not connected: pictures, template, style.
-void work(MainWindow &window)
+void work(SessionWindow &window)
 {
     window.resize(1600, 1100);
     window.show();
@@ -112,17 +108,10 @@ void work(MainWindow &window)
         qFatal("the window does not come up");
     QImage picture(1280, 960, QImage::Format_RGB888);
     picture.fill(Qt::blue);
-    {
-        const Locker lock(frameMutex);
-        frameQueue = {picture};
-    }
+    window.ownSession.frameQueue.append(picture);
     MainWindowProbe probe(window);
     probe.switchStep(2);
-    const auto isTaken = [] {
-        const Locker lock(frameMutex);
-        return frameQueue.isEmpty();
-    };
-    if (!comesTrue(isTaken))
+    if (!comesTrue([&window] { return window.ownSession.frameQueue.isEmpty(); }))
         qFatal("the picture is not taken");
     QTest::mouseDClick(&named<QLabel>(window, "label_showImg"), Qt::LeftButton, {}, QPoint(0, 0));
     for (const int angle : {90, 359, 0})
@@ -236,7 +225,7 @@ void SettingsMatrix::content()
     QFETCH(QByteArray, bytes);
     QFETCH(QStringList, expected);
     put(bytes);
-    MainWindow window;
+    SessionWindow window;
     QCOMPARE(inForce(window), expected);
     work(window);
     QCOMPARE(inForce(window), expected);
@@ -308,7 +297,7 @@ void SettingsMatrix::place()
     {
         const OrdinaryUser user;
         arrange();
-        MainWindow window;
+        SessionWindow window;
         QCOMPARE(MainWindowProbe(window).styleName(), style);
         work(window);
         named<QAction>(window, "actionMono_Style").toggle(); // what is saved is not what was read
@@ -333,7 +322,7 @@ void SettingsMatrix::hugeFile()
 {
     const auto peakOfOneWindow = [] {
         forgetPeakMemory();
-        MainWindow window;
+        SessionWindow window;
         work(window);
         window.close();
         return peakMemory();
@@ -391,14 +380,14 @@ void SettingsMatrix::rubbish()
     put(bytes);
     QStringList before;
     {
-        MainWindow window;
+        SessionWindow window;
         before = inForce(window);
         work(window);
         QCOMPARE(inForce(window), before);
         window.close();
     }
-    const MainWindow again;
-    QCOMPARE(inForce(const_cast<MainWindow &>(again)), before);
+    SessionWindow again;
+    QCOMPARE(inForce(again), before);
 }
 
 QTEST_MAIN(SettingsMatrix)

@@ -63,7 +63,7 @@ void UnplugTest::unplugged()
     // The frame under way and those that wait are still shown.
     QTRY_VERIFY(!w.hasNewPicture(500));
     QCOMPARE(w.window->step(), step);
-    QVERIFY(cameraState.cameraConnected);
+    QVERIFY(w.session().camera.cameraConnected);
     useControls(w);
     const int boxesOfControls = boxes.seen.count; // a double click may find no star
 
@@ -71,13 +71,13 @@ void UnplugTest::unplugged()
     case Then::PlugIn:
         w.plug(true);
         QVERIFY(w.hasNewPicture());
-        QVERIFY(cameraState.cameraConnected);
+        QVERIFY(w.session().camera.cameraConnected);
         break;
     case Then::Reconnect:
         w.toggleConnection();
-        QVERIFY(!cameraState.cameraConnected);
+        QVERIFY(!w.session().camera.cameraConnected);
         w.toggleConnection();
-        QVERIFY(!cameraState.cameraConnected);
+        QVERIFY(!w.session().camera.cameraConnected);
         QCOMPARE(boxes.seen.count, boxesOfControls + 1);
         w.plug(true);
         QVERIFY(w.connectCamera());
@@ -85,7 +85,7 @@ void UnplugTest::unplugged()
         break;
     case Then::CloseWindow:
         QVERIFY(w.window->close());
-        QVERIFY(!cameraState.cameraConnected);
+        QVERIFY(!w.session().camera.cameraConnected);
         QVERIFY(QFile::exists(settingsFilePath()));
         break;
     }

@@ -2,10 +2,10 @@
 // What happens where the sound can not be played: no service, or one that has no decoder?
 #define QT_STATICPLUGIN
 
-#include "mainwindow/mainwindow.h"
 #include "resources/resources.h"
 #include "tests/support/logrecorder.h"
 #include "tests/support/patience.h"
+#include "tests/support/sessionwindow.h"
 
 #include <QAction>
 #include <QMediaContent>
@@ -154,7 +154,7 @@ void SoundFailureTest::isLoggedAndNothingElse()
     QFETCH(bool, service);
     QFETCH(QString, line);
     isServiceThere = service;
-    MainWindow window;
+    SessionWindow window;
     auto &action = *window.findChild<QAction *>("actionPlay_Audio");
     const auto &player = *window.findChild<QMediaPlayer *>();
     QCOMPARE(player.isAvailable(), service);

@@ -2,8 +2,8 @@
 // What is the sound service asked for? A service of the test's own stands in for the system's.
 #define QT_STATICPLUGIN
 
-#include "mainwindow/mainwindow.h"
 #include "resources/resources.h"
+#include "tests/support/sessionwindow.h"
 #include "tests/window/windowtest.h"
 
 #include <QMediaContent>
@@ -138,7 +138,7 @@ void SoundTest::init()
 
 void SoundTest::createdStoppedAtVolumeZero()
 {
-    const MainWindow window;
+    const SessionWindow window;
     QCOMPARE(calls.filter("volume"), QStringList{"volume 0"});
     QVERIFY(!calls.contains("play"));
     const auto &player = *window.findChild<QMediaPlayer *>();
@@ -148,7 +148,7 @@ void SoundTest::createdStoppedAtVolumeZero()
 
 void SoundTest::startsAndStops()
 {
-    MainWindow window;
+    SessionWindow window;
     auto &action = named<QAction>(window, "actionPlay_Audio");
     const auto &player = *window.findChild<QMediaPlayer *>();
     action.trigger();
@@ -170,7 +170,7 @@ void SoundTest::startsAndStops()
 
 void SoundTest::startsFromTheBeginning()
 {
-    MainWindow window;
+    SessionWindow window;
     auto &action = named<QAction>(window, "actionPlay_Audio");
     auto &player = *window.findChild<QMediaPlayer *>();
     action.trigger();
@@ -184,7 +184,7 @@ void SoundTest::startsFromTheBeginning()
 
 void SoundTest::triggeredAloneDoesNothing()
 {
-    MainWindow window;
+    SessionWindow window;
     calls.clear();
     QVERIFY(QMetaObject::invokeMethod(&window, "on_actionPlay_Audio_triggered"));
     QCOMPARE(calls, QStringList());
@@ -192,7 +192,7 @@ void SoundTest::triggeredAloneDoesNothing()
 
 void SoundTest::loopsWithoutEnd()
 {
-    const MainWindow window;
+    const SessionWindow window;
     auto &playlist = *window.findChild<QMediaPlayer *>()->playlist();
     playlist.setCurrentIndex(0);
     for (int round = 0; round < 3; ++round) {

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // When is the saved axis centre used again, when replaced, and when forgotten?
-#include "core/sharedstate.h"
 #include "tests/window/freshwindowtest.h"
 
 class WizardCentreTest : public FreshWindowTest
@@ -47,21 +46,21 @@ void WizardCentreTest::reuseQuestion()
     QFETCH(int, step);
     QFETCH(QPointF, after);
     QFETCH(QString, label);
-    alignmentPoints.savedAxisCenter = saved;
+    session().alignmentPoints.savedAxisCenter = saved;
     probe->switchStep(2);
     const BoxAnswerer boxes(answersYes ? QMessageBox::Yes : QMessageBox::No);
     named<QPushButton>(*window, "pushButton_confirm_done").click();
     QCOMPARE(boxes.seen.count, asked);
     QCOMPARE(window->step(), step);
-    QCOMPARE(double(alignmentPoints.savedAxisCenter.x), after.x());
-    QCOMPARE(double(alignmentPoints.savedAxisCenter.y), after.y());
+    QCOMPARE(double(session().alignmentPoints.savedAxisCenter.x), after.x());
+    QCOMPARE(double(session().alignmentPoints.savedAxisCenter.y), after.y());
     QCOMPARE(named<QLabel>(*window, "label_axisPos").text(), label);
     QCOMPARE(probe->axisCenter(), QPointF()); // that of a fit alone
 }
 
 void WizardCentreTest::questionWords()
 {
-    alignmentPoints.savedAxisCenter = QPointF(10, 10);
+    session().alignmentPoints.savedAxisCenter = QPointF(10, 10);
     probe->switchStep(2);
     const BoxAnswerer boxes(QMessageBox::Yes);
     named<QPushButton>(*window, "pushButton_confirm_done").click();
@@ -76,7 +75,7 @@ void WizardCentreTest::questionWords()
 
 void WizardCentreTest::noErasesTheSavedCentre()
 {
-    alignmentPoints.savedAxisCenter = QPointF(612, 470);
+    session().alignmentPoints.savedAxisCenter = QPointF(612, 470);
     const BoxAnswerer boxes(QMessageBox::No);
     for (int round = 0; round < 2; ++round) {
         probe->switchStep(2);
@@ -88,7 +87,7 @@ void WizardCentreTest::noErasesTheSavedCentre()
 
 void WizardCentreTest::yesLightsAllLamps()
 {
-    alignmentPoints.savedAxisCenter = QPointF(612, 470);
+    session().alignmentPoints.savedAxisCenter = QPointF(612, 470);
     probe->switchStep(2);
     const BoxAnswerer boxes(QMessageBox::Yes);
     named<QPushButton>(*window, "pushButton_confirm_done").click();
@@ -100,22 +99,22 @@ void WizardCentreTest::yesLightsAllLamps()
 void WizardCentreTest::centreAccepted()
 {
     probe->setAxisCenter(QPointF(601.26, 498.04));
-    alignmentPoints.savedAxisCenter = QPointF(1, 1);
+    session().alignmentPoints.savedAxisCenter = QPointF(1, 1);
     probe->switchStep(8);
     named<QPushButton>(*window, "pushButton_validateCenter_done").click();
-    QCOMPARE(QPointF(alignmentPoints.savedAxisCenter), QPointF(601.26, 498.04));
+    QCOMPARE(QPointF(session().alignmentPoints.savedAxisCenter), QPointF(601.26, 498.04));
     QCOMPARE(named<QLabel>(*window, "label_axisPos").text(), QString("(601.3,498.0)"));
     QCOMPARE(window->step(), 9);
 }
 
 void WizardCentreTest::centreResetKeepsTheFit()
 {
-    alignmentPoints.savedAxisCenter = QPointF(601.25, 498);
+    session().alignmentPoints.savedAxisCenter = QPointF(601.25, 498);
     probe->setAxisCenter(QPointF(601.25, 498));
     probe->switchStep(8);
     named<QPushButton>(*window, "pushButton_validateCenter_reset").click();
     QCOMPARE(window->step(), 3);
-    QCOMPARE(QPointF(alignmentPoints.savedAxisCenter), QPointF(601.25, 498));
+    QCOMPARE(QPointF(session().alignmentPoints.savedAxisCenter), QPointF(601.25, 498));
 }
 
 QTEST_MAIN(WizardCentreTest)
