@@ -10,7 +10,7 @@
 class MonitoredRun
 {
 public:
-    /// \param zoomPercent 100, 75 or 50
+    /// @param zoomPercent 100, 75 or 50
     explicit MonitoredRun(int zoomPercent);
     ~MonitoredRun();
 

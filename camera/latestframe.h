@@ -19,10 +19,10 @@ public:
     /// Where the next frame goes. The capture thread's alone.
     std::uint8_t *fetchBuffer() { return fetching->data(); }
     /// The fetched pixels as a matrix; empty without any. The capture thread's alone.
-    /// \param format one that fits the buffer
+    /// @param format one that fits the buffer
     cv::Mat fetched(const FrameFormat &format);
     /// Makes the fetched pixels the latest frame, and returns a header over them, valid until the
-    /// next call. The capture thread's alone. \param format a usable one
+    /// next call. The capture thread's alone. @param format a usable one
     cv::Mat acceptFetched(const FrameFormat &format);
 
     /// A copy of the latest whole frame that stays as it is. Any thread.

@@ -28,6 +28,6 @@ void updatePole(ReferenceStars stars, const RefractionSettings &refraction,
 /// Cuts the five-fold enlarged surroundings of star B, both stars marked, into
 /// matrices.magnifierCrop. Only the part of `frame` that the crop shows is enlarged; the crop is
 /// the same to the last bit as one cut from the whole frame's enlargement, and black beyond its
-/// edge. \param starA, starB frame pixels
+/// edge. @param starA, starB frame pixels
 void cropAroundStarB(const cv::Mat &frame, QPointF starA, QPointF starB, bool monoStyle,
                      FrameMatrices &matrices);

@@ -31,7 +31,7 @@ inline void noteReleased([[maybe_unused]] void *address)
 class Locker
 {
 public:
-    /// \param milliseconds negative = as long as it takes
+    /// @param milliseconds negative = as long as it takes
     explicit Locker(QMutex &guarded, int milliseconds = -1)
         : mutex(guarded), locked(mutex.tryLock(milliseconds))
     {

@@ -149,7 +149,7 @@ void MainWindow::on_horizontalSlider_rough_match_valueChanged(int value)
 }
 
 /// Turns the shared angle by some degrees, within 0 to 360, and moves `slider` there.
-/// \param turned the slider's slot: it runs also where the slider stands there already, since the
+/// @param turned the slider's slot: it runs also where the slider stands there already, since the
 /// sliders share the angle
 void MainWindow::stepRotation(QSlider &slider, int degrees, void (MainWindow::*turned)(int))
 {

@@ -14,7 +14,7 @@ class MagnifierWidget : public QWidget
 public:
     /// A view of 120 x 120 pixels.
     explicit MagnifierWidget(QWidget *parent = nullptr);
-    /// \param width, height size of the view in pixels; the widget is 2 pixels larger
+    /// @param width, height size of the view in pixels; the widget is 2 pixels larger
     MagnifierWidget(int width, int height, QWidget *parent = nullptr);
 
     /// How many view pixels one picture pixel takes; does not repaint.

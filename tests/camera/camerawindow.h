@@ -47,8 +47,8 @@ private:
 class CameraWindow
 {
 public:
-    /// \param settings the text of the settings file; empty = there is none
-    /// \param beforeStart tells the reset camera library how to answer
+    /// @param settings the text of the settings file; empty = there is none
+    /// @param beforeStart tells the reset camera library how to answer
     explicit CameraWindow(const QByteArray &settings = QByteArray(),
                           const std::function<void()> &beforeStart = {});
     ~CameraWindow();

@@ -97,7 +97,7 @@ QString lackOfTitle(const QGroupBox &box)
     return {};
 }
 
-/// \param text the longest that the field may have to show
+/// @param text the longest that the field may have to show
 QString lackOfField(const QWidget &field, const QLineEdit &edit, const QString &text)
 {
     QStyleOptionFrame option;
@@ -204,7 +204,7 @@ QStringList lacksIn(const QWidget &window)
 class Pictures
 {
 public:
-    /// \param code of the language; empty: nothing is saved
+    /// @param code of the language; empty: nothing is saved
     explicit Pictures(const QString &code)
     {
         if (code.isEmpty())
