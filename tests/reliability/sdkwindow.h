@@ -2,7 +2,7 @@
 // How does a window behave whose camera library fails? What the tests of that share.
 #pragma once
 
-#include "tests/camera/camerawindow.h"
+#include "tests/window/camerawindow.h"
 
 #include <QLabel>
 #include <QSlider>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Which marks lie over the shown picture in each step of the alignment?
 #include "camera/overlay.h"
-#include "tests/camera/camerawindow.h"
 #include "tests/support/mainwindowprobe.h"
+#include "tests/window/camerawindow.h"
 
 #include <QLabel>
 #include <QtTest>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Does the window prepare monitor mode, and do the marks follow the stars from frame to frame?
 #include "mainwindow/pointtext.h"
-#include "tests/camera/monitorwindow.h"
 #include "tests/support/logrecorder.h"
+#include "tests/window/monitorwindow.h"
 
 #include <QDial>
 #include <QDialog>

@@ -2,8 +2,8 @@
 // Where exactly does a double click search, and where does the template lie afterwards, at each
 // zoom and in a scrolled picture?
 #include "mainwindow/pointtext.h"
-#include "tests/camera/pickingwindow.h"
 #include "tests/support/mainwindowprobe.h"
+#include "tests/window/pickingwindow.h"
 
 #include <QPushButton>
 

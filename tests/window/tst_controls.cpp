@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Do the camera's sliders and edit boxes send what they show?
-#include "tests/camera/camerawindow.h"
 #include "tests/support/wheel.h"
+#include "tests/window/camerawindow.h"
 
 #include <QLineEdit>
 #include <QScrollArea>

@@ -6,7 +6,7 @@
 #include "geometry/templateoverlay.h"
 #include "geometry/templatepole.h"
 #include "mainwindow/pointtext.h"
-#include "tests/camera/camerawindow.h"
+#include "tests/window/camerawindow.h"
 
 #include <QImage>
 #include <QLabel>

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "geometry/stardetection.h"
-#include "tests/camera/camerawindow.h"
+#include "tests/window/camerawindow.h"
 
 #include <QLabel>
 #include <QMouseEvent>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Is the template over the picture turned to the angle that the sliders share, in both
 // hemispheres?
-#include "tests/camera/templatewindow.h"
 #include "tests/support/mainwindowprobe.h"
+#include "tests/window/templatewindow.h"
 
 namespace
 {

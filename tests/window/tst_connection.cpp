@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // How is the camera found, opened and set up?
-#include "tests/camera/connectiontest.h"
+#include "tests/window/connectiontest.h"
 
 #include <QLineEdit>
 #include <QSignalSpy>

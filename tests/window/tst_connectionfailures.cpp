@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What if an operation fails while the camera is connected or disconnected?
-#include "tests/camera/connectiontest.h"
-#include "tests/camera/pickingwindow.h"
+#include "tests/window/connectiontest.h"
+#include "tests/window/pickingwindow.h"
 
 #include <QLabel>
 #include <QtTest>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Is everything in the window reached by the Tab key, and is nothing begun by a key hit by chance?
-#include "tests/camera/camerawindow.h"
 #include "tests/support/mainwindowprobe.h"
+#include "tests/window/camerawindow.h"
 
 #include <QAbstractButton>
 #include <QPushButton>

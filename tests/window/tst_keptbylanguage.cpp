@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What outlasts a change of language while a camera is connected and monitored?
-#include "tests/camera/monitorwindow.h"
+#include "tests/window/monitorwindow.h"
 
 #include <QAction>
 #include <QImage>

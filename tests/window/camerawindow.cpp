@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Works the program's window with the recording camera behind it.
-#include "tests/camera/camerawindow.h"
+#include "tests/window/camerawindow.h"
 
 #include "resources/resources.h"
 

@@ -4,9 +4,9 @@
 #include "geometry/starcatalogue.h"
 #include "geometry/templateoverlay.h"
 #include "mainwindow/pointtext.h"
-#include "tests/camera/pickingwindow.h"
 #include "tests/support/logrecorder.h"
 #include "tests/support/mainwindowprobe.h"
+#include "tests/window/pickingwindow.h"
 
 #include <QGraphicsEffect>
 #include <QSlider>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // How do the waiting pictures and the frame rate come onto the screen?
-#include "tests/camera/camerawindow.h"
+#include "tests/window/camerawindow.h"
 #include "widgets/magnifierwidget.h"
 
 #include <QElapsedTimer>

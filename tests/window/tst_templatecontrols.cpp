@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Do the rotate sliders, the zoom and the hemisphere keep the template where it belongs?
-#include "tests/camera/templatewindow.h"
 #include "tests/support/logrecorder.h"
 #include "tests/support/mainwindowprobe.h"
+#include "tests/window/templatewindow.h"
 
 #include <QAction>
 #include <QRadioButton>

@@ -2,8 +2,8 @@
 // Which calls, boxes and states belong to a connection? What the tests of connecting share.
 #pragma once
 
-#include "tests/camera/camerawindow.h"
 #include "tests/support/logrecorder.h"
+#include "tests/window/camerawindow.h"
 #include "widgets/magnifierwidget.h"
 
 #include <QAction>

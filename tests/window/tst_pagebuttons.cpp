@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Does a hand that clicks twice on a page's button do more than to press it?
-#include "tests/camera/camerawindow.h"
 #include "tests/support/logrecorder.h"
 #include "tests/support/mainwindowprobe.h"
+#include "tests/window/camerawindow.h"
 
 #include <QPushButton>
 #include <QWindow>

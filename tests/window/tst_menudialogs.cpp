@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Do the menu's entries bring up the dialogs, and what does the refraction dialog show then?
-#include "tests/camera/camerawindow.h"
+#include "tests/window/camerawindow.h"
 
 #include <QAction>
 #include <QCheckBox>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // What do Save As and the entries that only log do?
 #include "camera/camerastate.h"
-#include "tests/camera/camerawindow.h"
 #include "tests/support/logrecorder.h"
+#include "tests/window/camerawindow.h"
 
 #include <QAction>
 #include <QFileDialog>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What is shown of the place under the mouse, over the picture and over the pages?
-#include "tests/camera/pickingwindow.h"
 #include "tests/support/logrecorder.h"
+#include "tests/window/pickingwindow.h"
 #include "widgets/magnifierwidget.h"
 
 #include <QTabWidget>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // How is the camera let go, with frames in flight, in a hurry, and as the window closes?
-#include "tests/camera/connectiontest.h"
 #include "tests/support/mainwindowprobe.h"
+#include "tests/window/connectiontest.h"
 
 #include <QLabel>
 #include <QMouseEvent>
