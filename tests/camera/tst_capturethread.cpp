@@ -13,7 +13,7 @@ const QStringList startAndEnd{"CaptureThread start...", "CaptureThread done"};
 constexpr int framesForAll = 4; ///< more than both queues hold
 } // namespace
 
-class TestCaptureThread : public CaptureTest
+class CaptureThreadTest : public CaptureTest
 {
     Q_OBJECT
 
@@ -48,7 +48,7 @@ private:
     QImage firstPicture() const { return session->frameQueue.waiting().value(0); }
 };
 
-void TestCaptureThread::beginsLiveModeAndEnds()
+void CaptureThreadTest::beginsLiveModeAndEnds()
 {
     thread->startCapture();
     QTRY_VERIFY(sdk().fetchCount() > 2);
@@ -59,7 +59,7 @@ void TestCaptureThread::beginsLiveModeAndEnds()
     QVERIFY(sdk().fetchThreads().front() != std::this_thread::get_id());
 }
 
-void TestCaptureThread::withoutCamera()
+void CaptureThreadTest::withoutCamera()
 {
     session->camera.cameraConnected = false;
     thread->startCapture();
@@ -69,7 +69,7 @@ void TestCaptureThread::withoutCamera()
     QCOMPARE(log->texts(QtDebugMsg), startAndEnd);
 }
 
-void TestCaptureThread::withoutHandle()
+void CaptureThreadTest::withoutHandle()
 {
     session->handle.set(nullptr);
     thread->startCapture();
@@ -78,7 +78,7 @@ void TestCaptureThread::withoutHandle()
     QCOMPARE(log->texts(QtDebugMsg), startAndEnd);
 }
 
-void TestCaptureThread::liveModeRefused()
+void CaptureThreadTest::liveModeRefused()
 {
     sdk().setStatus("BeginVELDIXLive", 1);
     thread->startCapture();
@@ -90,7 +90,7 @@ void TestCaptureThread::liveModeRefused()
 }
 
 /// Stop and a refused closing come before the thread has begun: it does not begin after them.
-void TestCaptureThread::stoppedBeforeItBegins()
+void CaptureThreadTest::stoppedBeforeItBegins()
 {
     sdk().setStatus("CloseVELDIX", 1);
     {
@@ -106,7 +106,7 @@ void TestCaptureThread::stoppedBeforeItBegins()
     QCOMPARE(log->texts(QtDebugMsg), startAndEnd);
 }
 
-void TestCaptureThread::noFrameYet()
+void CaptureThreadTest::noFrameYet()
 {
     thread->startCapture();
     QTRY_VERIFY(sdk().fetchCount() >= 1);
@@ -123,7 +123,7 @@ void TestCaptureThread::noFrameYet()
     stopAndWait();
 }
 
-void TestCaptureThread::pictures_data()
+void CaptureThreadTest::pictures_data()
 {
     QTest::addColumn<QSize>("size");
     QTest::addColumn<int>("channels");
@@ -136,7 +136,7 @@ void TestCaptureThread::pictures_data()
     QTest::newRow("all of the buffer, grey") << QSize(1920, 1920) << 1;
 }
 
-void TestCaptureThread::pictures()
+void CaptureThreadTest::pictures()
 {
     QFETCH(QSize, size);
     QFETCH(int, channels);
@@ -163,7 +163,7 @@ void TestCaptureThread::pictures()
     QCOMPARE(cv::norm(raw, frame, cv::NORM_INF), 0.0);
 }
 
-void TestCaptureThread::unusableFrames_data()
+void CaptureThreadTest::unusableFrames_data()
 {
     QTest::addColumn<uint>("width");
     QTest::addColumn<uint>("height");
@@ -196,7 +196,7 @@ void TestCaptureThread::unusableFrames_data()
 }
 
 /// Told once, however many come; what was known of the good frames stays.
-void TestCaptureThread::unusableFrames()
+void CaptureThreadTest::unusableFrames()
 {
     QFETCH(uint, width);
     QFETCH(uint, height);
@@ -214,7 +214,7 @@ void TestCaptureThread::unusableFrames()
 
 /// It is not asked for the next one at once: one that gives rubbish without a pause would take a
 /// whole processor.
-void TestCaptureThread::unusableFramesAreNotHurriedFor()
+void CaptureThreadTest::unusableFramesAreNotHurriedFor()
 {
     sdk().setFrame(0, 0, 1, {1});
     sdk().setFramesLeft(-1);
@@ -228,7 +228,7 @@ void TestCaptureThread::unusableFramesAreNotHurriedFor()
 }
 
 /// Another format is told of, the same one after it too, and after a new start everything again.
-void TestCaptureThread::eachUnusableFormatIsTold()
+void CaptureThreadTest::eachUnusableFormatIsTold()
 {
     thread->startCapture();
     for (const uint channels : {2U, 2U, 4U, 2U}) {
@@ -243,7 +243,7 @@ void TestCaptureThread::eachUnusableFormatIsTold()
     QCOMPARE(log->texts(QtCriticalMsg).size(), 4);
 }
 
-void TestCaptureThread::goodFrameAfterUnusableOne()
+void CaptureThreadTest::goodFrameAfterUnusableOne()
 {
     sdk().setFrame(640, 480, 2, {1, 2, 3});
     thread->startCapture();
@@ -253,7 +253,7 @@ void TestCaptureThread::goodFrameAfterUnusableOne()
     QCOMPARE(firstPicture().size(), QSize(1280, 960));
 }
 
-void TestCaptureThread::stalledGui()
+void CaptureThreadTest::stalledGui()
 {
     session->overlayFlags.monitorTracking = true;
     session->monitorPositions.starASearch = QPointF(640, 480);
@@ -271,7 +271,7 @@ void TestCaptureThread::stalledGui()
     QCOMPARE(int(session->latestFrame.copy().at<uchar>(5, 5)), framesForAll);
 }
 
-void TestCaptureThread::magnifierOnlyInMonitorMode()
+void CaptureThreadTest::magnifierOnlyInMonitorMode()
 {
     session->monitorPositions.starASearch = QPointF(640, 480);
     session->monitorPositions.starBSearch = QPointF(640, 480);
@@ -288,7 +288,7 @@ void TestCaptureThread::magnifierOnlyInMonitorMode()
 }
 
 /// The star is shown where it was seen; marks and pole stand where it would be without air.
-void TestCaptureThread::refractionLeavesTheEnlargementAlone()
+void CaptureThreadTest::refractionLeavesTheEnlargementAlone()
 {
     session->overlayFlags.monitorTracking = true;
     session->monitorPositions.starASearch = QPointF(400, 300);
@@ -310,7 +310,7 @@ void TestCaptureThread::refractionLeavesTheEnlargementAlone()
     QVERIFY(std::abs(starB.y() - lowered.y() - 1.1925) < 5e-4);
 }
 
-void TestCaptureThread::marksAreDrawn()
+void CaptureThreadTest::marksAreDrawn()
 {
     showFrame(cv::Mat(960, 1280, CV_8UC1, cv::Scalar(7)));
     session->overlayFlags.showAxisMark = true;
@@ -323,7 +323,7 @@ void TestCaptureThread::marksAreDrawn()
     QCOMPARE(int(session->latestFrame.copy().at<uchar>(100, 195)), 7);
 }
 
-void TestCaptureThread::noPoleOnOneColumn()
+void CaptureThreadTest::noPoleOnOneColumn()
 {
     showFrame(starFrame({})); // black: the search positions hold
     session->overlayFlags.monitorTracking = true;
@@ -346,7 +346,7 @@ void TestCaptureThread::noPoleOnOneColumn()
     QVERIFY(firstPicture().pixel(pole) != qRgb(0, 0, 0));
 }
 
-void TestCaptureThread::frameRate_data()
+void CaptureThreadTest::frameRate_data()
 {
     QTest::addColumn<int>("quickFrames"); ///< that come before the pause
     QTest::addColumn<int>("pause");       ///< milliseconds
@@ -357,7 +357,7 @@ void TestCaptureThread::frameRate_data()
 
 /// The rate is the last frame's alone. Each of the two moments that it lies between is held between
 /// two looks at the clock, however busy the machine.
-void TestCaptureThread::frameRate()
+void CaptureThreadTest::frameRate()
 {
     QFETCH(int, quickFrames);
     QFETCH(int, pause);
@@ -388,7 +388,7 @@ void TestCaptureThread::frameRate()
     QVERIFY(FrameRateMeterProbe(session->frameRate).betweenIntervals() >= 0);
 }
 
-void TestCaptureThread::startAgain()
+void CaptureThreadTest::startAgain()
 {
     for (int run = 1; run <= 3; ++run) {
         thread->startCapture();
@@ -399,7 +399,7 @@ void TestCaptureThread::startAgain()
     QCOMPARE(log->texts(QtDebugMsg), startAndEnd + startAndEnd + startAndEnd);
 }
 
-void TestCaptureThread::stopIsNotWaitedFor()
+void CaptureThreadTest::stopIsNotWaitedFor()
 {
     sdk().holdFetches();
     thread->startCapture();
@@ -410,7 +410,7 @@ void TestCaptureThread::stopIsNotWaitedFor()
     QVERIFY(thread->wait(patience));
 }
 
-void TestCaptureThread::startAgainDuringTheLastPass()
+void CaptureThreadTest::startAgainDuringTheLastPass()
 {
     sdk().holdFetches();
     thread->startCapture();
@@ -427,7 +427,7 @@ void TestCaptureThread::startAgainDuringTheLastPass()
     QCOMPARE(sdkCalls().size(), 2);
 }
 
-void TestCaptureThread::nothingMeasuredOrQueuedAfterTheStop()
+void CaptureThreadTest::nothingMeasuredOrQueuedAfterTheStop()
 {
     sdk().holdFetches();
     sdk().setFramesLeft(1);
@@ -442,7 +442,7 @@ void TestCaptureThread::nothingMeasuredOrQueuedAfterTheStop()
     QCOMPARE(session->frameRate.rate().tenths, 0);
 }
 
-void TestCaptureThread::destructionWaits()
+void CaptureThreadTest::destructionWaits()
 {
     sdk().setFramesLeft(-1);
     thread->startCapture();
@@ -454,5 +454,5 @@ void TestCaptureThread::destructionWaits()
     QCOMPARE(sdk().fetchCount(), fetches);
 }
 
-QTEST_GUILESS_MAIN(TestCaptureThread)
+QTEST_GUILESS_MAIN(CaptureThreadTest)
 #include "tst_capturethread.moc"

@@ -9,7 +9,7 @@
 
 using Int = std::numeric_limits<std::int32_t>;
 
-class TestFrameRate : public QObject
+class FrameRateTest : public QObject
 {
     Q_OBJECT
 
@@ -23,7 +23,7 @@ private slots:
     void defaults();
 };
 
-void TestFrameRate::rate_data()
+void FrameRateTest::rate_data()
 {
     QTest::addColumn<int>("milliseconds");
     QTest::addColumn<int>("whole");
@@ -43,7 +43,7 @@ void TestFrameRate::rate_data()
     QTest::newRow("same millisecond saturates") << 0 << Int::max() << Int::min();
 }
 
-void TestFrameRate::rate()
+void FrameRateTest::rate()
 {
     QFETCH(int, milliseconds);
     const FrameRate found = frameRate(milliseconds);
@@ -51,7 +51,7 @@ void TestFrameRate::rate()
     QTEST(found.tenths, "tenths");
 }
 
-void TestFrameRate::elapsed_data()
+void FrameRateTest::elapsed_data()
 {
     QTest::addColumn<int>("earlier");
     QTest::addColumn<int>("later");
@@ -64,14 +64,14 @@ void TestFrameRate::elapsed_data()
     QTest::newRow("back across the wrap") << Int::min() + 10 << Int::max() - 9 << -20;
 }
 
-void TestFrameRate::elapsed()
+void FrameRateTest::elapsed()
 {
     QFETCH(int, earlier);
     QFETCH(int, later);
     QTEST(elapsedBetween(earlier, later), "difference");
 }
 
-void TestFrameRate::cut_data()
+void FrameRateTest::cut_data()
 {
     QTest::addColumn<qint64>("milliseconds");
     QTest::addColumn<int>("kept");
@@ -83,13 +83,13 @@ void TestFrameRate::cut_data()
     QTest::newRow("before the epoch") << qint64(-1) << -1;
 }
 
-void TestFrameRate::cut()
+void FrameRateTest::cut()
 {
     QFETCH(qint64, milliseconds);
     QTEST(cutTo32Bits(milliseconds), "kept");
 }
 
-void TestFrameRate::defaults()
+void FrameRateTest::defaults()
 {
     CameraState state;
     QCOMPARE(state.exposure, 0.0);
@@ -121,5 +121,5 @@ void TestFrameRate::defaults()
     QCOMPARE(FrameRateMeterProbe(meter).lastFrameTime(), 0);
 }
 
-QTEST_GUILESS_MAIN(TestFrameRate)
+QTEST_GUILESS_MAIN(FrameRateTest)
 #include "tst_framerate.moc"

@@ -10,7 +10,7 @@
 
 Q_DECLARE_METATYPE(cv::Mat)
 
-class TestFrames : public QObject
+class FramesTest : public QObject
 {
     Q_OBJECT
 
@@ -27,7 +27,7 @@ private slots:
     void rawFrameIsCopied();
 };
 
-void TestFrames::refused_data()
+void FramesTest::refused_data()
 {
     QTest::addColumn<cv::Mat>("matrix");
     QTest::addColumn<QString>("message");
@@ -45,7 +45,7 @@ void TestFrames::refused_data()
                                 << unsupported + "depth=8U and channels=4";
 }
 
-void TestFrames::refused()
+void FramesTest::refused()
 {
     QFETCH(cv::Mat, matrix);
     QFETCH(QString, message);
@@ -54,7 +54,7 @@ void TestFrames::refused()
     QCOMPARE(log.lines(), QList<LogLine>({{QtCriticalMsg, message}}));
 }
 
-void TestFrames::nullMatrix()
+void FramesTest::nullMatrix()
 {
     const LogRecorder log;
     QVERIFY(!MatToQImage(nullptr));
@@ -62,7 +62,7 @@ void TestFrames::nullMatrix()
              QList<LogLine>({{QtCriticalMsg, "MatToQImage: Input Mat is null or empty."}}));
 }
 
-void TestFrames::oneChannelSharesThePixels()
+void FramesTest::oneChannelSharesThePixels()
 {
     cv::Mat matrix(3, 8, CV_8UC1, cv::Scalar(7));
     const auto picture = MatToQImage(&matrix);
@@ -74,7 +74,7 @@ void TestFrames::oneChannelSharesThePixels()
     QVERIFY(picture->constBits() == matrix.data);
 }
 
-void TestFrames::threeChannelsAreTurnedAndOwned()
+void FramesTest::threeChannelsAreTurnedAndOwned()
 {
     cv::Mat matrix(2, 3, CV_8UC3, cv::Scalar(10, 20, 30));
     matrix.at<cv::Vec3b>(1, 2) = {1, 2, 3};
@@ -88,7 +88,7 @@ void TestFrames::threeChannelsAreTurnedAndOwned()
     QCOMPARE(picture->pixel(1, 1), qRgb(30, 20, 10));
 }
 
-void TestFrames::areaOfALargerMatrix()
+void FramesTest::areaOfALargerMatrix()
 {
     cv::Mat colour(4, 16, CV_8UC3, cv::Scalar::all(0));
     colour.at<cv::Vec3b>(3, 9) = {1, 2, 3};
@@ -103,7 +103,7 @@ void TestFrames::areaOfALargerMatrix()
     QCOMPARE(int(picture->constScanLine(1)[5]), 77);
 }
 
-void TestFrames::matrices()
+void FramesTest::matrices()
 {
     const FrameMatrices matrices;
     const cv::Mat raw = LatestFrame().copy();
@@ -123,7 +123,7 @@ void TestFrames::matrices()
     QCOMPARE(cv::countNonZero(raw), 0); // before the first frame nothing is seen
 }
 
-void TestFrames::queueIsBounded()
+void FramesTest::queueIsBounded()
 {
     PictureQueue queue;
     QImage pictures[3];
@@ -140,7 +140,7 @@ void TestFrames::queueIsBounded()
     QCOMPARE(queue.waiting()[1].width(), 3);
 }
 
-void TestFrames::nothingIsQueuedAfterTheStop()
+void FramesTest::nothingIsQueuedAfterTheStop()
 {
     PictureQueue queue;
     const Relaxed<bool> stopped(true);
@@ -148,7 +148,7 @@ void TestFrames::nothingIsQueuedAfterTheStop()
     QVERIFY(queue.isEmpty());
 }
 
-void TestFrames::rawFrameIsCopied()
+void FramesTest::rawFrameIsCopied()
 {
     LatestFrame latest;
     std::fill_n(latest.fetchBuffer(), 4, std::uint8_t(5));
@@ -161,5 +161,5 @@ void TestFrames::rawFrameIsCopied()
     QVERIFY(latest.copy().empty());
 }
 
-QTEST_GUILESS_MAIN(TestFrames)
+QTEST_GUILESS_MAIN(FramesTest)
 #include "tst_frames.moc"

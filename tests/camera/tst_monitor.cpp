@@ -94,7 +94,7 @@ bool sameBytes(const cv::Mat &a, const cv::Mat &b)
 }
 } // namespace
 
-class TestMonitor : public QObject
+class MonitorTest : public QObject
 {
     Q_OBJECT
 
@@ -121,7 +121,7 @@ private:
     std::unique_ptr<MonitorPositions> positions;
 };
 
-void TestMonitor::init()
+void MonitorTest::init()
 {
     conditions = std::make_unique<RefractionSettings>();
     points = std::make_unique<AlignmentPoints>();
@@ -131,7 +131,7 @@ void TestMonitor::init()
     points->angleABP = 60.0;
 }
 
-void TestMonitor::tracking_data()
+void MonitorTest::tracking_data()
 {
     QTest::addColumn<int>("channels");
     QTest::addColumn<QPointF>("searchA");
@@ -145,7 +145,7 @@ void TestMonitor::tracking_data()
     QTest::newRow("off the frame") << 1 << QPointF(-500, 2000) << QPointF(-500, 2000);
 }
 
-void TestMonitor::tracking()
+void MonitorTest::tracking()
 {
     QFETCH(int, channels);
     QFETCH(QPointF, searchA);
@@ -162,7 +162,7 @@ void TestMonitor::tracking()
     QCOMPARE(positions->starBSearch.load(), QPointF(796, 625));
 }
 
-void TestMonitor::searchStartsAgainFromTheStart()
+void MonitorTest::searchStartsAgainFromTheStart()
 {
     positions->starASearch = QPointF(400, 300);
     positions->starBSearch = QPointF(400, 300);
@@ -174,7 +174,7 @@ void TestMonitor::searchStartsAgainFromTheStart()
                    pixelTolerance));
 }
 
-void TestMonitor::starAtTheEdgeStaysAtItsSearchPosition()
+void MonitorTest::starAtTheEdgeStaysAtItsSearchPosition()
 {
     positions->starASearch = QPointF(5, 5);
     positions->starBSearch = QPointF(1278, 958);
@@ -184,7 +184,7 @@ void TestMonitor::starAtTheEdgeStaysAtItsSearchPosition()
     QCOMPARE(stars.b, QPointF(1278, 958));
 }
 
-void TestMonitor::refraction_data()
+void MonitorTest::refraction_data()
 {
     QTest::addColumn<bool>("enabled");
     QTest::addColumn<QString>("unit");
@@ -200,7 +200,7 @@ void TestMonitor::refraction_data()
     QTest::newRow("20 degrees of frost") << true << "hPa" << 1010.0F << -20.0F << raisedInTheCold;
 }
 
-void TestMonitor::refraction()
+void MonitorTest::refraction()
 {
     QFETCH(bool, enabled);
     QFETCH(QString, unit);
@@ -220,7 +220,7 @@ void TestMonitor::refraction()
     QVERIFY(isNear(positions->poleCurrent, {x, y}, 1e-6));
 }
 
-void TestMonitor::pole_data()
+void MonitorTest::pole_data()
 {
     QTest::addColumn<QPointF>("axis");
     QTest::addColumn<bool>("above"); ///< the line from star A to star B
@@ -231,7 +231,7 @@ void TestMonitor::pole_data()
 }
 
 /// Two places make the two angles, one on each side of the line: the pole is the one on the axis's.
-void TestMonitor::pole()
+void MonitorTest::pole()
 {
     QFETCH(QPointF, axis);
     QFETCH(bool, above);
@@ -253,7 +253,7 @@ void TestMonitor::pole()
     QCOMPARE(p.y() < lineAtPole, above);
 }
 
-void TestMonitor::noPoleOnOneColumn()
+void MonitorTest::noPoleOnOneColumn()
 {
     const LogRecorder log;
     const QPointF a(400, 300), b(800, 620);
@@ -267,7 +267,7 @@ void TestMonitor::noPoleOnOneColumn()
     QVERIFY(positions->poleValid);
 }
 
-void TestMonitor::crop_data()
+void MonitorTest::crop_data()
 {
     QTest::addColumn<int>("channels");
     QTest::addColumn<bool>("mono");
@@ -279,7 +279,7 @@ void TestMonitor::crop_data()
     QTest::newRow("three channels, edges, mono") << 3 << true << true;
 }
 
-void TestMonitor::crop()
+void MonitorTest::crop()
 {
     QFETCH(int, channels);
     QFETCH(bool, mono);
@@ -307,7 +307,7 @@ void TestMonitor::crop()
     }
 }
 
-void TestMonitor::cropOfNoPosition_data()
+void MonitorTest::cropOfNoPosition_data()
 {
     QTest::addColumn<QPointF>("star");
     const double nan = std::numeric_limits<double>::quiet_NaN();
@@ -319,7 +319,7 @@ void TestMonitor::cropOfNoPosition_data()
     QTest::newRow("one coordinate not a number") << QPointF(nan, 5000);
 }
 
-void TestMonitor::cropOfNoPosition()
+void MonitorTest::cropOfNoPosition()
 {
     QFETCH(QPointF, star);
     FrameMatrices matrices;
@@ -330,7 +330,7 @@ void TestMonitor::cropOfNoPosition()
 }
 
 /// Frames of other sizes give crops of the same size, black beyond the frame.
-void TestMonitor::cropOfOddFrames()
+void MonitorTest::cropOfOddFrames()
 {
     FrameMatrices matrices;
     const cv::Mat small(1, 1, CV_8UC1, cv::Scalar(90));
@@ -341,5 +341,5 @@ void TestMonitor::cropOfOddFrames()
     QCOMPARE(matrices.magnifierCrop.at<cv::Vec3b>(99, 99), cv::Vec3b(0, 0, 0));
 }
 
-QTEST_GUILESS_MAIN(TestMonitor)
+QTEST_GUILESS_MAIN(MonitorTest)
 #include "tst_monitor.moc"

@@ -6,7 +6,7 @@
 
 #include <utility>
 
-class TestMonitorThread : public CaptureTest
+class MonitorThreadTest : public CaptureTest
 {
     Q_OBJECT
 
@@ -17,7 +17,7 @@ private slots:
     void matricesAreReused();
 };
 
-void TestMonitorThread::enlargementInTheStyle_data()
+void MonitorThreadTest::enlargementInTheStyle_data()
 {
     QTest::addColumn<bool>("mono");
     QTest::addColumn<QRgb>("starA");
@@ -27,7 +27,7 @@ void TestMonitorThread::enlargementInTheStyle_data()
 
 /// Star A stands so near to star B that its mark lies in the enlargement, ten frame pixels to the
 /// right of the middle.
-void TestMonitorThread::enlargementInTheStyle()
+void MonitorThreadTest::enlargementInTheStyle()
 {
     QFETCH(bool, mono);
     QFETCH(QRgb, starA);
@@ -47,7 +47,7 @@ void TestMonitorThread::enlargementInTheStyle()
     QCOMPARE(seen.pixel(100, 100), qRgb(0, 255, 0)); // star B is green in both
 }
 
-void TestMonitorThread::matricesAreReused_data()
+void MonitorThreadTest::matricesAreReused_data()
 {
     QTest::addColumn<int>("channels");
     QTest::newRow("grey") << 1;
@@ -56,7 +56,7 @@ void TestMonitorThread::matricesAreReused_data()
 
 /// What is allocated once is used for every frame. The headers that are kept here keep the first
 /// memory from being given out again, so that a new allocation has another address.
-void TestMonitorThread::matricesAreReused()
+void MonitorThreadTest::matricesAreReused()
 {
     QFETCH(int, channels);
     const FrameMatrices &matrices = CaptureThreadProbe(*thread).matrices();
@@ -85,5 +85,5 @@ void TestMonitorThread::matricesAreReused()
     }
 }
 
-QTEST_GUILESS_MAIN(TestMonitorThread)
+QTEST_GUILESS_MAIN(MonitorThreadTest)
 #include "tst_monitorthread.moc"

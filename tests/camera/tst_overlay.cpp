@@ -140,7 +140,7 @@ OverlayMarks shown(const char *which, bool monoStyle)
 }
 } // namespace
 
-class TestOverlay : public QObject
+class OverlayTest : public QObject
 {
     Q_OBJECT
 
@@ -156,7 +156,7 @@ private slots:
     void poleIsLeftOutWhileThereIsNone();
 };
 
-void TestOverlay::shapes_data()
+void OverlayTest::shapes_data()
 {
     QTest::addColumn<OverlayMarks>("marks");
     for (const bool mono : {false, true}) {
@@ -181,7 +181,7 @@ void TestOverlay::shapes_data()
     }
 }
 
-void TestOverlay::shapes()
+void OverlayTest::shapes()
 {
     QFETCH(OverlayMarks, marks);
     QImage picture = sky();
@@ -189,7 +189,7 @@ void TestOverlay::shapes()
     QVERIFY(picture == drawn(marks));
 }
 
-void TestOverlay::pixels_data()
+void OverlayTest::pixels_data()
 {
     QTest::addColumn<QString>("mark");
     QTest::addColumn<bool>("mono");
@@ -234,7 +234,7 @@ void TestOverlay::pixels_data()
                                   << QColor(248, 248, 255);
 }
 
-void TestOverlay::pixels()
+void OverlayTest::pixels()
 {
     QFETCH(QString, mark);
     QFETCH(bool, mono);
@@ -265,14 +265,14 @@ void TestOverlay::pixels()
                  qPrintable(QStringLiteral("dark %1,%2").arg(point.x()).arg(point.y())));
 }
 
-void TestOverlay::nothingShown()
+void OverlayTest::nothingShown()
 {
     QImage picture = sky();
     paintOverlay(picture, hidden(false));
     QVERIFY(picture == sky());
 }
 
-void TestOverlay::currentState()
+void OverlayTest::currentState()
 {
     Session session;
     session.overlayFlags.showAxisMark = true;
@@ -301,7 +301,7 @@ void TestOverlay::currentState()
     QCOMPARE(m.pole, QPointF(10, 11));
 }
 
-void TestOverlay::eachFlagDrawsItsMark_data()
+void OverlayTest::eachFlagDrawsItsMark_data()
 {
     QTest::addColumn<QString>("mark");
     QTest::addColumn<bool>("mono");
@@ -311,7 +311,7 @@ void TestOverlay::eachFlagDrawsItsMark_data()
 }
 
 /// From the shared state to the pixels.
-void TestOverlay::eachFlagDrawsItsMark()
+void OverlayTest::eachFlagDrawsItsMark()
 {
     QFETCH(QString, mark);
     QFETCH(bool, mono);
@@ -338,7 +338,7 @@ void TestOverlay::eachFlagDrawsItsMark()
     QCOMPARE(picture == sky(), mark == "none");
 }
 
-void TestOverlay::poleIsLeftOutWhileThereIsNone()
+void OverlayTest::poleIsLeftOutWhileThereIsNone()
 {
     Session session;
     session.overlayFlags.showPoleRect = true;
@@ -350,5 +350,5 @@ void TestOverlay::poleIsLeftOutWhileThereIsNone()
     QVERIFY(marksOf(session).showPoleRect);
 }
 
-QTEST_GUILESS_MAIN(TestOverlay)
+QTEST_GUILESS_MAIN(OverlayTest)
 #include "tst_overlay.moc"

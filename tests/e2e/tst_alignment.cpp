@@ -48,7 +48,7 @@ double median(std::vector<double> values)
 }
 } // namespace
 
-class TestAlignment : public QObject
+class AlignmentTest : public QObject
 {
     Q_OBJECT
 
@@ -64,7 +64,7 @@ private:
     std::vector<Result> results;
 };
 
-void TestAlignment::initTestCase()
+void AlignmentTest::initTestCase()
 {
     // Beside the executable, as the settings file: runs of other builds have their own.
     qputenv("QUORVANDEL_SKY", (QCoreApplication::applicationDirPath() + "/sky.ini").toUtf8());
@@ -72,7 +72,7 @@ void TestAlignment::initTestCase()
     applyStyleSheet(*qApp, ":/qss/default.qss");
 }
 
-void TestAlignment::aligns_data()
+void AlignmentTest::aligns_data()
 {
     QTest::addColumn<QString>("date");
     QTest::addColumn<bool>("south");
@@ -93,14 +93,14 @@ void TestAlignment::aligns_data()
                     }
 }
 
-double TestAlignment::run(SessionWindow &window, Knobs &knobs, const Person::Options &options)
+double AlignmentTest::run(SessionWindow &window, Knobs &knobs, const Person::Options &options)
 {
     Person person(window, window.ownSession, knobs, options, 20240523);
     person.align();
     return knobs.poleError();
 }
 
-void TestAlignment::aligns()
+void AlignmentTest::aligns()
 {
     QFETCH(QString, date);
     QFETCH(bool, south);
@@ -152,7 +152,7 @@ void TestAlignment::aligns()
 }
 
 /// Prints the tables and holds the median.
-void TestAlignment::cleanupTestCase()
+void AlignmentTest::cleanupTestCase()
 {
     for (const QString date : {"2024-05-23", "2026-11-20"}) {
         std::vector<double> errors;
@@ -177,5 +177,5 @@ void TestAlignment::cleanupTestCase()
     QFile::remove(settingsFilePath());
 }
 
-QTEST_MAIN(TestAlignment)
+QTEST_MAIN(AlignmentTest)
 #include "tst_alignment.moc"

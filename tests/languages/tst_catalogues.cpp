@@ -48,7 +48,7 @@ const QMap<QString, QSet<QString>> &loanWords()
 }
 } // namespace
 
-class TestCatalogues : public QObject
+class CataloguesTest : public QObject
 {
     Q_OBJECT
 
@@ -68,14 +68,14 @@ private slots:
     void hasTheToolkitsTexts();
 };
 
-void TestCatalogues::isComplete_data()
+void CataloguesTest::isComplete_data()
 {
     QTest::addColumn<int>("number");
     for (std::size_t i = 0; i < languages.size(); ++i)
         QTest::newRow(languages[i].code) << int(i);
 }
 
-void TestCatalogues::isComplete()
+void CataloguesTest::isComplete()
 {
     QFETCH(int, number);
     const auto english = messagesOf(sourceFile(languages.front()));
@@ -90,7 +90,7 @@ void TestCatalogues::isComplete()
     }
 }
 
-void TestCatalogues::keepsPlaceholders()
+void CataloguesTest::keepsPlaceholders()
 {
     QFETCH(int, number);
     for (const Message &m : messagesOf(sourceFile(languages.at(std::size_t(number)))))
@@ -98,14 +98,14 @@ void TestCatalogues::keepsPlaceholders()
 }
 
 /// As many ampersands as the source: none in our own texts, one in some of the toolkit's.
-void TestCatalogues::keepsMnemonics()
+void CataloguesTest::keepsMnemonics()
 {
     QFETCH(int, number);
     for (const Message &m : messagesOf(sourceFile(languages.at(std::size_t(number)))))
         QVERIFY2(m.source.count('&') == m.translation.count('&'), qPrintable(m.translation));
 }
 
-void TestCatalogues::isTranslated()
+void CataloguesTest::isTranslated()
 {
     QFETCH(int, number);
     const Language &language = languages.at(std::size_t(number));
@@ -121,7 +121,7 @@ void TestCatalogues::isTranslated()
     }
 }
 
-void TestCatalogues::isCompiledIn()
+void CataloguesTest::isCompiledIn()
 {
     QFETCH(int, number);
     QTranslator translator;
@@ -129,7 +129,7 @@ void TestCatalogues::isCompiledIn()
     QVERIFY(!translator.isEmpty());
 }
 
-void TestCatalogues::hasTheToolkitsTexts()
+void CataloguesTest::hasTheToolkitsTexts()
 {
     QFETCH(int, number);
     QTranslator translator;
@@ -138,5 +138,5 @@ void TestCatalogues::hasTheToolkitsTexts()
         QVERIFY2(!translator.translate(text.context, text.text).isEmpty(), text.text);
 }
 
-QTEST_MAIN(TestCatalogues)
+QTEST_MAIN(CataloguesTest)
 #include "tst_catalogues.moc"

@@ -255,7 +255,7 @@ QStringList lacksIn(QMenu &menu, const Pictures &pictures)
 }
 } // namespace
 
-class TestLanguageFit : public QObject
+class LanguageFitTest : public QObject
 {
     Q_OBJECT
 
@@ -268,13 +268,13 @@ private:
     void choose(MainWindow &window, const char *action);
 };
 
-void TestLanguageFit::initTestCase()
+void LanguageFitTest::initTestCase()
 {
     initialiseResources();
     applyStyleSheet(*qApp, ":/qss/default.qss");
 }
 
-void TestLanguageFit::fits_data()
+void LanguageFitTest::fits_data()
 {
     QTest::addColumn<int>("number");
     QTest::addColumn<bool>("mono");
@@ -286,7 +286,7 @@ void TestLanguageFit::fits_data()
                     << int(i) << mono << size;
 }
 
-void TestLanguageFit::fits()
+void LanguageFitTest::fits()
 {
     QFETCH(int, number);
     QFETCH(bool, mono);
@@ -331,5 +331,5 @@ void TestLanguageFit::fits()
     }
 }
 
-QTEST_MAIN(TestLanguageFit)
+QTEST_MAIN(LanguageFitTest)
 #include "tst_languagefit.moc"

@@ -57,7 +57,7 @@ private:
 };
 } // namespace
 
-class TestLanguageSwitch : public QObject
+class LanguageSwitchTest : public QObject
 {
     Q_OBJECT
 
@@ -78,7 +78,7 @@ private slots:
     void failedLoadKeepsTheLanguage();
 };
 
-void TestLanguageSwitch::goesThroughAllAndBack()
+void LanguageSwitchTest::goesThroughAllAndBack()
 {
     SessionWindow window;
     MainWindowProbe probe(window);
@@ -101,7 +101,7 @@ void TestLanguageSwitch::goesThroughAllAndBack()
     }
 }
 
-void TestLanguageSwitch::keepsTheWizardsStep()
+void LanguageSwitchTest::keepsTheWizardsStep()
 {
     SessionWindow window;
     window.show();
@@ -114,7 +114,7 @@ void TestLanguageSwitch::keepsTheWizardsStep()
     QVERIFY(window.findChild<QLabel *>("label_getEptPolaris_tipMsg")->text().contains("σ Oct"));
 }
 
-void TestLanguageSwitch::keepsShownData()
+void LanguageSwitchTest::keepsShownData()
 {
     SessionWindow window;
     window.findChild<QLabel *>("label_axisPos")->setText("(1.5,2.5)");
@@ -131,7 +131,7 @@ void TestLanguageSwitch::keepsShownData()
     QCOMPARE(window.windowTitle(), QString("Quorvandel - ID:QUORVANDEL-1"));
 }
 
-void TestLanguageSwitch::reachesOpenAndHiddenDialogs()
+void LanguageSwitchTest::reachesOpenAndHiddenDialogs()
 {
     SessionWindow window;
     window.show();
@@ -162,7 +162,7 @@ void TestLanguageSwitch::reachesOpenAndHiddenDialogs()
         QVERIFY2(box->isChecked(), qPrintable(box->objectName()));
 }
 
-void TestLanguageSwitch::dialogTexts_data()
+void LanguageSwitchTest::dialogTexts_data()
 {
     QTest::addColumn<QString>("dialog");
     QTest::addColumn<QString>("widget"); ///< empty = the dialog's own title
@@ -190,7 +190,7 @@ void TestLanguageSwitch::dialogTexts_data()
 }
 
 /// French and English again; the dialog has not been shown.
-void TestLanguageSwitch::dialogTexts()
+void LanguageSwitchTest::dialogTexts()
 {
     QFETCH(QString, dialog);
     QFETCH(QString, widget);
@@ -214,7 +214,7 @@ void TestLanguageSwitch::dialogTexts()
     QTRY_COMPARE(text(), source);
 }
 
-void TestLanguageSwitch::isToldOnce_data()
+void LanguageSwitchTest::isToldOnce_data()
 {
     QTest::addColumn<QString>("from");
     QTest::addColumn<QString>("to");
@@ -224,7 +224,7 @@ void TestLanguageSwitch::isToldOnce_data()
     }
 }
 
-void TestLanguageSwitch::isToldOnce()
+void LanguageSwitchTest::isToldOnce()
 {
     QFETCH(QString, from);
     QFETCH(QString, to);
@@ -239,7 +239,7 @@ void TestLanguageSwitch::isToldOnce()
     QCOMPARE(log.texts(QtDebugMsg).filter("current language").size(), 1);
 }
 
-void TestLanguageSwitch::isToldAtStart_data()
+void LanguageSwitchTest::isToldAtStart_data()
 {
     QTest::addColumn<int>("times");
     for (const Language &language : languages)
@@ -249,7 +249,7 @@ void TestLanguageSwitch::isToldAtStart_data()
 
 /// The start announces the language by itself; checking another action than English, which is
 /// checked from the first, announces it besides.
-void TestLanguageSwitch::isToldAtStart()
+void LanguageSwitchTest::isToldAtStart()
 {
     QFETCH(int, times);
     const QByteArray code = QTest::currentDataTag();
@@ -263,7 +263,7 @@ void TestLanguageSwitch::isToldAtStart()
              in(languageOf(code), "MainWindow", "File"));
 }
 
-void TestLanguageSwitch::choosingTheCheckedLanguageDoesNothing()
+void LanguageSwitchTest::choosingTheCheckedLanguageDoesNothing()
 {
     SessionWindow window;
     window.findChild<QAction *>("actionItalian")->setChecked(true);
@@ -272,7 +272,7 @@ void TestLanguageSwitch::choosingTheCheckedLanguageDoesNothing()
     QVERIFY(log.lines().isEmpty());
 }
 
-void TestLanguageSwitch::takesUnknownCodesForEnglish()
+void LanguageSwitchTest::takesUnknownCodesForEnglish()
 {
     for (const char *const code : {"", "XX", "zh", "de", "EN ", "ENGLISH"})
         QCOMPARE(languageOf(code).code, "EN");
@@ -281,7 +281,7 @@ void TestLanguageSwitch::takesUnknownCodesForEnglish()
 }
 
 /// Nothing is installed, retranslated or reported when a catalogue does not load.
-void TestLanguageSwitch::failedLoadKeepsTheLanguage()
+void LanguageSwitchTest::failedLoadKeepsTheLanguage()
 {
     QTranslator translator;
     QVERIFY(!translator.load(":/languages/lan_xx_xx.qm", "", "", ""));
@@ -300,5 +300,5 @@ void TestLanguageSwitch::failedLoadKeepsTheLanguage()
     QCOMPARE(log.lines().first().text, QString("current language \"KO\""));
 }
 
-QTEST_MAIN(TestLanguageSwitch)
+QTEST_MAIN(LanguageSwitchTest)
 #include "tst_languageswitch.moc"

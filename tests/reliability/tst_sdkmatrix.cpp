@@ -118,7 +118,7 @@ Outcome outcomeOfConnecting(const Fault &fault)
 Q_DECLARE_METATYPE(Fault)
 Q_DECLARE_METATYPE(Moment)
 
-class SdkMatrix : public QObject
+class SdkMatrixTest : public QObject
 {
     Q_OBJECT
 
@@ -139,7 +139,7 @@ private:
                      const Outcome &outcome);
 };
 
-void SdkMatrix::failure_data()
+void SdkMatrixTest::failure_data()
 {
     QTest::addColumn<Fault>("fault");
     QTest::addColumn<Moment>("moment");
@@ -150,8 +150,8 @@ void SdkMatrix::failure_data()
                 << fault << moment;
 }
 
-void SdkMatrix::compareWith(const CameraWindow &w, const LogRecorder &log, const BoxWatcher &boxes,
-                            const Outcome &outcome)
+void SdkMatrixTest::compareWith(const CameraWindow &w, const LogRecorder &log,
+                                const BoxWatcher &boxes, const Outcome &outcome)
 {
     QCOMPARE(log.texts(QtCriticalMsg), criticalLines(outcome));
     QCOMPARE(boxes.boxes().size(), outcome.box ? 1 : 0);
@@ -161,7 +161,7 @@ void SdkMatrix::compareWith(const CameraWindow &w, const LogRecorder &log, const
 }
 
 /// Chooses Connect under the fault and compares what comes of it.
-void SdkMatrix::connecting(const CameraWindow &w, const Fault &fault, bool ready)
+void SdkMatrixTest::connecting(const CameraWindow &w, const Fault &fault, bool ready)
 {
     const LogRecorder log;
     const BoxWatcher boxes;
@@ -176,7 +176,7 @@ void SdkMatrix::connecting(const CameraWindow &w, const Fault &fault, bool ready
     compareWith(w, log, boxes, outcome);
 }
 
-void SdkMatrix::failure()
+void SdkMatrixTest::failure()
 {
     QFETCH(Fault, fault);
     QFETCH(Moment, moment);
@@ -216,7 +216,7 @@ void SdkMatrix::failure()
     QVERIFY(worksAgain(*w));
 }
 
-void SdkMatrix::frame_data()
+void SdkMatrixTest::frame_data()
 {
     QTest::addColumn<uint>("width");
     QTest::addColumn<uint>("height");
@@ -243,7 +243,7 @@ void SdkMatrix::frame_data()
 }
 
 /// Good frames, then strange ones, then good ones again; the mouse and the controls work meanwhile.
-void SdkMatrix::frame()
+void SdkMatrixTest::frame()
 {
     QFETCH(uint, width);
     QFETCH(uint, height);
@@ -275,7 +275,7 @@ void SdkMatrix::frame()
     QVERIFY(worksAgain(w));
 }
 
-void SdkMatrix::id_data()
+void SdkMatrixTest::id_data()
 {
     QTest::addColumn<QByteArray>("id");
     QTest::addColumn<bool>("terminated");
@@ -292,7 +292,7 @@ void SdkMatrix::id_data()
     QTest::newRow("format signs") << QByteArray("QUORVANDEL-%s%n%1") << true << true;
 }
 
-void SdkMatrix::id()
+void SdkMatrixTest::id()
 {
     QFETCH(QByteArray, id);
     QFETCH(bool, terminated);
@@ -313,7 +313,7 @@ void SdkMatrix::id()
     QVERIFY(worksAgain(w));
 }
 
-void SdkMatrix::hangingFetch_data()
+void SdkMatrixTest::hangingFetch_data()
 {
     QTest::addColumn<bool>("disconnects");
     QTest::newRow("nothing is done") << false;
@@ -321,7 +321,7 @@ void SdkMatrix::hangingFetch_data()
 }
 
 /// The window goes on while a fetch hangs; Disconnect waits for it and no longer.
-void SdkMatrix::hangingFetch()
+void SdkMatrixTest::hangingFetch()
 {
     QFETCH(bool, disconnects);
     const CameraWindow w({}, giveGoodFrames);
@@ -358,5 +358,5 @@ void SdkMatrix::hangingFetch()
     QVERIFY(worksAgain(w));
 }
 
-QTEST_MAIN(SdkMatrix)
+QTEST_MAIN(SdkMatrixTest)
 #include "tst_sdkmatrix.moc"

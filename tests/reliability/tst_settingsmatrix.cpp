@@ -122,7 +122,7 @@ void work(SessionWindow &window)
 }
 } // namespace
 
-class SettingsMatrix : public QObject
+class SettingsMatrixTest : public QObject
 {
     Q_OBJECT
 
@@ -138,13 +138,13 @@ private slots:
     void rubbish();
 };
 
-void SettingsMatrix::initTestCase()
+void SettingsMatrixTest::initTestCase()
 {
     initialiseResources();
     QVERIFY(givePlaceAway());
 }
 
-void SettingsMatrix::content_data()
+void SettingsMatrixTest::content_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QStringList>("expected");
@@ -220,7 +220,7 @@ void SettingsMatrix::content_data()
                 << defaults;
 }
 
-void SettingsMatrix::content()
+void SettingsMatrixTest::content()
 {
     QFETCH(QByteArray, bytes);
     QFETCH(QStringList, expected);
@@ -248,7 +248,7 @@ Q_DECLARE_METATYPE(Arrange)
 Q_DECLARE_METATYPE(After)
 
 /// What else than a file of ours may lie there, or in what kind of folder.
-void SettingsMatrix::place_data()
+void SettingsMatrixTest::place_data()
 {
     QTest::addColumn<Arrange>("arrange");
     QTest::addColumn<QString>("style"); // that is read
@@ -289,7 +289,7 @@ void SettingsMatrix::place_data()
         QTest::newRow(row.name) << row.arrange << QString(row.style) << row.after;
 }
 
-void SettingsMatrix::place()
+void SettingsMatrixTest::place()
 {
     QFETCH(Arrange, arrange);
     QFETCH(QString, style);
@@ -318,7 +318,7 @@ void SettingsMatrix::place()
 }
 
 /// Neither read nor waited for, and no memory is used for it; one line in the log says so.
-void SettingsMatrix::hugeFile()
+void SettingsMatrixTest::hugeFile()
 {
     const auto peakOfOneWindow = [] {
         forgetPeakMemory();
@@ -352,7 +352,7 @@ void SettingsMatrix::hugeFile()
 }
 
 /// Seeded: the same rows in every run.
-void SettingsMatrix::rubbish_data()
+void SettingsMatrixTest::rubbish_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     std::mt19937 random(20240523);
@@ -374,7 +374,7 @@ void SettingsMatrix::rubbish_data()
     }
 }
 
-void SettingsMatrix::rubbish()
+void SettingsMatrixTest::rubbish()
 {
     QFETCH(QByteArray, bytes);
     put(bytes);
@@ -390,5 +390,5 @@ void SettingsMatrix::rubbish()
     QCOMPARE(inForce(again), before);
 }
 
-QTEST_MAIN(SettingsMatrix)
+QTEST_MAIN(SettingsMatrixTest)
 #include "tst_settingsmatrix.moc"

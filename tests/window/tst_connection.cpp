@@ -11,7 +11,7 @@
 #include <memory>
 #include <vector>
 
-class TestConnection : public QObject
+class ConnectionTest : public QObject
 {
     Q_OBJECT
 
@@ -33,12 +33,12 @@ private slots:
     void keptParametersAreSentAgain();
 };
 
-void TestConnection::cleanup()
+void ConnectionTest::cleanup()
 {
     QCOMPARE(sdkViolations(), QStringList());
 }
 
-void TestConnection::startUp()
+void ConnectionTest::startUp()
 {
     const LogRecorder log;
     const CameraWindow w;
@@ -48,7 +48,7 @@ void TestConnection::startUp()
     QCOMPARE(shownBy(w), atRest(w));
 }
 
-void TestConnection::startUpFails()
+void ConnectionTest::startUpFails()
 {
     const LogRecorder log;
     const CameraWindow w({}, [] { sdk().setStatus("InitVELDIXResource", 1); });
@@ -57,7 +57,7 @@ void TestConnection::startUpFails()
     QVERIFY(!w.session().camera.sdkReady);
 }
 
-void TestConnection::notReady()
+void ConnectionTest::notReady()
 {
     const CameraWindow w({}, [] { sdk().setStatus("InitVELDIXResource", sdkError); });
     sdk().clearCalls();
@@ -71,7 +71,7 @@ void TestConnection::notReady()
     QCOMPARE(shownBy(w), atRest(w));
 }
 
-void TestConnection::connectAndDisconnect()
+void ConnectionTest::connectAndDisconnect()
 {
     const CameraWindow w;
     const QString plainTitle = w.window->windowTitle();
@@ -106,7 +106,7 @@ void TestConnection::connectAndDisconnect()
 }
 
 /// A camera that refuses a format or holds up the setting is connected all the same.
-void TestConnection::connectedBeforeItIsSet()
+void ConnectionTest::connectedBeforeItIsSet()
 {
     const CameraWindow w;
     std::unique_ptr<Shown> early;
@@ -117,7 +117,7 @@ void TestConnection::connectedBeforeItIsSet()
     QCOMPARE(*early, connectedState);
 }
 
-void TestConnection::choice_data()
+void ConnectionTest::choice_data()
 {
     QTest::addColumn<QStringList>("ids");
     QTest::addColumn<int>("failingId");
@@ -153,7 +153,7 @@ void TestConnection::choice_data()
         false);
 }
 
-void TestConnection::choice()
+void ConnectionTest::choice()
 {
     QFETCH(QStringList, ids);
     QFETCH(int, failingId);
@@ -177,7 +177,7 @@ void TestConnection::choice()
         QCOMPARE(w.window->windowTitle(), "Quorvandel - ID:" + opened);
 }
 
-void TestConnection::manyCameras_data()
+void ConnectionTest::manyCameras_data()
 {
     QTest::addColumn<int>("count");
     QTest::addColumn<int>("read"); ///< IDs that are asked for
@@ -188,7 +188,7 @@ void TestConnection::manyCameras_data()
 }
 
 /// A library that tells of more cameras than can be is not asked for the IDs of all.
-void TestConnection::manyCameras()
+void ConnectionTest::manyCameras()
 {
     QFETCH(int, count);
     QFETCH(int, read);
@@ -206,7 +206,7 @@ void TestConnection::manyCameras()
     QCOMPARE(shownBy(w), atRest(w));
 }
 
-void TestConnection::openingIsNotReached_data()
+void ConnectionTest::openingIsNotReached_data()
 {
     QTest::addColumn<int>("count");
     QTest::newRow("no camera") << 0;
@@ -215,7 +215,7 @@ void TestConnection::openingIsNotReached_data()
     QTest::newRow("most negative") << std::numeric_limits<int>::min();
 }
 
-void TestConnection::openingIsNotReached()
+void ConnectionTest::openingIsNotReached()
 {
     QFETCH(int, count);
     const CameraWindow w;
@@ -230,7 +230,7 @@ void TestConnection::openingIsNotReached()
     QCOMPARE(shownBy(w), atRest(w));
 }
 
-void TestConnection::readBack_data()
+void ConnectionTest::readBack_data()
 {
     QTest::addColumn<double>("exposure");
     QTest::addColumn<double>("gain");
@@ -248,7 +248,7 @@ void TestConnection::readBack_data()
     QTest::newRow("not a number") << std::nan("") << std::nan("") << 0 << 0;
 }
 
-void TestConnection::readBack()
+void ConnectionTest::readBack()
 {
     QFETCH(double, exposure);
     QFETCH(double, gain);
@@ -277,7 +277,7 @@ void TestConnection::readBack()
 }
 
 /// Traffic and speed are written at every connection; exposure and gain are the camera's.
-void TestConnection::keptParametersAreSentAgain()
+void ConnectionTest::keptParametersAreSentAgain()
 {
     const CameraWindow w;
     w.connectCamera();
@@ -294,5 +294,5 @@ void TestConnection::keptParametersAreSentAgain()
     QCOMPARE(w.session().camera.exposure, 44000.0);
 }
 
-QTEST_MAIN(TestConnection)
+QTEST_MAIN(ConnectionTest)
 #include "tst_connection.moc"

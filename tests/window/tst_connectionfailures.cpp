@@ -6,7 +6,7 @@
 #include <QLabel>
 #include <QtTest>
 
-class TestConnectionFailures : public QObject
+class ConnectionFailuresTest : public QObject
 {
     Q_OBJECT
 
@@ -20,12 +20,12 @@ private slots:
     void failedStopIsNotLogged();
 };
 
-void TestConnectionFailures::cleanup()
+void ConnectionFailuresTest::cleanup()
 {
     QCOMPARE(sdkViolations(), QStringList());
 }
 
-void TestConnectionFailures::failure_data()
+void ConnectionFailuresTest::failure_data()
 {
     QTest::addColumn<QString>("operation");
     QTest::addColumn<uint>("status");
@@ -60,7 +60,7 @@ void TestConnectionFailures::failure_data()
     row("live mode", "BeginVELDIXLive", 1, all, "BeginVELDIXLive failure", false, true);
 }
 
-void TestConnectionFailures::failure()
+void ConnectionFailuresTest::failure()
 {
     QFETCH(QString, operation);
     QFETCH(uint, status);
@@ -91,7 +91,7 @@ void TestConnectionFailures::failure()
     QCOMPARE(w.session().handle.get() == nullptr, operation == "OpenVELDIX");
 }
 
-void TestConnectionFailures::againAfterAFailure_data()
+void ConnectionFailuresTest::againAfterAFailure_data()
 {
     QTest::addColumn<QString>("operation");
     QTest::addColumn<int>("opened"); ///< cameras opened by the second try
@@ -100,7 +100,7 @@ void TestConnectionFailures::againAfterAFailure_data()
     QTest::newRow("init") << "InitVELDIX" << 2;
 }
 
-void TestConnectionFailures::againAfterAFailure()
+void ConnectionFailuresTest::againAfterAFailure()
 {
     QFETCH(QString, operation);
     QFETCH(int, opened);
@@ -123,7 +123,7 @@ void TestConnectionFailures::againAfterAFailure()
     QCOMPARE(shownBy(w), atRest(w));
 }
 
-void TestConnectionFailures::failedCloseLeavesItConnected()
+void ConnectionFailuresTest::failedCloseLeavesItConnected()
 {
     const CameraWindow w;
     showFrame(starFrame({{640, 480}}));
@@ -158,7 +158,7 @@ void TestConnectionFailures::failedCloseLeavesItConnected()
     QCOMPARE(boxes.boxes(), QList<Box>());
 }
 
-void TestConnectionFailures::failedStopIsNotLogged()
+void ConnectionFailuresTest::failedStopIsNotLogged()
 {
     const CameraWindow w;
     w.connectCamera();
@@ -170,5 +170,5 @@ void TestConnectionFailures::failedStopIsNotLogged()
     QCOMPARE(shownBy(w), atRest(w));
 }
 
-QTEST_MAIN(TestConnectionFailures)
+QTEST_MAIN(ConnectionFailuresTest)
 #include "tst_connectionfailures.moc"

@@ -80,7 +80,7 @@ public:
 };
 } // namespace
 
-class TestControls : public QObject
+class ControlsTest : public QObject
 {
     Q_OBJECT
 
@@ -103,12 +103,12 @@ private slots:
     void wheelScrollsThePanel();
 };
 
-void TestControls::cleanup()
+void ControlsTest::cleanup()
 {
     QCOMPARE(sdkViolations(), QStringList());
 }
 
-void TestControls::keys_data()
+void ControlsTest::keys_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("key");
@@ -130,7 +130,7 @@ void TestControls::keys_data()
     }
 }
 
-void TestControls::keys()
+void ControlsTest::keys()
 {
     QFETCH(QString, name);
     QFETCH(int, key);
@@ -142,14 +142,14 @@ void TestControls::keys()
     w.check({callFor(c, value)}, value, QString::number(value));
 }
 
-void TestControls::dragging_data()
+void ControlsTest::dragging_data()
 {
     QTest::addColumn<QString>("name");
     for (const Control &c : controls)
         QTest::newRow(c.name) << c.name;
 }
 
-void TestControls::dragging()
+void ControlsTest::dragging()
 {
     QFETCH(QString, name);
     const Control &c = controlNamed(name);
@@ -172,7 +172,7 @@ void TestControls::dragging()
     w.check({callFor(c, middle), callFor(c, c.most)}, c.most, QString::number(c.most));
 }
 
-void TestControls::typing_data()
+void ControlsTest::typing_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("keys");
@@ -203,7 +203,7 @@ void TestControls::typing_data()
     row("speed", "2147483648", "2", 2);
 }
 
-void TestControls::typing()
+void ControlsTest::typing()
 {
     QFETCH(QString, name);
     QFETCH(QString, keys);
@@ -219,7 +219,7 @@ void TestControls::typing()
     w.check({callFor(c, value)}, value, text);
 }
 
-void TestControls::typingAloneSendsNothing()
+void ControlsTest::typingAloneSendsNothing()
 {
     const Control &c = controls[0];
     const ControlWindow w(c);
@@ -230,7 +230,7 @@ void TestControls::typingAloneSendsNothing()
     QCOMPARE(w.slider.value(), c.start);
 }
 
-void TestControls::emptyText_data()
+void ControlsTest::emptyText_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("text");
@@ -246,7 +246,7 @@ void TestControls::emptyText_data()
 }
 
 /// The validator keeps Return from an empty box; the slot itself must stand it.
-void TestControls::emptyText()
+void ControlsTest::emptyText()
 {
     QFETCH(QString, name);
     QFETCH(QString, text);
@@ -261,12 +261,12 @@ void TestControls::emptyText()
     w.check({callFor(c, value)}, value, text);
 }
 
-void TestControls::refusedByTheCamera_data()
+void ControlsTest::refusedByTheCamera_data()
 {
     dragging_data();
 }
 
-void TestControls::refusedByTheCamera()
+void ControlsTest::refusedByTheCamera()
 {
     QFETCH(QString, name);
     const Control &c = controlNamed(name);
@@ -278,13 +278,13 @@ void TestControls::refusedByTheCamera()
     QCOMPARE(boxes.boxes(), QList<Box>());
 }
 
-void TestControls::withoutCamera_data()
+void ControlsTest::withoutCamera_data()
 {
     dragging_data();
 }
 
 /// The call is made with no handle, and the value waits for the next connection.
-void TestControls::withoutCamera()
+void ControlsTest::withoutCamera()
 {
     QFETCH(QString, name);
     const Control &c = controlNamed(name);
@@ -299,7 +299,7 @@ void TestControls::withoutCamera()
     QCOMPARE(w.session().camera.*c.value, c.perUnit);
 }
 
-void TestControls::wheelScrollsThePanel_data()
+void ControlsTest::wheelScrollsThePanel_data()
 {
     QTest::addColumn<int>("step");
     QTest::addColumn<QString>("name");
@@ -311,7 +311,7 @@ void TestControls::wheelScrollsThePanel_data()
 }
 
 /// Over a slider too, unless it has the focus.
-void TestControls::wheelScrollsThePanel()
+void ControlsTest::wheelScrollsThePanel()
 {
     QFETCH(int, step);
     QFETCH(QString, name);
@@ -340,5 +340,5 @@ void TestControls::wheelScrollsThePanel()
     QVERIFY(slider.value() > value);
 }
 
-QTEST_MAIN(TestControls)
+QTEST_MAIN(ControlsTest)
 #include "tst_controls.moc"

@@ -11,7 +11,7 @@
 #include <QtTest>
 #include <atomic>
 
-class TestDisconnection : public QObject
+class DisconnectionTest : public QObject
 {
     Q_OBJECT
 
@@ -37,12 +37,12 @@ private slots:
     void closeWindowDuringALongFetch();
 };
 
-void TestDisconnection::cleanup()
+void DisconnectionTest::cleanup()
 {
     QCOMPARE(sdkViolations(), QStringList());
 }
 
-void TestDisconnection::disconnectClearsThePicture()
+void DisconnectionTest::disconnectClearsThePicture()
 {
     const CameraWindow w;
     showFrame(starFrame({{640, 480}}));
@@ -74,7 +74,7 @@ void TestDisconnection::disconnectClearsThePicture()
 }
 
 /// By itself: nothing else is painted that would paint it along.
-void TestDisconnection::disconnectPaintsTheMagnifier()
+void DisconnectionTest::disconnectPaintsTheMagnifier()
 {
     const CameraWindow w;
     showFrame(starFrame({{640, 480}}));
@@ -91,7 +91,7 @@ void TestDisconnection::disconnectPaintsTheMagnifier()
 }
 
 /// The thread is told to stop, and that is all.
-void TestDisconnection::disconnectWithoutHandle()
+void DisconnectionTest::disconnectWithoutHandle()
 {
     const CameraWindow w;
     showFrame(starFrame({{640, 480}}));
@@ -109,7 +109,7 @@ void TestDisconnection::disconnectWithoutHandle()
     w.session().handle.set(handle); // closed with the window
 }
 
-void TestDisconnection::quickReconnect()
+void DisconnectionTest::quickReconnect()
 {
     const CameraWindow w;
     showFrame(starFrame({{640, 480}}));
@@ -125,7 +125,7 @@ void TestDisconnection::quickReconnect()
              closing + QStringList("OpenVELDIX(QUORVANDEL-0001)"));
 }
 
-void TestDisconnection::manyReconnectsWhileFramesFlow()
+void DisconnectionTest::manyReconnectsWhileFramesFlow()
 {
     const CameraWindow w;
     showFrame(starFrame({{640, 480}}));
@@ -144,7 +144,7 @@ void TestDisconnection::manyReconnectsWhileFramesFlow()
 }
 
 /// The capture thread may be beginning still: the camera is not closed under it.
-void TestDisconnection::disconnectWhileItBegins()
+void DisconnectionTest::disconnectWhileItBegins()
 {
     std::atomic<bool> inside{false}, goOn{false};
     const CameraWindow w;
@@ -168,7 +168,7 @@ void TestDisconnection::disconnectWhileItBegins()
     QCOMPARE(shownBy(w), atRest(w));
 }
 
-void TestDisconnection::disconnectDuringALongFetch()
+void DisconnectionTest::disconnectDuringALongFetch()
 {
     const CameraWindow w;
     showFrame(starFrame({{640, 480}}));
@@ -203,7 +203,7 @@ void TestDisconnection::disconnectDuringALongFetch()
 }
 
 /// The window comes back without the camera being closed, and a later Disconnect closes it.
-void TestDisconnection::disconnectFromALibraryThatHangs()
+void DisconnectionTest::disconnectFromALibraryThatHangs()
 {
     const CameraWindow w;
     showFrame(starFrame({{640, 480}}));
@@ -232,7 +232,7 @@ void TestDisconnection::disconnectFromALibraryThatHangs()
     QVERIFY(w.waitForNewFrame());
 }
 
-void TestDisconnection::disconnectInEveryStep_data()
+void DisconnectionTest::disconnectInEveryStep_data()
 {
     QTest::addColumn<int>("step");
     for (int step = 1; step <= 13; ++step)
@@ -240,7 +240,7 @@ void TestDisconnection::disconnectInEveryStep_data()
 }
 
 /// The wizard is put away, and remembers where it was.
-void TestDisconnection::disconnectInEveryStep()
+void DisconnectionTest::disconnectInEveryStep()
 {
     QFETCH(int, step);
     const CameraWindow w;
@@ -269,7 +269,7 @@ void TestDisconnection::disconnectInEveryStep()
     QCOMPARE(w.window->step(), step);
 }
 
-void TestDisconnection::closeWindow_data()
+void DisconnectionTest::closeWindow_data()
 {
     QTest::addColumn<QString>("failing");
     QTest::addColumn<bool>("connected");
@@ -288,7 +288,7 @@ void TestDisconnection::closeWindow_data()
         << "InitVELDIX" << false << QStringList() << QStringList() << false;
 }
 
-void TestDisconnection::closeWindow()
+void DisconnectionTest::closeWindow()
 {
     QFETCH(QString, failing);
     QFETCH(bool, connected);
@@ -314,7 +314,7 @@ void TestDisconnection::closeWindow()
 }
 
 /// There is nothing to close, and nothing to say; the library is given up all the same.
-void TestDisconnection::closeWindowWithoutHandle()
+void DisconnectionTest::closeWindowWithoutHandle()
 {
     const CameraWindow w;
     w.connectCamera();
@@ -331,7 +331,7 @@ void TestDisconnection::closeWindowWithoutHandle()
 }
 
 /// A library that crashes or hangs as it stops takes no setting with it.
-void TestDisconnection::settingsAreSavedBeforeTheCameraStops()
+void DisconnectionTest::settingsAreSavedBeforeTheCameraStops()
 {
     QByteArray atStop;
     const CameraWindow w;
@@ -351,7 +351,7 @@ void TestDisconnection::settingsAreSavedBeforeTheCameraStops()
 }
 
 /// The second closing lets the camera go; the library was given up by the first.
-void TestDisconnection::closeAgainAfterAFailedClose()
+void DisconnectionTest::closeAgainAfterAFailedClose()
 {
     const CameraWindow w;
     w.connectCamera();
@@ -364,7 +364,7 @@ void TestDisconnection::closeAgainAfterAFailedClose()
     QVERIFY(!w.session().camera.cameraConnected);
 }
 
-void TestDisconnection::closeWindowStopsTheTimers()
+void DisconnectionTest::closeWindowStopsTheTimers()
 {
     const CameraWindow w;
     const MainWindowProbe probe(*w.window);
@@ -377,7 +377,7 @@ void TestDisconnection::closeWindowStopsTheTimers()
     QVERIFY(probe.fpsTimer().isActive());
 }
 
-void TestDisconnection::closeWindowWhileFramesFlow()
+void DisconnectionTest::closeWindowWhileFramesFlow()
 {
     for (int i = 0; i < 4; ++i) {
         const LogRecorder log;
@@ -400,7 +400,7 @@ void TestDisconnection::closeWindowWhileFramesFlow()
     }
 }
 
-void TestDisconnection::closeWindowDuringALongFetch()
+void DisconnectionTest::closeWindowDuringALongFetch()
 {
     const LogRecorder log;
     {
@@ -420,5 +420,5 @@ void TestDisconnection::closeWindowDuringALongFetch()
     QVERIFY(log.contains(QtDebugMsg, "CaptureThread done"));
 }
 
-QTEST_MAIN(TestDisconnection)
+QTEST_MAIN(DisconnectionTest)
 #include "tst_disconnection.moc"

@@ -23,7 +23,7 @@ QByteArray zoomSetting(const QByteArray &factor)
 }
 } // namespace
 
-class TestFrameDisplay : public QObject
+class FrameDisplayTest : public QObject
 {
     Q_OBJECT
 
@@ -46,7 +46,7 @@ private slots:
     void monitorModeOff();
 };
 
-void TestFrameDisplay::zoom_data()
+void FrameDisplayTest::zoom_data()
 {
     QTest::addColumn<QByteArray>("factor");
     QTest::addColumn<QSize>("frame");
@@ -60,7 +60,7 @@ void TestFrameDisplay::zoom_data()
     QTest::newRow("small frame") << QByteArray("0.5") << QSize(333, 111) << QSize(165, 55);
 }
 
-void TestFrameDisplay::zoom()
+void FrameDisplayTest::zoom()
 {
     QFETCH(QByteArray, factor);
     QFETCH(QSize, frame);
@@ -74,7 +74,7 @@ void TestFrameDisplay::zoom()
 }
 
 /// Whatever the camera has said of the frames after it.
-void TestFrameDisplay::waitingPictureKeepsItsSize()
+void FrameDisplayTest::waitingPictureKeepsItsSize()
 {
     const CameraWindow w(zoomSetting("0.5"));
     w.session().frameQueue.append(plainPicture(640, 480, Qt::blue));
@@ -85,7 +85,7 @@ void TestFrameDisplay::waitingPictureKeepsItsSize()
 }
 
 /// At half size a pixel is the mean of four: no star of one pixel is lost.
-void TestFrameDisplay::scalingIsSmooth()
+void FrameDisplayTest::scalingIsSmooth()
 {
     const CameraWindow w(zoomSetting("0.5"));
     QImage picture = plainPicture(64, 48, Qt::black);
@@ -101,7 +101,7 @@ void TestFrameDisplay::scalingIsSmooth()
             QVERIFY(std::abs(shown.pixelColor(x, y).red() - 127) <= 2);
 }
 
-void TestFrameDisplay::framesFromTheCamera_data()
+void FrameDisplayTest::framesFromTheCamera_data()
 {
     QTest::addColumn<QByteArray>("factor");
     QTest::addColumn<QPoint>("star"); ///< view pixel of the frame pixel 800, 600
@@ -110,7 +110,7 @@ void TestFrameDisplay::framesFromTheCamera_data()
     QTest::newRow("50") << QByteArray("0.5") << QPoint(400, 300);
 }
 
-void TestFrameDisplay::framesFromTheCamera()
+void FrameDisplayTest::framesFromTheCamera()
 {
     QFETCH(QByteArray, factor);
     QFETCH(QPoint, star);
@@ -125,7 +125,7 @@ void TestFrameDisplay::framesFromTheCamera()
     QTRY_COMPARE(label.size(), picture.size());
 }
 
-void TestFrameDisplay::oldestFirstAndOneATick()
+void FrameDisplayTest::oldestFirstAndOneATick()
 {
     const CameraWindow w;
     w.session().frameQueue.append(plainPicture(64, 48, Qt::red));
@@ -141,7 +141,7 @@ void TestFrameDisplay::oldestFirstAndOneATick()
     QCOMPARE(label.pixmap(Qt::ReturnByValue).toImage().pixelColor(9, 9), QColor(0, 0, 255));
 }
 
-void TestFrameDisplay::nothingWithoutPictures()
+void FrameDisplayTest::nothingWithoutPictures()
 {
     const CameraWindow w;
     QTest::qWait(60);
@@ -150,7 +150,7 @@ void TestFrameDisplay::nothingWithoutPictures()
     QCOMPARE(w.child<QLabel>("fpsLabel").size(), QSize(85, 18));
 }
 
-void TestFrameDisplay::stalledGui()
+void FrameDisplayTest::stalledGui()
 {
     const CameraWindow w;
     showFrame(starFrame({{640, 480}}));
@@ -172,7 +172,7 @@ void TestFrameDisplay::stalledGui()
     QTRY_VERIFY(w.session().frameQueue.isEmpty() && w.session().magnifierQueue.isEmpty());
 }
 
-void TestFrameDisplay::magnifierFollowsThePicture()
+void FrameDisplayTest::magnifierFollowsThePicture()
 {
     const CameraWindow w;
     auto *const magnifier = w.window->findChild<MagnifierWidget *>();
@@ -186,7 +186,7 @@ void TestFrameDisplay::magnifierFollowsThePicture()
     }
 }
 
-void TestFrameDisplay::rateText_data()
+void FrameDisplayTest::rateText_data()
 {
     QTest::addColumn<int>("whole");
     QTest::addColumn<int>("tenths");
@@ -198,7 +198,7 @@ void TestFrameDisplay::rateText_data()
     QTest::newRow("negative") << -333 << -3 << "FPS : -333.-3";
 }
 
-void TestFrameDisplay::rateText()
+void FrameDisplayTest::rateText()
 {
     QFETCH(int, whole);
     QFETCH(int, tenths);
@@ -212,7 +212,7 @@ void TestFrameDisplay::rateText()
     QTRY_COMPARE(label.text(), text); // by the timer
 }
 
-void TestFrameDisplay::rateStaysWhenFramesStop()
+void FrameDisplayTest::rateStaysWhenFramesStop()
 {
     const CameraWindow w;
     showFrame(starFrame({}));
@@ -231,7 +231,7 @@ void TestFrameDisplay::rateStaysWhenFramesStop()
     QCOMPARE(label.text(), text);
 }
 
-void TestFrameDisplay::monitorView()
+void FrameDisplayTest::monitorView()
 {
     const CameraWindow w;
     w.session().overlayFlags.monitorTracking = true;
@@ -249,7 +249,7 @@ void TestFrameDisplay::monitorView()
 }
 
 /// The read-outs belong to the picture beside them: without a new one they stay.
-void TestFrameDisplay::readOutsWaitForAPicture()
+void FrameDisplayTest::readOutsWaitForAPicture()
 {
     const CameraWindow w;
     auto &starA = w.child<QLabel>("label_refStarA_pos");
@@ -277,7 +277,7 @@ void TestFrameDisplay::readOutsWaitForAPicture()
     QVERIFY(view.pixmap(Qt::ReturnByValue).cacheKey() != shown);
 }
 
-void TestFrameDisplay::monitorModeOff()
+void FrameDisplayTest::monitorModeOff()
 {
     const CameraWindow w;
     const QString text = w.child<QLabel>("label_refStarA_pos").text();
@@ -291,5 +291,5 @@ void TestFrameDisplay::monitorModeOff()
     QCOMPARE(w.child<QLabel>("label_refStarA_pos").text(), text);
 }
 
-QTEST_MAIN(TestFrameDisplay)
+QTEST_MAIN(FrameDisplayTest)
 #include "tst_framedisplay.moc"

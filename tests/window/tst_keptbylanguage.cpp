@@ -52,7 +52,7 @@ private:
 };
 } // namespace
 
-class TestKeptByLanguage : public QObject
+class KeptByLanguageTest : public QObject
 {
     Q_OBJECT
 
@@ -66,13 +66,13 @@ private slots:
     void connectActionSaysDisconnect();
 };
 
-void TestKeptByLanguage::initTestCase()
+void KeptByLanguageTest::initTestCase()
 {
     const CameraWindow w; // reads the catalogue
     QVERIFY(northCatalogue.starBX > 0);
 }
 
-void TestKeptByLanguage::texts_data()
+void KeptByLanguageTest::texts_data()
 {
     QTest::addColumn<QString>("how");
     QTest::newRow("label_curPos") << "actionGerman";
@@ -85,7 +85,7 @@ void TestKeptByLanguage::texts_data()
     QTest::newRow("label_refStarB_pos by the slot") << "uiReset";
 }
 
-void TestKeptByLanguage::texts()
+void KeptByLanguageTest::texts()
 {
     QFETCH(QString, how);
     const QPointF starB(500.4, 420.3);
@@ -97,7 +97,7 @@ void TestKeptByLanguage::texts()
     QCOMPARE(w.text(label), before);
 }
 
-void TestKeptByLanguage::pictures_data()
+void KeptByLanguageTest::pictures_data()
 {
     QTest::addColumn<QString>("how");
     QTest::newRow("label_showImg") << "actionGerman";
@@ -108,7 +108,7 @@ void TestKeptByLanguage::pictures_data()
     QTest::newRow("label_templateImg by the slot") << "uiReset";
 }
 
-void TestKeptByLanguage::pictures()
+void KeptByLanguageTest::pictures()
 {
     QFETCH(QString, how);
     const QPointF starB(500.4, 420.3);
@@ -121,7 +121,7 @@ void TestKeptByLanguage::pictures()
     QCOMPARE(w.text(label), QString());
 }
 
-void TestKeptByLanguage::connectActionSaysDisconnect_data()
+void KeptByLanguageTest::connectActionSaysDisconnect_data()
 {
     QTest::addColumn<QString>("connected");
     QTest::addColumn<QString>("disconnected");
@@ -133,7 +133,7 @@ void TestKeptByLanguage::connectActionSaysDisconnect_data()
                              << "Connect";
 }
 
-void TestKeptByLanguage::connectActionSaysDisconnect()
+void KeptByLanguageTest::connectActionSaysDisconnect()
 {
     QFETCH(QString, connected);
     QFETCH(QString, disconnected);
@@ -150,5 +150,5 @@ void TestKeptByLanguage::connectActionSaysDisconnect()
     QCOMPARE(action.text(), disconnected);
 }
 
-QTEST_MAIN(TestKeptByLanguage)
+QTEST_MAIN(KeptByLanguageTest)
 #include "tst_keptbylanguage.moc"

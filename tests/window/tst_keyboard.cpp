@@ -9,7 +9,7 @@
 #include <QWindow>
 #include <QtTest>
 
-class TestKeyboard : public QObject
+class KeyboardTest : public QObject
 {
     Q_OBJECT
 
@@ -41,7 +41,7 @@ QStringList wayRound(const CameraWindow &w, Qt::Key key, Qt::KeyboardModifiers m
 }
 } // namespace
 
-void TestKeyboard::spaceBarAtTheStart()
+void KeyboardTest::spaceBarAtTheStart()
 {
     const CameraWindow w;
     w.connectCamera();
@@ -55,7 +55,7 @@ void TestKeyboard::spaceBarAtTheStart()
     QCOMPARE(w.window->step(), 2);
 }
 
-void TestKeyboard::spaceBarAfterReconnecting()
+void KeyboardTest::spaceBarAfterReconnecting()
 {
     const CameraWindow w;
     w.connectCamera();
@@ -70,14 +70,14 @@ void TestKeyboard::spaceBarAfterReconnecting()
     QCOMPARE(w.window->step(), 1);
 }
 
-void TestKeyboard::tabGoesRound_data()
+void KeyboardTest::tabGoesRound_data()
 {
     QTest::addColumn<int>("step");
     for (int step = 1; step <= 13; ++step)
         QTest::addRow("step %d", step) << step;
 }
 
-void TestKeyboard::tabGoesRound()
+void KeyboardTest::tabGoesRound()
 {
     QFETCH(int, step);
     const CameraWindow w;
@@ -97,5 +97,5 @@ void TestKeyboard::tabGoesRound()
             QVERIFY2(forward.contains(button->objectName()), qPrintable(button->objectName()));
 }
 
-QTEST_MAIN(TestKeyboard)
+QTEST_MAIN(KeyboardTest)
 #include "tst_keyboard.moc"

@@ -28,7 +28,7 @@ void closeDialogs(const CameraWindow &w)
 }
 } // namespace
 
-class TestMenuDialogs : public QObject
+class MenuDialogsTest : public QObject
 {
     Q_OBJECT
 
@@ -41,7 +41,7 @@ private slots:
     void refractionAsLoaded();
 };
 
-void TestMenuDialogs::shown_data()
+void MenuDialogsTest::shown_data()
 {
     QTest::addColumn<QString>("action");
     QTest::newRow("AstroRefractionDialog") << "actionAstronomical_Refraction";
@@ -50,7 +50,7 @@ void TestMenuDialogs::shown_data()
 }
 
 /// Shown beside the window, which goes on working; a second time after it was closed.
-void TestMenuDialogs::shown()
+void MenuDialogsTest::shown()
 {
     QFETCH(QString, action);
     const CameraWindow w;
@@ -66,7 +66,7 @@ void TestMenuDialogs::shown()
     }
 }
 
-void TestMenuDialogs::keysNeedACamera_data()
+void MenuDialogsTest::keysNeedACamera_data()
 {
     QTest::addColumn<QString>("dialog");
     QTest::addColumn<QString>("action");
@@ -77,7 +77,7 @@ void TestMenuDialogs::keysNeedACamera_data()
                               << "actionManual_Trace" << Qt::Key_T;
 }
 
-void TestMenuDialogs::keysNeedACamera()
+void MenuDialogsTest::keysNeedACamera()
 {
     QFETCH(QString, dialog);
     QFETCH(QString, action);
@@ -100,7 +100,7 @@ void TestMenuDialogs::keysNeedACamera()
     QCOMPARE(shownDialogs(w), QStringList());
 }
 
-void TestMenuDialogs::refractionAsLoaded_data()
+void MenuDialogsTest::refractionAsLoaded_data()
 {
     QTest::addColumn<QByteArray>("keys");     ///< of the settings file
     QTest::addColumn<QList<double>>("shown"); ///< latitude, longitude, pressure, temperature
@@ -117,7 +117,7 @@ void TestMenuDialogs::refractionAsLoaded_data()
                                        << Values{0, 0, 110, 200} << false << 0;
 }
 
-void TestMenuDialogs::refractionAsLoaded()
+void MenuDialogsTest::refractionAsLoaded()
 {
     QFETCH(QByteArray, keys);
     QFETCH(QList<double>, shown);
@@ -141,5 +141,5 @@ void TestMenuDialogs::refractionAsLoaded()
     QCOMPARE(bool(w.session().refraction.enabledCorrect), enabled);
 }
 
-QTEST_MAIN(TestMenuDialogs)
+QTEST_MAIN(MenuDialogsTest)
 #include "tst_menudialogs.moc"

@@ -18,7 +18,7 @@ QString logText(const char *words, QPointF p)
 }
 } // namespace
 
-class TestMonitorMode : public QObject
+class MonitorModeTest : public QObject
 {
     Q_OBJECT
 
@@ -39,13 +39,13 @@ private slots:
     void beginsWithoutTheLastRoundsPictures();
 };
 
-void TestMonitorMode::initTestCase()
+void MonitorModeTest::initTestCase()
 {
     const CameraWindow w; // reads the catalogue
     QVERIFY(northCatalogue.starBX > 0);
 }
 
-void TestMonitorMode::startPositions_data()
+void MonitorModeTest::startPositions_data()
 {
     QTest::addColumn<QString>("region");
     QTest::addColumn<int>("degrees");
@@ -58,7 +58,7 @@ void TestMonitorMode::startPositions_data()
     QTest::newRow("south, turned askew") << "South" << 217 << QPointF(600.8, 520.1);
 }
 
-void TestMonitorMode::startPositions()
+void MonitorModeTest::startPositions()
 {
     QFETCH(QString, region);
     QFETCH(int, degrees);
@@ -84,7 +84,7 @@ void TestMonitorMode::startPositions()
 
 /// Where a star is not found its expected place stands in: for star A the template's, which at
 /// angle 0 with star B on its template pixel is the template's star A itself.
-void TestMonitorMode::startWithoutStars()
+void MonitorModeTest::startWithoutStars()
 {
     const QPointF starB = templateB("North");
     const MonitorWindow w(0, starB, {starB});
@@ -95,14 +95,14 @@ void TestMonitorMode::startWithoutStars()
     QVERIFY(isNear(w.session().monitorPositions.starBSearch, starB, 1e-9));
 }
 
-void TestMonitorMode::poleTracking_data()
+void MonitorModeTest::poleTracking_data()
 {
     QTest::addColumn<double>("degrees");
     for (const double degrees : {0.0, 1.0, 90.0, 180.0, 359.0, 360.0, -15.5})
         QTest::addRow("%g degrees", degrees) << degrees;
 }
 
-void TestMonitorMode::poleTracking()
+void MonitorModeTest::poleTracking()
 {
     QFETCH(double, degrees);
     const QPointF starB(500.5, 420.5), starA = starB + offsetToA(0);
@@ -121,14 +121,14 @@ void TestMonitorMode::poleTracking()
              QStringList({logText("StarA area", a), logText("StarB area", b)}));
 }
 
-void TestMonitorMode::turnsDoNotAddUp_data()
+void MonitorModeTest::turnsDoNotAddUp_data()
 {
     QTest::addColumn<QString>("region");
     QTest::newRow("north") << "North";
     QTest::newRow("south") << "South";
 }
 
-void TestMonitorMode::turnsDoNotAddUp()
+void MonitorModeTest::turnsDoNotAddUp()
 {
     QFETCH(QString, region);
     const QPointF starB(500.5, 420.5), starA = starB + offsetToA(0, region);
@@ -147,13 +147,13 @@ void TestMonitorMode::turnsDoNotAddUp()
     }
 }
 
-void TestMonitorMode::dialTurnsTheSearch_data()
+void MonitorModeTest::dialTurnsTheSearch_data()
 {
     turnsDoNotAddUp_data();
 }
 
 /// From the dialog's knobs to where the capture thread looks.
-void TestMonitorMode::dialTurnsTheSearch()
+void MonitorModeTest::dialTurnsTheSearch()
 {
     QFETCH(QString, region);
     const QPointF starB(500.5, 420.5), starA = starB + offsetToA(0, region);
@@ -186,7 +186,7 @@ void TestMonitorMode::dialTurnsTheSearch()
     QVERIFY(isTurnedBy(0));
 }
 
-void TestMonitorMode::dialKeepsItsValueWhileHidden()
+void MonitorModeTest::dialKeepsItsValueWhileHidden()
 {
     const QPointF starB(500.5, 420.5), starA = starB + offsetToA(0);
     const MonitorWindow w(0, starB, {starB, starA});
@@ -209,7 +209,7 @@ void TestMonitorMode::dialKeepsItsValueWhileHidden()
     QVERIFY(isNear(w.session().monitorPositions.starBSearch, turnedAboutAxis(foundB, 77), 1e-9));
 }
 
-void TestMonitorMode::starsLostAndFoundAgain()
+void MonitorModeTest::starsLostAndFoundAgain()
 {
     const QPointF starB(500.5, 420.5), starA = starB + offsetToA(0);
     const MonitorWindow w(0, starB, {starB, starA});
@@ -247,7 +247,7 @@ void TestMonitorMode::starsLostAndFoundAgain()
     QCOMPARE(w.session().monitorPositions.starBSearch.load(), searchB);
 }
 
-void TestMonitorMode::endsWithTheWizardsStart()
+void MonitorModeTest::endsWithTheWizardsStart()
 {
     const MonitorWindow w(0, {500, 420}, {{500, 420}});
     w.enterStep(13);
@@ -260,7 +260,7 @@ void TestMonitorMode::endsWithTheWizardsStart()
             !w.session().overlayFlags.showMonitorCross);
 }
 
-void TestMonitorMode::beginsWithoutTheLastRoundsPictures()
+void MonitorModeTest::beginsWithoutTheLastRoundsPictures()
 {
     const QPointF starB(500.5, 420.5), starA = starB + offsetToA(0);
     const MonitorWindow w(0, starB, {starB, starA});
@@ -279,5 +279,5 @@ void TestMonitorMode::beginsWithoutTheLastRoundsPictures()
     QTRY_VERIFY(!w.child<QLabel>("label_biggerImg").pixmap(Qt::ReturnByValue).isNull());
 }
 
-QTEST_MAIN(TestMonitorMode)
+QTEST_MAIN(MonitorModeTest)
 #include "tst_monitormode.moc"

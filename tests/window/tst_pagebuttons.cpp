@@ -8,7 +8,7 @@
 #include <QWindow>
 #include <QtTest>
 
-class TestPageButtons : public QObject
+class PageButtonsTest : public QObject
 {
     Q_OBJECT
 
@@ -63,7 +63,7 @@ public:
 };
 } // namespace
 
-void TestPageButtons::onTheNextPagesButton_data()
+void PageButtonsTest::onTheNextPagesButton_data()
 {
     QTest::addColumn<int>("step");
     QTest::addColumn<QByteArray>("button");
@@ -76,7 +76,7 @@ void TestPageButtons::onTheNextPagesButton_data()
     row(10, "pushButton_movePolaris_done", "pushButton_getCurPolaris_done");
 }
 
-void TestPageButtons::onTheNextPagesButton()
+void PageButtonsTest::onTheNextPagesButton()
 {
     QFETCH(int, step);
     QFETCH(QByteArray, button);
@@ -91,7 +91,7 @@ void TestPageButtons::onTheNextPagesButton()
     QCOMPARE(w.window->step(), step + 1);
 }
 
-void TestPageButtons::onThePicture_data()
+void PageButtonsTest::onThePicture_data()
 {
     QTest::addColumn<int>("step");
     QTest::addColumn<QByteArray>("button");
@@ -104,7 +104,7 @@ void TestPageButtons::onThePicture_data()
 }
 
 /// The next page is lower: the second press falls on the picture beneath.
-void TestPageButtons::onThePicture()
+void PageButtonsTest::onThePicture()
 {
     QFETCH(int, step);
     QFETCH(QByteArray, button);
@@ -128,7 +128,7 @@ void TestPageButtons::onThePicture()
 }
 
 /// Slower than a double click each press counts.
-void TestPageButtons::twoClicksInTurn()
+void PageButtonsTest::twoClicksInTurn()
 {
     const GreyWindow w;
     const QRect later = placeOf(w, 10, "pushButton_movePolaris_done");
@@ -140,5 +140,5 @@ void TestPageButtons::twoClicksInTurn()
     QCOMPARE(w.window->step(), 11);
 }
 
-QTEST_MAIN(TestPageButtons)
+QTEST_MAIN(PageButtonsTest)
 #include "tst_pagebuttons.moc"

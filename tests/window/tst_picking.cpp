@@ -12,7 +12,7 @@
 #include <QSlider>
 #include <QTabWidget>
 
-class TestPicking : public QObject
+class PickingTest : public QObject
 {
     Q_OBJECT
 
@@ -39,14 +39,14 @@ private slots:
     void scrolledClickFindsItsStar();
 };
 
-void TestPicking::stepsWithoutPick_data()
+void PickingTest::stepsWithoutPick_data()
 {
     QTest::addColumn<int>("step");
     for (const int step : {1, 4, 6, 8, 10, 12, 13})
         QTest::addRow("step %d", step) << step;
 }
 
-void TestPicking::stepsWithoutPick()
+void PickingTest::stepsWithoutPick()
 {
     QFETCH(int, step);
     const PickingWindow w;
@@ -76,7 +76,7 @@ void TestPicking::stepsWithoutPick()
     QCOMPARE(w.window->step(), step);
 }
 
-void TestPicking::templateOnThePoleStar_data()
+void PickingTest::templateOnThePoleStar_data()
 {
     QTest::addColumn<double>("zoom");
     QTest::addColumn<int>("angle");
@@ -87,7 +87,7 @@ void TestPicking::templateOnThePoleStar_data()
     QTest::newRow("50, turned askew") << 0.5 << 45;
 }
 
-void TestPicking::templateOnThePoleStar()
+void PickingTest::templateOnThePoleStar()
 {
     QFETCH(double, zoom);
     QFETCH(int, angle);
@@ -118,7 +118,7 @@ void TestPicking::templateOnThePoleStar()
     QTRY_VERIFY(glow.isEnabled() == lit);
 }
 
-void TestPicking::poleStar_data()
+void PickingTest::poleStar_data()
 {
     QTest::addColumn<int>("step");
     QTest::addColumn<double>("zoom");
@@ -127,7 +127,7 @@ void TestPicking::poleStar_data()
             QTest::addRow("step %d at %g", step, zoom) << step << zoom;
 }
 
-void TestPicking::poleStar()
+void PickingTest::poleStar()
 {
     QFETCH(int, step);
     QFETCH(double, zoom);
@@ -152,7 +152,7 @@ void TestPicking::poleStar()
     QCOMPARE(boxes.boxes(), QList<Box>());
 }
 
-void TestPicking::pickGivesTheTarget_data()
+void PickingTest::pickGivesTheTarget_data()
 {
     QTest::addColumn<int>("step");
     QTest::addColumn<int>("angle");
@@ -162,7 +162,7 @@ void TestPicking::pickGivesTheTarget_data()
 }
 
 /// Each pick by itself: no slider is moved after the axis is there.
-void TestPicking::pickGivesTheTarget()
+void PickingTest::pickGivesTheTarget()
 {
     QFETCH(int, step);
     QFETCH(int, angle);
@@ -180,7 +180,7 @@ void TestPicking::pickGivesTheTarget()
     }
 }
 
-void TestPicking::threeStars_data()
+void PickingTest::threeStars_data()
 {
     QTest::addColumn<double>("zoom");
     QTest::newRow("100") << 1.0;
@@ -188,7 +188,7 @@ void TestPicking::threeStars_data()
     QTest::newRow("50") << 0.5;
 }
 
-void TestPicking::threeStars()
+void PickingTest::threeStars()
 {
     QFETCH(double, zoom);
     const PickingWindow w(zoom);
@@ -220,7 +220,7 @@ void TestPicking::threeStars()
 }
 
 /// After a fit that failed the last one holds; the pick is the third star's all the same.
-void TestPicking::threeOnALine()
+void PickingTest::threeOnALine()
 {
     const PickingWindow w;
     w.pickThree(onCircle);
@@ -248,7 +248,7 @@ void TestPicking::threeOnALine()
     QCOMPARE(probe.starPos3(), w.starAt(w.view(onCircle[1])));
 }
 
-void TestPicking::twoOnARow_data()
+void PickingTest::twoOnARow_data()
 {
     QTest::addColumn<QList<int>>("rows"); ///< of the three picks in turn
     QTest::newRow("first and second") << QList<int>{350, 350, 450};
@@ -256,7 +256,7 @@ void TestPicking::twoOnARow_data()
 }
 
 /// No circle is tried through them, which the log does not tell but the window does.
-void TestPicking::twoOnARow()
+void PickingTest::twoOnARow()
 {
     QFETCH(QList<int>, rows);
     const QPointF stars[] = {
@@ -272,14 +272,14 @@ void TestPicking::twoOnARow()
     QVERIFY(log.texts(QtDebugMsg).filter("cent").isEmpty());
 }
 
-void TestPicking::emptyPatch_data()
+void PickingTest::emptyPatch_data()
 {
     QTest::addColumn<int>("step");
     for (const int step : {2, 3, 5, 7, 9, 11})
         QTest::addRow("step %d", step) << step;
 }
 
-void TestPicking::emptyPatch()
+void PickingTest::emptyPatch()
 {
     QFETCH(int, step);
     const PickingWindow w(0.5);
@@ -292,7 +292,7 @@ void TestPicking::emptyPatch()
     QCOMPARE(w.position.text(), QStringLiteral("860.0,420.0"));
 }
 
-void TestPicking::emptyPatchChangesNothing()
+void PickingTest::emptyPatchChangesNothing()
 {
     QFETCH(int, step);
     const PickingWindow w(0.5);
@@ -325,7 +325,7 @@ void TestPicking::emptyPatchChangesNothing()
     QCOMPARE(w.child<QLabel>("label_templateImg").geometry(), place);
 }
 
-void TestPicking::nearTheEdge()
+void PickingTest::nearTheEdge()
 {
     const PickingWindow w;
     w.enterStep(3);
@@ -335,7 +335,7 @@ void TestPicking::nearTheEdge()
     QCOMPARE(w.window->step(), 3);
 }
 
-void TestPicking::clicksOverAPageAreNoPicks()
+void PickingTest::clicksOverAPageAreNoPicks()
 {
     const PickingWindow w;
     w.enterStep(3);
@@ -348,7 +348,7 @@ void TestPicking::clicksOverAPageAreNoPicks()
     QCOMPARE(w.window->step(), 3);
 }
 
-void TestPicking::scrolledClickFindsItsStar()
+void PickingTest::scrolledClickFindsItsStar()
 {
     const PickingWindow w(1.0, QPoint(90, 120));
     w.enterStep(9);
@@ -356,5 +356,5 @@ void TestPicking::scrolledClickFindsItsStar()
     QCOMPARE(w.child<QLabel>("label_curPos").text(), pointText(w.starAt(w.view(onLine[0]))));
 }
 
-QTEST_MAIN(TestPicking)
+QTEST_MAIN(PickingTest)
 #include "tst_picking.moc"

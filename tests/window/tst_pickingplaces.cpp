@@ -45,7 +45,7 @@ QPoint middle(const QRect &r)
 }
 } // namespace
 
-class TestPickingPlaces : public QObject
+class PickingPlacesTest : public QObject
 {
     Q_OBJECT
 
@@ -63,7 +63,7 @@ private slots:
     void fitIsReset();
 };
 
-void TestPickingPlaces::searchWindow_data()
+void PickingPlacesTest::searchWindow_data()
 {
     QTest::addColumn<double>("zoom");
     QTest::addColumn<QPoint>("view");
@@ -74,7 +74,7 @@ void TestPickingPlaces::searchWindow_data()
     QTest::newRow("50") << 0.5 << QPoint(321, 240) << "642.0,480.0" << QPoint(622, 460);
 }
 
-void TestPickingPlaces::searchWindow()
+void PickingPlacesTest::searchWindow()
 {
     QFETCH(double, zoom);
     QFETCH(QPoint, view);
@@ -91,7 +91,7 @@ void TestPickingPlaces::searchWindow()
     QCOMPARE(MainWindowProbe(*w.window).starPos1(), QPointF(middleOf(corner)));
 }
 
-void TestPickingPlaces::framesEdge_data()
+void PickingPlacesTest::framesEdge_data()
 {
     QTest::addColumn<double>("zoom");
     QTest::addColumn<QPoint>("view");
@@ -110,7 +110,7 @@ void TestPickingPlaces::framesEdge_data()
 }
 
 /// The search needs all its 40 x 40 pixels: a star is there, but past the edge it is not sought.
-void TestPickingPlaces::framesEdge()
+void PickingPlacesTest::framesEdge()
 {
     QFETCH(double, zoom);
     QFETCH(QPoint, view);
@@ -124,7 +124,7 @@ void TestPickingPlaces::framesEdge()
     QCOMPARE(w.window->step(), found ? 4 : 3);
 }
 
-void TestPickingPlaces::picks_data()
+void PickingPlacesTest::picks_data()
 {
     QTest::addColumn<int>("step");
     QTest::addColumn<double>("zoom");
@@ -141,7 +141,7 @@ void TestPickingPlaces::picks_data()
                 << step << picture.zoom << picture.scroll;
 }
 
-void TestPickingPlaces::picks()
+void PickingPlacesTest::picks()
 {
     QFETCH(int, step);
     QFETCH(double, zoom);
@@ -161,7 +161,7 @@ void TestPickingPlaces::picks()
     QCOMPARE(label.mapTo(w.window.get(), middle(label.rect())), w.inWindow(click));
 }
 
-void TestPickingPlaces::zoomAfterThePick_data()
+void PickingPlacesTest::zoomAfterThePick_data()
 {
     QTest::addColumn<int>("step");
     QTest::addColumn<double>("zoom");
@@ -182,7 +182,7 @@ void TestPickingPlaces::zoomAfterThePick_data()
     }
 }
 
-void TestPickingPlaces::zoomAfterThePick()
+void PickingPlacesTest::zoomAfterThePick()
 {
     QFETCH(int, step);
     QFETCH(double, zoom);
@@ -204,7 +204,7 @@ void TestPickingPlaces::zoomAfterThePick()
     QCOMPARE(middle(label.geometry()), view);
 }
 
-void TestPickingPlaces::fitIsAccepted_data()
+void PickingPlacesTest::fitIsAccepted_data()
 {
     QTest::addColumn<double>("zoom");
     QTest::newRow("100") << 1.0;
@@ -213,7 +213,7 @@ void TestPickingPlaces::fitIsAccepted_data()
 }
 
 /// "Correct" takes over what the fit found, whatever has become of the saved centre meanwhile.
-void TestPickingPlaces::fitIsAccepted()
+void PickingPlacesTest::fitIsAccepted()
 {
     QFETCH(double, zoom);
     const PickingWindow w(zoom);
@@ -230,7 +230,7 @@ void TestPickingPlaces::fitIsAccepted()
 }
 
 /// "Reset" keeps the fit, and three other stars make another.
-void TestPickingPlaces::fitIsReset()
+void PickingPlacesTest::fitIsReset()
 {
     const PickingWindow w;
     w.pickThree(onCircle);
@@ -248,5 +248,5 @@ void TestPickingPlaces::fitIsReset()
     QCOMPARE(w.session().alignmentPoints.savedAxisCenter.load(), probe.axisCenter());
 }
 
-QTEST_MAIN(TestPickingPlaces)
+QTEST_MAIN(PickingPlacesTest)
 #include "tst_pickingplaces.moc"

@@ -8,7 +8,7 @@
 
 Q_DECLARE_METATYPE(QEvent::Type)
 
-class TestPointer : public QObject
+class PointerTest : public QObject
 {
     Q_OBJECT
 
@@ -28,7 +28,7 @@ private slots:
     void consumed();
 };
 
-void TestPointer::readOut_data()
+void PointerTest::readOut_data()
 {
     QTest::addColumn<double>("zoom");
     QTest::addColumn<QPoint>("scroll");
@@ -46,7 +46,7 @@ void TestPointer::readOut_data()
         << 1.0 << QPoint(90, 120) << QPoint(-30, 333) << "-30.0,333.0";
 }
 
-void TestPointer::readOut()
+void PointerTest::readOut()
 {
     QFETCH(double, zoom);
     QFETCH(QPoint, scroll);
@@ -63,7 +63,7 @@ void TestPointer::readOut()
     QCOMPARE(log.texts(QtCriticalMsg), QStringList());
 }
 
-void TestPointer::rounding_data()
+void PointerTest::rounding_data()
 {
     QTest::addColumn<double>("zoom");
     QTest::addColumn<QPointF>("place");
@@ -75,7 +75,7 @@ void TestPointer::rounding_data()
     QTest::newRow("single precision") << 0.75 << QPointF(1, 2) << "1.3,2.7";
 }
 
-void TestPointer::rounding()
+void PointerTest::rounding()
 {
     QFETCH(double, zoom);
     QFETCH(QPointF, place);
@@ -85,7 +85,7 @@ void TestPointer::rounding()
     QCOMPARE(w.position.text(), text);
 }
 
-void TestPointer::noReadOutWithoutButton()
+void PointerTest::noReadOutWithoutButton()
 {
     const PickingWindow w;
     QTest::mouseMove(w.window->windowHandle(), w.inWindow({300, 400}));
@@ -93,7 +93,7 @@ void TestPointer::noReadOutWithoutButton()
     QCOMPARE(w.position.text(), QString());
 }
 
-void TestPointer::zoomKeepsThePlace_data()
+void PointerTest::zoomKeepsThePlace_data()
 {
     QTest::addColumn<double>("from");
     QTest::addColumn<QByteArray>("action");
@@ -105,7 +105,7 @@ void TestPointer::zoomKeepsThePlace_data()
 }
 
 /// In the middle of the view, as far as it can be scrolled, and in the magnifier.
-void TestPointer::zoomKeepsThePlace()
+void PointerTest::zoomKeepsThePlace()
 {
     QFETCH(double, from);
     QFETCH(QByteArray, action);
@@ -133,7 +133,7 @@ void TestPointer::zoomKeepsThePlace()
     QVERIFY((QPointF(magnified) / to - QPointF(star) / from).manhattanLength() <= 4);
 }
 
-void TestPointer::overThePages_data()
+void PointerTest::overThePages_data()
 {
     QTest::addColumn<double>("zoom");
     QTest::addColumn<QPoint>("scroll");
@@ -143,7 +143,7 @@ void TestPointer::overThePages_data()
     QTest::newRow("100, scrolled") << 1.0 << QPoint(90, 120);
 }
 
-void TestPointer::overThePages()
+void PointerTest::overThePages()
 {
     QFETCH(double, zoom);
     QFETCH(QPoint, scroll);
@@ -165,7 +165,7 @@ void TestPointer::overThePages()
     QCOMPARE(w.window->findChild<MagnifierWidget *>()->magnifiedCentre(), view);
 }
 
-void TestPointer::notConnected()
+void PointerTest::notConnected()
 {
     const CameraWindow w;
     auto &image = w.child<QLabel>("label_showImg");
@@ -180,7 +180,7 @@ void TestPointer::notConnected()
     QCOMPARE(log.texts(QtDebugMsg) + log.texts(QtCriticalMsg), QStringList());
 }
 
-void TestPointer::noPictureYet()
+void PointerTest::noPictureYet()
 {
     const CameraWindow w;
     w.connectCamera();
@@ -198,7 +198,7 @@ void TestPointer::noPictureYet()
     QCOMPARE(w.window->step(), 3);
 }
 
-void TestPointer::consumed_data()
+void PointerTest::consumed_data()
 {
     QTest::addColumn<bool>("connected");
     QTest::addColumn<bool>("onPage"); ///< or else on the picture
@@ -229,7 +229,7 @@ void TestPointer::consumed_data()
 }
 
 /// What is consumed does not reach the widget; what is not leaves the read-out alone.
-void TestPointer::consumed()
+void PointerTest::consumed()
 {
     QFETCH(bool, connected);
     QFETCH(bool, onPage);
@@ -253,5 +253,5 @@ void TestPointer::consumed()
     QCOMPARE(w.window->step(), 1);
 }
 
-QTEST_MAIN(TestPointer)
+QTEST_MAIN(PointerTest)
 #include "tst_pointer.moc"

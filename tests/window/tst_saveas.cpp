@@ -78,7 +78,7 @@ double meanDifference(const QImage &a, const QImage &b)
 }
 } // namespace
 
-class TestSaveAs : public QObject
+class SaveAsTest : public QObject
 {
     Q_OBJECT
 
@@ -93,7 +93,7 @@ private slots:
     void loggedOnly();
 };
 
-void TestSaveAs::formats_data()
+void SaveAsTest::formats_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QByteArray>("format");
@@ -109,7 +109,7 @@ void TestSaveAs::formats_data()
                                  << QByteArray("[ZOOM]\nfactor=0.5\n") << 0.0;
 }
 
-void TestSaveAs::formats()
+void SaveAsTest::formats()
 {
     QFETCH(QString, name);
     QFETCH(QByteArray, format);
@@ -137,7 +137,7 @@ void TestSaveAs::formats()
     QVERIFY(qGray(saved.pixel(int(640 * zoom), int(480 * zoom))) > 100);
 }
 
-void TestSaveAs::nothingSaved_data()
+void SaveAsTest::nothingSaved_data()
 {
     QTest::addColumn<QString>("name"); ///< @ stands for the test's folder
     QTest::newRow("cancelled") << "";
@@ -147,7 +147,7 @@ void TestSaveAs::nothingSaved_data()
     QTest::newRow("folder that can not be written") << "/proc/sky.png";
 }
 
-void TestSaveAs::nothingSaved()
+void SaveAsTest::nothingSaved()
 {
     QFETCH(QString, name);
     const QTemporaryDir folder;
@@ -165,7 +165,7 @@ void TestSaveAs::nothingSaved()
 }
 
 /// The name is asked for, but there is nothing to save, and nobody is told.
-void TestSaveAs::beforeTheFirstPicture()
+void SaveAsTest::beforeTheFirstPicture()
 {
     const QTemporaryDir folder;
     const CameraWindow w;
@@ -181,7 +181,7 @@ void TestSaveAs::beforeTheFirstPicture()
     QCOMPARE(QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
 }
 
-void TestSaveAs::notConnected()
+void SaveAsTest::notConnected()
 {
     const CameraWindow w;
     const NameChooser chooser({});
@@ -193,7 +193,7 @@ void TestSaveAs::notConnected()
     QCOMPARE(log.texts(QtDebugMsg) + log.texts(QtCriticalMsg), QStringList());
 }
 
-void TestSaveAs::loggedOnly_data()
+void SaveAsTest::loggedOnly_data()
 {
     QTest::addColumn<QString>("action");
     QTest::addColumn<QString>("text");
@@ -203,7 +203,7 @@ void TestSaveAs::loggedOnly_data()
                              << "click stretch";
 }
 
-void TestSaveAs::loggedOnly()
+void SaveAsTest::loggedOnly()
 {
     QFETCH(QString, action);
     QFETCH(QString, text);
@@ -218,5 +218,5 @@ void TestSaveAs::loggedOnly()
     QCOMPARE(log.texts(QtDebugMsg), QStringList({line(first), line(!first)}));
 }
 
-QTEST_MAIN(TestSaveAs)
+QTEST_MAIN(SaveAsTest)
 #include "tst_saveas.moc"

@@ -20,7 +20,7 @@ bool after(char change, bool before)
 }
 } // namespace
 
-class TestStepMarks : public QObject
+class StepMarksTest : public QObject
 {
     Q_OBJECT
 
@@ -29,7 +29,7 @@ private slots:
     void marks();
 };
 
-void TestStepMarks::marks_data()
+void StepMarksTest::marks_data()
 {
     QTest::addColumn<int>("step");
     QTest::addColumn<bool>("before"); ///< whether everything was shown before
@@ -40,7 +40,7 @@ void TestStepMarks::marks_data()
 }
 
 /// From the step to the pixels on the screen. The marks stand apart from each other.
-void TestStepMarks::marks()
+void StepMarksTest::marks()
 {
     QFETCH(int, step);
     QFETCH(bool, before);
@@ -88,5 +88,5 @@ void TestStepMarks::marks()
     QVERIFY(picture.convertToFormat(QImage::Format_RGB888) == expected);
 }
 
-QTEST_MAIN(TestStepMarks)
+QTEST_MAIN(StepMarksTest)
 #include "tst_stepmarks.moc"

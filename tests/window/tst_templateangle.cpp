@@ -14,7 +14,7 @@ bool isTurned(const QLabel &label, const QImage &mask, int angle, double zoom, Q
 }
 } // namespace
 
-class TestTemplateAngle : public QObject
+class TemplateAngleTest : public QObject
 {
     Q_OBJECT
 
@@ -29,7 +29,7 @@ private slots:
     void buttonOfASliderThatStandsThere();
 };
 
-void TestTemplateAngle::sliderTurns_data()
+void TemplateAngleTest::sliderTurns_data()
 {
     QTest::addColumn<QString>("region");
     QTest::addColumn<int>("step");
@@ -42,7 +42,7 @@ void TestTemplateAngle::sliderTurns_data()
     }
 }
 
-void TestTemplateAngle::sliderTurns()
+void TemplateAngleTest::sliderTurns()
 {
     QFETCH(QString, region);
     QFETCH(int, step);
@@ -56,7 +56,7 @@ void TestTemplateAngle::sliderTurns()
     QCOMPARE(MainWindowProbe(*w.window).rotateValue(), angle);
 }
 
-void TestTemplateAngle::pickTurns_data()
+void TemplateAngleTest::pickTurns_data()
 {
     QTest::addColumn<QString>("region");
     QTest::addColumn<int>("step");
@@ -67,7 +67,7 @@ void TestTemplateAngle::pickTurns_data()
 }
 
 /// The angle was chosen before: the pick alone shows the mask turned.
-void TestTemplateAngle::pickTurns()
+void TemplateAngleTest::pickTurns()
 {
     QFETCH(QString, region);
     QFETCH(int, step);
@@ -80,12 +80,12 @@ void TestTemplateAngle::pickTurns()
     QCOMPARE(MainWindowProbe(*w.window).rotateValue(), 45);
 }
 
-void TestTemplateAngle::zoomKeepsTheAngle_data()
+void TemplateAngleTest::zoomKeepsTheAngle_data()
 {
     pickTurns_data();
 }
 
-void TestTemplateAngle::zoomKeepsTheAngle()
+void TemplateAngleTest::zoomKeepsTheAngle()
 {
     QFETCH(QString, region);
     QFETCH(int, step);
@@ -104,7 +104,7 @@ void TestTemplateAngle::zoomKeepsTheAngle()
     }
 }
 
-void TestTemplateAngle::buttonOfASliderThatStandsThere_data()
+void TemplateAngleTest::buttonOfASliderThatStandsThere_data()
 {
     QTest::addColumn<int>("step");
     QTest::addColumn<QString>("button");
@@ -116,7 +116,7 @@ void TestTemplateAngle::buttonOfASliderThatStandsThere_data()
 }
 
 /// The template and, of the rough slider, the target follow although no slider moves.
-void TestTemplateAngle::buttonOfASliderThatStandsThere()
+void TemplateAngleTest::buttonOfASliderThatStandsThere()
 {
     QFETCH(int, step);
     QFETCH(QString, button);
@@ -136,5 +136,5 @@ void TestTemplateAngle::buttonOfASliderThatStandsThere()
     QCOMPARE(w.target.text(), step == 2 ? before : targetText(w, 100, star));
 }
 
-QTEST_MAIN(TestTemplateAngle)
+QTEST_MAIN(TemplateAngleTest)
 #include "tst_templateangle.moc"

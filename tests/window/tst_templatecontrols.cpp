@@ -7,7 +7,7 @@
 #include <QAction>
 #include <QRadioButton>
 
-class TestTemplateControls : public QObject
+class TemplateControlsTest : public QObject
 {
     Q_OBJECT
 
@@ -30,7 +30,7 @@ private slots:
     void hemisphereByTheSettings();
 };
 
-void TestTemplateControls::sliderTurnsTheTemplate_data()
+void TemplateControlsTest::sliderTurnsTheTemplate_data()
 {
     QTest::addColumn<int>("step");
     QTest::addColumn<int>("angle");
@@ -39,7 +39,7 @@ void TestTemplateControls::sliderTurnsTheTemplate_data()
             QTest::addRow("step %d, %d degrees", step, angle) << step << angle;
 }
 
-void TestTemplateControls::sliderTurnsTheTemplate()
+void TemplateControlsTest::sliderTurnsTheTemplate()
 {
     QFETCH(int, step);
     QFETCH(int, angle);
@@ -59,7 +59,7 @@ void TestTemplateControls::sliderTurnsTheTemplate()
     QCOMPARE(w.label.pixmap(Qt::ReturnByValue).size(), turned.image.size());
 }
 
-void TestTemplateControls::buttons_data()
+void TemplateControlsTest::buttons_data()
 {
     QTest::addColumn<int>("step");
     QTest::addColumn<QString>("button");
@@ -81,7 +81,7 @@ void TestTemplateControls::buttons_data()
     }
 }
 
-void TestTemplateControls::buttons()
+void TemplateControlsTest::buttons()
 {
     QFETCH(int, step);
     QFETCH(QString, button);
@@ -105,7 +105,7 @@ void TestTemplateControls::buttons()
     QCOMPARE(probe.rotateValue(), slider.value());
 }
 
-void TestTemplateControls::slidersShareTheAngle()
+void TemplateControlsTest::slidersShareTheAngle()
 {
     const TemplateWindow w;
     w.enterStep(2);
@@ -125,7 +125,7 @@ void TestTemplateControls::slidersShareTheAngle()
     QCOMPARE(w.rough.value(), 101);
 }
 
-void TestTemplateControls::roughSliderMovesTheTarget()
+void TemplateControlsTest::roughSliderMovesTheTarget()
 {
     const TemplateWindow w;
     w.pick(9);
@@ -146,7 +146,7 @@ void TestTemplateControls::roughSliderMovesTheTarget()
     }
 }
 
-void TestTemplateControls::confirmSliderLeavesTheTarget()
+void TemplateControlsTest::confirmSliderLeavesTheTarget()
 {
     const TemplateWindow w;
     w.pick(9);
@@ -161,7 +161,7 @@ void TestTemplateControls::confirmSliderLeavesTheTarget()
     QCOMPARE(w.target.text(), targetText(w, 201, star));
 }
 
-void TestTemplateControls::targetIsKeptUpWhileTheTemplateIsHidden()
+void TemplateControlsTest::targetIsKeptUpWhileTheTemplateIsHidden()
 {
     const TemplateWindow w;
     w.pick(9);
@@ -179,7 +179,7 @@ void TestTemplateControls::targetIsKeptUpWhileTheTemplateIsHidden()
     QCOMPARE(w.rough.value(), 78);
 }
 
-void TestTemplateControls::zoomActions_data()
+void TemplateControlsTest::zoomActions_data()
 {
     QTest::addColumn<QString>("action");
     QTest::addColumn<QSize>("picture");
@@ -193,7 +193,7 @@ void TestTemplateControls::zoomActions_data()
                         << QRect(320 - 200, 240 - 200, 400, 400);
 }
 
-void TestTemplateControls::zoomActions()
+void TemplateControlsTest::zoomActions()
 {
     QFETCH(QString, action);
     QFETCH(QSize, picture);
@@ -216,14 +216,14 @@ void TestTemplateControls::zoomActions()
     QVERIFY(file.readAll().contains("factor=" + factor + '\n'));
 }
 
-void TestTemplateControls::zoomMovesThePickedTemplate_data()
+void TemplateControlsTest::zoomMovesThePickedTemplate_data()
 {
     QTest::addColumn<int>("step");
     for (const int step : {2, 9, 11})
         QTest::addRow("step %d", step) << step;
 }
 
-void TestTemplateControls::zoomMovesThePickedTemplate()
+void TemplateControlsTest::zoomMovesThePickedTemplate()
 {
     QFETCH(int, step);
     const TemplateWindow w;
@@ -241,7 +241,7 @@ void TestTemplateControls::zoomMovesThePickedTemplate()
     }
 }
 
-void TestTemplateControls::zoomInOtherStepsShowsTheFlatTemplate()
+void TemplateControlsTest::zoomInOtherStepsShowsTheFlatTemplate()
 {
     const TemplateWindow w;
     w.pick(2);
@@ -253,7 +253,7 @@ void TestTemplateControls::zoomInOtherStepsShowsTheFlatTemplate()
     QVERIFY(!w.label.isVisible());
 }
 
-void TestTemplateControls::hemisphere()
+void TemplateControlsTest::hemisphere()
 {
     const TemplateWindow w;
     auto &north = w.child<QRadioButton>("radioButton_north");
@@ -284,7 +284,7 @@ void TestTemplateControls::hemisphere()
     QCOMPARE(w.session().alignmentPoints.angleBAP.load(), northCatalogue.angleBAP);
 }
 
-void TestTemplateControls::hemisphereByTheSettings_data()
+void TemplateControlsTest::hemisphereByTheSettings_data()
 {
     QTest::addColumn<QByteArray>("region");
     QTest::addColumn<bool>("isNorth");
@@ -292,7 +292,7 @@ void TestTemplateControls::hemisphereByTheSettings_data()
     QTest::newRow("South") << QByteArray("South") << false;
 }
 
-void TestTemplateControls::hemisphereByTheSettings()
+void TemplateControlsTest::hemisphereByTheSettings()
 {
     QFETCH(QByteArray, region);
     QFETCH(bool, isNorth);
@@ -306,5 +306,5 @@ void TestTemplateControls::hemisphereByTheSettings()
     QVERIFY(file.readAll().contains("region=" + region + '\n'));
 }
 
-QTEST_MAIN(TestTemplateControls)
+QTEST_MAIN(TemplateControlsTest)
 #include "tst_templatecontrols.moc"
