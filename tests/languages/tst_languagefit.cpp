@@ -7,6 +7,7 @@
 #include "resources/resources.h"
 #include "tests/support/mainwindowprobe.h"
 #include "tests/support/sessionwindow.h"
+#include "tests/support/textroom.h"
 #include "widgets/magnifierwidget.h"
 
 #include <QAbstractButton>
@@ -36,35 +37,6 @@ constexpr bool isSanitized = false;
 #endif
 /// Of a picture's file: little compression, which is quick.
 constexpr int pngQuality = 80;
-
-QString lack(const QWidget &widget, QSize needed, QSize has)
-{
-    if (needed.width() <= has.width() && needed.height() <= has.height())
-        return {};
-    return QStringLiteral("%1 needs %2 x %3 and has %4 x %5")
-        .arg(widget.objectName())
-        .arg(needed.width())
-        .arg(needed.height())
-        .arg(has.width())
-        .arg(has.height());
-}
-
-QString lackOfPlainText(const QWidget &widget)
-{
-    const auto *const label = qobject_cast<const QLabel *>(&widget);
-    const bool isText = (label && !label->text().isEmpty() && !label->text().startsWith('<')) ||
-                        qobject_cast<const QAbstractButton *>(&widget) ||
-                        qobject_cast<const QComboBox *>(&widget);
-    if (!isText)
-        return {};
-    const bool wraps = label && label->wordWrap();
-    // Text may use the line spacing above and below its letters: what counts is the ink.
-    const QFontMetrics metrics(widget.font());
-    const int neededWidth = wraps ? 0 : widget.sizeHint().width();
-    const int neededHeight = wraps ? widget.heightForWidth(widget.width())
-                                   : std::min(widget.sizeHint().height(), metrics.ascent() + 2);
-    return lack(widget, {neededWidth, neededHeight}, widget.size());
-}
 
 /// Where the title of a box lies in it.
 QRect titlePlace(const QGroupBox &box)
@@ -120,8 +92,8 @@ QString lackOfNumber(const QDoubleSpinBox &box)
     return {};
 }
 
-/// What is missing of the room that a widget's text needs; empty if nothing is.
-QString lackOf(const QWidget &widget)
+/// What is missing of the room that a widget of any kind needs; empty if nothing is.
+QString lackOfAny(const QWidget &widget)
 {
     if (const auto *const box = qobject_cast<const QGroupBox *>(&widget))
         return lackOfTitle(*box);
@@ -130,14 +102,7 @@ QString lackOf(const QWidget &widget)
     const auto *const edit = qobject_cast<const QLineEdit *>(&widget);
     if (edit && !qobject_cast<const QAbstractSpinBox *>(edit->parentWidget()))
         return lackOfField(*edit, *edit, "500"); // the largest number of a slider
-    return lackOfPlainText(widget);
-}
-
-/// Layouts within layouts settle one after the other.
-void settle()
-{
-    for (int i = 0; i < 6; ++i)
-        QCoreApplication::processEvents();
+    return lackOf(widget);
 }
 
 /// What can be seen of a widget, in its window.
@@ -179,12 +144,12 @@ QList<const QWidget *> visibleIn(const QWidget &window)
     return found;
 }
 
-QStringList lacksIn(const QWidget &window)
+QStringList lacksAndOverlapsIn(const QWidget &window)
 {
     QStringList lacks;
     QList<QPair<const QWidget *, QRect>> pieces;
     for (const QWidget *const widget : visibleIn(window)) {
-        if (const QString found = lackOf(*widget); !found.isEmpty())
+        if (const QString found = lackOfAny(*widget); !found.isEmpty())
             lacks.append(found);
         if (isPiece(*widget))
             pieces.append({widget, placeOf(*widget)});
@@ -226,7 +191,7 @@ private:
 };
 
 /// What is missing of the room for a menu's entries; the menu is opened for it.
-QStringList lacksIn(QMenu &menu, const Pictures &pictures)
+QStringList lacksAndOverlapsIn(QMenu &menu, const Pictures &pictures)
 {
     QStringList lacks;
     menu.popup({0, 0});
@@ -305,7 +270,7 @@ void LanguageFitTest::fits()
         for (int step = 1; step <= 13; ++step) {
             probe.switchStep(step);
             settle();
-            const QStringList lacks = lacksIn(window);
+            const QStringList lacks = lacksAndOverlapsIn(window);
             QVERIFY2(lacks.isEmpty(),
                      qPrintable(QStringLiteral("step %1: ").arg(step) + lacks.join("; ")));
             QCOMPARE(panel->horizontalScrollBar()->maximum(), 0);
@@ -317,7 +282,7 @@ void LanguageFitTest::fits()
     auto *const bar = window.findChild<QMenuBar *>("menuBar");
     QVERIFY(bar->sizeHint().width() <= window.width());
     for (QMenu *const menu : bar->findChildren<QMenu *>()) {
-        const QStringList lacks = lacksIn(*menu, pictures);
+        const QStringList lacks = lacksAndOverlapsIn(*menu, pictures);
         QVERIFY2(lacks.isEmpty(), qPrintable(menu->objectName() + ": " + lacks.join("; ")));
     }
     for (QDialog *const dialog : window.findChildren<QDialog *>()) {
@@ -326,7 +291,7 @@ void LanguageFitTest::fits()
         dialog->show();
         settle();
         QVERIFY(pictures.add(*dialog, dialog->objectName()));
-        const QStringList lacks = lacksIn(*dialog);
+        const QStringList lacks = lacksAndOverlapsIn(*dialog);
         QVERIFY2(lacks.isEmpty(), qPrintable(lacks.join("; ")));
     }
 }

@@ -9,12 +9,6 @@
 
 constexpr std::uint32_t sdkError = 0xFFFFFFFFu;
 
-inline Box errorBox(const char *operation)
-{
-    return okBox(QMessageBox::Critical, "Error",
-                 QStringLiteral("Can not connect Quorvandel as %1 error!").arg(operation));
-}
-
 inline void giveGoodFrames()
 {
     const std::vector<std::uint8_t> grey(320 * 240, 40);

@@ -154,7 +154,7 @@ void SdkIntermittentTest::opening()
         w.trigger("actionConnect");
         QCOMPARE(bool(w.session().camera.cameraConnected), connects || !fails);
         QCOMPARE(boxes.boxes(),
-                 fails && hasBox ? QList<Box>{errorBox(qPrintable(operation))} : QList<Box>());
+                 fails && hasBox ? QList<Box>{failedBox(qPrintable(operation))} : QList<Box>());
         QTRY_COMPARE(log.texts(QtCriticalMsg), fails ? QStringList(critical) : QStringList());
         if (!fails)
             QVERIFY(pictureComes(w));

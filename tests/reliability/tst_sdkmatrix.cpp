@@ -102,13 +102,13 @@ Outcome outcomeOfConnecting(const Fault &fault)
     if (fault.operation == "GetVELDIXId")
         return {false, notFound, {}};
     if (fault.operation == "OpenVELDIX")
-        return {false, errorBox("OpenVELDIX"), "OpenVELDIX failure!"};
+        return {false, failedBox("OpenVELDIX"), "OpenVELDIX failure!"};
     if (fault.operation == "SetVELDIXReadMode" && fault.status == sdkError)
         return {true, {}, "SetVELDIXReadMode 0 Failure"};
     if (fault.operation == "SetVELDIXStreamMode")
         return {false, {}, "SetVELDIXStreamMode 1 Failure"};
     if (fault.operation == "InitVELDIX")
-        return {false, errorBox("InitVELDIX"), "InitVELDIX failure!"};
+        return {false, failedBox("InitVELDIX"), "InitVELDIX failure!"};
     if (fault.operation == "BeginVELDIXLive")
         return {true, {}, "BeginVELDIXLive failure"};
     return {};

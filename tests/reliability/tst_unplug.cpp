@@ -3,6 +3,7 @@
 #include "tests/reliability/virtualwindow.h"
 
 #include "mainwindow/wizardtable.h"
+#include "tests/support/boxwatcher.h"
 #include "tests/support/mainwindowprobe.h"
 
 #include <QtTest>
@@ -54,7 +55,7 @@ void UnplugTest::unplugged()
     QFETCH(int, step);
     QFETCH(Then, then);
     VirtualWindow w;
-    BoxAnswerer boxes(QMessageBox::Ok);
+    const BoxWatcher boxes(QMessageBox::Ok);
     QVERIFY(w.connectCamera());
     MainWindowProbe(*w.window).switchStep(step);
     QVERIFY(w.hasNewPicture());
@@ -65,7 +66,7 @@ void UnplugTest::unplugged()
     QCOMPARE(w.window->step(), step);
     QVERIFY(w.session().camera.cameraConnected);
     useControls(w);
-    const int boxesOfControls = boxes.seen.count; // a double click may find no star
+    const int boxesOfControls = boxes.boxes().size(); // a double click may find no star
 
     switch (then) {
     case Then::PlugIn:
@@ -78,7 +79,7 @@ void UnplugTest::unplugged()
         QVERIFY(!w.session().camera.cameraConnected);
         w.toggleConnection();
         QVERIFY(!w.session().camera.cameraConnected);
-        QCOMPARE(boxes.seen.count, boxesOfControls + 1);
+        QCOMPARE(boxes.boxes().size(), boxesOfControls + 1);
         w.plug(true);
         QVERIFY(w.connectCamera());
         QCOMPARE(w.window->step(), 1);

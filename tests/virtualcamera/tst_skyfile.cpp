@@ -4,42 +4,18 @@
 #include <QtTest>
 #include <random>
 
-#include "virtualcamera/skyfile.h"
-#include "virtualcamera/skykeys.h"
+#include "tests/support/skytext.h"
 
 using namespace virtualsky;
 
 namespace
 {
-QString name(const SkyKey &key)
-{
-    return QString::fromStdString(std::string(key.section) + '.' + std::string(key.name));
-}
-
 QByteArray line(const SkyKey &key, const QByteArray &value)
 {
     return '[' + QByteArray(key.section.data(), int(key.section.size())) + "]\n" +
            QByteArray(key.name.data(), int(key.name.size())) + " = " + value + '\n';
 }
 
-const SkyKey &keyNamed(const QString &wanted)
-{
-    for (const SkyKey &key : skyKeys())
-        if (name(key) == wanted)
-            return key;
-    qFatal("no such key");
-}
-
-// Empty = the text was taken.
-QString faultOf(const QByteArray &text)
-{
-    try {
-        parse({text.constData(), std::size_t(text.size())});
-    } catch (const SkyFileError &error) {
-        return error.what();
-    }
-    return {};
-}
 } // namespace
 
 class SkyFileTest : public QObject

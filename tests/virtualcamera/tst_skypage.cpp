@@ -3,37 +3,9 @@
 #include <QFile>
 #include <QtTest>
 
-#include "virtualcamera/skyfile.h"
-#include "virtualcamera/skykeys.h"
+#include "tests/support/skytext.h"
 
 using namespace virtualsky;
-
-namespace
-{
-QString name(const SkyKey &key)
-{
-    return QString::fromStdString(std::string(key.section) + '.' + std::string(key.name));
-}
-
-const SkyKey &keyNamed(const QString &wanted)
-{
-    for (const SkyKey &key : skyKeys())
-        if (name(key) == wanted)
-            return key;
-    qFatal("no such key");
-}
-
-// Empty = the text was taken.
-QString faultOf(const QByteArray &text)
-{
-    try {
-        parse({text.constData(), std::size_t(text.size())});
-    } catch (const SkyFileError &error) {
-        return error.what();
-    }
-    return {};
-}
-} // namespace
 
 class SkyPageTest : public QObject
 {

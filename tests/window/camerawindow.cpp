@@ -8,55 +8,9 @@
 #include <QApplication>
 #include <QFile>
 #include <QLabel>
-#include <QMainWindow>
 #include <QPushButton>
 #include <QtTest>
 #include <map>
-
-bool operator==(const Box &a, const Box &b)
-{
-    return a.icon == b.icon && a.title == b.title && a.text == b.text && a.buttons == b.buttons &&
-           a.modal == b.modal && a.onWindow == b.onWindow;
-}
-
-char *toString(const Box &box)
-{
-    const QString text = QStringLiteral("icon %1, \"%2\", \"%3\", %4 buttons, modal %5, parent %6")
-                             .arg(box.icon)
-                             .arg(box.title, box.text)
-                             .arg(box.buttons.size())
-                             .arg(box.modal)
-                             .arg(box.onWindow);
-    return qstrdup(qPrintable(text));
-}
-
-Box okBox(QMessageBox::Icon icon, const QString &title, const QString &text)
-{
-    return {icon, title, text, {QMessageBox::Ok}, true, true};
-}
-
-BoxWatcher::BoxWatcher(std::function<void(QWidget *)> onDialog) : dialogHandler(std::move(onDialog))
-{
-    connect(&timer, &QTimer::timeout, this, &BoxWatcher::look);
-    timer.start(5);
-}
-
-void BoxWatcher::look()
-{
-    QWidget *const widget = QApplication::activeModalWidget();
-    auto *const box = qobject_cast<QMessageBox *>(widget);
-    if (!box) {
-        if (widget && dialogHandler)
-            dialogHandler(widget);
-        return;
-    }
-    Box found{box->icon(), box->windowTitle(), box->text(), {}, box->isModal(), false};
-    found.onWindow = qobject_cast<QMainWindow *>(box->parentWidget()) != nullptr;
-    for (QAbstractButton *const button : box->buttons())
-        found.buttons.append(box->standardButton(button));
-    seen.append(found);
-    box->buttons().constFirst()->click();
-}
 
 QString settingsPath()
 {

@@ -3,44 +3,11 @@
 #pragma once
 
 #include "tests/camera/recordingcamera.h"
+#include "tests/support/boxwatcher.h"
 #include "tests/support/patience.h"
 #include "tests/support/sessionwindow.h"
 
-#include <QMessageBox>
-#include <QTimer>
 #include <functional>
-
-/// What a message box showed.
-struct Box {
-    QMessageBox::Icon icon;
-    QString title;
-    QString text;
-    QList<QMessageBox::StandardButton> buttons;
-    bool modal;
-    bool onWindow; ///< its parent is a main window
-};
-
-bool operator==(const Box &a, const Box &b);
-char *toString(const Box &box);
-
-/// A modal box over the main window with an Ok button alone.
-Box okBox(QMessageBox::Icon icon, const QString &title, const QString &text);
-
-/// While it lives, notes every message box that comes up and answers it with its first button; any
-/// other modal dialog is given to `onDialog`.
-class BoxWatcher : public QObject
-{
-public:
-    explicit BoxWatcher(std::function<void(QWidget *)> onDialog = {});
-    const QList<Box> &boxes() const { return seen; }
-
-private:
-    void look();
-
-    std::function<void(QWidget *)> dialogHandler;
-    QList<Box> seen;
-    QTimer timer;
-};
 
 /// A shown window that starts from the given settings file, or from none, with the recording
 /// camera reset and a session of its own.

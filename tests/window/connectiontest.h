@@ -31,12 +31,6 @@ inline const QStringList settingLog{
 inline const Box notFound =
     okBox(QMessageBox::Information, "Info", "Not Found VELDIX Quorvandel equipment!");
 
-inline Box failedBox(const char *operation)
-{
-    return okBox(QMessageBox::Critical, "Error",
-                 QStringLiteral("Can not connect Quorvandel as %1 error!").arg(operation));
-}
-
 /// The debug lines of the SDK alone, without those of the wizard and the capture thread.
 inline QStringList sdkLog(const LogRecorder &log)
 {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What is in force right after the window was made, for each kind of settings file?
+#include "tests/support/boxwatcher.h"
 #include "tests/window/windowtest.h"
 
 #include "geometry/starcatalogue.h"
@@ -258,9 +259,9 @@ void ConstructionTest::sdkMissing()
     QCOMPARE(log.texts(QtCriticalMsg).filter("InitVELDIX"),
              QStringList{"InitVELDIXResource: failed"});
     QVERIFY(!log.texts(QtDebugMsg).contains("InitVELDIXSDK success"));
-    const BoxAnswerer boxes(QMessageBox::Ok);
+    const BoxWatcher boxes(QMessageBox::Ok);
     named<QAction>(window, "actionConnect").trigger();
-    QCOMPARE(boxes.seen.count, 0);
+    QCOMPARE(boxes.boxes().size(), 0);
     QVERIFY(!window.ownSession.camera.cameraConnected);
     QCOMPARE(named<QAction>(window, "actionConnect").text(), QString("Connect"));
 }

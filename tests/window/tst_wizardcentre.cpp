@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // When is the saved axis centre used again, when replaced, and when forgotten?
+#include "tests/support/boxwatcher.h"
 #include "tests/window/freshwindowtest.h"
 
 class WizardCentreTest : public FreshWindowTest
@@ -48,9 +49,9 @@ void WizardCentreTest::reuseQuestion()
     QFETCH(QString, label);
     session().alignmentPoints.savedAxisCenter = saved;
     probe->switchStep(2);
-    const BoxAnswerer boxes(answersYes ? QMessageBox::Yes : QMessageBox::No);
+    const BoxWatcher boxes(answersYes ? QMessageBox::Yes : QMessageBox::No);
     named<QPushButton>(*window, "pushButton_confirm_done").click();
-    QCOMPARE(boxes.seen.count, asked);
+    QCOMPARE(boxes.boxes().size(), asked);
     QCOMPARE(window->step(), step);
     QCOMPARE(double(session().alignmentPoints.savedAxisCenter.x), after.x());
     QCOMPARE(double(session().alignmentPoints.savedAxisCenter.y), after.y());
@@ -62,26 +63,28 @@ void WizardCentreTest::questionWords()
 {
     session().alignmentPoints.savedAxisCenter = QPointF(10, 10);
     probe->switchStep(2);
-    const BoxAnswerer boxes(QMessageBox::Yes);
+    const BoxWatcher boxes(QMessageBox::Yes);
     named<QPushButton>(*window, "pushButton_confirm_done").click();
-    QCOMPARE(boxes.seen.title, QString("Question"));
-    QCOMPARE(boxes.seen.text,
+    QCOMPARE(boxes.boxes().size(), 1);
+    QCOMPARE(boxes.boxes().constFirst().title, QString("Question"));
+    QCOMPARE(boxes.boxes().constFirst().text,
              QString("Would you like to use the 'Axis center position' recorded last time you "
                      "used Quorvandel ?"));
-    QCOMPARE(boxes.seen.buttons, QMessageBox::Yes | QMessageBox::No);
-    QCOMPARE(boxes.seen.defaultButton, QMessageBox::Yes);
-    QVERIFY(!boxes.seen.hasParent);
+    QCOMPARE(boxes.boxes().constFirst().buttons,
+             (QList<QMessageBox::StandardButton>{QMessageBox::Yes, QMessageBox::No}));
+    QCOMPARE(boxes.boxes().constFirst().defaultButton, QMessageBox::Yes);
+    QVERIFY(!boxes.boxes().constFirst().hasParent);
 }
 
 void WizardCentreTest::noErasesTheSavedCentre()
 {
     session().alignmentPoints.savedAxisCenter = QPointF(612, 470);
-    const BoxAnswerer boxes(QMessageBox::No);
+    const BoxWatcher boxes(QMessageBox::No);
     for (int round = 0; round < 2; ++round) {
         probe->switchStep(2);
         named<QPushButton>(*window, "pushButton_confirm_done").click();
         QCOMPARE(window->step(), 3);
-        QCOMPARE(boxes.seen.count, 1);
+        QCOMPARE(boxes.boxes().size(), 1);
     }
 }
 
@@ -89,7 +92,7 @@ void WizardCentreTest::yesLightsAllLamps()
 {
     session().alignmentPoints.savedAxisCenter = QPointF(612, 470);
     probe->switchStep(2);
-    const BoxAnswerer boxes(QMessageBox::Yes);
+    const BoxWatcher boxes(QMessageBox::Yes);
     named<QPushButton>(*window, "pushButton_confirm_done").click();
     for (const char *const lamp :
          {"label_starPos1_icon", "label_starPos2_icon", "label_starPos3_icon"})
