@@ -3,6 +3,7 @@
 #include "app/logging.h"
 #include "app/startup.h"
 #include "app/terminationsignals.h"
+#include "camera/session.h"
 #include "mainwindow/mainwindow.h"
 
 #include <QApplication>
@@ -14,7 +15,8 @@ int main(int argc, char *argv[])
     QApplication application(argc, argv);
     // Without a log file Qt's own output stays.
     startProgram(application, QUORVANDEL_FILE_LOG ? logMessageHandler : nullptr);
-    MainWindow window;
+    Session session;
+    MainWindow window(session);
     const TerminationSignals closing(window);
     if (QApplication::arguments().contains(QLatin1String("--maximized")))
         window.showMaximized();
@@ -22,7 +24,7 @@ int main(int argc, char *argv[])
         window.show();
     const int status = QApplication::exec();
     // A thread inside a library that does not return can neither be ended nor outlive its objects.
-    if (!window.captureEnds())
+    if (!window.stopCaptureAndWait())
         std::_Exit(status);
     return status;
 }

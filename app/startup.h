@@ -15,5 +15,5 @@ void startWindows(QApplication &application);
 
 /// Starts the program itself: the resources, the name of this run's log file, the messages' way,
 /// the look.
-/// \param handler null leaves Qt's own output
+/// @param handler null leaves Qt's own output
 void startProgram(QApplication &application, QtMessageHandler handler);

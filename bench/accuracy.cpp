@@ -167,7 +167,7 @@ public:
         camera.edit().axisY = -30 + place(random);
     }
     void tryPole();
-    /// \param turn degrees of RA of the second and third pick
+    /// @param turn degrees of RA of the second and third pick
     void tryAxis(const double (&turn)[2]);
 
     Accuracy result() const;

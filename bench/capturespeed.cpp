@@ -2,10 +2,8 @@
 // What does the capture thread need for one frame, and what does monitor mode add?
 #include "bench/plainforms.h"
 #include "bench/skyframe.h"
-#include "camera/camerastate.h"
 #include "camera/capturethread.h"
-#include "camera/frames.h"
-#include "camera/sharedstate.h"
+#include "camera/session.h"
 
 #include <algorithm>
 #include <benchmark/benchmark.h>
@@ -15,6 +13,7 @@
 class CaptureThreadProbe
 {
 public:
+    explicit CaptureThreadProbe(Session &session) : thread(session) {}
     /// With a grey frame of `size` in the fetch buffer.
     void handleFrame(cv::Size size)
     {
@@ -22,6 +21,7 @@ public:
         thread.handleFrame();
     }
     void followStars() { thread.followStars(); }
+    const cv::Mat &magnifierCrop() const { return thread.matrices.magnifierCrop; }
 
 private:
     CaptureThread thread;
@@ -35,35 +35,37 @@ QPointF found(const std::optional<virtualsky::Point> &place)
 }
 
 /// The state as after Connect, with the sky in both frame buffers.
-void prepare(bool marks, bool monitoring)
+void prepare(Session &session, bool marks, bool monitoring)
 {
     const SkyFrame &frame = skyFrame();
-    allocateFrameMatrices();
-    setCameraDefaults(cameraState);
-    for (auto *const buffer : {&cameraState.frameBuffer, &cameraState.latestBuffer})
-        std::copy_n(frame.grey.data, frame.grey.total(), (*buffer)->data());
-    alignmentPoints.savedAxisCenter = found(frame.truth.axis);
-    alignmentPoints.savedAxisRadius = 80;
-    alignmentPoints.polarisTarget = found(frame.truth.starB);
-    alignmentPoints.angleBAP = 40.0;
-    alignmentPoints.angleABP = 60.0;
-    monitorPositions.starASearch = found(frame.truth.starA) + QPointF(4, -3);
-    monitorPositions.starBSearch = found(frame.truth.starB) + QPointF(-5, 2);
+    setCameraDefaults(session.camera);
+    for (int buffer = 0; buffer < 2; ++buffer) {
+        std::copy_n(frame.grey.data, frame.grey.total(), session.latestFrame.fetchBuffer());
+        session.latestFrame.acceptFetched(
+            {std::uint32_t(frame.grey.cols), std::uint32_t(frame.grey.rows), 8, 1});
+    }
+    session.alignmentPoints.savedAxisCenter = found(frame.truth.axis);
+    session.alignmentPoints.savedAxisRadius = 80;
+    session.alignmentPoints.polarisTarget = found(frame.truth.starB);
+    session.alignmentPoints.angleBAP = 40.0;
+    session.alignmentPoints.angleABP = 60.0;
+    session.monitorPositions.starASearch = found(frame.truth.starA) + QPointF(4, -3);
+    session.monitorPositions.starBSearch = found(frame.truth.starB) + QPointF(-5, 2);
     for (Relaxed<bool> *const flag :
-         {&overlayFlags.showAxisMark, &overlayFlags.showStarCircle, &overlayFlags.showRotatingArc})
+         {&session.overlayFlags.showAxisMark, &session.overlayFlags.showStarCircle,
+          &session.overlayFlags.showRotatingArc})
         *flag = marks;
-    overlayFlags.monitorTracking = monitoring;
-    frameQueue.clear();
-    magnifierQueue.clear();
+    session.overlayFlags.monitorTracking = monitoring;
 }
 
 void capturePass(benchmark::State &state, bool marks)
 {
-    prepare(marks, false);
-    CaptureThreadProbe capture;
+    Session session;
+    prepare(session, marks, false);
+    CaptureThreadProbe capture(session);
     for (auto _ : state) {
         capture.handleFrame(skyFrame().grey.size());
-        frameQueue.clear(); // as the GUI takes each picture
+        session.frameQueue.clear(); // as the GUI takes each picture
     }
 }
 
@@ -82,11 +84,12 @@ void conversions(benchmark::State &state, bool newMemory)
 
 void monitoringAdded(benchmark::State &state)
 {
-    prepare(false, true);
-    CaptureThreadProbe capture;
+    Session session;
+    prepare(session, false, true);
+    CaptureThreadProbe capture(session);
     capture.handleFrame(skyFrame().grey.size());
     for (auto _ : state) {
-        magnifierQueue.clear();
+        session.magnifierQueue.clear();
         capture.followStars();
     }
 }
@@ -94,22 +97,24 @@ void monitoringAdded(benchmark::State &state)
 /// Also holds the results of both forms against each other.
 void monitoringPlain(benchmark::State &state)
 {
-    prepare(false, true);
-    CaptureThreadProbe capture;
+    Session session;
+    prepare(session, false, true);
+    CaptureThreadProbe capture(session);
     capture.handleFrame(skyFrame().grey.size());
     const cv::Mat &grey = skyFrame().grey;
     QPointF starA, starB;
     PlainMagnifier magnifier;
     cv::Mat crop;
     for (auto _ : state) {
-        starA = plainStar(grey, monitorPositions.starASearch);
-        starB = plainStar(grey, monitorPositions.starBSearch);
+        starA = plainStar(grey, session.monitorPositions.starASearch);
+        starB = plainStar(grey, session.monitorPositions.starBSearch);
         crop = magnifier.crop(grey, starA, starB);
         benchmark::DoNotOptimize(MatToQImage(&crop));
     }
-    const QPointF foundA = monitorPositions.starACurrent, foundB = monitorPositions.starBCurrent;
+    const QPointF foundA = session.monitorPositions.starACurrent,
+                  foundB = session.monitorPositions.starBCurrent;
     if (starA.x() != foundA.x() || starA.y() != foundA.y() || starB.x() != foundB.x() ||
-        starB.y() != foundB.y() || cv::norm(crop, frameMatrices.magnifierCrop, cv::NORM_INF) != 0.0)
+        starB.y() != foundB.y() || cv::norm(crop, capture.magnifierCrop(), cv::NORM_INF) != 0.0)
         state.SkipWithError("the plain form gives another result");
 }
 } // namespace

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // What does the window need to show one frame, magnifier included?
 #include "bench/skyframe.h"
-#include "camera/camerastate.h"
 #include "camera/frames.h"
-#include "dialogs/magnifierwidget.h"
+#include "camera/session.h"
 #include "mainwindow/mainwindow.h"
+#include "widgets/magnifierwidget.h"
 
 #include <QAction>
 #include <QPixmap>
@@ -25,10 +25,11 @@ const QImage &picture()
 
 void shown(benchmark::State &state, const char *zoom)
 {
-    MainWindow window;
+    Session session;
+    MainWindow window(session);
     window.findChild<QAction *>(zoom)->trigger();
     for (auto _ : state) {
-        frameQueue.append(picture());
+        session.frameQueue.append(picture());
         QMetaObject::invokeMethod(&window, "showImages", Qt::DirectConnection);
     }
 }

@@ -3,6 +3,7 @@
 #include "app/startup.h"
 #include "app/terminationsignals.h"
 #include "bench/processfigures.h"
+#include "camera/session.h"
 #include "mainwindow/mainwindow.h"
 
 #include <QApplication>
@@ -46,7 +47,8 @@ int showWindow(int argc, char *argv[], double started)
     const double connected = passed();
     startProgram(application, nullptr);
     const double styled = passed();
-    MainWindow window;
+    Session session;
+    MainWindow window(session);
     const TerminationSignals closing(window);
     const double built = passed();
     FirstPaint watch;

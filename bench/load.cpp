@@ -5,8 +5,8 @@
 #include "bench/clicks.h"
 #include "bench/fetches.h"
 #include "bench/largeallocations.h"
+#include "bench/monitoredrun.h"
 #include "bench/processfigures.h"
-#include "bench/session.h"
 
 #include <QApplication>
 #include <QPushButton>
@@ -19,24 +19,24 @@ namespace
 {
 constexpr double settleSeconds = 3;
 
-void measureMemory(Session &session, double)
+void measureMemory(MonitoredRun &run, double)
 {
-    session.wait(settleSeconds);
+    run.wait(settleSeconds);
     printf("resident %.1f MiB, of it anonymous %.1f and of files %.1f; peak %.1f; reserved %.1f\n",
            statusMebibytes("VmRSS"), statusMebibytes("RssAnon"), statusMebibytes("RssFile"),
            statusMebibytes("VmHWM"), statusMebibytes("VmSize"));
 }
 
 /// Frames a second and processor seconds a second, by thread, over a while.
-void measureLoad(Session &session, double seconds)
+void measureLoad(MonitoredRun &run, double seconds)
 {
-    session.wait(settleSeconds);
+    run.wait(settleSeconds);
     const auto threadsBefore = threadSeconds();
     const Fetches before = fetches();
     const long faultsBefore = pageFaults();
     const double cpuBefore = clockSeconds(CLOCK_PROCESS_CPUTIME_ID);
     const double clockBefore = clockSeconds(CLOCK_MONOTONIC);
-    session.wait(seconds);
+    run.wait(seconds);
     const double passed = clockSeconds(CLOCK_MONOTONIC) - clockBefore;
     const double cpu = clockSeconds(CLOCK_PROCESS_CPUTIME_ID) - cpuBefore;
     const Fetches after = fetches();
@@ -53,10 +53,10 @@ void measureLoad(Session &session, double seconds)
     }
 }
 
-void measureClicks(Session &session, double seconds)
+void measureClicks(MonitoredRun &run, double seconds)
 {
-    auto *const button = session.window.findChild<QPushButton *>("pushButton_monitor");
-    session.window.findChild<QScrollArea *>("scrollArea_manager")->ensureWidgetVisible(button);
+    auto *const button = run.window.findChild<QPushButton *>("pushButton_monitor");
+    run.window.findChild<QScrollArea *>("scrollArea_manager")->ensureWidgetVisible(button);
     const std::vector<double> times = clickTimes(*button, int(seconds / 0.08));
     if (times.empty()) {
         printf("no click was answered\n");
@@ -66,19 +66,19 @@ void measureClicks(Session &session, double seconds)
            times.size(), times[times.size() / 2], times[times.size() * 99 / 100], times.back());
 }
 
-void measureRate(Session &session, double seconds)
+void measureRate(MonitoredRun &run, double seconds)
 {
-    session.setUnthrottled(true);
-    measureLoad(session, seconds);
-    measureClicks(session, seconds);
+    run.setUnthrottled(true);
+    measureLoad(run, seconds);
+    measureClicks(run, seconds);
 }
 
-void listAllocations(Session &session, double seconds)
+void listAllocations(MonitoredRun &run, double seconds)
 {
-    session.wait(settleSeconds);
+    run.wait(settleSeconds);
     const std::uint64_t before = fetches().frames;
     countLargeAllocations();
-    session.wait(seconds);
+    run.wait(seconds);
     const double frames = double(fetches().frames - before);
     const auto counts = largeAllocations();
     printf("%.0f frames; requests of %zu bytes and more for each frame:\n", frames, largeBlock);
@@ -87,7 +87,7 @@ void listAllocations(Session &session, double seconds)
 }
 
 /// Resident mebibytes every second, for bench/plot_memory.py.
-void soak(Session &session, double seconds)
+void soak(MonitoredRun &run, double seconds)
 {
     printf("seconds,resident_mebibytes,frames\n");
     const double begin = clockSeconds(CLOCK_MONOTONIC);
@@ -95,13 +95,13 @@ void soak(Session &session, double seconds)
         printf("%.1f,%.2f,%llu\n", now, statusMebibytes("VmRSS"),
                static_cast<unsigned long long>(fetches().frames));
         fflush(stdout);
-        session.wait(1);
+        run.wait(1);
     }
 }
 
 const struct {
     const char *name;
-    void (*measure)(Session &session, double seconds);
+    void (*measure)(MonitoredRun &run, double seconds);
     double seconds; ///< unless told otherwise
 } measurements[] = {{"memory", measureMemory, 0},  {"load", measureLoad, 20},
                     {"clicks", measureClicks, 15}, {"rate", measureRate, 15},
@@ -119,8 +119,8 @@ int main(int argc, char *argv[])
         QApplication application(argc, argv);
         startWindows(application);
         try {
-            Session session(zoom);
-            measurement.measure(session, seconds);
+            MonitoredRun run(zoom);
+            measurement.measure(run, seconds);
         } catch (const std::exception &problem) {
             fprintf(stderr, "%s\n", problem.what());
             return 1;

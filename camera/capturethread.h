@@ -2,26 +2,17 @@
 // How do frames get from the camera into the two picture queues?
 #pragma once
 
-#include "camera/relaxed.h"
+#include "camera/frameformat.h"
+#include "camera/frames.h"
+#include "core/relaxed.h"
 
 #include <QImage>
 #include <QThread>
 #include <climits>
-#include <cstdint>
 #include <memory>
 #include <optional>
 
-/// What the camera says of a frame.
-struct FrameFormat {
-    std::uint32_t width = 0, height = 0; ///< pixels
-    std::uint32_t bpp = 0;               ///< bits a sample
-    std::uint32_t channels = 0;
-};
-
-inline bool operator==(const FrameFormat &a, const FrameFormat &b)
-{
-    return a.width == b.width && a.height == b.height && a.bpp == b.bpp && a.channels == b.channels;
-}
+struct Session;
 
 /// Fetches frames while a camera is connected, draws the marks into them, follows the reference
 /// stars in monitor mode, and queues the pictures. It never waits for the GUI to show one: where a
@@ -29,7 +20,8 @@ inline bool operator==(const FrameFormat &a, const FrameFormat &b)
 class CaptureThread : public QThread
 {
 public:
-    explicit CaptureThread(QObject *parent = nullptr);
+    /// @param shared outlives the thread
+    explicit CaptureThread(Session &shared, QObject *parent = nullptr);
     /// Asks the loop to stop and waits for its current pass to end.
     ~CaptureThread() override;
 
@@ -51,12 +43,14 @@ private:
     bool beginLive();
     Fetch fetchFrame();
     bool handleFrame();
-    void measureRate();
-    bool takeRawFrame();
+    bool acceptFrame();
     void refuseFrame();
     void followStars();
 
+    Session &session;
     Relaxed<bool> stopRequested;
+    FrameMatrices matrices;
+    cv::Mat rawFrame;                       ///< header over the latest whole frame
     FrameFormat fetched;                    ///< of the frame in the fetch buffer
     std::optional<FrameFormat> refused;     ///< the last one that no picture could be made of
     std::unique_ptr<QImage> frameImage;     ///< the latest display picture

@@ -1,45 +1,20 @@
 // SPDX-License-Identifier: MIT
-// The frame matrices, the picture queues, and how a matrix becomes a picture.
+// The frame matrices, and how a matrix becomes a picture.
 #include "camera/frames.h"
 
-#include "camera/camerastate.h"
-#include "camera/locker.h"
+#include "camera/frameformat.h"
 
 #include <QtDebug>
 #include <opencv2/imgproc.hpp>
 
-FrameMatrices frameMatrices;
-QList<QImage> frameQueue;
-QList<QImage> magnifierQueue;
-QMutex frameMutex;
-QMutex magnifierMutex;
-QMutex rawFrameMutex;
-
-void allocateFrameMatrices()
+FrameMatrices::FrameMatrices()
 {
     const int rows = int(frameHeightDefault);
     const int columns = int(frameWidthDefault);
-    frameMatrices.rawFrame = cv::Mat::zeros(rows, columns, CV_8UC1); // no star to be picked
-    frameMatrices.colourFrame.create(rows, columns, CV_8UC3);
-    frameMatrices.enlargedGrey.create(rows * enlargement, columns * enlargement, CV_8UC1);
-    frameMatrices.enlargedColour.create(rows * enlargement, columns * enlargement, CV_8UC3);
-    frameMatrices.magnifierCrop.create(cropSide, cropSide, CV_8UC3);
-}
-
-cv::Mat copyOfRawFrame()
-{
-    const Locker lock(rawFrameMutex);
-    return frameMatrices.rawFrame.clone();
-}
-
-bool enqueue(QList<QImage> &queue, QMutex &mutex, const QImage &picture,
-             const Relaxed<bool> &stopped)
-{
-    const Locker lock(mutex);
-    if (stopped || queue.size() >= queueLength)
-        return false;
-    queue.append(picture);
-    return true;
+    colourFrame.create(rows, columns, CV_8UC3);
+    enlargedGrey.create(rows * enlargement, columns * enlargement, CV_8UC1);
+    enlargedColour.create(rows * enlargement, columns * enlargement, CV_8UC3);
+    magnifierCrop.create(cropSide, cropSide, CV_8UC3);
 }
 
 std::unique_ptr<QImage> MatToQImage(const cv::Mat *mat)

@@ -2,10 +2,10 @@
 // Follows the reference stars, reckons the pole and enlarges the pole star.
 #include "camera/monitor.h"
 
-#include "camera/sharedstate.h"
+#include "core/saturate.h"
+#include "core/sharedstate.h"
 #include "geometry/polecomputation.h"
 #include "geometry/refraction.h"
-#include "geometry/saturate.h"
 #include "geometry/stardetection.h"
 
 #include <algorithm>
@@ -89,32 +89,32 @@ QPointF starNear(const cv::Mat &frame, QPointF expected)
     return {x, y};
 }
 
-ReferenceStars trackReferenceStars(const cv::Mat &frame)
+ReferenceStars trackReferenceStars(const cv::Mat &frame, const MonitorPositions &search)
 {
-    return {starNear(frame, monitorPositions.starASearch),
-            starNear(frame, monitorPositions.starBSearch)};
+    return {starNear(frame, search.starASearch), starNear(frame, search.starBSearch)};
 }
 
-void updatePole(ReferenceStars stars)
+void updatePole(ReferenceStars stars, const RefractionSettings &refraction,
+                const AlignmentPoints &points, MonitorPositions &found)
 {
     auto &[a, b] = stars;
-    if (refractionSettings.enabledCorrect) {
+    if (refraction.enabledCorrect) {
         // The pressure goes in as tenths of what is entered, whatever its unit is said to be.
-        const double pressure = double(refractionSettings.P) / 10.0;
-        const double latitude = double(refractionSettings.latitude);
-        const double temperature = double(refractionSettings.T);
+        const double pressure = double(refraction.P) / 10.0;
+        const double latitude = double(refraction.latitude);
+        const double temperature = double(refraction.T);
         for (QPointF *star : {&a, &b})
             CorrectRefraction(star->y(), latitude, pressure, temperature, star->ry());
     }
-    monitorPositions.starACurrent = a;
-    monitorPositions.starBCurrent = b;
-    const QPointF axis = alignmentPoints.savedAxisCenter;
+    found.starACurrent = a;
+    found.starBCurrent = b;
+    const QPointF axis = points.savedAxisCenter;
     double poleX = 0, poleY = 0;
-    const int status = CalcPoleCOOR(a.x(), a.y(), alignmentPoints.angleBAP, b.x(), b.y(),
-                                    alignmentPoints.angleABP, axis.x(), axis.y(), poleX, poleY);
+    const int status = CalcPoleCOOR(a.x(), a.y(), points.angleBAP, b.x(), b.y(), points.angleABP,
+                                    axis.x(), axis.y(), poleX, poleY);
     if (status == 0)
-        monitorPositions.poleCurrent = QPointF(poleX, poleY);
-    monitorPositions.poleValid = status == 0;
+        found.poleCurrent = QPointF(poleX, poleY);
+    found.poleValid = status == 0;
 }
 
 void cropAroundStarB(const cv::Mat &frame, QPointF starA, QPointF starB, bool monoStyle,

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "camera/frames.h"
+#include "core/sharedstate.h"
 
 #include <QPointF>
 
@@ -17,15 +18,16 @@ struct ReferenceStars {
 
 /// Finds both reference stars near their search positions in `frame` (8 bits, one or three
 /// channels); a star that is not found stands at its search position.
-ReferenceStars trackReferenceStars(const cv::Mat &frame);
+ReferenceStars trackReferenceStars(const cv::Mat &frame, const MonitorPositions &search);
 
-/// Reckons the pole from the stars that were found, after the refraction at the pole was taken off
-/// their y where that is switched on; shows stars and pole to the other thread.
-void updatePole(ReferenceStars stars);
+/// Computes the pole from the stars that were found, after the refraction at the pole was
+/// subtracted from their y where that is switched on; writes stars and pole into `found`.
+void updatePole(ReferenceStars stars, const RefractionSettings &refraction,
+                const AlignmentPoints &points, MonitorPositions &found);
 
 /// Cuts the five-fold enlarged surroundings of star B, both stars marked, into
 /// matrices.magnifierCrop. Only the part of `frame` that the crop shows is enlarged; the crop is
 /// the same to the last bit as one cut from the whole frame's enlargement, and black beyond its
-/// edge. \param starA, starB frame pixels
+/// edge. @param starA, starB frame pixels
 void cropAroundStarB(const cv::Mat &frame, QPointF starA, QPointF starB, bool monoStyle,
                      FrameMatrices &matrices);

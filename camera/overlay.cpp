@@ -2,7 +2,7 @@
 // Draws the alignment marks over a frame.
 #include "camera/overlay.h"
 
-#include "camera/sharedstate.h"
+#include "core/sharedstate.h"
 
 #include <QPainter>
 #include <QPen>
@@ -80,22 +80,23 @@ const OverlayColours &overlayColours(bool monoStyle)
     return monoStyle ? mono : colour;
 }
 
-OverlayMarks currentMarks()
+OverlayMarks currentMarks(const OverlayFlags &flags, const AlignmentPoints &points,
+                          const MonitorPositions &found)
 {
     OverlayMarks marks;
-    marks.showAxisMark = overlayFlags.showAxisMark;
-    marks.showStarCircle = overlayFlags.showStarCircle;
-    marks.showRotatingArc = overlayFlags.showRotatingArc;
-    marks.showMonitorCross = overlayFlags.showMonitorCross;
-    marks.showPoleRect = overlayFlags.showPoleRect && monitorPositions.poleValid;
-    marks.monoStyle = overlayFlags.monoStyle;
-    marks.axisCenter = alignmentPoints.savedAxisCenter;
-    marks.axisRadius = alignmentPoints.savedAxisRadius;
-    marks.arcCenter = alignmentPoints.polarisTarget;
-    marks.arcAngle = overlayFlags.arcAngle;
-    marks.starA = monitorPositions.starACurrent;
-    marks.starB = monitorPositions.starBCurrent;
-    marks.pole = monitorPositions.poleCurrent;
+    marks.showAxisMark = flags.showAxisMark;
+    marks.showStarCircle = flags.showStarCircle;
+    marks.showRotatingArc = flags.showRotatingArc;
+    marks.showMonitorCross = flags.showMonitorCross;
+    marks.showPoleRect = flags.showPoleRect && found.poleValid;
+    marks.monoStyle = flags.monoStyle;
+    marks.axisCenter = points.savedAxisCenter;
+    marks.axisRadius = points.savedAxisRadius;
+    marks.arcCenter = points.polarisTarget;
+    marks.arcAngle = flags.arcAngle;
+    marks.starA = found.starACurrent;
+    marks.starB = found.starBCurrent;
+    marks.pole = found.poleCurrent;
     return marks;
 }
 

@@ -2,6 +2,8 @@
 // Which marks lie over a frame, where, and what do they look like?
 #pragma once
 
+#include "core/sharedstate.h"
+
 #include <QColor>
 #include <QImage>
 #include <QPointF>
@@ -33,8 +35,9 @@ struct OverlayColours {
 
 const OverlayColours &overlayColours(bool monoStyle);
 
-/// A snapshot of the shared state. The pole is left out while none could be reckoned.
-OverlayMarks currentMarks();
+/// A snapshot of the shared state. The pole is left out while none could be computed.
+OverlayMarks currentMarks(const OverlayFlags &flags, const AlignmentPoints &points,
+                          const MonitorPositions &found);
 
 /// Draws the marks over `picture`, in a fixed order: axis, star circle, arc, stars A and B, pole.
 void paintOverlay(QImage &picture, const OverlayMarks &marks);

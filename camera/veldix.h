@@ -52,5 +52,5 @@ std::uint32_t CloseVELDIX(void *handle);
 
 /// Where the library is looked for, the first that loads being taken: the loader's own search
 /// path, then the program's virtual camera in its private folder.
-/// \param applicationFolder folder of the executable, absolute
+/// @param applicationFolder folder of the executable, absolute
 QStringList librariesToTry(const QString &applicationFolder);

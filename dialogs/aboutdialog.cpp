@@ -2,8 +2,8 @@
 // The About dialog.
 #include "dialogs/aboutdialog.h"
 
-#include "dialogs/dialogframe.h"
 #include "ui_aboutdialog.h"
+#include "widgets/dialogframe.h"
 
 #include <QDesktopServices>
 #include <QFont>

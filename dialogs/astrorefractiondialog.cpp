@@ -2,14 +2,14 @@
 // The refraction dialog.
 #include "dialogs/astrorefractiondialog.h"
 
-#include "camera/sharedstate.h"
-#include "dialogs/dialogframe.h"
+#include "core/sharedstate.h"
 #include "ui_astrorefractiondialog.h"
+#include "widgets/dialogframe.h"
 
 #include <QListView>
 
-AstroRefractionDialog::AstroRefractionDialog(QWidget *parent)
-    : QDialog(parent), ui(std::make_unique<Ui::AstroRefractionDialog>())
+AstroRefractionDialog::AstroRefractionDialog(RefractionSettings &edited, QWidget *parent)
+    : QDialog(parent), ui(std::make_unique<Ui::AstroRefractionDialog>()), settings(edited)
 {
     ui->setupUi(this);
     // A plain list view, so that the style sheet reaches the items of the drop-down.
@@ -21,13 +21,12 @@ AstroRefractionDialog::~AstroRefractionDialog() = default;
 
 void AstroRefractionDialog::initValues()
 {
-    ui->doubleSpinBox_latitude->setValue(double(refractionSettings.latitude));
-    ui->doubleSpinBox_longitude->setValue(double(refractionSettings.longitude));
-    ui->comboBox_presure->setCurrentIndex(refractionSettings.P_unit == QLatin1String("hPa") ? 1
-                                                                                            : 0);
-    ui->doubleSpinBox_presure->setValue(double(refractionSettings.P));
-    ui->doubleSpinBox_temperature->setValue(double(refractionSettings.T));
-    ui->checkBox_enableAstroRef->setChecked(refractionSettings.enabledCorrect);
+    ui->doubleSpinBox_latitude->setValue(double(settings.latitude));
+    ui->doubleSpinBox_longitude->setValue(double(settings.longitude));
+    ui->comboBox_presure->setCurrentIndex(settings.P_unit == QLatin1String("hPa") ? 1 : 0);
+    ui->doubleSpinBox_presure->setValue(double(settings.P));
+    ui->doubleSpinBox_temperature->setValue(double(settings.T));
+    ui->checkBox_enableAstroRef->setChecked(settings.enabledCorrect);
 }
 
 void AstroRefractionDialog::uiReset()
@@ -48,30 +47,30 @@ void AstroRefractionDialog::on_comboBox_presure_currentIndexChanged(int index)
         pressure.setMinimum(900);
         pressure.setValue(value * 10);
     }
-    refractionSettings.P = float(pressure.value());
+    settings.P = float(pressure.value());
 }
 
 void AstroRefractionDialog::on_checkBox_enableAstroRef_toggled(bool checked)
 {
-    refractionSettings.enabledCorrect = checked;
+    settings.enabledCorrect = checked;
 }
 
 void AstroRefractionDialog::on_doubleSpinBox_latitude_valueChanged(double arg1)
 {
-    refractionSettings.latitude = float(arg1);
+    settings.latitude = float(arg1);
 }
 
 void AstroRefractionDialog::on_doubleSpinBox_longitude_valueChanged(double arg1)
 {
-    refractionSettings.longitude = float(arg1);
+    settings.longitude = float(arg1);
 }
 
 void AstroRefractionDialog::on_doubleSpinBox_presure_valueChanged(double arg1)
 {
-    refractionSettings.P = float(arg1);
+    settings.P = float(arg1);
 }
 
 void AstroRefractionDialog::on_doubleSpinBox_temperature_valueChanged(double arg1)
 {
-    refractionSettings.T = float(arg1);
+    settings.T = float(arg1);
 }

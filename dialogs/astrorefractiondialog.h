@@ -5,22 +5,25 @@
 #include <QDialog>
 #include <memory>
 
+struct RefractionSettings;
+
 namespace Ui
 {
 class AstroRefractionDialog;
 }
 
-/// Edits refractionSettings: every change of a widget is written there at once.
+/// Edits the settings that it was given: every change of a widget is written there at once.
 class AstroRefractionDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    explicit AstroRefractionDialog(QWidget *parent = nullptr);
+    /// @param edited outlives the dialog
+    explicit AstroRefractionDialog(RefractionSettings &edited, QWidget *parent = nullptr);
     ~AstroRefractionDialog() override;
 
 public slots:
-    /// Shows what refractionSettings holds. A value outside a widget's range comes back clamped;
+    /// Shows what the settings hold. A value outside a widget's range comes back clamped;
     /// a unit other than the one shown converts the pressure shown before the stored one is put in.
     void initValues();
     void uiReset();
@@ -34,4 +37,5 @@ public slots:
 
 private:
     std::unique_ptr<Ui::AstroRefractionDialog> ui;
+    RefractionSettings &settings;
 };

@@ -2,8 +2,8 @@
 // The favourites dialog.
 #include "dialogs/favoritedialog.h"
 
-#include "dialogs/dialogframe.h"
 #include "ui_favoritedialog.h"
+#include "widgets/dialogframe.h"
 
 #include <QEvent>
 

@@ -2,8 +2,8 @@
 // The pole tracking dialog.
 #include "dialogs/poletrackingdialog.h"
 
-#include "dialogs/dialogframe.h"
 #include "ui_poletrackingdialog.h"
+#include "widgets/dialogframe.h"
 
 #include <algorithm>
 

@@ -20,7 +20,7 @@ public:
     ~PoleTrackingDialog() override;
 
 signals:
-    /// \param degree positive clockwise on the screen
+    /// @param degree positive clockwise on the screen
     void trackPole(double degree);
 
 public slots:

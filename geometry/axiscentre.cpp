@@ -2,8 +2,8 @@
 // About which point of the frame does the field turn, and where does a turn take a point?
 #include "geometry/axiscentre.h"
 
+#include "core/saturate.h"
 #include "geometry/angles.h"
-#include "geometry/saturate.h"
 
 #include <QDebug>
 #include <QString>

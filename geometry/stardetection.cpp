@@ -2,7 +2,7 @@
 // Where exactly, below a pixel, is the star near a given position of a camera frame?
 #include "geometry/stardetection.h"
 
-#include "geometry/saturate.h"
+#include "core/saturate.h"
 
 #include <QDebug>
 #include <array>

@@ -2,8 +2,8 @@
 // Where does the template lie on the screen, and which frame positions follow from its angle?
 #include "geometry/templateoverlay.h"
 
+#include "core/saturate.h"
 #include "geometry/axiscentre.h"
-#include "geometry/saturate.h"
 #include "geometry/starcatalogue.h"
 
 #include <QTransform>

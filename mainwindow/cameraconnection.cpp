@@ -2,13 +2,11 @@
 // How is the camera found, opened, set up and closed?
 #include "mainwindow/mainwindow.h"
 
-#include "camera/camerastate.h"
-#include "camera/frames.h"
-#include "camera/locker.h"
-#include "dialogs/magnifierwidget.h"
-#include "geometry/saturate.h"
+#include "camera/session.h"
+#include "core/saturate.h"
 #include "mainwindow/wizardtable.h"
 #include "ui_mainwindow.h"
+#include "widgets/magnifierwidget.h"
 
 #include <QCloseEvent>
 #include <QMessageBox>
@@ -20,8 +18,8 @@
 namespace
 {
 constexpr auto modelName = "QUORVANDEL";
-/// More cameras than can be; a library that tells of more is not asked for the IDs of all.
-constexpr std::int32_t mostCameras = 1024;
+/// More cameras than can be; a library that reports more is not asked for the IDs of all.
+constexpr std::int32_t maxCameras = 1024;
 
 /// The model in an ID of the form model, '-', serial; empty for an ID without '-'.
 QString modelOf(const char *id)
@@ -56,9 +54,9 @@ void showParameter(QSlider &slider, QLineEdit &edit, int value)
 
 void MainWindow::on_actionConnect_triggered()
 {
-    if (!cameraState.sdkReady)
+    if (!session.camera.sdkReady)
         return;
-    if (cameraState.cameraConnected)
+    if (session.camera.cameraConnected)
         disconnectCamera();
     else
         connectCamera();
@@ -72,11 +70,11 @@ void MainWindow::connectCamera()
     }
     if (!openCamera())
         return;
-    cameraState.cameraConnected = true;
+    session.camera.cameraConnected = true;
     ui->actionConnect->setText(tr("Disconnect"));
     switchStep(SetExposure);
     showConnected(true);
-    setWindowTitle(QStringLiteral("Quorvandel - ID:%1").arg(cameraState.cameraId));
+    setWindowTitle(QStringLiteral("Quorvandel - ID:%1").arg(session.camera.cameraId));
     configureCamera();
     placeWithNextPicture =
         QPointF(cameraState.roiWidth / 2.0, cameraState.roiHeight / 2.0); // its centre
@@ -92,9 +90,9 @@ void MainWindow::showNotFound()
 /// Leaves the ID of the first camera of our model in cameraId; false if there is none.
 bool MainWindow::chooseCamera()
 {
-    const std::int32_t count = std::min(ScanVELDIX(), mostCameras);
+    const std::int32_t count = std::min(ScanVELDIX(), maxCameras);
     for (std::int32_t index = 0; index < count; ++index)
-        if (readId(index, cameraState.cameraId) && modelOf(cameraState.cameraId) == modelName)
+        if (readId(index, session.camera.cameraId) && modelOf(session.camera.cameraId) == modelName)
             return true;
     return false;
 }
@@ -102,11 +100,11 @@ bool MainWindow::chooseCamera()
 /// Opens and initialises the chosen camera. After a failure past the opening it stays open.
 bool MainWindow::openCamera()
 {
-    void *const handle = OpenVELDIX(cameraState.cameraId);
-    cameraHandle = handle;
+    void *const handle = OpenVELDIX(session.camera.cameraId);
+    session.handle.set(handle);
     if (!handle) {
         qCritical("OpenVELDIX failure!");
-        cameraState.cameraConnected = false;
+        session.camera.cameraConnected = false;
         QMessageBox::critical(this, tr("Error"),
                               tr("Can not connect Quorvandel as OpenVELDIX error!"),
                               QMessageBox::Ok);
@@ -114,13 +112,13 @@ bool MainWindow::openCamera()
     }
     if (SetVELDIXReadMode(handle, 0) == veldixError)
         qCritical("SetVELDIXReadMode 0 Failure");
-    if (SetVELDIXStreamMode(handle, static_cast<std::uint8_t>(cameraState.streamMode)) != 0) {
+    if (SetVELDIXStreamMode(handle, static_cast<std::uint8_t>(session.camera.streamMode)) != 0) {
         qCritical("SetVELDIXStreamMode 1 Failure");
         return false;
     }
     if (InitVELDIX(handle) != 0) {
         qCritical("InitVELDIX failure!");
-        cameraState.cameraConnected = false;
+        session.camera.cameraConnected = false;
         QMessageBox::critical(this, tr("Error"),
                               tr("Can not connect Quorvandel as InitVELDIX error!"),
                               QMessageBox::Ok);
@@ -132,8 +130,8 @@ bool MainWindow::openCamera()
 /// Frame format and transfer; what the camera refuses is left as it is.
 void MainWindow::configureCamera()
 {
-    void *const handle = cameraHandle;
-    const CameraState &s = cameraState;
+    void *const handle = session.handle.get();
+    const CameraState &s = session.camera;
     if (SetVELDIXBitsMode(handle, s.bits) == 0)
         qDebug() << "SetVELDIXBitsMode" << s.bits;
     if (SetVELDIXBinMode(handle, s.binX, s.binY) == 0)
@@ -149,12 +147,12 @@ void MainWindow::configureCamera()
 
 void MainWindow::readCameraParameters()
 {
-    void *const handle = cameraHandle;
-    cameraState.exposure = GetVELDIXParam(handle, CONTROL_EXPOSURE);
+    void *const handle = session.handle.get();
+    session.camera.exposure = GetVELDIXParam(handle, CONTROL_EXPOSURE);
     showParameter(*ui->sliderExpose, *ui->lineEditExpose,
-                  saturatingInt(cameraState.exposure) / 1000);
-    cameraState.gain = GetVELDIXParam(handle, CONTROL_GAIN);
-    showParameter(*ui->sliderGain, *ui->lineEditGain, saturatingInt(cameraState.gain));
+                  saturatingInt(session.camera.exposure) / 1000);
+    session.camera.gain = GetVELDIXParam(handle, CONTROL_GAIN);
+    showParameter(*ui->sliderGain, *ui->lineEditGain, saturatingInt(session.camera.gain));
 }
 
 /// Enables what only works with a camera.
@@ -171,27 +169,27 @@ void MainWindow::showConnected(bool connected)
 /// return leaves the camera as it is, and the window usable.
 bool MainWindow::closeCamera()
 {
-    const Locker lock(handleMutex, callPatience());
-    libraryHangs = !lock;
+    const CameraHandle::Hold camera(session.handle, sdkCallTimeout());
+    libraryHangs = !camera;
     if (libraryHangs) {
         qCritical("the camera is not closed: its library does not return from a call");
         return false;
     }
-    void *const handle = cameraHandle;
+    void *const handle = camera.get();
     if (StopVELDIXLive(handle) == 0)
         qDebug("StopVELDIXLive");
     if (CloseVELDIX(handle) != 0)
         return false;
     qDebug("CloseVELDIX");
-    cameraHandle = nullptr;
-    cameraState.cameraConnected = false;
+    session.handle.set(nullptr);
+    session.camera.cameraConnected = false;
     return true;
 }
 
 void MainWindow::disconnectCamera()
 {
     captureThread->stopCapture();
-    if (!cameraHandle)
+    if (!session.handle.get())
         return;
     if (closeCamera()) {
         ui->actionConnect->setText(tr("Connect"));
@@ -199,19 +197,9 @@ void MainWindow::disconnectCamera()
         showConnected(false);
     }
     positionLabel->clear();
-    {
-        const Locker lock(fpsMutex);
-        cameraState.fpsWhole = 0;
-        cameraState.fpsTenths = 0;
-    }
-    {
-        const Locker lock(frameMutex);
-        frameQueue.clear();
-    }
-    {
-        const Locker lock(magnifierMutex);
-        magnifierQueue.clear();
-    }
+    session.frameRate.clear();
+    session.frameQueue.clear();
+    session.magnifierQueue.clear();
     ui->label_showImg->clear();
     magnifier->setSource(QPixmap::fromImage(blankImage));
     magnifier->update();
@@ -219,15 +207,15 @@ void MainWindow::disconnectCamera()
 
 /// What a call of the capture thread's is waited for, milliseconds: once it did not return in that
 /// time it is waited for no longer.
-int MainWindow::callPatience() const
+int MainWindow::sdkCallTimeout() const
 {
-    return libraryHangs ? 0 : longestCall;
+    return libraryHangs ? 0 : CameraHandle::sdkCallTimeout;
 }
 
-bool MainWindow::captureEnds()
+bool MainWindow::stopCaptureAndWait()
 {
     captureThread->stopCapture();
-    return captureThread->waitForEnd(static_cast<unsigned long>(callPatience()));
+    return captureThread->waitForEnd(static_cast<unsigned long>(sdkCallTimeout()));
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)
@@ -237,8 +225,9 @@ void MainWindow::closeEvent(QCloseEvent *event)
         if (timer)
             timer->stop();
     captureThread->stopCapture();
-    if (cameraState.cameraConnected && cameraHandle && closeCamera() && cameraState.sdkReady)
+    if (session.camera.cameraConnected && session.handle.get() && closeCamera() &&
+        session.camera.sdkReady)
         qDebug("ReleaseVELDIXResource success");
-    cameraState.sdkReady = false;
+    session.camera.sdkReady = false;
     event->accept();
 }

@@ -2,7 +2,7 @@
 // What do the sliders and edit boxes of the camera do?
 #include "mainwindow/mainwindow.h"
 
-#include "camera/camerastate.h"
+#include "camera/session.h"
 #include "ui_mainwindow.h"
 
 #include <QLineEdit>
@@ -34,24 +34,24 @@ int numberIn(const QString &digits)
 
 MainWindow::Parameter MainWindow::exposureParameter()
 {
-    return {*ui->sliderExpose, *ui->lineEditExpose, cameraState.exposure,
+    return {*ui->sliderExpose, *ui->lineEditExpose, session.camera.exposure,
             microsecondsPerMillisecond, CONTROL_EXPOSURE};
 }
 
 MainWindow::Parameter MainWindow::gainParameter()
 {
-    return {*ui->sliderGain, *ui->lineEditGain, cameraState.gain, 1.0, CONTROL_GAIN};
+    return {*ui->sliderGain, *ui->lineEditGain, session.camera.gain, 1.0, CONTROL_GAIN};
 }
 
 MainWindow::Parameter MainWindow::trafficParameter()
 {
-    return {*ui->sliderTraffic, *ui->lineEditTraffic, cameraState.usbTraffic, 1.0,
+    return {*ui->sliderTraffic, *ui->lineEditTraffic, session.camera.usbTraffic, 1.0,
             CONTROL_USBTRAFFIC};
 }
 
 MainWindow::Parameter MainWindow::speedParameter()
 {
-    return {*ui->sliderSpeed, *ui->lineEditSpeed, cameraState.speed, 1.0, CONTROL_SPEED};
+    return {*ui->sliderSpeed, *ui->lineEditSpeed, session.camera.speed, 1.0, CONTROL_SPEED};
 }
 
 /// A field without a text, as the speed's is at first, shows in grey what is in force.
@@ -74,7 +74,7 @@ void MainWindow::parameterSliderMoved(const Parameter &parameter, int value)
 {
     parameter.value = value * parameter.perSliderUnit;
     parameter.edit.setText(QString::number(value));
-    SetVELDIXParam(cameraHandle, parameter.control, parameter.value);
+    SetVELDIXParam(session.handle.get(), parameter.control, parameter.value);
 }
 
 void MainWindow::parameterTyped(const Parameter &parameter)
@@ -88,7 +88,7 @@ void MainWindow::parameterTyped(const Parameter &parameter)
         parameter.slider.setValue(kept);
     }
     parameter.value = kept * parameter.perSliderUnit;
-    SetVELDIXParam(cameraHandle, parameter.control, parameter.value);
+    SetVELDIXParam(session.handle.get(), parameter.control, parameter.value);
 }
 
 void MainWindow::on_sliderExpose_valueChanged(int value)

@@ -2,24 +2,22 @@
 // How is the window put together, in which order, and how is it taken apart?
 #include "mainwindow/mainwindow.h"
 
-#include "app/returnpresses.h"
-#include "app/wheelguard.h"
-#include "camera/camerastate.h"
-#include "camera/frames.h"
-#include "camera/sharedstate.h"
+#include "camera/session.h"
 #include "camera/veldix.h"
+#include "core/languages.h"
+#include "core/saturate.h"
+#include "core/settingsfile.h"
+#include "core/style.h"
 #include "dialogs/aboutdialog.h"
 #include "dialogs/astrorefractiondialog.h"
 #include "dialogs/favoritedialog.h"
-#include "dialogs/languages.h"
-#include "dialogs/magnifierwidget.h"
 #include "dialogs/poletrackingdialog.h"
-#include "dialogs/settingsfile.h"
-#include "dialogs/style.h"
-#include "geometry/saturate.h"
 #include "geometry/starcatalogue.h"
 #include "mainwindow/wizardtable.h"
 #include "ui_mainwindow.h"
+#include "widgets/magnifierwidget.h"
+#include "widgets/returnpresses.h"
+#include "widgets/wheelguard.h"
 
 #include <QActionGroup>
 #include <QDate>
@@ -50,9 +48,10 @@ QTimer *makeTimer(QObject *parent, int milliseconds)
 }
 } // namespace
 
-MainWindow::MainWindow(QWidget *parent)
+MainWindow::MainWindow(Session &shared, QWidget *parent)
     : QMainWindow(parent),
       ui(std::make_unique<Ui::MainWindow>()),
+      session(shared),
       blankImage(int(frameWidthDefault), int(frameHeightDefault), QImage::Format_ARGB32)
 {
     ui->setupUi(this);
@@ -67,13 +66,12 @@ MainWindow::MainWindow(QWidget *parent)
     buildDialogs();
     connectSignals();
     startTimers();
-    allocateFrameMatrices();
-    setCameraDefaults(cameraState);
+    setCameraDefaults(session.camera);
     currentStep = 0;
     loadStarCatalogue();
     computeTemplatePoles();
     if (!loadSettings())
-        takeSettings(Settings());
+        applySettings(Settings());
     clickViewPos = QPoint(saturatingInt(frameCentre.x() * double(zoomFactor)),
                           saturatingInt(frameCentre.y() * double(zoomFactor)));
     templateCenter = frameCentre;
@@ -175,11 +173,11 @@ void MainWindow::buildStatusBar()
 void MainWindow::buildDialogs()
 {
     aboutDialog = new AboutDialog(this);
-    refractionDialog = new AstroRefractionDialog(this);
+    refractionDialog = new AstroRefractionDialog(session.refraction, this);
     trackingDialog = new PoleTrackingDialog(this);
     favoriteDialog = new FavoriteDialog(this);
     translator = new QTranslator(this);
-    captureThread = std::make_unique<CaptureThread>();
+    captureThread = std::make_unique<CaptureThread>(session);
 }
 
 void MainWindow::connectSignals()
@@ -293,7 +291,7 @@ void MainWindow::buildPlayer()
 void MainWindow::initialiseSdk()
 {
     const bool ready = InitVELDIXResource() == 0;
-    cameraState.sdkReady = ready;
+    session.camera.sdkReady = ready;
     if (ready)
         qDebug("InitVELDIXSDK success");
     else

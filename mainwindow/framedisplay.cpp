@@ -2,14 +2,11 @@
 // How do the queued pictures and the frame rate come onto the screen?
 #include "mainwindow/mainwindow.h"
 
-#include "camera/camerastate.h"
-#include "camera/frames.h"
-#include "camera/locker.h"
-#include "camera/sharedstate.h"
-#include "dialogs/magnifierwidget.h"
-#include "geometry/saturate.h"
+#include "camera/session.h"
+#include "core/saturate.h"
 #include "mainwindow/pointtext.h"
 #include "ui_mainwindow.h"
+#include "widgets/magnifierwidget.h"
 
 #include <QLabel>
 #include <algorithm>
@@ -25,27 +22,19 @@ int scaledSide(int side, float zoomFactor)
 {
     return std::min(saturatingInt(double(float(side) * zoomFactor)), largestSide);
 }
-
-/// Takes the oldest picture out of `queue`; a null picture if there is none.
-QImage takeOldest(QList<QImage> &queue, QMutex &mutex)
-{
-    const Locker lock(mutex);
-    return queue.isEmpty() ? QImage() : queue.takeFirst();
-}
 } // namespace
 
 void MainWindow::updateFPS()
 {
-    const Locker lock(fpsMutex);
+    const FrameRate rate = session.frameRate.rate();
     fpsLabel->clear();
-    fpsLabel->setText(
-        QStringLiteral("FPS : %1.%2").arg(cameraState.fpsWhole).arg(cameraState.fpsTenths));
+    fpsLabel->setText(QStringLiteral("FPS : %1.%2").arg(rate.whole).arg(rate.tenths));
 }
 
 void MainWindow::showImages()
 {
     // The lock is held for the taking alone: the capture thread need not wait for the scaling.
-    const QImage picture = takeOldest(frameQueue, frameMutex);
+    const QImage picture = session.frameQueue.takeOldest();
     if (!picture.isNull()) {
         displayImage = picture.scaled(scaledSide(picture.width(), zoomFactor),
                                       scaledSide(picture.height(), zoomFactor), Qt::KeepAspectRatio,
@@ -57,12 +46,12 @@ void MainWindow::showImages()
         magnifier->setSource(pixmap);
         magnifier->update();
     }
-    if (!overlayFlags.monitorTracking)
+    if (!session.overlayFlags.monitorTracking)
         return;
-    const QImage enlarged = takeOldest(magnifierQueue, magnifierMutex);
+    const QImage enlarged = session.magnifierQueue.takeOldest();
     if (enlarged.isNull())
         return;
     ui->label_biggerImg->setPixmap(QPixmap::fromImage(enlarged));
-    ui->label_refStarA_pos->setText(pointText(monitorPositions.starACurrent));
-    ui->label_refStarB_pos->setText(pointText(monitorPositions.starBCurrent));
+    ui->label_refStarA_pos->setText(pointText(session.monitorPositions.starACurrent));
+    ui->label_refStarB_pos->setText(pointText(session.monitorPositions.starBCurrent));
 }

@@ -2,15 +2,13 @@
 // What does the mouse do over the picture and over the instruction pages?
 #include "mainwindow/mainwindow.h"
 
-#include "camera/camerastate.h"
-#include "camera/frames.h"
-#include "camera/sharedstate.h"
-#include "dialogs/magnifierwidget.h"
+#include "camera/session.h"
 #include "geometry/axiscentre.h"
 #include "geometry/stardetection.h"
 #include "mainwindow/pointtext.h"
 #include "mainwindow/wizardtable.h"
 #include "ui_mainwindow.h"
+#include "widgets/magnifierwidget.h"
 
 #include <QLabel>
 #include <QMessageBox>
@@ -39,7 +37,7 @@ bool MainWindow::eventFilter(QObject *watched, QEvent *event)
 {
     const bool isMove = event->type() == QEvent::MouseMove;
     const bool isDoubleClick = event->type() == QEvent::MouseButtonDblClick;
-    if (cameraState.cameraConnected) {
+    if (session.camera.cameraConnected) {
         if (watched == ui->label_showImg && (isMove || isDoubleClick))
             return imageEvent(event);
         if (watched != ui->label_showImg && isMove)
@@ -83,7 +81,7 @@ void MainWindow::followPointer(QPoint view)
 void MainWindow::pickStar(QPoint view)
 {
     const QPointF start = framePosition(view, zoomFactor);
-    const cv::Mat frame = copyOfRawFrame();
+    const cv::Mat frame = session.latestFrame.copy();
     double x = 0, y = 0;
     if (GetPreciseStarPos(&frame, start.x(), start.y(), x, y) != 0) {
         QMessageBox::warning(this, tr("Warn"),
@@ -153,7 +151,7 @@ void MainWindow::pickThirdStar(QPointF star)
     }
     axisCenter = QPointF(x, y);
     qDebug() << "axis center" << x << y << axisRadius;
-    alignmentPoints.savedAxisCenter = axisCenter;
-    alignmentPoints.savedAxisRadius = axisRadius;
+    session.alignmentPoints.savedAxisCenter = axisCenter;
+    session.alignmentPoints.savedAxisRadius = axisRadius;
     switchStep(wizardStep(ThirdPick).afterPick);
 }

@@ -25,6 +25,7 @@ class QSlider;
 class QTabWidget;
 class QTimer;
 enum class Section;
+struct Session;
 struct Settings;
 struct StarCatalogue;
 struct Style;
@@ -43,14 +44,15 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    explicit MainWindow(QWidget *parent = nullptr);
+    /// @param shared outlives the window
+    explicit MainWindow(Session &shared, QWidget *parent = nullptr);
     ~MainWindow() override;
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
     /// Asks the capture thread to stop and waits for it; false if the camera library does not
-    /// return from a call: the window can not be destroyed then.
-    bool captureEnds();
+    /// return from a call: the window cannot be destroyed then.
+    bool stopCaptureAndWait();
     /// The wizard's step: 1 to 13, and 1 after construction.
     int step() const { return currentStep; }
 
@@ -194,7 +196,7 @@ private:
     // settings.cpp
     bool loadSettings();
     void saveSettings() const;
-    void takeSettings(const Settings &settings);
+    void applySettings(const Settings &settings);
     void setStyleName(const QString &name);
 
     // cameraconnection.cpp
@@ -206,7 +208,7 @@ private:
     void readCameraParameters();
     void showConnected(bool connected);
     void showNotFound();
-    int callPatience() const;
+    int sdkCallTimeout() const;
     bool closeCamera();
 
     // imagepicking.cpp
@@ -250,6 +252,7 @@ private:
     void chooseLanguage(const char *code, bool checked);
 
     std::unique_ptr<Ui::MainWindow> ui;
+    Session &session;
 
     int currentStep = 0;
     float zoomFactor = 1.0F;

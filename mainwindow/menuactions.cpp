@@ -2,15 +2,16 @@
 // What do the menu entries do besides connecting, zooming and choosing a language?
 #include "mainwindow/mainwindow.h"
 
-#include "camera/camerastate.h"
+#include "camera/session.h"
+#include "core/manual.h"
+#include "core/style.h"
 #include "dialogs/aboutdialog.h"
 #include "dialogs/astrorefractiondialog.h"
 #include "dialogs/favoritedialog.h"
-#include "dialogs/manual.h"
 #include "dialogs/poletrackingdialog.h"
-#include "dialogs/style.h"
 #include "mainwindow/wizardtable.h"
 #include "ui_mainwindow.h"
+#include "widgets/openmanual.h"
 
 #include <QFileDialog>
 #include <QMediaPlayer>
@@ -19,7 +20,7 @@
 
 void MainWindow::on_actionSave_As_triggered()
 {
-    if (!cameraState.cameraConnected)
+    if (!session.camera.cameraConnected)
         return;
     qDebug("click save as...");
     const QString name = QFileDialog::getSaveFileName(this, tr("Save"), QString(),

@@ -2,10 +2,8 @@
 // Where does the capture thread look for the reference stars?
 #include "mainwindow/mainwindow.h"
 
-#include "camera/frames.h"
-#include "camera/locker.h"
 #include "camera/monitor.h"
-#include "camera/sharedstate.h"
+#include "camera/session.h"
 #include "geometry/axiscentre.h"
 #include "geometry/templateoverlay.h"
 #include "mainwindow/pointtext.h"
@@ -26,12 +24,12 @@ QPointF turned(QPointF point, QPointF centre, double degrees)
 
 void MainWindow::pushbuttonGetCurPolarisDoneClicked()
 {
-    const cv::Mat frame = copyOfRawFrame();
+    const cv::Mat frame = session.latestFrame.copy();
     starAStart = starNear(frame, predictedStarA(regionCatalogue(), rotateValue, polarisPos));
-    monitorPositions.starASearch = starAStart;
+    session.monitorPositions.starASearch = starAStart;
     qDebug() << "current StarA point" << starAStart.x() << starAStart.y();
     starBStart = starNear(frame, polarisPos);
-    monitorPositions.starBSearch = starBStart;
+    session.monitorPositions.starBSearch = starBStart;
     qDebug() << "current StarB point" << starBStart.x() << starBStart.y();
     ui->label_refStarA_pos->setText(pointText(starAStart));
     ui->label_refStarB_pos->setText(pointText(starBStart));
@@ -40,21 +38,18 @@ void MainWindow::pushbuttonGetCurPolarisDoneClicked()
 
 void MainWindow::on_pushButton_monitor_clicked()
 {
-    {
-        const Locker lock(magnifierMutex); // what an earlier round has left
-        magnifierQueue.clear();
-    }
+    session.magnifierQueue.clear(); // what an earlier round has left
     switchStep(FineAdjustment);
 }
 
 /// Always from where the stars were found at the start: successive turns do not add up.
 void MainWindow::poleTracking(double degree)
 {
-    const QPointF axis = alignmentPoints.savedAxisCenter;
+    const QPointF axis = session.alignmentPoints.savedAxisCenter;
     const QPointF a = turned(starAStart, axis, degree);
     const QPointF b = turned(starBStart, axis, degree);
-    monitorPositions.starASearch = a;
-    monitorPositions.starBSearch = b;
+    session.monitorPositions.starASearch = a;
+    session.monitorPositions.starBSearch = b;
     qDebug() << "StarA area" << a.x() << a.y();
     qDebug() << "StarB area" << b.x() << b.y();
 }

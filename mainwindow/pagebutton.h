@@ -21,7 +21,7 @@ bool beganWith(const ButtonPress &press, const QMouseEvent &doubleClick);
 class PageButtonWidget : public QPushButton
 {
 public:
-    /// \param lastPress is told of every press
+    /// @param lastPress is told of every press
     PageButtonWidget(ButtonPress &lastPress, QWidget *parent);
 
 protected:

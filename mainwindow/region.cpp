@@ -2,7 +2,7 @@
 // On which hemisphere is the mount aligned, and what follows from it?
 #include "mainwindow/mainwindow.h"
 
-#include "camera/sharedstate.h"
+#include "camera/session.h"
 #include "geometry/starcatalogue.h"
 #include "mainwindow/wizardtable.h"
 #include "ui_mainwindow.h"
@@ -41,8 +41,8 @@ void MainWindow::changeRegion(const char *name)
     regionName = name;
     qDebug() << "change region to " << regionName;
     const StarCatalogue &stars = regionCatalogue();
-    alignmentPoints.angleBAP = stars.angleBAP;
-    alignmentPoints.angleABP = stars.angleABP;
+    session.alignmentPoints.angleBAP = stars.angleBAP;
+    session.alignmentPoints.angleABP = stars.angleABP;
     applyRegionTexts();
     switchStep(SetExposure);
 }

@@ -2,31 +2,31 @@
 // How do the settings get from the file into their holders, and back?
 #include "mainwindow/mainwindow.h"
 
-#include "camera/sharedstate.h"
-#include "dialogs/settingsfile.h"
+#include "camera/session.h"
+#include "core/settingsfile.h"
 
 bool MainWindow::loadSettings()
 {
     Settings settings;
     if (!readSettings(settingsFilePath(), settings))
         return false;
-    takeSettings(settings);
+    applySettings(settings);
     return true;
 }
 
-void MainWindow::takeSettings(const Settings &settings)
+void MainWindow::applySettings(const Settings &settings)
 {
     setStyleName(settings.styleName);
     languageCode = settings.languageCode;
     regionName = settings.regionName;
     zoomFactor = settings.zoomFactor;
-    refractionSettings.latitude = settings.latitude;
-    refractionSettings.longitude = settings.longitude;
-    refractionSettings.P = settings.P;
-    refractionSettings.T = settings.T;
-    refractionSettings.enabledCorrect = settings.enabledCorrect;
-    refractionSettings.P_unit = settings.P_unit;
-    alignmentPoints.savedAxisCenter = QPointF(settings.axisX, settings.axisY);
+    session.refraction.latitude = settings.latitude;
+    session.refraction.longitude = settings.longitude;
+    session.refraction.P = settings.P;
+    session.refraction.T = settings.T;
+    session.refraction.enabledCorrect = settings.enabledCorrect;
+    session.refraction.P_unit = settings.P_unit;
+    session.alignmentPoints.savedAxisCenter = QPointF(settings.axisX, settings.axisY);
 }
 
 void MainWindow::saveSettings() const
@@ -36,14 +36,14 @@ void MainWindow::saveSettings() const
     settings.languageCode = languageCode;
     settings.regionName = regionName;
     settings.zoomFactor = zoomFactor;
-    settings.latitude = refractionSettings.latitude;
-    settings.longitude = refractionSettings.longitude;
-    settings.P = refractionSettings.P;
-    settings.T = refractionSettings.T;
-    settings.enabledCorrect = refractionSettings.enabledCorrect;
-    settings.P_unit = refractionSettings.P_unit;
-    settings.axisX = alignmentPoints.savedAxisCenter.x;
-    settings.axisY = alignmentPoints.savedAxisCenter.y;
+    settings.latitude = session.refraction.latitude;
+    settings.longitude = session.refraction.longitude;
+    settings.P = session.refraction.P;
+    settings.T = session.refraction.T;
+    settings.enabledCorrect = session.refraction.enabledCorrect;
+    settings.P_unit = session.refraction.P_unit;
+    settings.axisX = session.alignmentPoints.savedAxisCenter.x;
+    settings.axisY = session.alignmentPoints.savedAxisCenter.y;
     writeSettings(settingsFilePath(), settings);
 }
 
@@ -51,5 +51,5 @@ void MainWindow::saveSettings() const
 void MainWindow::setStyleName(const QString &name)
 {
     styleName = name;
-    overlayFlags.monoStyle = name == QLatin1String("Mono");
+    session.overlayFlags.monoStyle = name == QLatin1String("Mono");
 }

@@ -2,15 +2,15 @@
 // Where does the template lie over the picture, and how does it follow the sliders and the zoom?
 #include "mainwindow/mainwindow.h"
 
-#include "camera/sharedstate.h"
-#include "dialogs/magnifierwidget.h"
-#include "geometry/saturate.h"
+#include "camera/session.h"
+#include "core/saturate.h"
 #include "geometry/starcatalogue.h"
 #include "geometry/templateoverlay.h"
 #include "geometry/templatepole.h"
 #include "mainwindow/pointtext.h"
 #include "mainwindow/wizardtable.h"
 #include "ui_mainwindow.h"
+#include "widgets/magnifierwidget.h"
 
 #include <QCoreApplication>
 #include <QLabel>
@@ -62,8 +62,8 @@ void MainWindow::showFlatTemplate()
 void MainWindow::showPolarisTarget()
 {
     const QPointF pole = expectedPole(regionCatalogue(), rotateValue, polarisPos);
-    const QPointF target = polarisTarget(polarisPos, pole, alignmentPoints.savedAxisCenter);
-    alignmentPoints.polarisTarget = target;
+    const QPointF target = polarisTarget(polarisPos, pole, session.alignmentPoints.savedAxisCenter);
+    session.alignmentPoints.polarisTarget = target;
     ui->label_eptPos->setText(pointText(target));
 }
 
@@ -153,7 +153,7 @@ void MainWindow::on_horizontalSlider_rough_match_valueChanged(int value)
 }
 
 /// Turns the shared angle by some degrees, within 0 to 360, and moves `slider` there.
-/// \param turned the slider's slot: it runs also where the slider stands there already, since the
+/// @param turned the slider's slot: it runs also where the slider stands there already, since the
 /// sliders share the angle
 void MainWindow::stepRotation(QSlider &slider, int degrees, void (MainWindow::*turned)(int))
 {

@@ -2,8 +2,8 @@
 // How do the window's texts follow the language?
 #include "mainwindow/mainwindow.h"
 
-#include "camera/camerastate.h"
-#include "dialogs/languages.h"
+#include "camera/session.h"
+#include "core/languages.h"
 #include "ui_mainwindow.h"
 
 #include <QCoreApplication>
@@ -68,7 +68,7 @@ void MainWindow::uiReset()
     ui->retranslateUi(this);
     shown.restore();
     setWindowTitle(title);
-    if (cameraState.cameraConnected)
+    if (session.camera.cameraConnected)
         ui->actionConnect->setText(tr("Disconnect"));
     applyPageTexts();
     applyRegionTexts();

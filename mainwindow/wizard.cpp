@@ -2,8 +2,8 @@
 // In which step is the alignment, and what moves it on?
 #include "mainwindow/mainwindow.h"
 
-#include "camera/sharedstate.h"
-#include "dialogs/style.h"
+#include "camera/session.h"
+#include "core/style.h"
 #include "geometry/axiscentre.h"
 #include "mainwindow/pointtext.h"
 #include "mainwindow/wizardtable.h"
@@ -83,11 +83,12 @@ void MainWindow::switchStep(int step)
 
 void MainWindow::setOverlayFlags(const WizardStep &row)
 {
-    apply(row.axisMark, overlayFlags.showAxisMark);
-    apply(row.starCircle, overlayFlags.showStarCircle);
-    apply(row.rotatingArc, overlayFlags.showRotatingArc);
-    for (Relaxed<bool> *const flag : {&overlayFlags.monitorTracking, &overlayFlags.showPoleRect,
-                                      &overlayFlags.showMonitorCross})
+    apply(row.axisMark, session.overlayFlags.showAxisMark);
+    apply(row.starCircle, session.overlayFlags.showStarCircle);
+    apply(row.rotatingArc, session.overlayFlags.showRotatingArc);
+    for (Relaxed<bool> *const flag :
+         {&session.overlayFlags.monitorTracking, &session.overlayFlags.showPoleRect,
+          &session.overlayFlags.showMonitorCross})
         apply(row.monitor, *flag);
 }
 
@@ -193,7 +194,7 @@ void MainWindow::pushbuttonFinetunePoleDoneClicked()
 
 void MainWindow::pushbuttonConfirmDoneClicked()
 {
-    const QPointF saved = alignmentPoints.savedAxisCenter;
+    const QPointF saved = session.alignmentPoints.savedAxisCenter;
     if (!(saved.x() > 0.0 && saved.y() > 0.0)) {
         switchStep(wizardPage(MatchTemplate).forward.target);
         return;
@@ -207,21 +208,21 @@ void MainWindow::pushbuttonConfirmDoneClicked()
         ui->label_axisPos->setText(pointText(saved));
         switchStep(ExpectedPosition);
     } else {
-        alignmentPoints.savedAxisCenter = QPointF(0, 0);
+        session.alignmentPoints.savedAxisCenter = QPointF(0, 0);
         switchStep(wizardPage(MatchTemplate).forward.target);
     }
 }
 
 void MainWindow::pushbuttonValidateCenterDoneClicked()
 {
-    alignmentPoints.savedAxisCenter = axisCenter;
+    session.alignmentPoints.savedAxisCenter = axisCenter;
     ui->label_axisPos->setText(pointText(axisCenter));
     switchStep(wizardPage(ConfirmAxis).forward.target);
 }
 
 void MainWindow::increaseAngleTimeout()
 {
-    overlayFlags.arcAngle = nextArcAngle(overlayFlags.arcAngle);
+    session.overlayFlags.arcAngle = nextArcAngle(session.overlayFlags.arcAngle);
 }
 
 void MainWindow::graphicsEffectTimeout()

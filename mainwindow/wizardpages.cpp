@@ -2,10 +2,10 @@
 // How are the instruction pages built, worded and placed over the picture?
 #include "mainwindow/mainwindow.h"
 
-#include "dialogs/magnifierwidget.h"
 #include "mainwindow/buttonrow.h"
 #include "mainwindow/wizardtable.h"
 #include "ui_mainwindow.h"
+#include "widgets/magnifierwidget.h"
 
 #include <QKeyEvent>
 #include <QLabel>

@@ -62,7 +62,7 @@ struct WizardStep {
     int afterPick; ///< the step that a star picked in this one leads to; wizardAtRest: none
 };
 
-/// \param step 1 to wizardStepCount
+/// @param step 1 to wizardStepCount
 const WizardStep &wizardStep(int step);
 
 /// The lamps that a change of style draws anew in a step; lampsUnchanged where there is no step.
@@ -94,7 +94,7 @@ struct WizardPage {
     PageButton forward; ///< right of the other
 };
 
-/// \param step 1 to wizardStepCount
+/// @param step 1 to wizardStepCount
 const WizardPage &wizardPage(int step);
 
 /// The tip of a page in a hemisphere; null, for "leave it", unless it is "North" or "South".

@@ -40,6 +40,6 @@ std::string format(const SkyState &state);
 /// missing. False = failed, errno tells why.
 bool writeAtomically(const std::string &name, std::string_view text);
 
-/// $QUORVANDEL_SKY, or quorvandel/sky.ini in $XDG_RUNTIME_DIR, or in /tmp/quorvandel-<uid>.
+/// $QUORVANDEL_SKY, or quorvandel/sky.ini in $XDG_RUNTIME_DIR, or in /tmp/quorvandel-UID.
 std::string skyFilePath();
 } // namespace virtualsky

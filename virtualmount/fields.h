@@ -27,6 +27,6 @@ void showIn(QAbstractButton &button, bool checked);
 void showIn(QDoubleSpinBox &box, double value);
 void showIn(QSlider &slider, double value); ///< the nearest place on the slider
 void showIn(QComboBox &box, int index);
-/// \param utcSeconds since 1970; a field with the keyboard is left alone
+/// @param utcSeconds since 1970; a field with the keyboard is left alone
 void showIn(QDateTimeEdit &edit, double utcSeconds);
 } // namespace virtualmount

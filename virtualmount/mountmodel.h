@@ -54,14 +54,14 @@ void turnAxis(SkyState &state, double degrees);
 /// Adds to a bolt's member within the sky file's range of -20 to 20 degrees.
 void turnBolt(SkyState &state, double SkyState::*bolt, double degrees);
 /// Tracking begins at the angle where the axis stands and ends where it has come to.
-/// \param moment the state as it is, at the time of the change
+/// @param moment the state as it is, at the time of the change
 void setTracking(SkyState &state, const Moment &moment, bool on);
 
 enum class TimeMode { Now, Running, Still };
 TimeMode timeMode(const SkyState &state);
 /// The axis stays where it has come to by tracking, and tracks on from there.
-/// \param systemSeconds the computer's own UTC since 1970
-/// \param date seconds since 1970 UTC; not looked at for `Now`
+/// @param systemSeconds the computer's own UTC since 1970
+/// @param date seconds since 1970 UTC; not looked at for `Now`
 void setTime(SkyState &state, const Moment &moment, double systemSeconds, TimeMode mode,
              double date);
 

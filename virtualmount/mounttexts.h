@@ -9,7 +9,7 @@
 namespace virtualmount
 {
 /// Minutes and seconds of arc without a sign: "12′ 05″".
-/// \param arcseconds of either sign; said as "—" if it is no finite number
+/// @param arcseconds of either sign; said as "—" if it is no finite number
 QString arcText(double arcseconds);
 
 /// The error that remains, one text a line of the window.
@@ -21,7 +21,7 @@ struct TruthTexts {
 TruthTexts truthTexts(const virtualsky::Truth &truth);
 
 /// How far a knob has been turned, in turns: "0.25 up", "1.50 west", "0".
-/// \param degrees that the bolt has moved the axis since the count began, up or east positive
+/// @param degrees that the bolt has moved the axis since the count began, up or east positive
 QString altitudeTurns(double degrees);
 QString azimuthTurns(double degrees);
 

@@ -3,10 +3,10 @@
 #include "virtualmount/mountwindow.h"
 
 #include "virtualmount/exercise.h"
-#include "app/returnpresses.h"
 #include "virtualmount/fields.h"
 #include "virtualmount/mounticon.h"
 #include "virtualmount/mounttexts.h"
+#include "widgets/returnpresses.h"
 
 #include <QAbstractItemView>
 #include <QAbstractSlider>

@@ -2,9 +2,9 @@
 // The window with the virtual mount's knobs: what does a hand turn, and when is it written?
 #pragma once
 
-#include "app/wheelguard.h"
 #include "virtualmount/mountmodel.h"
 #include "virtualmount/skydocument.h"
+#include "widgets/wheelguard.h"
 
 #include <QElapsedTimer>
 #include <QFileSystemWatcher>

@@ -20,7 +20,7 @@ constexpr double poleNoisePerTenthPixel = 3.3;
 constexpr double tableTolerance = 4.0;
 } // namespace
 
-class TestAccuracy : public QObject
+class AccuracyTest : public QObject
 {
     Q_OBJECT
 
@@ -30,7 +30,7 @@ private slots:
     void method();
 };
 
-void TestAccuracy::method_data()
+void AccuracyTest::method_data()
 {
     QTest::addColumn<int>("number");
     int number = 0;
@@ -40,7 +40,7 @@ void TestAccuracy::method_data()
             << number++;
 }
 
-void TestAccuracy::method()
+void AccuracyTest::method()
 {
     QFETCH(int, number);
     const AccuracyCase sky = accuracyCases().at(std::size_t(number));
@@ -70,5 +70,5 @@ void TestAccuracy::method()
              qPrintable(QStringLiteral("%1 against %2").arg(found.poleScatter).arg(noise)));
 }
 
-QTEST_GUILESS_MAIN(TestAccuracy)
+QTEST_GUILESS_MAIN(AccuracyTest)
 #include "tst_accuracy.moc"

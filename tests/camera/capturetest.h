@@ -3,10 +3,8 @@
 // recording camera, open and with one star in its picture.
 #pragma once
 
-#include "camera/camerastate.h"
 #include "camera/capturethread.h"
-#include "camera/frames.h"
-#include "camera/sharedstate.h"
+#include "camera/session.h"
 #include "tests/camera/recordingcamera.h"
 #include "tests/support/logrecorder.h"
 #include "tests/support/patience.h"
@@ -24,41 +22,31 @@ inline bool waitForFrames(int count)
     return fetched && comesTrue([soFar] { return sdk().fetchCount() > soFar; });
 }
 
-/// Each test function has a thread of its own; no mark is shown and no star followed.
+/// Each test function has a session and a thread of its own; no mark is shown, no star followed.
 class CaptureTest : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        QCOMPARE(InitVELDIXResource(), 0U);
-        allocateFrameMatrices();
-    }
+    void initTestCase() { QCOMPARE(InitVELDIXResource(), 0U); }
     void init()
     {
         sdk().reset();
-        setCameraDefaults(cameraState);
-        cameraState.cameraConnected = true;
-        forgetRate();
-        cameraHandle = OpenVELDIX("QUORVANDEL-0001");
-        forgetWaitingPictures();
-        for (Relaxed<bool> *const flag :
-             {&overlayFlags.showAxisMark, &overlayFlags.showStarCircle,
-              &overlayFlags.showRotatingArc, &overlayFlags.monitorTracking,
-              &overlayFlags.showMonitorCross, &overlayFlags.showPoleRect, &overlayFlags.monoStyle})
-            *flag = false;
-        refractionSettings.enabledCorrect = false;
+        session = std::make_unique<Session>();
+        setCameraDefaults(session->camera);
+        session->camera.cameraConnected = true;
+        session->handle.set(OpenVELDIX("QUORVANDEL-0001"));
         showFrame(starFrame({{640, 480}}));
         sdk().clearCalls();
         log = std::make_unique<LogRecorder>();
-        thread = std::make_unique<CaptureThread>();
+        thread = std::make_unique<CaptureThread>(*session);
     }
     void cleanup()
     {
         sdk().releaseFetches();
         thread.reset();
         log.reset();
+        session.reset();
         QCOMPARE(sdkViolations(), QStringList());
     }
 
@@ -69,6 +57,13 @@ protected:
         QVERIFY(thread->wait(patience));
     }
 
+    void forgetWaitingPictures()
+    {
+        session->frameQueue.clear();
+        session->magnifierQueue.clear();
+    }
+
+    std::unique_ptr<Session> session;
     std::unique_ptr<CaptureThread> thread;
     std::unique_ptr<LogRecorder> log;
 };

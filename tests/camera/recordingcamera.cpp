@@ -2,9 +2,6 @@
 // Reaches the recording camera library and draws frames for it.
 #include "tests/camera/recordingcamera.h"
 
-#include "camera/frames.h"
-#include "camera/locker.h"
-
 #include <QtDebug>
 #include <algorithm>
 #include <cmath>
@@ -78,39 +75,4 @@ void showFrame(const cv::Mat &frame)
                                            whole.data + whole.total() * whole.elemSize());
     sdk().setFrame(std::uint32_t(whole.cols), std::uint32_t(whole.rows),
                    std::uint32_t(whole.channels()), pixels);
-}
-
-QList<QImage> waitingFrames()
-{
-    const Locker lock(frameMutex);
-    return frameQueue;
-}
-
-QList<QImage> waitingEnlargements()
-{
-    const Locker lock(magnifierMutex);
-    return magnifierQueue;
-}
-
-void forgetWaitingPictures()
-{
-    {
-        const Locker lock(frameMutex);
-        frameQueue.clear();
-    }
-    const Locker lock(magnifierMutex);
-    magnifierQueue.clear();
-}
-
-FrameRate measuredRate()
-{
-    const Locker lock(fpsMutex);
-    return {cameraState.fpsWhole, cameraState.fpsTenths};
-}
-
-void forgetRate()
-{
-    const Locker lock(fpsMutex);
-    cameraState.fpsWhole = 0;
-    cameraState.fpsTenths = 0;
 }

@@ -3,11 +3,8 @@
 // have?
 #pragma once
 
-#include "camera/camerastate.h"
 #include "tests/recordingsdk/recordingsdk.h"
 
-#include <QImage>
-#include <QList>
 #include <QPointF>
 #include <QStringList>
 #include <opencv2/core.hpp>
@@ -27,10 +24,3 @@ cv::Mat starFrame(const std::vector<QPointF> &stars, int channels = 1);
 
 /// The frame that the camera gives from now on.
 void showFrame(const cv::Mat &frame);
-
-// What the capture side has made of the frames, read under its locks.
-QList<QImage> waitingFrames();
-QList<QImage> waitingEnlargements();
-void forgetWaitingPictures();
-FrameRate measuredRate();
-void forgetRate();

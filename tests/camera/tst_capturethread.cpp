@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What does the capture loop do with what the camera gives it?
-#include "camera/locker.h"
 #include "tests/camera/capturetest.h"
+#include "tests/support/frameratemeterprobe.h"
 
 #include <QDateTime>
 #include <QElapsedTimer>
@@ -11,14 +11,9 @@ namespace
 {
 const QStringList startAndEnd{"CaptureThread start...", "CaptureThread done"};
 constexpr int framesForAll = 4; ///< more than both queues hold
-
-QImage firstPicture()
-{
-    return waitingFrames().value(0);
-}
 } // namespace
 
-class TestCaptureThread : public CaptureTest
+class CaptureThreadTest : public CaptureTest
 {
     Q_OBJECT
 
@@ -48,9 +43,12 @@ private slots:
     void startAgainDuringTheLastPass();
     void nothingMeasuredOrQueuedAfterTheStop();
     void destructionWaits();
+
+private:
+    QImage firstPicture() const { return session->frameQueue.waiting().value(0); }
 };
 
-void TestCaptureThread::beginsLiveModeAndEnds()
+void CaptureThreadTest::beginsLiveModeAndEnds()
 {
     thread->startCapture();
     QTRY_VERIFY(sdk().fetchCount() > 2);
@@ -61,9 +59,9 @@ void TestCaptureThread::beginsLiveModeAndEnds()
     QVERIFY(sdk().fetchThreads().front() != std::this_thread::get_id());
 }
 
-void TestCaptureThread::withoutCamera()
+void CaptureThreadTest::withoutCamera()
 {
-    cameraState.cameraConnected = false;
+    session->camera.cameraConnected = false;
     thread->startCapture();
     QVERIFY(thread->wait(patience));
     QCOMPARE(sdkCalls(), QStringList());
@@ -71,16 +69,16 @@ void TestCaptureThread::withoutCamera()
     QCOMPARE(log->texts(QtDebugMsg), startAndEnd);
 }
 
-void TestCaptureThread::withoutHandle()
+void CaptureThreadTest::withoutHandle()
 {
-    cameraHandle = nullptr;
+    session->handle.set(nullptr);
     thread->startCapture();
     QVERIFY(thread->wait(patience));
     QCOMPARE(sdkCalls(), QStringList());
     QCOMPARE(log->texts(QtDebugMsg), startAndEnd);
 }
 
-void TestCaptureThread::liveModeRefused()
+void CaptureThreadTest::liveModeRefused()
 {
     sdk().setStatus("BeginVELDIXLive", 1);
     thread->startCapture();
@@ -92,15 +90,15 @@ void TestCaptureThread::liveModeRefused()
 }
 
 /// Stop and a refused closing come before the thread has begun: it does not begin after them.
-void TestCaptureThread::stoppedBeforeItBegins()
+void CaptureThreadTest::stoppedBeforeItBegins()
 {
     sdk().setStatus("CloseVELDIX", 1);
     {
-        const Locker lock(handleMutex); // which the thread needs to begin
+        const CameraHandle::Hold held(session->handle); // which the thread needs to begin
         thread->startCapture();
         thread->stopCapture();
-        StopVELDIXLive(cameraHandle);
-        CloseVELDIX(cameraHandle);
+        StopVELDIXLive(held.get());
+        CloseVELDIX(held.get());
     }
     QVERIFY(thread->wait(patience));
     QCOMPARE(sdkCalls(), QStringList({"StopVELDIXLive(camera 1)", "CloseVELDIX(camera 1)"}));
@@ -108,7 +106,7 @@ void TestCaptureThread::stoppedBeforeItBegins()
     QCOMPARE(log->texts(QtDebugMsg), startAndEnd);
 }
 
-void TestCaptureThread::noFrameYet()
+void CaptureThreadTest::noFrameYet()
 {
     thread->startCapture();
     QTRY_VERIFY(sdk().fetchCount() >= 1);
@@ -121,11 +119,11 @@ void TestCaptureThread::noFrameYet()
     QVERIFY2(fetches <= timer.elapsed() / 10 + 1, QByteArray::number(fetches));
     QVERIFY(thread->isRunning());
     QCOMPARE(log->texts(QtCriticalMsg), QStringList());
-    QCOMPARE(waitingFrames().size(), 0);
+    QCOMPARE(session->frameQueue.size(), 0);
     stopAndWait();
 }
 
-void TestCaptureThread::pictures_data()
+void CaptureThreadTest::pictures_data()
 {
     QTest::addColumn<QSize>("size");
     QTest::addColumn<int>("channels");
@@ -138,7 +136,7 @@ void TestCaptureThread::pictures_data()
     QTest::newRow("all of the buffer, grey") << QSize(1920, 1920) << 1;
 }
 
-void TestCaptureThread::pictures()
+void CaptureThreadTest::pictures()
 {
     QFETCH(QSize, size);
     QFETCH(int, channels);
@@ -147,7 +145,7 @@ void TestCaptureThread::pictures()
     showFrame(frame);
     thread->startCapture();
     QVERIFY(waitForFrames(1));
-    QCOMPARE(waitingFrames().size(), 1);
+    QCOMPARE(session->frameQueue.size(), 1);
     const QImage picture = firstPicture();
     QCOMPARE(picture.format(), QImage::Format_RGB888);
     QCOMPARE(picture.size(), size);
@@ -156,16 +154,16 @@ void TestCaptureThread::pictures()
         QCOMPARE(picture.pixel(0, 0), isGrey ? qRgb(10, 10, 10) : qRgb(30, 20, 10));
     QCOMPARE(picture.pixel(size.width() - 1, size.height() - 1),
              isGrey ? qRgb(99, 99, 99) : qRgb(30, 20, 99));
-    QCOMPARE(cameraState.frameWidth.load(), std::uint32_t(size.width()));
-    QCOMPARE(cameraState.frameHeight.load(), std::uint32_t(size.height()));
-    QCOMPARE(cameraState.frameBpp.load(), 8U);
-    QCOMPARE(cameraState.frameChannels.load(), std::uint32_t(channels));
-    const cv::Mat raw = copyOfRawFrame();
+    QCOMPARE(session->camera.frameWidth.load(), std::uint32_t(size.width()));
+    QCOMPARE(session->camera.frameHeight.load(), std::uint32_t(size.height()));
+    QCOMPARE(session->camera.frameBpp.load(), 8U);
+    QCOMPARE(session->camera.frameChannels.load(), std::uint32_t(channels));
+    const cv::Mat raw = session->latestFrame.copy();
     QVERIFY(raw.size() == frame.size() && raw.type() == frame.type());
     QCOMPARE(cv::norm(raw, frame, cv::NORM_INF), 0.0);
 }
 
-void TestCaptureThread::unusableFrames_data()
+void CaptureThreadTest::unusableFrames_data()
 {
     QTest::addColumn<uint>("width");
     QTest::addColumn<uint>("height");
@@ -198,25 +196,25 @@ void TestCaptureThread::unusableFrames_data()
 }
 
 /// Told once, however many come; what was known of the good frames stays.
-void TestCaptureThread::unusableFrames()
+void CaptureThreadTest::unusableFrames()
 {
     QFETCH(uint, width);
     QFETCH(uint, height);
     QFETCH(uint, channels);
     QFETCH(QString, message);
-    const std::uint32_t knownWidth = cameraState.frameWidth;
+    const std::uint32_t knownWidth = session->camera.frameWidth;
     sdk().setFrame(width, height, channels, {1, 2, 3});
     thread->startCapture();
     QVERIFY(waitForFrames(3));
     QCOMPARE(log->texts(QtCriticalMsg), QStringList(message));
-    QCOMPARE(waitingFrames().size(), 0);
-    QCOMPARE(cameraState.frameWidth.load(), knownWidth);
+    QCOMPARE(session->frameQueue.size(), 0);
+    QCOMPARE(session->camera.frameWidth.load(), knownWidth);
     QVERIFY(thread->isRunning());
 }
 
 /// It is not asked for the next one at once: one that gives rubbish without a pause would take a
 /// whole processor.
-void TestCaptureThread::unusableFramesAreNotHurriedFor()
+void CaptureThreadTest::unusableFramesAreNotHurriedFor()
 {
     sdk().setFrame(0, 0, 1, {1});
     sdk().setFramesLeft(-1);
@@ -230,7 +228,7 @@ void TestCaptureThread::unusableFramesAreNotHurriedFor()
 }
 
 /// Another format is told of, the same one after it too, and after a new start everything again.
-void TestCaptureThread::eachUnusableFormatIsTold()
+void CaptureThreadTest::eachUnusableFormatIsTold()
 {
     thread->startCapture();
     for (const uint channels : {2U, 2U, 4U, 2U}) {
@@ -245,7 +243,7 @@ void TestCaptureThread::eachUnusableFormatIsTold()
     QCOMPARE(log->texts(QtCriticalMsg).size(), 4);
 }
 
-void TestCaptureThread::goodFrameAfterUnusableOne()
+void CaptureThreadTest::goodFrameAfterUnusableOne()
 {
     sdk().setFrame(640, 480, 2, {1, 2, 3});
     thread->startCapture();
@@ -255,85 +253,85 @@ void TestCaptureThread::goodFrameAfterUnusableOne()
     QCOMPARE(firstPicture().size(), QSize(1280, 960));
 }
 
-void TestCaptureThread::stalledGui()
+void CaptureThreadTest::stalledGui()
 {
-    overlayFlags.monitorTracking = true;
-    monitorPositions.starASearch = QPointF(640, 480);
-    monitorPositions.starBSearch = QPointF(640, 480);
+    session->overlayFlags.monitorTracking = true;
+    session->monitorPositions.starASearch = QPointF(640, 480);
+    session->monitorPositions.starBSearch = QPointF(640, 480);
     thread->startCapture();
     for (int level = 1; level <= framesForAll; ++level) {
         showFrame(cv::Mat(960, 1280, CV_8UC1, cv::Scalar(level)));
         QVERIFY(waitForFrames(1));
     }
-    QCOMPARE(waitingFrames().size(), 2);
-    QCOMPARE(waitingEnlargements().size(), 2);
+    QCOMPARE(session->frameQueue.size(), 2);
+    QCOMPARE(session->magnifierQueue.size(), 2);
     // The oldest wait; what came later was dropped.
-    QCOMPARE(waitingFrames()[0].pixel(5, 5), qRgb(1, 1, 1));
-    QCOMPARE(waitingFrames()[1].pixel(5, 5), qRgb(2, 2, 2));
-    QCOMPARE(int(copyOfRawFrame().at<uchar>(5, 5)), framesForAll);
+    QCOMPARE(session->frameQueue.waiting()[0].pixel(5, 5), qRgb(1, 1, 1));
+    QCOMPARE(session->frameQueue.waiting()[1].pixel(5, 5), qRgb(2, 2, 2));
+    QCOMPARE(int(session->latestFrame.copy().at<uchar>(5, 5)), framesForAll);
 }
 
-void TestCaptureThread::magnifierOnlyInMonitorMode()
+void CaptureThreadTest::magnifierOnlyInMonitorMode()
 {
-    monitorPositions.starASearch = QPointF(640, 480);
-    monitorPositions.starBSearch = QPointF(640, 480);
+    session->monitorPositions.starASearch = QPointF(640, 480);
+    session->monitorPositions.starBSearch = QPointF(640, 480);
     thread->startCapture();
     QVERIFY(waitForFrames(framesForAll));
-    QCOMPARE(waitingEnlargements().size(), 0);
-    overlayFlags.monitorTracking = true;
+    QCOMPARE(session->magnifierQueue.size(), 0);
+    session->overlayFlags.monitorTracking = true;
     QVERIFY(waitForFrames(1));
-    QCOMPARE(waitingEnlargements().size(), 1);
-    QCOMPARE(waitingEnlargements()[0].size(), QSize(200, 200));
-    QCOMPARE(waitingEnlargements()[0].format(), QImage::Format_RGB888);
+    QCOMPARE(session->magnifierQueue.size(), 1);
+    QCOMPARE(session->magnifierQueue.waiting()[0].size(), QSize(200, 200));
+    QCOMPARE(session->magnifierQueue.waiting()[0].format(), QImage::Format_RGB888);
     // The dot of star B, green, lies in the crop's middle.
-    QCOMPARE(waitingEnlargements()[0].pixel(100, 100), qRgb(0, 255, 0));
+    QCOMPARE(session->magnifierQueue.waiting()[0].pixel(100, 100), qRgb(0, 255, 0));
 }
 
 /// The star is shown where it was seen; marks and pole stand where it would be without air.
-void TestCaptureThread::refractionLeavesTheEnlargementAlone()
+void CaptureThreadTest::refractionLeavesTheEnlargementAlone()
 {
-    overlayFlags.monitorTracking = true;
-    monitorPositions.starASearch = QPointF(400, 300);
-    monitorPositions.starBSearch = QPointF(640, 480);
-    refractionSettings.latitude = 39.9F;
-    refractionSettings.P = 1013.0F;
-    refractionSettings.T = 10.0F;
+    session->overlayFlags.monitorTracking = true;
+    session->monitorPositions.starASearch = QPointF(400, 300);
+    session->monitorPositions.starBSearch = QPointF(640, 480);
+    session->refraction.latitude = 39.9F;
+    session->refraction.P = 1013.0F;
+    session->refraction.T = 10.0F;
     thread->startCapture();
     QVERIFY(waitForFrames(1));
-    const QImage seen = waitingEnlargements().value(0);
-    const QPointF starB = monitorPositions.starBCurrent;
+    const QImage seen = session->magnifierQueue.waiting().value(0);
+    const QPointF starB = session->monitorPositions.starBCurrent;
     QVERIFY(!seen.isNull());
     forgetWaitingPictures();
-    refractionSettings.enabledCorrect = true;
+    session->refraction.enabledCorrect = true;
     QVERIFY(waitForFrames(1));
-    QCOMPARE(waitingEnlargements().value(0), seen);
-    const QPointF lowered = monitorPositions.starBCurrent;
+    QCOMPARE(session->magnifierQueue.waiting().value(0), seen);
+    const QPointF lowered = session->monitorPositions.starBCurrent;
     QCOMPARE(lowered.x(), starB.x());
     QVERIFY(std::abs(starB.y() - lowered.y() - 1.1925) < 5e-4);
 }
 
-void TestCaptureThread::marksAreDrawn()
+void CaptureThreadTest::marksAreDrawn()
 {
     showFrame(cv::Mat(960, 1280, CV_8UC1, cv::Scalar(7)));
-    overlayFlags.showAxisMark = true;
-    overlayFlags.monoStyle = false;
-    alignmentPoints.savedAxisCenter = QPointF(200.5, 100.5);
+    session->overlayFlags.showAxisMark = true;
+    session->overlayFlags.monoStyle = false;
+    session->alignmentPoints.savedAxisCenter = QPointF(200.5, 100.5);
     thread->startCapture();
     QVERIFY(waitForFrames(1));
     QCOMPARE(firstPicture().pixel(195, 100), qRgb(255, 0, 0));
     QCOMPARE(firstPicture().pixel(150, 100), qRgb(7, 7, 7));
-    QCOMPARE(int(copyOfRawFrame().at<uchar>(100, 195)), 7);
+    QCOMPARE(int(session->latestFrame.copy().at<uchar>(100, 195)), 7);
 }
 
-void TestCaptureThread::noPoleOnOneColumn()
+void CaptureThreadTest::noPoleOnOneColumn()
 {
     showFrame(starFrame({})); // black: the search positions hold
-    overlayFlags.monitorTracking = true;
-    overlayFlags.showPoleRect = true;
-    alignmentPoints.angleBAP = 40.0;
-    alignmentPoints.angleABP = 60.0;
-    monitorPositions.starASearch = QPointF(400, 300);
-    monitorPositions.starBSearch = QPointF(400, 620);
+    session->overlayFlags.monitorTracking = true;
+    session->overlayFlags.showPoleRect = true;
+    session->alignmentPoints.angleBAP = 40.0;
+    session->alignmentPoints.angleABP = 60.0;
+    session->monitorPositions.starASearch = QPointF(400, 300);
+    session->monitorPositions.starBSearch = QPointF(400, 620);
     thread->startCapture();
     QVERIFY(waitForFrames(1));
     const QImage plain = firstPicture();
@@ -342,13 +340,13 @@ void TestCaptureThread::noPoleOnOneColumn()
             if (plain.pixel(x, y) != qRgb(0, 0, 0))
                 QFAIL("a mark is drawn");
     forgetWaitingPictures();
-    monitorPositions.starBSearch = QPointF(800, 620);
+    session->monitorPositions.starBSearch = QPointF(800, 620);
     QVERIFY(waitForFrames(1));
-    const QPoint pole = monitorPositions.poleCurrent.load().toPoint();
+    const QPoint pole = session->monitorPositions.poleCurrent.load().toPoint();
     QVERIFY(firstPicture().pixel(pole) != qRgb(0, 0, 0));
 }
 
-void TestCaptureThread::frameRate_data()
+void CaptureThreadTest::frameRate_data()
 {
     QTest::addColumn<int>("quickFrames"); ///< that come before the pause
     QTest::addColumn<int>("pause");       ///< milliseconds
@@ -359,7 +357,7 @@ void TestCaptureThread::frameRate_data()
 
 /// The rate is the last frame's alone. Each of the two moments that it lies between is held between
 /// two looks at the clock, however busy the machine.
-void TestCaptureThread::frameRate()
+void CaptureThreadTest::frameRate()
 {
     QFETCH(int, quickFrames);
     QFETCH(int, pause);
@@ -379,7 +377,7 @@ void TestCaptureThread::frameRate()
     QVERIFY(waitForFrames(1));
     const qint64 after = now();
     stopAndWait();
-    const FrameRate measured = measuredRate();
+    const FrameRate measured = session->frameRate.rate();
     const int tenths = 10 * measured.whole + measured.tenths;
     const qint64 longest = after - before, shortest = beforeLast - between;
     QVERIFY2(
@@ -387,11 +385,10 @@ void TestCaptureThread::frameRate()
         qPrintable(
             QStringLiteral("%1 tenths from %2 to %3 ms").arg(tenths).arg(shortest).arg(longest)));
     QVERIFY(measured.tenths >= 0 && measured.tenths <= 9);
-    const Locker lock(fpsMutex);
-    QVERIFY(elapsedBetween(cameraState.thisFrameTime, cameraState.lastFrameTime) >= 0);
+    QVERIFY(FrameRateMeterProbe(session->frameRate).betweenIntervals() >= 0);
 }
 
-void TestCaptureThread::startAgain()
+void CaptureThreadTest::startAgain()
 {
     for (int run = 1; run <= 3; ++run) {
         thread->startCapture();
@@ -402,7 +399,7 @@ void TestCaptureThread::startAgain()
     QCOMPARE(log->texts(QtDebugMsg), startAndEnd + startAndEnd + startAndEnd);
 }
 
-void TestCaptureThread::stopIsNotWaitedFor()
+void CaptureThreadTest::stopIsNotWaitedFor()
 {
     sdk().holdFetches();
     thread->startCapture();
@@ -413,7 +410,7 @@ void TestCaptureThread::stopIsNotWaitedFor()
     QVERIFY(thread->wait(patience));
 }
 
-void TestCaptureThread::startAgainDuringTheLastPass()
+void CaptureThreadTest::startAgainDuringTheLastPass()
 {
     sdk().holdFetches();
     thread->startCapture();
@@ -430,7 +427,7 @@ void TestCaptureThread::startAgainDuringTheLastPass()
     QCOMPARE(sdkCalls().size(), 2);
 }
 
-void TestCaptureThread::nothingMeasuredOrQueuedAfterTheStop()
+void CaptureThreadTest::nothingMeasuredOrQueuedAfterTheStop()
 {
     sdk().holdFetches();
     sdk().setFramesLeft(1);
@@ -440,16 +437,16 @@ void TestCaptureThread::nothingMeasuredOrQueuedAfterTheStop()
     sdk().releaseFetches();
     QVERIFY(thread->wait(patience));
     QCOMPARE(sdk().framesLeft(), 0);
-    QCOMPARE(waitingFrames().size(), 0);
-    QCOMPARE(measuredRate().whole, 0);
-    QCOMPARE(measuredRate().tenths, 0);
+    QCOMPARE(session->frameQueue.size(), 0);
+    QCOMPARE(session->frameRate.rate().whole, 0);
+    QCOMPARE(session->frameRate.rate().tenths, 0);
 }
 
-void TestCaptureThread::destructionWaits()
+void CaptureThreadTest::destructionWaits()
 {
     sdk().setFramesLeft(-1);
     thread->startCapture();
-    QTRY_VERIFY(waitingFrames().size() == 2);
+    QTRY_VERIFY(session->frameQueue.size() == 2);
     thread.reset();
     QCOMPARE(log->texts(QtDebugMsg), startAndEnd);
     const int fetches = sdk().fetchCount();
@@ -457,5 +454,5 @@ void TestCaptureThread::destructionWaits()
     QCOMPARE(sdk().fetchCount(), fetches);
 }
 
-QTEST_GUILESS_MAIN(TestCaptureThread)
+QTEST_GUILESS_MAIN(CaptureThreadTest)
 #include "tst_capturethread.moc"

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 // Which frame rate follows from two frame times?
-#include "camera/camerastate.h"
+#include "camera/session.h"
+#include "tests/support/frameratemeterprobe.h"
 
 #include <QtTest>
+#include <algorithm>
 #include <limits>
 
 using Int = std::numeric_limits<std::int32_t>;
 
-class TestFrameRate : public QObject
+class FrameRateTest : public QObject
 {
     Q_OBJECT
 
@@ -21,7 +23,7 @@ private slots:
     void defaults();
 };
 
-void TestFrameRate::rate_data()
+void FrameRateTest::rate_data()
 {
     QTest::addColumn<int>("milliseconds");
     QTest::addColumn<int>("whole");
@@ -41,7 +43,7 @@ void TestFrameRate::rate_data()
     QTest::newRow("same millisecond saturates") << 0 << Int::max() << Int::min();
 }
 
-void TestFrameRate::rate()
+void FrameRateTest::rate()
 {
     QFETCH(int, milliseconds);
     const FrameRate found = frameRate(milliseconds);
@@ -49,7 +51,7 @@ void TestFrameRate::rate()
     QTEST(found.tenths, "tenths");
 }
 
-void TestFrameRate::elapsed_data()
+void FrameRateTest::elapsed_data()
 {
     QTest::addColumn<int>("earlier");
     QTest::addColumn<int>("later");
@@ -62,14 +64,14 @@ void TestFrameRate::elapsed_data()
     QTest::newRow("back across the wrap") << Int::min() + 10 << Int::max() - 9 << -20;
 }
 
-void TestFrameRate::elapsed()
+void FrameRateTest::elapsed()
 {
     QFETCH(int, earlier);
     QFETCH(int, later);
     QTEST(elapsedBetween(earlier, later), "difference");
 }
 
-void TestFrameRate::cut_data()
+void FrameRateTest::cut_data()
 {
     QTest::addColumn<qint64>("milliseconds");
     QTest::addColumn<int>("kept");
@@ -81,13 +83,13 @@ void TestFrameRate::cut_data()
     QTest::newRow("before the epoch") << qint64(-1) << -1;
 }
 
-void TestFrameRate::cut()
+void FrameRateTest::cut()
 {
     QFETCH(qint64, milliseconds);
     QTEST(cutTo32Bits(milliseconds), "kept");
 }
 
-void TestFrameRate::defaults()
+void FrameRateTest::defaults()
 {
     CameraState state;
     QCOMPARE(state.exposure, 0.0);
@@ -109,13 +111,15 @@ void TestFrameRate::defaults()
     QCOMPARE(state.roiY, 0U);
     QCOMPARE(state.roiWidth, 1280U);
     QCOMPARE(state.roiHeight, 960U);
-    QCOMPARE(state.frameBuffer->size(), std::size_t(3686400));
-    QVERIFY(std::all_of(state.frameBuffer->begin(), state.frameBuffer->end(),
+    QCOMPARE(frameBufferSize, std::size_t(3686400));
+    LatestFrame latest;
+    QVERIFY(std::all_of(latest.fetchBuffer(), latest.fetchBuffer() + frameBufferSize,
                         [](std::uint8_t byte) { return byte == 0; }));
-    QCOMPARE(state.fpsWhole, 0);
-    QCOMPARE(state.fpsTenths, 0);
-    QCOMPARE(state.lastFrameTime, 0);
+    const FrameRateMeter meter;
+    QCOMPARE(meter.rate().whole, 0);
+    QCOMPARE(meter.rate().tenths, 0);
+    QCOMPARE(FrameRateMeterProbe(meter).lastFrameTime(), 0);
 }
 
-QTEST_GUILESS_MAIN(TestFrameRate)
+QTEST_GUILESS_MAIN(FrameRateTest)
 #include "tst_framerate.moc"

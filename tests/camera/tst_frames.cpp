@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: MIT
 // How does a matrix become a picture, and how full may a queue be?
-#include "camera/camerastate.h"
 #include "camera/frames.h"
+#include "camera/latestframe.h"
+#include "camera/picturequeue.h"
 #include "tests/support/logrecorder.h"
 
 #include <QtTest>
+#include <algorithm>
 
 Q_DECLARE_METATYPE(cv::Mat)
 
-class TestFrames : public QObject
+class FramesTest : public QObject
 {
     Q_OBJECT
 
@@ -25,7 +27,7 @@ private slots:
     void rawFrameIsCopied();
 };
 
-void TestFrames::refused_data()
+void FramesTest::refused_data()
 {
     QTest::addColumn<cv::Mat>("matrix");
     QTest::addColumn<QString>("message");
@@ -43,7 +45,7 @@ void TestFrames::refused_data()
                                 << unsupported + "depth=8U and channels=4";
 }
 
-void TestFrames::refused()
+void FramesTest::refused()
 {
     QFETCH(cv::Mat, matrix);
     QFETCH(QString, message);
@@ -52,7 +54,7 @@ void TestFrames::refused()
     QCOMPARE(log.lines(), QList<LogLine>({{QtCriticalMsg, message}}));
 }
 
-void TestFrames::nullMatrix()
+void FramesTest::nullMatrix()
 {
     const LogRecorder log;
     QVERIFY(!MatToQImage(nullptr));
@@ -60,7 +62,7 @@ void TestFrames::nullMatrix()
              QList<LogLine>({{QtCriticalMsg, "MatToQImage: Input Mat is null or empty."}}));
 }
 
-void TestFrames::oneChannelSharesThePixels()
+void FramesTest::oneChannelSharesThePixels()
 {
     cv::Mat matrix(3, 8, CV_8UC1, cv::Scalar(7));
     const auto picture = MatToQImage(&matrix);
@@ -72,7 +74,7 @@ void TestFrames::oneChannelSharesThePixels()
     QVERIFY(picture->constBits() == matrix.data);
 }
 
-void TestFrames::threeChannelsAreTurnedAndOwned()
+void FramesTest::threeChannelsAreTurnedAndOwned()
 {
     cv::Mat matrix(2, 3, CV_8UC3, cv::Scalar(10, 20, 30));
     matrix.at<cv::Vec3b>(1, 2) = {1, 2, 3};
@@ -86,7 +88,7 @@ void TestFrames::threeChannelsAreTurnedAndOwned()
     QCOMPARE(picture->pixel(1, 1), qRgb(30, 20, 10));
 }
 
-void TestFrames::areaOfALargerMatrix()
+void FramesTest::areaOfALargerMatrix()
 {
     cv::Mat colour(4, 16, CV_8UC3, cv::Scalar::all(0));
     colour.at<cv::Vec3b>(3, 9) = {1, 2, 3};
@@ -101,62 +103,63 @@ void TestFrames::areaOfALargerMatrix()
     QCOMPARE(int(picture->constScanLine(1)[5]), 77);
 }
 
-void TestFrames::matrices()
+void FramesTest::matrices()
 {
-    allocateFrameMatrices();
+    const FrameMatrices matrices;
+    const cv::Mat raw = LatestFrame().copy();
     const struct {
         const cv::Mat &matrix;
         cv::Size size;
         int type;
-    } table[] = {{frameMatrices.rawFrame, {1280, 960}, CV_8UC1},
-                 {frameMatrices.colourFrame, {1280, 960}, CV_8UC3},
-                 {frameMatrices.enlargedGrey, {6400, 4800}, CV_8UC1},
-                 {frameMatrices.enlargedColour, {6400, 4800}, CV_8UC3},
-                 {frameMatrices.magnifierCrop, {200, 200}, CV_8UC3}};
+    } table[] = {{raw, {1280, 960}, CV_8UC1},
+                 {matrices.colourFrame, {1280, 960}, CV_8UC3},
+                 {matrices.enlargedGrey, {6400, 4800}, CV_8UC1},
+                 {matrices.enlargedColour, {6400, 4800}, CV_8UC3},
+                 {matrices.magnifierCrop, {200, 200}, CV_8UC3}};
     for (const auto &row : table) {
         QVERIFY(row.matrix.size() == row.size);
         QCOMPARE(row.matrix.type(), row.type);
     }
-    QCOMPARE(cv::countNonZero(copyOfRawFrame()), 0); // before the first frame nothing is seen
+    QCOMPARE(cv::countNonZero(raw), 0); // before the first frame nothing is seen
 }
 
-void TestFrames::queueIsBounded()
+void FramesTest::queueIsBounded()
 {
-    QList<QImage> queue;
-    QMutex mutex;
-    const Relaxed<bool> stopped(false);
+    PictureQueue queue;
     QImage pictures[3];
     for (int i = 0; i < 3; ++i)
         pictures[i] = QImage(i + 1, 1, QImage::Format_RGB888);
-    QVERIFY(enqueue(queue, mutex, pictures[0], stopped));
-    QVERIFY(enqueue(queue, mutex, pictures[1], stopped));
-    QVERIFY(!enqueue(queue, mutex, pictures[2], stopped));
+    QVERIFY(queue.append(pictures[0]));
+    QVERIFY(queue.append(pictures[1]));
+    QVERIFY(!queue.append(pictures[2]));
     QCOMPARE(queue.size(), 2);
-    QCOMPARE(queue[0].width(), 1);
-    QCOMPARE(queue[1].width(), 2);
-    queue.removeFirst();
-    QVERIFY(enqueue(queue, mutex, pictures[2], stopped));
-    QCOMPARE(queue[1].width(), 3);
+    QCOMPARE(queue.waiting()[0].width(), 1);
+    QCOMPARE(queue.waiting()[1].width(), 2);
+    QCOMPARE(queue.takeOldest().width(), 1);
+    QVERIFY(queue.append(pictures[2]));
+    QCOMPARE(queue.waiting()[1].width(), 3);
 }
 
-void TestFrames::nothingIsQueuedAfterTheStop()
+void FramesTest::nothingIsQueuedAfterTheStop()
 {
-    QList<QImage> queue;
-    QMutex mutex;
+    PictureQueue queue;
     const Relaxed<bool> stopped(true);
-    QVERIFY(!enqueue(queue, mutex, QImage(1, 1, QImage::Format_RGB888), stopped));
+    QVERIFY(!queue.append(QImage(1, 1, QImage::Format_RGB888), stopped));
     QVERIFY(queue.isEmpty());
 }
 
-void TestFrames::rawFrameIsCopied()
+void FramesTest::rawFrameIsCopied()
 {
-    frameMatrices.rawFrame = cv::Mat(2, 2, CV_8UC1, cv::Scalar(5));
-    const cv::Mat copy = copyOfRawFrame();
-    frameMatrices.rawFrame.setTo(cv::Scalar(9));
+    LatestFrame latest;
+    std::fill_n(latest.fetchBuffer(), 4, std::uint8_t(5));
+    cv::Mat raw = latest.acceptFetched({2, 2, 8, 1});
+    const cv::Mat copy = latest.copy();
+    raw.setTo(cv::Scalar(9));
     QCOMPARE(int(copy.at<uchar>(1, 1)), 5);
-    frameMatrices.rawFrame = cv::Mat();
-    QVERIFY(copyOfRawFrame().empty());
+    QCOMPARE(int(latest.copy().at<uchar>(1, 1)), 9);
+    latest.acceptFetched({0, 0, 8, 1});
+    QVERIFY(latest.copy().empty());
 }
 
-QTEST_GUILESS_MAIN(TestFrames)
+QTEST_GUILESS_MAIN(FramesTest)
 #include "tst_frames.moc"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Are the reference stars followed, the pole reckoned and the pole star enlarged as they should be?
 #include "camera/monitor.h"
-#include "camera/sharedstate.h"
+#include "core/sharedstate.h"
 #include "geometry/polecomputation.h"
 #include "tests/camera/recordingcamera.h"
 #include "tests/support/logrecorder.h"
@@ -9,6 +9,7 @@
 #include <QtTest>
 #include <cmath>
 #include <limits>
+#include <memory>
 #include <opencv2/imgproc.hpp>
 #include <random>
 
@@ -93,7 +94,7 @@ bool sameBytes(const cv::Mat &a, const cv::Mat &b)
 }
 } // namespace
 
-class TestMonitor : public QObject
+class MonitorTest : public QObject
 {
     Q_OBJECT
 
@@ -113,22 +114,24 @@ private slots:
     void cropOfNoPosition_data();
     void cropOfNoPosition();
     void cropOfOddFrames();
+
+private:
+    std::unique_ptr<RefractionSettings> conditions; ///< of the refraction
+    std::unique_ptr<AlignmentPoints> points;
+    std::unique_ptr<MonitorPositions> positions;
 };
 
-void TestMonitor::init()
+void MonitorTest::init()
 {
-    for (RelaxedPoint *const point :
-         {&monitorPositions.starACurrent, &monitorPositions.starBCurrent,
-          &monitorPositions.poleCurrent})
-        *point = QPointF(-1, -1);
-    monitorPositions.poleValid = false;
-    refractionSettings.enabledCorrect = false;
-    alignmentPoints.savedAxisCenter = QPointF(640, 480);
-    alignmentPoints.angleBAP = 40.0;
-    alignmentPoints.angleABP = 60.0;
+    conditions = std::make_unique<RefractionSettings>();
+    points = std::make_unique<AlignmentPoints>();
+    positions = std::make_unique<MonitorPositions>();
+    points->savedAxisCenter = QPointF(640, 480);
+    points->angleBAP = 40.0;
+    points->angleABP = 60.0;
 }
 
-void TestMonitor::tracking_data()
+void MonitorTest::tracking_data()
 {
     QTest::addColumn<int>("channels");
     QTest::addColumn<QPointF>("searchA");
@@ -142,43 +145,46 @@ void TestMonitor::tracking_data()
     QTest::newRow("off the frame") << 1 << QPointF(-500, 2000) << QPointF(-500, 2000);
 }
 
-void TestMonitor::tracking()
+void MonitorTest::tracking()
 {
     QFETCH(int, channels);
     QFETCH(QPointF, searchA);
     QFETCH(QPointF, foundA);
     const QPointF starB(800.75, 620.2);
-    monitorPositions.starASearch = searchA;
-    monitorPositions.starBSearch = QPointF(796, 625);
+    positions->starASearch = searchA;
+    positions->starBSearch = QPointF(796, 625);
     const LogRecorder log;
-    const ReferenceStars stars = trackReferenceStars(starFrame({{400.3, 300.6}, starB}, channels));
+    const ReferenceStars stars =
+        trackReferenceStars(starFrame({{400.3, 300.6}, starB}, channels), *positions);
     QVERIFY(isNear(stars.a, foundA, pixelTolerance));
     QVERIFY(isNear(stars.b, starB, pixelTolerance));
-    QCOMPARE(monitorPositions.starASearch.load(), searchA);
-    QCOMPARE(monitorPositions.starBSearch.load(), QPointF(796, 625));
+    QCOMPARE(positions->starASearch.load(), searchA);
+    QCOMPARE(positions->starBSearch.load(), QPointF(796, 625));
 }
 
-void TestMonitor::searchStartsAgainFromTheStart()
+void MonitorTest::searchStartsAgainFromTheStart()
 {
-    monitorPositions.starASearch = QPointF(400, 300);
-    monitorPositions.starBSearch = QPointF(400, 300);
+    positions->starASearch = QPointF(400, 300);
+    positions->starBSearch = QPointF(400, 300);
     const LogRecorder log;
-    QVERIFY(isNear(trackReferenceStars(starFrame({{412, 300}})).a, {412, 300}, pixelTolerance));
-    QCOMPARE(trackReferenceStars(starFrame({{432, 300}})).a, QPointF(400, 300));
-    QVERIFY(isNear(trackReferenceStars(starFrame({{390, 300}})).a, {390, 300}, pixelTolerance));
+    QVERIFY(isNear(trackReferenceStars(starFrame({{412, 300}}), *positions).a, {412, 300},
+                   pixelTolerance));
+    QCOMPARE(trackReferenceStars(starFrame({{432, 300}}), *positions).a, QPointF(400, 300));
+    QVERIFY(isNear(trackReferenceStars(starFrame({{390, 300}}), *positions).a, {390, 300},
+                   pixelTolerance));
 }
 
-void TestMonitor::starAtTheEdgeStaysAtItsSearchPosition()
+void MonitorTest::starAtTheEdgeStaysAtItsSearchPosition()
 {
-    monitorPositions.starASearch = QPointF(5, 5);
-    monitorPositions.starBSearch = QPointF(1278, 958);
+    positions->starASearch = QPointF(5, 5);
+    positions->starBSearch = QPointF(1278, 958);
     const LogRecorder log;
-    const ReferenceStars stars = trackReferenceStars(starFrame({{5, 5}, {1278, 958}}));
+    const ReferenceStars stars = trackReferenceStars(starFrame({{5, 5}, {1278, 958}}), *positions);
     QCOMPARE(stars.a, QPointF(5, 5));
     QCOMPARE(stars.b, QPointF(1278, 958));
 }
 
-void TestMonitor::refraction_data()
+void MonitorTest::refraction_data()
 {
     QTest::addColumn<bool>("enabled");
     QTest::addColumn<QString>("unit");
@@ -194,27 +200,27 @@ void TestMonitor::refraction_data()
     QTest::newRow("20 degrees of frost") << true << "hPa" << 1010.0F << -20.0F << raisedInTheCold;
 }
 
-void TestMonitor::refraction()
+void MonitorTest::refraction()
 {
     QFETCH(bool, enabled);
     QFETCH(QString, unit);
     QFETCH(float, pressure);
     QFETCH(float, temperature);
     QFETCH(double, raised);
-    refractionSettings.enabledCorrect = enabled;
-    refractionSettings.P_unit = unit;
-    refractionSettings.P = pressure;
-    refractionSettings.T = temperature;
-    refractionSettings.latitude = 40.0F;
-    updatePole({QPointF(400, 300), QPointF(800, 620)});
-    QVERIFY(isNear(monitorPositions.starACurrent, {400, 300 - raised}, 1e-6));
-    QVERIFY(isNear(monitorPositions.starBCurrent, {800, 620 - raised}, 1e-6));
+    conditions->enabledCorrect = enabled;
+    conditions->P_unit = unit;
+    conditions->P = pressure;
+    conditions->T = temperature;
+    conditions->latitude = 40.0F;
+    updatePole({QPointF(400, 300), QPointF(800, 620)}, *conditions, *points, *positions);
+    QVERIFY(isNear(positions->starACurrent, {400, 300 - raised}, 1e-6));
+    QVERIFY(isNear(positions->starBCurrent, {800, 620 - raised}, 1e-6));
     double x = 0, y = 0;
     QCOMPARE(CalcPoleCOOR(400, 300 - raised, 40, 800, 620 - raised, 60, 640, 480, x, y), 0);
-    QVERIFY(isNear(monitorPositions.poleCurrent, {x, y}, 1e-6));
+    QVERIFY(isNear(positions->poleCurrent, {x, y}, 1e-6));
 }
 
-void TestMonitor::pole_data()
+void MonitorTest::pole_data()
 {
     QTest::addColumn<QPointF>("axis");
     QTest::addColumn<bool>("above"); ///< the line from star A to star B
@@ -225,15 +231,15 @@ void TestMonitor::pole_data()
 }
 
 /// Two places make the two angles, one on each side of the line: the pole is the one on the axis's.
-void TestMonitor::pole()
+void MonitorTest::pole()
 {
     QFETCH(QPointF, axis);
     QFETCH(bool, above);
     const QPointF a(400, 300), b(800, 620);
-    alignmentPoints.savedAxisCenter = axis;
-    updatePole({a, b});
-    QVERIFY(monitorPositions.poleValid);
-    const QPointF p = monitorPositions.poleCurrent;
+    points->savedAxisCenter = axis;
+    updatePole({a, b}, *conditions, *points, *positions);
+    QVERIFY(positions->poleValid);
+    const QPointF p = positions->poleCurrent;
     const auto degreesAt = [](QPointF corner, QPointF one, QPointF other) {
         const QPointF u = one - corner, v = other - corner;
         return std::acos(QPointF::dotProduct(u, v) /
@@ -247,21 +253,21 @@ void TestMonitor::pole()
     QCOMPARE(p.y() < lineAtPole, above);
 }
 
-void TestMonitor::noPoleOnOneColumn()
+void MonitorTest::noPoleOnOneColumn()
 {
     const LogRecorder log;
     const QPointF a(400, 300), b(800, 620);
-    updatePole({a, b});
-    QVERIFY(monitorPositions.poleValid);
-    const QPointF before = monitorPositions.poleCurrent;
-    updatePole({a, QPointF(400, 620)});
-    QVERIFY(!monitorPositions.poleValid);
-    QCOMPARE(monitorPositions.poleCurrent.load(), before);
-    updatePole({a, b});
-    QVERIFY(monitorPositions.poleValid);
+    updatePole({a, b}, *conditions, *points, *positions);
+    QVERIFY(positions->poleValid);
+    const QPointF before = positions->poleCurrent;
+    updatePole({a, QPointF(400, 620)}, *conditions, *points, *positions);
+    QVERIFY(!positions->poleValid);
+    QCOMPARE(positions->poleCurrent.load(), before);
+    updatePole({a, b}, *conditions, *points, *positions);
+    QVERIFY(positions->poleValid);
 }
 
-void TestMonitor::crop_data()
+void MonitorTest::crop_data()
 {
     QTest::addColumn<int>("channels");
     QTest::addColumn<bool>("mono");
@@ -273,7 +279,7 @@ void TestMonitor::crop_data()
     QTest::newRow("three channels, edges, mono") << 3 << true << true;
 }
 
-void TestMonitor::crop()
+void MonitorTest::crop()
 {
     QFETCH(int, channels);
     QFETCH(bool, mono);
@@ -301,7 +307,7 @@ void TestMonitor::crop()
     }
 }
 
-void TestMonitor::cropOfNoPosition_data()
+void MonitorTest::cropOfNoPosition_data()
 {
     QTest::addColumn<QPointF>("star");
     const double nan = std::numeric_limits<double>::quiet_NaN();
@@ -313,7 +319,7 @@ void TestMonitor::cropOfNoPosition_data()
     QTest::newRow("one coordinate not a number") << QPointF(nan, 5000);
 }
 
-void TestMonitor::cropOfNoPosition()
+void MonitorTest::cropOfNoPosition()
 {
     QFETCH(QPointF, star);
     FrameMatrices matrices;
@@ -324,7 +330,7 @@ void TestMonitor::cropOfNoPosition()
 }
 
 /// Frames of other sizes give crops of the same size, black beyond the frame.
-void TestMonitor::cropOfOddFrames()
+void MonitorTest::cropOfOddFrames()
 {
     FrameMatrices matrices;
     const cv::Mat small(1, 1, CV_8UC1, cv::Scalar(90));
@@ -335,5 +341,5 @@ void TestMonitor::cropOfOddFrames()
     QCOMPARE(matrices.magnifierCrop.at<cv::Vec3b>(99, 99), cv::Vec3b(0, 0, 0));
 }
 
-QTEST_GUILESS_MAIN(TestMonitor)
+QTEST_GUILESS_MAIN(MonitorTest)
 #include "tst_monitor.moc"

@@ -2,10 +2,11 @@
 // Does the capture loop enlarge the followed star in the style of the display, and in the same
 // memory for every frame?
 #include "tests/camera/capturetest.h"
+#include "tests/support/capturethreadprobe.h"
 
 #include <utility>
 
-class TestMonitorThread : public CaptureTest
+class MonitorThreadTest : public CaptureTest
 {
     Q_OBJECT
 
@@ -16,7 +17,7 @@ private slots:
     void matricesAreReused();
 };
 
-void TestMonitorThread::enlargementInTheStyle_data()
+void MonitorThreadTest::enlargementInTheStyle_data()
 {
     QTest::addColumn<bool>("mono");
     QTest::addColumn<QRgb>("starA");
@@ -26,18 +27,18 @@ void TestMonitorThread::enlargementInTheStyle_data()
 
 /// Star A stands so near to star B that its mark lies in the enlargement, ten frame pixels to the
 /// right of the middle.
-void TestMonitorThread::enlargementInTheStyle()
+void MonitorThreadTest::enlargementInTheStyle()
 {
     QFETCH(bool, mono);
     QFETCH(QRgb, starA);
     showFrame(starFrame({})); // black: the search positions hold
-    monitorPositions.starASearch = QPointF(650, 480);
-    monitorPositions.starBSearch = QPointF(640, 480);
-    overlayFlags.monitorTracking = true;
-    overlayFlags.monoStyle = mono;
+    session->monitorPositions.starASearch = QPointF(650, 480);
+    session->monitorPositions.starBSearch = QPointF(640, 480);
+    session->overlayFlags.monitorTracking = true;
+    session->overlayFlags.monoStyle = mono;
     thread->startCapture();
     QVERIFY(waitForFrames(1));
-    const QImage seen = waitingEnlargements().value(0);
+    const QImage seen = session->magnifierQueue.waiting().value(0);
     QCOMPARE(seen.size(), QSize(200, 200));
     QCOMPARE(seen.pixel(150, 100), starA); // the dot
     for (const QPoint tick :
@@ -46,7 +47,7 @@ void TestMonitorThread::enlargementInTheStyle()
     QCOMPARE(seen.pixel(100, 100), qRgb(0, 255, 0)); // star B is green in both
 }
 
-void TestMonitorThread::matricesAreReused_data()
+void MonitorThreadTest::matricesAreReused_data()
 {
     QTest::addColumn<int>("channels");
     QTest::newRow("grey") << 1;
@@ -55,25 +56,26 @@ void TestMonitorThread::matricesAreReused_data()
 
 /// What is allocated once is used for every frame. The headers that are kept here keep the first
 /// memory from being given out again, so that a new allocation has another address.
-void TestMonitorThread::matricesAreReused()
+void MonitorThreadTest::matricesAreReused()
 {
     QFETCH(int, channels);
-    const FrameMatrices first = frameMatrices;
+    const FrameMatrices &matrices = CaptureThreadProbe(*thread).matrices();
+    const FrameMatrices first = matrices;
     const std::pair<const cv::Mat &, const cv::Mat &> pairs[] = {
-        {first.colourFrame, frameMatrices.colourFrame},
-        {first.enlargedGrey, frameMatrices.enlargedGrey},
-        {first.enlargedColour, frameMatrices.enlargedColour},
-        {first.magnifierCrop, frameMatrices.magnifierCrop}};
-    overlayFlags.monitorTracking = true;
+        {first.colourFrame, matrices.colourFrame},
+        {first.enlargedGrey, matrices.enlargedGrey},
+        {first.enlargedColour, matrices.enlargedColour},
+        {first.magnifierCrop, matrices.magnifierCrop}};
+    session->overlayFlags.monitorTracking = true;
     // The enlarged part lies elsewhere in each frame, once over the edge.
     for (const QPointF star : {QPointF(640, 480), QPointF(100, 900), QPointF(1279, 0)}) {
         showFrame(starFrame({star}, channels));
-        monitorPositions.starASearch = star;
-        monitorPositions.starBSearch = star;
+        session->monitorPositions.starASearch = star;
+        session->monitorPositions.starBSearch = star;
         thread->startCapture();
         QVERIFY(waitForFrames(2));
         stopAndWait();
-        QVERIFY(!waitingEnlargements().isEmpty());
+        QVERIFY(!session->magnifierQueue.isEmpty());
         forgetWaitingPictures();
         for (const auto &[before, now] : pairs) {
             QVERIFY(before.data != nullptr);
@@ -83,5 +85,5 @@ void TestMonitorThread::matricesAreReused()
     }
 }
 
-QTEST_GUILESS_MAIN(TestMonitorThread)
+QTEST_GUILESS_MAIN(MonitorThreadTest)
 #include "tst_monitorthread.moc"

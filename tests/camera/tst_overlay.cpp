@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Do the marks over a frame have their shapes, places and colours?
 #include "camera/overlay.h"
-#include "camera/sharedstate.h"
+#include "camera/session.h"
 
 #include <QPainter>
 #include <QtTest>
@@ -10,6 +10,11 @@ Q_DECLARE_METATYPE(OverlayMarks)
 
 namespace
 {
+OverlayMarks marksOf(const Session &session)
+{
+    return currentMarks(session.overlayFlags, session.alignmentPoints, session.monitorPositions);
+}
+
 const QSize frameSize(1280, 960);
 const QColor white(255, 255, 255), red(255, 0, 0), green(0, 255, 0);
 
@@ -135,7 +140,7 @@ OverlayMarks shown(const char *which, bool monoStyle)
 }
 } // namespace
 
-class TestOverlay : public QObject
+class OverlayTest : public QObject
 {
     Q_OBJECT
 
@@ -151,7 +156,7 @@ private slots:
     void poleIsLeftOutWhileThereIsNone();
 };
 
-void TestOverlay::shapes_data()
+void OverlayTest::shapes_data()
 {
     QTest::addColumn<OverlayMarks>("marks");
     for (const bool mono : {false, true}) {
@@ -176,7 +181,7 @@ void TestOverlay::shapes_data()
     }
 }
 
-void TestOverlay::shapes()
+void OverlayTest::shapes()
 {
     QFETCH(OverlayMarks, marks);
     QImage picture = sky();
@@ -184,7 +189,7 @@ void TestOverlay::shapes()
     QVERIFY(picture == drawn(marks));
 }
 
-void TestOverlay::pixels_data()
+void OverlayTest::pixels_data()
 {
     QTest::addColumn<QString>("mark");
     QTest::addColumn<bool>("mono");
@@ -229,7 +234,7 @@ void TestOverlay::pixels_data()
                                   << QColor(248, 248, 255);
 }
 
-void TestOverlay::pixels()
+void OverlayTest::pixels()
 {
     QFETCH(QString, mark);
     QFETCH(bool, mono);
@@ -260,30 +265,31 @@ void TestOverlay::pixels()
                  qPrintable(QStringLiteral("dark %1,%2").arg(point.x()).arg(point.y())));
 }
 
-void TestOverlay::nothingShown()
+void OverlayTest::nothingShown()
 {
     QImage picture = sky();
     paintOverlay(picture, hidden(false));
     QVERIFY(picture == sky());
 }
 
-void TestOverlay::currentState()
+void OverlayTest::currentState()
 {
-    overlayFlags.showAxisMark = true;
-    overlayFlags.showStarCircle = false;
-    overlayFlags.showRotatingArc = true;
-    overlayFlags.showMonitorCross = false;
-    overlayFlags.showPoleRect = true;
-    overlayFlags.monoStyle = true;
-    overlayFlags.arcAngle = 30;
-    alignmentPoints.savedAxisCenter = QPointF(1, 2);
-    alignmentPoints.savedAxisRadius = 3;
-    alignmentPoints.polarisTarget = QPointF(4, 5);
-    monitorPositions.starACurrent = QPointF(6, 7);
-    monitorPositions.starBCurrent = QPointF(8, 9);
-    monitorPositions.poleCurrent = QPointF(10, 11);
-    monitorPositions.poleValid = true;
-    const OverlayMarks m = currentMarks();
+    Session session;
+    session.overlayFlags.showAxisMark = true;
+    session.overlayFlags.showStarCircle = false;
+    session.overlayFlags.showRotatingArc = true;
+    session.overlayFlags.showMonitorCross = false;
+    session.overlayFlags.showPoleRect = true;
+    session.overlayFlags.monoStyle = true;
+    session.overlayFlags.arcAngle = 30;
+    session.alignmentPoints.savedAxisCenter = QPointF(1, 2);
+    session.alignmentPoints.savedAxisRadius = 3;
+    session.alignmentPoints.polarisTarget = QPointF(4, 5);
+    session.monitorPositions.starACurrent = QPointF(6, 7);
+    session.monitorPositions.starBCurrent = QPointF(8, 9);
+    session.monitorPositions.poleCurrent = QPointF(10, 11);
+    session.monitorPositions.poleValid = true;
+    const OverlayMarks m = marksOf(session);
     QVERIFY(m.showAxisMark && !m.showStarCircle && m.showRotatingArc && !m.showMonitorCross);
     QVERIFY(m.showPoleRect && m.monoStyle);
     QCOMPARE(m.axisCenter, QPointF(1, 2));
@@ -295,7 +301,7 @@ void TestOverlay::currentState()
     QCOMPARE(m.pole, QPointF(10, 11));
 }
 
-void TestOverlay::eachFlagDrawsItsMark_data()
+void OverlayTest::eachFlagDrawsItsMark_data()
 {
     QTest::addColumn<QString>("mark");
     QTest::addColumn<bool>("mono");
@@ -305,42 +311,44 @@ void TestOverlay::eachFlagDrawsItsMark_data()
 }
 
 /// From the shared state to the pixels.
-void TestOverlay::eachFlagDrawsItsMark()
+void OverlayTest::eachFlagDrawsItsMark()
 {
     QFETCH(QString, mark);
     QFETCH(bool, mono);
     const OverlayMarks wanted = shown(qPrintable(mark), mono);
     const auto flag = [&mark](const char *name) { return mark == name || mark == "all"; };
-    overlayFlags.showAxisMark = flag("axis");
-    overlayFlags.showStarCircle = flag("circle");
-    overlayFlags.showRotatingArc = flag("arc");
-    overlayFlags.showMonitorCross = flag("stars");
-    overlayFlags.showPoleRect = flag("pole");
-    overlayFlags.monoStyle = mono;
-    overlayFlags.arcAngle = wanted.arcAngle;
-    alignmentPoints.savedAxisCenter = wanted.axisCenter;
-    alignmentPoints.savedAxisRadius = wanted.axisRadius;
-    alignmentPoints.polarisTarget = wanted.arcCenter;
-    monitorPositions.starACurrent = wanted.starA;
-    monitorPositions.starBCurrent = wanted.starB;
-    monitorPositions.poleCurrent = wanted.pole;
-    monitorPositions.poleValid = true;
+    Session session;
+    session.overlayFlags.showAxisMark = flag("axis");
+    session.overlayFlags.showStarCircle = flag("circle");
+    session.overlayFlags.showRotatingArc = flag("arc");
+    session.overlayFlags.showMonitorCross = flag("stars");
+    session.overlayFlags.showPoleRect = flag("pole");
+    session.overlayFlags.monoStyle = mono;
+    session.overlayFlags.arcAngle = wanted.arcAngle;
+    session.alignmentPoints.savedAxisCenter = wanted.axisCenter;
+    session.alignmentPoints.savedAxisRadius = wanted.axisRadius;
+    session.alignmentPoints.polarisTarget = wanted.arcCenter;
+    session.monitorPositions.starACurrent = wanted.starA;
+    session.monitorPositions.starBCurrent = wanted.starB;
+    session.monitorPositions.poleCurrent = wanted.pole;
+    session.monitorPositions.poleValid = true;
     QImage picture = sky();
-    paintOverlay(picture, currentMarks());
+    paintOverlay(picture, marksOf(session));
     QVERIFY(picture == drawn(wanted));
     QCOMPARE(picture == sky(), mark == "none");
 }
 
-void TestOverlay::poleIsLeftOutWhileThereIsNone()
+void OverlayTest::poleIsLeftOutWhileThereIsNone()
 {
-    overlayFlags.showPoleRect = true;
-    overlayFlags.showMonitorCross = true;
-    monitorPositions.poleValid = false;
-    QVERIFY(!currentMarks().showPoleRect);
-    QVERIFY(currentMarks().showMonitorCross);
-    monitorPositions.poleValid = true;
-    QVERIFY(currentMarks().showPoleRect);
+    Session session;
+    session.overlayFlags.showPoleRect = true;
+    session.overlayFlags.showMonitorCross = true;
+    session.monitorPositions.poleValid = false;
+    QVERIFY(!marksOf(session).showPoleRect);
+    QVERIFY(marksOf(session).showMonitorCross);
+    session.monitorPositions.poleValid = true;
+    QVERIFY(marksOf(session).showPoleRect);
 }
 
-QTEST_GUILESS_MAIN(TestOverlay)
+QTEST_GUILESS_MAIN(OverlayTest)
 #include "tst_overlay.moc"

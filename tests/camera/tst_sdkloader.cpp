@@ -34,7 +34,7 @@ bool put(File file, const QString &folder)
 
 Q_DECLARE_METATYPE(File)
 
-class TestSdkLoader : public QObject
+class SdkLoaderTest : public QObject
 {
     Q_OBJECT
 
@@ -45,7 +45,7 @@ private slots:
     void search();
 };
 
-void TestSdkLoader::folders_data()
+void SdkLoaderTest::folders_data()
 {
     QTest::addColumn<QString>("application");
     QTest::addColumn<QString>("privateFolder");
@@ -57,7 +57,7 @@ void TestSdkLoader::folders_data()
                                  << "/lib/quorvandel/" + soname;
 }
 
-void TestSdkLoader::folders()
+void SdkLoaderTest::folders()
 {
     QFETCH(QString, application);
     QFETCH(QString, privateFolder);
@@ -69,7 +69,7 @@ void TestSdkLoader::folders()
     QVERIFY(names.contains(system));
 }
 
-void TestSdkLoader::search_data()
+void SdkLoaderTest::search_data()
 {
     QTest::addColumn<File>("onPath");
     QTest::addColumn<File>("inLib");
@@ -106,7 +106,7 @@ void TestSdkLoader::search_data()
                             << "the camera library can not be loaded: " + soname;
 }
 
-void TestSdkLoader::search()
+void SdkLoaderTest::search()
 {
     QFETCH(File, onPath);
     QFETCH(File, inLib);
@@ -157,5 +157,5 @@ void TestSdkLoader::search()
                  qPrintable(critical.join('\n')));
 }
 
-QTEST_GUILESS_MAIN(TestSdkLoader)
+QTEST_GUILESS_MAIN(SdkLoaderTest)
 #include "tst_sdkloader.moc"

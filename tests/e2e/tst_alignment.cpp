@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Does a person who follows the instructions end with an aligned mount?
 #include "app/stylesheet.h"
-#include "dialogs/settingsfile.h"
-#include "mainwindow/mainwindow.h"
+#include "core/settingsfile.h"
 #include "resources/resources.h"
+#include "tests/support/sessionwindow.h"
 #include "tools/tour/person.h"
 
 #include <QApplication>
@@ -48,7 +48,7 @@ double median(std::vector<double> values)
 }
 } // namespace
 
-class TestAlignment : public QObject
+class AlignmentTest : public QObject
 {
     Q_OBJECT
 
@@ -59,12 +59,12 @@ private slots:
     void cleanupTestCase();
 
 private:
-    double run(MainWindow &window, Knobs &knobs, const Person::Options &options);
+    double run(SessionWindow &window, Knobs &knobs, const Person::Options &options);
 
     std::vector<Result> results;
 };
 
-void TestAlignment::initTestCase()
+void AlignmentTest::initTestCase()
 {
     // Beside the executable, as the settings file: runs of other builds have their own.
     qputenv("QUORVANDEL_SKY", (QCoreApplication::applicationDirPath() + "/sky.ini").toUtf8());
@@ -72,7 +72,7 @@ void TestAlignment::initTestCase()
     applyStyleSheet(*qApp, ":/qss/default.qss");
 }
 
-void TestAlignment::aligns_data()
+void AlignmentTest::aligns_data()
 {
     QTest::addColumn<QString>("date");
     QTest::addColumn<bool>("south");
@@ -93,14 +93,14 @@ void TestAlignment::aligns_data()
                     }
 }
 
-double TestAlignment::run(MainWindow &window, Knobs &knobs, const Person::Options &options)
+double AlignmentTest::run(SessionWindow &window, Knobs &knobs, const Person::Options &options)
 {
-    Person person(window, knobs, options, 20240523);
+    Person person(window, window.ownSession, knobs, options, 20240523);
     person.align();
     return knobs.poleError();
 }
 
-void TestAlignment::aligns()
+void AlignmentTest::aligns()
 {
     QFETCH(QString, date);
     QFETCH(bool, south);
@@ -129,7 +129,7 @@ void TestAlignment::aligns()
     options.mono = mono;
     try {
         if (reuse) { // an earlier night on which the axis was found
-            MainWindow earlier;
+            SessionWindow earlier;
             earlier.resize(1280, 800);
             earlier.show();
             run(earlier, knobs, options);
@@ -137,7 +137,7 @@ void TestAlignment::aligns()
             knobs.turnBoltsTo(startOff, -startOff);
             options.reuseSavedAxis = true;
         }
-        MainWindow window;
+        SessionWindow window;
         window.resize(1280, 800);
         window.show();
         const double before = knobs.poleError();
@@ -152,7 +152,7 @@ void TestAlignment::aligns()
 }
 
 /// Prints the tables and holds the median.
-void TestAlignment::cleanupTestCase()
+void AlignmentTest::cleanupTestCase()
 {
     for (const QString date : {"2024-05-23", "2026-11-20"}) {
         std::vector<double> errors;
@@ -177,5 +177,5 @@ void TestAlignment::cleanupTestCase()
     QFile::remove(settingsFilePath());
 }
 
-QTEST_MAIN(TestAlignment)
+QTEST_MAIN(AlignmentTest)
 #include "tst_alignment.moc"

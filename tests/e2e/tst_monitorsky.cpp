@@ -2,10 +2,9 @@
 // Does monitor mode follow the real stars: lost and found again, behind clouds, with the axis
 // turned, both in one column?
 #include "app/stylesheet.h"
-#include "camera/sharedstate.h"
-#include "dialogs/settingsfile.h"
-#include "mainwindow/mainwindow.h"
+#include "core/settingsfile.h"
 #include "resources/resources.h"
+#include "tests/support/sessionwindow.h"
 #include "tools/tour/person.h"
 
 #include <QApplication>
@@ -67,11 +66,12 @@ private:
     bool areStarsFollowed() const;
     void turnAxis(int degrees);
     int dialFor(int degrees) const;
+    const MonitorPositions &positions() const { return window->ownSession.monitorPositions; }
 
     bool monitorsSouth = false;
     virtualsky::SkyState atStart;
     std::unique_ptr<Knobs> knobs;
-    std::unique_ptr<MainWindow> window;
+    std::unique_ptr<SessionWindow> window;
 };
 
 void MonitorSkyTest::initTestCase_data()
@@ -95,7 +95,7 @@ void MonitorSkyTest::monitor(bool south)
 {
     if (window)
         window->close();
-    window.reset(); // with its capture thread, before the next one takes the buffers
+    window.reset(); // with its capture thread, before the sky changes
     virtualsky::SkyState sky;
     sky.latitude = south ? -34.0 : 40.0;
     sky.longitude = south ? 149.0 : 116.0;
@@ -107,12 +107,12 @@ void MonitorSkyTest::monitor(bool south)
     sky.unthrottled = true;
     QFile::remove(settingsFilePath());
     knobs = std::make_unique<Knobs>(qEnvironmentVariable("QUORVANDEL_SKY").toStdString(), sky);
-    window = std::make_unique<MainWindow>();
+    window = std::make_unique<SessionWindow>();
     window->resize(1280, 800);
     window->show();
     Person::Options options;
     options.south = south;
-    Person person(*window, *knobs, options, 1);
+    Person person(*window, window->ownSession, *knobs, options, 1);
     person.connectCamera();
     person.prepare();
     person.setExposure();
@@ -141,14 +141,14 @@ void MonitorSkyTest::init()
 
 bool MonitorSkyTest::areStarsFollowed() const
 {
-    return distance(monitorPositions.starACurrent, knobs->starA()) < starTolerance &&
-           distance(monitorPositions.starBCurrent, knobs->starB()) < starTolerance;
+    return distance(positions().starACurrent, knobs->starA()) < starTolerance &&
+           distance(positions().starBCurrent, knobs->starB()) < starTolerance;
 }
 
 bool MonitorSkyTest::isFollowed() const
 {
-    return areStarsFollowed() && monitorPositions.poleValid &&
-           distance(monitorPositions.poleCurrent, knobs->pole()) < poleTolerance;
+    return areStarsFollowed() && positions().poleValid &&
+           distance(positions().poleCurrent, knobs->pole()) < poleTolerance;
 }
 
 void MonitorSkyTest::starsAreFound()
@@ -162,16 +162,16 @@ void MonitorSkyTest::starsAreFound()
 /// The bolts take the stars out of their windows and back.
 void MonitorSkyTest::lostAndFoundAgain()
 {
-    const QPointF searchB = monitorPositions.starBSearch;
+    const QPointF searchB = positions().starBSearch;
     knobs->nudgeStarB({55, 30});
     QVERIFY(distance(knobs->starB(), searchB) > 2 * searchHalf);
     QVERIFY(QTest::qWaitFor([this] { return !areStarsFollowed(); }, patience));
     for (int look = 0; look < 10; ++look) {
         QTest::qWait(20);
-        QVERIFY(isInWindow(monitorPositions.starACurrent, monitorPositions.starASearch));
-        QVERIFY(isInWindow(monitorPositions.starBCurrent, searchB));
+        QVERIFY(isInWindow(positions().starACurrent, positions().starASearch));
+        QVERIFY(isInWindow(positions().starBCurrent, searchB));
     }
-    QCOMPARE(monitorPositions.starBSearch.load(), searchB);
+    QCOMPARE(positions().starBSearch.load(), searchB);
     knobs->edit() = atStart;
     knobs->write();
     QVERIFY(QTest::qWaitFor([this] { return isFollowed(); }, patience));
@@ -186,8 +186,8 @@ void MonitorSkyTest::cloudsComeAndGo()
     QVERIFY(QTest::qWaitFor([this] { return !areStarsFollowed(); }, patience));
     for (int look = 0; look < 10; ++look) {
         QTest::qWait(20);
-        QVERIFY(isInWindow(monitorPositions.starACurrent, monitorPositions.starASearch));
-        QVERIFY(isInWindow(monitorPositions.starBCurrent, monitorPositions.starBSearch));
+        QVERIFY(isInWindow(positions().starACurrent, positions().starASearch));
+        QVERIFY(isInWindow(positions().starBCurrent, positions().starBSearch));
     }
     knobs->edit().clouds = 0.0;
     knobs->write();
@@ -250,8 +250,8 @@ void MonitorSkyTest::bothInOneColumn()
     QVERIFY(QTest::qWaitFor([this] { return areStarsFollowed(); }, patience));
     for (int look = 0; look < 20; ++look) {
         QTest::qWait(20);
-        if (monitorPositions.poleValid)
-            QVERIFY(distance(monitorPositions.poleCurrent, knobs->pole()) < 2 * poleTolerance);
+        if (positions().poleValid)
+            QVERIFY(distance(positions().poleCurrent, knobs->pole()) < 2 * poleTolerance);
     }
     turnAxis(best + 30);
     QVERIFY(QTest::qWaitFor([this] { return isFollowed(); }, patience));

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Does the tour show its end from near, keep it until a key, and refuse what it does not know?
 #include "app/stylesheet.h"
-#include "dialogs/magnifierwidget.h"
 #include "mainwindow/mainwindow.h"
 #include "resources/resources.h"
 #include "tests/support/patience.h"
@@ -10,6 +9,7 @@
 #include "tools/tour/ending.h"
 #include "tools/tour/person.h"
 #include "tools/tour/touroptions.h"
+#include "widgets/magnifierwidget.h"
 
 #include <QAction>
 #include <QApplication>

@@ -8,7 +8,7 @@
 
 using namespace geometrytest;
 
-class TestAxisCentre : public QObject
+class AxisCentreTest : public QObject
 {
     Q_OBJECT
 
@@ -28,7 +28,7 @@ const QString straight =
     QStringLiteral("critical: Point in a straight line,Can not calculate center of cricle.");
 }
 
-void TestAxisCentre::circle_data()
+void AxisCentreTest::circle_data()
 {
     QTest::addColumn<QVector<double>>("points");
     QTest::addColumn<int>("status");
@@ -63,7 +63,7 @@ void TestAxisCentre::circle_data()
     row("determinant zero", {0, 0, 1e-200, 1e-200, 3e-200, 2e-200}, -1, kept, keptRadius, {});
 }
 
-void TestAxisCentre::circle()
+void AxisCentreTest::circle()
 {
     QFETCH(QVector<double>, points);
     QFETCH(int, status);
@@ -83,7 +83,7 @@ void TestAxisCentre::circle()
     QCOMPARE(logOf(recorder), log);
 }
 
-void TestAxisCentre::notANumber()
+void AxisCentreTest::notANumber()
 {
     const double nan = std::numeric_limits<double>::quiet_NaN();
     double x = 0.0;
@@ -99,7 +99,7 @@ void TestAxisCentre::notANumber()
     QCOMPARE(radius, std::numeric_limits<int>::max());
 }
 
-void TestAxisCentre::turns_data()
+void AxisCentreTest::turns_data()
 {
     QTest::addColumn<double>("degrees");
     QTest::addColumn<QVector<double>>("clockwise");
@@ -111,7 +111,7 @@ void TestAxisCentre::turns_data()
     QTest::newRow("all round") << 360.0 << QVector<double>{101, 50} << QVector<double>{101, 50};
 }
 
-void TestAxisCentre::turns()
+void AxisCentreTest::turns()
 {
     QFETCH(double, degrees);
     QFETCH(QVector<double>, clockwise);
@@ -129,7 +129,7 @@ void TestAxisCentre::turns()
     COMPARE_WITHIN(y, 1.0, 0.0);
 }
 
-void TestAxisCentre::goldenCircles()
+void AxisCentreTest::goldenCircles()
 {
     const auto rows = goldenRows("circle");
     QCOMPARE(rows.size(), 60);
@@ -145,7 +145,7 @@ void TestAxisCentre::goldenCircles()
     }
 }
 
-void TestAxisCentre::goldenTurns()
+void AxisCentreTest::goldenTurns()
 {
     const auto rows = goldenRows("rotate");
     QCOMPARE(rows.size(), 60);
@@ -161,5 +161,5 @@ void TestAxisCentre::goldenTurns()
     }
 }
 
-QTEST_GUILESS_MAIN(TestAxisCentre)
+QTEST_GUILESS_MAIN(AxisCentreTest)
 #include "tst_axiscentre.moc"

@@ -15,7 +15,7 @@
 
 using namespace geometrytest;
 
-class TestGeometryFuzz : public QObject
+class GeometryFuzzTest : public QObject
 {
     Q_OBJECT
 
@@ -96,7 +96,7 @@ cv::Mat anyMatrix(Random &random)
 }
 } // namespace
 
-void TestGeometryFuzz::numbers()
+void GeometryFuzzTest::numbers()
 {
     Random random(3);
     LogRecorder recorder;
@@ -133,7 +133,7 @@ void TestGeometryFuzz::numbers()
     QVERIFY(failures > 1000);
 }
 
-void TestGeometryFuzz::templates()
+void GeometryFuzzTest::templates()
 {
     Random random(4);
     QImage mask(40, 34, QImage::Format_ARGB32);
@@ -172,7 +172,7 @@ void TestGeometryFuzz::templates()
     }
 }
 
-void TestGeometryFuzz::matrices()
+void GeometryFuzzTest::matrices()
 {
     Random random(5);
     LogRecorder recorder;
@@ -202,7 +202,7 @@ void TestGeometryFuzz::matrices()
     QVERIFY2(found > 200, qPrintable(QString::number(found)));
 }
 
-void TestGeometryFuzz::oneFrameOnFourThreads()
+void GeometryFuzzTest::oneFrameOnFourThreads()
 {
     cv::Mat frame(200, 200, CV_8UC1, cv::Scalar(10));
     frame(cv::Rect(98, 99, 3, 3)).setTo(200);
@@ -224,5 +224,5 @@ void TestGeometryFuzz::oneFrameOnFourThreads()
         QCOMPARE(count, 0);
 }
 
-QTEST_GUILESS_MAIN(TestGeometryFuzz)
+QTEST_GUILESS_MAIN(GeometryFuzzTest)
 #include "tst_geometryfuzz.moc"

@@ -13,7 +13,7 @@
 
 #include <limits>
 
-class TestGeometryLibrary : public QObject
+class GeometryLibraryTest : public QObject
 {
     Q_OBJECT
 
@@ -23,7 +23,7 @@ private slots:
     void saturation();
 };
 
-void TestGeometryLibrary::noWidgets()
+void GeometryLibraryTest::noWidgets()
 {
     QFile maps("/proc/self/maps");
     if (!maps.open(QIODevice::ReadOnly))
@@ -33,7 +33,7 @@ void TestGeometryLibrary::noWidgets()
     QVERIFY(!loaded.contains("Qt5Widgets"));
 }
 
-void TestGeometryLibrary::saturation_data()
+void GeometryLibraryTest::saturation_data()
 {
     constexpr double infinity = std::numeric_limits<double>::infinity();
     constexpr int last = std::numeric_limits<int>::max();
@@ -54,12 +54,12 @@ void TestGeometryLibrary::saturation_data()
     QTest::newRow("smallest number") << std::numeric_limits<double>::denorm_min() << 0;
 }
 
-void TestGeometryLibrary::saturation()
+void GeometryLibraryTest::saturation()
 {
     QFETCH(double, value);
     QFETCH(int, expected);
     QCOMPARE(saturatingInt(value), expected);
 }
 
-QTEST_GUILESS_MAIN(TestGeometryLibrary)
+QTEST_GUILESS_MAIN(GeometryLibraryTest)
 #include "tst_geometrylibrary.moc"

@@ -9,7 +9,7 @@
 
 using namespace geometrytest;
 
-class TestMedianWindow : public QObject
+class MedianWindowTest : public QObject
 {
     Q_OBJECT
 
@@ -122,7 +122,7 @@ cv::Mat randomFrame(Random &random, Content content, int type)
 }
 } // namespace
 
-void TestMedianWindow::sameAsWholeFrame_data()
+void MedianWindowTest::sameAsWholeFrame_data()
 {
     QTest::addColumn<int>("content");
     QTest::addColumn<int>("type");
@@ -135,7 +135,7 @@ void TestMedianWindow::sameAsWholeFrame_data()
     QTest::newRow("single counts, grey") << int(SingleCounts) << CV_8UC1;
 }
 
-void TestMedianWindow::sameAsWholeFrame()
+void MedianWindowTest::sameAsWholeFrame()
 {
     QFETCH(int, content);
     QFETCH(int, type);
@@ -168,5 +168,5 @@ void TestMedianWindow::sameAsWholeFrame()
     QVERIFY2(found > 100, qPrintable(QString::number(found)));
 }
 
-QTEST_GUILESS_MAIN(TestMedianWindow)
+QTEST_GUILESS_MAIN(MedianWindowTest)
 #include "tst_medianwindow.moc"

@@ -11,7 +11,7 @@
 
 using namespace geometrytest;
 
-class TestPhotographs : public QObject
+class PhotographsTest : public QObject
 {
     Q_OBJECT
 
@@ -20,7 +20,7 @@ private slots:
     void pole();
 };
 
-void TestPhotographs::pole_data()
+void PhotographsTest::pole_data()
 {
     QTest::addColumn<QString>("hemisphere");
     QTest::addColumn<QPointF>("starA");
@@ -34,7 +34,7 @@ void TestPhotographs::pole_data()
                            << QPointF(699.26, 499.39) << QPointF(763.84, 334.37);
 }
 
-void TestPhotographs::pole()
+void PhotographsTest::pole()
 {
     QFETCH(QString, hemisphere);
     QFETCH(QPointF, starA);
@@ -76,5 +76,5 @@ void TestPhotographs::pole()
     QVERIFY2(worst <= 1.5, qPrintable(QString::number(worst)));
 }
 
-QTEST_GUILESS_MAIN(TestPhotographs)
+QTEST_GUILESS_MAIN(PhotographsTest)
 #include "tst_photographs.moc"

@@ -8,7 +8,7 @@
 
 using namespace geometrytest;
 
-class TestPoleComputation : public QObject
+class PoleComputationTest : public QObject
 {
     Q_OBJECT
 
@@ -28,7 +28,7 @@ namespace
 const double notANumber = std::numeric_limits<double>::quiet_NaN();
 } // namespace
 
-void TestPoleComputation::byReference_data()
+void PoleComputationTest::byReference_data()
 {
     QTest::addColumn<QVector<double>>("in");
     QTest::addColumn<int>("status");
@@ -54,7 +54,7 @@ void TestPoleComputation::byReference_data()
     row("reference not a number", {0, 0, 45, 10, 0, 45, notANumber, 1}, 0, {5, -5}, {});
 }
 
-void TestPoleComputation::byReference()
+void PoleComputationTest::byReference()
 {
     QFETCH(QVector<double>, in);
     QFETCH(int, status);
@@ -69,7 +69,7 @@ void TestPoleComputation::byReference()
     QCOMPARE(logOf(recorder), log);
 }
 
-void TestPoleComputation::byStar_data()
+void PoleComputationTest::byStar_data()
 {
     QTest::addColumn<QVector<double>>("in");
     QTest::addColumn<int>("status");
@@ -92,7 +92,7 @@ void TestPoleComputation::byStar_data()
     row("angle not a number", {0, 0, notANumber, 10, 0, 45, 5, 1, 45}, -1, {0, 0}, failed);
 }
 
-void TestPoleComputation::byStar()
+void PoleComputationTest::byStar()
 {
     QFETCH(QVector<double>, in);
     QFETCH(int, status);
@@ -108,7 +108,7 @@ void TestPoleComputation::byStar()
     QCOMPARE(logOf(recorder), log);
 }
 
-void TestPoleComputation::candidate_data()
+void PoleComputationTest::candidate_data()
 {
     QTest::addColumn<double>("angle");
     QTest::addColumn<bool>("first");
@@ -120,7 +120,7 @@ void TestPoleComputation::candidate_data()
     QTest::newRow("not a number") << notANumber << false;
 }
 
-void TestPoleComputation::candidate()
+void PoleComputationTest::candidate()
 {
     QFETCH(double, angle);
     QFETCH(bool, first);
@@ -136,7 +136,7 @@ void TestPoleComputation::candidate()
     QCOMPARE(y, -3.0);
 }
 
-void TestPoleComputation::goldenByReference()
+void PoleComputationTest::goldenByReference()
 {
     const auto rows = goldenRows("pole");
     QCOMPARE(rows.size(), 120);
@@ -149,7 +149,7 @@ void TestPoleComputation::goldenByReference()
     }
 }
 
-void TestPoleComputation::goldenTemplatePoles()
+void PoleComputationTest::goldenTemplatePoles()
 {
     const auto rows = goldenRows("templatepole");
     QCOMPARE(rows.size(), 18);
@@ -162,5 +162,5 @@ void TestPoleComputation::goldenTemplatePoles()
     }
 }
 
-QTEST_GUILESS_MAIN(TestPoleComputation)
+QTEST_GUILESS_MAIN(PoleComputationTest)
 #include "tst_polecomputation.moc"

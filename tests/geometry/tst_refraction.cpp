@@ -6,7 +6,7 @@
 
 using namespace geometrytest;
 
-class TestRefraction : public QObject
+class RefractionTest : public QObject
 {
     Q_OBJECT
 
@@ -16,7 +16,7 @@ private slots:
     void golden();
 };
 
-void TestRefraction::correction_data()
+void RefractionTest::correction_data()
 {
     QTest::addColumn<double>("h");
     QTest::addColumn<double>("pressure");
@@ -33,7 +33,7 @@ void TestRefraction::correction_data()
     QTest::newRow("horizon") << 0.0 << 101.0 << 10.0 << 34.478 << 1e-3;
 }
 
-void TestRefraction::correction()
+void RefractionTest::correction()
 {
     QFETCH(double, h);
     QFETCH(double, pressure);
@@ -47,7 +47,7 @@ void TestRefraction::correction()
     QCOMPARE(logOf(recorder), QStringList());
 }
 
-void TestRefraction::golden()
+void RefractionTest::golden()
 {
     const auto rows = goldenRows("refraction");
     QCOMPARE(rows.size(), 60);
@@ -58,5 +58,5 @@ void TestRefraction::golden()
     }
 }
 
-QTEST_GUILESS_MAIN(TestRefraction)
+QTEST_GUILESS_MAIN(RefractionTest)
 #include "tst_refraction.moc"

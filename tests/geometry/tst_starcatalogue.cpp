@@ -11,7 +11,7 @@
 
 using namespace geometrytest;
 
-class TestStarCatalogue : public QObject
+class StarCatalogueTest : public QObject
 {
     Q_OBJECT
 
@@ -34,7 +34,7 @@ QString starData(const QString &letter)
 }
 } // namespace
 
-void TestStarCatalogue::epoch_data()
+void StarCatalogueTest::epoch_data()
 {
     QTest::addColumn<QDate>("today");
     QTest::addColumn<int>("year");
@@ -49,7 +49,7 @@ void TestStarCatalogue::epoch_data()
     QTest::newRow("a boundary day after the last") << QDate(2024, 11, 23) << 2024;
 }
 
-void TestStarCatalogue::epoch()
+void StarCatalogueTest::epoch()
 {
     QFETCH(QDate, today);
     QFETCH(int, year);
@@ -63,7 +63,7 @@ void TestStarCatalogue::epoch()
     QCOMPARE(southCatalogue.angleBAP, readStarCatalogue(starData("S"), year).angleBAP);
 }
 
-void TestStarCatalogue::load()
+void StarCatalogueTest::load()
 {
     northCatalogue.templatePoleX = 1.0;
     LogRecorder recorder;
@@ -81,7 +81,7 @@ void TestStarCatalogue::load()
                               227, 405, 228, 563}));
 }
 
-void TestStarCatalogue::golden()
+void StarCatalogueTest::golden()
 {
     const auto rows = goldenRows("templatepole");
     QCOMPARE(rows.size(), 18);
@@ -94,14 +94,14 @@ void TestStarCatalogue::golden()
     }
 }
 
-void TestStarCatalogue::fileForm_data()
+void StarCatalogueTest::fileForm_data()
 {
     QTest::addColumn<QString>("letter");
     QTest::newRow("north") << "N";
     QTest::newRow("south") << "S";
 }
 
-void TestStarCatalogue::fileForm()
+void StarCatalogueTest::fileForm()
 {
     QFETCH(QString, letter);
     QFile file(starData(letter));
@@ -127,7 +127,7 @@ void TestStarCatalogue::fileForm()
     }
 }
 
-void TestStarCatalogue::missingKeys()
+void StarCatalogueTest::missingKeys()
 {
     QTemporaryDir folder;
     QFile file(folder.filePath("stars.ini"));
@@ -145,5 +145,5 @@ void TestStarCatalogue::missingKeys()
     QCOMPARE(logOf(recorder), QStringList());
 }
 
-QTEST_GUILESS_MAIN(TestStarCatalogue)
+QTEST_GUILESS_MAIN(StarCatalogueTest)
 #include "tst_starcatalogue.moc"

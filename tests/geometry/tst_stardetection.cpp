@@ -11,7 +11,7 @@ Q_DECLARE_METATYPE(cv::Mat)
 
 using namespace geometrytest;
 
-class TestStarDetection : public QObject
+class StarDetectionTest : public QObject
 {
     Q_OBJECT
 
@@ -99,7 +99,7 @@ void check(Routine routine)
 }
 } // namespace
 
-void TestStarDetection::centroid_data()
+void StarDetectionTest::centroid_data()
 {
     addColumns();
     const cv::Mat star = draw({10, {{50, 40}}, 200});
@@ -130,12 +130,12 @@ void TestStarDetection::centroid_data()
     row("empty frame", cv::Mat(), {50, 40}, -1, {50, 40}, {centroidOutside});
 }
 
-void TestStarDetection::centroid()
+void StarDetectionTest::centroid()
 {
     check(GetGravityCenter);
 }
 
-void TestStarDetection::precise_data()
+void StarDetectionTest::precise_data()
 {
     addColumns();
     const cv::Mat star = draw({10, {{50, 40}}, 200});
@@ -181,12 +181,12 @@ void TestStarDetection::precise_data()
     row("empty frame", cv::Mat(), {50, 40}, -1, {50, 40}, {preciseOutside});
 }
 
-void TestStarDetection::precise()
+void StarDetectionTest::precise()
 {
     check(GetPreciseStarPos);
 }
 
-void TestStarDetection::nullFrame()
+void StarDetectionTest::nullFrame()
 {
     for (const Routine routine : {GetGravityCenter, GetPreciseStarPos}) {
         double x = -1.0;
@@ -199,7 +199,7 @@ void TestStarDetection::nullFrame()
     }
 }
 
-void TestStarDetection::unusableFrames_data()
+void StarDetectionTest::unusableFrames_data()
 {
     QTest::addColumn<cv::Mat>("frame");
     QTest::addColumn<bool>("saysOutside");
@@ -217,7 +217,7 @@ void TestStarDetection::unusableFrames_data()
     QTest::newRow("too small") << cv::Mat(19, 19, CV_8UC1, light) << true;
 }
 
-void TestStarDetection::unusableFrames()
+void StarDetectionTest::unusableFrames()
 {
     QFETCH(cv::Mat, frame);
     QFETCH(bool, saysOutside);
@@ -234,7 +234,7 @@ void TestStarDetection::unusableFrames()
     }
 }
 
-void TestStarDetection::partOfALargerMatrix()
+void StarDetectionTest::partOfALargerMatrix()
 {
     // White all around, so that a look beyond the frame would show.
     cv::Mat larger(200, 200, CV_8UC1, cv::Scalar(255));
@@ -251,7 +251,7 @@ void TestStarDetection::partOfALargerMatrix()
     QCOMPARE(logOf(recorder), QStringList());
 }
 
-void TestStarDetection::golden()
+void StarDetectionTest::golden()
 {
     const auto rows = goldenRows("starpositions");
     QCOMPARE(rows.size(), 256);
@@ -269,5 +269,5 @@ void TestStarDetection::golden()
     }
 }
 
-QTEST_GUILESS_MAIN(TestStarDetection)
+QTEST_GUILESS_MAIN(StarDetectionTest)
 #include "tst_stardetection.moc"

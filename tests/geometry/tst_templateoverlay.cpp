@@ -9,7 +9,7 @@
 
 using namespace geometrytest;
 
-class TestTemplateOverlay : public QObject
+class TemplateOverlayTest : public QObject
 {
     Q_OBJECT
 
@@ -44,7 +44,7 @@ const QSize north(800, 800);
 const QSize south(800, 674);
 } // namespace
 
-void TestTemplateOverlay::turnedPlace_data()
+void TemplateOverlayTest::turnedPlace_data()
 {
     QTest::addColumn<QSize>("size");
     QTest::addColumn<int>("angle");
@@ -64,7 +64,7 @@ void TestTemplateOverlay::turnedPlace_data()
     QTest::newRow("south, half") << south << 0 << 0.5f << QRect(441, 312, 400, 337);
 }
 
-void TestTemplateOverlay::turnedPlace()
+void TemplateOverlayTest::turnedPlace()
 {
     QFETCH(QSize, size);
     QFETCH(int, angle);
@@ -75,14 +75,14 @@ void TestTemplateOverlay::turnedPlace()
     QCOMPARE(placed.image.size(), geometry.size());
 }
 
-void TestTemplateOverlay::turnedPicture_data()
+void TemplateOverlayTest::turnedPicture_data()
 {
     QTest::addColumn<QSize>("size");
     QTest::newRow("north") << north;
     QTest::newRow("south") << south;
 }
 
-void TestTemplateOverlay::turnedPicture()
+void TemplateOverlayTest::turnedPicture()
 {
     QFETCH(QSize, size);
     const QImage picture = mask(size);
@@ -102,7 +102,7 @@ void TestTemplateOverlay::turnedPicture()
     COMPARE_WITHIN(turnTemplate(mask(north), 45, 1.0f, {640, 480}).image.width(), 1131.4, 2.0);
 }
 
-void TestTemplateOverlay::senseOfTurning()
+void TemplateOverlayTest::senseOfTurning()
 {
     // One spot on the right of the centre comes below it after a quarter turn.
     QImage picture = mask(QSize(101, 101));
@@ -132,7 +132,7 @@ void TestTemplateOverlay::senseOfTurning()
     }
 }
 
-void TestTemplateOverlay::flatPlace_data()
+void TemplateOverlayTest::flatPlace_data()
 {
     QTest::addColumn<QSize>("size");
     QTest::addColumn<float>("zoom");
@@ -151,7 +151,7 @@ void TestTemplateOverlay::flatPlace_data()
         << north << 0.5f << QPointF(0.0, 10.0) << QRect(-200, -195, 400, 400) << QSize(400, 400);
 }
 
-void TestTemplateOverlay::flatPlace()
+void TemplateOverlayTest::flatPlace()
 {
     QFETCH(QSize, size);
     QFETCH(float, zoom);
@@ -163,7 +163,7 @@ void TestTemplateOverlay::flatPlace()
     QCOMPARE(placed.image.size(), picture);
 }
 
-void TestTemplateOverlay::view_data()
+void TemplateOverlayTest::view_data()
 {
     QTest::addColumn<float>("zoom");
     QTest::addColumn<QPointF>("frame");
@@ -179,7 +179,7 @@ void TestTemplateOverlay::view_data()
                                           std::numeric_limits<int>::min());
 }
 
-void TestTemplateOverlay::view()
+void TemplateOverlayTest::view()
 {
     QFETCH(float, zoom);
     QFETCH(QPointF, frame);
@@ -187,7 +187,7 @@ void TestTemplateOverlay::view()
     QCOMPARE(viewPosition(zoom, frame), view);
 }
 
-void TestTemplateOverlay::absurdZoom_data()
+void TemplateOverlayTest::absurdZoom_data()
 {
     QTest::addColumn<float>("zoom");
     QTest::newRow("zero") << 0.0f;
@@ -199,7 +199,7 @@ void TestTemplateOverlay::absurdZoom_data()
     QTest::newRow("just too large") << 5.13f;
 }
 
-void TestTemplateOverlay::absurdZoom()
+void TemplateOverlayTest::absurdZoom()
 {
     QFETCH(float, zoom);
     LogRecorder recorder;
@@ -213,7 +213,7 @@ void TestTemplateOverlay::absurdZoom()
     QCOMPARE(logOf(recorder), QStringList());
 }
 
-void TestTemplateOverlay::extremeClicks()
+void TemplateOverlayTest::extremeClicks()
 {
     constexpr int last = std::numeric_limits<int>::max();
     constexpr int first = std::numeric_limits<int>::min();
@@ -229,7 +229,7 @@ void TestTemplateOverlay::extremeClicks()
     QCOMPARE(turnTemplate(small, -90, 1.0f, {0, 0}).image.size(), QSize(6, 8));
 }
 
-void TestTemplateOverlay::golden()
+void TemplateOverlayTest::golden()
 {
     StarCatalogue catalogues[2];
     for (const auto &[name, v] : goldenRows("templatepole")) {
@@ -260,13 +260,13 @@ void TestTemplateOverlay::golden()
     }
 }
 
-void TestTemplateOverlay::poleOnAxis()
+void TemplateOverlayTest::poleOnAxis()
 {
     const QPointF target = polarisTarget({100.25, 200.5}, {640.125, 480.75}, {640.125, 480.75});
     QVERIFY(target.x() == 100.25 && target.y() == 200.5);
 }
 
-void TestTemplateOverlay::templateOnItself()
+void TemplateOverlayTest::templateOnItself()
 {
     StarCatalogue c;
     c.starAX = 445;
@@ -286,5 +286,5 @@ void TestTemplateOverlay::templateOnItself()
     COMPARE_WITHIN(turned.y(), 70.0, 1e-12);
 }
 
-QTEST_GUILESS_MAIN(TestTemplateOverlay)
+QTEST_GUILESS_MAIN(TemplateOverlayTest)
 #include "tst_templateoverlay.moc"

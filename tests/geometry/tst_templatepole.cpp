@@ -9,7 +9,7 @@
 
 using namespace geometrytest;
 
-class TestTemplatePole : public QObject
+class TemplatePoleTest : public QObject
 {
     Q_OBJECT
 
@@ -49,7 +49,7 @@ QImage blackMask(QImage::Format format)
 }
 } // namespace
 
-void TestTemplatePole::golden_data()
+void TemplatePoleTest::golden_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("log");
@@ -63,7 +63,7 @@ void TestTemplatePole::golden_data()
                                 << "south pole in template";
 }
 
-void TestTemplatePole::golden()
+void TemplatePoleTest::golden()
 {
     QFETCH(QString, name);
     QFETCH(QString, log);
@@ -88,7 +88,7 @@ void TestTemplatePole::golden()
                                                     QString::number(expected[1]))}));
 }
 
-void TestTemplatePole::failure_data()
+void TemplatePoleTest::failure_data()
 {
     QTest::addColumn<double>("angle");
     QTest::addColumn<QString>("hemisphere");
@@ -103,7 +103,7 @@ void TestTemplatePole::failure_data()
                        "critical: Failed to calculate the south pole."};
 }
 
-void TestTemplatePole::failure()
+void TemplatePoleTest::failure()
 {
     QFETCH(double, angle);
     QFETCH(QString, hemisphere);
@@ -120,7 +120,7 @@ void TestTemplatePole::failure()
     QCOMPARE(logOf(recorder), log);
 }
 
-void TestTemplatePole::cross_data()
+void TemplatePoleTest::cross_data()
 {
     QTest::addColumn<int>("format");
     QTest::newRow("with alpha") << int(QImage::Format_ARGB32);
@@ -129,7 +129,7 @@ void TestTemplatePole::cross_data()
     QTest::newRow("colour table") << int(QImage::Format_Indexed8);
 }
 
-void TestTemplatePole::cross()
+void TemplatePoleTest::cross()
 {
     QFETCH(int, format);
     StarCatalogue stars = simpleStars();
@@ -155,7 +155,7 @@ void TestTemplatePole::cross()
     QCOMPARE(mask.pixel(25, 42), mask.pixel(0, 0));
 }
 
-void TestTemplatePole::poleOutsideTheMask()
+void TemplatePoleTest::poleOutsideTheMask()
 {
     StarCatalogue stars = simpleStars();
     QImage small(10, 10, QImage::Format_ARGB32);
@@ -170,5 +170,5 @@ void TestTemplatePole::poleOutsideTheMask()
     QVERIFY(none.isNull());
 }
 
-QTEST_GUILESS_MAIN(TestTemplatePole)
+QTEST_GUILESS_MAIN(TemplatePoleTest)
 #include "tst_templatepole.moc"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Is every text there in every language, finished, with its placeholders, and really translated?
-#include "dialogs/languages.h"
-#include "dialogs/toolkittexts.h"
+#include "core/languages.h"
+#include "core/toolkittexts.h"
 #include "resources/resources.h"
 #include "tests/support/catalogues.h"
 
@@ -60,7 +60,7 @@ const QMap<QString, QSet<QString>> &loanWords()
 }
 } // namespace
 
-class TestCatalogues : public QObject
+class CataloguesTest : public QObject
 {
     Q_OBJECT
 
@@ -80,14 +80,14 @@ private slots:
     void hasTheToolkitsTexts();
 };
 
-void TestCatalogues::isComplete_data()
+void CataloguesTest::isComplete_data()
 {
     QTest::addColumn<int>("number");
     for (std::size_t i = 0; i < languages.size(); ++i)
         QTest::newRow(languages[i].code) << int(i);
 }
 
-void TestCatalogues::isComplete()
+void CataloguesTest::isComplete()
 {
     QFETCH(int, number);
     const auto english = messagesOf(sourceFile(languages.front()));
@@ -102,7 +102,7 @@ void TestCatalogues::isComplete()
     }
 }
 
-void TestCatalogues::keepsPlaceholders()
+void CataloguesTest::keepsPlaceholders()
 {
     QFETCH(int, number);
     for (const Message &m : messagesOf(sourceFile(languages.at(std::size_t(number)))))
@@ -110,14 +110,14 @@ void TestCatalogues::keepsPlaceholders()
 }
 
 /// As many ampersands as the source: none in our own texts, one in some of the toolkit's.
-void TestCatalogues::keepsMnemonics()
+void CataloguesTest::keepsMnemonics()
 {
     QFETCH(int, number);
     for (const Message &m : messagesOf(sourceFile(languages.at(std::size_t(number)))))
         QVERIFY2(m.source.count('&') == m.translation.count('&'), qPrintable(m.translation));
 }
 
-void TestCatalogues::isTranslated()
+void CataloguesTest::isTranslated()
 {
     QFETCH(int, number);
     const Language &language = languages.at(std::size_t(number));
@@ -133,7 +133,7 @@ void TestCatalogues::isTranslated()
     }
 }
 
-void TestCatalogues::isCompiledIn()
+void CataloguesTest::isCompiledIn()
 {
     QFETCH(int, number);
     QTranslator translator;
@@ -141,7 +141,7 @@ void TestCatalogues::isCompiledIn()
     QVERIFY(!translator.isEmpty());
 }
 
-void TestCatalogues::hasTheToolkitsTexts()
+void CataloguesTest::hasTheToolkitsTexts()
 {
     QFETCH(int, number);
     QTranslator translator;
@@ -150,5 +150,5 @@ void TestCatalogues::hasTheToolkitsTexts()
         QVERIFY2(!translator.translate(text.context, text.text).isEmpty(), text.text);
 }
 
-QTEST_MAIN(TestCatalogues)
+QTEST_MAIN(CataloguesTest)
 #include "tst_catalogues.moc"

@@ -3,10 +3,12 @@
 // its dialogs, and does nothing lie over its neighbour? What is measured is also saved as pictures,
 // a folder for each language, for somebody to look at.
 #include "app/stylesheet.h"
-#include "dialogs/languages.h"
-#include "dialogs/magnifierwidget.h"
+#include "core/languages.h"
 #include "resources/resources.h"
 #include "tests/support/mainwindowprobe.h"
+#include "tests/support/sessionwindow.h"
+#include "tests/support/textroom.h"
+#include "widgets/magnifierwidget.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -36,35 +38,6 @@ constexpr bool isSanitized = false;
 #endif
 /// Of a picture's file: little compression, which is quick.
 constexpr int pngQuality = 80;
-
-QString lack(const QWidget &widget, QSize needed, QSize has)
-{
-    if (needed.width() <= has.width() && needed.height() <= has.height())
-        return {};
-    return QStringLiteral("%1 needs %2 x %3 and has %4 x %5")
-        .arg(widget.objectName())
-        .arg(needed.width())
-        .arg(needed.height())
-        .arg(has.width())
-        .arg(has.height());
-}
-
-QString lackOfPlainText(const QWidget &widget)
-{
-    const auto *const label = qobject_cast<const QLabel *>(&widget);
-    const bool isText = (label && !label->text().isEmpty() && !label->text().startsWith('<')) ||
-                        qobject_cast<const QAbstractButton *>(&widget) ||
-                        qobject_cast<const QComboBox *>(&widget);
-    if (!isText)
-        return {};
-    const bool wraps = label && label->wordWrap();
-    // Text may use the line spacing above and below its letters: what counts is the ink.
-    const QFontMetrics metrics(widget.font());
-    const int neededWidth = wraps ? 0 : widget.sizeHint().width();
-    const int neededHeight = wraps ? widget.heightForWidth(widget.width())
-                                   : std::min(widget.sizeHint().height(), metrics.ascent() + 2);
-    return lack(widget, {neededWidth, neededHeight}, widget.size());
-}
 
 /// Where the title of a box lies in it.
 QRect titlePlace(const QGroupBox &box)
@@ -97,7 +70,7 @@ QString lackOfTitle(const QGroupBox &box)
     return {};
 }
 
-/// \param text the longest that the field may have to show
+/// @param text the longest that the field may have to show
 QString lackOfField(const QWidget &field, const QLineEdit &edit, const QString &text)
 {
     QStyleOptionFrame option;
@@ -120,8 +93,8 @@ QString lackOfNumber(const QDoubleSpinBox &box)
     return {};
 }
 
-/// What is missing of the room that a widget's text needs; empty if nothing is.
-QString lackOf(const QWidget &widget)
+/// What is missing of the room that a widget of any kind needs; empty if nothing is.
+QString lackOfAny(const QWidget &widget)
 {
     if (const auto *const box = qobject_cast<const QGroupBox *>(&widget))
         return lackOfTitle(*box);
@@ -130,14 +103,7 @@ QString lackOf(const QWidget &widget)
     const auto *const edit = qobject_cast<const QLineEdit *>(&widget);
     if (edit && !qobject_cast<const QAbstractSpinBox *>(edit->parentWidget()))
         return lackOfField(*edit, *edit, "500"); // the largest number of a slider
-    return lackOfPlainText(widget);
-}
-
-/// Layouts within layouts settle one after the other.
-void settle()
-{
-    for (int i = 0; i < 6; ++i)
-        QCoreApplication::processEvents();
+    return lackOf(widget);
 }
 
 /// What can be seen of a widget, in its window.
@@ -179,12 +145,12 @@ QList<const QWidget *> visibleIn(const QWidget &window)
     return found;
 }
 
-QStringList lacksIn(const QWidget &window)
+QStringList lacksAndOverlapsIn(const QWidget &window)
 {
     QStringList lacks;
     QList<QPair<const QWidget *, QRect>> pieces;
     for (const QWidget *const widget : visibleIn(window)) {
-        if (const QString found = lackOf(*widget); !found.isEmpty())
+        if (const QString found = lackOfAny(*widget); !found.isEmpty())
             lacks.append(found);
         if (isPiece(*widget))
             pieces.append({widget, placeOf(*widget)});
@@ -242,7 +208,7 @@ QStringList lacksOfPage(const MainWindow &window)
 class Pictures
 {
 public:
-    /// \param code of the language; empty: nothing is saved
+    /// @param code of the language; empty: nothing is saved
     explicit Pictures(const QString &code)
     {
         if (code.isEmpty())
@@ -264,7 +230,7 @@ private:
 };
 
 /// What is missing of the room for a menu's entries; the menu is opened for it.
-QStringList lacksIn(QMenu &menu, const Pictures &pictures)
+QStringList lacksAndOverlapsIn(QMenu &menu, const Pictures &pictures)
 {
     QStringList lacks;
     menu.popup({0, 0});
@@ -293,7 +259,7 @@ QStringList lacksIn(QMenu &menu, const Pictures &pictures)
 }
 } // namespace
 
-class TestLanguageFit : public QObject
+class LanguageFitTest : public QObject
 {
     Q_OBJECT
 
@@ -305,13 +271,13 @@ private slots:
     void fitsOnASmallScreen();
 };
 
-void TestLanguageFit::initTestCase()
+void LanguageFitTest::initTestCase()
 {
     initialiseResources();
     applyStyleSheet(*qApp, ":/qss/default.qss");
 }
 
-void TestLanguageFit::fits_data()
+void LanguageFitTest::fits_data()
 {
     QTest::addColumn<int>("number");
     QTest::addColumn<bool>("mono");
@@ -323,12 +289,12 @@ void TestLanguageFit::fits_data()
                     << int(i) << mono << size;
 }
 
-void TestLanguageFit::fits()
+void LanguageFitTest::fits()
 {
     QFETCH(int, number);
     QFETCH(bool, mono);
     QFETCH(QSize, size);
-    MainWindow window;
+    SessionWindow window;
     window.resize(size);
     window.show();
     window.findChild<QAction *>("actionMono_Style")->setChecked(mono);
@@ -342,7 +308,7 @@ void TestLanguageFit::fits()
         for (int step = 1; step <= 13; ++step) {
             probe.switchStep(step);
             settle();
-            const QStringList lacks = lacksIn(window);
+            const QStringList lacks = lacksAndOverlapsIn(window);
             QVERIFY2(lacks.isEmpty(),
                      qPrintable(QStringLiteral("step %1: ").arg(step) + lacks.join("; ")));
             QCOMPARE(panel->horizontalScrollBar()->maximum(), 0);
@@ -354,7 +320,7 @@ void TestLanguageFit::fits()
     auto *const bar = window.findChild<QMenuBar *>("menuBar");
     QVERIFY(bar->sizeHint().width() <= window.width());
     for (QMenu *const menu : bar->findChildren<QMenu *>()) {
-        const QStringList lacks = lacksIn(*menu, pictures);
+        const QStringList lacks = lacksAndOverlapsIn(*menu, pictures);
         QVERIFY2(lacks.isEmpty(), qPrintable(menu->objectName() + ": " + lacks.join("; ")));
     }
     for (QDialog *const dialog : window.findChildren<QDialog *>()) {
@@ -363,12 +329,12 @@ void TestLanguageFit::fits()
         dialog->show();
         settle();
         QVERIFY(pictures.add(*dialog, dialog->objectName()));
-        const QStringList lacks = lacksIn(*dialog);
+        const QStringList lacks = lacksAndOverlapsIn(*dialog);
         QVERIFY2(lacks.isEmpty(), qPrintable(lacks.join("; ")));
     }
 }
 
-void TestLanguageFit::fitsOnASmallScreen_data()
+void LanguageFitTest::fitsOnASmallScreen_data()
 {
     QTest::addColumn<int>("number");
     QTest::addColumn<QSize>("size");
@@ -379,7 +345,7 @@ void TestLanguageFit::fitsOnASmallScreen_data()
 }
 
 /// The page in all steps, with a picture that is larger than its room.
-void TestLanguageFit::fitsOnASmallScreen()
+void LanguageFitTest::fitsOnASmallScreen()
 {
     QFETCH(int, number);
     QFETCH(QSize, size);
@@ -408,5 +374,5 @@ void TestLanguageFit::fitsOnASmallScreen()
     QVERIFY(window.findChild<QMenuBar *>("menuBar")->sizeHint().width() <= window.width());
 }
 
-QTEST_MAIN(TestLanguageFit)
+QTEST_MAIN(LanguageFitTest)
 #include "tst_languagefit.moc"

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 // Does the language change at once, everywhere, and without touching anything else?
-#include "dialogs/languages.h"
-#include "dialogs/settingsfile.h"
+#include "core/languages.h"
+#include "core/settingsfile.h"
 #include "resources/resources.h"
 #include "tests/support/logrecorder.h"
 #include "tests/support/mainwindowprobe.h"
 #include "tests/support/patience.h"
+#include "tests/support/sessionwindow.h"
 
 #include <QApplication>
 #include <QDial>
@@ -56,7 +57,7 @@ private:
 };
 } // namespace
 
-class TestLanguageSwitch : public QObject
+class LanguageSwitchTest : public QObject
 {
     Q_OBJECT
 
@@ -77,9 +78,9 @@ private slots:
     void failedLoadKeepsTheLanguage();
 };
 
-void TestLanguageSwitch::goesThroughAllAndBack()
+void LanguageSwitchTest::goesThroughAllAndBack()
 {
-    MainWindow window;
+    SessionWindow window;
     MainWindowProbe probe(window);
     QList<const Language *> way;
     for (const Language &language : languages)
@@ -100,9 +101,9 @@ void TestLanguageSwitch::goesThroughAllAndBack()
     }
 }
 
-void TestLanguageSwitch::keepsTheWizardsStep()
+void LanguageSwitchTest::keepsTheWizardsStep()
 {
-    MainWindow window;
+    SessionWindow window;
     window.show();
     MainWindowProbe probe(window);
     window.findChild<QAbstractButton *>("radioButton_south")->setChecked(true);
@@ -113,9 +114,9 @@ void TestLanguageSwitch::keepsTheWizardsStep()
     QVERIFY(window.findChild<QLabel *>("label_getEptPolaris_tipMsg")->text().contains("σ Oct"));
 }
 
-void TestLanguageSwitch::keepsShownData()
+void LanguageSwitchTest::keepsShownData()
 {
-    MainWindow window;
+    SessionWindow window;
     window.findChild<QLabel *>("label_axisPos")->setText("(1.5,2.5)");
     window.findChild<QLineEdit *>("lineEditExpose")->setText("321");
     QPixmap picture(10, 10);
@@ -130,9 +131,9 @@ void TestLanguageSwitch::keepsShownData()
     QCOMPARE(window.windowTitle(), QString("Quorvandel - ID:QUORVANDEL-1"));
 }
 
-void TestLanguageSwitch::reachesOpenAndHiddenDialogs()
+void LanguageSwitchTest::reachesOpenAndHiddenDialogs()
 {
-    MainWindow window;
+    SessionWindow window;
     window.show();
     auto *const pressure = window.findChild<QDoubleSpinBox *>("doubleSpinBox_presure");
     auto *const dial = window.findChild<QDial *>("dial_tracking");
@@ -161,7 +162,7 @@ void TestLanguageSwitch::reachesOpenAndHiddenDialogs()
         QVERIFY2(box->isChecked(), qPrintable(box->objectName()));
 }
 
-void TestLanguageSwitch::dialogTexts_data()
+void LanguageSwitchTest::dialogTexts_data()
 {
     QTest::addColumn<QString>("dialog");
     QTest::addColumn<QString>("widget"); ///< empty = the dialog's own title
@@ -189,12 +190,12 @@ void TestLanguageSwitch::dialogTexts_data()
 }
 
 /// French and English again; the dialog has not been shown.
-void TestLanguageSwitch::dialogTexts()
+void LanguageSwitchTest::dialogTexts()
 {
     QFETCH(QString, dialog);
     QFETCH(QString, widget);
     QFETCH(QString, source);
-    MainWindow window;
+    SessionWindow window;
     const auto text = [&] {
         for (const auto *const each : window.findChildren<QDialog *>())
             if (each->metaObject()->className() == dialog)
@@ -213,7 +214,7 @@ void TestLanguageSwitch::dialogTexts()
     QTRY_COMPARE(text(), source);
 }
 
-void TestLanguageSwitch::isToldOnce_data()
+void LanguageSwitchTest::isToldOnce_data()
 {
     QTest::addColumn<QString>("from");
     QTest::addColumn<QString>("to");
@@ -223,11 +224,11 @@ void TestLanguageSwitch::isToldOnce_data()
     }
 }
 
-void TestLanguageSwitch::isToldOnce()
+void LanguageSwitchTest::isToldOnce()
 {
     QFETCH(QString, from);
     QFETCH(QString, to);
-    MainWindow window;
+    SessionWindow window;
     window.findChild<QAction *>(from)->setChecked(true);
     const QSignalSpy changes(&window, SIGNAL(changeLanguage()));
     const QSignalSpy resets(&window, SIGNAL(resetUI()));
@@ -238,7 +239,7 @@ void TestLanguageSwitch::isToldOnce()
     QCOMPARE(log.texts(QtDebugMsg).filter("current language").size(), 1);
 }
 
-void TestLanguageSwitch::isToldAtStart_data()
+void LanguageSwitchTest::isToldAtStart_data()
 {
     QTest::addColumn<int>("times");
     for (const Language &language : languages)
@@ -248,13 +249,13 @@ void TestLanguageSwitch::isToldAtStart_data()
 
 /// The start announces the language by itself; checking another action than English, which is
 /// checked from the first, announces it besides.
-void TestLanguageSwitch::isToldAtStart()
+void LanguageSwitchTest::isToldAtStart()
 {
     QFETCH(int, times);
     const QByteArray code = QTest::currentDataTag();
     const LanguageSetting setting(code);
     const LogRecorder log;
-    MainWindow window;
+    SessionWindow window;
     const QStringList told = log.texts(QtDebugMsg).filter("current language");
     QCOMPARE(told.size(), times);
     QCOMPARE(told.count("current language \"" + code + '"'), times);
@@ -262,16 +263,16 @@ void TestLanguageSwitch::isToldAtStart()
              in(languageOf(code), "MainWindow", "File"));
 }
 
-void TestLanguageSwitch::choosingTheCheckedLanguageDoesNothing()
+void LanguageSwitchTest::choosingTheCheckedLanguageDoesNothing()
 {
-    MainWindow window;
+    SessionWindow window;
     window.findChild<QAction *>("actionItalian")->setChecked(true);
     LogRecorder log;
     window.findChild<QAction *>("actionItalian")->trigger();
     QVERIFY(log.lines().isEmpty());
 }
 
-void TestLanguageSwitch::takesUnknownCodesForEnglish()
+void LanguageSwitchTest::takesUnknownCodesForEnglish()
 {
     for (const char *const code : {"", "XX", "zh", "de", "EN ", "ENGLISH"})
         QCOMPARE(languageOf(code).code, "EN");
@@ -280,11 +281,11 @@ void TestLanguageSwitch::takesUnknownCodesForEnglish()
 }
 
 /// Nothing is installed, retranslated or reported when a catalogue does not load.
-void TestLanguageSwitch::failedLoadKeepsTheLanguage()
+void LanguageSwitchTest::failedLoadKeepsTheLanguage()
 {
     QTranslator translator;
     QVERIFY(!translator.load(":/languages/lan_xx_xx.qm", "", "", ""));
-    MainWindow window;
+    SessionWindow window;
     window.findChild<QAction *>("actionSpanish")->setChecked(true);
     const QString spanish = window.findChild<QMenu *>("menuFile")->title();
     QVERIFY(spanish != "File");
@@ -299,5 +300,5 @@ void TestLanguageSwitch::failedLoadKeepsTheLanguage()
     QCOMPARE(log.lines().first().text, QString("current language \"KO\""));
 }
 
-QTEST_MAIN(TestLanguageSwitch)
+QTEST_MAIN(LanguageSwitchTest)
 #include "tst_languageswitch.moc"

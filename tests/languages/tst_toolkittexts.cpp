@@ -2,7 +2,7 @@
 // Is any text of the toolkit's left in English: in the context menus, in the file dialog, in the
 // boxes?
 #include "camera/camerastate.h"
-#include "dialogs/languages.h"
+#include "core/languages.h"
 #include "resources/resources.h"
 #include "tests/support/mainwindowprobe.h"
 #include "tests/support/toolkitwalk.h"

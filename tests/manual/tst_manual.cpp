@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Is the manual found, does the menu open it, and are its pages whole?
-#include "dialogs/manual.h"
-#include "mainwindow/mainwindow.h"
+#include "core/manual.h"
 #include "resources/resources.h"
 #include "tests/support/logrecorder.h"
+#include "tests/support/sessionwindow.h"
 
 #include <QAction>
 #include <QDesktopServices>
@@ -186,7 +186,7 @@ void ManualTest::ofThisBuild()
 
 void ManualTest::fromTheMenu()
 {
-    MainWindow window;
+    SessionWindow window;
     const QUrl expected = manualUrl("EN");
     if (!expected.isLocalFile())
         QSKIP("the build folder lies outside the source tree");
@@ -252,7 +252,7 @@ void ManualTest::tellsOfEveryShortcut_data()
 void ManualTest::tellsOfEveryShortcut()
 {
     QFETCH(QString, language);
-    const MainWindow window;
+    const SessionWindow window;
     QStringList inTheMenus, told;
     for (const QAction *const action : window.findChildren<QAction *>())
         if (action->isVisible() && !action->shortcut().isEmpty())

@@ -2,19 +2,12 @@
 // How does a window behave whose camera library fails? What the tests of that share.
 #pragma once
 
-#include "camera/camerastate.h"
-#include "tests/camera/camerawindow.h"
+#include "tests/window/camerawindow.h"
 
 #include <QLabel>
 #include <QSlider>
 
 constexpr std::uint32_t sdkError = 0xFFFFFFFFu;
-
-inline Box errorBox(const char *operation)
-{
-    return okBox(QMessageBox::Critical, "Error",
-                 QStringLiteral("Can not connect Quorvandel as %1 error!").arg(operation));
-}
 
 inline void giveGoodFrames()
 {
@@ -49,11 +42,11 @@ inline void moveControls(const CameraWindow &w)
 /// Connects, sees a picture and disconnects, as if nothing had been.
 inline bool worksAgain(const CameraWindow &w)
 {
-    if (cameraState.cameraConnected) // after a refused closing, for example
+    if (w.session().camera.cameraConnected) // after a refused closing, for example
         w.trigger("actionConnect");
     giveGoodFrames();
     w.trigger("actionConnect");
-    const bool live = cameraState.cameraConnected && newPicture(w);
+    const bool live = w.session().camera.cameraConnected && newPicture(w);
     w.trigger("actionConnect");
-    return live && !cameraState.cameraConnected;
+    return live && !w.session().camera.cameraConnected;
 }

@@ -2,7 +2,7 @@
 // What lies in the settings file's place, and beside it?
 #pragma once
 
-#include "dialogs/settingsfile.h"
+#include "core/settingsfile.h"
 #include "tests/support/ordinaryuser.h"
 
 #include <QCoreApplication>

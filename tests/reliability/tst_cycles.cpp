@@ -65,7 +65,7 @@ void CyclesTest::connections()
         }
         QVERIFY(w.connectCamera());
         w.toggleConnection();
-        QVERIFY(!cameraState.cameraConnected);
+        QVERIFY(!w.session().camera.cameraConnected);
     }
     // The capture thread ends by itself.
     QTRY_VERIFY(noMore(heldWith(w.window.get()), before));

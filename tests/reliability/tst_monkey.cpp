@@ -241,7 +241,7 @@ void Monkey::failOperations()
 /// Chance alone seldom finds the way to the later steps.
 void Monkey::enterStep()
 {
-    if (cameraState.cameraConnected)
+    if (w.session().camera.cameraConnected)
         MainWindowProbe(*w.window).switchStep(1 + below(wizardStepCount));
 }
 
@@ -289,7 +289,7 @@ void MonkeyTest::hammered()
             std::printf("%5d %s\n", kind.value(), qPrintable(kind.key()));
         std::printf("%d actions, %d boxes answered, %d pages not opened\n", actions, monkey.boxes,
                     pages);
-        if (cameraState.cameraConnected)
+        if (w.session().camera.cameraConnected)
             w.toggleConnection();
         // An initialisation that was made to fail is tried again by a new window alone.
         w.window->close();
@@ -299,7 +299,7 @@ void MonkeyTest::hammered()
     QVERIFY(actions > 0);
     QVERIFY(w.connectCamera());
     w.toggleConnection();
-    QVERIFY(!cameraState.cameraConnected);
+    QVERIFY(!w.session().camera.cameraConnected);
     QTRY_COMPARE(named<QLabel>(*w.window, "fpsLabel").text(), QString("FPS : 0.0"));
 }
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Is the settings file whole, whenever the process that writes it is killed?
-#include "dialogs/settingsfile.h"
+#include "core/settingsfile.h"
 
 #include <QDir>
 #include <QElapsedTimer>

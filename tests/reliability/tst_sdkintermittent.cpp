@@ -40,7 +40,7 @@ bool pictureComes(const CameraWindow &w)
 } // namespace
 Q_DECLARE_METATYPE(Calls)
 
-class SdkIntermittent : public QObject
+class SdkIntermittentTest : public QObject
 {
     Q_OBJECT
 
@@ -59,7 +59,7 @@ private slots:
     void bogusFramesBetweenGoodOnes();
 };
 
-void SdkIntermittent::parameters_data()
+void SdkIntermittentTest::parameters_data()
 {
     QTest::addColumn<Calls>("failing");
     for (int n = 1; n <= 6; ++n)
@@ -70,7 +70,7 @@ void SdkIntermittent::parameters_data()
 
 /// Two parameters are set by Connect and four by the sliders: a call that fails changes nothing
 /// about the next, and what was asked for stays shown.
-void SdkIntermittent::parameters()
+void SdkIntermittentTest::parameters()
 {
     QFETCH(Calls, failing);
     const CameraWindow w({}, giveGoodFrames);
@@ -98,7 +98,7 @@ void SdkIntermittent::parameters()
     QCOMPARE(sdkCalls({"SetVELDIXParam"}), calls);
     for (const auto &move : moves) {
         QCOMPARE(w.child<QSlider>(move.slider).value(), move.value);
-        QCOMPARE(cameraState.*move.stored, move.value * move.perUnit);
+        QCOMPARE(w.session().camera.*move.stored, move.value * move.perUnit);
     }
     QStringList lines;
     if (!failing.contains(1))
@@ -112,7 +112,7 @@ void SdkIntermittent::parameters()
     QVERIFY(worksAgain(w));
 }
 
-void SdkIntermittent::opening_data()
+void SdkIntermittentTest::opening_data()
 {
     QTest::addColumn<QString>("operation");
     QTest::addColumn<bool>("hasBox");
@@ -138,7 +138,7 @@ void SdkIntermittent::opening_data()
 }
 
 /// Each Connect comes to what its own calls come to, whatever the one before came to.
-void SdkIntermittent::opening()
+void SdkIntermittentTest::opening()
 {
     QFETCH(QString, operation);
     QFETCH(bool, hasBox);
@@ -152,21 +152,21 @@ void SdkIntermittent::opening()
         const BoxWatcher boxes;
         const LogRecorder log;
         w.trigger("actionConnect");
-        QCOMPARE(bool(cameraState.cameraConnected), connects || !fails);
+        QCOMPARE(bool(w.session().camera.cameraConnected), connects || !fails);
         QCOMPARE(boxes.boxes(),
-                 fails && hasBox ? QList<Box>{errorBox(qPrintable(operation))} : QList<Box>());
+                 fails && hasBox ? QList<Box>{failedBox(qPrintable(operation))} : QList<Box>());
         QTRY_COMPARE(log.texts(QtCriticalMsg), fails ? QStringList(critical) : QStringList());
         if (!fails)
             QVERIFY(pictureComes(w));
-        if (cameraState.cameraConnected)
+        if (w.session().camera.cameraConnected)
             w.trigger("actionConnect");
-        QVERIFY(!cameraState.cameraConnected);
+        QVERIFY(!w.session().camera.cameraConnected);
         QCOMPARE(log.texts(QtCriticalMsg).size(), fails ? 1 : 0);
     }
     QCOMPARE(sdkCalls({operation}).size(), 4);
 }
 
-void SdkIntermittent::closing_data()
+void SdkIntermittentTest::closing_data()
 {
     QTest::addColumn<QString>("operation");
     QTest::addColumn<Calls>("failing");
@@ -180,7 +180,7 @@ void SdkIntermittent::closing_data()
 }
 
 /// A Disconnect whose closing fails leaves the camera connected; the next one tries again.
-void SdkIntermittent::closing()
+void SdkIntermittentTest::closing()
 {
     QFETCH(QString, operation);
     QFETCH(Calls, failing);
@@ -189,13 +189,13 @@ void SdkIntermittent::closing()
     const BoxWatcher boxes;
     const LogRecorder log;
     for (int attempt = 1; attempt <= 5; ++attempt) {
-        if (!cameraState.cameraConnected) {
+        if (!w.session().camera.cameraConnected) {
             w.trigger("actionConnect");
             QVERIFY(pictureComes(w));
         }
         w.trigger("actionConnect");
         const bool staysOpen = operation == "CloseVELDIX" && failing.contains(attempt);
-        QCOMPARE(bool(cameraState.cameraConnected), staysOpen);
+        QCOMPARE(bool(w.session().camera.cameraConnected), staysOpen);
         QCOMPARE(w.child<QAction>("actionConnect").text(),
                  QString(staysOpen ? "Disconnect" : "Connect"));
     }
@@ -207,7 +207,7 @@ void SdkIntermittent::closing()
     QVERIFY(worksAgain(w));
 }
 
-void SdkIntermittent::fetches_data()
+void SdkIntermittentTest::fetches_data()
 {
     QTest::addColumn<Calls>("failing");
     QTest::addColumn<uint>("status");
@@ -220,7 +220,7 @@ void SdkIntermittent::fetches_data()
 }
 
 /// A fetch that fails is a frame that is not there yet: the next one is shown.
-void SdkIntermittent::fetches()
+void SdkIntermittentTest::fetches()
 {
     QFETCH(Calls, failing);
     QFETCH(uint, status);
@@ -240,7 +240,7 @@ void SdkIntermittent::fetches()
     QVERIFY(worksAgain(w));
 }
 
-void SdkIntermittent::bogusFrames_data()
+void SdkIntermittentTest::bogusFrames_data()
 {
     QTest::addColumn<uint>("width");
     QTest::addColumn<uint>("height");
@@ -252,7 +252,7 @@ void SdkIntermittent::bogusFrames_data()
 }
 
 /// As many as are fetched, for a while; the window goes on, and good frames are shown again.
-void SdkIntermittent::bogusFrames()
+void SdkIntermittentTest::bogusFrames()
 {
     QFETCH(uint, width);
     QFETCH(uint, height);
@@ -273,14 +273,14 @@ void SdkIntermittent::bogusFrames()
     QCOMPARE(log.texts(QtCriticalMsg).size(), 1); // however many there were
     giveGoodFrames();
     QVERIFY(pictureComes(w));
-    QVERIFY(cameraState.cameraConnected);
+    QVERIFY(w.session().camera.cameraConnected);
     QCOMPARE(boxes.boxes(), QList<Box>());
     w.trigger("actionConnect");
     QVERIFY(worksAgain(w));
 }
 
 /// Seeded: the same mixture in every run.
-void SdkIntermittent::bogusFramesBetweenGoodOnes()
+void SdkIntermittentTest::bogusFramesBetweenGoodOnes()
 {
     const CameraWindow w({}, giveGoodFrames);
     sdk().setFrameInterval(0);
@@ -308,5 +308,5 @@ void SdkIntermittent::bogusFramesBetweenGoodOnes()
     QVERIFY(worksAgain(w));
 }
 
-QTEST_MAIN(SdkIntermittent)
+QTEST_MAIN(SdkIntermittentTest)
 #include "tst_sdkintermittent.moc"

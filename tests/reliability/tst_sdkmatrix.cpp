@@ -102,13 +102,13 @@ Outcome outcomeOfConnecting(const Fault &fault)
     if (fault.operation == "GetVELDIXId")
         return {false, notFound, {}};
     if (fault.operation == "OpenVELDIX")
-        return {false, errorBox("OpenVELDIX"), "OpenVELDIX failure!"};
+        return {false, failedBox("OpenVELDIX"), "OpenVELDIX failure!"};
     if (fault.operation == "SetVELDIXReadMode" && fault.status == sdkError)
         return {true, {}, "SetVELDIXReadMode 0 Failure"};
     if (fault.operation == "SetVELDIXStreamMode")
         return {false, {}, "SetVELDIXStreamMode 1 Failure"};
     if (fault.operation == "InitVELDIX")
-        return {false, errorBox("InitVELDIX"), "InitVELDIX failure!"};
+        return {false, failedBox("InitVELDIX"), "InitVELDIX failure!"};
     if (fault.operation == "BeginVELDIXLive")
         return {true, {}, "BeginVELDIXLive failure"};
     return {};
@@ -118,7 +118,7 @@ Outcome outcomeOfConnecting(const Fault &fault)
 Q_DECLARE_METATYPE(Fault)
 Q_DECLARE_METATYPE(Moment)
 
-class SdkMatrix : public QObject
+class SdkMatrixTest : public QObject
 {
     Q_OBJECT
 
@@ -135,10 +135,11 @@ private slots:
 
 private:
     void connecting(const CameraWindow &w, const Fault &fault, bool ready);
-    void compareWith(const LogRecorder &log, const BoxWatcher &boxes, const Outcome &outcome);
+    void compareWith(const CameraWindow &w, const LogRecorder &log, const BoxWatcher &boxes,
+                     const Outcome &outcome);
 };
 
-void SdkMatrix::failure_data()
+void SdkMatrixTest::failure_data()
 {
     QTest::addColumn<Fault>("fault");
     QTest::addColumn<Moment>("moment");
@@ -149,17 +150,18 @@ void SdkMatrix::failure_data()
                 << fault << moment;
 }
 
-void SdkMatrix::compareWith(const LogRecorder &log, const BoxWatcher &boxes, const Outcome &outcome)
+void SdkMatrixTest::compareWith(const CameraWindow &w, const LogRecorder &log,
+                                const BoxWatcher &boxes, const Outcome &outcome)
 {
     QCOMPARE(log.texts(QtCriticalMsg), criticalLines(outcome));
     QCOMPARE(boxes.boxes().size(), outcome.box ? 1 : 0);
     if (outcome.box)
         QCOMPARE(boxes.boxes().first(), *outcome.box);
-    QCOMPARE(bool(cameraState.cameraConnected), outcome.connects);
+    QCOMPARE(bool(w.session().camera.cameraConnected), outcome.connects);
 }
 
 /// Chooses Connect under the fault and compares what comes of it.
-void SdkMatrix::connecting(const CameraWindow &w, const Fault &fault, bool ready)
+void SdkMatrixTest::connecting(const CameraWindow &w, const Fault &fault, bool ready)
 {
     const LogRecorder log;
     const BoxWatcher boxes;
@@ -171,10 +173,10 @@ void SdkMatrix::connecting(const CameraWindow &w, const Fault &fault, bool ready
     if (outcome.connects && fault.operation != "BeginVELDIXLive")
         QTRY_VERIFY(sdk().fetchCount() > fetches);
     QTest::qWait(60); // and nothing more is said
-    compareWith(log, boxes, outcome);
+    compareWith(w, log, boxes, outcome);
 }
 
-void SdkMatrix::failure()
+void SdkMatrixTest::failure()
 {
     QFETCH(Fault, fault);
     QFETCH(Moment, moment);
@@ -186,7 +188,7 @@ void SdkMatrix::failure()
             apply(fault);
         giveGoodFrames();
     });
-    QCOMPARE(bool(cameraState.sdkReady), !neverReady);
+    QCOMPARE(bool(w->session().camera.sdkReady), !neverReady);
     if (atStart) {
         connecting(*w, fault, !neverReady);
     } else {
@@ -200,7 +202,7 @@ void SdkMatrix::failure()
             w->window->close();
         else
             w->trigger("actionConnect");
-        compareWith(log, boxes, {staysOpen, {}, {}});
+        compareWith(*w, log, boxes, {staysOpen, {}, {}});
     }
     if (QTest::currentTestFailed())
         return;
@@ -214,7 +216,7 @@ void SdkMatrix::failure()
     QVERIFY(worksAgain(*w));
 }
 
-void SdkMatrix::frame_data()
+void SdkMatrixTest::frame_data()
 {
     QTest::addColumn<uint>("width");
     QTest::addColumn<uint>("height");
@@ -241,7 +243,7 @@ void SdkMatrix::frame_data()
 }
 
 /// Good frames, then strange ones, then good ones again; the mouse and the controls work meanwhile.
-void SdkMatrix::frame()
+void SdkMatrixTest::frame()
 {
     QFETCH(uint, width);
     QFETCH(uint, height);
@@ -273,7 +275,7 @@ void SdkMatrix::frame()
     QVERIFY(worksAgain(w));
 }
 
-void SdkMatrix::id_data()
+void SdkMatrixTest::id_data()
 {
     QTest::addColumn<QByteArray>("id");
     QTest::addColumn<bool>("terminated");
@@ -290,7 +292,7 @@ void SdkMatrix::id_data()
     QTest::newRow("format signs") << QByteArray("QUORVANDEL-%s%n%1") << true << true;
 }
 
-void SdkMatrix::id()
+void SdkMatrixTest::id()
 {
     QFETCH(QByteArray, id);
     QFETCH(bool, terminated);
@@ -302,7 +304,7 @@ void SdkMatrix::id()
     {
         const BoxWatcher boxes;
         w.trigger("actionConnect");
-        QCOMPARE(bool(cameraState.cameraConnected), connects);
+        QCOMPARE(bool(w.session().camera.cameraConnected), connects);
         QCOMPARE(boxes.boxes().size(), connects ? 0 : 1);
         if (connects)
             QVERIFY(newPicture(w));
@@ -311,7 +313,7 @@ void SdkMatrix::id()
     QVERIFY(worksAgain(w));
 }
 
-void SdkMatrix::hangingFetch_data()
+void SdkMatrixTest::hangingFetch_data()
 {
     QTest::addColumn<bool>("disconnects");
     QTest::newRow("nothing is done") << false;
@@ -319,7 +321,7 @@ void SdkMatrix::hangingFetch_data()
 }
 
 /// The window goes on while a fetch hangs; Disconnect waits for it and no longer.
-void SdkMatrix::hangingFetch()
+void SdkMatrixTest::hangingFetch()
 {
     QFETCH(bool, disconnects);
     const CameraWindow w({}, giveGoodFrames);
@@ -342,19 +344,19 @@ void SdkMatrix::hangingFetch()
         const bool waited = released;
         releasing.join();
         QVERIFY(waited);
-        QVERIFY(!cameraState.cameraConnected);
+        QVERIFY(!w.session().camera.cameraConnected);
     } else {
         int ticks = 0;
         QTimer tick;
         connect(&tick, &QTimer::timeout, [&ticks] { ++ticks; });
         tick.start(20);
         QTRY_VERIFY(ticks > 50);
-        QVERIFY(cameraState.cameraConnected);
+        QVERIFY(w.session().camera.cameraConnected);
     }
     QCOMPARE(sdk().fetchCount(), fetches); // it hung all the time, and there was no other
     sdk().releaseFetches();
     QVERIFY(worksAgain(w));
 }
 
-QTEST_MAIN(SdkMatrix)
+QTEST_MAIN(SdkMatrixTest)
 #include "tst_sdkmatrix.moc"

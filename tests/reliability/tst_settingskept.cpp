@@ -2,9 +2,9 @@
 // Is what saving would lose of a settings file kept?
 #include "tests/reliability/settingsplace.h"
 #include "tests/support/reachablecopy.h"
+#include "tests/support/sessionwindow.h"
 #include "tests/window/windowtest.h"
 
-#include "mainwindow/mainwindow.h"
 #include "resources/resources.h"
 #include "tests/support/logrecorder.h"
 
@@ -52,7 +52,7 @@ void SettingsKeptTest::nothingIsLost()
     put(bytes);
     for (int run = 0; run < 2; ++run) {
         const LogRecorder log;
-        MainWindow window;
+        SessionWindow window;
         window.close();
         QCOMPARE(log.texts(QtWarningMsg).filter("is kept in").size(), kept && run == 0 ? 1 : 0);
     }
@@ -70,7 +70,7 @@ void SettingsKeptTest::aSecondOneIsKeptToo()
     const QByteArrayList letters{"first letter\n", "second letter\n", "third letter\n"};
     for (const QByteArray &letter : letters) {
         put(letter);
-        MainWindow window;
+        SessionWindow window;
         window.close();
     }
     QByteArrayList kept;
@@ -87,7 +87,7 @@ void SettingsKeptTest::damagedFileThatCanNotBeWritten()
         const OrdinaryUser user;
         put(letter);
         chmod(settingsFilePath().toLocal8Bit(), 0444);
-        MainWindow window;
+        SessionWindow window;
         window.close();
     }
     QCOMPARE(keptAside(), QStringList());

@@ -2,13 +2,9 @@
 // Does a window come up and work, whatever lies where the settings file belongs?
 #include "tests/reliability/settingsplace.h"
 #include "tests/support/reachablecopy.h"
+#include "tests/support/sessionwindow.h"
 #include "tests/window/windowtest.h"
 
-#include "camera/camerastate.h"
-#include "camera/frames.h"
-#include "camera/locker.h"
-#include "camera/sharedstate.h"
-#include "mainwindow/mainwindow.h"
 #include "resources/resources.h"
 #include "tests/reliability/processcounts.h"
 #include "tests/support/logrecorder.h"
@@ -46,7 +42,7 @@ const QStringList defaults{"Color", "EN", "North", "1",   "39.9", "116.3",
 const QStringList numbers{keys[3], keys[4], keys[5], keys[6], keys[7], keys[10], keys[11]};
 const QStringList texts{keys[0], keys[1], keys[2], keys[9]};
 
-QStringList inForce(MainWindow &window)
+QStringList inForce(SessionWindow &window)
 {
     const MainWindowProbe probe(window);
     const auto number = [](double value) { return QString::number(value, 'g', 6); };
@@ -54,14 +50,14 @@ QStringList inForce(MainWindow &window)
             probe.languageCode(),
             probe.regionName(),
             number(double(probe.zoomFactor())),
-            number(double(refractionSettings.latitude)),
-            number(double(refractionSettings.longitude)),
-            number(double(refractionSettings.P)),
-            number(double(refractionSettings.T)),
-            refractionSettings.enabledCorrect ? "true" : "false",
-            refractionSettings.P_unit,
-            number(alignmentPoints.savedAxisCenter.x),
-            number(alignmentPoints.savedAxisCenter.y)};
+            number(double(window.ownSession.refraction.latitude)),
+            number(double(window.ownSession.refraction.longitude)),
+            number(double(window.ownSession.refraction.P)),
+            number(double(window.ownSession.refraction.T)),
+            window.ownSession.refraction.enabledCorrect ? "true" : "false",
+            window.ownSession.refraction.P_unit,
+            number(window.ownSession.alignmentPoints.savedAxisCenter.x),
+            number(window.ownSession.alignmentPoints.savedAxisCenter.y)};
 }
 
 QStringList stored(const QString &path)
@@ -105,7 +101,7 @@ QString throughBox(const QString &key, const QString &number)
 }
 
 /// Works a window as far as a person might who has not connected: pictures, template, style.
-void work(MainWindow &window)
+void work(SessionWindow &window)
 {
     window.resize(1600, 1100);
     window.show();
@@ -113,17 +109,10 @@ void work(MainWindow &window)
         qFatal("the window does not come up");
     QImage picture(1280, 960, QImage::Format_RGB888);
     picture.fill(Qt::blue);
-    {
-        const Locker lock(frameMutex);
-        frameQueue = {picture};
-    }
+    window.ownSession.frameQueue.append(picture);
     MainWindowProbe probe(window);
     probe.switchStep(2);
-    const auto isTaken = [] {
-        const Locker lock(frameMutex);
-        return frameQueue.isEmpty();
-    };
-    if (!comesTrue(isTaken))
+    if (!comesTrue([&window] { return window.ownSession.frameQueue.isEmpty(); }))
         qFatal("the picture is not taken");
     QTest::mouseDClick(&named<QLabel>(window, "label_showImg"), Qt::LeftButton, {}, QPoint(0, 0));
     for (const int angle : {90, 359, 0})
@@ -134,7 +123,7 @@ void work(MainWindow &window)
 }
 } // namespace
 
-class SettingsMatrix : public QObject
+class SettingsMatrixTest : public QObject
 {
     Q_OBJECT
 
@@ -150,13 +139,13 @@ private slots:
     void rubbish();
 };
 
-void SettingsMatrix::initTestCase()
+void SettingsMatrixTest::initTestCase()
 {
     initialiseResources();
     QVERIFY(givePlaceAway());
 }
 
-void SettingsMatrix::content_data()
+void SettingsMatrixTest::content_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QStringList>("expected");
@@ -232,12 +221,12 @@ void SettingsMatrix::content_data()
                 << defaults;
 }
 
-void SettingsMatrix::content()
+void SettingsMatrixTest::content()
 {
     QFETCH(QByteArray, bytes);
     QFETCH(QStringList, expected);
     put(bytes);
-    MainWindow window;
+    SessionWindow window;
     QCOMPARE(inForce(window), expected);
     work(window);
     QCOMPARE(inForce(window), expected);
@@ -260,7 +249,7 @@ Q_DECLARE_METATYPE(Arrange)
 Q_DECLARE_METATYPE(After)
 
 /// What else than a file of ours may lie there, or in what kind of folder.
-void SettingsMatrix::place_data()
+void SettingsMatrixTest::place_data()
 {
     QTest::addColumn<Arrange>("arrange");
     QTest::addColumn<QString>("style"); // that is read
@@ -301,7 +290,7 @@ void SettingsMatrix::place_data()
         QTest::newRow(row.name) << row.arrange << QString(row.style) << row.after;
 }
 
-void SettingsMatrix::place()
+void SettingsMatrixTest::place()
 {
     QFETCH(Arrange, arrange);
     QFETCH(QString, style);
@@ -309,7 +298,7 @@ void SettingsMatrix::place()
     {
         const OrdinaryUser user;
         arrange();
-        MainWindow window;
+        SessionWindow window;
         QCOMPARE(MainWindowProbe(window).styleName(), style);
         work(window);
         named<QAction>(window, "actionMono_Style").toggle(); // what is saved is not what was read
@@ -330,11 +319,11 @@ void SettingsMatrix::place()
 }
 
 /// Neither read nor waited for, and no memory is used for it; one line in the log says so.
-void SettingsMatrix::hugeFile()
+void SettingsMatrixTest::hugeFile()
 {
     const auto peakOfOneWindow = [] {
         forgetPeakMemory();
-        MainWindow window;
+        SessionWindow window;
         work(window);
         window.close();
         return peakMemory();
@@ -364,7 +353,7 @@ void SettingsMatrix::hugeFile()
 }
 
 /// Seeded: the same rows in every run.
-void SettingsMatrix::rubbish_data()
+void SettingsMatrixTest::rubbish_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     std::mt19937 random(20240523);
@@ -386,26 +375,26 @@ void SettingsMatrix::rubbish_data()
     }
 }
 
-void SettingsMatrix::rubbish()
+void SettingsMatrixTest::rubbish()
 {
     QFETCH(QByteArray, bytes);
     put(bytes);
     QStringList before;
     {
-        MainWindow window;
+        SessionWindow window;
         before = inForce(window);
         work(window);
         QCOMPARE(inForce(window), before);
         window.close();
     }
-    const MainWindow again;
-    QCOMPARE(inForce(const_cast<MainWindow &>(again)), before);
+    SessionWindow again;
+    QCOMPARE(inForce(again), before);
 }
 
 int main(int argc, char *argv[])
 {
     if (const auto status = statusOfCopy(argv))
         return *status;
-    QTEST_MAIN_IMPL(SettingsMatrix)
+    QTEST_MAIN_IMPL(SettingsMatrixTest)
 }
 #include "tst_settingsmatrix.moc"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Does a signal end the program also while a box, a dialog or a menu waits for an answer?
 #include "app/terminationsignals.h"
-#include "mainwindow/mainwindow.h"
 #include "resources/resources.h"
 #include "tests/support/patience.h"
+#include "tests/support/sessionwindow.h"
 #include "tests/window/windowtest.h"
 
 #include <QFileDialog>
@@ -52,7 +52,7 @@ void SignalDialogsTest::endsWhileWaiting()
     removeSettings();
     bool stillAsked = false;
     {
-        MainWindow window;
+        SessionWindow window;
         const TerminationSignals closing(window);
         window.show();
         QTimer::singleShot(50, &window, [&] {

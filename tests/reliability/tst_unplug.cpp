@@ -3,6 +3,7 @@
 #include "tests/reliability/virtualwindow.h"
 
 #include "mainwindow/wizardtable.h"
+#include "tests/support/boxwatcher.h"
 #include "tests/support/mainwindowprobe.h"
 
 #include <QtTest>
@@ -54,7 +55,7 @@ void UnplugTest::unplugged()
     QFETCH(int, step);
     QFETCH(Then, then);
     VirtualWindow w;
-    BoxAnswerer boxes(QMessageBox::Ok);
+    const BoxWatcher boxes(QMessageBox::Ok);
     QVERIFY(w.connectCamera());
     MainWindowProbe(*w.window).switchStep(step);
     QVERIFY(w.hasNewPicture());
@@ -63,29 +64,29 @@ void UnplugTest::unplugged()
     // The frame under way and those that wait are still shown.
     QTRY_VERIFY(!w.hasNewPicture(500));
     QCOMPARE(w.window->step(), step);
-    QVERIFY(cameraState.cameraConnected);
+    QVERIFY(w.session().camera.cameraConnected);
     useControls(w);
-    const int boxesOfControls = boxes.seen.count; // a double click may find no star
+    const int boxesOfControls = boxes.boxes().size(); // a double click may find no star
 
     switch (then) {
     case Then::PlugIn:
         w.plug(true);
         QVERIFY(w.hasNewPicture());
-        QVERIFY(cameraState.cameraConnected);
+        QVERIFY(w.session().camera.cameraConnected);
         break;
     case Then::Reconnect:
         w.toggleConnection();
-        QVERIFY(!cameraState.cameraConnected);
+        QVERIFY(!w.session().camera.cameraConnected);
         w.toggleConnection();
-        QVERIFY(!cameraState.cameraConnected);
-        QCOMPARE(boxes.seen.count, boxesOfControls + 1);
+        QVERIFY(!w.session().camera.cameraConnected);
+        QCOMPARE(boxes.boxes().size(), boxesOfControls + 1);
         w.plug(true);
         QVERIFY(w.connectCamera());
         QCOMPARE(w.window->step(), 1);
         break;
     case Then::CloseWindow:
         QVERIFY(w.window->close());
-        QVERIFY(!cameraState.cameraConnected);
+        QVERIFY(!w.session().camera.cameraConnected);
         QVERIFY(QFile::exists(settingsFilePath()));
         break;
     }

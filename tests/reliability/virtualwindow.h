@@ -2,10 +2,9 @@
 // The program's window on the virtual camera, whose faults the test sets.
 #pragma once
 
-#include "camera/camerastate.h"
-#include "mainwindow/mainwindow.h"
 #include "resources/resources.h"
 #include "tests/support/patience.h"
+#include "tests/support/sessionwindow.h"
 #include "tests/window/windowtest.h"
 #include "tools/tour/knobs.h"
 
@@ -40,12 +39,14 @@ public:
 
     void open()
     {
-        window = std::make_unique<MainWindow>();
+        window = std::make_unique<SessionWindow>();
         window->resize(1600, 1100);
         window->show();
         if (!QTest::qWaitForWindowExposed(window.get(), patience))
             qFatal("the window does not come up");
     }
+
+    Session &session() const { return window->ownSession; }
 
     void toggleConnection() const { named<QAction>(*window, "actionConnect").trigger(); }
 
@@ -53,7 +54,7 @@ public:
     bool connectCamera() const
     {
         toggleConnection();
-        if (!cameraState.cameraConnected)
+        if (!session().camera.cameraConnected)
             return false;
         named<QSlider>(*window, "sliderExpose").setValue(1);
         return hasNewPicture();
@@ -80,5 +81,5 @@ public:
     }
 
     Knobs sky;
-    std::unique_ptr<MainWindow> window;
+    std::unique_ptr<SessionWindow> window;
 };

@@ -98,7 +98,7 @@ QString styleSheet()
 }
 } // namespace
 
-class TestResources : public QObject
+class ResourcesTest : public QObject
 {
     Q_OBJECT
 
@@ -122,13 +122,13 @@ private slots:
     void styleSheetNamesEveryKind();
 };
 
-void TestResources::initTestCase()
+void ResourcesTest::initTestCase()
 {
     initialiseResources();
     initialiseResources(); // a second call is harmless
 }
 
-void TestResources::images_data()
+void ResourcesTest::images_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QSize>("size");
@@ -161,7 +161,7 @@ void TestResources::images_data()
     }
 }
 
-void TestResources::images()
+void ResourcesTest::images()
 {
     QFETCH(QString, name);
     QFETCH(QSize, size);
@@ -178,7 +178,7 @@ void TestResources::images()
     QVERIFY2(drawn, "the picture is empty");
 }
 
-void TestResources::icon()
+void ResourcesTest::icon()
 {
     QVERIFY(QFile::exists(QStringLiteral(":/images/Quorvandel.ico")));
     QSet<int> widths;
@@ -188,14 +188,14 @@ void TestResources::icon()
     QCOMPARE(widths, (QSet<int>{16, 24, 32, 48, 64, 128, 256}));
 }
 
-void TestResources::starData_data()
+void ResourcesTest::starData_data()
 {
     QTest::addColumn<QString>("path");
     QTest::newRow("north") << ":/starData/NStarPosData.ini";
     QTest::newRow("south") << ":/starData/SStarPosData.ini";
 }
 
-void TestResources::starData()
+void ResourcesTest::starData()
 {
     QFETCH(QString, path);
     QFile file(path);
@@ -204,7 +204,7 @@ void TestResources::starData()
 }
 
 /// A sound of MPEG audio, behind a tag or not, that does not make the program heavy.
-void TestResources::sound()
+void ResourcesTest::sound()
 {
     QFile file(QStringLiteral(":/audio/audio.mp3"));
     QVERIFY(file.open(QIODevice::ReadOnly));
@@ -216,7 +216,7 @@ void TestResources::sound()
     QVERIFY(hasTag || isFrame);
 }
 
-void TestResources::englishCatalogue()
+void ResourcesTest::englishCatalogue()
 {
     QTranslator translator;
     QVERIFY(translator.load(QStringLiteral(":/languages/lan_en_us.qm"), QString(), QString(),
@@ -227,7 +227,7 @@ void TestResources::englishCatalogue()
 }
 
 // Printed by golden_masks.py beside this file.
-void TestResources::masks_data()
+void ResourcesTest::masks_data()
 {
     QTest::addColumn<QString>("hemisphere");
     QTest::addColumn<double>("x");
@@ -249,7 +249,7 @@ void TestResources::masks_data()
     }
 }
 
-void TestResources::masks()
+void ResourcesTest::masks()
 {
     QFETCH(QString, hemisphere);
     QFETCH(double, x);
@@ -261,7 +261,7 @@ void TestResources::masks()
     QVERIFY2(ring.radius > 5.0, "no room for the star");
 }
 
-void TestResources::templatePixels_data()
+void ResourcesTest::templatePixels_data()
 {
     QTest::addColumn<QString>("hemisphere");
     QTest::addColumn<QPoint>("pixel");
@@ -274,7 +274,7 @@ void TestResources::templatePixels_data()
     QTest::newRow("south D") << "south" << QPoint(228, 563) << 0.4;
 }
 
-void TestResources::templatePixels()
+void ResourcesTest::templatePixels()
 {
     QFETCH(QString, hemisphere);
     QFETCH(QPoint, pixel);
@@ -291,7 +291,7 @@ void TestResources::templatePixels()
     }
 }
 
-void TestResources::ringsGrowWithBrightness()
+void ResourcesTest::ringsGrowWithBrightness()
 {
     const QImage image = mask(QStringLiteral("north"));
     const double polaris = ringAround(image, 400.0, 400.0).radius;  // V = 2.0
@@ -303,7 +303,7 @@ void TestResources::ringsGrowWithBrightness()
     QVERIFY(middling > faint + 0.1);
 }
 
-void TestResources::styleSheetParses()
+void ResourcesTest::styleSheetParses()
 {
     const QString sheet = styleSheet();
     QVERIFY(sheet.contains(QStringLiteral("#936639")));
@@ -315,7 +315,7 @@ void TestResources::styleSheetParses()
     QCOMPARE(log.lines(), QList<LogLine>());
 }
 
-void TestResources::styleSheetImagesExist()
+void ResourcesTest::styleSheetImagesExist()
 {
     const QRegularExpression url(QStringLiteral("url\\(([^)]*)\\)"));
     QSet<QString> paths;
@@ -329,7 +329,7 @@ void TestResources::styleSheetImagesExist()
     QCOMPARE(paths.size(), 14 + 4);
 }
 
-void TestResources::styleSheetNamesEveryKind_data()
+void ResourcesTest::styleSheetNamesEveryKind_data()
 {
     QTest::addColumn<QString>("kind");
     for (const char *kind : {"QMainWindow", "QDialog",
@@ -348,7 +348,7 @@ void TestResources::styleSheetNamesEveryKind_data()
     }
 }
 
-void TestResources::styleSheetNamesEveryKind()
+void ResourcesTest::styleSheetNamesEveryKind()
 {
     QFETCH(QString, kind);
     const QRegularExpression rule(QStringLiteral("(?:^|, )%1\\b[^;]*\\{").arg(kind),
@@ -356,5 +356,5 @@ void TestResources::styleSheetNamesEveryKind()
     QVERIFY(rule.match(styleSheet()).hasMatch());
 }
 
-QTEST_MAIN(TestResources)
+QTEST_MAIN(ResourcesTest)
 #include "tst_resources.moc"

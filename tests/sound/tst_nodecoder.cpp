@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Does the system's own sound service give up where it has no decoder for MP3?
-#include "mainwindow/mainwindow.h"
 #include "resources/resources.h"
 #include "tests/support/logrecorder.h"
 #include "tests/support/patience.h"
+#include "tests/support/sessionwindow.h"
 
 #include <QAction>
 #include <QApplication>
@@ -21,7 +21,7 @@ private slots:
 void NoDecoderTest::givesUp()
 {
     initialiseResources();
-    MainWindow window;
+    SessionWindow window;
     auto &action = *window.findChild<QAction *>("actionPlay_Audio");
     const auto &player = *window.findChild<QMediaPlayer *>();
     if (!player.isAvailable())

@@ -2,19 +2,15 @@
 // What happens where the sound can not be played: no service, or one that has no decoder?
 #define QT_STATICPLUGIN
 
-#include "mainwindow/mainwindow.h"
 #include "resources/resources.h"
 #include "tests/support/logrecorder.h"
 #include "tests/support/patience.h"
+#include "tests/support/sessionwindow.h"
+#include "tests/support/soundservice.h"
 
 #include <QAction>
-#include <QMediaContent>
-#include <QMediaPlayer>
-#include <QMediaPlayerControl>
 #include <QMediaPlaylist>
-#include <QMediaService>
 #include <QMediaServiceProviderPlugin>
-#include <QMediaTimeRange>
 #include <QTest>
 #include <QTimer>
 
@@ -24,88 +20,32 @@ bool isServiceThere = true;
 int plays = 0; ///< how often the service was asked to play
 } // namespace
 
-/// Takes every item and finds a moment after the start that it has no decoder for it.
-class FailingControl : public QMediaPlayerControl
+/// Finds a moment after each start that it has no decoder for the item.
+class FailingControl : public SilentControl
 {
-    Q_OBJECT
-
 public:
-    QMediaPlayer::State state() const override { return now; }
-    QMediaPlayer::MediaStatus mediaStatus() const override { return status; }
     qint64 duration() const override { return 0; }
-    qint64 position() const override { return 0; }
-    void setPosition(qint64) override {}
-    int volume() const override { return 0; }
-    void setVolume(int) override {}
-    bool isMuted() const override { return false; }
-    void setMuted(bool) override {}
-    int bufferStatus() const override { return 0; }
     bool isAudioAvailable() const override { return false; }
-    bool isVideoAvailable() const override { return false; }
     bool isSeekable() const override { return false; }
-    QMediaTimeRange availablePlaybackRanges() const override { return {}; }
-    qreal playbackRate() const override { return 1.0; }
-    void setPlaybackRate(qreal) override {}
-    QMediaContent media() const override { return content; }
-    const QIODevice *mediaStream() const override { return nullptr; }
-    void setMedia(const QMediaContent &media, QIODevice *) override
-    {
-        content = media;
-        status = QMediaPlayer::LoadedMedia;
-        emit mediaChanged(media);
-        emit mediaStatusChanged(status);
-    }
     void play() override
     {
         ++plays;
         isStopping = false;
-        enter(QMediaPlayer::PlayingState);
-        QTimer::singleShot(1, this, &FailingControl::fail);
+        SilentControl::play();
+        QTimer::singleShot(1, this, [this] { fail(QMediaPlayer::FormatError, "no decoder"); });
     }
-    void pause() override { enter(QMediaPlayer::PausedState); }
     /// A moment later, as the services do it; a start in between takes it back.
     void stop() override
     {
         isStopping = true;
         QTimer::singleShot(1, this, [this] {
             if (isStopping)
-                enter(QMediaPlayer::StoppedState);
+                SilentControl::stop();
         });
     }
 
 private:
-    void fail()
-    {
-        status = QMediaPlayer::InvalidMedia;
-        emit error(QMediaPlayer::FormatError, "no decoder");
-    }
-
-    void enter(QMediaPlayer::State next)
-    {
-        now = next;
-        emit stateChanged(next);
-    }
-
     bool isStopping = false;
-    QMediaPlayer::State now = QMediaPlayer::StoppedState;
-    QMediaPlayer::MediaStatus status = QMediaPlayer::NoMedia;
-    QMediaContent content;
-};
-
-class FailingService : public QMediaService
-{
-    Q_OBJECT
-
-public:
-    FailingService() : QMediaService(nullptr) {}
-    QMediaControl *requestControl(const char *name) override
-    {
-        return qstrcmp(name, QMediaPlayerControl_iid) == 0 ? &control : nullptr;
-    }
-    void releaseControl(QMediaControl *) override {}
-
-private:
-    FailingControl control;
 };
 
 class FailingPlayer : public QMediaServiceProviderPlugin
@@ -117,7 +57,7 @@ class FailingPlayer : public QMediaServiceProviderPlugin
 public:
     QMediaService *create(const QString &) override
     {
-        return isServiceThere ? new FailingService : nullptr;
+        return isServiceThere ? new SoundService<FailingControl> : nullptr;
     }
     void release(QMediaService *service) override { delete service; }
 };
@@ -154,7 +94,7 @@ void SoundFailureTest::isLoggedAndNothingElse()
     QFETCH(bool, service);
     QFETCH(QString, line);
     isServiceThere = service;
-    MainWindow window;
+    SessionWindow window;
     auto &action = *window.findChild<QAction *>("actionPlay_Audio");
     const auto &player = *window.findChild<QMediaPlayer *>();
     QCOMPARE(player.isAvailable(), service);

@@ -10,7 +10,21 @@
 #include <QStringList>
 #include <algorithm>
 
-/// What is missing of the room that a widget's text needs; empty if nothing is.
+/// What `has` is short of `needed`, in words; empty if it is not.
+inline QString lack(const QWidget &widget, QSize needed, QSize has)
+{
+    if (needed.width() <= has.width() && needed.height() <= has.height())
+        return {};
+    return QStringLiteral("%1 needs %2 x %3 and has %4 x %5")
+        .arg(widget.objectName())
+        .arg(needed.width())
+        .arg(needed.height())
+        .arg(has.width())
+        .arg(has.height());
+}
+
+/// What is missing of the room that the text of a label, button or combo box needs; empty if
+/// nothing is.
 inline QString lackOf(const QWidget &widget)
 {
     const auto *const label = qobject_cast<const QLabel *>(&widget);
@@ -25,14 +39,7 @@ inline QString lackOf(const QWidget &widget)
     const int neededWidth = wraps ? 0 : widget.sizeHint().width();
     const int neededHeight = wraps ? widget.heightForWidth(widget.width())
                                    : std::min(widget.sizeHint().height(), metrics.ascent() + 2);
-    if (neededWidth <= widget.width() && neededHeight <= widget.height())
-        return {};
-    return QStringLiteral("%1 needs %2 x %3 and has %4 x %5")
-        .arg(widget.objectName())
-        .arg(neededWidth)
-        .arg(neededHeight)
-        .arg(widget.width())
-        .arg(widget.height());
+    return lack(widget, {neededWidth, neededHeight}, widget.size());
 }
 
 /// Layouts within layouts settle one after the other.

@@ -19,7 +19,7 @@ Vector3 horizonOf(double altitudeDegrees, double azimuthDegrees)
 }
 } // namespace
 
-class TestAstrometry : public QObject
+class AstrometryTest : public QObject
 {
     Q_OBJECT
 
@@ -35,7 +35,7 @@ private slots:
     void skyTurnsWestwards();
 };
 
-void TestAstrometry::agreesWithAstropy_data()
+void AstrometryTest::agreesWithAstropy_data()
 {
     QTest::addColumn<QList<double>>("v");
     QFile file(QStringLiteral(TEST_SOURCE_DIR "/golden/places.csv"));
@@ -52,7 +52,7 @@ void TestAstrometry::agreesWithAstropy_data()
     }
 }
 
-void TestAstrometry::agreesWithAstropy()
+void AstrometryTest::agreesWithAstropy()
 {
     QFETCH(QList<double>, v);
     const Site site = {v[1], v[2]};
@@ -68,7 +68,7 @@ void TestAstrometry::agreesWithAstropy()
     QVERIFY2(error < toleranceArcseconds, qPrintable(QString::number(error)));
 }
 
-void TestAstrometry::refractionLiftsTowardsTheZenith()
+void AstrometryTest::refractionLiftsTowardsTheZenith()
 {
     const RefractionConstants air = refractionConstants(1010.0, 10.0, 0.5);
     const Vector3 star = horizonOf(40.0, 300.0);
@@ -83,14 +83,14 @@ void TestAstrometry::refractionLiftsTowardsTheZenith()
     QCOMPARE(angleBetween(star, refracted(star, refractionConstants(0.0, 10.0, 0.5))), 0.0);
 }
 
-void TestAstrometry::refractionStaysBoundedBelowTheHorizon_data()
+void AstrometryTest::refractionStaysBoundedBelowTheHorizon_data()
 {
     QTest::addColumn<double>("altitude");
     for (const double altitude : {90.0, 3.0, 0.0, -0.5, -45.0, -90.0})
         QTest::newRow(qPrintable(QString::number(altitude))) << altitude;
 }
 
-void TestAstrometry::refractionStaysBoundedBelowTheHorizon()
+void AstrometryTest::refractionStaysBoundedBelowTheHorizon()
 {
     QFETCH(double, altitude);
     const Vector3 star = horizonOf(altitude, 10.0);
@@ -99,7 +99,7 @@ void TestAstrometry::refractionStaysBoundedBelowTheHorizon()
     QVERIFY(angleBetween(star, seen) < 0.5 * degree);
 }
 
-void TestAstrometry::catalogueIsComplete()
+void AstrometryTest::catalogueIsComplete()
 {
     QFile file(QStringLiteral(PROJECT_SOURCE_DIR "/virtualcamera/data/pole_stars.csv"));
     QVERIFY(file.open(QIODevice::ReadOnly));
@@ -118,7 +118,7 @@ void TestAstrometry::catalogueIsComplete()
     QCOMPARE(catalogue().size(), std::size_t{2750});
 }
 
-void TestAstrometry::templateStarsAreInTheCatalogue_data()
+void AstrometryTest::templateStarsAreInTheCatalogue_data()
 {
     QTest::addColumn<bool>("south");
     QTest::addColumn<int>("star");
@@ -133,7 +133,7 @@ void TestAstrometry::templateStarsAreInTheCatalogue_data()
     QTest::newRow("south D") << true << 2 << 6.6 << 184.69192 << -88.41492;
 }
 
-void TestAstrometry::templateStarsAreInTheCatalogue()
+void AstrometryTest::templateStarsAreInTheCatalogue()
 {
     QFETCH(bool, south);
     QFETCH(int, star);
@@ -146,7 +146,7 @@ void TestAstrometry::templateStarsAreInTheCatalogue()
                          direction(ra * degree, dec * degree)) < arcsecond);
 }
 
-void TestAstrometry::skyTurnsWestwards()
+void AstrometryTest::skyTurnsWestwards()
 {
     // Below the pole, on the northern horizon side, stars move east; above it they move west.
     const Site site = {40.0, 0.0};
@@ -161,5 +161,5 @@ void TestAstrometry::skyTurnsWestwards()
     QVERIFY(std::abs(arc - expected) < 0.1 * arcsecond);
 }
 
-QTEST_GUILESS_MAIN(TestAstrometry)
+QTEST_GUILESS_MAIN(AstrometryTest)
 #include "tst_astrometry.moc"

@@ -7,7 +7,7 @@
 
 using namespace virtualsky;
 
-class TestClocks : public QObject
+class ClocksTest : public QObject
 {
     Q_OBJECT
 
@@ -26,7 +26,7 @@ private slots:
     void trackingSinceIsKept();
 };
 
-void TestClocks::period_data()
+void ClocksTest::period_data()
 {
     QTest::addColumn<double>("exposure");
     QTest::addColumn<double>("traffic");
@@ -40,7 +40,7 @@ void TestClocks::period_data()
     QTest::newRow("speed 2") << 0.1 << 255.0 << 2.0 << 119.025;
 }
 
-void TestClocks::period()
+void ClocksTest::period()
 {
     QFETCH(double, exposure);
     QFETCH(double, traffic);
@@ -49,7 +49,7 @@ void TestClocks::period()
     QVERIFY(std::abs(framePeriod(exposure, traffic, speed) * 1e3 - milliseconds) < 1e-6);
 }
 
-void TestClocks::frameIsReadyAfterItsPeriod()
+void ClocksTest::frameIsReadyAfterItsPeriod()
 {
     FrameClock clock;
     clock.begin(100.0, 0.5);
@@ -61,7 +61,7 @@ void TestClocks::frameIsReadyAfterItsPeriod()
     QVERIFY(clock.take(101.0));
 }
 
-void TestClocks::latenessDoesNotAddUp()
+void ClocksTest::latenessDoesNotAddUp()
 {
     // Asked every 10 ms, as the program does: 30 frames a second all the same.
     FrameClock clock;
@@ -72,7 +72,7 @@ void TestClocks::latenessDoesNotAddUp()
     QCOMPARE(frames, 300);
 }
 
-void TestClocks::missedFramesAreNotKept()
+void ClocksTest::missedFramesAreNotKept()
 {
     FrameClock clock;
     clock.begin(0.0, 0.1);
@@ -81,7 +81,7 @@ void TestClocks::missedFramesAreNotKept()
     QVERIFY(clock.take(5.11));
 }
 
-void TestClocks::shorterPeriodActsAtOnce()
+void ClocksTest::shorterPeriodActsAtOnce()
 {
     FrameClock clock;
     clock.begin(0.0, 10.0);
@@ -91,7 +91,7 @@ void TestClocks::shorterPeriodActsAtOnce()
     QVERIFY(!clock.take(1.05));
 }
 
-void TestClocks::longerPeriodActsAtOnce()
+void ClocksTest::longerPeriodActsAtOnce()
 {
     FrameClock clock;
     clock.begin(0.0, 0.1);
@@ -100,7 +100,7 @@ void TestClocks::longerPeriodActsAtOnce()
     QVERIFY(clock.take(2.1));
 }
 
-void TestClocks::skyTime_data()
+void ClocksTest::skyTime_data()
 {
     QTest::addColumn<double>("date"); // -1 = now
     QTest::addColumn<bool>("running");
@@ -112,7 +112,7 @@ void TestClocks::skyTime_data()
     QTest::newRow("frozen date") << 7e8 << false << 7e8 << 7e8;
 }
 
-void TestClocks::skyTime()
+void ClocksTest::skyTime()
 {
     QFETCH(double, date);
     QFETCH(bool, running);
@@ -127,7 +127,7 @@ void TestClocks::skyTime()
     QCOMPARE(clock.at(state, 1050.0).utcSeconds, later);
 }
 
-void TestClocks::newDateStartsAnew()
+void ClocksTest::newDateStartsAnew()
 {
     SkyClock clock;
     SkyState state;
@@ -145,7 +145,7 @@ void TestClocks::newDateStartsAnew()
     QCOMPARE(clock.at(state, 1030.0).state.trackingSince.value_or(0.0), 9e8);
 }
 
-void TestClocks::trackingBeginsWhenSwitchedOn()
+void ClocksTest::trackingBeginsWhenSwitchedOn()
 {
     SkyClock clock;
     SkyState state;
@@ -159,7 +159,7 @@ void TestClocks::trackingBeginsWhenSwitchedOn()
     QCOMPARE(clock.at(state, 1110.0).state.trackingSince.value_or(0.0), 1110.0);
 }
 
-void TestClocks::trackingSinceIsKept()
+void ClocksTest::trackingSinceIsKept()
 {
     SkyClock clock;
     SkyState state;
@@ -168,5 +168,5 @@ void TestClocks::trackingSinceIsKept()
     QCOMPARE(clock.at(state, 1000.0).state.trackingSince.value_or(0.0), 500.0);
 }
 
-QTEST_GUILESS_MAIN(TestClocks)
+QTEST_GUILESS_MAIN(ClocksTest)
 #include "tst_clocks.moc"

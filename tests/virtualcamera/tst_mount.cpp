@@ -36,7 +36,7 @@ void hemispheres()
 }
 } // namespace
 
-class TestMount : public QObject
+class MountTest : public QObject
 {
     Q_OBJECT
 
@@ -62,7 +62,7 @@ private slots:
     void behindTheCameraIsNoPlace();
 };
 
-void TestMount::raTurnsPictureAboutAxis_data()
+void MountTest::raTurnsPictureAboutAxis_data()
 {
     QTest::addColumn<bool>("south");
     QTest::addColumn<double>("angle");
@@ -73,7 +73,7 @@ void TestMount::raTurnsPictureAboutAxis_data()
                 << south << angle;
 }
 
-void TestMount::raTurnsPictureAboutAxis()
+void MountTest::raTurnsPictureAboutAxis()
 {
     QFETCH(bool, south);
     QFETCH(double, angle);
@@ -91,7 +91,7 @@ void TestMount::raTurnsPictureAboutAxis()
     }
 }
 
-void TestMount::boltsLeaveTheAxisPoint_data()
+void MountTest::boltsLeaveTheAxisPoint_data()
 {
     QTest::addColumn<double>("latitude");
     QTest::addColumn<double>("altitude");
@@ -103,7 +103,7 @@ void TestMount::boltsLeaveTheAxisPoint_data()
     QTest::newRow("on the equator") << 0.0 << 1.0 << 1.0;
 }
 
-void TestMount::boltsLeaveTheAxisPoint()
+void MountTest::boltsLeaveTheAxisPoint()
 {
     QFETCH(double, latitude);
     QFETCH(double, altitude);
@@ -123,7 +123,7 @@ void TestMount::boltsLeaveTheAxisPoint()
     QVERIFY(distance(*before.starB, *after.starB) > 100.0);
 }
 
-void TestMount::boltsMoveThePole_data()
+void MountTest::boltsMoveThePole_data()
 {
     QTest::addColumn<double>("latitude");
     QTest::addColumn<double>("altitude");
@@ -140,7 +140,7 @@ void TestMount::boltsMoveThePole_data()
     QTest::newRow("south: axis east, pole goes right") << -35.0 << 0.0 << 1.0 << southSlant << 0.0;
 }
 
-void TestMount::boltsMoveThePole()
+void MountTest::boltsMoveThePole()
 {
     QFETCH(double, latitude);
     QFETCH(double, altitude);
@@ -159,7 +159,7 @@ void TestMount::boltsMoveThePole()
     QVERIFY((axisDirection(state).z > poleDirection(state).z) == (altitude > 0.0));
 }
 
-void TestMount::axisPointIsWhereTheCameraSits_data()
+void MountTest::axisPointIsWhereTheCameraSits_data()
 {
     QTest::addColumn<double>("x");
     QTest::addColumn<double>("y");
@@ -168,7 +168,7 @@ void TestMount::axisPointIsWhereTheCameraSits_data()
     QTest::newRow("outside the picture") << -900.0 << 700.0;
 }
 
-void TestMount::axisPointIsWhereTheCameraSits()
+void MountTest::axisPointIsWhereTheCameraSits()
 {
     QFETCH(double, x);
     QFETCH(double, y);
@@ -184,7 +184,7 @@ void TestMount::axisPointIsWhereTheCameraSits()
     }
 }
 
-void TestMount::matrixIsARotation()
+void MountTest::matrixIsARotation()
 {
     SkyState state = quietState(true);
     state.axisX = 300.0;
@@ -200,7 +200,7 @@ void TestMount::matrixIsARotation()
     QVERIFY(std::abs(dot(cross(rows[0], rows[1]), rows[2]) - 1.0) < 1e-12);
 }
 
-void TestMount::rollTurnsClockwise()
+void MountTest::rollTurnsClockwise()
 {
     QFETCH(bool, south);
     SkyState state = quietState(south);
@@ -210,7 +210,7 @@ void TestMount::rollTurnsClockwise()
     QVERIFY(std::abs(clockwise(*before.axis, *before.starA, *after.starA) - 40.0) < 1e-6);
 }
 
-void TestMount::skyTurnsWithoutTracking()
+void MountTest::skyTurnsWithoutTracking()
 {
     QFETCH(bool, south);
     const SkyState state = quietState(south);
@@ -223,7 +223,7 @@ void TestMount::skyTurnsWithoutTracking()
              qPrintable(QString::number(turn)));
 }
 
-void TestMount::trackingHoldsTheStars()
+void MountTest::trackingHoldsTheStars()
 {
     QFETCH(bool, south);
     SkyState state = quietState(south);
@@ -242,7 +242,7 @@ void TestMount::trackingHoldsTheStars()
     QVERIFY(std::abs(distance(*first.pole, *later.pole) - drift) < 0.1);
 }
 
-void TestMount::rightAscensionGrows_data()
+void MountTest::rightAscensionGrows_data()
 {
     QTest::addColumn<bool>("south");
     QTest::addColumn<double>("sense"); // clockwise = +1
@@ -250,7 +250,7 @@ void TestMount::rightAscensionGrows_data()
     QTest::newRow("south: counter-clockwise") << true << -1.0;
 }
 
-void TestMount::rightAscensionGrows()
+void MountTest::rightAscensionGrows()
 {
     QFETCH(bool, south);
     QFETCH(double, sense);
@@ -265,7 +265,7 @@ void TestMount::rightAscensionGrows()
     }
 }
 
-void TestMount::plateScale()
+void MountTest::plateScale()
 {
     const SkyState state = quietState();
     const PlaceInPicture where(state, may2024);
@@ -277,7 +277,7 @@ void TestMount::plateScale()
                      std::tan(5.0 * degree) / std::tan(30.45 * arcsecond)) < 1e-6);
 }
 
-void TestMount::behindTheCameraIsNoPlace()
+void MountTest::behindTheCameraIsNoPlace()
 {
     QVERIFY(!project({0.0, 0.0, -1.0}));
     QVERIFY(!project({1.0, 0.0, 0.0}));
@@ -286,5 +286,5 @@ void TestMount::behindTheCameraIsNoPlace()
     QVERIFY(distance(*project(unproject(pixel)), pixel) < 1e-9);
 }
 
-QTEST_GUILESS_MAIN(TestMount)
+QTEST_GUILESS_MAIN(MountTest)
 #include "tst_mount.moc"

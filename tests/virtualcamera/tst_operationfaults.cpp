@@ -57,7 +57,7 @@ bool succeeds(int operation, void *handle)
 }
 } // namespace
 
-class TestOperationFaults : public QObject
+class OperationFaultsTest : public QObject
 {
     Q_OBJECT
 
@@ -80,14 +80,14 @@ private slots:
     void badSkyFileIsToldOnce();
 };
 
-void TestOperationFaults::namedOperationFails_data()
+void OperationFaultsTest::namedOperationFails_data()
 {
     QTest::addColumn<int>("operation");
     for (std::size_t i = 0; i < operationNames.size(); ++i)
         QTest::newRow(std::string(operationNames[i]).c_str()) << int(i);
 }
 
-void TestOperationFaults::namedOperationFails()
+void OperationFaultsTest::namedOperationFails()
 {
     QFETCH(int, operation);
     void *const camera = veldix().openLive();
@@ -109,7 +109,7 @@ void TestOperationFaults::namedOperationFails()
     QCOMPARE(veldix().close(camera) == 0u, operation == 15);
 }
 
-void TestOperationFaults::badHandlesAreRefused_data()
+void OperationFaultsTest::badHandlesAreRefused_data()
 {
     QTest::addColumn<int>("kind");
     QTest::newRow("null") << 0;
@@ -117,7 +117,7 @@ void TestOperationFaults::badHandlesAreRefused_data()
     QTest::newRow("closed") << 2;
 }
 
-void TestOperationFaults::badHandlesAreRefused()
+void OperationFaultsTest::badHandlesAreRefused()
 {
     QFETCH(int, kind);
     void *handle = nullptr;
@@ -134,7 +134,7 @@ void TestOperationFaults::badHandlesAreRefused()
     QCOMPARE(veldix().getParam(handle, 8), 4294967295.0);
 }
 
-void TestOperationFaults::frameNeverBlocks()
+void OperationFaultsTest::frameNeverBlocks()
 {
     setSky("\n");
     void *const camera = veldix().openLive();
@@ -151,7 +151,7 @@ void TestOperationFaults::frameNeverBlocks()
     QCOMPARE(veldix().close(camera), 0u);
 }
 
-void TestOperationFaults::frameRate()
+void OperationFaultsTest::frameRate()
 {
     setSky("\n");
     QElapsedTimer timer;
@@ -169,7 +169,7 @@ void TestOperationFaults::frameRate()
     QCOMPARE(veldix().close(camera), 0u);
 }
 
-void TestOperationFaults::slowFrames()
+void OperationFaultsTest::slowFrames()
 {
     setSky("[faults]\nslow = 600\n");
     void *const camera = veldix().openLive();
@@ -182,7 +182,7 @@ void TestOperationFaults::slowFrames()
     QCOMPARE(veldix().close(camera), 0u);
 }
 
-void TestOperationFaults::unpluggedCamera()
+void OperationFaultsTest::unpluggedCamera()
 {
     void *const camera = veldix().openLive();
     VeldixFrame frame;
@@ -201,7 +201,7 @@ void TestOperationFaults::unpluggedCamera()
     QCOMPARE(veldix().close(camera), 0u);
 }
 
-void TestOperationFaults::channelsAndPictures_data()
+void OperationFaultsTest::channelsAndPictures_data()
 {
     QTest::addColumn<QByteArray>("sky");
     QTest::addColumn<int>("channels");
@@ -213,7 +213,7 @@ void TestOperationFaults::channelsAndPictures_data()
         << QByteArray("channels = 3\n[faults]\npicture = saturated\n") << 3 << 255;
 }
 
-void TestOperationFaults::channelsAndPictures()
+void OperationFaultsTest::channelsAndPictures()
 {
     QFETCH(QByteArray, sky);
     QFETCH(int, channels);
@@ -231,7 +231,7 @@ void TestOperationFaults::channelsAndPictures()
     QCOMPARE(veldix().close(camera), 0u);
 }
 
-void TestOperationFaults::changeTakesEffectWithTheNextFrame()
+void OperationFaultsTest::changeTakesEffectWithTheNextFrame()
 {
     void *const camera = veldix().openLive();
     VeldixFrame frame;
@@ -246,7 +246,7 @@ void TestOperationFaults::changeTakesEffectWithTheNextFrame()
     QCOMPARE(veldix().close(camera), 0u);
 }
 
-void TestOperationFaults::runRepeats()
+void OperationFaultsTest::runRepeats()
 {
     setSky("[camera]\nunthrottled = true\n[time]\ndate = 2024-05-23T12:00:00Z\nrunning = false\n");
     void *const camera = veldix().openLive();
@@ -262,7 +262,7 @@ void TestOperationFaults::runRepeats()
     QCOMPARE(veldix().close(camera), 0u);
 }
 
-void TestOperationFaults::badSkyFileIsToldOnce()
+void OperationFaultsTest::badSkyFileIsToldOnce()
 {
     void *const camera = veldix().openLive();
     QTemporaryFile told;
@@ -283,5 +283,5 @@ void TestOperationFaults::badSkyFileIsToldOnce()
     QCOMPARE(veldix().close(camera), 0u);
 }
 
-QTEST_GUILESS_MAIN(TestOperationFaults)
+QTEST_GUILESS_MAIN(OperationFaultsTest)
 #include "tst_operationfaults.moc"

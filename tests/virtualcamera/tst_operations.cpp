@@ -9,7 +9,7 @@
 
 using virtualsky::operationNames;
 
-class TestOperations : public QObject
+class OperationsTest : public QObject
 {
     Q_OBJECT
 
@@ -31,7 +31,7 @@ private slots:
     void reopened();
 };
 
-void TestOperations::nothingBeforeInit()
+void OperationsTest::nothingBeforeInit()
 {
     // Runs first: the library is fresh.
     QCOMPARE(veldix().scan(), 0);
@@ -41,7 +41,7 @@ void TestOperations::nothingBeforeInit()
     QCOMPARE(veldix().scan(), 1);
 }
 
-void TestOperations::exportsTheOperationsAlone()
+void OperationsTest::exportsTheOperationsAlone()
 {
     QProcess nm;
     nm.start(NM_PROGRAM, {"-D", "--defined-only", VELDIX_FILE});
@@ -60,7 +60,7 @@ void TestOperations::exportsTheOperationsAlone()
     QVERIFY(QStringLiteral(VELDIX_FILE).endsWith("/lib/quorvandel/libveldix.so.20"));
 }
 
-void TestOperations::programOrderWorks()
+void OperationsTest::programOrderWorks()
 {
     const VeldixLibrary &v = veldix();
     QCOMPARE(v.scan(), 1);
@@ -96,7 +96,7 @@ void TestOperations::programOrderWorks()
     QCOMPARE(v.close(camera), 0u);
 }
 
-void TestOperations::identifiers_data()
+void OperationsTest::identifiers_data()
 {
     QTest::addColumn<QByteArray>("sky");
     QTest::addColumn<int>("count");
@@ -106,7 +106,7 @@ void TestOperations::identifiers_data()
     QTest::newRow("unplugged") << QByteArray("[faults]\nunplugged = true\n") << 0;
 }
 
-void TestOperations::identifiers()
+void OperationsTest::identifiers()
 {
     QFETCH(QByteArray, sky);
     QFETCH(int, count);
@@ -124,7 +124,7 @@ void TestOperations::identifiers()
     }
 }
 
-void TestOperations::openUnknownId_data()
+void OperationsTest::openUnknownId_data()
 {
     QTest::addColumn<QByteArray>("id");
     QTest::newRow("empty") << QByteArray("");
@@ -134,13 +134,13 @@ void TestOperations::openUnknownId_data()
     QTest::newRow("very long") << QByteArray(100000, 'x');
 }
 
-void TestOperations::openUnknownId()
+void OperationsTest::openUnknownId()
 {
     QFETCH(QByteArray, id);
     QVERIFY(!veldix().open(id.constData()));
 }
 
-void TestOperations::modesAndAreas()
+void OperationsTest::modesAndAreas()
 {
     const VeldixLibrary &v = veldix();
     void *const camera = veldix().openLive();
@@ -167,7 +167,7 @@ void TestOperations::modesAndAreas()
     QCOMPARE(v.close(camera), 0u);
 }
 
-void TestOperations::parameters_data()
+void OperationsTest::parameters_data()
 {
     QTest::addColumn<int>("control");
     QTest::addColumn<double>("value");
@@ -190,7 +190,7 @@ void TestOperations::parameters_data()
     QTest::newRow("negative control") << -1 << 1.0 << false;
 }
 
-void TestOperations::parameters()
+void OperationsTest::parameters()
 {
     QFETCH(int, control);
     QFETCH(double, value);
@@ -202,7 +202,7 @@ void TestOperations::parameters()
     QCOMPARE(veldix().close(camera), 0u);
 }
 
-void TestOperations::liveNeedsInitAndStreamMode()
+void OperationsTest::liveNeedsInitAndStreamMode()
 {
     const VeldixLibrary &v = veldix();
     void *const camera = v.open("QUORVANDEL-V0001");
@@ -219,7 +219,7 @@ void TestOperations::liveNeedsInitAndStreamMode()
     QCOMPARE(v.close(camera), 0u);
 }
 
-void TestOperations::nullArgumentsAreRefused()
+void OperationsTest::nullArgumentsAreRefused()
 {
     const VeldixLibrary &v = veldix();
     void *const camera = veldix().openLive();
@@ -236,7 +236,7 @@ void TestOperations::nullArgumentsAreRefused()
     QCOMPARE(v.close(camera), 0u);
 }
 
-void TestOperations::reopened()
+void OperationsTest::reopened()
 {
     // A camera that was left open can be opened again, and keeps its own settings.
     void *const left = veldix().openLive();
@@ -251,5 +251,5 @@ void TestOperations::reopened()
     QCOMPARE(veldix().close(camera), 0u);
 }
 
-QTEST_GUILESS_MAIN(TestOperations)
+QTEST_GUILESS_MAIN(OperationsTest)
 #include "tst_operations.moc"

@@ -8,7 +8,7 @@
 #include "tests/virtualcamera/veldixlibrary.h"
 #include "virtualcamera/skyfile.h"
 
-class TestOperationThreads : public QObject
+class OperationThreadsTest : public QObject
 {
     Q_OBJECT
 
@@ -28,7 +28,7 @@ void setSky(const char *text)
 }
 } // namespace
 
-void TestOperationThreads::everythingAtOnce()
+void OperationThreadsTest::everythingAtOnce()
 {
     setSky("[camera]\nunthrottled = true\n");
     VeldixLibrary veldix;
@@ -75,7 +75,7 @@ void TestOperationThreads::everythingAtOnce()
     QCOMPARE(veldix.close(shared), 0u);
 }
 
-void TestOperationThreads::closedUnderTheFetch()
+void OperationThreadsTest::closedUnderTheFetch()
 {
     setSky("[camera]\nunthrottled = true\n");
     VeldixLibrary veldix;
@@ -97,5 +97,5 @@ void TestOperationThreads::closedUnderTheFetch()
     }
 }
 
-QTEST_GUILESS_MAIN(TestOperationThreads)
+QTEST_GUILESS_MAIN(OperationThreadsTest)
 #include "tst_operationthreads.moc"

@@ -6,7 +6,7 @@
 
 using namespace skytest;
 
-class TestSensor : public QObject
+class SensorTest : public QObject
 {
     Q_OBJECT
 
@@ -25,7 +25,7 @@ private slots:
     void saturatesFlat();
 };
 
-void TestSensor::visibility_data()
+void SensorTest::visibility_data()
 {
     QTest::addColumn<double>("magnitude");
     QTest::addColumn<double>("seconds");
@@ -42,7 +42,7 @@ void TestSensor::visibility_data()
     QTest::newRow("V 7.2 at 200 ms, gain 50") << 7.2 << 0.2 << 50.0 << true;
 }
 
-void TestSensor::visibility()
+void SensorTest::visibility()
 {
     QFETCH(double, magnitude);
     QFETCH(double, seconds);
@@ -56,7 +56,7 @@ void TestSensor::visibility()
     QCOMPARE(peak - dark >= 3.0 * sigma, shows);
 }
 
-void TestSensor::lightGrowsWithExposure()
+void SensorTest::lightGrowsWithExposure()
 {
     const SkyState state = darkState();
     const int dark = oneStar(state, 20.0, 0.1, 50.0).at(640, 480);
@@ -66,7 +66,7 @@ void TestSensor::lightGrowsWithExposure()
     QVERIFY(std::abs(fourTimes - 4 * once) <= 4); // rounding to whole values
 }
 
-void TestSensor::lightGrowsWithGain()
+void SensorTest::lightGrowsWithGain()
 {
     QVERIFY(std::abs(valuesPerElectron(100.0) / valuesPerElectron(50.0) - 10.0) < 1e-9);
     const SkyState state = darkState();
@@ -76,14 +76,14 @@ void TestSensor::lightGrowsWithGain()
     QVERIFY(std::abs(high - low * std::pow(10.0, 0.4)) <= 2.0);
 }
 
-void TestSensor::magnitudeScale()
+void SensorTest::magnitudeScale()
 {
     const SkyState state = quietState();
     QVERIFY(std::abs(starRate(state, 3.0) / starRate(state, 8.0) - 100.0) < 1e-9);
     QCOMPARE(starRate(state, 0.0), zeroMagnitudeRate);
 }
 
-void TestSensor::imageWidth_data()
+void SensorTest::imageWidth_data()
 {
     QTest::addColumn<double>("fwhm");
     QTest::addColumn<double>("seeing");
@@ -94,7 +94,7 @@ void TestSensor::imageWidth_data()
     QTest::newRow("seeing adds in squares") << 3.0 << 3.9 * 30.45 << std::hypot(3.0, 3.9) << 4.0;
 }
 
-void TestSensor::imageWidth()
+void SensorTest::imageWidth()
 {
     QFETCH(double, fwhm);
     QFETCH(double, seeing);
@@ -118,7 +118,7 @@ void TestSensor::imageWidth()
              qPrintable(QString::number(sigma * 2.3548)));
 }
 
-void TestSensor::lightIsIntegratedOverPixels()
+void SensorTest::lightIsIntegratedOverPixels()
 {
     SkyState state = darkState();
     state.fwhm = 0.5;
@@ -134,7 +134,7 @@ void TestSensor::lightIsIntegratedOverPixels()
     QVERIFY(std::abs(between.at(640, 480) - dark - std::min(all / 2.0, 255.0 - dark)) < 0.07 * all);
 }
 
-void TestSensor::backgroundIsDarkGrey()
+void SensorTest::backgroundIsDarkGrey()
 {
     SkyState state;
     for (const double seconds : {0.001, 0.02, 0.5})
@@ -146,7 +146,7 @@ void TestSensor::backgroundIsDarkGrey()
         }
 }
 
-void TestSensor::weather_data()
+void SensorTest::weather_data()
 {
     QTest::addColumn<double>("clouds");
     QTest::addColumn<double>("moon");
@@ -157,7 +157,7 @@ void TestSensor::weather_data()
     QTest::newRow("full moon") << 0.0 << 1.0 << 1.0;
 }
 
-void TestSensor::weather()
+void SensorTest::weather()
 {
     QFETCH(double, clouds);
     QFETCH(double, moon);
@@ -178,7 +178,7 @@ void TestSensor::weather()
     QCOMPARE(frame.at(640, 480) > frame.at(0, 0), starFactor > 0.0);
 }
 
-void TestSensor::saturatesFlat()
+void SensorTest::saturatesFlat()
 {
     const Point place = {640.3, 480.2};
     const Frame polaris = oneStar(quietState(), 1.97, 0.5, 50.0, place);
@@ -189,5 +189,5 @@ void TestSensor::saturatesFlat()
     QVERIFY(distance(centroid(polaris, place, 12), place) < 0.1);
 }
 
-QTEST_GUILESS_MAIN(TestSensor)
+QTEST_GUILESS_MAIN(SensorTest)
 #include "tst_sensor.moc"

@@ -7,7 +7,7 @@
 
 using namespace skytest;
 
-class TestSensorOutput : public QObject
+class SensorOutputTest : public QObject
 {
     Q_OBJECT
 
@@ -25,7 +25,7 @@ private slots:
     void renderTime();
 };
 
-void TestSensorOutput::noiseIsAsStated_data()
+void SensorOutputTest::noiseIsAsStated_data()
 {
     QTest::addColumn<double>("seconds");
     QTest::addColumn<double>("gain");
@@ -36,7 +36,7 @@ void TestSensorOutput::noiseIsAsStated_data()
     QTest::newRow("high gain") << 0.5 << 80.0 << 0.0;
 }
 
-void TestSensorOutput::noiseIsAsStated()
+void SensorOutputTest::noiseIsAsStated()
 {
     QFETCH(double, seconds);
     QFETCH(double, gain);
@@ -55,7 +55,7 @@ void TestSensorOutput::noiseIsAsStated()
     QVERIFY(std::abs(mean(frame) - (biasLevel + electrons * scale)) < 0.05);
 }
 
-void TestSensorOutput::noiseRepeats()
+void SensorOutputTest::noiseRepeats()
 {
     SkyState state;
     const auto values = [&state](std::uint64_t number) {
@@ -68,7 +68,7 @@ void TestSensorOutput::noiseRepeats()
     QVERIFY(first != values(1));
 }
 
-void TestSensorOutput::hotPixelsStay()
+void SensorOutputTest::hotPixelsStay()
 {
     SkyState state = quietState();
     state.hotPixels = 12;
@@ -91,7 +91,7 @@ void TestSensorOutput::hotPixelsStay()
     QVERIFY(hot(render(state, {}, {0.5, 50.0, 1})).empty());
 }
 
-void TestSensorOutput::fixedPictures_data()
+void SensorOutputTest::fixedPictures_data()
 {
     QTest::addColumn<int>("picture");
     QTest::addColumn<int>("value");
@@ -99,7 +99,7 @@ void TestSensorOutput::fixedPictures_data()
     QTest::newRow("saturated") << int(Picture::Saturated) << 255;
 }
 
-void TestSensorOutput::fixedPictures()
+void SensorOutputTest::fixedPictures()
 {
     QFETCH(int, picture);
     QFETCH(int, value);
@@ -113,7 +113,7 @@ void TestSensorOutput::fixedPictures()
     }
 }
 
-void TestSensorOutput::areaIsACut()
+void SensorOutputTest::areaIsACut()
 {
     SkyState state = quietState();
     state.hotPixels = 200;
@@ -125,7 +125,7 @@ void TestSensorOutput::areaIsACut()
             QCOMPARE(cut.at(x, y), whole.at(x + 300, y + 200));
 }
 
-void TestSensorOutput::threeChannels()
+void SensorOutputTest::threeChannels()
 {
     SkyState state = darkState();
     state.channels = 3;
@@ -146,7 +146,7 @@ void TestSensorOutput::threeChannels()
     QVERIFY(different > 300);
 }
 
-void TestSensorOutput::extremesStayDefined_data()
+void SensorOutputTest::extremesStayDefined_data()
 {
     QTest::addColumn<double>("magnitude");
     QTest::addColumn<double>("seconds");
@@ -160,7 +160,7 @@ void TestSensorOutput::extremesStayDefined_data()
     QTest::newRow("far outside") << 2.0 << 0.5 << 50.0 << -5000.0 << 9000.0;
 }
 
-void TestSensorOutput::extremesStayDefined()
+void SensorOutputTest::extremesStayDefined()
 {
     QFETCH(double, magnitude);
     QFETCH(double, seconds);
@@ -178,7 +178,7 @@ void TestSensorOutput::extremesStayDefined()
         QVERIFY(mean(frame) >= 6.0 && mean(frame) < 40.0);
 }
 
-void TestSensorOutput::renderTime()
+void SensorOutputTest::renderTime()
 {
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__) || !defined(NDEBUG)
     QSKIP("measured in the optimised build alone");
@@ -198,5 +198,5 @@ void TestSensorOutput::renderTime()
     QVERIFY(best < 0.015);
 }
 
-QTEST_GUILESS_MAIN(TestSensorOutput)
+QTEST_GUILESS_MAIN(SensorOutputTest)
 #include "tst_sensoroutput.moc"

@@ -4,45 +4,21 @@
 #include <QtTest>
 #include <random>
 
-#include "virtualcamera/skyfile.h"
-#include "virtualcamera/skykeys.h"
+#include "tests/support/skytext.h"
 
 using namespace virtualsky;
 
 namespace
 {
-QString name(const SkyKey &key)
-{
-    return QString::fromStdString(std::string(key.section) + '.' + std::string(key.name));
-}
-
 QByteArray line(const SkyKey &key, const QByteArray &value)
 {
     return '[' + QByteArray(key.section.data(), int(key.section.size())) + "]\n" +
            QByteArray(key.name.data(), int(key.name.size())) + " = " + value + '\n';
 }
 
-const SkyKey &keyNamed(const QString &wanted)
-{
-    for (const SkyKey &key : skyKeys())
-        if (name(key) == wanted)
-            return key;
-    qFatal("no such key");
-}
-
-// Empty = the text was taken.
-QString faultOf(const QByteArray &text)
-{
-    try {
-        parse({text.constData(), std::size_t(text.size())});
-    } catch (const SkyFileError &error) {
-        return error.what();
-    }
-    return {};
-}
 } // namespace
 
-class TestSkyFile : public QObject
+class SkyFileTest : public QObject
 {
     Q_OBJECT
 
@@ -62,7 +38,7 @@ private slots:
     void truncatedTextsNeverTakePartOfANumber();
 };
 
-void TestSkyFile::everyKeyIsTaken_data()
+void SkyFileTest::everyKeyIsTaken_data()
 {
     QTest::addColumn<QString>("key");
     QTest::addColumn<QByteArray>("text");
@@ -83,7 +59,7 @@ void TestSkyFile::everyKeyIsTaken_data()
     }
 }
 
-void TestSkyFile::everyKeyIsTaken()
+void SkyFileTest::everyKeyIsTaken()
 {
     QFETCH(QString, key);
     QFETCH(QByteArray, text);
@@ -97,7 +73,7 @@ void TestSkyFile::everyKeyIsTaken()
             QVERIFY(keyText(state, other) != keyText(SkyState(), other));
 }
 
-void TestSkyFile::ranges_data()
+void SkyFileTest::ranges_data()
 {
     QTest::addColumn<QString>("key");
     QTest::addColumn<QByteArray>("text");
@@ -122,7 +98,7 @@ void TestSkyFile::ranges_data()
     }
 }
 
-void TestSkyFile::ranges()
+void SkyFileTest::ranges()
 {
     QFETCH(QString, key);
     QFETCH(QByteArray, text);
@@ -134,7 +110,7 @@ void TestSkyFile::ranges()
                 fault.startsWith("line 2: " + key.section('.', 1) + ": must lie between"));
 }
 
-void TestSkyFile::refused_data()
+void SkyFileTest::refused_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QString>("fault");
@@ -175,7 +151,7 @@ void TestSkyFile::refused_data()
     row("zero byte", QByteArray("[site]\nlat\0 = 3\n", 16), "line 2: lat?: unknown key in [site]");
 }
 
-void TestSkyFile::refused()
+void SkyFileTest::refused()
 {
     QFETCH(QByteArray, text);
     QFETCH(QString, fault);
@@ -184,7 +160,7 @@ void TestSkyFile::refused()
     QVERIFY(!found.isEmpty());
 }
 
-void TestSkyFile::taken_data()
+void SkyFileTest::taken_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<double>("latitude");
@@ -197,7 +173,7 @@ void TestSkyFile::taken_data()
     QTest::newRow("no failures") << QByteArray("[faults]\nfail =\n") << 40.0;
 }
 
-void TestSkyFile::taken()
+void SkyFileTest::taken()
 {
     QFETCH(QByteArray, text);
     QFETCH(double, latitude);
@@ -205,7 +181,7 @@ void TestSkyFile::taken()
     QCOMPARE(parse(text.toStdString()).latitude, latitude);
 }
 
-void TestSkyFile::faultNamesKeyAndLine()
+void SkyFileTest::faultNamesKeyAndLine()
 {
     try {
         parse("[site]\n\nlongitude = 181\n");
@@ -216,7 +192,7 @@ void TestSkyFile::faultNamesKeyAndLine()
     }
 }
 
-void TestSkyFile::defaults()
+void SkyFileTest::defaults()
 {
     const SkyState state = parse("\n");
     QCOMPARE(format(state), format(SkyState()));
@@ -227,7 +203,7 @@ void TestSkyFile::defaults()
     QVERIFY(state.fail.none());
 }
 
-void TestSkyFile::roundTrip()
+void SkyFileTest::roundTrip()
 {
     SkyState state;
     state.latitude = -33.123456789012345;
@@ -245,7 +221,7 @@ void TestSkyFile::roundTrip()
     QVERIFY(back.picture == state.picture);
 }
 
-void TestSkyFile::randomBytesAreRefusedOrTaken()
+void SkyFileTest::randomBytesAreRefusedOrTaken()
 {
     std::mt19937 random(20240523);
     const std::string good = format(SkyState());
@@ -275,7 +251,7 @@ void TestSkyFile::randomBytesAreRefusedOrTaken()
     QVERIFY(refusals > 10000 && refusals < 20000);
 }
 
-void TestSkyFile::truncatedTextsNeverTakePartOfANumber()
+void SkyFileTest::truncatedTextsNeverTakePartOfANumber()
 {
     const std::string text = "[site]\nlatitude = 40.5\nlongitude = 116\n";
     for (std::size_t n = 1; n < text.size(); ++n) {
@@ -287,5 +263,5 @@ void TestSkyFile::truncatedTextsNeverTakePartOfANumber()
     }
 }
 
-QTEST_GUILESS_MAIN(TestSkyFile)
+QTEST_GUILESS_MAIN(SkyFileTest)
 #include "tst_skyfile.moc"

@@ -3,39 +3,11 @@
 #include <QFile>
 #include <QtTest>
 
-#include "virtualcamera/skyfile.h"
-#include "virtualcamera/skykeys.h"
+#include "tests/support/skytext.h"
 
 using namespace virtualsky;
 
-namespace
-{
-QString name(const SkyKey &key)
-{
-    return QString::fromStdString(std::string(key.section) + '.' + std::string(key.name));
-}
-
-const SkyKey &keyNamed(const QString &wanted)
-{
-    for (const SkyKey &key : skyKeys())
-        if (name(key) == wanted)
-            return key;
-    qFatal("no such key");
-}
-
-// Empty = the text was taken.
-QString faultOf(const QByteArray &text)
-{
-    try {
-        parse({text.constData(), std::size_t(text.size())});
-    } catch (const SkyFileError &error) {
-        return error.what();
-    }
-    return {};
-}
-} // namespace
-
-class TestSkyPage : public QObject
+class SkyPageTest : public QObject
 {
     Q_OBJECT
 
@@ -48,7 +20,7 @@ private slots:
     void pageExamplesAreTaken();
 };
 
-void TestSkyPage::dates_data()
+void SkyPageTest::dates_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<double>("seconds"); // -1 = refused
@@ -88,27 +60,27 @@ void TestSkyPage::dates_data()
         row(text, -1.0);
 }
 
-void TestSkyPage::dates()
+void SkyPageTest::dates()
 {
     QFETCH(QByteArray, text);
     QFETCH(double, seconds);
     QCOMPARE(parseDate(text.toStdString()).value_or(-1.0), seconds);
 }
 
-void TestSkyPage::dateRoundTrip()
+void SkyPageTest::dateRoundTrip()
 {
     for (double seconds = 94694400.0; seconds < 4133980799.0; seconds += 8640001.375)
         QCOMPARE(parseDate(formatDate(seconds)).value_or(-1.0), seconds);
 }
 
-void TestSkyPage::pageNamesEveryKey_data()
+void SkyPageTest::pageNamesEveryKey_data()
 {
     QTest::addColumn<QString>("key");
     for (const SkyKey &key : skyKeys())
         QTest::newRow(qPrintable(name(key))) << name(key);
 }
 
-void TestSkyPage::pageNamesEveryKey()
+void SkyPageTest::pageNamesEveryKey()
 {
     QFETCH(QString, key);
     QFile page(QStringLiteral(PROJECT_SOURCE_DIR "/docs/virtual-camera.md"));
@@ -134,7 +106,7 @@ void TestSkyPage::pageNamesEveryKey()
     QFAIL("not on the page");
 }
 
-void TestSkyPage::pageExamplesAreTaken()
+void SkyPageTest::pageExamplesAreTaken()
 {
     QFile page(QStringLiteral(PROJECT_SOURCE_DIR "/docs/virtual-camera.md"));
     QVERIFY(page.open(QIODevice::ReadOnly));
@@ -149,5 +121,5 @@ void TestSkyPage::pageExamplesAreTaken()
     QVERIFY(examples >= 3);
 }
 
-QTEST_GUILESS_MAIN(TestSkyPage)
+QTEST_GUILESS_MAIN(SkyPageTest)
 #include "tst_skypage.moc"

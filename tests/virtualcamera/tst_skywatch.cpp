@@ -46,7 +46,7 @@ public:
 };
 } // namespace
 
-class TestSkyWatch : public QObject
+class SkyWatchTest : public QObject
 {
     Q_OBJECT
 
@@ -72,14 +72,14 @@ private slots:
     void pathIsFound();
 };
 
-void TestSkyWatch::absentFileIsTheDefaults()
+void SkyWatchTest::absentFileIsTheDefaults()
 {
     Fixture f;
     QCOMPARE(format(f.watch.current()), format(SkyState()));
     QVERIFY(f.reports.isEmpty());
 }
 
-void TestSkyWatch::changeArrivesAtOnce()
+void SkyWatchTest::changeArrivesAtOnce()
 {
     Fixture f;
     QCOMPARE(f.latitude(), 40.0);
@@ -90,7 +90,7 @@ void TestSkyWatch::changeArrivesAtOnce()
     QVERIFY(f.reports.isEmpty());
 }
 
-void TestSkyWatch::changeOfTheSameLengthArrivesAtOnce()
+void SkyWatchTest::changeOfTheSameLengthArrivesAtOnce()
 {
     Fixture f;
     f.write("\n");
@@ -100,7 +100,7 @@ void TestSkyWatch::changeOfTheSameLengthArrivesAtOnce()
     }
 }
 
-void TestSkyWatch::changeWithinOneStampArrives()
+void SkyWatchTest::changeWithinOneStampArrives()
 {
     Fixture f;
     f.write("[site]\nlatitude = 10\n");
@@ -114,7 +114,7 @@ void TestSkyWatch::changeWithinOneStampArrives()
     QCOMPARE(f.latitude(), 20.0);
 }
 
-void TestSkyWatch::badFileKeepsTheLastGoodState_data()
+void SkyWatchTest::badFileKeepsTheLastGoodState_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QString>("fault");
@@ -128,7 +128,7 @@ void TestSkyWatch::badFileKeepsTheLastGoodState_data()
                               << "longer than 64 KiB";
 }
 
-void TestSkyWatch::badFileKeepsTheLastGoodState()
+void SkyWatchTest::badFileKeepsTheLastGoodState()
 {
     QFETCH(QByteArray, text);
     QFETCH(QString, fault);
@@ -146,7 +146,7 @@ void TestSkyWatch::badFileKeepsTheLastGoodState()
     QCOMPARE(f.reports.size(), 1);
 }
 
-void TestSkyWatch::faultIsReportedOnce()
+void SkyWatchTest::faultIsReportedOnce()
 {
     Fixture f;
     f.write("[site]\nlatitude = 95\n");
@@ -163,7 +163,7 @@ void TestSkyWatch::faultIsReportedOnce()
     QCOMPARE(f.reports.size(), 2);
 }
 
-void TestSkyWatch::sameFaultAfterAGoodFileIsReportedAgain()
+void SkyWatchTest::sameFaultAfterAGoodFileIsReportedAgain()
 {
     Fixture f;
     for (int i = 0; i < 3; ++i) {
@@ -175,7 +175,7 @@ void TestSkyWatch::sameFaultAfterAGoodFileIsReportedAgain()
     QCOMPARE(f.reports.size(), 3);
 }
 
-void TestSkyWatch::badFileAtTheStartIsTheDefaults()
+void SkyWatchTest::badFileAtTheStartIsTheDefaults()
 {
     Fixture f;
     f.write("nonsense\n");
@@ -183,7 +183,7 @@ void TestSkyWatch::badFileAtTheStartIsTheDefaults()
     QCOMPARE(f.reports.size(), 1);
 }
 
-void TestSkyWatch::removedFileIsTheDefaults()
+void SkyWatchTest::removedFileIsTheDefaults()
 {
     Fixture f;
     f.write("[site]\nlatitude = 5\n");
@@ -193,14 +193,14 @@ void TestSkyWatch::removedFileIsTheDefaults()
     QVERIFY(f.reports.isEmpty());
 }
 
-void TestSkyWatch::strangeFilesAreReported_data()
+void SkyWatchTest::strangeFilesAreReported_data()
 {
     QTest::addColumn<QString>("kind");
     QTest::newRow("folder") << "folder";
     QTest::newRow("pipe") << "pipe";
 }
 
-void TestSkyWatch::strangeFilesAreReported()
+void SkyWatchTest::strangeFilesAreReported()
 {
     QFETCH(QString, kind);
     Fixture f;
@@ -214,7 +214,7 @@ void TestSkyWatch::strangeFilesAreReported()
     QVERIFY(f.reports[0].contains("not an ordinary file"));
 }
 
-void TestSkyWatch::nothingIsReadWithoutAChange()
+void SkyWatchTest::nothingIsReadWithoutAChange()
 {
     Fixture f;
     f.write("[site]\nlatitude = 5\n");
@@ -227,7 +227,7 @@ void TestSkyWatch::nothingIsReadWithoutAChange()
     QCOMPARE(f.latitude(), 5.0);
 }
 
-void TestSkyWatch::writesInOneGo()
+void SkyWatchTest::writesInOneGo()
 {
     Fixture f;
     f.write("[site]\nlatitude = 5\n");
@@ -242,7 +242,7 @@ void TestSkyWatch::writesInOneGo()
     QVERIFY(!(QFileInfo(file.dir().path()).permissions() & (QFile::ReadOther | QFile::WriteOther)));
 }
 
-void TestSkyWatch::writesThroughLinks()
+void SkyWatchTest::writesThroughLinks()
 {
     QTemporaryDir folder;
     const auto in = [&](const char *name) { return folder.filePath(name); };
@@ -259,7 +259,7 @@ void TestSkyWatch::writesThroughLinks()
     QCOMPARE(QDir(in("skies")).entryList(QDir::Files | QDir::Hidden), QStringList("tonight.ini"));
 }
 
-void TestSkyWatch::aRingOfLinksIsAFailure()
+void SkyWatchTest::aRingOfLinksIsAFailure()
 {
     QTemporaryDir folder;
     QVERIFY(QFile::link("b.ini", folder.filePath("a.ini")));
@@ -270,7 +270,7 @@ void TestSkyWatch::aRingOfLinksIsAFailure()
     QVERIFY(QFileInfo(folder.filePath("a.ini")).isSymLink());
 }
 
-void TestSkyWatch::writeFailureLeavesTheFile()
+void SkyWatchTest::writeFailureLeavesTheFile()
 {
     QTemporaryDir folder;
     const std::string blocked = (folder.path() + "/sky.ini").toStdString();
@@ -281,7 +281,7 @@ void TestSkyWatch::writeFailureLeavesTheFile()
     QVERIFY(!writeAtomically("/proc/no/such/folder/sky.ini", "\n"));
 }
 
-void TestSkyWatch::pathIsFound_data()
+void SkyWatchTest::pathIsFound_data()
 {
     QTest::addColumn<QByteArray>("own");
     QTest::addColumn<QByteArray>("runtime");
@@ -295,7 +295,7 @@ void TestSkyWatch::pathIsFound_data()
     QTest::newRow("relative runtime folder") << QByteArray() << QByteArray("run") << fallback;
 }
 
-void TestSkyWatch::pathIsFound()
+void SkyWatchTest::pathIsFound()
 {
     QFETCH(QByteArray, own);
     QFETCH(QByteArray, runtime);
@@ -309,5 +309,5 @@ void TestSkyWatch::pathIsFound()
     QCOMPARE(QString::fromStdString(found), path);
 }
 
-QTEST_GUILESS_MAIN(TestSkyWatch)
+QTEST_GUILESS_MAIN(SkyWatchTest)
 #include "tst_skywatch.moc"

@@ -53,7 +53,7 @@ double textbookRefraction(double zenithDistance)
 }
 } // namespace
 
-class TestTruth : public QObject
+class TruthTest : public QObject
 {
     Q_OBJECT
 
@@ -74,7 +74,7 @@ private slots:
     void rangesEndInDefinedPlaces();
 };
 
-void TestTruth::poleErrorIsTheBolts_data()
+void TruthTest::poleErrorIsTheBolts_data()
 {
     QTest::addColumn<double>("latitude");
     QTest::addColumn<double>("boltAltitude");
@@ -92,7 +92,7 @@ void TestTruth::poleErrorIsTheBolts_data()
     QTest::newRow("both at the equator") << 0.0 << 0.3 << -0.4 << 1080.0 << -1440.0 << 0.1;
 }
 
-void TestTruth::poleErrorIsTheBolts()
+void TruthTest::poleErrorIsTheBolts()
 {
     QFETCH(double, latitude);
     QFETCH(double, boltAltitude);
@@ -110,7 +110,7 @@ void TestTruth::poleErrorIsTheBolts()
     QVERIFY(std::abs(seen.poleError - std::hypot(altitude, azimuth)) < tolerance);
 }
 
-void TestTruth::templateGeometryAgrees_data()
+void TruthTest::templateGeometryAgrees_data()
 {
     QTest::addColumn<bool>("south");
     QTest::addColumn<double>("hour");
@@ -122,7 +122,7 @@ void TestTruth::templateGeometryAgrees_data()
                 << south << hour << (south ? 30.620 : 30.454);
 }
 
-void TestTruth::templateGeometryAgrees()
+void TruthTest::templateGeometryAgrees()
 {
     QFETCH(bool, south);
     QFETCH(double, hour);
@@ -140,7 +140,7 @@ void TestTruth::templateGeometryAgrees()
     QVERIFY2(std::abs(factor * 30.45 - scale) < 0.02, qPrintable(QString::number(factor * 30.45)));
 }
 
-void TestTruth::photographsAgree_data()
+void TruthTest::photographsAgree_data()
 {
     QTest::addColumn<bool>("south");
     QTest::addColumn<QVector<double>>("places"); // A, B, D and pole, x and y each
@@ -151,7 +151,7 @@ void TestTruth::photographsAgree_data()
                                                       699.26, 499.39, 763.84, 334.37};
 }
 
-void TestTruth::photographsAgree()
+void TruthTest::photographsAgree()
 {
     QFETCH(bool, south);
     QFETCH(QVector<double>, places);
@@ -177,7 +177,7 @@ void TestTruth::photographsAgree()
     QVERIFY2(std::abs(factor - 1.0) < 0.01, qPrintable(QString::number(factor)));
 }
 
-void TestTruth::centroidsAgree_data()
+void TruthTest::centroidsAgree_data()
 {
     QTest::addColumn<bool>("south");
     QTest::addColumn<double>("raAngle");
@@ -195,7 +195,7 @@ void TestTruth::centroidsAgree_data()
                     << south << angle << (angle > 100.0) << star << exposures[south ? 1 : 0][star];
 }
 
-void TestTruth::centroidsAgree()
+void TruthTest::centroidsAgree()
 {
     QFETCH(bool, south);
     QFETCH(double, raAngle);
@@ -225,7 +225,7 @@ void TestTruth::centroidsAgree()
     QVERIFY2(distance(found, place) < 0.02, qPrintable(QString::number(distance(found, place))));
 }
 
-void TestTruth::refractionLiftsThePole_data()
+void TruthTest::refractionLiftsThePole_data()
 {
     QTest::addColumn<double>("latitude");
     QTest::addColumn<bool>("on");
@@ -235,7 +235,7 @@ void TestTruth::refractionLiftsThePole_data()
     QTest::newRow("low") << 10.0 << true;
 }
 
-void TestTruth::refractionLiftsThePole()
+void TruthTest::refractionLiftsThePole()
 {
     QFETCH(double, latitude);
     QFETCH(bool, on);
@@ -253,7 +253,7 @@ void TestTruth::refractionLiftsThePole()
     QCOMPARE(seen.poleError, 0.0);
 }
 
-void TestTruth::starsTurnAboutTheRefractedPole()
+void TruthTest::starsTurnAboutTheRefractedPole()
 {
     SkyState state = quietState();
     state.refraction = true;
@@ -266,7 +266,7 @@ void TestTruth::starsTurnAboutTheRefractedPole()
     QVERIFY(distance(between, *first.pole) > 3.0);
 }
 
-void TestTruth::defaultsAreAboutADegreeOff()
+void TruthTest::defaultsAreAboutADegreeOff()
 {
     const Truth seen = truth(SkyState(), may2024);
     QVERIFY(std::abs(seen.poleError - 3600.0) < 200.0);
@@ -274,7 +274,7 @@ void TestTruth::defaultsAreAboutADegreeOff()
         QVERIFY(place && place->x > 50 && place->x < 1230 && place->y > 50 && place->y < 910);
 }
 
-void TestTruth::rangesEndInDefinedPlaces_data()
+void TruthTest::rangesEndInDefinedPlaces_data()
 {
     QTest::addColumn<double>("latitude");
     QTest::addColumn<double>("longitude");
@@ -287,7 +287,7 @@ void TestTruth::rangesEndInDefinedPlaces_data()
     QTest::newRow("just south of it") << -1e-9 << 0.0 << 20.0 << first;
 }
 
-void TestTruth::rangesEndInDefinedPlaces()
+void TruthTest::rangesEndInDefinedPlaces()
 {
     QFETCH(double, latitude);
     QFETCH(double, longitude);
@@ -310,5 +310,5 @@ void TestTruth::rangesEndInDefinedPlaces()
     }
 }
 
-QTEST_GUILESS_MAIN(TestTruth)
+QTEST_GUILESS_MAIN(TruthTest)
 #include "tst_truth.moc"

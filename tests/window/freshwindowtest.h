@@ -2,9 +2,9 @@
 // What do the tests of the wizard begin with? A window that knows nothing of earlier runs.
 #pragma once
 
-#include "mainwindow/mainwindow.h"
 #include "resources/resources.h"
 #include "tests/support/mainwindowprobe.h"
+#include "tests/support/sessionwindow.h"
 #include "tests/window/windowtest.h"
 
 #include <QObject>
@@ -20,13 +20,15 @@ private slots:
     void init()
     {
         removeSettings();
-        window = std::make_unique<MainWindow>();
+        window = std::make_unique<SessionWindow>();
         probe = std::make_unique<MainWindowProbe>(*window);
     }
     void cleanup() { window.reset(); }
     void cleanupTestCase() { removeSettings(); }
 
 protected:
-    std::unique_ptr<MainWindow> window;
+    Session &session() const { return window->ownSession; }
+
+    std::unique_ptr<SessionWindow> window;
     std::unique_ptr<MainWindowProbe> probe;
 };

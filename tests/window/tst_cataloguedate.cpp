@@ -4,9 +4,9 @@
 // The machine's clock is set for this process alone: the toolkit reads the time of day by
 // gettimeofday, and finds the one of this executable first.
 #include "geometry/starcatalogue.h"
-#include "mainwindow/mainwindow.h"
 #include "resources/resources.h"
 #include "tests/support/logrecorder.h"
+#include "tests/support/sessionwindow.h"
 #include "tests/window/windowtest.h"
 
 #include <QDateTime>
@@ -78,7 +78,7 @@ void CatalogueDateTest::localDate()
     QCOMPARE(catalogueEpoch(today), epoch);
     northCatalogue = southCatalogue = StarCatalogue();
     const LogRecorder log;
-    const MainWindow window;
+    const SessionWindow window;
     QVERIFY(log.contains(QtDebugMsg, "Loading star data at " + QString::number(epoch) + "0523"));
     const struct {
         const StarCatalogue &inForce;

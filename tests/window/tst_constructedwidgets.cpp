@@ -2,15 +2,14 @@
 // Which widgets and helpers has the window right after it was made, and how are they set?
 #include "tests/window/windowtest.h"
 
-#include "camera/sharedstate.h"
 #include "dialogs/aboutdialog.h"
 #include "dialogs/astrorefractiondialog.h"
 #include "dialogs/favoritedialog.h"
-#include "dialogs/magnifierwidget.h"
 #include "dialogs/poletrackingdialog.h"
-#include "mainwindow/mainwindow.h"
 #include "resources/resources.h"
 #include "tests/support/mainwindowprobe.h"
+#include "tests/support/sessionwindow.h"
+#include "widgets/magnifierwidget.h"
 
 #include <QActionGroup>
 #include <QGraphicsDropShadowEffect>
@@ -59,7 +58,7 @@ private slots:
 
 void ConstructedWidgetsTest::idleVisibility()
 {
-    MainWindow window;
+    SessionWindow window;
     window.show();
     for (const char *const name : {"label_templateImg", "directionArrow", "tabWidget_tipMsg"})
         QVERIFY2(!named<QWidget>(window, name).isVisible(), name);
@@ -102,7 +101,7 @@ void ConstructedWidgetsTest::actions()
 {
     QFETCH(bool, isEnabled);
     QFETCH(bool, isVisible);
-    const MainWindow window;
+    const SessionWindow window;
     const auto &action = named<QAction>(window, QTest::currentDataTag());
     QCOMPARE(action.isEnabled(), isEnabled);
     QCOMPARE(action.isVisible(), isVisible);
@@ -120,7 +119,7 @@ void ConstructedWidgetsTest::sectionsAreShut_data()
 void ConstructedWidgetsTest::sectionsAreShut()
 {
     QFETCH(QString, section);
-    const MainWindow window;
+    const SessionWindow window;
     const auto &head = named<QPushButton>(window, "pushButton_head_" + section);
     QVERIFY(!head.isChecked());
     QVERIFY(!head.isEnabled());
@@ -130,17 +129,18 @@ void ConstructedWidgetsTest::sectionsAreShut()
 
 void ConstructedWidgetsTest::wizardRestsInStepOne()
 {
-    overlayFlags.showAxisMark = true;
-    overlayFlags.monitorTracking = true;
-    MainWindow window;
+    Session session;
+    session.overlayFlags.showAxisMark = true;
+    session.overlayFlags.monitorTracking = true;
+    MainWindow window(session);
     QCOMPARE(window.step(), 1);
     const auto &pages = named<QTabWidget>(window, "tabWidget_tipMsg");
     QCOMPARE(pages.currentIndex(), 0);
     QCOMPARE(pages.count(), 13);
     QVERIFY(!isOpen(*pages.tabBar()));
     QCOMPARE(pages.parentWidget()->objectName(), QString("scrollArea_showImg"));
-    QVERIFY(!overlayFlags.showAxisMark);
-    QVERIFY(!overlayFlags.monitorTracking);
+    QVERIFY(!session.overlayFlags.showAxisMark);
+    QVERIFY(!session.overlayFlags.monitorTracking);
     QCOMPARE(MainWindowProbe(window).rotateValue(), 0);
 }
 
@@ -160,7 +160,7 @@ void ConstructedWidgetsTest::timers()
     QFETCH(int, which);
     QFETCH(int, interval);
     QFETCH(bool, isActive);
-    MainWindow window;
+    SessionWindow window;
     const MainWindowProbe probe(window);
     const QTimer *const timers[] = {&probe.frameTimer(), &probe.fpsTimer(), &probe.angleTimer(),
                                     &probe.effectTimer()};
@@ -181,7 +181,7 @@ void ConstructedWidgetsTest::shadows_data()
 void ConstructedWidgetsTest::shadows()
 {
     QFETCH(QString, slider);
-    const MainWindow window;
+    const SessionWindow window;
     const auto *const shadow = qobject_cast<const QGraphicsDropShadowEffect *>(
         named<QSlider>(window, slider).graphicsEffect());
     QVERIFY(shadow);
@@ -202,7 +202,7 @@ void ConstructedWidgetsTest::validators_data()
 void ConstructedWidgetsTest::validators()
 {
     QFETCH(QString, name);
-    MainWindow window;
+    SessionWindow window;
     auto &edit = named<QLineEdit>(window, name);
     const auto *const validator = qobject_cast<const QRegExpValidator *>(edit.validator());
     QVERIFY(validator);
@@ -216,7 +216,7 @@ void ConstructedWidgetsTest::validators()
 
 void ConstructedWidgetsTest::statusBar()
 {
-    const MainWindow window;
+    const SessionWindow window;
     for (const char *const name : {"positionLabel", "fpsLabel"}) {
         const auto &label = named<QLabel>(window, name);
         QCOMPARE(label.minimumSize(), QSize(85, 18));
@@ -230,7 +230,7 @@ void ConstructedWidgetsTest::statusBar()
 
 void ConstructedWidgetsTest::imageArea()
 {
-    const MainWindow window;
+    const SessionWindow window;
     const auto &contents = named<QWidget>(window, "scrollAreaWidgetContents_showImg");
     const auto *const grid = qobject_cast<QGridLayout *>(contents.layout());
     QVERIFY(grid);
@@ -255,7 +255,7 @@ void ConstructedWidgetsTest::imageArea()
 
 void ConstructedWidgetsTest::magnifier()
 {
-    MainWindow window;
+    SessionWindow window;
     window.show();
     auto *const magnifier = window.findChild<MagnifierWidget *>();
     QVERIFY(magnifier);
@@ -278,7 +278,7 @@ void ConstructedWidgetsTest::arrowFollowsZoom()
 {
     QFETCH(double, factor);
     writeIni(settingsFilePath(), {"[ZOOM]", "factor=" + QString::number(factor)});
-    const MainWindow window;
+    const SessionWindow window;
     const QSize natural = QPixmap(":/images/direction.png").size();
     const QSize shown = named<QLabel>(window, "directionArrow").pixmap(Qt::ReturnByValue).size();
     QCOMPARE(shown, natural.scaled(int(natural.width() * factor), int(natural.height() * factor),
@@ -295,7 +295,7 @@ void ConstructedWidgetsTest::actionGroups_data()
 void ConstructedWidgetsTest::actionGroups()
 {
     QFETCH(QString, checked);
-    const MainWindow window;
+    const SessionWindow window;
     const auto &menu = named<QMenu>(window, QTest::currentDataTag());
     const auto *const group = menu.findChild<QActionGroup *>();
     QVERIFY(group);
@@ -306,7 +306,7 @@ void ConstructedWidgetsTest::actionGroups()
 
 void ConstructedWidgetsTest::player()
 {
-    const MainWindow window;
+    const SessionWindow window;
     const auto *const player = window.findChild<QMediaPlayer *>();
     const auto *const playlist = window.findChild<QMediaPlaylist *>();
     QVERIFY(player);
@@ -323,7 +323,7 @@ void ConstructedWidgetsTest::player()
 
 void ConstructedWidgetsTest::dialogs()
 {
-    const MainWindow window;
+    const SessionWindow window;
     const QList<QDialog *> dialogs{
         window.findChild<AboutDialog *>(), window.findChild<AstroRefractionDialog *>(),
         window.findChild<PoleTrackingDialog *>(), window.findChild<FavoriteDialog *>()};

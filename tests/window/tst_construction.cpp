@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: MIT
 // What is in force right after the window was made, for each kind of settings file?
+#include "tests/support/boxwatcher.h"
 #include "tests/window/windowtest.h"
 
-#include "camera/camerastate.h"
-#include "camera/frames.h"
-#include "camera/sharedstate.h"
 #include "geometry/starcatalogue.h"
-#include "mainwindow/mainwindow.h"
 #include "resources/resources.h"
+#include "tests/support/capturethreadprobe.h"
 #include "tests/support/logrecorder.h"
 #include "tests/support/mainwindowprobe.h"
+#include "tests/support/sessionwindow.h"
 
 #include <QGraphicsDropShadowEffect>
 #include <QMenu>
@@ -44,44 +43,48 @@ private slots:
 
 void ConstructionTest::sharedValues()
 {
-    cameraState.exposure = cameraState.gain = cameraState.speed = cameraState.usbTraffic = -1;
-    cameraState.bits = cameraState.roiWidth = cameraState.roiHeight = 99;
-    cameraState.binX = cameraState.binY = cameraState.roiX = cameraState.roiY = 99;
-    alignmentPoints.savedAxisCenter = QPointF(7, 7);
-    const MainWindow window;
-    QCOMPARE(cameraState.exposure, 20000.0);
-    QCOMPARE(cameraState.gain, 1.0);
-    QCOMPARE(cameraState.speed, 0.0);
-    QCOMPARE(cameraState.usbTraffic, 30.0);
-    QCOMPARE(cameraState.bits, 8U);
-    QCOMPARE(cameraState.binX, 1U);
-    QCOMPARE(cameraState.binY, 1U);
-    QCOMPARE(cameraState.roiX, 0U);
-    QCOMPARE(cameraState.roiY, 0U);
-    QCOMPARE(cameraState.roiWidth, 1280U);
-    QCOMPARE(cameraState.roiHeight, 960U);
-    QCOMPARE(bool(cameraState.cameraConnected), false);
+    Session session;
+    session.camera.exposure = session.camera.gain = session.camera.speed =
+        session.camera.usbTraffic = -1;
+    session.camera.bits = session.camera.roiWidth = session.camera.roiHeight = 99;
+    session.camera.binX = session.camera.binY = session.camera.roiX = session.camera.roiY = 99;
+    session.alignmentPoints.savedAxisCenter = QPointF(7, 7);
+    MainWindow window(session);
+    QCOMPARE(session.camera.exposure, 20000.0);
+    QCOMPARE(session.camera.gain, 1.0);
+    QCOMPARE(session.camera.speed, 0.0);
+    QCOMPARE(session.camera.usbTraffic, 30.0);
+    QCOMPARE(session.camera.bits, 8U);
+    QCOMPARE(session.camera.binX, 1U);
+    QCOMPARE(session.camera.binY, 1U);
+    QCOMPARE(session.camera.roiX, 0U);
+    QCOMPARE(session.camera.roiY, 0U);
+    QCOMPARE(session.camera.roiWidth, 1280U);
+    QCOMPARE(session.camera.roiHeight, 960U);
+    QCOMPARE(bool(session.camera.cameraConnected), false);
     const auto matches = [](const cv::Mat &mat, int width, int height, int channels) {
         return mat.cols == width && mat.rows == height && mat.channels() == channels &&
                mat.depth() == CV_8U;
     };
-    QVERIFY(matches(frameMatrices.colourFrame, 1280, 960, 3));
-    QVERIFY(matches(frameMatrices.enlargedGrey, 6400, 4800, 1));
-    QVERIFY(matches(frameMatrices.enlargedColour, 6400, 4800, 3));
-    QVERIFY(matches(frameMatrices.magnifierCrop, 200, 200, 3));
-    QCOMPARE(float(refractionSettings.latitude), 39.9F);
-    QCOMPARE(float(refractionSettings.longitude), 116.3F);
-    QCOMPARE(float(refractionSettings.P), 101.0F);
-    QCOMPARE(float(refractionSettings.T), 10.0F);
-    QCOMPARE(bool(refractionSettings.enabledCorrect), false);
-    QCOMPARE(refractionSettings.P_unit, QString("kPa"));
-    QCOMPARE(QPointF(alignmentPoints.savedAxisCenter), QPointF(0, 0));
+    const FrameMatrices &matrices =
+        CaptureThreadProbe(MainWindowProbe(window).captureThread()).matrices();
+    QVERIFY(matches(matrices.colourFrame, 1280, 960, 3));
+    QVERIFY(matches(matrices.enlargedGrey, 6400, 4800, 1));
+    QVERIFY(matches(matrices.enlargedColour, 6400, 4800, 3));
+    QVERIFY(matches(matrices.magnifierCrop, 200, 200, 3));
+    QCOMPARE(float(session.refraction.latitude), 39.9F);
+    QCOMPARE(float(session.refraction.longitude), 116.3F);
+    QCOMPARE(float(session.refraction.P), 101.0F);
+    QCOMPARE(float(session.refraction.T), 10.0F);
+    QCOMPARE(bool(session.refraction.enabledCorrect), false);
+    QCOMPARE(session.refraction.P_unit, QString("kPa"));
+    QCOMPARE(QPointF(session.alignmentPoints.savedAxisCenter), QPointF(0, 0));
 }
 
 /// What the window draws on without a camera, and the thread that it owns by itself.
 void ConstructionTest::picturesAndThread()
 {
-    MainWindow window;
+    SessionWindow window;
     const MainWindowProbe probe(window);
     QCOMPARE(probe.blankImage().size(), QSize(1280, 960));
     QCOMPARE(probe.blankImage().format(), QImage::Format_ARGB32);
@@ -95,7 +98,7 @@ void ConstructionTest::order()
 {
     writeIni(settingsFilePath(), {"[STYLE]", "style=Mono", "[LANGUAGE]", "lang=EN"});
     const LogRecorder log;
-    const MainWindow window;
+    const SessionWindow window;
     static const QRegularExpression stage(
         "Loading star data|change region|mono style|current language|InitVELDIX");
     QStringList found;
@@ -134,7 +137,7 @@ void ConstructionTest::zoom()
     QFETCH(QPoint, click);
     if (!file.isEmpty())
         writeIni(settingsFilePath(), file);
-    MainWindow window;
+    SessionWindow window;
     const MainWindowProbe probe(window);
     QCOMPARE(probe.clickViewPos(), click);
     QCOMPARE(probe.templateCenter(), QPointF(640, 480));
@@ -171,7 +174,7 @@ void ConstructionTest::languages()
     const QString code = QTest::currentDataTag();
     writeIni(settingsFilePath(), {"[LANGUAGE]", "lang=" + code});
     const LogRecorder log;
-    MainWindow window;
+    SessionWindow window;
     QCOMPARE(MainWindowProbe(window).languageCode(), code);
     const QList<QAction *> actions = named<QMenu>(window, "menuLanguage").actions();
     QCOMPARE(actions.size(), 10);
@@ -200,7 +203,7 @@ void ConstructionTest::regions()
     if (!file.isEmpty())
         writeIni(settingsFilePath(), file);
     const LogRecorder log;
-    MainWindow window;
+    SessionWindow window;
     const QString name = isNorth ? "North" : "South";
     QCOMPARE(named<QRadioButton>(window, "radioButton_north").isChecked(), isNorth);
     QCOMPARE(named<QRadioButton>(window, "radioButton_south").isChecked(), !isNorth);
@@ -229,10 +232,10 @@ void ConstructionTest::styles()
     QFETCH(bool, isMono);
     const QString name = QTest::currentDataTag();
     writeIni(settingsFilePath(), {"[STYLE]", "style=" + name});
-    MainWindow window;
+    SessionWindow window;
     QCOMPARE(MainWindowProbe(window).styleName(), name);
     QCOMPARE(named<QAction>(window, "actionMono_Style").isChecked(), isMono);
-    QCOMPARE(bool(overlayFlags.monoStyle), isMono);
+    QCOMPARE(bool(window.ownSession.overlayFlags.monoStyle), isMono);
     QVERIFY(shows(named<QLabel>(window, "label_precise_poleIcon"),
                   isMono ? ":/images/pole.png" : ":/images/pole_color.png"));
     QVERIFY(shows(named<QLabel>(window, "label_precise_axisIcon"),
@@ -250,16 +253,16 @@ void ConstructionTest::styles()
 void ConstructionTest::sdkMissing()
 {
     const LogRecorder log;
-    MainWindow window;
-    if (cameraState.sdkReady)
+    SessionWindow window;
+    if (window.ownSession.camera.sdkReady)
         QSKIP("a camera library lies on the loader's path");
     QCOMPARE(log.texts(QtCriticalMsg).filter("InitVELDIX"),
              QStringList{"InitVELDIXResource: failed"});
     QVERIFY(!log.texts(QtDebugMsg).contains("InitVELDIXSDK success"));
-    const BoxAnswerer boxes(QMessageBox::Ok);
+    const BoxWatcher boxes(QMessageBox::Ok);
     named<QAction>(window, "actionConnect").trigger();
-    QCOMPARE(boxes.seen.count, 0);
-    QVERIFY(!cameraState.cameraConnected);
+    QCOMPARE(boxes.boxes().size(), 0);
+    QVERIFY(!window.ownSession.camera.cameraConnected);
     QCOMPARE(named<QAction>(window, "actionConnect").text(), QString("Connect"));
 }
 
@@ -274,14 +277,15 @@ void ConstructionTest::poleDataFollowsRegion()
 {
     QFETCH(QString, region);
     writeIni(settingsFilePath(), {"[REGION]", "region=" + region});
-    alignmentPoints.angleBAP = 0;
-    alignmentPoints.angleABP = 0;
-    const MainWindow window;
+    Session session;
+    session.alignmentPoints.angleBAP = 0;
+    session.alignmentPoints.angleABP = 0;
+    const MainWindow window(session);
     const StarCatalogue &stars = region == "North" ? northCatalogue : southCatalogue;
     QVERIFY(stars.angleBAP > 0);
     QVERIFY(northCatalogue.angleBAP != southCatalogue.angleBAP);
-    QCOMPARE(double(alignmentPoints.angleBAP), stars.angleBAP);
-    QCOMPARE(double(alignmentPoints.angleABP), stars.angleABP);
+    QCOMPARE(double(session.alignmentPoints.angleBAP), stars.angleBAP);
+    QCOMPARE(double(session.alignmentPoints.angleABP), stars.angleABP);
     QVERIFY(stars.templatePoleX > 0);
     QVERIFY(stars.templatePoleY > 0);
 }
@@ -290,7 +294,7 @@ void ConstructionTest::poleDataFollowsRegion()
 void ConstructionTest::templatePolesInOrder()
 {
     const LogRecorder log;
-    const MainWindow window;
+    const SessionWindow window;
     QStringList found;
     for (const QString &text : log.texts(QtDebugMsg))
         if (text.startsWith("Loading star data at ") || text.contains(" pole in template "))
@@ -309,7 +313,7 @@ void ConstructionTest::templatePoleIsMarked()
 {
     QFETCH(QString, region);
     writeIni(settingsFilePath(), {"[REGION]", "region=" + region});
-    const MainWindow window;
+    const SessionWindow window;
     const auto pixels = [](const QImage &image) {
         return image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
     };

@@ -4,9 +4,9 @@
 #include "dialogs/astrorefractiondialog.h"
 #include "dialogs/favoritedialog.h"
 #include "dialogs/poletrackingdialog.h"
-#include "mainwindow/mainwindow.h"
 #include "resources/resources.h"
 #include "tests/support/logrecorder.h"
+#include "tests/support/sessionwindow.h"
 #include "tests/window/windowtest.h"
 
 #include <QCheckBox>
@@ -17,10 +17,10 @@
 
 namespace
 {
-std::unique_ptr<QDialog> makeDialog(const QString &name)
+std::unique_ptr<QDialog> makeDialog(const QString &name, RefractionSettings &refraction)
 {
     if (name == "refraction")
-        return std::make_unique<AstroRefractionDialog>();
+        return std::make_unique<AstroRefractionDialog>(refraction);
     if (name == "tracking")
         return std::make_unique<PoleTrackingDialog>();
     if (name == "about")
@@ -90,7 +90,8 @@ void DialogsTest::frames()
 {
     QFETCH(QSize, size);
     QFETCH(QString, title);
-    const auto dialog = makeDialog(QTest::currentDataTag());
+    RefractionSettings refraction;
+    const auto dialog = makeDialog(QTest::currentDataTag(), refraction);
     QCOMPARE(dialog->size(), size);
     QCOMPARE(dialog->minimumSize(), size);
     QCOMPARE(dialog->maximumSize(), size);
@@ -162,7 +163,8 @@ void DialogsTest::widgets()
     QFETCH(QString, className);
     QFETCH(QRect, place);
     QFETCH(QString, text);
-    const auto made = makeDialog(dialog);
+    RefractionSettings refraction;
+    const auto made = makeDialog(dialog, refraction);
     const auto &widget = named<QWidget>(*made, QString(QTest::currentDataTag()).section(' ', 1, 1));
     QCOMPARE(QString(widget.metaObject()->className()), className);
     QCOMPARE(widget.geometry(), place);
@@ -183,7 +185,8 @@ void DialogsTest::allWidgetsAreNamed_data()
 void DialogsTest::allWidgetsAreNamed()
 {
     QFETCH(int, count);
-    const auto dialog = makeDialog(QTest::currentDataTag());
+    RefractionSettings refraction;
+    const auto dialog = makeDialog(QTest::currentDataTag(), refraction);
     const auto widgets = dialog->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
     QCOMPARE(widgets.size(), count);
 }
@@ -300,7 +303,7 @@ void DialogsTest::aboutOk()
 
 void DialogsTest::favouriteHasNoEffect()
 {
-    MainWindow window;
+    SessionWindow window;
     auto &box = named<QCheckBox>(window, "cBox_playMusic");
     QCOMPARE(box.text(), QString("Play Music"));
     const LogRecorder log;
@@ -324,7 +327,7 @@ void DialogsTest::shownFromTheMenu_data()
 void DialogsTest::shownFromTheMenu()
 {
     QFETCH(QString, slot);
-    MainWindow window;
+    SessionWindow window;
     const auto dialogs = window.findChildren<QDialog *>();
     for (int round = 0; round < 2; ++round) {
         QVERIFY(QMetaObject::invokeMethod(&window, slot.toLatin1()));
@@ -340,7 +343,7 @@ void DialogsTest::shownFromTheMenu()
 /// What the player can tell where no sound service is there: the action reaches it, at volume 0.
 void DialogsTest::sound()
 {
-    MainWindow window;
+    SessionWindow window;
     auto &player = *window.findChild<QMediaPlayer *>();
     auto &action = named<QAction>(window, "actionPlay_Audio");
     action.trigger();

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Which pixels does the magnifier paint?
-#include "dialogs/magnifierwidget.h"
 #include "tests/support/logrecorder.h"
 #include "tests/support/patience.h"
+#include "widgets/magnifierwidget.h"
 
 #include <QImage>
 #include <QPainter>

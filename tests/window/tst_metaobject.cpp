@@ -3,9 +3,9 @@
 #include "dialogs/aboutdialog.h"
 #include "dialogs/astrorefractiondialog.h"
 #include "dialogs/favoritedialog.h"
-#include "dialogs/magnifierwidget.h"
 #include "dialogs/poletrackingdialog.h"
 #include "mainwindow/mainwindow.h"
+#include "widgets/magnifierwidget.h"
 
 #include <QMetaMethod>
 #include <QtTest>

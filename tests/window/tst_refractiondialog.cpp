@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Does the refraction dialog write what it shows, within its ranges and in the right unit?
-#include "camera/sharedstate.h"
 #include "dialogs/astrorefractiondialog.h"
-#include "mainwindow/mainwindow.h"
 #include "resources/resources.h"
+#include "tests/support/sessionwindow.h"
 #include "tests/window/windowtest.h"
 
 #include <QCheckBox>
@@ -38,17 +37,21 @@ private slots:
     void resetGivesTheTexts();
     void throughTheWindow_data();
     void throughTheWindow();
+
+private:
+    std::unique_ptr<RefractionSettings> settings;
 };
 
 /// The record as it is without a settings file.
 void RefractionDialogTest::init()
 {
-    refractionSettings.latitude = 39.9F;
-    refractionSettings.longitude = 116.3F;
-    refractionSettings.P = 101.0F;
-    refractionSettings.T = 10.0F;
-    refractionSettings.enabledCorrect = false;
-    refractionSettings.P_unit = "kPa";
+    settings = std::make_unique<RefractionSettings>();
+    settings->latitude = 39.9F;
+    settings->longitude = 116.3F;
+    settings->P = 101.0F;
+    settings->T = 10.0F;
+    settings->enabledCorrect = false;
+    settings->P_unit = "kPa";
 }
 
 void RefractionDialogTest::spinBoxes_data()
@@ -67,7 +70,7 @@ void RefractionDialogTest::spinBoxes()
     QFETCH(double, minimum);
     QFETCH(double, maximum);
     QFETCH(double, value);
-    const AstroRefractionDialog dialog;
+    const AstroRefractionDialog dialog(*settings);
     const auto &box = named<QDoubleSpinBox>(dialog, QTest::currentDataTag());
     QCOMPARE(box.minimum(), minimum);
     QCOMPARE(box.maximum(), maximum);
@@ -78,7 +81,7 @@ void RefractionDialogTest::spinBoxes()
 
 void RefractionDialogTest::comboBox()
 {
-    const AstroRefractionDialog dialog;
+    const AstroRefractionDialog dialog(*settings);
     const auto &box = named<QComboBox>(dialog, "comboBox_presure");
     QCOMPARE(box.count(), 2);
     QCOMPARE(box.itemText(0), QString("P(kPa)"));
@@ -107,23 +110,23 @@ void RefractionDialogTest::loadedValues()
 {
     QFETCH(QList<double>, stored);
     QFETCH(QList<double>, shown);
-    AstroRefractionDialog dialog;
-    refractionSettings.latitude = float(stored[0]);
-    refractionSettings.longitude = float(stored[1]);
-    refractionSettings.P = float(stored[2]);
-    refractionSettings.T = float(stored[3]);
-    refractionSettings.enabledCorrect = true;
+    AstroRefractionDialog dialog(*settings);
+    settings->latitude = float(stored[0]);
+    settings->longitude = float(stored[1]);
+    settings->P = float(stored[2]);
+    settings->T = float(stored[3]);
+    settings->enabledCorrect = true;
     dialog.initValues();
     const char *const names[] = {"doubleSpinBox_latitude", "doubleSpinBox_longitude",
                                  "doubleSpinBox_presure", "doubleSpinBox_temperature"};
     for (int i = 0; i < 4; ++i)
         QCOMPARE(named<QDoubleSpinBox>(dialog, names[i]).value(), shown[i]);
-    QCOMPARE(float(refractionSettings.latitude), float(shown[0]));
-    QCOMPARE(float(refractionSettings.longitude), float(shown[1]));
-    QCOMPARE(float(refractionSettings.P), float(shown[2]));
-    QCOMPARE(float(refractionSettings.T), float(shown[3]));
+    QCOMPARE(float(settings->latitude), float(shown[0]));
+    QCOMPARE(float(settings->longitude), float(shown[1]));
+    QCOMPARE(float(settings->P), float(shown[2]));
+    QCOMPARE(float(settings->T), float(shown[3]));
     QVERIFY(named<QCheckBox>(dialog, "checkBox_enableAstroRef").isChecked());
-    QVERIFY(refractionSettings.enabledCorrect);
+    QVERIFY(settings->enabledCorrect);
     QCOMPARE(named<QComboBox>(dialog, "comboBox_presure").currentIndex(), 0);
 }
 
@@ -141,24 +144,23 @@ void RefractionDialogTest::editedValues_data()
 void RefractionDialogTest::editedValues()
 {
     QFETCH(QList<float>, record);
-    AstroRefractionDialog dialog;
+    AstroRefractionDialog dialog(*settings);
     dialog.initValues();
     const QString name = QTest::currentDataTag();
     named<QDoubleSpinBox>(dialog, name).setValue(name.endsWith("presure") ? 95.5 : 47.75);
-    const QList<float> found{refractionSettings.latitude, refractionSettings.longitude,
-                             refractionSettings.P, refractionSettings.T};
+    const QList<float> found{settings->latitude, settings->longitude, settings->P, settings->T};
     QCOMPARE(found, record);
 }
 
 void RefractionDialogTest::checkBoxActsAtOnce()
 {
-    AstroRefractionDialog dialog;
+    AstroRefractionDialog dialog(*settings);
     dialog.initValues();
     auto &box = named<QCheckBox>(dialog, "checkBox_enableAstroRef");
     box.click();
-    QVERIFY(refractionSettings.enabledCorrect);
+    QVERIFY(settings->enabledCorrect);
     box.click();
-    QVERIFY(!refractionSettings.enabledCorrect);
+    QVERIFY(!settings->enabledCorrect);
 }
 
 void RefractionDialogTest::unitChange_data()
@@ -182,7 +184,7 @@ void RefractionDialogTest::unitChange()
     QFETCH(QList<int>, indices);
     QFETCH(double, kilopascal);
     QFETCH(double, expected);
-    AstroRefractionDialog dialog;
+    AstroRefractionDialog dialog(*settings);
     dialog.initValues();
     auto &pressure = named<QDoubleSpinBox>(dialog, "doubleSpinBox_presure");
     auto &unit = named<QComboBox>(dialog, "comboBox_presure");
@@ -190,17 +192,17 @@ void RefractionDialogTest::unitChange()
     for (const int index : indices)
         unit.setCurrentIndex(index);
     QCOMPARE(pressure.value(), expected);
-    QCOMPARE(float(refractionSettings.P), float(expected));
+    QCOMPARE(float(settings->P), float(expected));
     QCOMPARE(pressure.minimum(), indices.last() == 1 ? 900.0 : 90.0);
     QCOMPARE(pressure.maximum(), indices.last() == 1 ? 1100.0 : 110.0);
 }
 
 void RefractionDialogTest::unitChangeKeepsTheUnitsName()
 {
-    AstroRefractionDialog dialog;
+    AstroRefractionDialog dialog(*settings);
     dialog.initValues();
     named<QComboBox>(dialog, "comboBox_presure").setCurrentIndex(1);
-    QCOMPARE(refractionSettings.P_unit, QString("kPa"));
+    QCOMPARE(settings->P_unit, QString("kPa"));
 }
 
 void RefractionDialogTest::hectopascalAtStart_data()
@@ -222,14 +224,14 @@ void RefractionDialogTest::hectopascalAtStart()
     QFETCH(double, stored);
     QFETCH(int, index);
     QFETCH(double, shown);
-    AstroRefractionDialog dialog;
-    refractionSettings.P_unit = unit;
-    refractionSettings.P = float(stored);
+    AstroRefractionDialog dialog(*settings);
+    settings->P_unit = unit;
+    settings->P = float(stored);
     dialog.initValues();
     QCOMPARE(named<QComboBox>(dialog, "comboBox_presure").currentIndex(), index);
     QCOMPARE(named<QDoubleSpinBox>(dialog, "doubleSpinBox_presure").value(), shown);
-    QCOMPARE(float(refractionSettings.P), float(shown));
-    QCOMPARE(refractionSettings.P_unit, unit);
+    QCOMPARE(float(settings->P), float(shown));
+    QCOMPARE(settings->P_unit, unit);
 }
 
 void RefractionDialogTest::noEntryBeyondTheRange_data()
@@ -249,7 +251,7 @@ void RefractionDialogTest::noEntryBeyondTheRange()
     QFETCH(QString, typed);
     QFETCH(double, least);
     QFETCH(double, most);
-    AstroRefractionDialog dialog;
+    AstroRefractionDialog dialog(*settings);
     dialog.initValues();
     auto &box = named<QDoubleSpinBox>(dialog, QString(QTest::currentDataTag()).section(' ', 0, 0));
     box.selectAll();
@@ -261,7 +263,7 @@ void RefractionDialogTest::noEntryBeyondTheRange()
 
 void RefractionDialogTest::resetKeepsValues()
 {
-    AstroRefractionDialog dialog;
+    AstroRefractionDialog dialog(*settings);
     dialog.initValues();
     auto &unit = named<QComboBox>(dialog, "comboBox_presure");
     unit.setCurrentIndex(1);
@@ -294,7 +296,7 @@ void RefractionDialogTest::resetGivesTheTexts_data()
 void RefractionDialogTest::resetGivesTheTexts()
 {
     QFETCH(QString, text);
-    AstroRefractionDialog dialog;
+    AstroRefractionDialog dialog(*settings);
     auto &widget = named<QWidget>(dialog, QTest::currentDataTag());
     QVERIFY(widget.setProperty("text", "changed"));
     dialog.uiReset();
@@ -327,9 +329,9 @@ void RefractionDialogTest::throughTheWindow()
     QFETCH(float, inForce);
     QFETCH(QString, saved);
     writeIni(settingsFilePath(), {"[ASTRONOMICAL_REFRACTION]", "P=" + stored, "P_unit=" + unit});
-    MainWindow window;
-    QCOMPARE(float(refractionSettings.P), inForce);
-    QCOMPARE(refractionSettings.P_unit, unit);
+    SessionWindow window;
+    QCOMPARE(float(window.ownSession.refraction.P), inForce);
+    QCOMPARE(window.ownSession.refraction.P_unit, unit);
     QCOMPARE(named<QDoubleSpinBox>(window, "doubleSpinBox_presure").value(), double(inForce));
     QCOMPARE(named<QComboBox>(window, "comboBox_presure").currentIndex(), unit == "hPa" ? 1 : 0);
     window.close();

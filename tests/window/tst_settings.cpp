@@ -1,12 +1,8 @@
 // SPDX-License-Identifier: MIT
 // What is read from the settings file, what is written, and when?
+#include "tests/support/sessionwindow.h"
 #include "tests/window/windowtest.h"
 
-#include "camera/camerastate.h"
-#include "camera/frames.h"
-#include "camera/locker.h"
-#include "camera/sharedstate.h"
-#include "mainwindow/mainwindow.h"
 #include "resources/resources.h"
 #include "tests/support/mainwindowprobe.h"
 #include "tests/support/patience.h"
@@ -307,14 +303,14 @@ void SettingsTest::unwritablePath()
 
 void SettingsTest::firstStartMakesNoFile()
 {
-    const MainWindow window;
+    const SessionWindow window;
     QTest::qWait(0);
     QVERIFY(!QFile::exists(settingsFilePath()));
 }
 
 void SettingsTest::closeWritesDefaults()
 {
-    MainWindow window;
+    SessionWindow window;
     window.show();
     window.close();
     QCOMPARE(entriesOf(settingsFilePath()), sorted(defaultFile));
@@ -322,7 +318,7 @@ void SettingsTest::closeWritesDefaults()
 
 void SettingsTest::closeWritesWhatIsInForce()
 {
-    MainWindow window;
+    SessionWindow window;
     named<QAction>(window, "actionMono_Style").trigger();
     named<QAction>(window, "actionItalian").trigger();
     named<QRadioButton>(window, "radioButton_south").click();
@@ -332,7 +328,7 @@ void SettingsTest::closeWritesWhatIsInForce()
     named<QDoubleSpinBox>(window, "doubleSpinBox_presure").setValue(99.75);
     named<QDoubleSpinBox>(window, "doubleSpinBox_temperature").setValue(-4.5);
     named<QCheckBox>(window, "checkBox_enableAstroRef").setChecked(true);
-    alignmentPoints.savedAxisCenter = QPointF(601.25, 1234.5678);
+    window.ownSession.alignmentPoints.savedAxisCenter = QPointF(601.25, 1234.5678);
     named<QAction>(window, "actionExit").trigger();
     const QStringList expected{"STYLE/style=Mono",
                                "LANGUAGE/lang=IT",
@@ -354,7 +350,7 @@ void SettingsTest::nothingIsSavedBeforeClose()
     const IniLines before{"[REGION]", "region=North"};
     writeIni(settingsFilePath(), before);
     {
-        MainWindow window;
+        SessionWindow window;
         named<QRadioButton>(window, "radioButton_south").click();
         named<QDoubleSpinBox>(window, "doubleSpinBox_latitude").setValue(10);
         QTest::qWait(50);
@@ -366,11 +362,11 @@ void SettingsTest::nothingIsSavedBeforeClose()
 void SettingsTest::partialFileInTheWindow()
 {
     writeIni(settingsFilePath(), {"[ASTRONOMICAL_REFRACTION]", "T=-5", "[ZOOM]", "factor=0.5"});
-    MainWindow window;
+    SessionWindow window;
     QCOMPARE(MainWindowProbe(window).zoomFactor(), 0.5F);
-    QCOMPARE(float(refractionSettings.T), -5.0F);
-    QCOMPARE(float(refractionSettings.P), 101.0F);
-    QCOMPARE(float(refractionSettings.latitude), 39.9F);
+    QCOMPARE(float(window.ownSession.refraction.T), -5.0F);
+    QCOMPARE(float(window.ownSession.refraction.P), 101.0F);
+    QCOMPARE(float(window.ownSession.refraction.latitude), 39.9F);
     QCOMPARE(MainWindowProbe(window).regionName(), QString("North"));
     QCOMPARE(MainWindowProbe(window).styleName(), QString("Color"));
     QCOMPARE(MainWindowProbe(window).languageCode(), QString("EN"));
@@ -381,9 +377,9 @@ void SettingsTest::outOfRangeValuesAreKept()
 {
     writeIni(settingsFilePath(),
              {"[ASTRONOMICAL_REFRACTION]", "latitude=500", "[AXIS_CENTER]", "x=-3", "y=90000"});
-    MainWindow window;
-    QCOMPARE(QPointF(alignmentPoints.savedAxisCenter), QPointF(-3, 90000));
-    QCOMPARE(float(refractionSettings.latitude), 90.0F); // through the dialog's spin box
+    SessionWindow window;
+    QCOMPARE(QPointF(window.ownSession.alignmentPoints.savedAxisCenter), QPointF(-3, 90000));
+    QCOMPARE(float(window.ownSession.refraction.latitude), 90.0F); // through the dialog's spin box
     window.close();
     QVERIFY(iniLines(settingsFilePath()).contains("y=90000"));
 }
@@ -402,13 +398,10 @@ void SettingsTest::oddZoomSizesThePicture()
     QFETCH(QString, factor);
     QFETCH(QSize, size);
     writeIni(settingsFilePath(), {"[ZOOM]", "factor=" + factor});
-    MainWindow window;
+    SessionWindow window;
     QImage picture(1280, 960, QImage::Format_RGB888);
     picture.fill(Qt::blue);
-    {
-        const Locker lock(frameMutex);
-        frameQueue = {picture};
-    }
+    window.ownSession.frameQueue.append(picture);
     const auto &label = named<QLabel>(window, "label_showImg");
     QTRY_COMPARE(label.pixmap(Qt::ReturnByValue).size(), size);
     window.close();
@@ -418,7 +411,7 @@ void SettingsTest::oddZoomSizesThePicture()
 /// The unit of the dialog is not stored: only the pressure follows it.
 void SettingsTest::pressureUnitStaysAsLoaded()
 {
-    MainWindow window;
+    SessionWindow window;
     named<QComboBox>(window, "comboBox_presure").setCurrentIndex(1);
     window.close();
     QVERIFY(iniLines(settingsFilePath()).contains("P=1010"));
@@ -428,19 +421,19 @@ void SettingsTest::pressureUnitStaysAsLoaded()
 void SettingsTest::axisSurvivesRestart()
 {
     {
-        MainWindow window;
-        alignmentPoints.savedAxisCenter = QPointF(1234.5678, 321.0);
+        SessionWindow window;
+        window.ownSession.alignmentPoints.savedAxisCenter = QPointF(1234.5678, 321.0);
         window.close();
     }
-    alignmentPoints.savedAxisCenter = QPointF(0, 0);
-    const MainWindow window;
-    QCOMPARE(QPointF(alignmentPoints.savedAxisCenter), QPointF(double(1234.57F), 321.0));
+    const SessionWindow window;
+    QCOMPARE(QPointF(window.ownSession.alignmentPoints.savedAxisCenter),
+             QPointF(double(1234.57F), 321.0));
 }
 
 void SettingsTest::unknownStyleIsWrittenBack()
 {
     writeIni(settingsFilePath(), {"[STYLE]", "style=mono"});
-    MainWindow window;
+    SessionWindow window;
     window.close();
     QVERIFY(iniLines(settingsFilePath()).contains("style=mono"));
 }
@@ -448,7 +441,7 @@ void SettingsTest::unknownStyleIsWrittenBack()
 void SettingsTest::toggledStyleIsWrittenBack()
 {
     writeIni(settingsFilePath(), {"[STYLE]", "style=mono"});
-    MainWindow window;
+    SessionWindow window;
     named<QAction>(window, "actionMono_Style").setChecked(true);
     named<QAction>(window, "actionMono_Style").setChecked(false);
     window.close();

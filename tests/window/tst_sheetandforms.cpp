@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Do the forms keep their sizes and fonts under the program's style sheet?
+#include "tests/support/sessionwindow.h"
 #include "tests/window/windowtest.h"
 
 #include "app/stylesheet.h"
 #include "dialogs/aboutdialog.h"
 #include "dialogs/poletrackingdialog.h"
-#include "mainwindow/mainwindow.h"
 #include "mainwindow/wizardtable.h"
 #include "resources/resources.h"
 #include "tests/support/mainwindowprobe.h"
@@ -73,7 +73,7 @@ void SheetAndFormsTest::sectionsHaveOneFont_data()
 void SheetAndFormsTest::sectionsHaveOneFont()
 {
     QFETCH(QString, body);
-    MainWindow window;
+    SessionWindow window;
     window.show();
     const auto &section = named<QWidget>(window, body);
     for (const QWidget *const widget : section.findChildren<QWidget *>()) {
@@ -119,7 +119,7 @@ void SheetAndFormsTest::pagesAreWholeInANarrowWindow_data()
 void SheetAndFormsTest::pagesAreWholeInANarrowWindow()
 {
     QFETCH(int, step);
-    MainWindow window;
+    SessionWindow window;
     window.resize(800, 600);
     window.show();
     MainWindowProbe(window).switchStep(step);
@@ -137,7 +137,7 @@ void SheetAndFormsTest::pagesAreWholeInANarrowWindow()
 /// The page of step 12 asks for it, and it lies at the panel's end.
 void SheetAndFormsTest::startMonitorComesIntoView()
 {
-    MainWindow window;
+    SessionWindow window;
     window.resize(800, 500);
     window.show();
     MainWindowProbe(window).switchStep(11);

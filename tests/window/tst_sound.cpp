@@ -2,17 +2,13 @@
 // What is the sound service asked for? A service of the test's own stands in for the system's.
 #define QT_STATICPLUGIN
 
-#include "mainwindow/mainwindow.h"
 #include "resources/resources.h"
+#include "tests/support/sessionwindow.h"
+#include "tests/support/soundservice.h"
 #include "tests/window/windowtest.h"
 
-#include <QMediaContent>
-#include <QMediaPlayer>
-#include <QMediaPlayerControl>
 #include <QMediaPlaylist>
-#include <QMediaService>
 #include <QMediaServiceProviderPlugin>
-#include <QMediaTimeRange>
 
 namespace
 {
@@ -20,77 +16,35 @@ QStringList calls; ///< what the service was asked for, in order
 bool isUsed = false;
 } // namespace
 
-/// Plays nothing, but keeps the state that a player would have.
-class RecordingControl : public QMediaPlayerControl
+/// Notes what it is asked for.
+class RecordingControl : public SilentControl
 {
-    Q_OBJECT
-
 public:
-    QMediaPlayer::State state() const override { return now; }
-    QMediaPlayer::MediaStatus mediaStatus() const override { return QMediaPlayer::LoadedMedia; }
-    qint64 duration() const override { return 60000; }
-    qint64 position() const override { return place; }
-    void setPosition(qint64 position) override { place = position; }
-    int volume() const override { return loudness; }
     void setVolume(int volume) override
     {
-        loudness = volume;
         calls << QString("volume %1").arg(volume);
-        emit volumeChanged(volume);
+        SilentControl::setVolume(volume);
     }
-    bool isMuted() const override { return false; }
-    void setMuted(bool) override {}
-    int bufferStatus() const override { return 100; }
-    bool isAudioAvailable() const override { return true; }
-    bool isVideoAvailable() const override { return false; }
-    bool isSeekable() const override { return true; }
-    QMediaTimeRange availablePlaybackRanges() const override { return {}; }
-    qreal playbackRate() const override { return 1.0; }
-    void setPlaybackRate(qreal) override {}
-    QMediaContent media() const override { return content; }
-    const QIODevice *mediaStream() const override { return nullptr; }
-    void setMedia(const QMediaContent &media, QIODevice *) override
+    void setMedia(const QMediaContent &media, QIODevice *stream) override
     {
-        content = media;
         calls << "media " + media.request().url().toString();
-        emit mediaChanged(media);
+        SilentControl::setMedia(media, stream);
     }
-    void play() override { enter(QMediaPlayer::PlayingState, "play"); }
-    void pause() override { enter(QMediaPlayer::PausedState, "pause"); }
+    void play() override
+    {
+        calls << "play";
+        SilentControl::play();
+    }
+    void pause() override
+    {
+        calls << "pause";
+        SilentControl::pause();
+    }
     void stop() override
     {
-        place = 0;
-        enter(QMediaPlayer::StoppedState, "stop");
+        calls << "stop";
+        SilentControl::stop();
     }
-
-private:
-    void enter(QMediaPlayer::State next, const char *call)
-    {
-        calls << call;
-        now = next;
-        emit stateChanged(next);
-    }
-
-    QMediaPlayer::State now = QMediaPlayer::StoppedState;
-    QMediaContent content;
-    qint64 place = 0;
-    int loudness = 100;
-};
-
-class RecordingService : public QMediaService
-{
-    Q_OBJECT
-
-public:
-    RecordingService() : QMediaService(nullptr) {}
-    QMediaControl *requestControl(const char *name) override
-    {
-        return qstrcmp(name, QMediaPlayerControl_iid) == 0 ? &control : nullptr;
-    }
-    void releaseControl(QMediaControl *) override {}
-
-private:
-    RecordingControl control;
 };
 
 class RecordingPlayer : public QMediaServiceProviderPlugin
@@ -103,7 +57,7 @@ public:
     QMediaService *create(const QString &) override
     {
         isUsed = true;
-        return new RecordingService;
+        return new SoundService<RecordingControl>;
     }
     void release(QMediaService *service) override { delete service; }
 };
@@ -138,7 +92,7 @@ void SoundTest::init()
 
 void SoundTest::createdStoppedAtVolumeZero()
 {
-    const MainWindow window;
+    const SessionWindow window;
     QCOMPARE(calls.filter("volume"), QStringList{"volume 0"});
     QVERIFY(!calls.contains("play"));
     const auto &player = *window.findChild<QMediaPlayer *>();
@@ -148,7 +102,7 @@ void SoundTest::createdStoppedAtVolumeZero()
 
 void SoundTest::startsAndStops()
 {
-    MainWindow window;
+    SessionWindow window;
     auto &action = named<QAction>(window, "actionPlay_Audio");
     const auto &player = *window.findChild<QMediaPlayer *>();
     action.trigger();
@@ -170,7 +124,7 @@ void SoundTest::startsAndStops()
 
 void SoundTest::startsFromTheBeginning()
 {
-    MainWindow window;
+    SessionWindow window;
     auto &action = named<QAction>(window, "actionPlay_Audio");
     auto &player = *window.findChild<QMediaPlayer *>();
     action.trigger();
@@ -184,7 +138,7 @@ void SoundTest::startsFromTheBeginning()
 
 void SoundTest::triggeredAloneDoesNothing()
 {
-    MainWindow window;
+    SessionWindow window;
     calls.clear();
     QVERIFY(QMetaObject::invokeMethod(&window, "on_actionPlay_Audio_triggered"));
     QCOMPARE(calls, QStringList());
@@ -192,7 +146,7 @@ void SoundTest::triggeredAloneDoesNothing()
 
 void SoundTest::loopsWithoutEnd()
 {
-    const MainWindow window;
+    const SessionWindow window;
     auto &playlist = *window.findChild<QMediaPlayer *>()->playlist();
     playlist.setCurrentIndex(0);
     for (int round = 0; round < 3; ++round) {

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 // What does each display style change, in each step?
-#include "camera/sharedstate.h"
-#include "dialogs/style.h"
-#include "mainwindow/mainwindow.h"
+#include "core/style.h"
 #include "mainwindow/wizardtable.h"
 #include "resources/resources.h"
 #include "tests/support/logrecorder.h"
 #include "tests/support/mainwindowprobe.h"
+#include "tests/support/sessionwindow.h"
 #include "tests/window/windowtest.h"
 
 #include <QGraphicsDropShadowEffect>
@@ -57,13 +56,13 @@ private slots:
     void mixedLampsAfterReturn();
 
 private:
-    std::unique_ptr<MainWindow> window;
+    std::unique_ptr<SessionWindow> window;
 };
 
 void StyleTest::init()
 {
     removeSettings();
-    window = std::make_unique<MainWindow>();
+    window = std::make_unique<SessionWindow>();
 }
 
 void StyleTest::table_data()
@@ -141,7 +140,7 @@ void StyleTest::toggling()
         named<QAction>(*window, "actionMono_Style").setChecked(isMono);
     const bool isMono = toggles.last();
     QCOMPARE(MainWindowProbe(*window).styleName(), QString(isMono ? "Mono" : "Color"));
-    QCOMPARE(bool(overlayFlags.monoStyle), isMono);
+    QCOMPARE(bool(window->ownSession.overlayFlags.monoStyle), isMono);
     QVERIFY(shows(named<QLabel>(*window, "label_precise_poleIcon"),
                   isMono ? ":/images/pole.png" : ":/images/pole_color.png"));
     QVERIFY(shows(named<QLabel>(*window, "label_precise_axisIcon"),

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Does the window made from the form still say all that the form does, also after other languages?
+#include "tests/support/sessionwindow.h"
 #include "tests/window/formtables.h"
 
-#include "mainwindow/mainwindow.h"
 #include "resources/resources.h"
 
 #include <memory>
@@ -30,15 +30,15 @@ private:
     /// The two windows: as it was made, and after English, Chinese and English again.
     QList<const MainWindow *> both() const { return {made.get(), travelled.get()}; }
 
-    std::unique_ptr<MainWindow> made, travelled;
+    std::unique_ptr<SessionWindow> made, travelled;
 };
 
 void WindowFormTest::initTestCase()
 {
     initialiseResources();
     removeSettings();
-    made = std::make_unique<MainWindow>();
-    travelled = std::make_unique<MainWindow>();
+    made = std::make_unique<SessionWindow>();
+    travelled = std::make_unique<SessionWindow>();
     for (const char *const action : {"actionChinese", "actionEnglish"}) {
         QVERIFY(!named<QAction>(*travelled, action).isChecked());
         named<QAction>(*travelled, action).trigger();
@@ -99,7 +99,7 @@ void WindowFormTest::sizes()
 void WindowFormTest::otherLanguageSaysOther()
 {
     QFETCH(QStringList, entries);
-    MainWindow window;
+    SessionWindow window;
     named<QAction>(window, "actionChinese").trigger();
     const QString menu = QTest::currentDataTag();
     QCOMPARE(titlesOf(named<QMenuBar>(window, "menuBar")).filter(menuTitles.first()),

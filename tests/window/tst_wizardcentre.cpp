@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // When is the saved axis centre used again, when replaced, and when forgotten?
-#include "camera/sharedstate.h"
+#include "tests/support/boxwatcher.h"
 #include "tests/window/freshwindowtest.h"
 
 class WizardCentreTest : public FreshWindowTest
@@ -47,50 +47,52 @@ void WizardCentreTest::reuseQuestion()
     QFETCH(int, step);
     QFETCH(QPointF, after);
     QFETCH(QString, label);
-    alignmentPoints.savedAxisCenter = saved;
+    session().alignmentPoints.savedAxisCenter = saved;
     probe->switchStep(2);
-    const BoxAnswerer boxes(answersYes ? QMessageBox::Yes : QMessageBox::No);
+    const BoxWatcher boxes(answersYes ? QMessageBox::Yes : QMessageBox::No);
     named<QPushButton>(*window, "pushButton_confirm_done").click();
-    QCOMPARE(boxes.seen.count, asked);
+    QCOMPARE(boxes.boxes().size(), asked);
     QCOMPARE(window->step(), step);
-    QCOMPARE(double(alignmentPoints.savedAxisCenter.x), after.x());
-    QCOMPARE(double(alignmentPoints.savedAxisCenter.y), after.y());
+    QCOMPARE(double(session().alignmentPoints.savedAxisCenter.x), after.x());
+    QCOMPARE(double(session().alignmentPoints.savedAxisCenter.y), after.y());
     QCOMPARE(named<QLabel>(*window, "label_axisPos").text(), label);
     QCOMPARE(probe->axisCenter(), QPointF()); // that of a fit alone
 }
 
 void WizardCentreTest::questionWords()
 {
-    alignmentPoints.savedAxisCenter = QPointF(10, 10);
+    session().alignmentPoints.savedAxisCenter = QPointF(10, 10);
     probe->switchStep(2);
-    const BoxAnswerer boxes(QMessageBox::Yes);
+    const BoxWatcher boxes(QMessageBox::Yes);
     named<QPushButton>(*window, "pushButton_confirm_done").click();
-    QCOMPARE(boxes.seen.title, QString("Question"));
-    QCOMPARE(boxes.seen.text,
+    QCOMPARE(boxes.boxes().size(), 1);
+    QCOMPARE(boxes.boxes().constFirst().title, QString("Question"));
+    QCOMPARE(boxes.boxes().constFirst().text,
              QString("Would you like to use the 'Axis center position' recorded last time you "
                      "used Quorvandel ?"));
-    QCOMPARE(boxes.seen.buttons, QMessageBox::Yes | QMessageBox::No);
-    QCOMPARE(boxes.seen.defaultButton, QMessageBox::Yes);
-    QVERIFY(!boxes.seen.hasParent);
+    QCOMPARE(boxes.boxes().constFirst().buttons,
+             (QList<QMessageBox::StandardButton>{QMessageBox::Yes, QMessageBox::No}));
+    QCOMPARE(boxes.boxes().constFirst().defaultButton, QMessageBox::Yes);
+    QVERIFY(!boxes.boxes().constFirst().hasParent);
 }
 
 void WizardCentreTest::noErasesTheSavedCentre()
 {
-    alignmentPoints.savedAxisCenter = QPointF(612, 470);
-    const BoxAnswerer boxes(QMessageBox::No);
+    session().alignmentPoints.savedAxisCenter = QPointF(612, 470);
+    const BoxWatcher boxes(QMessageBox::No);
     for (int round = 0; round < 2; ++round) {
         probe->switchStep(2);
         named<QPushButton>(*window, "pushButton_confirm_done").click();
         QCOMPARE(window->step(), 3);
-        QCOMPARE(boxes.seen.count, 1);
+        QCOMPARE(boxes.boxes().size(), 1);
     }
 }
 
 void WizardCentreTest::yesLightsAllLamps()
 {
-    alignmentPoints.savedAxisCenter = QPointF(612, 470);
+    session().alignmentPoints.savedAxisCenter = QPointF(612, 470);
     probe->switchStep(2);
-    const BoxAnswerer boxes(QMessageBox::Yes);
+    const BoxWatcher boxes(QMessageBox::Yes);
     named<QPushButton>(*window, "pushButton_confirm_done").click();
     for (const char *const lamp :
          {"label_starPos1_icon", "label_starPos2_icon", "label_starPos3_icon"})
@@ -100,22 +102,22 @@ void WizardCentreTest::yesLightsAllLamps()
 void WizardCentreTest::centreAccepted()
 {
     probe->setAxisCenter(QPointF(601.26, 498.04));
-    alignmentPoints.savedAxisCenter = QPointF(1, 1);
+    session().alignmentPoints.savedAxisCenter = QPointF(1, 1);
     probe->switchStep(8);
     named<QPushButton>(*window, "pushButton_validateCenter_done").click();
-    QCOMPARE(QPointF(alignmentPoints.savedAxisCenter), QPointF(601.26, 498.04));
+    QCOMPARE(QPointF(session().alignmentPoints.savedAxisCenter), QPointF(601.26, 498.04));
     QCOMPARE(named<QLabel>(*window, "label_axisPos").text(), QString("(601.3,498.0)"));
     QCOMPARE(window->step(), 9);
 }
 
 void WizardCentreTest::centreResetKeepsTheFit()
 {
-    alignmentPoints.savedAxisCenter = QPointF(601.25, 498);
+    session().alignmentPoints.savedAxisCenter = QPointF(601.25, 498);
     probe->setAxisCenter(QPointF(601.25, 498));
     probe->switchStep(8);
     named<QPushButton>(*window, "pushButton_validateCenter_reset").click();
     QCOMPARE(window->step(), 3);
-    QCOMPARE(QPointF(alignmentPoints.savedAxisCenter), QPointF(601.25, 498));
+    QCOMPARE(QPointF(session().alignmentPoints.savedAxisCenter), QPointF(601.25, 498));
 }
 
 QTEST_MAIN(WizardCentreTest)

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // How does the broken ring turn, and which slider blinks?
-#include "camera/sharedstate.h"
 #include "mainwindow/wizardtable.h"
 #include "tests/support/patience.h"
 #include "tests/window/freshwindowtest.h"
@@ -25,11 +24,11 @@ private slots:
 void WizardMotionTest::arcAngle()
 {
     probe->angleTimer().stop();
-    overlayFlags.arcAngle = 0.0;
+    session().overlayFlags.arcAngle = 0.0;
     QList<double> found;
     for (int tick = 0; tick < 9; ++tick) {
         QVERIFY(QMetaObject::invokeMethod(window.get(), "increaseAngleTimeout"));
-        found << overlayFlags.arcAngle;
+        found << session().overlayFlags.arcAngle;
     }
     QCOMPARE(found, (QList<double>{10, 20, 30, 40, 50, 60, 70, 0, 10}));
 }
@@ -54,8 +53,8 @@ void WizardMotionTest::arcAngleFromElsewhere()
 void WizardMotionTest::arcRunsByItself()
 {
     probe->switchStep(0);
-    overlayFlags.arcAngle = 0.0;
-    QTRY_COMPARE(double(overlayFlags.arcAngle), 20.0);
+    session().overlayFlags.arcAngle = 0.0;
+    QTRY_COMPARE(double(session().overlayFlags.arcAngle), 20.0);
 }
 
 void WizardMotionTest::blinking_data()

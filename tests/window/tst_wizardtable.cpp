@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // What does entering each step change, and which button leads where?
-#include "camera/sharedstate.h"
 #include "tests/support/logrecorder.h"
 #include "tests/window/freshwindowtest.h"
 
@@ -83,9 +82,10 @@ void WizardTableTest::setAll(bool on, bool isMono)
         named<QLabel>(*window, label).setVisible(on);
     for (const char *const lamp : lampNames)
         named<QLabel>(*window, lamp).setPixmap(QPixmap(lampPicture(isMono, on)));
-    for (Relaxed<bool> *const flag : {&overlayFlags.showAxisMark, &overlayFlags.showStarCircle,
-                                      &overlayFlags.showRotatingArc, &overlayFlags.monitorTracking,
-                                      &overlayFlags.showPoleRect, &overlayFlags.showMonitorCross})
+    OverlayFlags &flags = session().overlayFlags;
+    for (Relaxed<bool> *const flag :
+         {&flags.showAxisMark, &flags.showStarCircle, &flags.showRotatingArc,
+          &flags.monitorTracking, &flags.showPoleRect, &flags.showMonitorCross})
         *flag = on;
     if (on)
         probe->effectTimer().start();
@@ -99,7 +99,7 @@ void WizardTableTest::setAll(bool on, bool isMono)
 QString WizardTableTest::state()
 {
     const auto digit = [](bool on) { return QString(on ? "1" : "0"); };
-    const bool isMono = overlayFlags.monoStyle;
+    const bool isMono = session().overlayFlags.monoStyle;
     QString heads, bodies, lamps;
     for (const QString section : sectionNames) {
         heads += digit(named<QPushButton>(*window, "pushButton_head_" + section).isChecked());
@@ -114,12 +114,15 @@ QString WizardTableTest::state()
     return QString("heads %1 bodies %2 template %3 arrow %4 lamps %5 axis %6 circle %7 arc %8 ")
                .arg(heads, bodies, digit(isOpen(named<QLabel>(*window, "label_templateImg"))),
                     digit(isOpen(named<QLabel>(*window, "directionArrow"))), lamps,
-                    digit(overlayFlags.showAxisMark), digit(overlayFlags.showStarCircle),
-                    digit(overlayFlags.showRotatingArc)) +
+                    digit(session().overlayFlags.showAxisMark),
+                    digit(session().overlayFlags.showStarCircle),
+                    digit(session().overlayFlags.showRotatingArc)) +
            QString("monitor %1%2%3 blinking %4 pages %5 page %6")
-               .arg(digit(overlayFlags.monitorTracking), digit(overlayFlags.showPoleRect),
-                    digit(overlayFlags.showMonitorCross), digit(probe->effectTimer().isActive()),
-                    digit(isOpen(tabs())), QString::number(tabs().currentIndex()));
+               .arg(digit(session().overlayFlags.monitorTracking),
+                    digit(session().overlayFlags.showPoleRect),
+                    digit(session().overlayFlags.showMonitorCross),
+                    digit(probe->effectTimer().isActive()), digit(isOpen(tabs())),
+                    QString::number(tabs().currentIndex()));
 }
 
 void WizardTableTest::steps_data()
@@ -256,9 +259,9 @@ void WizardTableTest::doneKeepsTheOverlays()
 {
     probe->switchStep(13);
     named<QPushButton>(*window, "pushButton_finetunePole_done").click();
-    QVERIFY(overlayFlags.monitorTracking);
-    QVERIFY(overlayFlags.showPoleRect);
-    QVERIFY(overlayFlags.showMonitorCross);
+    QVERIFY(session().overlayFlags.monitorTracking);
+    QVERIFY(session().overlayFlags.showPoleRect);
+    QVERIFY(session().overlayFlags.showMonitorCross);
     QCOMPARE(window->step(), 13);
     QVERIFY(!isOpen(tabs()));
     QVERIFY(isOpen(named<QWidget>(*window, "widget_precise")));
@@ -269,10 +272,10 @@ void WizardTableTest::restartClearsTheOverlays()
     setAll(true, false);
     probe->switchStep(13);
     named<QPushButton>(*window, "pushButton_finetunePole_reset").click();
+    OverlayFlags &flags = session().overlayFlags;
     for (const Relaxed<bool> *const flag :
-         {&overlayFlags.showAxisMark, &overlayFlags.showStarCircle, &overlayFlags.showRotatingArc,
-          &overlayFlags.monitorTracking, &overlayFlags.showPoleRect,
-          &overlayFlags.showMonitorCross})
+         {&flags.showAxisMark, &flags.showStarCircle, &flags.showRotatingArc,
+          &flags.monitorTracking, &flags.showPoleRect, &flags.showMonitorCross})
         QVERIFY(!*flag);
 }
 

@@ -2,7 +2,7 @@
 // What do the tests of the window share? Finding widgets, comparing pictures, the settings file.
 #pragma once
 
-#include "dialogs/settingsfile.h"
+#include "core/settingsfile.h"
 
 #include <QAction>
 #include <QApplication>
@@ -10,11 +10,9 @@
 #include <QIcon>
 #include <QLabel>
 #include <QList>
-#include <QMessageBox>
 #include <QPair>
 #include <QPixmap>
 #include <QPushButton>
-#include <QTimer>
 #include <QtTest>
 
 /// The child of that class and name; the test run ends at once where there is none.
@@ -76,40 +74,3 @@ inline IniLines iniLines(const QString &path)
         return {};
     return QString::fromUtf8(file.readAll()).remove('\r').split('\n', Qt::SkipEmptyParts);
 }
-
-/// What a message box said before it was answered.
-struct SeenBox {
-    int count = 0;
-    QString title, text;
-    QMessageBox::StandardButtons buttons;
-    QMessageBox::StandardButton defaultButton = QMessageBox::NoButton;
-    bool hasParent = false;
-};
-
-/// Answers every message box that opens while it lives.
-class BoxAnswerer
-{
-public:
-    explicit BoxAnswerer(QMessageBox::StandardButton answer)
-    {
-        timer.setInterval(5);
-        QObject::connect(&timer, &QTimer::timeout, &timer, [this, answer] {
-            auto *const box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-            if (!box)
-                return;
-            ++seen.count;
-            seen.title = box->windowTitle();
-            seen.text = box->text();
-            seen.buttons = box->standardButtons();
-            seen.defaultButton = box->standardButton(box->defaultButton());
-            seen.hasParent = box->parentWidget() != nullptr;
-            box->button(answer)->click();
-        });
-        timer.start();
-    }
-
-    SeenBox seen;
-
-private:
-    QTimer timer;
-};

@@ -11,7 +11,7 @@ class Caption : public QLabel
     Q_OBJECT
 
 public:
-    /// \param over the part of the window that the caption lies over
+    /// @param over the part of the window that the caption lies over
     Caption(QWidget &window, const QWidget &over);
     void say(const QString &text);
 

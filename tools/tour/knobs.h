@@ -12,7 +12,7 @@
 class Knobs
 {
 public:
-    /// \param path the sky file; its folder is made where it is missing
+    /// @param path the sky file; its folder is made where it is missing
     Knobs(std::string path, const virtualsky::SkyState &initial);
 
     /// Turns the RA axis to an angle in degrees, positive as the mount tracks.

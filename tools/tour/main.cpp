@@ -2,7 +2,8 @@
 // Shows the whole alignment by itself in the real window, and prints the mount's true error before
 // and after.
 #include "app/startup.h"
-#include "dialogs/settingsfile.h"
+#include "camera/session.h"
+#include "core/settingsfile.h"
 #include "mainwindow/mainwindow.h"
 #include "tools/practicesky.h"
 #include "tools/tour/album.h"
@@ -66,15 +67,16 @@ QRect roundAxis(const MainWindow &window, const Knobs &knobs, int zoomPercent)
 }
 
 /// Connects and photographs what there is to see without aligning.
-void showViews(MainWindow &window, Knobs &knobs, Person::Options how, const Album &album)
+void showViews(MainWindow &window, const Session &session, Knobs &knobs, Person::Options how,
+               const Album &album)
 {
-    Person person(window, knobs, how, 1);
+    Person person(window, session, knobs, how, 1);
     person.connectCamera();
     person.prepare();
     person.setExposure();
     for (const int zoom : {50, 75, 100}) {
         how.zoomPercent = zoom;
-        Person viewer(window, knobs, how, 1);
+        Person viewer(window, session, knobs, how, 1);
         viewer.arrived = [&](const QString &) {
             album.add(window, QStringLiteral("zoom-%1").arg(zoom));
         };
@@ -178,7 +180,8 @@ void run(const QCommandLineParser &options)
     settings.languageCode = options.value("language");
     writeSettings(settingsFilePath(), settings);
 
-    MainWindow window;
+    Session session;
+    MainWindow window(session);
     window.resize(1280, 800);
     std::unique_ptr<MountWindow> mount;
     if (hasMount) {
@@ -187,12 +190,12 @@ void run(const QCommandLineParser &options)
     }
     window.show();
     if (views) {
-        showViews(window, knobs, how, *views);
+        showViews(window, session, knobs, how, *views);
         window.close();
         return;
     }
     Caption caption(window, *window.findChild<QWidget *>("scrollArea_showImg"));
-    Person person(window, knobs, how, 1);
+    Person person(window, session, knobs, how, 1);
     person.announce = [&](const QString &text) {
         printf("%s\n", qPrintable(text));
         if (hasMount)

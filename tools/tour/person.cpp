@@ -2,7 +2,7 @@
 // The steps of an alignment as a person does them.
 #include "tools/tour/person.h"
 
-#include "camera/sharedstate.h"
+#include "camera/session.h"
 #include "geometry/starcatalogue.h"
 
 #include <QApplication>
@@ -40,8 +40,9 @@ double direction(QPointF from, QPointF to)
 }
 } // namespace
 
-Person::Person(QMainWindow &mainWindow, Knobs &mount, const Options &choices, unsigned seed)
-    : window(mainWindow), knobs(mount), options(choices), random(seed)
+Person::Person(QMainWindow &mainWindow, const Session &shared, Knobs &mount, const Options &choices,
+               unsigned seed)
+    : window(mainWindow), session(shared), knobs(mount), options(choices), random(seed)
 {
 }
 
@@ -300,10 +301,10 @@ QPointF Person::fromPoleToAxis() const
     QPointF sum;
     for (int i = 0; i < frames; ++i) {
         waitForFrames(1);
-        if (!monitorPositions.poleValid)
+        if (!session.monitorPositions.poleValid)
             throw Stuck("the pole is not shown");
-        sum += axisMark() -
-               (options.mono ? monitorPositions.poleCurrent.load() : markInPicture(Mark::Pole));
+        sum += axisMark() - (options.mono ? session.monitorPositions.poleCurrent.load()
+                                          : markInPicture(Mark::Pole));
     }
     return sum / frames;
 }

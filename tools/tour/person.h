@@ -16,6 +16,7 @@ class QAction;
 class QMainWindow;
 class QMenu;
 class QSlider;
+struct Session;
 
 /// Something is not as the instructions promise; what() tells what.
 class Stuck : public std::runtime_error
@@ -42,7 +43,8 @@ public:
         int boltParts = 1;           ///< in how many parts the first fine turn of the bolts is made
     };
 
-    Person(QMainWindow &window, Knobs &knobs, const Options &options, unsigned seed);
+    Person(QMainWindow &window, const Session &session, Knobs &knobs, const Options &options,
+           unsigned seed);
 
     /// Told of every action before it is done.
     std::function<void(const QString &)> announce;
@@ -100,6 +102,7 @@ private:
     void checkRingRound(QPointF star) const;
 
     QMainWindow &window;
+    const Session &session;
     Knobs &knobs;
     Options options;
     std::mt19937 random;

@@ -2,7 +2,7 @@
 // The tour's command line.
 #include "tools/tour/touroptions.h"
 
-#include "dialogs/languages.h"
+#include "core/languages.h"
 
 #include <QCommandLineParser>
 #include <algorithm>

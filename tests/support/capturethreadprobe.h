@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+// In which matrices does a capture thread work?
+#pragma once
+
+#include "camera/capturethread.h"
+
+/// A view of one thread's private members; valid as long as the thread. Not while it runs.
+class CaptureThreadProbe
+{
+public:
+    explicit CaptureThreadProbe(const CaptureThread &probed) : thread(probed) {}
+
+    const FrameMatrices &matrices() const { return thread.matrices; }
+
+private:
+    const CaptureThread &thread;
+};

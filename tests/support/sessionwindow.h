@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+// How does a test make a window that shares its state with nobody?
+#pragma once
+
+#include "camera/session.h"
+#include "mainwindow/mainwindow.h"
+
+/// First among the bases of a window, so that the session is there before it and outlives it.
+struct OwnSession {
+    Session ownSession;
+};
+
+/// A window with a session of its own. Without Q_OBJECT: to Qt it is a MainWindow.
+class SessionWindow : public OwnSession, public MainWindow
+{
+public:
+    explicit SessionWindow(QWidget *parent = nullptr) : MainWindow(ownSession, parent) {}
+};
