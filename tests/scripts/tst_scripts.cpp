@@ -85,9 +85,10 @@ void ScriptsTest::initTestCase()
     QVERIFY(folder.isValid());
     QVERIFY(QDir(folder.path()).mkpath("bin"));
     QVERIFY(QFile::link(PROJECT_SOURCE_DIR "/tools", path("tools")));
-    const Outcome made = bash("\"$1\" -S \"$2\" -B failing >made 2>&1 || { cat made; exit 1; }; "
-                              "\"$3\" --test-dir failing -j 4 >report 2>&1",
-                              {CMAKE_PROGRAM, TEST_SOURCE_DIR "/failing", CTEST_PROGRAM});
+    const Outcome made =
+        bash("\"$1\" -G \"$2\" -S \"$3\" -B failing >made 2>&1 || { cat made; exit 1; }; "
+             "\"$4\" --test-dir failing -j 4 >report 2>&1",
+             {CMAKE_PROGRAM, GENERATOR, TEST_SOURCE_DIR "/failing", CTEST_PROGRAM});
     QVERIFY2(QFile::exists(path("failing/Testing/Temporary/LastTest.log")), qPrintable(made.text));
     QVERIFY(made.status != 0);
 }
