@@ -56,7 +56,8 @@ private:
     void standIn(const QString &name, const QByteArray &script) const
     {
         write("bin/" + name, "#!/bin/bash\n" + script);
-        QFile(path("bin/" + name)).setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+        QFile(path("bin/" + name))
+            .setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
 
 private slots:
@@ -173,7 +174,9 @@ void ScriptsTest::reasons_data()
                                  "    is closed)\n       Loc: [c.cpp(9)]\n";
     QTest::newRow("crashed") << "crashes (SEGFAULT)\n";
     QTest::newRow("where it crashed") << "    QDEBUG : D::second() the last word\n";
-    QTest::newRow("stopped") << "    QFATAL : E::first() the file cannot be read\n";
+    QTest::newRow("stopped") << "stops (Subprocess aborted)\n"
+                                "    QFATAL : E::first() the file cannot be read\n"
+                                "leaks (Failed)\n";
     QTest::newRow("leaked") << "leaks (Failed)\n"
                                "    ==12==ERROR: LeakSanitizer: detected memory leaks\n"
                                "        #0 0x1 in leak f.cpp:1\n    SUMMARY: AddressSanitizer";
