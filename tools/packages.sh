@@ -40,9 +40,12 @@ patiently() {
     status=${PIPESTATUS[0]}
     [ "$status" -ne 0 ] && holder=$(lock_holder "$attempt") || return "$status"
     [ $((SECONDS - since)) -lt "$lock_patience" ] || return "$status"
-    $said || printf 'Waiting for %s, which holds the package system, for at most %d minutes.\n' \
-      "$holder" $((lock_patience / 60)) >&3
-    said=true
+    if ! $said; then
+      [ ! -t 3 ] || printf '\r\033[K' >&3 # the stage's own line
+      printf 'Waiting for %s, which holds the package system, for at most %d minutes.\n' \
+        "$holder" $((lock_patience / 60)) >&3
+      said=true
+    fi
     sleep "$lock_interval"
   done
 }

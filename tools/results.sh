@@ -63,10 +63,10 @@ explain_failures() {
   local name reason lines
   while read -r name reason; do
     printf '%s (%s)\n' "$name" "$reason"
-    lines=$(output_of "$name" "$2" | failures_in | cut -c1-400)
+    lines=$(output_of "$name" "$2" | failures_in)
     if [ -z "$lines" ] || [ "$reason" != Failed ]; then
-      lines+=$'\n'$(output_of "$name" "$2" | tail -n 5 | cut -c1-400)
+      lines+=$'\n'$(output_of "$name" "$2" | tail -n 5 | grep -vxFf <(printf '%s' "$lines"))
     fi
-    printf '%s\n' "$lines" | grep . | head -n 40 | sed 's/^/    /'
+    grep . <<<"$lines" | head -n 40 | cut -c1-400 | sed 's/^/    /'
   done < <(failed_tests "$1")
 }

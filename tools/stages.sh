@@ -53,6 +53,8 @@ reasons() {
 # log_of TEXT: where the output of the stage TEXT goes.
 log_of() { printf '%s/%s.log' "$logs" "$(printf '%s' "$1" | tr -cs 'A-Za-z0-9' '-' | cut -c1-60)"; }
 
+explain=reasons
+
 # stage TEXT COMMAND...: runs COMMAND with its output in a log and reports what is being done, where
 # the log is, and, if it failed, why: by the function named in `explain`, which is given the log.
 # What COMMAND writes to file descriptor 3 is seen at once. Returns the command's status.
@@ -76,7 +78,7 @@ stage() {
   else
     printf '%s ... FAILED (%d s) with status %d, because of (all of it: %s):\n' \
       "$text" $((SECONDS - start)) $status "$log"
-    "${explain:-reasons}" "$log" | sed 's/^/    /'
+    "$explain" "$log" | sed 's/^/    /'
   fi
   return $status
 }

@@ -56,7 +56,8 @@ private:
     void standIn(const QString &name, const QByteArray &script) const
     {
         write("bin/" + name, "#!/bin/bash\n" + script);
-        QFile(path("bin/" + name)).setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+        QFile(path("bin/" + name))
+            .setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
 
 private slots:
@@ -85,9 +86,10 @@ void ScriptsTest::initTestCase()
     QVERIFY(folder.isValid());
     QVERIFY(QDir(folder.path()).mkpath("bin"));
     QVERIFY(QFile::link(PROJECT_SOURCE_DIR "/tools", path("tools")));
-    const Outcome made = bash("\"$1\" -S \"$2\" -B failing >made 2>&1 || { cat made; exit 1; }; "
-                              "\"$3\" --test-dir failing -j 4 >report 2>&1",
-                              {CMAKE_PROGRAM, TEST_SOURCE_DIR "/failing", CTEST_PROGRAM});
+    const Outcome made =
+        bash("\"$1\" -G \"$2\" -S \"$3\" -B failing >made 2>&1 || { cat made; exit 1; }; "
+             "\"$4\" --test-dir failing -j 4 >report 2>&1",
+             {CMAKE_PROGRAM, GENERATOR, TEST_SOURCE_DIR "/failing", CTEST_PROGRAM});
     QVERIFY2(QFile::exists(path("failing/Testing/Temporary/LastTest.log")), qPrintable(made.text));
     QVERIFY(made.status != 0);
 }
@@ -172,7 +174,9 @@ void ScriptsTest::reasons_data()
                                  "    is closed)\n       Loc: [c.cpp(9)]\n";
     QTest::newRow("crashed") << "crashes (SEGFAULT)\n";
     QTest::newRow("where it crashed") << "    QDEBUG : D::second() the last word\n";
-    QTest::newRow("stopped") << "    QFATAL : E::first() the file cannot be read\n";
+    QTest::newRow("stopped") << "stops (Subprocess aborted)\n"
+                                "    QFATAL : E::first() the file cannot be read\n"
+                                "leaks (Failed)\n";
     QTest::newRow("leaked") << "leaks (Failed)\n"
                                "    ==12==ERROR: LeakSanitizer: detected memory leaks\n"
                                "        #0 0x1 in leak f.cpp:1\n    SUMMARY: AddressSanitizer";
