@@ -77,7 +77,7 @@ void MainWindow::connectCamera()
     setWindowTitle(QStringLiteral("Quorvandel - ID:%1").arg(session.camera.cameraId));
     configureCamera();
     placeWithNextPicture =
-        QPointF(cameraState.roiWidth / 2.0, cameraState.roiHeight / 2.0); // its centre
+        QPointF(session.camera.roiWidth / 2.0, session.camera.roiHeight / 2.0); // its centre
     captureThread->startCapture();
 }
 
