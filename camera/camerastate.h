@@ -23,11 +23,11 @@ using FrameBuffer = std::array<std::uint8_t, frameBufferSize>;
 struct CameraState {
     Relaxed<bool> sdkReady;        ///< InitVELDIXResource succeeded
     Relaxed<bool> cameraConnected; ///< a camera is open and initialised; the capture thread reads
-    char cameraId[veldixIdSize + 1] = {}; ///< NUL-terminated ID of the camera found
-    double exposure = 0;                  ///< microseconds
-    double gain = 0;                      ///< camera units
-    double speed = 0;                     ///< 0 to 2
-    double usbTraffic = 0;                ///< 0 to 255
+    char cameraId[longestIdSize] = {}; ///< NUL-terminated ID of the camera found
+    double exposure = 0;               ///< microseconds
+    double gain = 0;                   ///< camera units
+    double speed = 0;                  ///< 0 to 2
+    double usbTraffic = 0;             ///< 0 to 255
     std::uint32_t bits = 0;
     std::uint32_t binX = 0, binY = 0;
     std::uint32_t streamMode = 0; ///< 1 = live video; the low byte is passed on

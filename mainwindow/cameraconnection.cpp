@@ -16,6 +16,7 @@
 #include <QtDebug>
 #include <algorithm>
 #include <array>
+#include <cstring>
 
 namespace
 {
@@ -31,15 +32,20 @@ QString modelOf(const char *id)
     return dash < 0 ? QString() : text.left(dash);
 }
 
-/// The ID of camera `index` into `id`, cut to its size; false if the library has none. The library
-/// is given more room than its IDs need.
-bool readId(int index, char (&id)[veldixIdSize + 1])
+/// The ID of camera `index` into `id`; false if the library has none, or one too long to be given
+/// back as it is. The library is given far more room than its IDs need.
+bool readId(int index, char (&id)[longestIdSize])
 {
-    std::array<char, 256> buffer{};
+    std::array<char, 16384> buffer{};
     if (GetVELDIXId(index, buffer.data()) != 0)
         return false;
-    std::fill(std::begin(id), std::end(id), '\0');
-    std::copy_n(buffer.begin(), veldixIdSize, std::begin(id));
+    buffer.back() = '\0';
+    const std::size_t length = std::strlen(buffer.data());
+    if (length >= sizeof id) {
+        qCritical("camera %d is left out: its ID of %zu characters is too long", index, length);
+        return false;
+    }
+    std::copy_n(buffer.begin(), length + 1, std::begin(id));
     return true;
 }
 
