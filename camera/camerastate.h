@@ -33,6 +33,9 @@ struct CameraState {
     std::uint32_t streamMode = 0; ///< 1 = live video; the low byte is passed on
     std::uint32_t roiX = 0, roiY = 0, roiWidth = 0, roiHeight = 0;
 
+    /// BeginVELDIXLive has succeeded for this capture loop, which writes; the GUI reads.
+    Relaxed<bool> liveMode;
+
     // Of the latest frame: the capture thread writes, the GUI reads.
     Relaxed<std::uint32_t> frameWidth, frameHeight, frameBpp, frameChannels;
 

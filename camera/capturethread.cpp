@@ -108,10 +108,12 @@ bool CaptureThread::beginLive()
     void *const handle = cameraHandle;
     if (stopRequested || !handle)
         return false;
+    cameraState.liveMode = false;
     if (BeginVELDIXLive(handle) != 0) {
         qCritical("BeginVELDIXLive failure");
         return false;
     }
+    cameraState.liveMode = true;
     return true;
 }
 

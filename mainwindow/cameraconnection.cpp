@@ -10,6 +10,7 @@
 #include "mainwindow/wizardtable.h"
 #include "ui_mainwindow.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QMessageBox>
 #include <QTimer>
@@ -23,6 +24,9 @@ namespace
 constexpr auto modelName = "QUORVANDEL";
 /// More cameras than can be; a library that tells of more is not asked for the IDs of all.
 constexpr std::int32_t mostCameras = 1024;
+
+/// Milliseconds between two looks at a closing that takes its time.
+constexpr int lookInterval = 20;
 
 /// The model in an ID of the form model, '-', serial; empty for an ID without '-'.
 QString modelOf(const char *id)
@@ -62,7 +66,7 @@ void showParameter(QSlider &slider, QLineEdit &edit, int value)
 
 void MainWindow::on_actionConnect_triggered()
 {
-    if (!cameraState.sdkReady)
+    if (!cameraState.sdkReady || cameraClosing.isUnderWay())
         return;
     if (cameraState.cameraConnected)
         disconnectCamera();
@@ -170,34 +174,34 @@ void MainWindow::showConnected(bool connected)
     ui->menuZoom->setEnabled(connected);
 }
 
-/// Stops the live mode and closes the camera; true if it is closed. The capture thread is kept off
-/// the handle meanwhile: it is waited for as long as a fetch in flight takes. One that does not
-/// return leaves the camera as it is, and the window usable.
-bool MainWindow::closeCamera()
-{
-    const Locker lock(handleMutex, callPatience());
-    libraryHangs = !lock;
-    if (libraryHangs) {
-        qCritical("the camera is not closed: its library does not return from a call");
-        return false;
-    }
-    void *const handle = cameraHandle;
-    if (StopVELDIXLive(handle) == 0)
-        qDebug("StopVELDIXLive");
-    if (CloseVELDIX(handle) != 0)
-        return false;
-    qDebug("CloseVELDIX");
-    cameraHandle = nullptr;
-    cameraState.cameraConnected = false;
-    return true;
-}
-
+/// A camera whose library does not return at once is closed later, the window being usable until
+/// then.
 void MainWindow::disconnectCamera()
 {
     captureThread->stopCapture();
     if (!cameraHandle)
         return;
-    if (closeCamera()) {
+    cameraClosing.begin(callPatience());
+    showDisconnected(cameraClosing.look(std::min(callPatience(), stopPatience)));
+}
+
+/// Whoever answers a box or a dialog finds the wizard where it was.
+void MainWindow::followClosing()
+{
+    if (cameraClosing.isUnderWay()) // else it has ended with the window's closing
+        showDisconnected(QApplication::activeModalWidget() ? CameraClosing::State::UnderWay
+                                                           : cameraClosing.look(0));
+}
+
+/// What comes after a look at the camera's closing.
+void MainWindow::showDisconnected(CameraClosing::State state)
+{
+    if (state == CameraClosing::State::UnderWay) {
+        QTimer::singleShot(lookInterval, this, [this] { followClosing(); });
+        return;
+    }
+    libraryHangs = state == CameraClosing::State::Hanging;
+    if (state == CameraClosing::State::Closed) {
         ui->actionConnect->setText(tr("Connect"));
         switchStep(wizardAtRest);
         showConnected(false);
@@ -231,7 +235,8 @@ int MainWindow::callPatience() const
 bool MainWindow::captureEnds()
 {
     captureThread->stopCapture();
-    return captureThread->waitForEnd(static_cast<unsigned long>(callPatience()));
+    return captureThread->waitForEnd(static_cast<unsigned long>(callPatience())) &&
+           cameraClosing.stopEnds(callPatience());
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)
@@ -241,8 +246,13 @@ void MainWindow::closeEvent(QCloseEvent *event)
         if (timer)
             timer->stop();
     captureThread->stopCapture();
-    if (cameraState.cameraConnected && cameraHandle && closeCamera() && cameraState.sdkReady)
-        qDebug("ReleaseVELDIXResource success");
+    if (cameraState.cameraConnected && cameraHandle) {
+        cameraClosing.begin(callPatience());
+        const CameraClosing::State state = cameraClosing.finish();
+        libraryHangs = state == CameraClosing::State::Hanging;
+        if (state == CameraClosing::State::Closed && cameraState.sdkReady)
+            qDebug("ReleaseVELDIXResource success");
+    }
     cameraState.sdkReady = false;
     event->accept();
 }
