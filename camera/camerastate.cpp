@@ -6,6 +6,7 @@ void setCameraDefaults(CameraState &state)
 {
     state.sdkReady = false;
     state.cameraConnected = false;
+    state.liveMode = false;
     state.exposure = 20000.0;
     state.gain = 1.0;
     state.speed = 0.0;

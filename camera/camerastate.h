@@ -12,15 +12,18 @@
 struct CameraState {
     Relaxed<bool> sdkReady;        ///< InitVELDIXResource succeeded
     Relaxed<bool> cameraConnected; ///< a camera is open and initialised; the capture thread reads
-    char cameraId[veldixIdSize + 1] = {}; ///< NUL-terminated ID of the camera found
-    double exposure = 0;                  ///< microseconds
-    double gain = 0;                      ///< camera units
-    double speed = 0;                     ///< 0 to 2
-    double usbTraffic = 0;                ///< 0 to 255
+    char cameraId[longestIdSize] = {}; ///< NUL-terminated ID of the camera found
+    double exposure = 0;               ///< microseconds
+    double gain = 0;                   ///< camera units
+    double speed = 0;                  ///< 0 to 2
+    double usbTraffic = 0;             ///< 0 to 255
     std::uint32_t bits = 0;
     std::uint32_t binX = 0, binY = 0;
     std::uint32_t streamMode = 0; ///< 1 = live video; the low byte is passed on
     std::uint32_t roiX = 0, roiY = 0, roiWidth = 0, roiHeight = 0;
+
+    /// BeginVELDIXLive has succeeded for this capture loop, which writes; the GUI reads.
+    Relaxed<bool> liveMode;
 
     // Of the latest frame: the capture thread writes, the GUI reads.
     Relaxed<std::uint32_t> frameWidth, frameHeight, frameBpp, frameChannels;

@@ -76,10 +76,12 @@ bool CaptureThread::beginLive()
     const CameraHandle::Hold camera(session.handle);
     if (stopRequested || !camera.get())
         return false;
+    session.camera.liveMode = false;
     if (BeginVELDIXLive(camera.get()) != 0) {
         qCritical("BeginVELDIXLive failure");
         return false;
     }
+    session.camera.liveMode = true;
     return true;
 }
 

@@ -2,6 +2,7 @@
 // Finds the camera maker's library at run time and passes the sixteen operations on to it.
 #include "camera/veldix.h"
 
+#include "camera/loaderfolders.h"
 #include "camera/loadprobe.h"
 
 #include <QCoreApplication>
@@ -93,34 +94,67 @@ bool saysAbsent(const QString &reason, const QByteArray &file)
            QString(reason).replace(QFile::decodeName(file), QFile::decodeName(absent));
 }
 
-/// Loads the first library that loads; its functions must be complete. The library stays loaded.
-/// Others that are there and do not load are told of: the one behind them may be a virtual camera.
-bool load()
+/// What there is under a name that the loader does not load; empty = nothing at all. The loader
+/// passes over files that are for another processor or that may not be read, as if there were none.
+QByteArrayList whatIsThere(const QByteArray &file, const QString &reason)
 {
-    QStringList reasons, unusable;
+    const QByteArrayList found = filesOfName(
+        file, loaderFolders() + configuredFolders(QByteArrayLiteral("/etc/ld.so.conf")));
+    if (found.isEmpty() && !saysAbsent(reason, file))
+        return {file};
+    return found;
+}
+
+enum class Outcome {
+    Absent,     ///< there is no file
+    Unusable,   ///< there is one that does not load, or not without harm
+    Incomplete, ///< it loads, and is not a library of this kind or version
+    Loaded,
+};
+
+void logUnusable(const QByteArray &files, const QString &reason)
+{
+    qCritical("%s is there and can not be used: %s; no other camera library is tried",
+              files.constData(), qPrintable(reason));
+}
+
+/// Loads one library, which then stays loaded. \param reason why it is not loaded
+Outcome loadFrom(const QString &name, QString &reason)
+{
+    const QByteArray file = QFile::encodeName(name);
+    if (!survivesLoading(file)) {
+        logUnusable(file, QStringLiteral("it ends or holds up the program as it is loaded"));
+        return Outcome::Unusable;
+    }
+    void *const handle = dlopen(file.constData(), RTLD_NOW | RTLD_LOCAL);
+    if (!handle) {
+        reason = loadFailure();
+        const QByteArrayList there = whatIsThere(file, reason);
+        if (there.isEmpty())
+            return Outcome::Absent;
+        logUnusable(there.join(", "), reason);
+        return Outcome::Unusable;
+    }
+    if (resolveAll(handle, name))
+        return Outcome::Loaded;
+    dlclose(handle);
+    return Outcome::Incomplete;
+}
+
+/// Loads the first library that is there: whoever has the maker's does not want to see another's
+/// pictures in place of the camera's.
+Outcome load()
+{
+    QStringList reasons;
     for (const QString &name : librariesToTry(QCoreApplication::applicationDirPath())) {
-        const QByteArray file = QFile::encodeName(name);
-        if (!survivesLoading(file)) {
-            qCritical("%s is left out: it ends or holds up the program as it is loaded",
-                      file.constData());
-            continue;
-        }
-        void *const handle = dlopen(file.constData(), RTLD_NOW | RTLD_LOCAL);
-        if (!handle) {
-            reasons.append(loadFailure());
-            if (!saysAbsent(reasons.last(), file))
-                unusable.append(reasons.last());
-            continue;
-        }
-        for (const QString &reason : unusable)
-            qCritical("a camera library is left out: %s", qPrintable(reason));
-        if (resolveAll(handle, name))
-            return true;
-        dlclose(handle);
-        return false;
+        QString reason;
+        const Outcome outcome = loadFrom(name, reason);
+        if (outcome != Outcome::Absent)
+            return outcome;
+        reasons.append(reason);
     }
     qCritical("the camera library can not be loaded: %s", qPrintable(reasons.join("; ")));
-    return false;
+    return Outcome::Absent;
 }
 } // namespace
 
@@ -139,8 +173,12 @@ QStringList librariesToTry(const QString &applicationFolder)
 
 std::uint32_t InitVELDIXResource()
 {
-    if (!loaded)
-        loaded = load();
+    if (!loaded) {
+        const Outcome outcome = load();
+        if (outcome == Outcome::Unusable)
+            return 0;
+        loaded = outcome == Outcome::Loaded;
+    }
     return call(function<InitVELDIXResource>, veldixError);
 }
 

@@ -18,13 +18,17 @@ enum VeldixControl : std::int32_t {
 
 /// Bytes of a camera's ID with its NUL.
 constexpr int veldixIdSize = 38;
+/// Bytes of the longest ID that is taken all the same, with its NUL: the library that gave it is
+/// given it back as a whole.
+constexpr int longestIdSize = 256;
 
 // The sixteen operations of the Camera SDK, each passed on to the library that
 // InitVELDIXResource found. All may be called from any thread. Before a successful
 // InitVELDIXResource they fail: veldixError, no camera, a null handle, the value 0.
 
 /// Loads the library (see librariesToTry) and initialises it; 0 = ready. A library that is absent
-/// or lacks one of the functions is named in a critical log line.
+/// or lacks one of the functions is named in a critical log line. One that is there and can not be
+/// loaded is too; it counts as a library that knows no camera: the result is 0 then.
 std::uint32_t InitVELDIXResource();
 /// Number of cameras; 0 or negative = none.
 std::int32_t ScanVELDIX();
@@ -50,7 +54,7 @@ std::uint32_t GetVELDIXLiveFrame(void *handle, std::uint32_t *width, std::uint32
 std::uint32_t StopVELDIXLive(void *handle);
 std::uint32_t CloseVELDIX(void *handle);
 
-/// Where the library is looked for, the first that loads being taken: the loader's own search
+/// Where the library is looked for, the first that is there being taken: the loader's own search
 /// path, then the program's virtual camera in its private folder.
 /// @param applicationFolder folder of the executable, absolute
 QStringList librariesToTry(const QString &applicationFolder);

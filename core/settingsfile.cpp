@@ -2,13 +2,19 @@
 // Reads and writes the settings file by one table of its keys.
 #include "core/settingsfile.h"
 
+#include "core/iniscanner.h"
+#include "core/settingsplace.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSettings>
+#include <QVariant>
 #include <QtDebug>
 #include <algorithm>
+#include <array>
+#include <optional>
 #include <variant>
 
 namespace
@@ -38,73 +44,46 @@ const Entry entries[] = {
     {"AXIS_CENTER", "y", &Settings::axisY},
 };
 
-/// Ours has less than a thousandth of that; a file with more bytes is not one that we wrote.
-constexpr qint64 largestFile = 1 << 20;
+/// A file of more bytes is read for its keys in the first of them: that takes a second or two.
+constexpr qint64 mostRead = 1 << 27;
 
-enum class Place {
-    Usable,  ///< nothing, or a file that the INI reader can be given
-    Partly,  ///< the same, but with lines that saving does not write back
-    NoFile,  ///< a folder, a pipe, a device: neither read, which might never end, nor replaced
-    NotOurs, ///< a file that is not read, and makes room when the settings are saved
-};
+/// What the file says of our keys, in the order of the table; nothing where there is no such key.
+using Texts = std::array<std::optional<QString>, std::size(entries)>;
 
-/// Whether there are lines that are neither a section nor a key: the INI writer drops them.
-bool hasLinesToLose(QByteArray bytes)
+/// The one text of a value. A list has none, nor has an object of the toolkit's: then nothing is
+/// known of the key.
+std::optional<QString> textOf(const QStringList &elements)
 {
-    if (bytes.startsWith("\xEF\xBB\xBF"))
-        bytes.remove(0, 3);
-    const QList<QByteArray> lines = bytes.replace('\r', '\n').split('\n');
-    return std::any_of(lines.begin(), lines.end(), [](const QByteArray &whole) {
-        const QByteArray line = whole.trimmed();
-        const bool isSection = line.startsWith('[') && line.endsWith(']');
-        const bool isKey = line.indexOf('=') > 0 && !line.startsWith(';');
-        return !line.isEmpty() && !isSection && !isKey;
-    });
+    if (elements.size() != 1)
+        return QString();
+    const QString &text = elements.constFirst();
+    if (text.startsWith(QLatin1String("@@")))
+        return text.mid(1);
+    if (!text.startsWith('@') || !text.endsWith(')'))
+        return isSerialisedObject(text) ? std::nullopt : std::optional(text);
+    for (const char *const type : {"@ByteArray(", "@String("})
+        if (const QLatin1String begin(type); text.startsWith(begin))
+            return text.mid(begin.size()).chopped(1);
+    return std::nullopt;
 }
 
-/// What lies at `path`, before the INI reader looks at it.
-Place placeOf(const QString &path)
+Texts textsIn(QFile &file)
 {
-    const QFileInfo info(path);
-    if (!info.exists())
-        return Place::Usable;
-    if (!info.isFile())
-        return Place::NoFile;
-    if (info.size() > largestFile)
-        return Place::NotOurs;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return Place::Usable;
-    // The reader makes objects of these, as large as a damaged text says they are.
-    const QByteArray bytes = file.read(largestFile);
-    if (bytes.contains("@Variant(") || bytes.contains("@DateTime("))
-        return Place::NotOurs;
-    return hasLinesToLose(bytes) ? Place::Partly : Place::Usable;
-}
-
-/// A name beside `path` that is still free.
-QString freeNameBeside(const QString &path)
-{
-    QString name = path + QStringLiteral(".unread");
-    for (int number = 2; QFileInfo::exists(name) || QFileInfo(name).isSymLink(); ++number)
-        name = path + QStringLiteral(".unread-") + QString::number(number);
-    return name;
-}
-
-/// Saving would lose what could not be read, so that this is kept under another name first. False
-/// if it can not be: then nothing may be saved.
-bool keepWhatWasNotRead(const QString &path, Place place)
-{
-    if (place == Place::Usable)
-        return true;
-    if (!QFile(path).open(QIODevice::Append))
-        return false;
-    const QString name = freeNameBeside(path);
-    // Of a damaged file the lines that can be read stay where they are, whatever they say.
-    const bool kept = place == Place::NotOurs ? QFile::rename(path, name) : QFile::copy(path, name);
-    if (kept)
-        qWarning("what was not read of the settings file is kept in %s", qPrintable(name));
-    return kept;
+    std::array<QString, std::size(entries)> names;
+    for (std::size_t i = 0; i < names.size(); ++i)
+        names[i] = QLatin1String(entries[i].group) + '/' + entries[i].key;
+    Texts texts;
+    IniScanner scanner(file, int(largestSettingsFile));
+    for (IniEntry found; file.pos() <= mostRead && scanner.next(found);) {
+        const auto name = std::find(names.begin(), names.end(), found.name);
+        if (found.kind != IniEntry::Key || name == names.end())
+            continue;
+        if (const std::optional<QString> text = textOf(found.elements()))
+            texts[std::size_t(name - names.begin())] = text;
+        else
+            qWarning("%s in the settings file is not read: it is no text", qPrintable(*name));
+    }
+    return texts;
 }
 
 /// QSettings locks the file by another one beside it. One that is empty was left by a process that
@@ -123,27 +102,20 @@ QString decimalText(double value)
 
 /// Takes the value of one key, converted to the member's type.
 struct Take {
-    const QSettings &file;
-    const Entry &entry;
+    const QString &text;
     Settings &settings;
 
-    void operator()(QString Settings::*member) const
-    {
-        settings.*member = file.value(entry.key, settings.*member).toString();
-    }
-    void operator()(float Settings::*member) const
-    {
-        settings.*member = file.value(entry.key, settings.*member).toFloat();
-    }
+    void operator()(QString Settings::*member) const { settings.*member = text; }
+    void operator()(float Settings::*member) const { settings.*member = QVariant(text).toFloat(); }
     void operator()(double Settings::*member) const // single precision is all the file promises
     {
-        settings.*member = double(file.value(entry.key, settings.*member).toFloat());
+        settings.*member = double(QVariant(text).toFloat());
     }
     void operator()(bool Settings::*member) const
     {
         // QVariant takes any other text for true.
-        const QString text = file.value(entry.key, settings.*member).toString().toLower();
-        settings.*member = text == QLatin1String("true") || text == QLatin1String("1");
+        const QString truth = text.toLower();
+        settings.*member = truth == QLatin1String("true") || truth == QLatin1String("1");
     }
 };
 
@@ -164,6 +136,16 @@ struct Put {
     }
     void operator()(bool Settings::*member) const { file.setValue(entry.key, settings.*member); }
 };
+
+void putAll(const QString &path, const Settings &settings)
+{
+    QSettings file(path, QSettings::IniFormat);
+    for (const Entry &entry : entries) {
+        file.beginGroup(entry.group);
+        std::visit(Put{file, entry, settings}, entry.member);
+        file.endGroup();
+    }
+}
 } // namespace
 
 QString settingsFilePath()
@@ -176,35 +158,27 @@ bool readSettings(const QString &path, Settings &settings)
 {
     if (!QFile::exists(path))
         return false;
-    Settings read;
-    const Place place = placeOf(path);
-    if (place == Place::NoFile || place == Place::NotOurs) {
+    settings = Settings();
+    if (!isFileOrNothing(path)) {
         qWarning("the settings file %s is not read: it is not one of ours", qPrintable(path));
-        settings = read;
         return true;
     }
-    QSettings file(path, QSettings::IniFormat);
-    for (const Entry &entry : entries) {
-        file.beginGroup(entry.group);
-        std::visit(Take{file, entry, read}, entry.member);
-        file.endGroup();
-    }
-    settings = read;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return true;
+    const Texts texts = textsIn(file);
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        if (texts[i])
+            std::visit(Take{*texts[i], settings}, entries[i].member);
     return true;
 }
 
 void writeSettings(const QString &path, const Settings &settings)
 {
-    const Place place = placeOf(path);
-    if (place == Place::NoFile)
+    if (!isFileOrNothing(path))
         return;
     removeEmptyLock(path);
-    if (!keepWhatWasNotRead(path, place))
-        return;
-    QSettings file(path, QSettings::IniFormat);
-    for (const Entry &entry : entries) {
-        file.beginGroup(entry.group);
-        std::visit(Put{file, entry, settings}, entry.member);
-        file.endGroup();
-    }
+    const auto write = [&settings](const QString &place) { putAll(place, settings); };
+    if (makeReadyToSave(path, write))
+        write(path);
 }

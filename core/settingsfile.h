@@ -26,13 +26,14 @@ QString settingsFilePath();
 
 /// Reads `path` into `settings`; a missing key gives its default, a text that is no number 0, one
 /// that is no truth value false. Returns false, with `settings` untouched, where nothing exists at
-/// `path`. What is no file, is larger than a mebibyte or holds the toolkit's serialised objects
-/// gives the defaults and a warning in the log.
+/// `path`. A value that is one of the toolkit's serialised objects counts as missing, and what is
+/// no file gives the defaults, each with a warning in the log. A large file takes no more memory
+/// than a small one.
 bool readSettings(const QString &path, Settings &settings);
 
 /// Writes every key to `path`; numbers with 6 significant digits. Keys of others stay. A file that
 /// can not be written is left as it is, without a message; so is what is no file. The file is
-/// replaced at once: whenever the process is killed, the old or the new one is there whole. A file
-/// that is not read (see readSettings), or not in full, is kept beside it as
-/// "Quorvandel.ini.unread" first, with a warning in the log.
+/// replaced at once: whenever the process is killed, the old or the new one is there whole. What
+/// can not be read of a file, and one that is too large, is kept beside it first (see
+/// settingsplace.h), with a warning in the log.
 void writeSettings(const QString &path, const Settings &settings);

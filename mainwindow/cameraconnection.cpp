@@ -8,18 +8,23 @@
 #include "ui_mainwindow.h"
 #include "widgets/magnifierwidget.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QMessageBox>
 #include <QTimer>
 #include <QtDebug>
 #include <algorithm>
 #include <array>
+#include <cstring>
 
 namespace
 {
 constexpr auto modelName = "QUORVANDEL";
 /// More cameras than can be; a library that reports more is not asked for the IDs of all.
 constexpr std::int32_t maxCameras = 1024;
+
+/// Milliseconds between two looks at a closing that takes its time.
+constexpr int lookInterval = 20;
 
 /// The model in an ID of the form model, '-', serial; empty for an ID without '-'.
 QString modelOf(const char *id)
@@ -29,15 +34,20 @@ QString modelOf(const char *id)
     return dash < 0 ? QString() : text.left(dash);
 }
 
-/// The ID of camera `index` into `id`, cut to its size; false if the library has none. The library
-/// is given more room than its IDs need.
-bool readId(int index, char (&id)[veldixIdSize + 1])
+/// The ID of camera `index` into `id`; false if the library has none, or one too long to be given
+/// back as it is. The library is given far more room than its IDs need.
+bool readId(int index, char (&id)[longestIdSize])
 {
-    std::array<char, 256> buffer{};
+    std::array<char, 16384> buffer{};
     if (GetVELDIXId(index, buffer.data()) != 0)
         return false;
-    std::fill(std::begin(id), std::end(id), '\0');
-    std::copy_n(buffer.begin(), veldixIdSize, std::begin(id));
+    buffer.back() = '\0';
+    const std::size_t length = std::strlen(buffer.data());
+    if (length >= sizeof id) {
+        qCritical("camera %d is left out: its ID of %zu characters is too long", index, length);
+        return false;
+    }
+    std::copy_n(buffer.begin(), length + 1, std::begin(id));
     return true;
 }
 
@@ -54,7 +64,7 @@ void showParameter(QSlider &slider, QLineEdit &edit, int value)
 
 void MainWindow::on_actionConnect_triggered()
 {
-    if (!session.camera.sdkReady)
+    if (!session.camera.sdkReady || cameraClosing.isUnderWay())
         return;
     if (session.camera.cameraConnected)
         disconnectCamera();
@@ -164,34 +174,34 @@ void MainWindow::showConnected(bool connected)
     ui->menuZoom->setEnabled(connected);
 }
 
-/// Stops the live mode and closes the camera; true if it is closed. The capture thread is kept off
-/// the handle meanwhile: it is waited for as long as a fetch in flight takes. One that does not
-/// return leaves the camera as it is, and the window usable.
-bool MainWindow::closeCamera()
-{
-    const CameraHandle::Hold camera(session.handle, sdkCallTimeout());
-    libraryHangs = !camera;
-    if (libraryHangs) {
-        qCritical("the camera is not closed: its library does not return from a call");
-        return false;
-    }
-    void *const handle = camera.get();
-    if (StopVELDIXLive(handle) == 0)
-        qDebug("StopVELDIXLive");
-    if (CloseVELDIX(handle) != 0)
-        return false;
-    qDebug("CloseVELDIX");
-    session.handle.set(nullptr);
-    session.camera.cameraConnected = false;
-    return true;
-}
-
+/// A camera whose library does not return at once is closed later, the window being usable until
+/// then.
 void MainWindow::disconnectCamera()
 {
     captureThread->stopCapture();
     if (!session.handle.get())
         return;
-    if (closeCamera()) {
+    cameraClosing.begin(sdkCallTimeout());
+    showDisconnected(cameraClosing.look(std::min(sdkCallTimeout(), stopPatience)));
+}
+
+/// Whoever answers a box or a dialog finds the wizard where it was.
+void MainWindow::followClosing()
+{
+    if (cameraClosing.isUnderWay()) // else it has ended with the window's closing
+        showDisconnected(QApplication::activeModalWidget() ? CameraClosing::State::UnderWay
+                                                           : cameraClosing.look(0));
+}
+
+/// What comes after a look at the camera's closing.
+void MainWindow::showDisconnected(CameraClosing::State state)
+{
+    if (state == CameraClosing::State::UnderWay) {
+        QTimer::singleShot(lookInterval, this, [this] { followClosing(); });
+        return;
+    }
+    libraryHangs = state == CameraClosing::State::Hanging;
+    if (state == CameraClosing::State::Closed) {
         ui->actionConnect->setText(tr("Connect"));
         switchStep(wizardAtRest);
         showConnected(false);
@@ -215,7 +225,8 @@ int MainWindow::sdkCallTimeout() const
 bool MainWindow::stopCaptureAndWait()
 {
     captureThread->stopCapture();
-    return captureThread->waitForEnd(static_cast<unsigned long>(sdkCallTimeout()));
+    return captureThread->waitForEnd(static_cast<unsigned long>(sdkCallTimeout())) &&
+           cameraClosing.stopEnds(sdkCallTimeout());
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)
@@ -225,9 +236,13 @@ void MainWindow::closeEvent(QCloseEvent *event)
         if (timer)
             timer->stop();
     captureThread->stopCapture();
-    if (session.camera.cameraConnected && session.handle.get() && closeCamera() &&
-        session.camera.sdkReady)
-        qDebug("ReleaseVELDIXResource success");
+    if (session.camera.cameraConnected && session.handle.get()) {
+        cameraClosing.begin(sdkCallTimeout());
+        const CameraClosing::State state = cameraClosing.finish();
+        libraryHangs = state == CameraClosing::State::Hanging;
+        if (state == CameraClosing::State::Closed && session.camera.sdkReady)
+            qDebug("ReleaseVELDIXResource success");
+    }
     session.camera.sdkReady = false;
     event->accept();
 }

@@ -2,6 +2,7 @@
 // The one window of the program: who owns what, and which signals and slots are there?
 #pragma once
 
+#include "camera/cameraclosing.h"
 #include "camera/capturethread.h"
 #include "mainwindow/pagebutton.h"
 
@@ -209,7 +210,8 @@ private:
     void showConnected(bool connected);
     void showNotFound();
     int sdkCallTimeout() const;
-    bool closeCamera();
+    void followClosing();
+    void showDisconnected(CameraClosing::State state);
 
     // imagepicking.cpp
     bool imageEvent(QEvent *event);
@@ -294,6 +296,7 @@ private:
     FavoriteDialog *favoriteDialog = nullptr;
     QTranslator *translator = nullptr;
     QMediaPlayer *player = nullptr;
+    CameraClosing cameraClosing{session};
     /// Declared last: it ends before any other member goes.
     std::unique_ptr<CaptureThread> captureThread;
 };

@@ -159,6 +159,7 @@ const std::vector<SkyKey> &skyKeys()
         {"camera", "roll", &S::roll, -360.0, 360.0},
         {"camera", "channels", &S::channels, 1.0, 3.0},
         {"camera", "unthrottled", &S::unthrottled},
+        {"camera", "label", &S::label},
         {"sensor", "seed", &S::seed, 0.0, 4294967295.0},
         {"sensor", "noise", &S::noise},
         {"sensor", "hot_pixels", &S::hotPixels, 0.0, 1000.0},

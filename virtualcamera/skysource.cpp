@@ -4,6 +4,8 @@
 
 #include <chrono>
 
+#include "virtualcamera/label.h"
+
 namespace virtualsky
 {
 SkySource::SkySource(const std::string &path, SkyWatch::Report report)
@@ -25,6 +27,8 @@ unsigned SkySource::frame(const FrameRequest &request, std::uint8_t *out)
     const Moment moment = clock.at(watch.current(), now.count());
     const std::vector<ImagedStar> &stars = scene.starsAt(moment.state, moment.utcSeconds);
     sensor.render(moment.state, stars, request.area, request.exposure, out);
+    if (moment.state.label)
+        drawLabel(request.area.width, request.area.height, moment.state.channels, out);
     return moment.state.channels;
 }
 } // namespace virtualsky

@@ -31,6 +31,7 @@ struct SkyState {
     double roll = 0.0;    ///< degrees, the picture's turn about the axis point, clockwise
     unsigned channels = 1;
     bool unthrottled = false; ///< a new frame at every call
+    bool label = true;        ///< "virtual sky" in every picture
 
     std::uint32_t seed = 1;
     bool noise = true;

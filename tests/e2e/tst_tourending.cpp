@@ -2,6 +2,7 @@
 // Does the tour show its end from near, keep it until a key, and refuse what it does not know?
 #include "app/stylesheet.h"
 #include "mainwindow/mainwindow.h"
+#include "tests/support/sessionwindow.h"
 #include "resources/resources.h"
 #include "tests/support/patience.h"
 #include "tools/practicesky.h"
@@ -69,7 +70,7 @@ void TourEndingTest::theLastStepsAreSeenFromNear()
     sky.unthrottled = true;
     sky.noise = false;
     Knobs knobs(qEnvironmentVariable("QUORVANDEL_SKY").toStdString(), sky);
-    MainWindow window;
+    SessionWindow window;
     window.resize(1000, 700);
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window, patience));

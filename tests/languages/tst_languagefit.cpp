@@ -349,7 +349,7 @@ void LanguageFitTest::fitsOnASmallScreen()
 {
     QFETCH(int, number);
     QFETCH(QSize, size);
-    MainWindow window;
+    SessionWindow window;
     window.resize(size);
     window.show();
     window.findChild<QLabel *>("label_showImg")->setPixmap(QPixmap(1280, 960));

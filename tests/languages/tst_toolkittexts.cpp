@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Is any text of the toolkit's left in English: in the context menus, in the file dialog, in the
 // boxes?
-#include "camera/camerastate.h"
+#include "tests/support/sessionwindow.h"
 #include "core/languages.h"
 #include "resources/resources.h"
 #include "tests/support/mainwindowprobe.h"
@@ -24,7 +24,7 @@
 #include <algorithm>
 #include <utility>
 
-class TestToolkitTexts : public QObject
+class ToolkitTextsTest : public QObject
 {
     Q_OBJECT
 
@@ -113,19 +113,19 @@ QStringList walkFileDialog(QFileDialog &dialog)
 }
 } // namespace
 
-void TestToolkitTexts::initTestCase()
+void ToolkitTextsTest::initTestCase()
 {
     initialiseResources();
 }
 
-void TestToolkitTexts::areTranslated_data()
+void ToolkitTextsTest::areTranslated_data()
 {
     QTest::addColumn<int>("number");
     for (std::size_t i = 0; i < languages.size(); ++i)
         QTest::newRow(languages[i].code) << int(i);
 }
 
-void TestToolkitTexts::areTranslated()
+void ToolkitTextsTest::areTranslated()
 {
     QFETCH(int, number);
     const QTemporaryDir folder;
@@ -134,7 +134,7 @@ void TestToolkitTexts::areTranslated()
         QVERIFY(QImage(4, 4, QImage::Format_RGB32).save(name));
     QVERIFY(QFile::setPermissions("locked.png", QFile::ReadOwner));
     LastTranslator last;
-    MainWindow window;
+    SessionWindow window;
     window.resize(700, 400); // scroll bars
     window.show();
     window.findChild<QLabel *>("label_showImg")->setPixmap(QPixmap(1280, 960));
@@ -149,7 +149,7 @@ void TestToolkitTexts::areTranslated()
         seen += contextMenusIn(*dialog);
         dialog->close();
     }
-    cameraState.cameraConnected = true;
+    window.ownSession.camera.cameraConnected = true;
     window.findChild<QAction *>("actionSave_As")->setEnabled(true);
     QTimer::singleShot(200, &window, [&seen] {
         auto *const dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
@@ -159,7 +159,7 @@ void TestToolkitTexts::areTranslated()
         dialog->reject();
     });
     window.findChild<QAction *>("actionSave_As")->trigger();
-    cameraState.cameraConnected = false;
+    window.ownSession.camera.cameraConnected = false;
     QStringList left = last.texts();
     left.erase(std::remove_if(left.begin(), left.end(), isShortcut), left.end());
     QCOMPARE(left.join("; "), QString());
@@ -169,5 +169,5 @@ void TestToolkitTexts::areTranslated()
         QVERIFY2(seen.contains(catalogue.translate(context, text)), text);
 }
 
-QTEST_MAIN(TestToolkitTexts)
+QTEST_MAIN(ToolkitTextsTest)
 #include "tst_toolkittexts.moc"

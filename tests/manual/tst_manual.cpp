@@ -198,7 +198,7 @@ void ManualTest::fromTheMenu()
 /// The test's platform has nothing that opens a page, as a system without a launcher.
 void ManualTest::whereItLiesWithoutALauncher()
 {
-    MainWindow window;
+    SessionWindow window;
     const QString place = manualUrl("EN").toDisplayString(QUrl::PreferLocalFile);
     const LogRecorder log;
     window.findChild<QAction *>("actionQuorvandel_Manual")->trigger();

@@ -8,10 +8,8 @@
 #include <QRegularExpression>
 #include <QSlider>
 #include <QtTest>
-#include <atomic>
 #include <limits>
 #include <optional>
-#include <thread>
 
 namespace
 {
@@ -130,6 +128,7 @@ private slots:
     void frame();
     void id_data();
     void id();
+    void tooLongIdIsPassedOver();
     void hangingFetch_data();
     void hangingFetch();
 
@@ -287,6 +286,10 @@ void SdkMatrixTest::id_data()
         << "QUORVANDEL-" + QByteArray(27, '7') << false << true;
     QTest::newRow("ours, 37 letters") << "QUORVANDEL-" + QByteArray(26, '7') << true << true;
     QTest::newRow("ours, 200 letters") << "QUORVANDEL-" + QByteArray(189, '7') << true << true;
+    QTest::newRow("ours, 255 letters") << "QUORVANDEL-" + QByteArray(244, '7') << true << true;
+    QTest::newRow("ours, 256 letters") << "QUORVANDEL-" + QByteArray(245, '7') << true << false;
+    QTest::newRow("ours, 16,384 letters, no NUL")
+        << "QUORVANDEL-" + QByteArray(16373, '7') << false << false;
     QTest::newRow("38 hyphens") << QByteArray(38, '-') << false << false;
     QTest::newRow("bytes that are no text") << QByteArray(38, '\xFF') << false << false;
     QTest::newRow("format signs") << QByteArray("QUORVANDEL-%s%n%1") << true << true;
@@ -302,15 +305,33 @@ void SdkMatrixTest::id()
         giveGoodFrames();
     });
     {
+        const LogRecorder log;
         const BoxWatcher boxes;
         w.trigger("actionConnect");
         QCOMPARE(bool(w.session().camera.cameraConnected), connects);
         QCOMPARE(boxes.boxes().size(), connects ? 0 : 1);
+        QCOMPARE(log.texts(QtCriticalMsg).filter("too long").size(), id.size() > 255 ? 1 : 0);
+        // It is given back as it came, or not at all.
+        QCOMPARE(sdkCalls({"OpenVELDIX"}),
+                 connects ? QStringList("OpenVELDIX(" + id + ")") : QStringList());
         if (connects)
             QVERIFY(newPicture(w));
     }
     sdk().setCameras({"QUORVANDEL-0001"});
     QVERIFY(worksAgain(w));
+}
+
+/// A camera whose ID can not be given back does not hide the one behind it.
+void SdkMatrixTest::tooLongIdIsPassedOver()
+{
+    const CameraWindow w({}, [] {
+        sdk().setCameras({"QUORVANDEL-" + std::string(300, '7'), "QUORVANDEL-0002"});
+        giveGoodFrames();
+    });
+    w.trigger("actionConnect");
+    QVERIFY(w.session().camera.cameraConnected);
+    QCOMPARE(sdkCalls({"OpenVELDIX"}), QStringList("OpenVELDIX(QUORVANDEL-0002)"));
+    QCOMPARE(w.window->windowTitle(), QString("Quorvandel - ID:QUORVANDEL-0002"));
 }
 
 void SdkMatrixTest::hangingFetch_data()
@@ -331,20 +352,11 @@ void SdkMatrixTest::hangingFetch()
     QVERIFY(sdk().waitForHeldFetch(patience));
     const int fetches = sdk().fetchCount();
     if (disconnects) {
-        std::atomic<bool> disconnecting{false}, released{false};
-        std::thread releasing([&] {
-            while (!disconnecting)
-                std::this_thread::sleep_for(std::chrono::milliseconds(1));
-            std::this_thread::sleep_for(std::chrono::seconds(3));
-            released = true;
-            sdk().releaseFetches();
-        });
-        disconnecting = true;
         w.trigger("actionConnect");
-        const bool waited = released;
-        releasing.join();
-        QVERIFY(waited);
-        QVERIFY(!w.session().camera.cameraConnected);
+        QTest::qWait(3000);
+        QVERIFY(w.session().camera.cameraConnected);
+        sdk().releaseFetches();
+        QTRY_VERIFY(!w.session().camera.cameraConnected);
     } else {
         int ticks = 0;
         QTimer tick;

@@ -19,6 +19,9 @@ private slots:
     void cleanup() { clearPlace(); }
     void nothingIsLost_data();
     void nothingIsLost();
+    void othersKeysStay();
+    void rubbishDoesNotOutgrowTheLimit_data();
+    void rubbishDoesNotOutgrowTheLimit();
     void aSecondOneIsKeptToo();
     void damagedFileThatCanNotBeWritten();
 };
@@ -62,6 +65,56 @@ void SettingsKeptTest::nothingIsLost()
         QCOMPARE(bytesOf(aside.constFirst()), bytes);
     QCOMPARE(QSettings(settingsFilePath(), QSettings::IniFormat).value("ZOOM/factor"),
              QVariant("1"));
+}
+
+/// What can be read of a file with an object stays where it is.
+void SettingsKeptTest::othersKeysStay()
+{
+    put("[MINE]\na=b\nobject=@\\126ariant(\\0\\0\\0\\x0b\\0\\x10\\0\\0\\0)\nlist=1, \"2;3\"\n"
+        "[STYLE]\nstyle=Mono\n");
+    {
+        SessionWindow window;
+        window.close();
+    }
+    const QSettings file(settingsFilePath(), QSettings::IniFormat);
+    QCOMPARE(file.value("MINE/a").toString(), QString("b"));
+    QCOMPARE(file.value("MINE/list").toStringList(), QStringList({"1", "2;3"}));
+    QVERIFY(!file.contains("MINE/object"));
+    QCOMPARE(file.value("STYLE/style").toString(), QString("Mono"));
+    QCOMPARE(keptAside().size(), 1);
+}
+
+void SettingsKeptTest::rubbishDoesNotOutgrowTheLimit_data()
+{
+    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<bool>("grows");
+    QTest::newRow("bytes beyond ASCII") << "key%1=" + QByteArray(1000, '\xE4') + '\n' << true;
+    QTest::newRow("keys beyond ASCII") << QByteArray(1000, '\xE4') + "%1=x\n" << true;
+    QTest::newRow("plain") << "key%1=" + QByteArray(1000, 'x') + '\n' << false;
+}
+
+/// A file just below the limit, which the writer's escapes would make larger, is kept aside as it
+/// is, and read in full before that.
+void SettingsKeptTest::rubbishDoesNotOutgrowTheLimit()
+{
+    QFETCH(QByteArray, line);
+    QFETCH(bool, grows);
+    QByteArray bytes = "[STYLE]\nstyle=Mono\n[MINE]\n";
+    for (int i = 0; bytes.size() < (1 << 20) - 4000; ++i)
+        bytes += QByteArray(line).replace("%1", QByteArray::number(i));
+    put(bytes);
+    for (int run = 0; run < 3; ++run) {
+        SessionWindow window;
+        window.close();
+        QVERIFY(QFileInfo(settingsFilePath()).size() <= 1 << 20);
+        QCOMPARE(QSettings(settingsFilePath(), QSettings::IniFormat).value("STYLE/style"),
+                 QVariant("Mono"));
+        QCOMPARE(keptAside().size(), grows ? 1 : 0);
+    }
+    if (grows)
+        QCOMPARE(bytesOf(keptAside().constFirst()), bytes);
+    else
+        QVERIFY(QFileInfo(settingsFilePath()).size() > (1 << 20) - 4000);
 }
 
 /// An earlier one is not overwritten.

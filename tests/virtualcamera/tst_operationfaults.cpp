@@ -218,7 +218,7 @@ void OperationFaultsTest::channelsAndPictures()
     QFETCH(QByteArray, sky);
     QFETCH(int, channels);
     QFETCH(int, value);
-    setSky(("[camera]\nunthrottled = true\n" + sky).constData());
+    setSky(("[camera]\nunthrottled = true\nlabel = false\n" + sky).constData());
     void *const camera = veldix().openLive();
     VeldixFrame frame;
     QCOMPARE(frame.fetch(veldix(), camera), 0u);

@@ -95,17 +95,18 @@ void SkyDocumentTest::changedText()
 void SkyDocumentTest::everyKeyCanBeChanged()
 {
     SkyState other;
-    other = virtualsky::parse("[site]\nlatitude = 1\nlongitude = 2\n"
-                              "[time]\ndate = 2026-11-20T20:00:00Z\nrunning = false\n"
-                              "[mount]\nbolt_altitude = 1\nbolt_azimuth = 2\nra_angle = 3\n"
-                              "tracking = true\ntracking_since = 2026-11-20T19:00:00.125Z\n"
-                              "[camera]\naxis_x = 1\naxis_y = 2\nroll = 3\nchannels = 3\n"
-                              "unthrottled = true\n[sensor]\nseed = 4294967295\nnoise = false\n"
-                              "hot_pixels = 0\nfwhm = 1\nseeing = 0.1\n[weather]\n"
-                              "sky_magnitude = 21\nclouds = 0.1\nmoon = 0.2\nrefraction = true\n"
-                              "pressure = 1\ntemperature = -2\nhumidity = 0\n[faults]\n"
-                              "fail = InitVELDIX, StopVELDIXLive\ncameras = 2\nunplugged = true\n"
-                              "slow = 1\npicture = black\n");
+    other = virtualsky::parse(
+        "[site]\nlatitude = 1\nlongitude = 2\n"
+        "[time]\ndate = 2026-11-20T20:00:00Z\nrunning = false\n"
+        "[mount]\nbolt_altitude = 1\nbolt_azimuth = 2\nra_angle = 3\n"
+        "tracking = true\ntracking_since = 2026-11-20T19:00:00.125Z\n"
+        "[camera]\naxis_x = 1\naxis_y = 2\nroll = 3\nchannels = 3\n"
+        "unthrottled = true\nlabel = false\n[sensor]\nseed = 4294967295\nnoise = false\n"
+        "hot_pixels = 0\nfwhm = 1\nseeing = 0.1\n[weather]\n"
+        "sky_magnitude = 21\nclouds = 0.1\nmoon = 0.2\nrefraction = true\n"
+        "pressure = 1\ntemperature = -2\nhumidity = 0\n[faults]\n"
+        "fail = InitVELDIX, StopVELDIXLive\ncameras = 2\nunplugged = true\n"
+        "slow = 1\npicture = black\n");
     const std::string changed = virtualmount::withChanges("# bare\n", SkyState(), other);
     QCOMPARE(virtualsky::format(virtualsky::parse(changed)), virtualsky::format(other));
     const std::string full = virtualsky::format(SkyState());
