@@ -167,6 +167,7 @@ void MainWindow::buildStatusBar()
     positionLabel = makeLabel("positionLabel");
     fpsLabel = makeLabel("fpsLabel");
     fpsLabel->setText(QStringLiteral("FPS : 0.0"));
+    buildNotice();
 }
 
 void MainWindow::buildDialogs()
@@ -197,6 +198,7 @@ void MainWindow::startTimers()
     frameTimer->start();
     fpsTimer = makeTimer(this, 500);
     connect(fpsTimer, SIGNAL(timeout()), this, SLOT(updateFPS()));
+    connect(fpsTimer, &QTimer::timeout, this, [this] { showNotice(); });
     fpsTimer->start();
     angleTimer = makeTimer(this, 100);
     connect(angleTimer, SIGNAL(timeout()), this, SLOT(increaseAngleTimeout()));

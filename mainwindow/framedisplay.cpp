@@ -47,6 +47,7 @@ void MainWindow::showImages()
     // The lock is held for the taking alone: the capture thread need not wait for the scaling.
     const QImage picture = takeOldest(frameQueue, frameMutex);
     if (!picture.isNull()) {
+        sinceLastPicture.start();
         displayImage = picture.scaled(scaledSide(picture.width(), zoomFactor),
                                       scaledSide(picture.height(), zoomFactor), Qt::KeepAspectRatio,
                                       Qt::SmoothTransformation);

@@ -3,8 +3,11 @@
 #pragma once
 
 #include "camera/capturethread.h"
+#include "geometry/templaterings.h"
+#include "mainwindow/alignmentprogress.h"
 #include "mainwindow/pagebutton.h"
 
+#include <QElapsedTimer>
 #include <QImage>
 #include <QMainWindow>
 #include <QPoint>
@@ -17,6 +20,7 @@ class AboutDialog;
 class AstroRefractionDialog;
 class FavoriteDialog;
 class MagnifierWidget;
+class NoticeLabel;
 class PoleTrackingDialog;
 class QGraphicsDropShadowEffect;
 class QLabel;
@@ -25,11 +29,17 @@ class QSlider;
 class QTabWidget;
 class QTimer;
 enum class Section;
+struct NoticeFacts;
 struct Settings;
 struct StarCatalogue;
 struct Style;
 struct WizardPage;
 struct WizardStep;
+
+namespace cv
+{
+class Mat;
+}
 
 namespace Ui
 {
@@ -186,6 +196,7 @@ private:
 
     // wizard.cpp
     void switchStep(int step);
+    void keepFocus(int step);
     void openSections(unsigned open);
     void showLamps(int lit);
     void setOverlayFlags(const WizardStep &step);
@@ -245,6 +256,15 @@ private:
     void parameterSliderMoved(const Parameter &parameter, int value);
     void parameterTyped(const Parameter &parameter);
 
+    // noticefacts.cpp
+    void buildNotice();
+    void showNotice();
+    NoticeFacts noticeFacts() const;
+    void lookAtFrame(NoticeFacts &facts) const;
+    TemplateFit fitOfTemplate(const cv::Mat &frame) const;
+    bool isRingUnderMagnifier() const;
+    int trackingDialAngle() const;
+
     // texts.cpp
     void chooseLanguage(const char *code, bool checked);
 
@@ -267,6 +287,8 @@ private:
     std::optional<QPointF> placeAfterZoom; ///< comes into view with the next picture, frame pixels
     bool libraryHangs = false;             ///< the last closing has met a call that does not return
     ButtonPress buttonPress;               ///< of the pages' buttons
+    AlignmentProgress progress;
+    QElapsedTimer sinceLastPicture; ///< or since the camera was connected
 
     QImage blankImage;   ///< what the magnifier shows without a camera
     QImage displayImage; ///< the last shown picture, at its zoom; what Save As writes
@@ -276,6 +298,7 @@ private:
     QLabel *directionArrow = nullptr;
     QLabel *positionLabel = nullptr;
     QLabel *fpsLabel = nullptr;
+    NoticeLabel *noticeLabel = nullptr;
     MagnifierWidget *magnifier = nullptr;
     QGraphicsDropShadowEffect *sliderShadow = nullptr;
     QGraphicsDropShadowEffect *roughSliderShadow = nullptr;
