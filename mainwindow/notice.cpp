@@ -182,7 +182,7 @@ const char *sourceText(NoticeCode code)
         return QT_TRANSLATE_NOOP("Notice",
                                  "The template does not fit: %1 of %2 rings hold a star.");
     case NoticeCode::StarMovedLittle:
-        return QT_TRANSLATE_NOOP("Notice", "The star moved by only %1 pixels between the picks.");
+        return QT_TRANSLATE_NOOP("Notice", "The star moved by only %1 px between the picks.");
     case NoticeCode::AxisTurnedLittle:
         return QT_TRANSLATE_NOOP("Notice", "The axis turned by only %1° between the picks.");
     case NoticeCode::DialNotReset:
