@@ -342,15 +342,15 @@
     </message>
     <message>
         <source>100%</source>
-        <translation>100 %</translation>
+        <translation>100 %</translation>
     </message>
     <message>
         <source>75%</source>
-        <translation>75 %</translation>
+        <translation>75 %</translation>
     </message>
     <message>
         <source>50%</source>
-        <translation>50 %</translation>
+        <translation>50 %</translation>
     </message>
     <message>
         <source>English</source>

@@ -546,7 +546,7 @@
     </message>
     <message>
         <source>Has adjustment finished?</source>
-        <translation>La monture est-elle réglée ?</translation>
+        <translation>La monture est-elle réglée ?</translation>
     </message>
     <message>
         <source>adjustment Finished</source>
