@@ -12,7 +12,7 @@ namespace
 {
 constexpr int smallestFrame = 64;
 /// Side of the squares whose median stands for the sky, pixels.
-constexpr int skySquare = 32;
+constexpr int skySquare = 16;
 /// What the sky is shifted to, so that its darker half is kept too, counts.
 constexpr int skyLevel = 32;
 /// How far above the sky a star stands: in standard deviations, and in counts at least.
@@ -116,7 +116,9 @@ std::optional<QPointF> brightestIn(const std::vector<FieldStar> &stars, const QR
 {
     const FieldStar *brightest = nullptr;
     for (const FieldStar &star : stars)
-        if (area.contains(star.place) && (!brightest || star.peak > brightest->peak))
+        if (star.place.x() >= area.left() && star.place.x() <= area.right() &&
+            star.place.y() >= area.top() && star.place.y() <= area.bottom() &&
+            (!brightest || star.peak > brightest->peak))
             brightest = &star;
     return brightest ? std::optional(brightest->place) : std::nullopt;
 }
