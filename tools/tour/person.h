@@ -38,7 +38,9 @@ public:
         bool mono = false;
         bool reuseSavedAxis = false; ///< what to answer where the program asks
         int pauseMilliseconds = 0;   ///< after every action, for somebody who watches
-        int boltParts = 1;           ///< in how many parts the first fine turn of the bolts is made
+        QPointF templateSlip; ///< how far beside the pole star it is double clicked, frame pixels
+        int templateTurn = 0; ///< by how much the template is turned too far, degrees
+        int boltParts = 1;    ///< in how many parts the first fine turn of the bolts is made
     };
 
     Person(QMainWindow &window, Knobs &knobs, const Options &options, unsigned seed);
