@@ -262,6 +262,7 @@ void MainWindow::applyIdleState()
         head->setEnabled(false);
     // Not on what would be the first in the order, "Start Monitor": the space bar would press it.
     ui->scrollArea_showImg->setFocus();
+    showNotice();
 }
 
 void MainWindow::buildValidators()

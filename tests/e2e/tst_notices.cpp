@@ -26,12 +26,11 @@ void TestNotices::rightAlignment_data()
     QTest::addColumn<bool>("south");
     QTest::addColumn<bool>("reuse");
     QTest::addColumn<unsigned>("seed");
+    unsigned seed = 0;
     for (const bool south : {false, true})
         for (const bool reuse : {false, true})
-            for (const unsigned seed : {1U, 2U})
-                QTest::addRow("%s, %s, hand %u", south ? "south" : "north",
-                              reuse ? "saved axis" : "three picks", seed)
-                    << south << reuse << seed;
+            QTest::addRow("%s, %s", south ? "south" : "north", reuse ? "saved axis" : "three picks")
+                << south << reuse << ++seed;
 }
 
 /// At the end of each step, from connecting to the marks lying one over the other, nothing is said.
@@ -55,11 +54,9 @@ void TestNotices::rightAlignment()
         Person person = w.person(seed);
         person.arrived = [&](const QString &name) {
             ends.append(name);
-            for (int look = 0; look < 2; ++look) {
-                if (!w.notice().isEmpty())
-                    said.insert(name, w.notice());
-                QTest::qWait(oneLook);
-            }
+            QTest::qWait(oneLook); // what was last seen may be from before the last action
+            if (!w.notice().isEmpty())
+                said.insert(name, w.notice());
         };
         person.align();
         person.disconnectCamera();
@@ -111,9 +108,13 @@ void TestNotices::wrongTemplate()
     } catch (const std::exception &problem) {
         QFAIL(problem.what());
     }
-    for (const char *const step : {"step-02-template", "step-09-expected", "step-11-current",
-                                   "step-12-monitor", "step-13-before"})
+    for (const char *const step :
+         {"step-02-template", "step-09-expected", "step-11-current", "step-12-monitor"})
         QVERIFY2(said.value(step).startsWith(misfit), qPrintable(step + (": " + said.value(step))));
+    // A template that lies far off has no star where it expects star A.
+    const QString atTheMark = said.value("step-13-before");
+    QVERIFY2(atTheMark.startsWith(misfit) || atTheMark == QLatin1String("Star A lost."),
+             qPrintable(atTheMark));
     for (const char *const step : {"step-01-exposure", "step-08-axis"})
         QVERIFY2(said.value(step).isEmpty(), qPrintable(said.value(step)));
     // It goes with its cause.
