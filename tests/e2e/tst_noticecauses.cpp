@@ -94,7 +94,7 @@ void TestNoticeCauses::noCamera()
 {
     NoticeWindow w(false);
     QVERIFY(w.staysAway());
-    w.child<QPushButton>("pushButton_monitor").click();
+    w.click("pushButton_monitor");
     QCOMPARE(w.notice(), QString("No camera is connected."));
     connectCamera(w);
     QVERIFY(w.goes());

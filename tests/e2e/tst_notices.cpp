@@ -8,7 +8,17 @@
 namespace
 {
 const QString misfit = QStringLiteral("The template does not fit: ");
+
+/// Fewer rows where a sanitizer makes everything slow.
+bool isLeftOut(int row)
+{
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    return row % 3 != 0;
+#else
+    return row < 0;
+#endif
 }
+} // namespace
 
 class TestNotices : public QObject
 {
@@ -27,10 +37,13 @@ void TestNotices::rightAlignment_data()
     QTest::addColumn<bool>("reuse");
     QTest::addColumn<unsigned>("seed");
     unsigned seed = 0;
+    int row = 0;
     for (const bool south : {false, true})
         for (const bool reuse : {false, true})
-            QTest::addRow("%s, %s", south ? "south" : "north", reuse ? "saved axis" : "three picks")
-                << south << reuse << ++seed;
+            if (!isLeftOut(row++))
+                QTest::addRow("%s, %s", south ? "south" : "north",
+                              reuse ? "saved axis" : "three picks")
+                    << south << reuse << ++seed;
 }
 
 /// At the end of each step, from connecting to the marks lying one over the other, nothing is said.
@@ -73,11 +86,15 @@ void TestNotices::wrongTemplate_data()
     QTest::addColumn<bool>("south");
     QTest::addColumn<QPointF>("slip");
     QTest::addColumn<int>("turn");
+    int row = 0;
     for (const bool south : {false, true}) {
         const char *const pole = south ? "south" : "north";
-        QTest::addRow("%s, 12 pixels beside", pole) << south << QPointF(9, 8) << 0;
-        QTest::addRow("%s, turned by 5 degrees", pole) << south << QPointF() << 5;
-        QTest::addRow("%s, turned by 60 degrees", pole) << south << QPointF() << 60;
+        if (!isLeftOut(row++))
+            QTest::addRow("%s, 12 pixels beside", pole) << south << QPointF(9, 8) << 0;
+        if (!isLeftOut(row++))
+            QTest::addRow("%s, turned by 5 degrees", pole) << south << QPointF() << 5;
+        if (!isLeftOut(row++))
+            QTest::addRow("%s, turned by 60 degrees", pole) << south << QPointF() << 60;
     }
 }
 
