@@ -96,6 +96,9 @@ void TestNoticeCauses::noCamera()
     QVERIFY(w.staysAway());
     w.click("pushButton_monitor");
     QCOMPARE(w.notice(), QString("No camera is connected."));
+    w.child<QAction>("actionGerman").trigger(); // it follows the language
+    QCOMPARE(w.notice(), QString("Es ist keine Kamera verbunden."));
+    w.child<QAction>("actionEnglish").trigger();
     connectCamera(w);
     QVERIFY(w.goes());
 }
