@@ -12,6 +12,7 @@
 #include <QDate>
 #include <QFileInfo>
 #include <QtMath>
+#include <map>
 #include <opencv2/core.hpp>
 
 namespace
@@ -66,6 +67,13 @@ struct Rendered {
     TemplatePlace right;
     std::vector<FieldStar> stars;
 };
+
+/// Rendered once.
+const Rendered &halfASecond(bool south, double gain)
+{
+    static std::map<std::pair<bool, double>, Rendered> all;
+    return all.try_emplace({south, gain}, south, 0.5, gain, 0.0).first->second;
+}
 } // namespace
 
 class TestTemplateFit : public QObject
@@ -181,7 +189,7 @@ void TestTemplateFit::wrongOne()
     QFETCH(QPointF, slip);
     QFETCH(double, turn);
     for (const double gain : {1.0, 50.0, 70.0}) {
-        const Rendered sky(south, 0.5, gain, 0.0);
+        const Rendered &sky = halfASecond(south, gain);
         const TemplateFit fit = sky.fit({sky.right.starB + slip, sky.right.angle + turn, south});
         QVERIFY2(isMisfit(fit), qPrintable(text(fit)));
     }
