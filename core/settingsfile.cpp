@@ -154,6 +154,13 @@ QString settingsFilePath()
                                     QStringLiteral("/Quorvandel.ini"));
 }
 
+bool canWriteSettings(const QString &path)
+{
+    const QFileInfo file(path);
+    return QFileInfo(file.absolutePath()).isWritable() &&
+           (!file.exists() || (file.isFile() && file.isWritable()));
+}
+
 bool readSettings(const QString &path, Settings &settings)
 {
     if (!QFile::exists(path))

@@ -24,6 +24,10 @@ struct Settings {
 /// "Quorvandel.ini" in the folder of the executable, with native separators.
 QString settingsFilePath();
 
+/// Whether the settings can be written to `path`: neither its folder nor the file, if there is one,
+/// keeps this user from it.
+bool canWriteSettings(const QString &path);
+
 /// Reads `path` into `settings`; a missing key gives its default, a text that is no number 0, one
 /// that is no truth value false. Returns false, with `settings` untouched, where nothing exists at
 /// `path`. A value that is one of the toolkit's serialised objects counts as missing, and what is

@@ -168,6 +168,7 @@ void MainWindow::buildStatusBar()
     positionLabel = makeLabel("positionLabel");
     fpsLabel = makeLabel("fpsLabel");
     fpsLabel->setText(QStringLiteral("FPS : 0.0"));
+    buildNotice();
 }
 
 void MainWindow::buildDialogs()
@@ -198,6 +199,7 @@ void MainWindow::startTimers()
     frameTimer->start();
     fpsTimer = makeTimer(this, 500);
     connect(fpsTimer, SIGNAL(timeout()), this, SLOT(updateFPS()));
+    connect(fpsTimer, &QTimer::timeout, this, [this] { showNotice(); });
     fpsTimer->start();
     angleTimer = makeTimer(this, 100);
     connect(angleTimer, SIGNAL(timeout()), this, SLOT(increaseAngleTimeout()));
@@ -261,6 +263,7 @@ void MainWindow::applyIdleState()
         head->setEnabled(false);
     // Not on what would be the first in the order, "Start Monitor": the space bar would press it.
     ui->scrollArea_showImg->setFocus();
+    showNotice();
 }
 
 void MainWindow::buildValidators()

@@ -36,6 +36,7 @@ void MainWindow::showImages()
     // The lock is held for the taking alone: the capture thread need not wait for the scaling.
     const QImage picture = session.frameQueue.takeOldest();
     if (!picture.isNull()) {
+        sinceLastPicture.start();
         displayImage = picture.scaled(scaledSide(picture.width(), zoomFactor),
                                       scaledSide(picture.height(), zoomFactor), Qt::KeepAspectRatio,
                                       Qt::SmoothTransformation);

@@ -5,6 +5,7 @@
 #include "camera/session.h"
 #include "geometry/axiscentre.h"
 #include "geometry/stardetection.h"
+#include "geometry/starfinder.h"
 #include "mainwindow/pointtext.h"
 #include "mainwindow/wizardtable.h"
 #include "ui_mainwindow.h"
@@ -24,6 +25,10 @@ QPointF framePosition(QPoint view, float zoomFactor)
 {
     return {double(float(view.x()) / zoomFactor), double(float(view.y()) / zoomFactor)};
 }
+
+/// How far the place of a picked star may lie from the middle of its light, frame pixels: another
+/// star within the centroid's window draws it aside.
+constexpr double pickReach = 5.0;
 
 /// The event's position in whole pixels of the widget that it was sent to; halves go up.
 QPoint positionOf(const QEvent *event)
@@ -90,6 +95,7 @@ void MainWindow::pickStar(QPoint view)
         return;
     }
     const QPointF star(x, y);
+    progress.pick(currentStep, star, isStarNear(findStars(frame), star, pickReach));
     switch (currentStep) {
     case MatchTemplate:
         placeTemplateAt(view);
@@ -114,6 +120,7 @@ void MainWindow::pickStar(QPoint view)
     default:
         break;
     }
+    showNotice();
 }
 
 /// Centres the template on the click, not on the star.
@@ -150,6 +157,7 @@ void MainWindow::pickThirdStar(QPointF star)
         return;
     }
     axisCenter = QPointF(x, y);
+    progress.fitAxis(axisCenter);
     qDebug() << "axis center" << x << y << axisRadius;
     session.alignmentPoints.savedAxisCenter = axisCenter;
     session.alignmentPoints.savedAxisRadius = axisRadius;

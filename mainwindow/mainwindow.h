@@ -4,8 +4,11 @@
 
 #include "camera/cameraclosing.h"
 #include "camera/capturethread.h"
+#include "geometry/templaterings.h"
+#include "mainwindow/alignmentprogress.h"
 #include "mainwindow/pagebutton.h"
 
+#include <QElapsedTimer>
 #include <QImage>
 #include <QMainWindow>
 #include <QPoint>
@@ -18,6 +21,7 @@ class AboutDialog;
 class AstroRefractionDialog;
 class FavoriteDialog;
 class MagnifierWidget;
+class NoticeLabel;
 class PoleTrackingDialog;
 class QGraphicsDropShadowEffect;
 class QLabel;
@@ -26,12 +30,18 @@ class QSlider;
 class QTabWidget;
 class QTimer;
 enum class Section;
+struct NoticeFacts;
 struct Session;
 struct Settings;
 struct StarCatalogue;
 struct Style;
 struct WizardPage;
 struct WizardStep;
+
+namespace cv
+{
+class Mat;
+}
 
 namespace Ui
 {
@@ -189,6 +199,7 @@ private:
 
     // wizard.cpp
     void switchStep(int step);
+    void keepFocus(int step);
     void openSections(unsigned open);
     void showLamps(int lit);
     void setOverlayFlags(const WizardStep &step);
@@ -250,6 +261,15 @@ private:
     void parameterSliderMoved(const Parameter &parameter, int value);
     void parameterTyped(const Parameter &parameter);
 
+    // noticefacts.cpp
+    void buildNotice();
+    void showNotice();
+    NoticeFacts noticeFacts() const;
+    void lookAtFrame(NoticeFacts &facts) const;
+    TemplateFit fitOfTemplate(const cv::Mat &frame) const;
+    bool isRingUnderMagnifier() const;
+    int trackingDialAngle() const;
+
     // texts.cpp
     void chooseLanguage(const char *code, bool checked);
 
@@ -274,6 +294,8 @@ private:
     std::optional<QPointF> placeWithNextPicture;
     bool libraryHangs = false; ///< the last closing has met a call that does not return
     ButtonPress buttonPress;   ///< of the pages' buttons
+    AlignmentProgress progress;
+    QElapsedTimer sinceLastPicture; ///< or since the camera was connected
 
     QImage blankImage;   ///< what the magnifier shows without a camera
     QImage displayImage; ///< the last shown picture, at its zoom; what Save As writes
@@ -283,6 +305,7 @@ private:
     QLabel *directionArrow = nullptr;
     QLabel *positionLabel = nullptr;
     QLabel *fpsLabel = nullptr;
+    NoticeLabel *noticeLabel = nullptr;
     MagnifierWidget *magnifier = nullptr;
     QGraphicsDropShadowEffect *sliderShadow = nullptr;
     QGraphicsDropShadowEffect *roughSliderShadow = nullptr;

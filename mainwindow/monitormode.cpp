@@ -33,6 +33,7 @@ void MainWindow::pushbuttonGetCurPolarisDoneClicked()
     qDebug() << "current StarB point" << starBStart.x() << starBStart.y();
     ui->label_refStarA_pos->setText(pointText(starAStart));
     ui->label_refStarB_pos->setText(pointText(starBStart));
+    progress.prepareMonitor(trackingDialAngle(), fitOfTemplate(frame));
     switchStep(wizardPage(CurrentPosition).forward.target);
 }
 

@@ -73,6 +73,7 @@ void MainWindow::uiReset()
     applyPageTexts();
     applyRegionTexts();
     placeImageOverlays();
+    showNotice();
 }
 
 void MainWindow::chooseLanguage(const char *code, bool checked)

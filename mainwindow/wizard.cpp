@@ -50,12 +50,12 @@ std::array<SectionWidgets, sectionCount> sectionsOf(const Ui::MainWindow &ui)
 
 void MainWindow::switchStep(int step)
 {
+    keepFocus(step);
     if (step == wizardStepDone) {
         tipTabs->hide();
         return;
     }
     if (!isWizardStep(step)) {
-        ui->scrollArea_showImg->setFocus(); // or it would go on to "Start Monitor"
         tipTabs->hide();
         openSections(noSections);
         ui->label_templateImg->hide();
@@ -74,11 +74,30 @@ void MainWindow::switchStep(int step)
     if (row.stopsBlinking)
         effectTimer->stop();
     currentStep = step;
+    progress.enter(step);
     placeImageOverlays();
+    showNotice();
     if (step == StartMonitor) // once the panel is laid out; the page speaks of this button
         QTimer::singleShot(0, this, [this] {
             ui->scrollArea_manager->ensureWidgetVisible(ui->pushButton_monitor);
         });
+}
+
+/// Where the focus is on what the step hides the picture takes it. It would otherwise go on to the
+/// next in the order, "Start Monitor", a "Reset" or a hemisphere, and a key hit by chance use it.
+void MainWindow::keepFocus(int step)
+{
+    const QWidget *const focus = focusWidget();
+    const bool goesToRest = !isWizardStep(step) && step != wizardStepDone;
+    bool losesFocus = goesToRest || tipTabs->isAncestorOf(focus);
+    if (isWizardStep(step)) {
+        const auto sections = sectionsOf(*ui);
+        for (std::size_t i = 0; i < sections.size(); ++i)
+            if ((wizardStep(step).open & bit(static_cast<Section>(i))) == 0)
+                losesFocus |= sections[i].body->isAncestorOf(focus);
+    }
+    if (losesFocus)
+        ui->scrollArea_showImg->setFocus();
 }
 
 void MainWindow::setOverlayFlags(const WizardStep &row)

@@ -3,6 +3,7 @@
 """Draws the star templates north_mask.png and south_mask.png from the star list.
 
     tools/make_masks.py [--stars virtualcamera/data/pole_stars.csv] [--output resources/images]
+                        [--rings geometry/templaterings.inc]
 
 Each star is projected from the gnomonic plane about the pole of EPOCH onto the template by the
 similarity (turn, scale, shift; never a mirror image) that brings stars A, B and D nearest to their
@@ -12,6 +13,8 @@ so its ring is drawn on its pixel exactly, less than a pixel from where the fit 
 Positions carry proper motion and precession (IAU 1976); nutation and aberration shift the whole
 field alike and are left out. The stars' places relative to one another hardly change: ten years
 move the pole by 3.3 arcminutes and bend the plane by less than 0.05 pixel.
+
+The rings' places and radii are also written as a table for the program.
 
 Pixels: x to the right, y downwards, (0, 0) the middle of the top-left pixel. Needs numpy and
 rsvg-convert (librsvg2-bin).
@@ -166,18 +169,26 @@ def ticks(x, y, inner, outer):
     return strokes(" ".join(lines), ACCENT, 1.4)
 
 
+def plain_stars(size, pixels, magnitudes, named):
+    """Numbers of the stars besides A, B and D whose rings lie whole in the picture, faintest
+    first."""
+    width, height = size
+    for number in np.argsort(-magnitudes):
+        x, y, v = pixels[number].real, pixels[number].imag, magnitudes[number]
+        radius = ring_radius(v)
+        inside = radius + 2 < x < width - radius - 3 and radius + 2 < y < height - radius - 3
+        if v <= FAINTEST and inside and number not in named.values():
+            yield number
+
+
 def drawing(size, pixels, magnitudes, named):
     """The template as SVG text. `named` tells the star number of A, B and D."""
     width, height = size
     parts = [f'<svg xmlns="http://www.w3.org/2000/svg" width="{width}" height="{height}" '
              f'viewBox="0 0 {width} {height}">\n']
-    for number in np.argsort(-magnitudes):
+    for number in plain_stars(size, pixels, magnitudes, named):
         x, y, v = pixels[number].real, pixels[number].imag, magnitudes[number]
-        radius = ring_radius(v)
-        inside = radius + 2 < x < width - radius - 3 and radius + 2 < y < height - radius - 3
-        if v > FAINTEST or not inside or number in named.values():
-            continue
-        parts.append(ring(x, y, radius, PALE, 1.5))
+        parts.append(ring(x, y, ring_radius(v), PALE, 1.5))
     for name, number in named.items():
         x, y, radius = pixels[number].real, pixels[number].imag, ring_radius(magnitudes[number])
         parts.append(ring(x, y, radius, ACCENT, 1.8))
@@ -190,8 +201,16 @@ def drawing(size, pixels, magnitudes, named):
     return "".join(parts)
 
 
+def ring_table(name, numbers, pixels, magnitudes):
+    """The rings as a C++ array: place and radius in pixels, brightest first."""
+    rows = "".join(f"    {{{pixels[n].real:.1f}, {pixels[n].imag:.1f}, "
+                   f"{ring_radius(magnitudes[n]):.1f}}},\n"
+                   for n in sorted(numbers, key=lambda n: magnitudes[n]))
+    return f"constexpr TemplateRing {name}Rings[] = {{\n{rows}}};\n"
+
+
 def make(name, template, stars, folder):
-    """Writes one template and prints how well the three stars fit."""
+    """Writes one template, prints how well the three stars fit and returns its table of rings."""
     towards = plane(unit_vectors(stars, EPOCH), name == "north", template["sense"])
     near = np.abs(towards) < math.radians(8)
     near &= (stars["dec"] > 0) == (name == "north")
@@ -215,6 +234,8 @@ def make(name, template, stars, folder):
                        check=True)
     rings = svg.count("<circle") // 2 - 1  # B has two
     print(f"{name}: {rings} stars to V = {FAINTEST}")
+    numbers = [*named.values(), *plain_stars(template["size"], pixels, stars["v"], named)]
+    return ring_table(name, numbers, pixels, stars["v"])
 
 
 def main():
@@ -222,10 +243,15 @@ def main():
     parser.add_argument("--stars", type=pathlib.Path,
                         default=ROOT / "virtualcamera/data/pole_stars.csv")
     parser.add_argument("--output", type=pathlib.Path, default=ROOT / "resources/images")
+    parser.add_argument("--rings", type=pathlib.Path,
+                        default=ROOT / "geometry/templaterings.inc")
     arguments = parser.parse_args()
     stars = read_stars(arguments.stars)
-    for name, template in TEMPLATES.items():
-        make(name, template, stars, arguments.output)
+    tables = [make(name, template, stars, arguments.output)
+              for name, template in TEMPLATES.items()]
+    arguments.rings.write_text("// SPDX-License-Identifier: MIT\n"
+                               "// The rings of the templates; written by tools/make_masks.py.\n"
+                               + "".join(tables), encoding="utf-8")
 
 
 if __name__ == "__main__":

@@ -578,6 +578,85 @@
     </message>
 </context>
 <context>
+    <name>Notice</name>
+    <message>
+        <source>No camera is connected.</source>
+        <translation>Es ist keine Kamera verbunden.</translation>
+    </message>
+    <message>
+        <source>No picture for %1 s.</source>
+        <translation>Seit %1 s kein Bild.</translation>
+    </message>
+    <message>
+        <source>The zoom in the settings file shows no picture.</source>
+        <translation>Der Zoom aus der Einstellungsdatei zeigt kein Bild.</translation>
+    </message>
+    <message>
+        <source>No axis yet: pick one star at three RA angles first.</source>
+        <translation>Noch keine Achse: zuerst einen Stern bei drei RA-Winkeln wählen.</translation>
+    </message>
+    <message>
+        <source>Monitoring without an alignment: press &apos;Restart&apos;.</source>
+        <translation>Überwachung ohne Polausrichtung: „Neu beginnen“ drücken.</translation>
+    </message>
+    <message>
+        <source>The pole star was not double clicked.</source>
+        <translation>Der Polstern wurde nicht doppelgeklickt.</translation>
+    </message>
+    <message>
+        <source>The template was not placed on the pole star.</source>
+        <translation>Die Schablone wurde nicht auf den Polstern gelegt.</translation>
+    </message>
+    <message>
+        <source>Old place of the template: double click the pole star again.</source>
+        <translation>Schablone liegt noch am alten Ort: Polstern erneut doppelklicken.</translation>
+    </message>
+    <message>
+        <source>No star here.</source>
+        <translation>Hier ist kein Stern.</translation>
+    </message>
+    <message>
+        <source>No star here (pick %1 of 3).</source>
+        <translation>Hier ist kein Stern (Auswahl %1 von 3).</translation>
+    </message>
+    <message>
+        <source>Stars A and B lost.</source>
+        <translation>Sterne A und B verloren.</translation>
+    </message>
+    <message>
+        <source>Star A lost.</source>
+        <translation>Stern A verloren.</translation>
+    </message>
+    <message>
+        <source>Star B lost.</source>
+        <translation>Stern B verloren.</translation>
+    </message>
+    <message>
+        <source>The template does not fit: %1 of %2 rings hold a star.</source>
+        <translation>Die Schablone passt nicht: Sterne in %1 von %2 Ringen.</translation>
+    </message>
+    <message>
+        <source>The star moved by only %1 px between the picks.</source>
+        <translation>Der Stern hat sich dazwischen nur um %1 px bewegt.</translation>
+    </message>
+    <message>
+        <source>The axis turned by only %1° between the picks.</source>
+        <translation>Die Achse wurde dazwischen nur um %1° gedreht.</translation>
+    </message>
+    <message>
+        <source>The tracking dial still stands at %1°: reset it.</source>
+        <translation>Der Drehregler steht noch auf %1°: bitte auf 0 stellen.</translation>
+    </message>
+    <message>
+        <source>The ring lies under the magnifier.</source>
+        <translation>Der rotierende Kreis liegt unter der Lupe.</translation>
+    </message>
+    <message>
+        <source>Settings will not be kept: their folder cannot be written.</source>
+        <translation>Einstellungen gehen verloren: Ordner nicht beschreibbar.</translation>
+    </message>
+</context>
+<context>
     <name>PoleTrackingDialog</name>
     <message>
         <source>Pole Tracking</source>

@@ -578,6 +578,85 @@
     </message>
 </context>
 <context>
+    <name>Notice</name>
+    <message>
+        <source>No camera is connected.</source>
+        <translation>No camera is connected.</translation>
+    </message>
+    <message>
+        <source>No picture for %1 s.</source>
+        <translation>No picture for %1 s.</translation>
+    </message>
+    <message>
+        <source>The zoom in the settings file shows no picture.</source>
+        <translation>The zoom in the settings file shows no picture.</translation>
+    </message>
+    <message>
+        <source>No axis yet: pick one star at three RA angles first.</source>
+        <translation>No axis yet: pick one star at three RA angles first.</translation>
+    </message>
+    <message>
+        <source>Monitoring without an alignment: press &apos;Restart&apos;.</source>
+        <translation>Monitoring without an alignment: press &apos;Restart&apos;.</translation>
+    </message>
+    <message>
+        <source>The pole star was not double clicked.</source>
+        <translation>The pole star was not double clicked.</translation>
+    </message>
+    <message>
+        <source>The template was not placed on the pole star.</source>
+        <translation>The template was not placed on the pole star.</translation>
+    </message>
+    <message>
+        <source>Old place of the template: double click the pole star again.</source>
+        <translation>Old place of the template: double click the pole star again.</translation>
+    </message>
+    <message>
+        <source>No star here.</source>
+        <translation>No star here.</translation>
+    </message>
+    <message>
+        <source>No star here (pick %1 of 3).</source>
+        <translation>No star here (pick %1 of 3).</translation>
+    </message>
+    <message>
+        <source>Stars A and B lost.</source>
+        <translation>Stars A and B lost.</translation>
+    </message>
+    <message>
+        <source>Star A lost.</source>
+        <translation>Star A lost.</translation>
+    </message>
+    <message>
+        <source>Star B lost.</source>
+        <translation>Star B lost.</translation>
+    </message>
+    <message>
+        <source>The template does not fit: %1 of %2 rings hold a star.</source>
+        <translation>The template does not fit: %1 of %2 rings hold a star.</translation>
+    </message>
+    <message>
+        <source>The star moved by only %1 px between the picks.</source>
+        <translation>The star moved by only %1 px between the picks.</translation>
+    </message>
+    <message>
+        <source>The axis turned by only %1° between the picks.</source>
+        <translation>The axis turned by only %1° between the picks.</translation>
+    </message>
+    <message>
+        <source>The tracking dial still stands at %1°: reset it.</source>
+        <translation>The tracking dial still stands at %1°: reset it.</translation>
+    </message>
+    <message>
+        <source>The ring lies under the magnifier.</source>
+        <translation>The ring lies under the magnifier.</translation>
+    </message>
+    <message>
+        <source>Settings will not be kept: their folder cannot be written.</source>
+        <translation>Settings will not be kept: their folder cannot be written.</translation>
+    </message>
+</context>
+<context>
     <name>PoleTrackingDialog</name>
     <message>
         <source>Pole Tracking</source>

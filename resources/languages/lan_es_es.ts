@@ -578,6 +578,85 @@
     </message>
 </context>
 <context>
+    <name>Notice</name>
+    <message>
+        <source>No camera is connected.</source>
+        <translation>No hay ninguna cámara conectada.</translation>
+    </message>
+    <message>
+        <source>No picture for %1 s.</source>
+        <translation>Sin imagen desde hace %1 s.</translation>
+    </message>
+    <message>
+        <source>The zoom in the settings file shows no picture.</source>
+        <translation>El zoom del archivo de ajustes no muestra ninguna imagen.</translation>
+    </message>
+    <message>
+        <source>No axis yet: pick one star at three RA angles first.</source>
+        <translation>Aún no hay eje: marque antes una estrella en tres ángulos de AR.</translation>
+    </message>
+    <message>
+        <source>Monitoring without an alignment: press &apos;Restart&apos;.</source>
+        <translation>Monitorización sin alineación: pulse «Volver a empezar».</translation>
+    </message>
+    <message>
+        <source>The pole star was not double clicked.</source>
+        <translation>No se hizo doble clic en la estrella polar.</translation>
+    </message>
+    <message>
+        <source>The template was not placed on the pole star.</source>
+        <translation>La plantilla no se colocó sobre la estrella polar.</translation>
+    </message>
+    <message>
+        <source>Old place of the template: double click the pole star again.</source>
+        <translation>Plantilla en su sitio anterior: doble clic de nuevo en la polar.</translation>
+    </message>
+    <message>
+        <source>No star here.</source>
+        <translation>Aquí no hay ninguna estrella.</translation>
+    </message>
+    <message>
+        <source>No star here (pick %1 of 3).</source>
+        <translation>Aquí no hay ninguna estrella (selección %1 de 3).</translation>
+    </message>
+    <message>
+        <source>Stars A and B lost.</source>
+        <translation>Estrellas A y B perdidas.</translation>
+    </message>
+    <message>
+        <source>Star A lost.</source>
+        <translation>Estrella A perdida.</translation>
+    </message>
+    <message>
+        <source>Star B lost.</source>
+        <translation>Estrella B perdida.</translation>
+    </message>
+    <message>
+        <source>The template does not fit: %1 of %2 rings hold a star.</source>
+        <translation>La plantilla no encaja: hay estrella en %1 de %2 anillos.</translation>
+    </message>
+    <message>
+        <source>The star moved by only %1 px between the picks.</source>
+        <translation>La estrella solo se movió %1 px entre las selecciones.</translation>
+    </message>
+    <message>
+        <source>The axis turned by only %1° between the picks.</source>
+        <translation>El eje solo giró %1° entre las selecciones.</translation>
+    </message>
+    <message>
+        <source>The tracking dial still stands at %1°: reset it.</source>
+        <translation>El dial de seguimiento sigue en %1°: restablézcalo.</translation>
+    </message>
+    <message>
+        <source>The ring lies under the magnifier.</source>
+        <translation>El círculo giratorio queda bajo la lupa.</translation>
+    </message>
+    <message>
+        <source>Settings will not be kept: their folder cannot be written.</source>
+        <translation>Los ajustes no se guardarán: no se puede escribir en su carpeta.</translation>
+    </message>
+</context>
+<context>
     <name>PoleTrackingDialog</name>
     <message>
         <source>Pole Tracking</source>

@@ -578,6 +578,85 @@
     </message>
 </context>
 <context>
+    <name>Notice</name>
+    <message>
+        <source>No camera is connected.</source>
+        <translation>Aucune caméra n&apos;est connectée.</translation>
+    </message>
+    <message>
+        <source>No picture for %1 s.</source>
+        <translation>Pas d&apos;image depuis %1 s.</translation>
+    </message>
+    <message>
+        <source>The zoom in the settings file shows no picture.</source>
+        <translation>Le zoom du fichier de réglages n&apos;affiche aucune image.</translation>
+    </message>
+    <message>
+        <source>No axis yet: pick one star at three RA angles first.</source>
+        <translation>Pas encore d&apos;axe : pointez d&apos;abord une étoile à trois angles d&apos;AD.</translation>
+    </message>
+    <message>
+        <source>Monitoring without an alignment: press &apos;Restart&apos;.</source>
+        <translation>Surveillance sans mise en station : cliquez sur « Recommencer ».</translation>
+    </message>
+    <message>
+        <source>The pole star was not double clicked.</source>
+        <translation>L&apos;étoile polaire n&apos;a pas été double-cliquée.</translation>
+    </message>
+    <message>
+        <source>The template was not placed on the pole star.</source>
+        <translation>Le gabarit n&apos;a pas été placé sur l&apos;étoile polaire.</translation>
+    </message>
+    <message>
+        <source>Old place of the template: double click the pole star again.</source>
+        <translation>Gabarit à son ancienne place : double-cliquez l&apos;étoile polaire.</translation>
+    </message>
+    <message>
+        <source>No star here.</source>
+        <translation>Pas d&apos;étoile ici.</translation>
+    </message>
+    <message>
+        <source>No star here (pick %1 of 3).</source>
+        <translation>Pas d&apos;étoile ici (sélection %1 sur 3).</translation>
+    </message>
+    <message>
+        <source>Stars A and B lost.</source>
+        <translation>Étoiles A et B perdues.</translation>
+    </message>
+    <message>
+        <source>Star A lost.</source>
+        <translation>Étoile A perdue.</translation>
+    </message>
+    <message>
+        <source>Star B lost.</source>
+        <translation>Étoile B perdue.</translation>
+    </message>
+    <message>
+        <source>The template does not fit: %1 of %2 rings hold a star.</source>
+        <translation>Le gabarit ne coïncide pas : étoile dans %1 anneaux sur %2.</translation>
+    </message>
+    <message>
+        <source>The star moved by only %1 px between the picks.</source>
+        <translation>L&apos;étoile n&apos;a bougé que de %1 px entre les sélections.</translation>
+    </message>
+    <message>
+        <source>The axis turned by only %1° between the picks.</source>
+        <translation>L&apos;axe n&apos;a tourné que de %1° entre les sélections.</translation>
+    </message>
+    <message>
+        <source>The tracking dial still stands at %1°: reset it.</source>
+        <translation>La molette de suivi est encore à %1° : remettez-la à zéro.</translation>
+    </message>
+    <message>
+        <source>The ring lies under the magnifier.</source>
+        <translation>Le cercle tournant est sous la loupe.</translation>
+    </message>
+    <message>
+        <source>Settings will not be kept: their folder cannot be written.</source>
+        <translation>Réglages non conservés : dossier protégé en écriture.</translation>
+    </message>
+</context>
+<context>
     <name>PoleTrackingDialog</name>
     <message>
         <source>Pole Tracking</source>

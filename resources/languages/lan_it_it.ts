@@ -578,6 +578,85 @@
     </message>
 </context>
 <context>
+    <name>Notice</name>
+    <message>
+        <source>No camera is connected.</source>
+        <translation>Nessuna camera collegata.</translation>
+    </message>
+    <message>
+        <source>No picture for %1 s.</source>
+        <translation>Nessuna immagine da %1 s.</translation>
+    </message>
+    <message>
+        <source>The zoom in the settings file shows no picture.</source>
+        <translation>Lo zoom nel file delle impostazioni non mostra immagini.</translation>
+    </message>
+    <message>
+        <source>No axis yet: pick one star at three RA angles first.</source>
+        <translation>Asse non ancora noto: selezionare una stella a tre angoli di AR.</translation>
+    </message>
+    <message>
+        <source>Monitoring without an alignment: press &apos;Restart&apos;.</source>
+        <translation>Monitoraggio senza allineamento: premere «Ricomincia».</translation>
+    </message>
+    <message>
+        <source>The pole star was not double clicked.</source>
+        <translation>Manca il doppio clic sulla stella polare.</translation>
+    </message>
+    <message>
+        <source>The template was not placed on the pole star.</source>
+        <translation>Il modello non è stato posto sulla stella polare.</translation>
+    </message>
+    <message>
+        <source>Old place of the template: double click the pole star again.</source>
+        <translation>Modello nella vecchia posizione: doppio clic sulla stella polare.</translation>
+    </message>
+    <message>
+        <source>No star here.</source>
+        <translation>Qui non c&apos;è nessuna stella.</translation>
+    </message>
+    <message>
+        <source>No star here (pick %1 of 3).</source>
+        <translation>Qui non c&apos;è nessuna stella (selezione %1 di 3).</translation>
+    </message>
+    <message>
+        <source>Stars A and B lost.</source>
+        <translation>Stelle A e B perse.</translation>
+    </message>
+    <message>
+        <source>Star A lost.</source>
+        <translation>Stella A persa.</translation>
+    </message>
+    <message>
+        <source>Star B lost.</source>
+        <translation>Stella B persa.</translation>
+    </message>
+    <message>
+        <source>The template does not fit: %1 of %2 rings hold a star.</source>
+        <translation>Il modello non coincide: stelle in %1 anelli su %2.</translation>
+    </message>
+    <message>
+        <source>The star moved by only %1 px between the picks.</source>
+        <translation>Tra le selezioni la stella si è spostata di soli %1 px.</translation>
+    </message>
+    <message>
+        <source>The axis turned by only %1° between the picks.</source>
+        <translation>Tra le selezioni l&apos;asse è ruotato di soli %1°.</translation>
+    </message>
+    <message>
+        <source>The tracking dial still stands at %1°: reset it.</source>
+        <translation>La manopola di inseguimento è ancora a %1°: azzerarla.</translation>
+    </message>
+    <message>
+        <source>The ring lies under the magnifier.</source>
+        <translation>Il cerchio rotante è sotto la lente.</translation>
+    </message>
+    <message>
+        <source>Settings will not be kept: their folder cannot be written.</source>
+        <translation>Impostazioni non salvate: la cartella non è scrivibile.</translation>
+    </message>
+</context>
+<context>
     <name>PoleTrackingDialog</name>
     <message>
         <source>Pole Tracking</source>

@@ -578,6 +578,85 @@
     </message>
 </context>
 <context>
+    <name>Notice</name>
+    <message>
+        <source>No camera is connected.</source>
+        <translation>カメラが接続されていません。</translation>
+    </message>
+    <message>
+        <source>No picture for %1 s.</source>
+        <translation>%1 秒間、画像が届いていません。</translation>
+    </message>
+    <message>
+        <source>The zoom in the settings file shows no picture.</source>
+        <translation>設定ファイルのズーム値では画像が表示されません。</translation>
+    </message>
+    <message>
+        <source>No axis yet: pick one star at three RA angles first.</source>
+        <translation>軸が未測定です：先に 1 つの星を 3 つの赤経角度で選択してください。</translation>
+    </message>
+    <message>
+        <source>Monitoring without an alignment: press &apos;Restart&apos;.</source>
+        <translation>極軸合わせなしで監視中です：「最初から」を押してください。</translation>
+    </message>
+    <message>
+        <source>The pole star was not double clicked.</source>
+        <translation>極星がダブルクリックされていません。</translation>
+    </message>
+    <message>
+        <source>The template was not placed on the pole star.</source>
+        <translation>テンプレートが極星に置かれていません。</translation>
+    </message>
+    <message>
+        <source>Old place of the template: double click the pole star again.</source>
+        <translation>テンプレートは前の位置のままです：極星を再度ダブルクリックしてください。</translation>
+    </message>
+    <message>
+        <source>No star here.</source>
+        <translation>ここに星はありません。</translation>
+    </message>
+    <message>
+        <source>No star here (pick %1 of 3).</source>
+        <translation>ここに星はありません（選択 %1/3）。</translation>
+    </message>
+    <message>
+        <source>Stars A and B lost.</source>
+        <translation>星 A と星 B を見失いました。</translation>
+    </message>
+    <message>
+        <source>Star A lost.</source>
+        <translation>星 A を見失いました。</translation>
+    </message>
+    <message>
+        <source>Star B lost.</source>
+        <translation>星 B を見失いました。</translation>
+    </message>
+    <message>
+        <source>The template does not fit: %1 of %2 rings hold a star.</source>
+        <translation>テンプレートが合っていません：%2 個の輪のうち星があるのは %1 個です。</translation>
+    </message>
+    <message>
+        <source>The star moved by only %1 px between the picks.</source>
+        <translation>選択の間に星が %1 px しか動いていません。</translation>
+    </message>
+    <message>
+        <source>The axis turned by only %1° between the picks.</source>
+        <translation>選択の間に軸が %1° しか回っていません。</translation>
+    </message>
+    <message>
+        <source>The tracking dial still stands at %1°: reset it.</source>
+        <translation>追跡ダイヤルが %1° のままです：リセットしてください。</translation>
+    </message>
+    <message>
+        <source>The ring lies under the magnifier.</source>
+        <translation>回転する円が拡大鏡の下にあります。</translation>
+    </message>
+    <message>
+        <source>Settings will not be kept: their folder cannot be written.</source>
+        <translation>設定は保存されません：フォルダーに書き込めません。</translation>
+    </message>
+</context>
+<context>
     <name>PoleTrackingDialog</name>
     <message>
         <source>Pole Tracking</source>

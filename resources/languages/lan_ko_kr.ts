@@ -578,6 +578,85 @@
     </message>
 </context>
 <context>
+    <name>Notice</name>
+    <message>
+        <source>No camera is connected.</source>
+        <translation>연결된 카메라가 없습니다.</translation>
+    </message>
+    <message>
+        <source>No picture for %1 s.</source>
+        <translation>%1초 동안 영상이 없습니다.</translation>
+    </message>
+    <message>
+        <source>The zoom in the settings file shows no picture.</source>
+        <translation>설정 파일의 확대/축소 값으로는 영상이 보이지 않습니다.</translation>
+    </message>
+    <message>
+        <source>No axis yet: pick one star at three RA angles first.</source>
+        <translation>아직 회전축이 없습니다: 먼저 별 하나를 적경 각도 세 곳에서 선택하세요.</translation>
+    </message>
+    <message>
+        <source>Monitoring without an alignment: press &apos;Restart&apos;.</source>
+        <translation>극축 정렬 없이 모니터링 중입니다: ‘다시 시작’을 누르세요.</translation>
+    </message>
+    <message>
+        <source>The pole star was not double clicked.</source>
+        <translation>극성을 더블클릭하지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>The template was not placed on the pole star.</source>
+        <translation>템플릿을 극성에 놓지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>Old place of the template: double click the pole star again.</source>
+        <translation>템플릿이 이전 위치에 있습니다: 극성을 다시 더블클릭하세요.</translation>
+    </message>
+    <message>
+        <source>No star here.</source>
+        <translation>여기에는 별이 없습니다.</translation>
+    </message>
+    <message>
+        <source>No star here (pick %1 of 3).</source>
+        <translation>여기에는 별이 없습니다(선택 %1/3).</translation>
+    </message>
+    <message>
+        <source>Stars A and B lost.</source>
+        <translation>별 A와 별 B를 놓쳤습니다.</translation>
+    </message>
+    <message>
+        <source>Star A lost.</source>
+        <translation>별 A를 놓쳤습니다.</translation>
+    </message>
+    <message>
+        <source>Star B lost.</source>
+        <translation>별 B를 놓쳤습니다.</translation>
+    </message>
+    <message>
+        <source>The template does not fit: %1 of %2 rings hold a star.</source>
+        <translation>템플릿이 맞지 않습니다: 고리 %2개 중 별이 있는 것은 %1개입니다.</translation>
+    </message>
+    <message>
+        <source>The star moved by only %1 px between the picks.</source>
+        <translation>선택하는 동안 별이 %1 px만 움직였습니다.</translation>
+    </message>
+    <message>
+        <source>The axis turned by only %1° between the picks.</source>
+        <translation>선택하는 동안 축이 %1°만 돌았습니다.</translation>
+    </message>
+    <message>
+        <source>The tracking dial still stands at %1°: reset it.</source>
+        <translation>추적 다이얼이 아직 %1°에 있습니다: 초기화하세요.</translation>
+    </message>
+    <message>
+        <source>The ring lies under the magnifier.</source>
+        <translation>회전하는 원이 돋보기 아래에 있습니다.</translation>
+    </message>
+    <message>
+        <source>Settings will not be kept: their folder cannot be written.</source>
+        <translation>설정이 저장되지 않습니다: 폴더에 쓸 수 없습니다.</translation>
+    </message>
+</context>
+<context>
     <name>PoleTrackingDialog</name>
     <message>
         <source>Pole Tracking</source>

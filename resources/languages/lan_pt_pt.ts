@@ -578,6 +578,85 @@
     </message>
 </context>
 <context>
+    <name>Notice</name>
+    <message>
+        <source>No camera is connected.</source>
+        <translation>Nenhuma câmara ligada.</translation>
+    </message>
+    <message>
+        <source>No picture for %1 s.</source>
+        <translation>Sem imagem há %1 s.</translation>
+    </message>
+    <message>
+        <source>The zoom in the settings file shows no picture.</source>
+        <translation>O zoom do ficheiro de definições não mostra imagem.</translation>
+    </message>
+    <message>
+        <source>No axis yet: pick one star at three RA angles first.</source>
+        <translation>Ainda sem eixo: marque antes uma estrela em três ângulos de AR.</translation>
+    </message>
+    <message>
+        <source>Monitoring without an alignment: press &apos;Restart&apos;.</source>
+        <translation>Monitorização sem alinhamento: clique em «Recomeçar».</translation>
+    </message>
+    <message>
+        <source>The pole star was not double clicked.</source>
+        <translation>Falta o duplo clique na estrela polar.</translation>
+    </message>
+    <message>
+        <source>The template was not placed on the pole star.</source>
+        <translation>O modelo não foi colocado sobre a estrela polar.</translation>
+    </message>
+    <message>
+        <source>Old place of the template: double click the pole star again.</source>
+        <translation>Modelo no sítio antigo: faça duplo clique na estrela polar.</translation>
+    </message>
+    <message>
+        <source>No star here.</source>
+        <translation>Não há nenhuma estrela aqui.</translation>
+    </message>
+    <message>
+        <source>No star here (pick %1 of 3).</source>
+        <translation>Não há nenhuma estrela aqui (seleção %1 de 3).</translation>
+    </message>
+    <message>
+        <source>Stars A and B lost.</source>
+        <translation>Estrelas A e B perdidas.</translation>
+    </message>
+    <message>
+        <source>Star A lost.</source>
+        <translation>Estrela A perdida.</translation>
+    </message>
+    <message>
+        <source>Star B lost.</source>
+        <translation>Estrela B perdida.</translation>
+    </message>
+    <message>
+        <source>The template does not fit: %1 of %2 rings hold a star.</source>
+        <translation>O modelo não coincide: há estrela em %1 de %2 anéis.</translation>
+    </message>
+    <message>
+        <source>The star moved by only %1 px between the picks.</source>
+        <translation>A estrela só se moveu %1 px entre as seleções.</translation>
+    </message>
+    <message>
+        <source>The axis turned by only %1° between the picks.</source>
+        <translation>O eixo só rodou %1° entre as seleções.</translation>
+    </message>
+    <message>
+        <source>The tracking dial still stands at %1°: reset it.</source>
+        <translation>O seletor de seguimento ainda está em %1°: reponha-o.</translation>
+    </message>
+    <message>
+        <source>The ring lies under the magnifier.</source>
+        <translation>O círculo rotativo está sob a lupa.</translation>
+    </message>
+    <message>
+        <source>Settings will not be kept: their folder cannot be written.</source>
+        <translation>As definições não serão guardadas: pasta sem escrita.</translation>
+    </message>
+</context>
+<context>
     <name>PoleTrackingDialog</name>
     <message>
         <source>Pole Tracking</source>

@@ -578,6 +578,85 @@
     </message>
 </context>
 <context>
+    <name>Notice</name>
+    <message>
+        <source>No camera is connected.</source>
+        <translation>Камера не подключена.</translation>
+    </message>
+    <message>
+        <source>No picture for %1 s.</source>
+        <translation>Нет изображения уже %1 с.</translation>
+    </message>
+    <message>
+        <source>The zoom in the settings file shows no picture.</source>
+        <translation>С масштабом из файла настроек изображения не видно.</translation>
+    </message>
+    <message>
+        <source>No axis yet: pick one star at three RA angles first.</source>
+        <translation>Оси ещё нет: сначала отметьте звезду при трёх углах RA.</translation>
+    </message>
+    <message>
+        <source>Monitoring without an alignment: press &apos;Restart&apos;.</source>
+        <translation>Контроль без настройки на полюс: нажмите «Начать заново».</translation>
+    </message>
+    <message>
+        <source>The pole star was not double clicked.</source>
+        <translation>Не было двойного щелчка по полярной звезде.</translation>
+    </message>
+    <message>
+        <source>The template was not placed on the pole star.</source>
+        <translation>Шаблон не установлен на полярную звезду.</translation>
+    </message>
+    <message>
+        <source>Old place of the template: double click the pole star again.</source>
+        <translation>Шаблон на старом месте: дважды щёлкните по полярной звезде.</translation>
+    </message>
+    <message>
+        <source>No star here.</source>
+        <translation>Здесь нет звезды.</translation>
+    </message>
+    <message>
+        <source>No star here (pick %1 of 3).</source>
+        <translation>Здесь нет звезды (выбор %1 из 3).</translation>
+    </message>
+    <message>
+        <source>Stars A and B lost.</source>
+        <translation>Звёзды A и B потеряны.</translation>
+    </message>
+    <message>
+        <source>Star A lost.</source>
+        <translation>Звезда A потеряна.</translation>
+    </message>
+    <message>
+        <source>Star B lost.</source>
+        <translation>Звезда B потеряна.</translation>
+    </message>
+    <message>
+        <source>The template does not fit: %1 of %2 rings hold a star.</source>
+        <translation>Шаблон не совпадает: звёзды есть в %1 из %2 колец.</translation>
+    </message>
+    <message>
+        <source>The star moved by only %1 px between the picks.</source>
+        <translation>Между выборами звезда сместилась лишь на %1 пикс.</translation>
+    </message>
+    <message>
+        <source>The axis turned by only %1° between the picks.</source>
+        <translation>Между выборами ось повернулась лишь на %1°.</translation>
+    </message>
+    <message>
+        <source>The tracking dial still stands at %1°: reset it.</source>
+        <translation>Поворот отслеживания всё ещё %1°: выполните сброс.</translation>
+    </message>
+    <message>
+        <source>The ring lies under the magnifier.</source>
+        <translation>Вращающийся круг закрыт лупой.</translation>
+    </message>
+    <message>
+        <source>Settings will not be kept: their folder cannot be written.</source>
+        <translation>Настройки не сохранятся: нет записи в их папку.</translation>
+    </message>
+</context>
+<context>
     <name>PoleTrackingDialog</name>
     <message>
         <source>Pole Tracking</source>

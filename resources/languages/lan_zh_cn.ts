@@ -578,6 +578,85 @@
     </message>
 </context>
 <context>
+    <name>Notice</name>
+    <message>
+        <source>No camera is connected.</source>
+        <translation>未连接相机。</translation>
+    </message>
+    <message>
+        <source>No picture for %1 s.</source>
+        <translation>已有 %1 秒没有图像。</translation>
+    </message>
+    <message>
+        <source>The zoom in the settings file shows no picture.</source>
+        <translation>设置文件中的缩放值无法显示图像。</translation>
+    </message>
+    <message>
+        <source>No axis yet: pick one star at three RA angles first.</source>
+        <translation>尚无轴心：请先在三个赤经角度选取同一颗星。</translation>
+    </message>
+    <message>
+        <source>Monitoring without an alignment: press &apos;Restart&apos;.</source>
+        <translation>未完成极轴校准就开始监测：请点击“重新开始”。</translation>
+    </message>
+    <message>
+        <source>The pole star was not double clicked.</source>
+        <translation>没有双击北极星/σ Oct。</translation>
+    </message>
+    <message>
+        <source>The template was not placed on the pole star.</source>
+        <translation>模板没有放到北极星/σ Oct 上。</translation>
+    </message>
+    <message>
+        <source>Old place of the template: double click the pole star again.</source>
+        <translation>模板仍在原来的位置：请重新双击北极星/σ Oct。</translation>
+    </message>
+    <message>
+        <source>No star here.</source>
+        <translation>此处没有星。</translation>
+    </message>
+    <message>
+        <source>No star here (pick %1 of 3).</source>
+        <translation>此处没有星（第 %1 次选星，共 3 次）。</translation>
+    </message>
+    <message>
+        <source>Stars A and B lost.</source>
+        <translation>A 星和 B 星已丢失。</translation>
+    </message>
+    <message>
+        <source>Star A lost.</source>
+        <translation>A 星已丢失。</translation>
+    </message>
+    <message>
+        <source>Star B lost.</source>
+        <translation>B 星已丢失。</translation>
+    </message>
+    <message>
+        <source>The template does not fit: %1 of %2 rings hold a star.</source>
+        <translation>模板不匹配：%2 个圆环中只有 %1 个有星。</translation>
+    </message>
+    <message>
+        <source>The star moved by only %1 px between the picks.</source>
+        <translation>两次选星之间，该星只移动了 %1 px。</translation>
+    </message>
+    <message>
+        <source>The axis turned by only %1° between the picks.</source>
+        <translation>两次选星之间，轴只转了 %1°。</translation>
+    </message>
+    <message>
+        <source>The tracking dial still stands at %1°: reset it.</source>
+        <translation>跟踪旋钮仍在 %1°：请重置。</translation>
+    </message>
+    <message>
+        <source>The ring lies under the magnifier.</source>
+        <translation>旋转的圆圈在放大镜下面。</translation>
+    </message>
+    <message>
+        <source>Settings will not be kept: their folder cannot be written.</source>
+        <translation>设置不会保存：无法写入所在文件夹。</translation>
+    </message>
+</context>
+<context>
     <name>PoleTrackingDialog</name>
     <message>
         <source>Pole Tracking</source>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Is the manual found, does the menu open it, and are its pages whole?
 #include "core/manual.h"
+#include "mainwindow/notice.h"
 #include "resources/resources.h"
 #include "tests/support/logrecorder.h"
 #include "tests/support/sessionwindow.h"
@@ -84,6 +85,8 @@ private slots:
     void tellsOfEveryShortcut();
     void tellsOfEveryMessage_data();
     void tellsOfEveryMessage();
+    void tellsOfEveryNotice_data() { tellsOfEveryShortcut_data(); }
+    void tellsOfEveryNotice();
     void tellsOfEveryLogLine_data();
     void tellsOfEveryLogLine();
 };
@@ -294,6 +297,23 @@ void ManualTest::tellsOfEveryMessage()
     const QString translated = chinese.translate("MainWindow", message.toUtf8());
     QVERIFY(!translated.isEmpty());
     QVERIFY2(wordsOf("zh").contains(translated.simplified()), qPrintable(translated));
+}
+
+/// In the words of the catalogue, with dots for the numbers.
+void ManualTest::tellsOfEveryNotice()
+{
+    QFETCH(QString, language);
+    QTranslator chinese;
+    if (language == QLatin1String("zh")) {
+        QVERIFY(chinese.load(":/languages/lan_zh_cn.qm"));
+        QCoreApplication::installTranslator(&chinese);
+    }
+    const QString words = wordsOf(language);
+    for (int code = 0; code <= int(NoticeCode::SettingsNotKept); ++code) {
+        QString text = noticeText({NoticeCode(code), 77, 88});
+        text.replace("77", "...").replace("88", "...");
+        QVERIFY2(words.contains(text), qPrintable(text));
+    }
 }
 
 void ManualTest::tellsOfEveryLogLine_data()

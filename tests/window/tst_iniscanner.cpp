@@ -47,7 +47,7 @@ Values readByToolkit(const QByteArray &bytes, const QString &path)
 }
 } // namespace
 
-class TestIniScanner : public QObject
+class IniScannerTest : public QObject
 {
     Q_OBJECT
 
@@ -58,7 +58,7 @@ private slots:
     void tooLongEntries();
 };
 
-void TestIniScanner::readsAsTheToolkit_data()
+void IniScannerTest::readsAsTheToolkit_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     for (const char *const text : {"",
@@ -89,7 +89,7 @@ void TestIniScanner::readsAsTheToolkit_data()
         QTest::newRow(QByteArray(text).toPercentEncoding()) << QByteArray(text);
 }
 
-void TestIniScanner::readsAsTheToolkit()
+void IniScannerTest::readsAsTheToolkit()
 {
     QFETCH(QByteArray, bytes);
     const QTemporaryDir folder;
@@ -100,7 +100,7 @@ void TestIniScanner::readsAsTheToolkit()
 }
 
 /// Seeded texts of the characters that mean something in such a file.
-void TestIniScanner::readsAnyBytesAsTheToolkit()
+void IniScannerTest::readsAnyBytesAsTheToolkit()
 {
     const QTemporaryDir folder;
     const QByteArray alphabet = "[]==\"\\;,%%x1fU0 ab\n\n\r\t\xE4";
@@ -120,7 +120,7 @@ void TestIniScanner::readsAnyBytesAsTheToolkit()
 }
 
 /// They are passed over; what follows on the next line is read.
-void TestIniScanner::tooLongEntries()
+void IniScannerTest::tooLongEntries()
 {
     const QByteArray longText(300, 'x');
     for (const char *const quote : {"", "\""})
@@ -129,5 +129,5 @@ void TestIniScanner::tooLongEntries()
     QCOMPARE(scanned(longText + "\n[g]\nc=2\n", 100), Values({{"g/c", {"2"}}}));
 }
 
-QTEST_GUILESS_MAIN(TestIniScanner)
+QTEST_GUILESS_MAIN(IniScannerTest)
 #include "tst_iniscanner.moc"

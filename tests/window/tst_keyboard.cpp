@@ -22,6 +22,11 @@ private slots:
     void returnPressesOnce_data();
     void returnPressesOnce();
     void returnInAField();
+    void arrowKeyAfterDone_data();
+    void arrowKeyAfterDone();
+    void focusAfterThePagesButtons_data();
+    void focusAfterThePagesButtons();
+    void focusAfterAClosedSection();
     void tabGoesRound_data();
     void tabGoesRound();
 };
@@ -129,6 +134,98 @@ void KeyboardTest::returnInAField()
     QCOMPARE(taken.count(), 1);
     QCOMPARE(w.child<QSlider>("sliderGain").value(), 7);
     QCOMPARE(w.window->step(), 1);
+}
+
+void KeyboardTest::arrowKeyAfterDone_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<bool>("byMouse");
+    const QMap<QByteArray, int> keys{{"down", Qt::Key_Down},
+                                     {"up", Qt::Key_Up},
+                                     {"left", Qt::Key_Left},
+                                     {"right", Qt::Key_Right},
+                                     {"space", Qt::Key_Space}};
+    for (auto key = keys.begin(); key != keys.end(); ++key)
+        for (const bool byMouse : {true, false})
+            QTest::addRow("%s, button by %s", key.key().constData(), byMouse ? "mouse" : "key")
+                << key.value() << byMouse;
+}
+
+/// Monitoring goes on, and the hemisphere stays.
+void KeyboardTest::arrowKeyAfterDone()
+{
+    QFETCH(int, key);
+    QFETCH(bool, byMouse);
+    const CameraWindow w;
+    w.connectCamera();
+    w.window->activateWindow();
+    QTRY_VERIFY(QApplication::focusWidget());
+    w.enterStep(13);
+    auto &done = w.child<QPushButton>("pushButton_finetunePole_done");
+    if (byMouse) {
+        QTest::mouseClick(&done, Qt::LeftButton);
+    } else {
+        done.setFocus();
+        press(w, Qt::Key_Space);
+    }
+    QVERIFY(!w.child<QTabWidget>("tabWidget_tipMsg").isVisible());
+    QCOMPARE(w.window->focusWidget()->objectName(), QString("scrollArea_showImg"));
+    for (int presses = 0; presses < 3; ++presses)
+        press(w, Qt::Key(key));
+    QCOMPARE(w.window->step(), 13);
+    QVERIFY(w.session().overlayFlags.monitorTracking);
+    QCOMPARE(MainWindowProbe(*w.window).regionName(), QString("North"));
+}
+
+void KeyboardTest::focusAfterThePagesButtons_data()
+{
+    QTest::addColumn<int>("step");
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<int>("next");
+    QTest::newRow("Setting Finished") << 1 << "pushButton_setting_done" << 2;
+    QTest::newRow("Success") << 2 << "pushButton_confirm_done" << 3;
+    QTest::newRow("rotation Finished") << 4 << "pushButton_rotateStar1_done" << 5;
+    QTest::newRow("rotation Finished again") << 6 << "pushButton_rotateStar2_done" << 7;
+    QTest::newRow("Reset") << 7 << "pushButton_getStar3_reset" << 3;
+    QTest::newRow("Correct") << 8 << "pushButton_validateCenter_done" << 9;
+    QTest::newRow("Success in 9") << 9 << "pushButton_getEptPolaris_done" << 10;
+    QTest::newRow("adjustment Finished") << 10 << "pushButton_movePolaris_done" << 11;
+    QTest::newRow("Success in 11") << 11 << "pushButton_getCurPolaris_done" << 12;
+    QTest::newRow("Restart") << 13 << "pushButton_finetunePole_reset" << 1;
+}
+
+/// A second press of the key that pressed a page's button presses none of the next page's.
+void KeyboardTest::focusAfterThePagesButtons()
+{
+    QFETCH(int, step);
+    QFETCH(QString, button);
+    QFETCH(int, next);
+    const CameraWindow w;
+    w.connectCamera();
+    w.window->activateWindow();
+    QTRY_VERIFY(QApplication::focusWidget());
+    MainWindowProbe(*w.window).switchStep(step);
+    w.child<QPushButton>(button.toLatin1().constData()).setFocus();
+    press(w, Qt::Key_Space);
+    QCOMPARE(w.window->step(), next);
+    QCOMPARE(w.window->focusWidget()->objectName(), QString("scrollArea_showImg"));
+    press(w, Qt::Key_Space);
+    QCOMPARE(w.window->step(), next);
+}
+
+/// What is typed into goes with its section; the focus of another one stays.
+void KeyboardTest::focusAfterAClosedSection()
+{
+    const CameraWindow w;
+    w.connectCamera();
+    w.window->activateWindow();
+    QTRY_VERIFY(QApplication::focusWidget());
+    w.child<QWidget>("lineEditGain").setFocus();
+    w.enterStep(2);
+    QCOMPARE(w.window->focusWidget()->objectName(), QString("scrollArea_showImg"));
+    w.child<QWidget>("radioButton_north").setFocus();
+    w.enterStep(3);
+    QCOMPARE(w.window->focusWidget()->objectName(), QString("radioButton_north"));
 }
 
 void KeyboardTest::tabGoesRound_data()

@@ -154,8 +154,10 @@ void Person::turnTemplate(const char *slider, QPointF b, QPointF a)
     const StarCatalogue &stars = options.south ? southCatalogue : northCatalogue;
     const double turn =
         direction(b, a) - direction({stars.starBX, stars.starBY}, {stars.starAX, stars.starAY});
-    moveSliderTo(widget<QSlider>(slider), (qRound(turn) % 360 + 360) % 360);
-    checkRingRound(a);
+    const int wanted = qRound(turn) + options.templateTurn;
+    moveSliderTo(widget<QSlider>(slider), (wanted % 360 + 360) % 360);
+    if (options.templateTurn == 0 && options.templateSlip.isNull())
+        checkRingRound(a);
 }
 
 /// Throws if the shown template has no ring round a star: something of it in all four quarters.
@@ -362,7 +364,7 @@ void Person::setExposure()
 void Person::confirmTemplate()
 {
     say(QStringLiteral("Double click the pole star and turn the template"));
-    doubleClick(eye(knobs.starB()));
+    doubleClick(eye(knobs.starB()) + options.templateSlip);
     turnTemplate("horizontalSlider_confirm_match", knobs.starB(), knobs.starA());
     show("step-02-template");
     clickAnswering("pushButton_confirm_done");
@@ -411,7 +413,7 @@ void Person::turnAxisTo(double degrees)
 void Person::placePoleStar()
 {
     say(QStringLiteral("Expected position: double click the pole star, turn the template"));
-    doubleClick(eye(knobs.starB()));
+    doubleClick(eye(knobs.starB()) + options.templateSlip);
     turnTemplate("horizontalSlider_rough_match", knobs.starB(), knobs.starA());
     show("step-09-expected");
     click("pushButton_getEptPolaris_done");
@@ -424,7 +426,7 @@ void Person::placePoleStar()
     show("step-10-moved");
     click("pushButton_movePolaris_done");
     say(QStringLiteral("Current position: double click the pole star, turn the template"));
-    doubleClick(eye(knobs.starB()));
+    doubleClick(eye(knobs.starB()) + options.templateSlip);
     turnTemplate("horizontalSlider_rough_match", knobs.starB(), knobs.starA());
     show("step-11-current");
     click("pushButton_getCurPolaris_done");

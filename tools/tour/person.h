@@ -41,6 +41,8 @@ public:
         int pauseMilliseconds = 0;   ///< after every action, for somebody who watches
         QPointF roughRest;           ///< how far off the rough turn of the bolts ends, frame pixels
         int boltParts = 1;           ///< in how many parts the first fine turn of the bolts is made
+        QPointF templateSlip; ///< how far beside the pole star it is double clicked, frame pixels
+        int templateTurn = 0; ///< by how much the template is turned too far, degrees
     };
 
     Person(QMainWindow &window, const Session &session, Knobs &knobs, const Options &options,

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+// How does a test read the notices of a window that is worked by hand on the virtual camera?
+#pragma once
+
+#include "app/stylesheet.h"
+#include "core/settingsfile.h"
+#include "mainwindow/mainwindow.h"
+#include "resources/resources.h"
+#include "tools/practicesky.h"
+#include "tools/tour/person.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+#include <functional>
+#include <memory>
+
+/// Longer than the pause between two looks for a notice.
+constexpr int oneLook = 700;
+constexpr int noticePatience = 20000;
+
+/// A shown window under the practice sky, the mount's bolts off, and a person in front of it.
+class NoticeWindow
+{
+public:
+    explicit NoticeWindow(bool south, const Settings &settings = Settings(),
+                          QSize size = QSize(1280, 800))
+        : knobs(skyFile(), startSky(south))
+    {
+        options.south = south;
+        writeSettings(settingsFilePath(), settings);
+        window = std::make_unique<MainWindow>();
+        window->resize(size);
+        window->show();
+        if (!QTest::qWaitForWindowExposed(window.get(), noticePatience))
+            qFatal("the window does not come up");
+    }
+    ~NoticeWindow()
+    {
+        window->close();
+        window.reset();
+        QFile::remove(settingsFilePath());
+    }
+
+    template <typename T> T &child(const char *name) const
+    {
+        T *const found = window->findChild<T *>(name);
+        if (!found)
+            qFatal("there is no %s", name);
+        return *found;
+    }
+
+    QString notice() const { return child<QLabel>("label_notice").text(); }
+    bool comes(const QString &beginning) const
+    {
+        return QTest::qWaitFor([&] { return notice().startsWith(beginning); }, noticePatience);
+    }
+    bool goes() const
+    {
+        return QTest::qWaitFor([&] { return notice().isEmpty(); }, noticePatience);
+    }
+    /// Whether none is there, now and at the next look.
+    bool staysAway() const
+    {
+        const bool isAway = notice().isEmpty();
+        QTest::qWait(oneLook);
+        return isAway && notice().isEmpty();
+    }
+
+    Person person(unsigned seed = 1) { return Person(*window, knobs, options, seed); }
+    void click(const char *button) const
+    {
+        QTest::mouseClick(&child<QPushButton>(button), Qt::LeftButton);
+    }
+    void doubleClick(QPointF place) const
+    {
+        const QPoint view = place.toPoint();
+        const auto &picture = child<QLabel>("label_showImg");
+        QTest::mouseDClick(window->windowHandle(), Qt::LeftButton, {},
+                           picture.mapTo(window.get(), view));
+    }
+
+    Knobs knobs;
+    Person::Options options;
+    std::unique_ptr<MainWindow> window;
+
+private:
+    static std::string skyFile()
+    {
+        initialiseResources();
+        applyStyleSheet(*qApp, ":/qss/default.qss");
+        const QString path = QCoreApplication::applicationDirPath() + "/sky.ini";
+        qputenv("QUORVANDEL_SKY", path.toUtf8());
+        return path.toStdString();
+    }
+    static virtualsky::SkyState startSky(bool south)
+    {
+        virtualsky::SkyState sky = practiceSky(south);
+        sky.boltAltitude = 0.5;
+        sky.boltAzimuth = -0.4;
+        sky.unthrottled = true;
+        return sky;
+    }
+};
