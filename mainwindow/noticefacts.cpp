@@ -3,14 +3,14 @@
 #include "mainwindow/mainwindow.h"
 
 #include "camera/session.h"
-#include "widgets/magnifierwidget.h"
-#include "dialogs/poletrackingdialog.h"
 #include "core/settingsfile.h"
+#include "dialogs/poletrackingdialog.h"
 #include "geometry/starcatalogue.h"
 #include "mainwindow/notice.h"
 #include "mainwindow/noticelabel.h"
 #include "mainwindow/wizardtable.h"
 #include "ui_mainwindow.h"
+#include "widgets/magnifierwidget.h"
 
 #include <QDial>
 #include <QLabel>

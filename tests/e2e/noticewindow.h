@@ -4,8 +4,8 @@
 
 #include "app/stylesheet.h"
 #include "core/settingsfile.h"
-#include "mainwindow/mainwindow.h"
 #include "resources/resources.h"
+#include "tests/support/sessionwindow.h"
 #include "tools/practicesky.h"
 #include "tools/tour/person.h"
 
@@ -31,7 +31,7 @@ public:
     {
         options.south = south;
         writeSettings(settingsFilePath(), settings);
-        window = std::make_unique<MainWindow>();
+        window = std::make_unique<SessionWindow>();
         window->resize(size);
         window->show();
         if (!QTest::qWaitForWindowExposed(window.get(), noticePatience))
@@ -43,6 +43,8 @@ public:
         window.reset();
         QFile::remove(settingsFilePath());
     }
+
+    Session &session() const { return window->ownSession; }
 
     template <typename T> T &child(const char *name) const
     {
@@ -69,7 +71,10 @@ public:
         return isAway && notice().isEmpty();
     }
 
-    Person person(unsigned seed = 1) { return Person(*window, knobs, options, seed); }
+    Person person(unsigned seed = 1)
+    {
+        return Person(*window, window->ownSession, knobs, options, seed);
+    }
     void click(const char *button) const
     {
         QTest::mouseClick(&child<QPushButton>(button), Qt::LeftButton);
@@ -84,7 +89,7 @@ public:
 
     Knobs knobs;
     Person::Options options;
-    std::unique_ptr<MainWindow> window;
+    std::unique_ptr<SessionWindow> window;
 
 private:
     static std::string skyFile()

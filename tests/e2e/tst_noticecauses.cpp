@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Does each cause of a wrong or missing result bring its notice, and does the notice go with it?
-#include "camera/camerastate.h"
-#include "camera/frames.h"
-#include "core/sharedstate.h"
-#include "widgets/magnifierwidget.h"
 #include "geometry/starfinder.h"
 #include "tests/e2e/noticewindow.h"
+#include "widgets/magnifierwidget.h"
 
 #include <QAction>
 #include <QDial>
@@ -18,10 +15,10 @@
 namespace
 {
 /// A place round which no star is far and wide.
-QPointF emptySky()
+QPointF emptySky(const Session &session)
 {
     constexpr int alone = 32; // the search reaches 20 along x and y
-    const auto stars = findStars(copyOfRawFrame());
+    const auto stars = findStars(session.latestFrame.copy());
     for (int y = 400; y < 640; y += 4)
         for (int x = 300; x < 800; x += 4)
             if (!isStarNear(stars, QPointF(x, y), alone))
@@ -55,7 +52,7 @@ Settings withAxis(double x, double y)
 }
 } // namespace
 
-class TestNoticeCauses : public QObject
+class NoticeCausesTest : public QObject
 {
     Q_OBJECT
 
@@ -80,7 +77,7 @@ private:
 };
 
 /// With the tour's exposure, in step 1.
-void TestNoticeCauses::connectCamera(NoticeWindow &w)
+void NoticeCausesTest::connectCamera(NoticeWindow &w)
 {
     Person person = w.person();
     person.connectCamera();
@@ -90,7 +87,7 @@ void TestNoticeCauses::connectCamera(NoticeWindow &w)
 }
 
 /// The panel's button leads to the last page without one.
-void TestNoticeCauses::noCamera()
+void NoticeCausesTest::noCamera()
 {
     NoticeWindow w(false);
     QVERIFY(w.staysAway());
@@ -103,7 +100,7 @@ void TestNoticeCauses::noCamera()
     QVERIFY(w.goes());
 }
 
-void TestNoticeCauses::noPicture()
+void NoticeCausesTest::noPicture()
 {
     NoticeWindow w(false);
     connectCamera(w);
@@ -116,7 +113,7 @@ void TestNoticeCauses::noPicture()
     QVERIFY(w.goes());
 }
 
-void TestNoticeCauses::monitoringInStepOne_data()
+void NoticeCausesTest::monitoringInStepOne_data()
 {
     QTest::addColumn<double>("axisX");
     QTest::addColumn<QString>("expected");
@@ -124,7 +121,7 @@ void TestNoticeCauses::monitoringInStepOne_data()
     QTest::newRow("with the last night's") << 640.0 << "Monitoring without an alignment";
 }
 
-void TestNoticeCauses::monitoringInStepOne()
+void NoticeCausesTest::monitoringInStepOne()
 {
     QFETCH(double, axisX);
     QFETCH(QString, expected);
@@ -143,18 +140,18 @@ void TestNoticeCauses::monitoringInStepOne()
     QVERIFY(w.staysAway());
 }
 
-void TestNoticeCauses::emptySkyPicked()
+void NoticeCausesTest::emptySkyPicked()
 {
     NoticeWindow w(false);
     connectCamera(w);
     w.click("pushButton_setting_done");
-    w.doubleClick(emptySky());
+    w.doubleClick(emptySky(w.session()));
     QCOMPARE(w.notice(), QString("No star here."));
     w.doubleClick(w.knobs.starB());
     QVERIFY(w.notice() != QString("No star here."));
     w.click("pushButton_confirm_done");
     QVERIFY(w.staysAway());
-    w.doubleClick(emptySky());
+    w.doubleClick(emptySky(w.session()));
     QCOMPARE(w.window->step(), 4);
     QCOMPARE(w.notice(), QString("No star here (pick 1 of 3)."));
     w.click("pushButton_rotateStar1_reset");
@@ -164,12 +161,12 @@ void TestNoticeCauses::emptySkyPicked()
     QVERIFY(w.staysAway());
 }
 
-void TestNoticeCauses::successWithoutAPick()
+void NoticeCausesTest::successWithoutAPick()
 {
     NoticeWindow w(false);
     const BoxCloser yes;
     connectCamera(w);
-    alignmentPoints.savedAxisCenter = QPointF();
+    w.session().alignmentPoints.savedAxisCenter = QPointF();
     w.click("pushButton_setting_done");
     w.click("pushButton_confirm_done");
     QCOMPARE(w.window->step(), 3);
@@ -189,7 +186,7 @@ void TestNoticeCauses::successWithoutAPick()
     QCOMPARE(w.notice(), QString("The pole star was not double clicked."));
 }
 
-void TestNoticeCauses::savedAxisAndOldTemplate()
+void NoticeCausesTest::savedAxisAndOldTemplate()
 {
     NoticeWindow w(false, withAxis(680, 450));
     w.options.reuseSavedAxis = true;
@@ -204,7 +201,7 @@ void TestNoticeCauses::savedAxisAndOldTemplate()
 }
 
 /// The page is answered without a turn of the axis.
-void TestNoticeCauses::picksInOnePlace()
+void NoticeCausesTest::picksInOnePlace()
 {
     NoticeWindow w(false);
     const BoxCloser ok; // three picks that agree to the last bit give no axis
@@ -225,7 +222,7 @@ void TestNoticeCauses::picksInOnePlace()
     QVERIFY2(w.notice().startsWith("The star moved by only "), qPrintable(w.notice()));
 }
 
-void TestNoticeCauses::turnedTooLittle()
+void NoticeCausesTest::turnedTooLittle()
 {
     NoticeWindow w(false);
     connectCamera(w);
@@ -249,7 +246,7 @@ void TestNoticeCauses::turnedTooLittle()
     QVERIFY(w.staysAway());
 }
 
-void TestNoticeCauses::starsLostAndFound()
+void NoticeCausesTest::starsLostAndFound()
 {
     NoticeWindow w(false, withAxis(680, 450));
     w.options.reuseSavedAxis = true;
@@ -277,7 +274,7 @@ void TestNoticeCauses::starsLostAndFound()
     QVERIFY(w.goes());
 }
 
-void TestNoticeCauses::ringUnderMagnifier()
+void NoticeCausesTest::ringUnderMagnifier()
 {
     NoticeWindow w(false, withAxis(400, 300), {800, 480});
     w.options.reuseSavedAxis = true;
@@ -294,7 +291,7 @@ void TestNoticeCauses::ringUnderMagnifier()
         const auto &lens = *w.window->findChild<MagnifierWidget *>();
         const auto place = [&] {
             return w.child<QLabel>("label_showImg")
-                .mapTo(&area, QPointF(alignmentPoints.polarisTarget).toPoint());
+                .mapTo(&area, QPointF(w.session().alignmentPoints.polarisTarget).toPoint());
         };
         const QPoint middle = lens.geometry().center();
         const auto scroll = [&](Qt::Key forth, Qt::Key back, auto distance) {
@@ -315,7 +312,7 @@ void TestNoticeCauses::ringUnderMagnifier()
 }
 
 /// A second step 11 while the dial stands at 90: its next move would turn the stars away.
-void TestNoticeCauses::dialNotReset()
+void NoticeCausesTest::dialNotReset()
 {
     NoticeWindow w(false, withAxis(680, 450));
     w.options.reuseSavedAxis = true;
@@ -345,21 +342,21 @@ void TestNoticeCauses::dialNotReset()
     QVERIFY(w.goes());
 }
 
-void TestNoticeCauses::zoomOfTheFile()
+void NoticeCausesTest::zoomOfTheFile()
 {
     Settings settings;
     settings.zoomFactor = 0;
     NoticeWindow w(false, settings);
     QVERIFY(w.notice().isEmpty());
     w.child<QAction>("actionConnect").trigger();
-    QVERIFY(cameraState.cameraConnected);
+    QVERIFY(w.session().camera.cameraConnected);
     QVERIFY(w.comes("The zoom in the settings file shows no picture."));
     w.child<QAction>("action75").trigger();
     QVERIFY(w.goes());
 }
 
 /// The folder of the executable belongs to somebody else.
-void TestNoticeCauses::settingsNotKept()
+void NoticeCausesTest::settingsNotKept()
 {
     NoticeWindow w(false);
     QVERIFY(w.staysAway());
@@ -383,5 +380,5 @@ void TestNoticeCauses::settingsNotKept()
     QVERIFY(!canWriteSettings(folder)); // no file
 }
 
-QTEST_MAIN(TestNoticeCauses)
+QTEST_MAIN(NoticeCausesTest)
 #include "tst_noticecauses.moc"

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // Is a person who aligns rightly left in peace, and one with a wrong template told so in time?
-#include "core/sharedstate.h"
 #include "tests/e2e/noticewindow.h"
 
 #include <QMap>
@@ -20,7 +19,7 @@ bool isLeftOut(int row)
 }
 } // namespace
 
-class TestNotices : public QObject
+class NoticesTest : public QObject
 {
     Q_OBJECT
 
@@ -31,7 +30,7 @@ private slots:
     void wrongTemplate();
 };
 
-void TestNotices::rightAlignment_data()
+void NoticesTest::rightAlignment_data()
 {
     QTest::addColumn<bool>("south");
     QTest::addColumn<bool>("reuse");
@@ -47,7 +46,7 @@ void TestNotices::rightAlignment_data()
 }
 
 /// At the end of each step, from connecting to the marks lying one over the other, nothing is said.
-void TestNotices::rightAlignment()
+void NoticesTest::rightAlignment()
 {
     QFETCH(bool, south);
     QFETCH(bool, reuse);
@@ -57,7 +56,7 @@ void TestNotices::rightAlignment()
     if (reuse) { // the axis of the night before: the camera sits as it did
         settings.axisX = w.knobs.axis().x();
         settings.axisY = w.knobs.axis().y();
-        alignmentPoints.savedAxisCenter = w.knobs.axis();
+        w.session().alignmentPoints.savedAxisCenter = w.knobs.axis();
         w.options.reuseSavedAxis = true;
     }
     QVERIFY(w.notice().isEmpty());
@@ -81,7 +80,7 @@ void TestNotices::rightAlignment()
     QVERIFY(w.staysAway());
 }
 
-void TestNotices::wrongTemplate_data()
+void NoticesTest::wrongTemplate_data()
 {
     QTest::addColumn<bool>("south");
     QTest::addColumn<QPointF>("slip");
@@ -100,7 +99,7 @@ void TestNotices::wrongTemplate_data()
 
 /// Who clicks through all the same is told so wherever the template is shown, and beside the pole
 /// mark.
-void TestNotices::wrongTemplate()
+void NoticesTest::wrongTemplate()
 {
     QFETCH(bool, south);
     QFETCH(QPointF, slip);
@@ -139,5 +138,5 @@ void TestNotices::wrongTemplate()
     QVERIFY(w.staysAway());
 }
 
-QTEST_MAIN(TestNotices)
+QTEST_MAIN(NoticesTest)
 #include "tst_notices.moc"

@@ -2,9 +2,9 @@
 // Does the tour show its end from near, keep it until a key, and refuse what it does not know?
 #include "app/stylesheet.h"
 #include "mainwindow/mainwindow.h"
-#include "tests/support/sessionwindow.h"
 #include "resources/resources.h"
 #include "tests/support/patience.h"
+#include "tests/support/sessionwindow.h"
 #include "tools/practicesky.h"
 #include "tools/tour/caption.h"
 #include "tools/tour/ending.h"
@@ -77,7 +77,7 @@ void TourEndingTest::theLastStepsAreSeenFromNear()
     Person::Options how;
     how.zoomPercent = 50;
     how.roughRest = {-11, 9};
-    Person person(window, knobs, how, 1);
+    Person person(window, window.ownSession, knobs, how, 1);
     person.connectCamera();
     person.prepare();
     person.setExposure();

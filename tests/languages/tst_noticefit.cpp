@@ -7,6 +7,7 @@
 #include "mainwindow/noticelabel.h"
 #include "resources/resources.h"
 #include "tests/support/mainwindowprobe.h"
+#include "tests/support/sessionwindow.h"
 #include "tests/support/textroom.h"
 
 #include <QAction>
@@ -29,7 +30,7 @@ QVector<QRect> others(const QMainWindow &window)
 }
 } // namespace
 
-class TestNoticeFit : public QObject
+class NoticeFitTest : public QObject
 {
     Q_OBJECT
 
@@ -40,19 +41,19 @@ private slots:
     void tooNarrow();
 
 private:
-    std::unique_ptr<MainWindow> open(QSize size, const char *language = nullptr) const;
+    std::unique_ptr<SessionWindow> open(QSize size, const char *language = nullptr) const;
 };
 
-void TestNoticeFit::initTestCase()
+void NoticeFitTest::initTestCase()
 {
     initialiseResources();
     applyStyleSheet(*qApp, ":/qss/default.qss");
 }
 
 /// A window whose own look for notices has ended.
-std::unique_ptr<MainWindow> TestNoticeFit::open(QSize size, const char *language) const
+std::unique_ptr<SessionWindow> NoticeFitTest::open(QSize size, const char *language) const
 {
-    auto window = std::make_unique<MainWindow>();
+    auto window = std::make_unique<SessionWindow>();
     window->resize(size);
     window->show();
     if (language)
@@ -62,7 +63,7 @@ std::unique_ptr<MainWindow> TestNoticeFit::open(QSize size, const char *language
     return window;
 }
 
-void TestNoticeFit::fits_data()
+void NoticeFitTest::fits_data()
 {
     QTest::addColumn<int>("number");
     QTest::addColumn<QSize>("size");
@@ -71,7 +72,7 @@ void TestNoticeFit::fits_data()
             QTest::addRow("%s %d", languages[i].code, size.width()) << int(i) << size;
 }
 
-void TestNoticeFit::fits()
+void NoticeFitTest::fits()
 {
     QFETCH(int, number);
     QFETCH(QSize, size);
@@ -107,7 +108,7 @@ void TestNoticeFit::fits()
 }
 
 /// A text that has no room is cut, whole in the tooltip, and makes nothing wider.
-void TestNoticeFit::tooNarrow()
+void NoticeFitTest::tooNarrow()
 {
     const auto window = open(smallest);
     auto *const label = dynamic_cast<NoticeLabel *>(window->findChild<QLabel *>("label_notice"));
@@ -127,5 +128,5 @@ void TestNoticeFit::tooNarrow()
     window->close();
 }
 
-QTEST_MAIN(TestNoticeFit)
+QTEST_MAIN(NoticeFitTest)
 #include "tst_noticefit.moc"

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Is any text of the toolkit's left in English: in the context menus, in the file dialog, in the
 // boxes?
-#include "tests/support/sessionwindow.h"
 #include "core/languages.h"
 #include "resources/resources.h"
 #include "tests/support/mainwindowprobe.h"
+#include "tests/support/sessionwindow.h"
 #include "tests/support/toolkitwalk.h"
 
 #include <QAbstractItemView>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // How is the camera let go while a call of its library's does not return?
-#include "tests/window/connectiontest.h"
 #include "tests/support/mainwindowprobe.h"
+#include "tests/window/connectiontest.h"
 
 #include "camera/cameraclosing.h"
 
@@ -71,7 +71,8 @@ void BlockedDisconnectionTest::callReturnsWhenStopped()
     w.trigger("actionConnect");
     QVERIFY(time.elapsed() < CameraHandle::sdkCallTimeout / 2);
     QTRY_COMPARE(shownBy(w), atRest(w));
-    QVERIFY2(time.elapsed() < CameraHandle::sdkCallTimeout / 2, qPrintable(QString::number(time.elapsed())));
+    QVERIFY2(time.elapsed() < CameraHandle::sdkCallTimeout / 2,
+             qPrintable(QString::number(time.elapsed())));
     QCOMPARE(sdkCalls(), closing);
     QCOMPARE(sdkLog(log), QStringList({"StopVELDIXLive", "CloseVELDIX"}));
     QCOMPARE(log.texts(QtCriticalMsg), QStringList());
@@ -146,7 +147,8 @@ void BlockedDisconnectionTest::closeWindowAtOnce()
     QElapsedTimer time;
     time.start();
     QVERIFY(w.window->close());
-    QVERIFY2(time.elapsed() < CameraHandle::sdkCallTimeout / 2, qPrintable(QString::number(time.elapsed())));
+    QVERIFY2(time.elapsed() < CameraHandle::sdkCallTimeout / 2,
+             qPrintable(QString::number(time.elapsed())));
     QVERIFY(!w.session().camera.cameraConnected);
     QCOMPARE(sdkCalls(), closing);
 }

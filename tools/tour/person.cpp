@@ -293,7 +293,8 @@ QPointF Person::markInPicture(Mark mark) const
 
 QPointF Person::axisMark() const
 {
-    return options.mono ? session.alignmentPoints.savedAxisCenter.load() : markInPicture(Mark::Axis);
+    return options.mono ? session.alignmentPoints.savedAxisCenter.load()
+                        : markInPicture(Mark::Axis);
 }
 
 /// The way from the dancing pole mark to the axis mark, the mean over some frames; frame pixels.
