@@ -8,7 +8,7 @@ packages_build="cmake ninja-build g++ qtbase5-dev qttools5-dev qttools5-dev-tool
 packages_run="libqt5multimedia5-plugins gstreamer1.0-plugins-good fonts-dejavu-core fonts-liberation
   fonts-noto-cjk xdg-utils"
 packages_unseen="xvfb"
-packages_test="desktop-file-utils appstream mandoc"
+packages_test="desktop-file-utils appstream mandoc libbenchmark-dev"
 packages_lint="clang-format clang-tidy"
 
 missing_packages() {

@@ -77,7 +77,7 @@ void BlockedDisconnectionTest::callReturnsWhenStopped()
     QCOMPARE(sdkLog(log), QStringList({"StopVELDIXLive", "CloseVELDIX"}));
     QCOMPARE(log.texts(QtCriticalMsg), QStringList());
     QVERIFY(w.child<QLabel>("label_showImg").pixmap(Qt::ReturnByValue).isNull());
-    QVERIFY(waitingFrames().isEmpty());
+    QVERIFY(w.session().frameQueue.waiting().isEmpty());
     sdk().observe("StopVELDIXLive", {});
     w.connectCamera();
     QVERIFY(w.waitForNewFrame());
@@ -187,12 +187,12 @@ void BlockedDisconnectionTest::stopBlocksToo()
     QTRY_COMPARE(log.texts(QtCriticalMsg), QStringList(complaint));
     QVERIFY(time.elapsed() >= CameraHandle::sdkCallTimeout);
     QCOMPARE(shownBy(w), connectedState);
-    QVERIFY(!w.window->captureEnds());
+    QVERIFY(!w.window->stopCaptureAndWait());
     goOn = true;
     sdk().releaseFetches();
     QTRY_VERIFY(log.contains(QtDebugMsg, "CaptureThread done"));
     QTRY_VERIFY(log.contains(QtDebugMsg, "StopVELDIXLive"));
-    QTRY_VERIFY(w.window->captureEnds());
+    QTRY_VERIFY(w.window->stopCaptureAndWait());
     w.trigger("actionConnect");
     QTRY_COMPARE(shownBy(w), atRest(w));
     QCOMPARE(sdkCalls(), QStringList("StopVELDIXLive(camera 1)") + closing);
