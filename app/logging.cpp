@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The log file of a run and its lines.
+// Names the log file of a run and writes its lines.
 #include "app/logging.h"
 
 #include <QDateTime>
@@ -15,7 +15,7 @@ QString logFilePath;
 
 namespace
 {
-/// In the order of Qt's numbers for the types: debug, warning, critical, fatal, info.
+/// In the order of QtMsgType: debug, warning, critical, fatal, info.
 constexpr std::array<const char *, 5> levelTemplates{
     "\tDebug\t %1", "\tWarning\t %1", "\tCritical\t %1", "\tFatal\t %1", "\tInfo\t %1"};
 } // namespace
@@ -48,7 +48,7 @@ void logMessageHandler(QtMsgType type, const QMessageLogContext &, const QString
         std::abort();
     const QString time =
         QDateTime::currentDateTime().toString(QStringLiteral("yyyy/MM/dd hh:mm:ss"));
-    // Unbuffered: the line, however long, is one appending write, which no other thread's splits.
+    // Unbuffered: a line of any length is one appending write, which no other thread can split.
     QFile file(logFilePath);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text |
                    QIODevice::Unbuffered)) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Where does this run's log go, and what does a line of it look like?
+// Where is the log of this run written, and what does a line look like?
 #pragma once
 
 #include <QString>
@@ -10,15 +10,15 @@ class QDateTime;
 /// Full path of this run's log file with native separators; empty until prepareLogFile.
 extern QString logFilePath;
 
-/// Makes the log folder below the user's documents and names this run's file after its start.
-/// Folders that can not be made are noticed only when the file can not be opened.
+/// Creates the log folder in the user's documents folder and names this run's file after its start
+/// time. Folders that cannot be created are noticed only when the file cannot be opened.
 void prepareLogFile(const QDateTime &start);
 
-/// What follows the time in a log line: a tab, the level, a tab, a blank and the message; empty
+/// The part of a log line after the time: a tab, the level, a tab, a space and the message; empty
 /// for a type that is not one of Qt's five.
 QString levelText(QtMsgType type, const QString &message);
 
-/// Appends one line to the log file, as qInstallMessageHandler takes it. A fatal message ends the
-/// process before it is written. The file is opened and closed for each message, without a lock;
-/// the lines of several threads come one after the other, each whole.
+/// A handler for qInstallMessageHandler that appends one line to the log file. A fatal message
+/// aborts the process without being written. The file is opened and closed for each message,
+/// without a lock; lines of several threads are never interleaved.
 void logMessageHandler(QtMsgType type, const QMessageLogContext &context, const QString &message);

@@ -13,7 +13,7 @@ int main(int argc, char *argv[])
 {
     prepareApplication();
     QApplication application(argc, argv);
-    // Without a log file Qt's own output stays.
+    // Without a log file, Qt's own output is kept.
     startProgram(application, QUORVANDEL_FILE_LOG ? logMessageHandler : nullptr);
     Session session;
     MainWindow window(session);
@@ -23,7 +23,7 @@ int main(int argc, char *argv[])
     else
         window.show();
     const int status = QApplication::exec();
-    // A thread inside a library that does not return can neither be ended nor outlive its objects.
+    // A thread that hangs in a library can neither be ended nor outlive its objects.
     if (!window.stopCaptureAndWait())
         std::_Exit(status);
     return status;

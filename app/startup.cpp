@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The steps of starting, in their order.
+// Runs the start-up steps in order.
 #include "app/startup.h"
 
 #include "app/logging.h"

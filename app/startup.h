@@ -1,19 +1,19 @@
 // SPDX-License-Identifier: MIT
-// What does every executable with windows do before its first one?
+// What does every executable with windows do before it opens one?
 #pragma once
 
 #include <QtGlobal>
 
 class QApplication;
 
-/// What must be said before the application object is made. Nothing is drawn with OpenGL: its
-/// libraries are not even loaded.
+/// Sets what must be set before the application object is created. Nothing is drawn with OpenGL, so
+/// its libraries are not loaded.
 void prepareApplication();
 
-/// Makes the bundled resources known and gives the application the program's look.
+/// Registers the bundled resources and applies the program's style sheet.
 void startWindows(QApplication &application);
 
-/// Starts the program itself: the resources, the name of this run's log file, the messages' way,
-/// the look.
-/// @param handler null leaves Qt's own output
+/// Sets up the program itself: the resources, the name of this run's log file, the message handler,
+/// the style sheet.
+/// @param handler null keeps Qt's own output
 void startProgram(QApplication &application, QtMessageHandler handler);

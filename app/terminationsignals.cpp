@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Carries a signal through a pipe into the event loop.
+// Forwards a signal through a pipe to the event loop.
 #include "app/terminationsignals.h"
 
 #include <QCoreApplication>
@@ -20,12 +20,12 @@ constexpr int closingSignals[] = {SIGTERM, SIGINT, SIGHUP};
 std::atomic<int> writeEnd{-1};
 static_assert(std::atomic<int>::is_always_lock_free, "a signal handler must not wait for a lock");
 
-/// Runs between any two instructions of any thread: only what is safe there, and no trace in errno.
+/// The signal handler: calls only async-signal-safe functions and preserves errno.
 void passOn(int)
 {
     const int before = errno;
     const char byte = 0;
-    // A full pipe holds enough bytes to close the window.
+    // If the pipe is full, the bytes in it are enough to close the window.
     [[maybe_unused]] const ssize_t written = write(writeEnd, &byte, sizeof byte);
     errno = before;
 }
@@ -39,7 +39,7 @@ void handleWith(void (*handler)(int))
     for (const int number : closingSignals) {
         struct sigaction before = {};
         sigaction(number, nullptr, &before);
-        if (before.sa_handler != SIG_IGN) // as nohup leaves SIGHUP
+        if (before.sa_handler != SIG_IGN) // nohup, for example, ignores SIGHUP
             sigaction(number, &action, nullptr);
     }
 }
@@ -59,7 +59,8 @@ TerminationSignals::TerminationSignals(QWidget &window)
         char bytes[64];
         while (read(readEnd, bytes, sizeof bytes) > 0)
             continue;
-        // A box without a parent that waits for an answer would keep the event loop running.
+        // A message box without a parent that waits for an answer would keep the event loop
+        // running.
         if (window.close())
             QCoreApplication::quit();
     });

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-// What happens when the process is asked to end: by kill, by Ctrl+C, by the end of the session?
+// What happens when the process is asked to end by kill, by Ctrl+C or by the end of the session?
 #pragma once
 
 #include <QObject>
 
 class QWidget;
 
-/// While it lives, SIGTERM, SIGINT and SIGHUP, if they are not ignored already, close `window` as
-/// its close button does, from the event loop.
-/// One at a time; afterwards the signals end the process at once, as they do by default.
+/// While this object exists, SIGTERM, SIGINT and SIGHUP close `window` from the event loop, like
+/// its close button. Signals that are ignored already stay ignored. Only one object may exist at a
+/// time; after it the signals end the process at once, as by default.
 class TerminationSignals : public QObject
 {
 public:
@@ -16,5 +16,5 @@ public:
     ~TerminationSignals() override;
 
 private:
-    int readEnd = -1; ///< of the pipe that the signal handler writes to; -1 = there is none
+    int readEnd = -1; ///< of the pipe that the signal handler writes to; -1 = none
 };

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Waits for the capture thread's call, stops the live mode, closes the camera.
+// Waits for the capture thread's call to return, stops the live mode and closes the camera.
 #include "camera/cameraclosing.h"
 
 #include "camera/session.h"
@@ -11,9 +11,9 @@
 
 namespace
 {
-constexpr int pause = 20; ///< milliseconds of one look
+constexpr int pause = 20; ///< longest wait of one poll, milliseconds
 
-/// StopVELDIXLive in a thread.
+/// Calls StopVELDIXLive in a thread of its own.
 class Stopper : public QThread
 {
 public:
@@ -87,7 +87,7 @@ CameraClosing::State CameraClosing::look(int milliseconds)
         qCritical("the camera is not closed: its library does not return from a call");
         return end(State::Hanging);
     }
-    // Nothing is stopped while it is only beginning: it would go on after that.
+    // A live mode that is still starting is not stopped: it would run on afterwards.
     if (!stopper && session.camera.liveMode && since.elapsed() >= stopPatience)
         stopUnderTheCall();
     return state;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How is a camera closed whose library may not return from a call?
+// How is a camera closed if its library may not return from a call?
 #pragma once
 
 #include <QElapsedTimer>
@@ -9,14 +9,15 @@
 
 struct Session;
 
-/// How long a call of the capture thread's is waited for before the live mode is stopped under it,
-/// milliseconds: some libraries only return from the call for a frame then.
+/// How long to wait for the capture thread's call before the live mode is stopped during that call,
+/// milliseconds. Some libraries return from a request for a frame only then.
 constexpr int stopPatience = 400;
 
-/// Stops the live mode and closes the camera, one look after the other, so that the window's event
-/// loop can run in between. Nothing is called but once the capture thread is out of its call; after
-/// stopPatience the live mode is stopped all the same, by a thread of its own, since that call may
-/// wait for the other. The camera is closed when both have returned. For the GUI thread.
+/// Stops the live mode and closes the camera in short polls, so that the window's event loop can
+/// run in between. Calls the library only while the capture thread is not in a call, with one
+/// exception: after stopPatience a separate thread stops the live mode anyway, since the capture
+/// thread's call may be waiting for that. The camera is closed when both calls have returned. For
+/// the GUI thread.
 class CameraClosing
 {
 public:
@@ -25,21 +26,22 @@ public:
         UnderWay,
         Closed,
         Refused, ///< CloseVELDIX failed: the camera is still open
-        Hanging  ///< a call has not returned in time: the camera is still open
+        Hanging  ///< a call did not return in time: the camera is still open
     };
 
-    /// @param shared outlives the closing
+    /// @param shared must outlive this object
     explicit CameraClosing(Session &shared) : session(shared) {}
     ~CameraClosing();
 
-    /// Begins, unless it is under way. @param milliseconds how long a call is waited for in all
+    /// Starts closing, unless it is already in progress.
+    /// @param milliseconds total time to wait for calls to return
     void begin(int milliseconds);
     bool isUnderWay() const { return state == State::UnderWay; }
-    /// Looks once, for that long at most. The last look gives what came of it.
+    /// Polls once, for at most `milliseconds`. The last poll returns the result.
     State look(int milliseconds);
-    /// Looks until something has come of it.
+    /// Polls until there is a result.
     State finish();
-    /// Whether the thread that stops the live mode has ended, or ends within that time.
+    /// Whether the thread that stops the live mode has ended, or ends within `milliseconds`.
     bool stopEnds(int milliseconds);
 
 private:
@@ -51,6 +53,6 @@ private:
     State state = State::Idle;
     int patience = 0;
     QElapsedTimer since;
-    bool stopped = false; ///< the live mode, by the thread
+    bool stopped = false; ///< the thread was started to stop the live mode
     std::unique_ptr<QThread> stopper;
 };

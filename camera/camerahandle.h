@@ -7,27 +7,27 @@
 
 #include <QMutex>
 
-/// The open camera's handle with its lock; null when none is open. The GUI thread alone sets it,
-/// and may use it at any time. The capture thread holds it for each of its calls, and the GUI
-/// thread holds it to stop and close: so no call meets a closed handle, and closing waits for one
-/// fetch at most.
+/// The handle of the open camera and its lock; null if no camera is open. Only the GUI thread sets
+/// the handle, and it may read it at any time. The capture thread holds the lock during each of its
+/// calls, and the GUI thread holds it to stop and close. So no call uses a closed handle, and
+/// closing waits for one fetch at most.
 class CameraHandle
 {
 public:
-    /// How long the GUI thread waits for a call of the capture thread, milliseconds: far longer
-    /// than any frame takes, so that a library that does not return is told from a slow one.
+    /// How long the GUI thread waits for a call of the capture thread, milliseconds. Far longer
+    /// than any frame takes, to distinguish a library that hangs from a slow one.
     static constexpr int sdkCallTimeout = 10000;
 
-    /// Keeps every other holder off for a scope; with a time given, if that can be had within it.
+    /// Holds the lock for a scope. With a timeout, check whether the lock was acquired.
     class Hold
     {
     public:
-        /// @param milliseconds negative = as long as it takes
+        /// @param milliseconds timeout; negative = none
         explicit Hold(CameraHandle &held, int milliseconds = -1)
             : lock(held.mutex, milliseconds), handle(held.get())
         {
         }
-        /// Whether the handle is held.
+        /// Whether the lock was acquired.
         explicit operator bool() const { return bool(lock); }
         void *get() const { return handle; }
 
@@ -36,7 +36,7 @@ public:
         void *handle;
     };
 
-    /// Without the lock: for the GUI thread, which alone changes it.
+    /// Without the lock: for the GUI thread, the only one that changes the handle.
     void *get() const noexcept { return handle; }
     void set(void *opened) noexcept { handle = opened; }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The camera's record before a camera is connected.
+// The state before a camera is connected.
 #include "camera/camerastate.h"
 
 void setCameraDefaults(CameraState &state)

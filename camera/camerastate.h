@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What is known of the one camera, and which thread may touch which part of it?
+// What is known about the camera, and which thread may access which part of it?
 #pragma once
 
 #include "camera/frameformat.h"
@@ -8,10 +8,10 @@
 
 #include <cstdint>
 
-/// The record of the camera. Everything belongs to the GUI thread but for what its group says.
+/// The state of the camera. For the GUI thread only, except where a comment says otherwise.
 struct CameraState {
-    Relaxed<bool> sdkReady;        ///< InitVELDIXResource succeeded
-    Relaxed<bool> cameraConnected; ///< a camera is open and initialised; the capture thread reads
+    Relaxed<bool> sdkReady;            ///< InitVELDIXResource succeeded
+    Relaxed<bool> cameraConnected;     ///< a camera is open and ready; the capture thread reads it
     char cameraId[longestIdSize] = {}; ///< NUL-terminated ID of the camera found
     double exposure = 0;               ///< microseconds
     double gain = 0;                   ///< camera units
@@ -19,15 +19,16 @@ struct CameraState {
     double usbTraffic = 0;             ///< 0 to 255
     std::uint32_t bits = 0;
     std::uint32_t binX = 0, binY = 0;
-    std::uint32_t streamMode = 0; ///< 1 = live video; the low byte is passed on
+    std::uint32_t streamMode = 0; ///< 1 = live video; only the low byte is passed on
     std::uint32_t roiX = 0, roiY = 0, roiWidth = 0, roiHeight = 0;
 
-    /// BeginVELDIXLive has succeeded for this capture loop, which writes; the GUI reads.
+    /// BeginVELDIXLive has succeeded for this capture loop. The capture thread writes, the GUI
+    /// reads.
     Relaxed<bool> liveMode;
 
-    // Of the latest frame: the capture thread writes, the GUI reads.
+    // The format of the latest frame: the capture thread writes, the GUI reads.
     Relaxed<std::uint32_t> frameWidth, frameHeight, frameBpp, frameChannels;
 };
 
-/// The values that hold before a camera is connected.
+/// Sets the values used before a camera is connected.
 void setCameraDefaults(CameraState &state);

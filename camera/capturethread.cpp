@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The capture loop: fetch, measure, convert, follow, mark, queue.
+// The capture loop: fetch a frame, measure the rate, convert, track stars, draw the marks, queue.
 #include "camera/capturethread.h"
 
 #include "camera/monitor.h"
@@ -13,7 +13,7 @@
 
 namespace
 {
-/// Pause before the camera is asked again for a frame that was not there yet.
+/// Pause before the next request if no new frame was available.
 constexpr unsigned long retryMicroseconds = 10000;
 
 } // namespace
@@ -35,7 +35,7 @@ CaptureThread::~CaptureThread()
 
 void CaptureThread::startCapture()
 {
-    waitForEnd(); // a loop that was asked to stop is at most in its last pass
+    waitForEnd(); // an earlier loop, if any, is in its last pass
     stopRequested = false;
     start(QThread::InheritPriority);
 }
@@ -98,8 +98,8 @@ CaptureThread::Fetch CaptureThread::fetchFrame()
                : Fetch::NoFrameYet;
 }
 
-/// Logs why no picture can be made of the fetched frame: once for a format, since they
-/// may come a hundred times a second.
+/// Logs why the fetched frame cannot be shown. Once per format, since frames may arrive a hundred
+/// times a second.
 void CaptureThread::refuseFrame()
 {
     if (refused == fetched)
@@ -114,7 +114,7 @@ void CaptureThread::refuseFrame()
     MatToQImage(&frame);
 }
 
-/// Makes the fetched buffer the latest frame; false if no picture can be made of it.
+/// Makes the fetched buffer the latest frame; false if it cannot be shown.
 bool CaptureThread::acceptFrame()
 {
     if (!isUsable(fetched)) {
@@ -135,13 +135,13 @@ void CaptureThread::followStars()
     const ReferenceStars stars = trackReferenceStars(rawFrame, session.monitorPositions);
     cropAroundStarB(rawFrame, stars.a, stars.b, session.overlayFlags.monoStyle, matrices);
     magnifierImage = MatToQImage(&matrices.magnifierCrop);
-    // The read-outs are taken when the enlarged picture comes.
+    // Before the picture is queued: the window updates its read-outs when it arrives.
     updatePole(stars, session.refraction, session.alignmentPoints, session.monitorPositions);
     if (magnifierImage)
         session.magnifierQueue.append(*magnifierImage, stopRequested);
 }
 
-/// False if no picture could be made of the fetched frame.
+/// False if the fetched frame could not be shown.
 bool CaptureThread::handleFrame()
 {
     session.frameRate.frameCame(stopRequested);

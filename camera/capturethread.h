@@ -14,22 +14,23 @@
 
 struct Session;
 
-/// Fetches frames while a camera is connected, draws the marks into them, follows the reference
-/// stars in monitor mode, and queues the pictures. It never waits for the GUI to show one: where a
-/// queue is full the picture is dropped. Stopping the live mode is the GUI's business.
+/// Fetches frames while a camera is connected, draws the marks into them, tracks the reference
+/// stars in monitor mode, and queues the pictures. It never waits for the GUI: if a queue is full,
+/// the picture is dropped. The GUI thread stops the live mode.
 class CaptureThread : public QThread
 {
 public:
-    /// @param shared outlives the thread
+    /// @param shared must outlive the thread
     explicit CaptureThread(Session &shared, QObject *parent = nullptr);
     /// Asks the loop to stop and waits for its current pass to end.
     ~CaptureThread() override;
 
-    /// Starts the loop; where an earlier one is still in its last pass, after that has ended.
+    /// Starts the loop, after an earlier one has finished its last pass.
     void startCapture();
     /// Asks the loop to stop and returns at once.
     void stopCapture();
-    /// Whether the loop has ended, or ends within that time; not if the camera library holds it.
+    /// Whether the loop has ended, or ends within the timeout; false if the camera library blocks
+    /// it.
     bool waitForEnd(unsigned long milliseconds = ULONG_MAX);
 
 protected:
@@ -50,9 +51,9 @@ private:
     Session &session;
     Relaxed<bool> stopRequested;
     FrameMatrices matrices;
-    cv::Mat rawFrame;                       ///< header over the latest whole frame
-    FrameFormat fetched;                    ///< of the frame in the fetch buffer
-    std::optional<FrameFormat> refused;     ///< the last one that no picture could be made of
+    cv::Mat rawFrame;                       ///< header over the latest complete frame
+    FrameFormat fetched;                    ///< format of the frame in the fetch buffer
+    std::optional<FrameFormat> refused;     ///< the last format that could not be shown
     std::unique_ptr<QImage> frameImage;     ///< the latest display picture
     std::unique_ptr<QImage> magnifierImage; ///< the latest picture of the magnified star
 };

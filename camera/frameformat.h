@@ -1,23 +1,23 @@
 // SPDX-License-Identifier: MIT
-// How does the camera describe a frame, and can a picture be made of it?
+// How does the camera describe a frame, and can the frame be shown?
 #pragma once
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
 
-/// Frame size in pixels that the program asks the camera for.
+/// Frame size that the program requests from the camera, pixels.
 constexpr std::uint32_t frameWidthDefault = 1280;
 constexpr std::uint32_t frameHeightDefault = 960;
-/// Bytes of a frame buffer: the full frame with three 8-bit channels.
+/// Size of a frame buffer in bytes: the full frame with three 8-bit channels.
 constexpr std::size_t frameBufferSize = std::size_t(frameWidthDefault) * frameHeightDefault * 3;
 
 using FrameBuffer = std::array<std::uint8_t, frameBufferSize>;
 
-/// What the camera says of a frame.
+/// A frame's format as reported by the camera.
 struct FrameFormat {
     std::uint32_t width = 0, height = 0; ///< pixels
-    std::uint32_t bpp = 0;               ///< bits a sample
+    std::uint32_t bpp = 0;               ///< bits per sample
     std::uint32_t channels = 0;
 };
 
@@ -26,14 +26,14 @@ inline bool operator==(const FrameFormat &a, const FrameFormat &b)
     return a.width == b.width && a.height == b.height && a.bpp == b.bpp && a.channels == b.channels;
 }
 
-/// Whether the announced frame lies whole in its buffer.
+/// Whether a frame of this format fits into the buffer.
 inline bool fitsBuffer(const FrameFormat &format)
 {
     return format.channels >= 1 && format.channels <= 4 &&
            std::uint64_t(format.width) * format.height <= frameBufferSize / format.channels;
 }
 
-/// Whether a picture can be made of the announced frame.
+/// Whether a frame of this format can be shown.
 inline bool isUsable(const FrameFormat &format)
 {
     return format.width > 0 && format.height > 0 &&

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The measurement of the frame rate.
+// Measures the frame rate.
 #include "camera/framerate.h"
 
 #include "core/locker.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The frame matrices, and how a matrix becomes a picture.
+// Allocates the frame matrices and converts a matrix to a picture.
 #include "camera/frames.h"
 
 #include "camera/frameformat.h"

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
-// Which matrices does the capture thread work in, and how does one become a picture?
+// Which matrices does the capture thread use, and how is one converted to a picture?
 #pragma once
 
 #include <QImage>
 #include <memory>
 #include <opencv2/core.hpp>
 
-/// Side of the magnified view of monitor mode in pixels, and how much it enlarges.
+/// Side of the magnified view of monitor mode in pixels, and its magnification.
 constexpr int cropSide = 200;
 constexpr int enlargement = 5;
 
-/// The matrices, rows x columns, of one capture thread. The large ones are reserved only: no page
+/// The matrices of one capture thread, rows x columns. The large ones are only allocated: no page
 /// of them is touched before it is needed.
 struct FrameMatrices {
     FrameMatrices();
@@ -20,8 +20,7 @@ struct FrameMatrices {
     cv::Mat magnifierCrop;                ///< 200 x 200, 3 channels, blue green red
 };
 
-/// The picture of an 8-bit matrix of one or three channels (blue, green, red); null, with a
-/// critical log line, for anything else. One channel: an indexed picture over the matrix's own
-/// pixels, without a colour table, valid as long as they are. Three: a picture that owns its
-/// pixels.
+/// Converts an 8-bit matrix of one or three channels (blue, green, red); null, with a critical log
+/// line, for anything else. One channel: an indexed picture without a colour table that shares the
+/// matrix's pixels, valid as long as they are. Three channels: a picture that owns its pixels.
 std::unique_ptr<QImage> MatToQImage(const cv::Mat *mat);

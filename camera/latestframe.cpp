@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The two frame buffers and their exchange.
+// Keeps two frame buffers and swaps them.
 #include "camera/latestframe.h"
 
 #include "core/locker.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Which pixels has the latest whole frame?
+// What are the pixels of the latest complete frame?
 #pragma once
 
 #include "camera/frameformat.h"
@@ -8,28 +8,29 @@
 #include <memory>
 #include <opencv2/core.hpp>
 
-/// Two buffers and their lock: the camera fills one while the other holds the latest whole frame.
-/// The two change places with every frame, and no pixel is copied.
+/// Two buffers and their lock: the camera fills one while the other holds the latest complete
+/// frame. The buffers are swapped with every frame; no pixel is copied.
 class LatestFrame
 {
 public:
-    /// A black frame of the default size: no star to be picked.
+    /// Starts with a black frame of the default size, in which no star can be picked.
     LatestFrame();
 
-    /// Where the next frame goes. The capture thread's alone.
+    /// The buffer for the next frame. Capture thread only.
     std::uint8_t *fetchBuffer() { return fetching->data(); }
-    /// The fetched pixels as a matrix; empty without any. The capture thread's alone.
-    /// @param format one that fits the buffer
+    /// The fetched pixels as a matrix; empty if the format has none. Capture thread only.
+    /// @param format must fit the buffer
     cv::Mat fetched(const FrameFormat &format);
-    /// Makes the fetched pixels the latest frame, and returns a header over them, valid until the
-    /// next call. The capture thread's alone. @param format a usable one
+    /// Makes the fetched pixels the latest frame and returns a header over them, valid until the
+    /// next call. Capture thread only.
+    /// @param format must be usable
     cv::Mat acceptFetched(const FrameFormat &format);
 
-    /// A copy of the latest whole frame that stays as it is. Any thread.
+    /// A deep copy of the latest complete frame. Any thread.
     cv::Mat copy() const;
 
 private:
-    mutable QMutex mutex; ///< guards `frame` and the exchange of the buffers
+    mutable QMutex mutex; ///< guards `frame` and the swap of the buffers
     std::unique_ptr<FrameBuffer> fetching;
     std::unique_ptr<FrameBuffer> latest;
     cv::Mat frame; ///< header over `latest`

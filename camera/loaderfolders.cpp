@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Asks the loader for its folders, and reads those of its cache from its configuration.
+// Asks the dynamic loader for its search folders and reads its configured folders.
 #include "camera/loaderfolders.h"
 
 #include <QFile>

@@ -16,11 +16,11 @@ namespace
 {
 constexpr std::chrono::seconds patience(10);
 constexpr std::chrono::milliseconds pause(2);
-/// The child's exit status once the library's start has returned: none that a library picks.
+/// The child's exit status if loading returns; a value that no library is expected to exit with.
 constexpr int returned = 115;
 
-/// Only the calling thread lives on in the child, which never comes back from here. The C library
-/// and its loader can be used there, whatever other threads held at that moment.
+/// Only the calling thread exists in the child, and it never returns from here. The C library and
+/// its loader are usable in the child, whatever locks other threads held at the fork.
 [[noreturn]] void loadAndEnd(const char *name)
 {
     const rlimit noCore{0, 0};
@@ -31,8 +31,8 @@ constexpr int returned = 115;
     _exit(returned);
 }
 
-/// Whether the child came back from the library's start in time; true where somebody else has
-/// waited for it, so that nothing is known.
+/// Whether the child finished loading in time. True if its exit status is unknown because other
+/// code has already waited for it.
 bool cameBack(pid_t child)
 {
     const auto end = std::chrono::steady_clock::now() + patience;
@@ -56,7 +56,7 @@ bool cameBack(pid_t child)
 
 bool survivesLoading(const QByteArray &name)
 {
-    const char *const text = name.constData(); // the child asks Qt for nothing
+    const char *const text = name.constData(); // the child calls no Qt code
     const pid_t child = fork();
     if (child == 0)
         loadAndEnd(text);

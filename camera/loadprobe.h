@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-// Does a foreign library let the program live when it is loaded?
+// Does loading a third-party library crash or block the program?
 #pragma once
 
 class QByteArray;
 
-/// Loads the library (a file's name, or one that the loader finds) in a copy of this process that
-/// is thrown away; false if the copy crashed, ended or hung for ten seconds in the library's own
-/// start. True says nothing about whether there is such a library. For the thread that loads it.
+/// Loads the library (a path, or a name that the loader finds) in a forked copy of this process.
+/// False if the copy crashed, exited or hung for ten seconds in the library's initialisation. True
+/// does not mean that the library exists. Call it on the thread that then loads the library.
 bool survivesLoading(const QByteArray &name);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Follows the reference stars, reckons the pole and enlarges the pole star.
+// Tracks the reference stars, computes the pole and magnifies the pole star.
 #include "camera/monitor.h"
 
 #include "core/saturate.h"
@@ -13,12 +13,12 @@
 
 namespace
 {
-/// How far from its centre a star's mark reaches in the enlarged picture, and where it begins.
+/// Distances from the star at which its ticks begin and end, pixels of the enlarged picture.
 constexpr int tickInner = 6;
 constexpr int tickOuter = 11;
 
-/// Enlarged coordinates, cut to whole pixels and held far enough from the ends of int that
-/// offsets can be added.
+/// Enlarged coordinates, truncated to whole pixels and clamped so that adding offsets cannot
+/// overflow int.
 cv::Point enlargedPoint(QPointF star)
 {
     constexpr int limit = 1 << 24;
@@ -49,7 +49,7 @@ void markStarB(cv::Mat &picture, cv::Point centre)
     drawTicks(picture, centre, green);
 }
 
-/// The frame pixels that the enlargement of `area` (enlarged pixels) is interpolated from.
+/// The frame pixels from which `area` (enlarged pixels) is interpolated.
 cv::Rect sourceOf(const cv::Rect &area, cv::Size frame)
 {
     const int left = std::max(area.x / enlargement - 2, 0);
@@ -99,7 +99,7 @@ void updatePole(ReferenceStars stars, const RefractionSettings &refraction,
 {
     auto &[a, b] = stars;
     if (refraction.enabledCorrect) {
-        // The pressure goes in as tenths of what is entered, whatever its unit is said to be.
+        // A tenth of the entered pressure is used, whatever its unit.
         const double pressure = double(refraction.P) / 10.0;
         const double latitude = double(refraction.latitude);
         const double temperature = double(refraction.T);
@@ -131,7 +131,7 @@ void cropAroundStarB(const cv::Mat &frame, QPointF starA, QPointF starB, bool mo
     if (inside.empty())
         return;
     enlarge(frame, sourceOf(inside, frame.size()), matrices);
-    // Drawn at their places in the whole picture, so that clipping cuts no mark differently.
+    // Drawn at their positions in the full picture, so that clipping does not change the marks.
     markStarA(matrices.enlargedColour, centreA, monoStyle);
     markStarB(matrices.enlargedColour, centreB);
     matrices.enlargedColour(inside).copyTo(matrices.magnifierCrop(inside - crop.tl()));

@@ -17,17 +17,17 @@ struct ReferenceStars {
 };
 
 /// Finds both reference stars near their search positions in `frame` (8 bits, one or three
-/// channels); a star that is not found stands at its search position.
+/// channels); a star that is not found is reported at its search position.
 ReferenceStars trackReferenceStars(const cv::Mat &frame, const MonitorPositions &search);
 
-/// Computes the pole from the stars that were found, after the refraction at the pole was
-/// subtracted from their y where that is switched on; writes stars and pole into `found`.
+/// Computes the pole from the stars and writes both into `found`. If refraction correction is
+/// enabled, the refraction at the pole is first subtracted from the stars' y.
 void updatePole(ReferenceStars stars, const RefractionSettings &refraction,
                 const AlignmentPoints &points, MonitorPositions &found);
 
-/// Cuts the five-fold enlarged surroundings of star B, both stars marked, into
-/// matrices.magnifierCrop. Only the part of `frame` that the crop shows is enlarged; the crop is
-/// the same to the last bit as one cut from the whole frame's enlargement, and black beyond its
-/// edge. @param starA, starB frame pixels
+/// Writes the surroundings of star B, enlarged five times and with both stars marked, to
+/// matrices.magnifierCrop. Only the part of `frame` that the crop shows is enlarged. The crop is
+/// bit-identical to one cut from the enlarged full frame, and black beyond the frame's edge.
+/// @param starA, starB frame pixels
 void cropAroundStarB(const cv::Mat &frame, QPointF starA, QPointF starB, bool monoStyle,
                      FrameMatrices &matrices);

@@ -16,7 +16,7 @@ void drawTicks(QPainter &painter, QPointF centre, double inner, double outer)
         painter.drawLine(centre + outer * direction, centre + inner * direction);
 }
 
-/// An upright cross of two lines, each `reach` pixels to both sides of `centre`.
+/// An upright cross whose lines extend `reach` pixels to each side of `centre`.
 void drawCross(QPainter &painter, QPointF centre, double reach)
 {
     painter.drawLine(centre - QPointF(reach, 0), centre + QPointF(reach, 0));

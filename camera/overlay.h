@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Which marks lie over a frame, where, and what do they look like?
+// Which marks are drawn over a frame, where, and in which colours?
 #pragma once
 
 #include "core/sharedstate.h"
@@ -35,7 +35,7 @@ struct OverlayColours {
 
 const OverlayColours &overlayColours(bool monoStyle);
 
-/// A snapshot of the shared state. The pole is left out while none could be computed.
+/// A snapshot of the shared state. The pole is omitted if none could be computed.
 OverlayMarks currentMarks(const OverlayFlags &flags, const AlignmentPoints &points,
                           const MonitorPositions &found);
 

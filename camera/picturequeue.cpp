@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The pictures on their way from the capture thread to the window.
+// Queues pictures from the capture thread for the window.
 #include "camera/picturequeue.h"
 
 #include "core/locker.h"

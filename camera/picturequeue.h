@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Which pictures wait for the window?
+// Which pictures are waiting to be shown?
 #pragma once
 
 #include "core/relaxed.h"
@@ -12,18 +12,18 @@
 class PictureQueue
 {
 public:
-    /// The most pictures that wait; a further one is dropped.
+    /// Capacity; further pictures are dropped.
     static constexpr int maxLength = 2;
 
     /// Appends `picture` if there is room and `stopped` is not set; false if it was dropped. The
-    /// flag is read under the lock: a queue that is emptied after the flag was set stays empty.
+    /// flag is read under the lock, so that a queue cleared after the flag was set stays empty.
     bool append(const QImage &picture, const Relaxed<bool> &stopped = false);
-    /// Takes the oldest picture out; null if none waits.
+    /// Removes and returns the oldest picture; null if the queue is empty.
     QImage takeOldest();
     void clear();
     int size() const;
     bool isEmpty() const { return size() == 0; }
-    /// A copy of what waits, the oldest first.
+    /// A copy of the queue, oldest first.
     QList<QImage> waiting() const;
 
 private:

@@ -9,9 +9,9 @@
 #include "camera/picturequeue.h"
 #include "core/sharedstate.h"
 
-/// One camera, its frames and one alignment. Made where the process begins and passed to all that
-/// use it, so it outlives them. Each member says which thread may touch it, and owns its lock where
-/// it needs one; no two locks are ever held together.
+/// One camera, its frames and one alignment. Created at the start of the process and passed to all
+/// its users, which it outlives. Each member documents which thread may access it, and owns its
+/// lock if it needs one. No two locks are ever held at the same time.
 struct Session {
     CameraState camera;
     CameraHandle handle;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Finds the camera maker's library at run time and passes the sixteen operations on to it.
+// Loads the camera maker's library at run time and forwards the sixteen operations to it.
 #include "camera/veldix.h"
 
 #include "camera/loaderfolders.h"
@@ -14,8 +14,8 @@
 
 namespace
 {
-/// The library's function behind one of the program's; null until the library is loaded. Written
-/// once by InitVELDIXResource, before the capture thread starts; read by all afterwards.
+/// The library's function to which one of the program's functions forwards; null until the library
+/// is loaded. Written once by InitVELDIXResource, before the capture thread starts; then only read.
 template <auto *operation> decltype(operation) function = nullptr;
 bool loaded = false;
 
@@ -50,7 +50,7 @@ constexpr std::array<Symbol, 16> symbols{{
 }};
 // clang-format on
 
-/// All of the functions or none; each that is missing is logged.
+/// Resolves all functions or none; logs each missing one.
 bool resolveAll(void *library, const QString &libraryName)
 {
     std::array<void *, symbols.size()> addresses{};
@@ -67,7 +67,7 @@ bool resolveAll(void *library, const QString &libraryName)
     return complete;
 }
 
-/// What the library's function gives, or `failed` while there is none.
+/// The result of the library's function, or `failed` if no library is loaded.
 template <typename Result, typename... Parameters>
 Result call(Result (*called)(Parameters...), std::common_type_t<Result> failed,
             std::common_type_t<Parameters>... parameters)
@@ -75,14 +75,14 @@ Result call(Result (*called)(Parameters...), std::common_type_t<Result> failed,
     return called ? called(parameters...) : failed;
 }
 
-/// Why the loader did not load `file`, in its own words.
+/// The loader's message about its last failure.
 QString loadFailure()
 {
     return QString::fromLocal8Bit(dlerror());
 }
 
-/// Whether `reason` says no more of `file` than of any other that is not there, in whatever
-/// language the loader speaks.
+/// Whether `reason` is the loader's message for a missing file. Compares it with the message for a
+/// file that is certainly missing, since the loader's messages are translated.
 bool saysAbsent(const QString &reason, const QByteArray &file)
 {
     const QByteArray absent = file + ".absent";
@@ -94,8 +94,8 @@ bool saysAbsent(const QString &reason, const QByteArray &file)
            QString(reason).replace(QFile::decodeName(file), QFile::decodeName(absent));
 }
 
-/// What there is under a name that the loader does not load; empty = nothing at all. The loader
-/// passes over files that are for another processor or that may not be read, as if there were none.
+/// The files that exist under a name that the loader failed to load; empty = none. The loader
+/// silently skips files that are built for another processor or not readable.
 QByteArrayList whatIsThere(const QByteArray &file, const QString &reason)
 {
     const QByteArrayList found = filesOfName(
@@ -106,9 +106,9 @@ QByteArrayList whatIsThere(const QByteArray &file, const QString &reason)
 }
 
 enum class Outcome {
-    Absent,     ///< there is no file
-    Unusable,   ///< there is one that does not load, or not without harm
-    Incomplete, ///< it loads, and is not a library of this kind or version
+    Absent,     ///< no file exists
+    Unusable,   ///< a file exists, but loading it fails or harms the program
+    Incomplete, ///< it loads, but is a different library or version
     Loaded,
 };
 
@@ -118,7 +118,8 @@ void logUnusable(const QByteArray &files, const QString &reason)
               files.constData(), qPrintable(reason));
 }
 
-/// Loads one library, which then stays loaded. \param reason why it is not loaded
+/// Loads one library, which then stays loaded.
+/// \param reason receives why it was not loaded
 Outcome loadFrom(const QString &name, QString &reason)
 {
     const QByteArray file = QFile::encodeName(name);
@@ -141,8 +142,8 @@ Outcome loadFrom(const QString &name, QString &reason)
     return Outcome::Incomplete;
 }
 
-/// Loads the first library that is there: whoever has the maker's does not want to see another's
-/// pictures in place of the camera's.
+/// Loads the first library that exists. A user who has the maker's library does not want to see
+/// pictures from another one.
 Outcome load()
 {
     QStringList reasons;

@@ -13,22 +13,22 @@ enum VeldixControl : std::int32_t {
     CONTROL_GAIN = 6,       ///< camera units
     CONTROL_EXPOSURE = 8,   ///< microseconds
     CONTROL_SPEED = 9,      ///< 0 to 2
-    CONTROL_USBTRAFFIC = 12 ///< 0 to 255; the larger, the slower the frames come
+    CONTROL_USBTRAFFIC = 12 ///< 0 to 255; larger values slow down the frames
 };
 
-/// Bytes of a camera's ID with its NUL.
+/// Size of a camera ID in bytes, including the NUL.
 constexpr int veldixIdSize = 38;
-/// Bytes of the longest ID that is taken all the same, with its NUL: the library that gave it is
-/// given it back as a whole.
+/// Size of the longest ID that is accepted nevertheless, in bytes, including the NUL: the library
+/// gets it back in full.
 constexpr int longestIdSize = 256;
 
-// The sixteen operations of the Camera SDK, each passed on to the library that
-// InitVELDIXResource found. All may be called from any thread. Before a successful
-// InitVELDIXResource they fail: veldixError, no camera, a null handle, the value 0.
+// The sixteen operations of the Camera SDK, each forwarded to the library that InitVELDIXResource
+// loaded. All may be called from any thread. Before a successful InitVELDIXResource they fail and
+// return veldixError, no camera, a null handle or 0.
 
-/// Loads the library (see librariesToTry) and initialises it; 0 = ready. A library that is absent
-/// or lacks one of the functions is named in a critical log line. One that is there and can not be
-/// loaded is too; it counts as a library that knows no camera: the result is 0 then.
+/// Loads the library (see librariesToTry) and initialises it; 0 = ready. A library that is missing,
+/// lacks a function or cannot be loaded is reported in a critical log line. One that exists but
+/// cannot be loaded counts as a library without cameras: the result is 0.
 std::uint32_t InitVELDIXResource();
 /// Number of cameras; 0 or negative = none.
 std::int32_t ScanVELDIX();
@@ -48,13 +48,13 @@ std::uint32_t SetVELDIXResolution(void *handle, std::uint32_t x, std::uint32_t y
 double GetVELDIXParam(void *handle, std::int32_t control);
 std::uint32_t SetVELDIXParam(void *handle, std::int32_t control, double value);
 std::uint32_t BeginVELDIXLive(void *handle);
-/// 0 = a new frame is in `buffer`; anything else = none yet.
+/// 0 = a new frame is in `buffer`; anything else = no new frame.
 std::uint32_t GetVELDIXLiveFrame(void *handle, std::uint32_t *width, std::uint32_t *height,
                                  std::uint32_t *bpp, std::uint32_t *channels, std::uint8_t *buffer);
 std::uint32_t StopVELDIXLive(void *handle);
 std::uint32_t CloseVELDIX(void *handle);
 
-/// Where the library is looked for, the first that is there being taken: the loader's own search
+/// The libraries to try; the first that exists is used. First the name for the loader's search
 /// path, then the program's virtual camera in its private folder.
 /// @param applicationFolder folder of the executable, absolute
 QStringList librariesToTry(const QString &applicationFolder);

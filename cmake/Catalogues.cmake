@@ -1,10 +1,10 @@
 # SPDX-License-Identifier: MIT
-# How Qt Linguist's catalogues get into a library.
+# Compiles Qt Linguist's catalogues into a library.
 
-# bundle_catalogues(TARGET NAME PREFIX catalogue.ts...): compiles the catalogues and bundles them into
-# the target as the resource NAME (Q_INIT_RESOURCE), each as PREFIX/catalogue.qm. The bundle names
-# them relative to itself and rcc runs beside it: without a UTF-8 locale rcc does not find a file by
-# a path with other letters than ASCII.
+# bundle_catalogues(TARGET NAME PREFIX catalogue.ts...): compiles the catalogues and bundles them
+# into the target as the resource NAME (Q_INIT_RESOURCE), each as PREFIX/catalogue.qm. The bundle
+# uses relative paths and rcc runs in its folder: without a UTF-8 locale, rcc cannot find files
+# whose path has non-ASCII letters.
 function(bundle_catalogues TARGET NAME PREFIX)
   qt5_add_translation(compiled ${ARGN})
   set(CATALOGUE_FILES "")

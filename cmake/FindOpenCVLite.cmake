@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
-# Finds OpenCV 4's core and imgproc by their files alone, as the packages libopencv-core-dev and
-# libopencv-imgproc-dev bring them: the CMake package of OpenCV would pull in every module.
-# Defines the target OpenCVLite::OpenCV.
+# Finds OpenCV 4's core and imgproc by their files, as the packages libopencv-core-dev and
+# libopencv-imgproc-dev install them: OpenCV's CMake package would pull in every module. Defines the
+# target OpenCVLite::OpenCV.
 find_path(OpenCVLite_INCLUDE_DIR opencv2/core.hpp PATH_SUFFIXES opencv4)
 find_library(OpenCVLite_CORE opencv_core)
 find_library(OpenCVLite_IMGPROC opencv_imgproc)

@@ -1,11 +1,11 @@
 # SPDX-License-Identifier: MIT
-# The interface target that every target of ours links: include root, warnings, sanitizers.
+# The interface target that all our targets link: include root, warnings, sanitizers.
 add_library(quorvandel_options INTERFACE)
 target_include_directories(quorvandel_options INTERFACE ${CMAKE_SOURCE_DIR})
 target_compile_definitions(quorvandel_options INTERFACE QT_DEPRECATED_WARNINGS_SINCE=0x050c00)
 target_compile_options(quorvandel_options INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wshadow
-  -ffp-contract=off # one result on every processor
+  -ffp-contract=off # the same results on every processor
   $<$<BOOL:${QUORVANDEL_WERROR}>:-Werror>)
 if(QUORVANDEL_SANITIZE)
   target_compile_options(quorvandel_options INTERFACE

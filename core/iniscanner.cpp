@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Divides an INI file into sections and keys.
+// Splits an INI file into sections and keys.
 #include "core/iniscanner.h"
 
 #include "core/initext.h"
@@ -64,7 +64,7 @@ bool IniScanner::skipSpaceAndComments()
     }
 }
 
-/// What follows a backslash has no meaning of its own; an escaped line end may be of two bytes.
+/// Takes what follows a backslash literally; an escaped line end may have two bytes.
 void IniScanner::takeEscaped(QByteArray &text)
 {
     const int c = take();
@@ -75,7 +75,7 @@ void IniScanner::takeEscaped(QByteArray &text)
         text += char(take());
 }
 
-/// Up to the next byte that may mean something, or the chunk's end.
+/// Takes bytes up to the next special one or the end of the chunk.
 void IniScanner::takePlain(QByteArray &text)
 {
     const int start = position;
@@ -84,7 +84,8 @@ void IniScanner::takePlain(QByteArray &text)
     text.append(chunk.constData() + start, position - start);
 }
 
-/// The entry that begins here, and where its '=' is, or -1. False if it is longer than allowed.
+/// Reads the entry that begins here; `equals` is the position of its '=', or -1. False if the entry
+/// is too long.
 bool IniScanner::readEntry(QByteArray &text, int &equals)
 {
     bool inQuotes = false, fits = true;
@@ -105,7 +106,7 @@ bool IniScanner::readEntry(QByteArray &text, int &equals)
             takeEscaped(text);
         if (text.size() > longest) {
             fits = false;
-            inQuotes = false; // a mark that nothing closes would hide the rest of the file
+            inQuotes = false; // an unclosed quotation mark would hide the rest of the file
             text.clear();
         }
     }

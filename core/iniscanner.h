@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Which keys does an INI file hold, as plain texts, however large or damaged it is?
+// Which keys and plain-text values does an INI file hold, even if it is large or damaged?
 #pragma once
 
 #include <QByteArray>
@@ -9,26 +9,27 @@
 
 class QIODevice;
 
-/// One entry of an INI file, as the toolkit's own reader divides it: what stands between quotation
-/// marks may go over several lines, what follows ';' is a comment.
+/// One entry of an INI file, split as QSettings does: quoted text may span several lines, and ';'
+/// starts a comment.
 struct IniEntry {
     enum Kind { Section, Key, Other };
     Kind kind = Other;
-    QByteArray text;     ///< the entry as it stands in the file
+    QByteArray text;     ///< the entry as written in the file
     QString name;        ///< of a key: "GROUP/key"
-    int valueStart = 0;  ///< of a key: in the text
-    bool isUtf8 = false; ///< the file begins with that encoding's byte order mark
+    int valueStart = 0;  ///< of a key: its offset in `text`
+    bool isUtf8 = false; ///< the file begins with the UTF-8 byte order mark
 
-    /// The value of a key: more than one text for a list.
+    /// The value of a key; several texts for a list.
     QStringList elements() const;
 };
 
-/// Reads one entry after the other, in bounded memory. Values are decoded and left at that: the
-/// toolkit's reader makes objects of those like "@Variant(...)", as large as a damaged text says.
+/// Reads one entry after another, in bounded memory. Values are decoded to plain text only:
+/// QSettings would construct objects from values like "@Variant(...)", as large as a damaged text
+/// claims.
 class IniScanner
 {
 public:
-    /// \param longestEntry bytes; what is longer is passed over, to the end of its line
+    /// \param longestEntry bytes; a longer entry is skipped up to the end of its line
     IniScanner(QIODevice &file, int longestEntry);
     /// The next entry; false at the end.
     bool next(IniEntry &entry);
@@ -47,8 +48,8 @@ private:
     QByteArray chunk;
     int position = 0;
     bool isUtf8 = false;
-    QString section; ///< with its '/', or empty
+    QString section; ///< with its trailing '/', or empty
 };
 
-/// Whether the toolkit's reader would make an object of what a text says: its serialised types.
+/// Whether QSettings would construct an object from the text: one of its serialised types.
 bool isSerialisedObject(const QString &element);

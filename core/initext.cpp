@@ -20,7 +20,7 @@ int digitOf(char c, int base)
     return value < base ? value : -1;
 }
 
-/// Takes a value apart, character by character.
+/// Parses a value, character by character.
 class ValueDecoder
 {
 public:
@@ -52,8 +52,8 @@ private:
         while (at < text.size() && isBlank(text.at(at)))
             ++at;
     }
-    /// Blanks at an element's end do not belong to it, but for those before an escape and those of
-    /// an element with quotation marks.
+    /// Removes the blanks at an element's end, except those before an escape and those of an
+    /// element with quotation marks.
     void chop()
     {
         while (!wasQuoted && element.size() > firstChopped &&
@@ -100,7 +100,7 @@ private:
     const bool isUtf8;
     int at = 0;
     bool inQuotes = false, wasQuoted = false;
-    int firstChopped = 0; ///< of the element
+    int firstChopped = 0; ///< where the removable blanks of `element` may begin
     QString element;
     QStringList elements;
 };

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-// How are keys and values written in an INI file of the toolkit's?
+// How does QSettings write keys and values in an INI file?
 #pragma once
 
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
 
-/// A key or section: '\' stands for '/', %XX and %UXXXX for characters.
+/// Decodes a key or section: '\' stands for '/', %XX and %UXXXX for characters.
 QString decodedIniKey(const QByteArray &text);
 
-/// A value: escapes, quotation marks and commas resolved. Bytes are Latin-1 unless told otherwise.
-/// More than one element where commas divide it.
+/// Decodes a value: resolves escapes and quotation marks, and splits it at commas. Bytes are UTF-8
+/// if `isUtf8`, otherwise Latin-1.
 QStringList decodedIniValue(const QByteArray &text, bool isUtf8);

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Which languages are there, and which catalogue belongs to a language code?
+// Which languages are available, and which catalogue belongs to a language code?
 #pragma once
 
 #include <QString>
 #include <array>
 
 struct Language {
-    const char *code;      ///< as the settings file spells it
+    const char *code;      ///< as written in the settings file
     const char *action;    ///< object name of the menu action
     const char *catalogue; ///< resource path of the compiled catalogue
 };
@@ -14,5 +14,5 @@ struct Language {
 /// All ten, in the order of the language menu; English, the source language, comes first.
 extern const std::array<Language, 10> languages;
 
-/// The language of a code, told apart by case; English for every other text.
+/// The language with this code (case-sensitive); English for any other text.
 const Language &languageOf(const QString &code);

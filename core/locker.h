@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How is a QMutex held for a scope, and a thread's end waited for, so that the thread sanitizer
-// sees it?
+// How is a QMutex locked for a scope, and a thread joined, so that the thread sanitizer sees it?
 #pragma once
 
 #include <QMutex>
@@ -10,9 +9,9 @@ extern "C" void __tsan_acquire(void *);
 extern "C" void __tsan_release(void *);
 #endif
 
-/// Everything before the release of an address comes before what follows its acquisition. QMutex
-/// and QThread do their work inside the toolkit's library, which is built without the sanitizer:
-/// these tell it of the order that they make, and do nothing in any other build.
+/// Everything before the release of an address happens before everything after its acquisition.
+/// QMutex and QThread synchronise inside Qt's library, which is built without the sanitizer. These
+/// functions report that order to the sanitizer, and do nothing in other builds.
 inline void noteAcquired([[maybe_unused]] void *address)
 {
 #if defined(__SANITIZE_THREAD__)
@@ -27,11 +26,12 @@ inline void noteReleased([[maybe_unused]] void *address)
 #endif
 }
 
-/// Locks from construction to destruction; with a time given, if it can within that time.
+/// Holds the lock from construction to destruction; with a timeout, only if it was acquired in
+/// time.
 class Locker
 {
 public:
-    /// @param milliseconds negative = as long as it takes
+    /// @param milliseconds timeout; negative = none
     explicit Locker(QMutex &guarded, int milliseconds = -1)
         : mutex(guarded), locked(mutex.tryLock(milliseconds))
     {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Looks for the manual from the folder of the executable.
+// Searches for the manual, starting from the folder of the executable.
 #include "core/manual.h"
 
 #include <QCoreApplication>
@@ -9,7 +9,7 @@
 
 namespace
 {
-/// How far above an executable of a build tree the source tree may be.
+/// How many levels above an executable in a build tree the source tree may be.
 constexpr int levelsUp = 6;
 
 QStringList foldersToTry(const QString &applicationFolder)

@@ -6,10 +6,10 @@
 
 class QString;
 
-/// The manual's first page: the Chinese one for exactly "ZH", else the English one. It is looked
-/// for where the program is installed, then in the source tree that the program was built in, so
-/// that it opens without a network; where it is in neither, the address of its web page is given.
+/// The URL of the manual's first page: Chinese for exactly "ZH", otherwise English. Searches the
+/// installed documents, then the source tree that the program was built from, so that the manual
+/// opens without a network. If neither has it, returns the address of the web page.
 QUrl manualUrl(const QString &languageCode);
 
-/// The same for an executable that lies in `applicationFolder`.
+/// The same for an executable in `applicationFolder`.
 QUrl manualUrl(const QString &languageCode, const QString &applicationFolder);

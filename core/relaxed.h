@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
-// How do two threads share a plain number or flag? As a relaxed atomic that reads like the value.
+// How do two threads share a plain number or flag? As a relaxed atomic that is used like a plain
+// value.
 #pragma once
 
 #include <QPointF>
 #include <atomic>
 
-/// A value that one thread writes and another reads without a lock. No ordering is promised
-/// between two such values: a reader may see one before and the other after a change.
+/// A value that one thread writes and another reads without a lock. No ordering is guaranteed
+/// between two such values: a reader may see the old value of one and the new value of the other.
 template <typename T> class Relaxed
 {
 public:
@@ -26,8 +27,8 @@ private:
     std::atomic<T> value;
 };
 
-/// A point in frame pixels (x right, y down) whose coordinates are shared one by one: a reader may
-/// see the x of one write and the y of another, which the next frame mends.
+/// A point in frame pixels (x right, y down) whose coordinates are shared separately: a reader may
+/// see the x of one write and the y of another, which the next frame corrects.
 struct RelaxedPoint {
     Relaxed<double> x, y;
 

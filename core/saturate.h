@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-// Which whole number does a floating-point value become when it may lie outside int's range?
+// Which int does a floating-point value become if it may be outside int's range?
 #pragma once
 
 #include <limits>
 
-/// The value truncated toward zero; beyond int's range the nearest int, 0 for not-a-number.
-/// A plain cast would be undefined there.
+/// The value truncated toward zero; outside int's range the nearest int, and 0 for NaN. A plain
+/// cast is undefined behaviour there.
 inline int saturatingInt(double value)
 {
     if (value >= 2147483647.0)

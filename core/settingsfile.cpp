@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Reads and writes the settings file by one table of its keys.
+// Reads and writes the settings file from one table of its keys.
 #include "core/settingsfile.h"
 
 #include "core/iniscanner.h"
@@ -44,14 +44,14 @@ const Entry entries[] = {
     {"AXIS_CENTER", "y", &Settings::axisY},
 };
 
-/// A file of more bytes is read for its keys in the first of them: that takes a second or two.
+/// At most this many bytes of a file are searched for keys; that takes a second or two.
 constexpr qint64 mostRead = 1 << 27;
 
-/// What the file says of our keys, in the order of the table; nothing where there is no such key.
+/// The texts of our keys in the file, in the order of the table; nullopt for a missing key.
 using Texts = std::array<std::optional<QString>, std::size(entries)>;
 
-/// The one text of a value. A list has none, nor has an object of the toolkit's: then nothing is
-/// known of the key.
+/// The text of a value: empty for a list; nullopt for a serialised object, whose key then counts as
+/// missing.
 std::optional<QString> textOf(const QStringList &elements)
 {
     if (elements.size() != 1)
@@ -86,8 +86,8 @@ Texts textsIn(QFile &file)
     return texts;
 }
 
-/// QSettings locks the file by another one beside it. One that is empty was left by a process that
-/// was killed between making and filling it, and would be waited for half a minute.
+/// QSettings locks the file with a lock file beside it. An empty lock file was left by a process
+/// that was killed between creating and filling it; QSettings would wait half a minute for it.
 void removeEmptyLock(const QString &path)
 {
     const QFileInfo lock(path + QStringLiteral(".lock"));
@@ -100,26 +100,26 @@ QString decimalText(double value)
     return QString::number(value, 'g', 6);
 }
 
-/// Takes the value of one key, converted to the member's type.
+/// Stores the value of one key, converted to the member's type.
 struct Take {
     const QString &text;
     Settings &settings;
 
     void operator()(QString Settings::*member) const { settings.*member = text; }
     void operator()(float Settings::*member) const { settings.*member = QVariant(text).toFloat(); }
-    void operator()(double Settings::*member) const // single precision is all the file promises
+    void operator()(double Settings::*member) const // the file has single precision only
     {
         settings.*member = double(QVariant(text).toFloat());
     }
     void operator()(bool Settings::*member) const
     {
-        // QVariant takes any other text for true.
+        // QVariant would convert any text except "", "0" and "false" to true.
         const QString truth = text.toLower();
         settings.*member = truth == QLatin1String("true") || truth == QLatin1String("1");
     }
 };
 
-/// Gives one key its value.
+/// Writes the value of one key.
 struct Put {
     QSettings &file;
     const Entry &entry;
@@ -167,7 +167,7 @@ bool readSettings(const QString &path, Settings &settings)
         return false;
     settings = Settings();
     if (!isFileOrNothing(path)) {
-        qWarning("the settings file %s is not read: it is not one of ours", qPrintable(path));
+        qWarning("the settings file %s is not read: it is not a regular file", qPrintable(path));
         return true;
     }
     QFile file(path);

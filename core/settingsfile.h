@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-// What does the program remember from one run to the next, and how is it written down?
+// What does the program remember from one run to the next, and how is it stored?
 #pragma once
 
 #include <QString>
 
-/// Everything that the settings file holds, with the values that hold without one. What the file
-/// says is taken as it is: nothing is checked for its range.
+/// Everything that the settings file holds, with the defaults. Values from the file are used as
+/// they are, without a range check.
 struct Settings {
     QString styleName = QStringLiteral("Color");  ///< "Color" or "Mono"
     QString languageCode = QStringLiteral("EN");  ///< two capital letters
@@ -24,20 +24,20 @@ struct Settings {
 /// "Quorvandel.ini" in the folder of the executable, with native separators.
 QString settingsFilePath();
 
-/// Whether the settings can be written to `path`: neither its folder nor the file, if there is one,
-/// keeps this user from it.
+/// Whether this user can write the settings to `path`: the folder and, if it exists, the file are
+/// writable.
 bool canWriteSettings(const QString &path);
 
-/// Reads `path` into `settings`; a missing key gives its default, a text that is no number 0, one
-/// that is no truth value false. Returns false, with `settings` untouched, where nothing exists at
-/// `path`. A value that is one of the toolkit's serialised objects counts as missing, and what is
-/// no file gives the defaults, each with a warning in the log. A large file takes no more memory
-/// than a small one.
+/// Reads `path` into `settings`. A missing key gives its default, a text that is not a number gives
+/// 0, and one that is not a truth value gives false. A value that is a serialised Qt object counts
+/// as missing, and a path that is not a regular file gives the defaults; both are logged as
+/// warnings. Returns false, with `settings` unchanged, if nothing exists at `path`. A large file
+/// needs no more memory than a small one.
 bool readSettings(const QString &path, Settings &settings);
 
-/// Writes every key to `path`; numbers with 6 significant digits. Keys of others stay. A file that
-/// can not be written is left as it is, without a message; so is what is no file. The file is
-/// replaced at once: whenever the process is killed, the old or the new one is there whole. What
-/// can not be read of a file, and one that is too large, is kept beside it first (see
-/// settingsplace.h), with a warning in the log.
+/// Writes every key to `path`; numbers with 6 significant digits. Other keys are kept. A file that
+/// cannot be written is left unchanged, without a message; so is anything that is not a regular
+/// file. The file is replaced atomically: if the process is killed, either the old or the new file
+/// is complete. Content that cannot be read, and a file that is too large, are first kept beside it
+/// (see settingsplace.h), with a warning in the log.
 void writeSettings(const QString &path, const Settings &settings);

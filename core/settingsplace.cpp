@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Looks at the settings file before it is saved, and keeps aside what would be lost.
+// Checks the settings file before it is saved, and backs up what would be lost.
 #include "core/settingsplace.h"
 
 #include "core/iniscanner.h"
@@ -15,10 +15,10 @@
 namespace
 {
 constexpr auto byteOrderMark = "\xEF\xBB\xBF";
-/// The INI writer makes four bytes of one at most.
+/// The INI writer expands one byte to four at most.
 constexpr qint64 largestThatCannotOutgrow = largestSettingsFile / 8;
 
-/// Whether there are lines that are neither a section nor a key: the INI writer drops them.
+/// Whether there are lines that are neither a section nor a key; the INI writer drops them.
 bool hasLinesToLose(QByteArray bytes)
 {
     if (bytes.startsWith(byteOrderMark))
@@ -32,7 +32,7 @@ bool hasLinesToLose(QByteArray bytes)
     });
 }
 
-/// The file without the entries whose values the toolkit would make objects of.
+/// The file without the entries whose values QSettings would construct objects from.
 QByteArray withoutObjects(QByteArray &bytes, bool &hadAny)
 {
     QBuffer buffer(&bytes);
@@ -50,7 +50,7 @@ QByteArray withoutObjects(QByteArray &bytes, bool &hadAny)
     return kept;
 }
 
-/// Tried on a copy; true if it can not be tried.
+/// Whether `write` makes the file exceed the limit, tried on a copy; true if that is not possible.
 bool outgrowsLimit(const QByteArray &bytes, const std::function<void(const QString &)> &write)
 {
     if (bytes.size() <= largestThatCannotOutgrow)
@@ -62,7 +62,7 @@ bool outgrowsLimit(const QByteArray &bytes, const std::function<void(const QStri
     return QFileInfo(copy.fileName()).size() > largestSettingsFile;
 }
 
-/// A name beside `path` that is still free.
+/// An unused file name beside `path`.
 QString freeNameBeside(const QString &path)
 {
     QString name = path + QStringLiteral(".unread");
@@ -84,7 +84,7 @@ bool keepAside(const QString &path, Keep keep)
     return true;
 }
 
-/// At once: the old or the new file is there whole.
+/// Atomic: either the old or the new file is complete.
 bool replaceFile(const QString &path, const QByteArray &bytes)
 {
     QSaveFile file(path);

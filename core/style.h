@@ -7,13 +7,13 @@
 
 /// The images and the glow of one display style.
 struct Style {
-    const char *name; ///< as the settings file spells it
+    const char *name; ///< as written in the settings file
     const char *poleIcon;
     const char *axisIcon;
     const char *lampOn;
     const char *lampOff;
-    QColor glow; ///< of the drop shadows round the rotate sliders
+    QColor glow; ///< of the drop shadows around the rotate sliders
 };
 
-/// The mono style for exactly "Mono", else the colour style.
+/// The mono style for exactly "Mono", otherwise the colour style.
 const Style &styleNamed(const QString &name);

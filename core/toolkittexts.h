@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Which of the toolkit's own texts does the user meet? They are translated with ours, since the
-// toolkit's catalogues need not be on the machine.
+// Which of Qt's own texts does the user see? They are translated with ours, since Qt's catalogues
+// may not be installed.
 #pragma once
 
 #include <QtGlobal>
@@ -35,7 +35,7 @@ inline constexpr ToolkitText toolkitTexts[] = {
     {"QFileSystemModel", QT_TRANSLATE_NOOP("QFileSystemModel", "Size")},
     {"QFileSystemModel", QT_TRANSLATE_NOOP("QFileSystemModel", "Computer")},
     {"QFileSystemModel", QT_TRANSLATE_NOOP("QFileSystemModel", "Date Modified")},
-    // The key, beside the entries of the fields' menu.
+    // The modifier key, shown beside the entries of the fields' context menus.
     {"QShortcut", QT_TRANSLATE_NOOP("QShortcut", "Ctrl")},
     // The fields' context menus.
     {"QLineEdit", QT_TRANSLATE_NOOP("QLineEdit", "&Undo")},

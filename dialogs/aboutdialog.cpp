@@ -12,8 +12,8 @@
 
 namespace
 {
-/// Makes the label's font smaller by whole points until its text fits into its width: where the
-/// font that the form names is not installed, another may run wider.
+/// Reduces the label's font by whole points until the text fits the label's width: if the form's
+/// font is not installed, its substitute may be wider.
 void fitFont(QLabel &label)
 {
     QFont font = label.font();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Which version is this, and whose?
+// Which version is this, and who makes it?
 #pragma once
 
 #include <QDialog>
@@ -10,7 +10,7 @@ namespace Ui
 class AboutDialog;
 }
 
-/// The version text and the maker's links; made once, shown on demand.
+/// The version text and the maker's links; created once, shown on demand.
 class AboutDialog : public QDialog
 {
     Q_OBJECT
@@ -22,7 +22,7 @@ public:
 public slots:
     void on_label_logo_linkActivated(QString link);
     void on_pushButton_ok_clicked();
-    /// Takes the texts from the catalogue in force; the version stays.
+    /// Reloads the texts from the current catalogue and shows the version again.
     void uiReset();
 
 private:

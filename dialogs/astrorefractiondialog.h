@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Where does the observer stand, and how is the air?
+// Where is the observer, and what are the pressure and the temperature?
 #pragma once
 
 #include <QDialog>
@@ -12,22 +12,22 @@ namespace Ui
 class AstroRefractionDialog;
 }
 
-/// Edits the settings that it was given: every change of a widget is written there at once.
+/// Edits the given settings: every change of a widget is stored there at once.
 class AstroRefractionDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// @param edited outlives the dialog
+    /// @param edited must outlive the dialog
     explicit AstroRefractionDialog(RefractionSettings &edited, QWidget *parent = nullptr);
     ~AstroRefractionDialog() override;
 
 public slots:
-    /// Shows what the settings hold. A value outside a widget's range comes back clamped;
-    /// a unit other than the one shown converts the pressure shown before the stored one is put in.
+    /// Shows the settings. A value outside a widget's range is clamped and stored back. If the unit
+    /// differs from the one shown, the pressure shown is converted before the stored one is set.
     void initValues();
     void uiReset();
-    /// Follows the unit with the pressure's range and value; the unit's name stays as it was.
+    /// Adapts the pressure's range and value to the unit; does not change the stored unit name.
     void on_comboBox_presure_currentIndexChanged(int index);
     void on_checkBox_enableAstroRef_toggled(bool checked);
     void on_doubleSpinBox_latitude_valueChanged(double arg1);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What would the user like besides? So far nothing that has an effect.
+// Which other preferences does the user have? So far none has an effect.
 #pragma once
 
 #include <QDialog>
@@ -23,7 +23,7 @@ public slots:
     void on_cBox_playMusic_clicked(bool checked);
 
 protected:
-    /// Follows the language.
+    /// Retranslates the form when the language changes.
     void changeEvent(QEvent *event) override;
 
 private:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// By which angle has the sky turned since the reference stars were found?
+// By what angle has the sky rotated since the reference stars were found?
 #pragma once
 
 #include <QDialog>
@@ -10,7 +10,7 @@ namespace Ui
 class PoleTrackingDialog;
 }
 
-/// A dial of 0 to 360 degrees that announces each of its values.
+/// A dial from 0 to 360 degrees that emits each of its values.
 class PoleTrackingDialog : public QDialog
 {
     Q_OBJECT

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How are degrees and radians turned into each other?
+// How are degrees and radians converted into each other?
 #pragma once
 
 constexpr double pi = 3.141592653589793;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// About which point of the frame does the field turn, and where does a turn take a point?
+// About which point of the frame does the field rotate, and where does a rotation move a point?
 #include "geometry/axiscentre.h"
 
 #include "core/saturate.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Where is the celestial pole in a picture in which two stars' places are known?
+// Where is the celestial pole in a picture with two stars at known positions?
 #include "geometry/polecomputation.h"
 
 #include "geometry/angles.h"
@@ -16,7 +16,7 @@ struct Point {
 
 enum class Outcome { Invalid, NotANumber, Apart, Touching, Crossing };
 
-/// The two corners P that the triangle A-B-P can have; both the same where the circles touch.
+/// The two possible corners P of the triangle A-B-P; identical if the circles touch.
 struct Corners {
     Outcome outcome;
     Point plus;
@@ -38,7 +38,7 @@ Corners corners(Point a, double alpha, Point b, double beta)
     const double radiusA = k * std::sin(toRadians(beta));
     const double radiusB = k * std::sin(toRadians(alpha));
 
-    // The chord through both crossings is 2 (bx - ax) x + 2 (by - ay) y = chord.
+    // The line through both crossings is 2 (bx - ax) x + 2 (by - ay) y = chord.
     const double chord =
         radiusA * radiusA - radiusB * radiusB + b.x * b.x - a.x * a.x + b.y * b.y - a.y * a.y;
     const double slope = (b.y - a.y) / (b.x - a.x);
@@ -62,7 +62,7 @@ Corners corners(Point a, double alpha, Point b, double beta)
             crossing((-root - linear) / (2.0 * quadratic))};
 }
 
-/// Degrees at B between the directions to D and to a candidate.
+/// Angle at B between the directions to D and to a candidate, degrees.
 double angleAtB(Point candidate, Point d, Point b)
 {
     const double a = distance(d, b);
@@ -70,7 +70,7 @@ double angleAtB(Point candidate, Point d, Point b)
     const double t = distance(d, candidate);
     return toDegrees(std::acos((a * a + s * s - t * t) / (2.0 * a * s)));
 }
-/// What is logged of corners that are none; null = nothing.
+/// The log messages for triangles without a pole; null = no message.
 struct Complaints {
     const char *invalid, *apart, *notANumber;
 };
@@ -82,8 +82,8 @@ int fail(const char *complaint)
     return -1;
 }
 
-/// Leaves the corner in poleX and poleY, in a crossing the one that `choose` takes of the two.
-/// 0, or -1 where there is none: then both are 0.
+/// Stores the pole in poleX and poleY: the only corner, or the one that `choose` picks of two.
+/// Returns 0, or -1 with both outputs 0 if there is none.
 template <typename Choose>
 int pole(const Corners &found, const Complaints &complaints, Choose choose, double &poleX,
          double &poleY)

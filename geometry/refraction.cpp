@@ -11,7 +11,7 @@ int CorrectRefraction(double value, double h, double pressure, double temperatur
 {
     constexpr double radiansPerDegree = pi / 180.0;
 
-    // Minutes of arc. Above the horizon it is below zero only close to the zenith.
+    // Arcminutes. Above the horizon, negative only close to the zenith.
     double refraction = std::tan(pi / 2.0 - (h + 7.31 / (h + 4.4)) * radiansPerDegree);
     if (refraction < 0.0)
         refraction = 0.0;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Where exactly, below a pixel, is the star near a given position of a camera frame?
+// Where, to sub-pixel accuracy, is the star near a given position of a camera frame?
 #include "geometry/stardetection.h"
 
 #include "core/saturate.h"
@@ -17,18 +17,18 @@ constexpr int centroidSide = 20;
 constexpr int medianAperture = 3;
 constexpr int medianBorder = medianAperture / 2;
 
-/// Least peak over mean of a star worth a centroid.
+/// Minimum ratio of peak to mean for a centroid.
 constexpr double leastContrast = 2.5;
 
 /// Fraction of the way from mean to peak below which light does not count.
 constexpr double thresholdFraction = 0.3;
 
-/// Backing for small matrices, so that no window needs the heap: three channels at most.
+/// Storage for a window of up to three channels, so that no window needs the heap.
 using Scratch =
     std::array<uchar, 3 * (searchSide + 2 * medianBorder) * (searchSide + 2 * medianBorder)>;
 
-/// The square window of the given side centred on (x, y); false where it leaves the frame. The
-/// top-left corner is truncated toward zero, so that -0.5 is still inside.
+/// The square window of the given side centred on (x, y); false if it extends beyond the frame. The
+/// top-left corner is truncated toward zero, so -0.5 is still inside.
 bool windowAround(const cv::Mat &frame, double x, double y, int side, cv::Rect &window)
 {
     if (frame.empty() || frame.dims > 2 || std::isnan(x) || std::isnan(y))
@@ -47,8 +47,8 @@ bool usableType(const cv::Mat &frame)
 }
 
 /// The window of the median-filtered frame. Only the window and the neighbours that its median
-/// needs are filtered; where these end at the frame's edge the filter repeats the edge pixels, just
-/// as it would for the whole frame.
+/// needs are filtered. At the frame's edge the filter repeats the edge pixels, as it would for the
+/// whole frame.
 cv::Mat filteredWindow(const cv::Mat &frame, const cv::Rect &window, Scratch &scratch)
 {
     const cv::Rect wanted(window.x - medianBorder, window.y - medianBorder,

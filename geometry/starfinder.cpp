@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Finds the stars of a frame as what is brighter than the sky round it.
+// Finds stars as groups of pixels that are brighter than the sky around them.
 #include "geometry/starfinder.h"
 
 #include <algorithm>
@@ -11,14 +11,14 @@
 namespace
 {
 constexpr int smallestFrame = 64;
-/// Side of the squares whose median stands for the sky, pixels.
+/// Side of the squares from which the sky level is estimated, pixels.
 constexpr int skySquare = 16;
-/// What the sky is shifted to, so that its darker half is kept too, counts.
+/// The level to which the sky is shifted, so that its darker half is not clipped, counts.
 constexpr int skyLevel = 32;
-/// How far above the sky a star stands: in standard deviations, and in counts at least.
+/// Minimum brightness of a star above the sky: in standard deviations, and in counts.
 constexpr double leastDeviations = 5.0;
 constexpr double leastCounts = 3.0;
-/// A star covers more than one pixel of the filtered frame, and no cloud.
+/// Area of a star in the filtered frame, pixels: more than a single pixel, less than a cloud.
 constexpr int smallestStar = 2;
 constexpr int largestStar = 1500;
 
@@ -31,7 +31,7 @@ cv::Mat greyOf(const cv::Mat &frame)
     return grey;
 }
 
-/// The picture without the slow changes of the sky, which lies at skyLevel.
+/// The picture with the gradients of the sky removed and the sky at skyLevel.
 cv::Mat flattened(const cv::Mat &grey)
 {
     cv::Mat sky, flat;
@@ -43,7 +43,7 @@ cv::Mat flattened(const cv::Mat &grey)
     return flat;
 }
 
-/// The value that half of the counts of a histogram lie below.
+/// The median of a histogram.
 int medianOf(const std::array<int, 256> &histogram, int total)
 {
     int below = 0;
@@ -55,8 +55,8 @@ int medianOf(const std::array<int, 256> &histogram, int total)
     return 255;
 }
 
-/// Above which count a pixel belongs to a star. The spread is taken from the median distance to the
-/// median, on which stars have no influence.
+/// The threshold above which a pixel belongs to a star, counts. The spread is computed from the
+/// median absolute deviation, which stars do not affect.
 double thresholdOf(const cv::Mat &flat)
 {
     std::array<int, 256> counts{};
@@ -89,7 +89,7 @@ std::vector<FieldStar> findStars(const cv::Mat &frame)
     cv::findNonZero(bright, pixels);
     std::vector<FieldStar> stars;
     for (const cv::Point &pixel : pixels) {
-        if (bright.at<uchar>(pixel) == 0) // of a star that was there already
+        if (bright.at<uchar>(pixel) == 0) // part of an area that is already counted
             continue;
         cv::Rect extent;
         const int area = cv::floodFill(bright, pixel, cv::Scalar(0), &extent, {}, {}, 8);

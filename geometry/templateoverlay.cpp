@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Where does the template lie on the screen, and which frame positions follow from its angle?
+// Where is the template on the screen, and which frame positions follow from its angle?
 #include "geometry/templateoverlay.h"
 
 #include "core/saturate.h"
@@ -13,8 +13,8 @@ namespace
 /// Longest side of a scaled template, pixels: five times the masks' own size.
 constexpr int largestSide = 4096;
 
-/// The size asked for; the scaled picture may be smaller, since it keeps its aspect ratio.
-/// Empty where there is nothing to show.
+/// The requested size; the scaled picture may be smaller, since it keeps its aspect ratio. Empty if
+/// there is nothing to show.
 QSize scaledSize(const QImage &mask, float zoomFactor)
 {
     const QSize size(saturatingInt(static_cast<float>(mask.width()) * zoomFactor),
@@ -24,7 +24,7 @@ QSize scaledSize(const QImage &mask, float zoomFactor)
     return size;
 }
 
-/// Places are kept within this, so that neither the far edges nor sums with them leave int's range.
+/// Positions are clamped to this, so that neither the far edges nor sums with them overflow int.
 constexpr int farthest = 1 << 24;
 
 QRect placed(double left, double top, QSize size)
@@ -34,7 +34,7 @@ QRect placed(double left, double top, QSize size)
                  size);
 }
 
-/// A template point's place in the frame: turned about star B, which lies on the pole star.
+/// A template point's position in the frame: rotated about star B, which is on the pole star.
 QPointF inFrame(const StarCatalogue &catalogue, double x, double y, int rotateValue,
                 QPointF polarisPos)
 {
@@ -56,7 +56,7 @@ PlacedTemplate turnTemplate(const QImage &mask, int angle, float zoomFactor, QPo
     const QRect rect = turned.rect();
     const int middleX = (rect.left() + rect.right()) / 2;
     const int middleY = (rect.top() + rect.bottom()) / 2;
-    // In double: the difference may leave int's range.
+    // In double: the difference may overflow int.
     return {turned, placed(static_cast<double>(clickViewPos.x()) - middleX,
                            static_cast<double>(clickViewPos.y()) - middleY, turned.size())};
 }

@@ -16,7 +16,7 @@ constexpr double crossHalf = 5.0;
 
 void drawCross(QImage &mask, double x, double y)
 {
-    // Also keeps values that are not numbers away from the painter.
+    // Also keeps NaN values away from the painter.
     const auto within = [](double value, int size) {
         return value >= -crossHalf && value <= size + crossHalf;
     };

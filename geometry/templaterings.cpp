@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Counts the template's rings that hold a star.
+// Counts the template's rings that contain a star.
 #include "geometry/templaterings.h"
 
 #include "geometry/axiscentre.h"
@@ -13,13 +13,13 @@ namespace
 {
 #include "geometry/templaterings.inc"
 
-/// The widest ring that still tells a star that is beside it from one within, pixels.
+/// Maximum radius used for a ring, pixels: a larger one would accept stars beside the ring.
 constexpr double widestRing = 9.0;
-/// What a click beside the star and an angle in whole degrees may move a star out of its ring.
+/// Tolerance for a click slightly off the star and for an angle in whole degrees, pixels.
 constexpr double ringSlack = 1.0;
-/// Stars nearer to the edge are not searched for.
+/// Rings whose centre is closer than this to the frame's edge are skipped, pixels.
 constexpr double frameEdge = 10.0;
-/// Fewer rings or stars tell nothing.
+/// With fewer rings or stars no conclusion is drawn.
 constexpr int leastRings = 6;
 constexpr int leastStars = 4;
 
@@ -30,7 +30,7 @@ QPointF turnedAbout(QPointF point, QPointF centre, double degrees)
     return {x, y};
 }
 
-/// What all rings span, mask pixels.
+/// The bounding rectangle of all rings, mask pixels.
 QRectF extent(const std::vector<TemplateRing> &rings)
 {
     QRectF all;

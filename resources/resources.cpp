@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-// How the bundles of this static library are pulled into the program that links it.
+// Registers the resource bundles of this static library, so that the linker keeps them.
 #include "resources/resources.h"
 
 #include <QtGlobal>
 
-// Q_INIT_RESOURCE must stand in the global namespace.
+// Q_INIT_RESOURCE must be used in the global namespace.
 void initialiseResources()
 {
     Q_INIT_RESOURCE(resources);

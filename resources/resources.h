@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Makes the compiled-in style sheet, catalogues, images and star data reachable under ":/".
+// Makes the compiled-in style sheet, catalogues, images and star data available under ":/".
 #pragma once
 
 /// Registers every resource bundle of the program. Call it once, before the first ":/" path is
-/// opened and from outside any namespace's static initialiser; a second call changes nothing.
+/// opened, and not from a static initialiser; a second call has no effect.
 void initialiseResources();

@@ -4,5 +4,5 @@
 
 class QDialog;
 
-/// Holds the dialog at the size of its form and takes the help button from its title bar.
+/// Fixes the dialog at the size of its form and removes the help button from its title bar.
 void fixDialogFrame(QDialog &dialog);

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Follows the pointer around the dial and keeps it from passing the ends.
+// Tracks the pointer around the dial and stops the value at the ends.
 #include "widgets/endeddial.h"
 
 #include <QMouseEvent>
 
 namespace
 {
-/// The event as it would be with the pointer at `place`.
+/// A copy of the event with the pointer at `place`.
 QMouseEvent at(QPoint place, const QMouseEvent &event)
 {
     return {event.type(),   QPointF(place),  event.windowPos(), event.screenPos(),
@@ -16,7 +16,7 @@ QMouseEvent at(QPoint place, const QMouseEvent &event)
 
 void EndedDial::mousePressEvent(QMouseEvent *event)
 {
-    if (event->buttons() == Qt::LeftButton) { // no other button begins a drag
+    if (event->buttons() == Qt::LeftButton) { // no other button starts a drag
         last = event->pos();
         turns = 0;
     }
@@ -39,7 +39,8 @@ void EndedDial::mouseReleaseEvent(QMouseEvent *event)
     event->setAccepted(held.isAccepted());
 }
 
-/// Counts the pointer's ways across the line from the middle down, where the ends meet.
+/// Counts how often the pointer crosses the line from the centre straight down, where the ends
+/// meet.
 void EndedDial::follow(QPoint pointer)
 {
     const QPointF middle(width() / 2.0, height() / 2.0);
@@ -53,7 +54,7 @@ void EndedDial::follow(QPoint pointer)
         turns += wasRight ? 1 : -1;
 }
 
-/// The pointer's place, or the one beside the end that it has passed.
+/// The pointer's position, or a position at the end that it has passed.
 QPoint EndedDial::heldPlace(QPoint pointer) const
 {
     if (turns == 0)

@@ -5,8 +5,8 @@
 #include <QDial>
 #include <QPoint>
 
-/// A dial that is held at its end when it is dragged on past it, until it is dragged back: the
-/// toolkit's own leaps to the other end as soon as the pointer passes below the middle.
+/// A dial that stays at its end when it is dragged past it, until it is dragged back. A plain QDial
+/// jumps to the other end as soon as the pointer passes below the centre.
 class EndedDial : public QDial
 {
 public:
@@ -21,6 +21,6 @@ private:
     void follow(QPoint pointer);
     QPoint heldPlace(QPoint pointer) const;
 
-    QPoint last;   ///< the pointer's last place in this drag
-    int turns = 0; ///< how often it has passed below the middle, from the right to the left
+    QPoint last;   ///< the pointer's last position in this drag
+    int turns = 0; ///< crossings below the centre: right to left minus left to right
 };

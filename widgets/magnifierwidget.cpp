@@ -13,7 +13,7 @@
 namespace
 {
 constexpr int margin = 2;
-/// The largest square that is cut out, whatever the zoom.
+/// Largest side of the square that is cut out, picture pixels, whatever the zoom.
 constexpr int sideLimit = 4096;
 
 QPen solidPen(const QColor &colour, int width)

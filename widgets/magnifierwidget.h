@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What does the picture look like, enlarged, around one of its points?
+// What does a picture look like magnified around one of its points?
 #pragma once
 
 #include <QPixmap>
@@ -17,15 +17,15 @@ public:
     /// @param width, height size of the view in pixels; the widget is 2 pixels larger
     MagnifierWidget(int width, int height, QWidget *parent = nullptr);
 
-    /// How many view pixels one picture pixel takes; does not repaint.
+    /// View pixels per picture pixel; does not repaint.
     void setZoom(float factor) { zoom = factor; }
     /// The picture to magnify from; does not repaint.
     void setSource(const QPixmap &picture) { source = picture; }
-    /// The point to magnify, in picture pixels; does not repaint. Painting moves it so far inside
-    /// that the square lies in the picture.
+    /// The point to magnify, in picture pixels; does not repaint. Painting moves it inward so that
+    /// the square is inside the picture.
     void setCentre(QPoint point) { centre = point; }
     QPoint magnifiedCentre() const { return centre; }
-    /// The square of the picture that was last painted.
+    /// The square of the picture that was painted last.
     const QPixmap &magnifiedRegion() const { return region; }
 
 protected:
@@ -42,6 +42,6 @@ private:
     int viewHeight;
 };
 
-/// `centre` moved inside a picture of `size` so that a square of twice `half` lies within; the
-/// right and lower bounds are applied last, so they win where the picture is smaller.
+/// `centre` moved so that a square of side 2 * `half` is inside a picture of `size`. The right and
+/// lower bounds are applied last, so they win if the picture is smaller.
 QPoint clampedCentre(QPoint centre, int half, QSize size);

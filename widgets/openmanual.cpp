@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Opens the manual, or says where it lies.
+// Opens the manual, or shows where it is.
 #include "widgets/openmanual.h"
 
 #include <QDesktopServices>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-// How does a reader get to the manual?
+// How is the manual opened?
 #pragma once
 
 class QStatusBar;
 class QString;
 class QUrl;
 
-/// Opens a page of the manual in the desktop's browser. Where nothing opens it, the log and, for a
-/// while, the status bar say where it lies: behind `title`, the translated name of the menu entry.
+/// Opens a page of the manual in the desktop's browser. If that fails, its location is logged and
+/// shown in the status bar for a while, after `title`, the translated name of the menu entry.
 void openManual(const QUrl &page, const QString &title, QStatusBar &bar);

@@ -6,12 +6,12 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 
-/// An event filter by which Return and Enter press a window's buttons as the space bar does: once
-/// for each stroke, when the key goes up. Dialogs have a default button for them.
+/// An event filter that makes Return and Enter press a window's buttons like the space bar: once
+/// per keystroke, when the key is released. Dialogs have a default button instead.
 class ReturnPresses : public QObject
 {
 public:
-    /// \param window all of its buttons are there, those in dialogs of its own are left out
+    /// \param window must already have all its buttons; those in its dialogs are ignored
     explicit ReturnPresses(QWidget &window) : QObject(&window)
     {
         for (QAbstractButton *const button : window.findChildren<QAbstractButton *>())

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Whose is the wheel, over a field that knows what to do with it?
+// What does the mouse wheel do over an input field?
 #pragma once
 
 #include <QEvent>
 #include <QWidget>
 
-/// An event filter that leaves the wheel over a field to what scrolls behind it, but for the field
-/// that has the focus: who scrolls does not mean to change what passes under the pointer.
+/// An event filter that passes wheel events over a field on to the scroll area behind it, unless
+/// the field has the focus. Scrolling must not change a field that passes under the pointer.
 class WheelGuard : public QObject
 {
 public:

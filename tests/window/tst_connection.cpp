@@ -146,7 +146,7 @@ void ConnectionTest::choice_data()
     row("other models only", {"A-1", "B-2", "C-3"}, "", 3);
     row("third of three", {"A-1", "", "QUORVANDEL-3"}, "QUORVANDEL-3", 3);
     row("as long as fits", {fits}, fits, 1);
-    row("one character too long", {fits + "89"}, fits + '8', 1);
+    row("longer than the announced size", {fits + "89"}, fits + "89", 1);
     row("not terminated", {"QUORVANDEL-1"}, "QUORVANDEL-1", 1, -1, false);
     row("long and not terminated", {fits + "8"}, fits + '8', 1, -1, false);
     row("shorter after longer", {"OTHERMODEL-LONGSERIAL", "QUORVANDEL-5"}, "QUORVANDEL-5", 2, -1,
