@@ -74,7 +74,7 @@ bool CameraClosing::closeHandle()
     return true;
 }
 
-CameraClosing::State CameraClosing::look(int milliseconds)
+CameraClosing::State CameraClosing::poll(int milliseconds)
 {
     if (!isUnderWay())
         return state;
@@ -88,17 +88,17 @@ CameraClosing::State CameraClosing::look(int milliseconds)
         return end(State::Hanging);
     }
     // A live mode that is still starting is not stopped: it would run on afterwards.
-    if (!stopper && session.camera.liveMode && since.elapsed() >= stopPatience)
+    if (!stopper && session.camera.liveMode && since.elapsed() >= stopTimeout)
         stopUnderTheCall();
     return state;
 }
 
 CameraClosing::State CameraClosing::finish()
 {
-    State last = look(std::min(patience, pause));
+    State last = poll(std::min(patience, pause));
     while (isUnderWay()) {
         QThread::msleep(1);
-        last = look(pause);
+        last = poll(pause);
     }
     return last;
 }

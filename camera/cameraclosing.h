@@ -11,11 +11,11 @@ struct Session;
 
 /// How long to wait for the capture thread's call before the live mode is stopped during that call,
 /// milliseconds. Some libraries return from a request for a frame only then.
-constexpr int stopPatience = 400;
+constexpr int stopTimeout = 400;
 
 /// Stops the live mode and closes the camera in short polls, so that the window's event loop can
 /// run in between. Calls the library only while the capture thread is not in a call, with one
-/// exception: after stopPatience a separate thread stops the live mode anyway, since the capture
+/// exception: after stopTimeout a separate thread stops the live mode anyway, since the capture
 /// thread's call may be waiting for that. The camera is closed when both calls have returned. For
 /// the GUI thread.
 class CameraClosing
@@ -38,7 +38,7 @@ public:
     void begin(int milliseconds);
     bool isUnderWay() const { return state == State::UnderWay; }
     /// Polls once, for at most `milliseconds`. The last poll returns the result.
-    State look(int milliseconds);
+    State poll(int milliseconds);
     /// Polls until there is a result.
     State finish();
     /// Whether the thread that stops the live mode has ended, or ends within `milliseconds`.

@@ -10,13 +10,13 @@
 
 /// The state of the camera. For the GUI thread only, except where a comment says otherwise.
 struct CameraState {
-    Relaxed<bool> sdkReady;            ///< InitVELDIXResource succeeded
-    Relaxed<bool> cameraConnected;     ///< a camera is open and ready; the capture thread reads it
-    char cameraId[longestIdSize] = {}; ///< NUL-terminated ID of the camera found
-    double exposure = 0;               ///< microseconds
-    double gain = 0;                   ///< camera units
-    double speed = 0;                  ///< 0 to 2
-    double usbTraffic = 0;             ///< 0 to 255
+    Relaxed<bool> sdkReady;        ///< InitVELDIXResource succeeded
+    Relaxed<bool> cameraConnected; ///< a camera is open and ready; the capture thread reads it
+    char cameraId[maxIdSize] = {}; ///< NUL-terminated ID of the camera found
+    double exposure = 0;           ///< microseconds
+    double gain = 0;               ///< camera units
+    double speed = 0;              ///< 0 to 2
+    double usbTraffic = 0;         ///< 0 to 255
     std::uint32_t bits = 0;
     std::uint32_t binX = 0, binY = 0;
     std::uint32_t streamMode = 0; ///< 1 = live video; only the low byte is passed on

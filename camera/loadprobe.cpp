@@ -54,7 +54,7 @@ bool cameBack(pid_t child)
 }
 } // namespace
 
-bool survivesLoading(const QByteArray &name)
+bool canLoadSafely(const QByteArray &name)
 {
     const char *const text = name.constData(); // the child calls no Qt code
     const pid_t child = fork();

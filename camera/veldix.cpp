@@ -123,7 +123,7 @@ void logUnusable(const QByteArray &files, const QString &reason)
 Outcome loadFrom(const QString &name, QString &reason)
 {
     const QByteArray file = QFile::encodeName(name);
-    if (!survivesLoading(file)) {
+    if (!canLoadSafely(file)) {
         logUnusable(file, QStringLiteral("it ends or holds up the program as it is loaded"));
         return Outcome::Unusable;
     }

@@ -20,7 +20,7 @@ enum VeldixControl : std::int32_t {
 constexpr int veldixIdSize = 38;
 /// Size of the longest ID that is accepted nevertheless, in bytes, including the NUL: the library
 /// gets it back in full.
-constexpr int longestIdSize = 256;
+constexpr int maxIdSize = 256;
 
 // The sixteen operations of the Camera SDK, each forwarded to the library that InitVELDIXResource
 // loaded. All may be called from any thread. Before a successful InitVELDIXResource they fail and

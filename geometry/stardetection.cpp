@@ -18,7 +18,7 @@ constexpr int medianAperture = 3;
 constexpr int medianBorder = medianAperture / 2;
 
 /// Minimum ratio of peak to mean for a centroid.
-constexpr double leastContrast = 2.5;
+constexpr double minContrast = 2.5;
 
 /// Fraction of the way from mean to peak below which light does not count.
 constexpr double thresholdFraction = 0.3;
@@ -91,7 +91,7 @@ int GetGravityCenter(const cv::Mat *frame, double x, double y, double &resultX, 
     cv::Scalar mean;
     cv::Scalar deviation;
     cv::meanStdDev(grey, mean, deviation);
-    if (peak / mean[0] < leastContrast) {
+    if (peak / mean[0] < minContrast) {
         qWarning("GetGravityCenter - Too low SNR, Keep stay");
         return -1;
     }

@@ -11,7 +11,7 @@
 namespace
 {
 /// Longest side of a scaled template, pixels: five times the masks' own size.
-constexpr int largestSide = 4096;
+constexpr int maxSide = 4096;
 
 /// The requested size; the scaled picture may be smaller, since it keeps its aspect ratio. Empty if
 /// there is nothing to show.
@@ -19,7 +19,7 @@ QSize scaledSize(const QImage &mask, float zoomFactor)
 {
     const QSize size(saturatingInt(static_cast<float>(mask.width()) * zoomFactor),
                      saturatingInt(static_cast<float>(mask.height()) * zoomFactor));
-    if (size.isEmpty() || size.width() > largestSide || size.height() > largestSide)
+    if (size.isEmpty() || size.width() > maxSide || size.height() > maxSide)
         return QSize();
     return size;
 }

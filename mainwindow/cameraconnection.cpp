@@ -24,7 +24,7 @@ constexpr auto modelName = "QUORVANDEL";
 constexpr std::int32_t maxCameras = 1024;
 
 /// Milliseconds between two looks at a closing that takes its time.
-constexpr int lookInterval = 20;
+constexpr int pollInterval = 20;
 
 /// The model in an ID of the form model, '-', serial; empty for an ID without '-'.
 QString modelOf(const char *id)
@@ -36,7 +36,7 @@ QString modelOf(const char *id)
 
 /// The ID of camera `index` into `id`; false if the library has none, or one too long to be given
 /// back as it is. The library is given far more room than its IDs need.
-bool readId(int index, char (&id)[longestIdSize])
+bool readId(int index, char (&id)[maxIdSize])
 {
     std::array<char, 16384> buffer{};
     if (GetVELDIXId(index, buffer.data()) != 0)
@@ -182,7 +182,7 @@ void MainWindow::disconnectCamera()
     if (!session.handle.get())
         return;
     cameraClosing.begin(sdkCallTimeout());
-    showDisconnected(cameraClosing.look(std::min(sdkCallTimeout(), stopPatience)));
+    showDisconnected(cameraClosing.poll(std::min(sdkCallTimeout(), stopTimeout)));
 }
 
 /// Whoever answers a box or a dialog finds the wizard where it was.
@@ -190,14 +190,14 @@ void MainWindow::followClosing()
 {
     if (cameraClosing.isUnderWay()) // else it has ended with the window's closing
         showDisconnected(QApplication::activeModalWidget() ? CameraClosing::State::UnderWay
-                                                           : cameraClosing.look(0));
+                                                           : cameraClosing.poll(0));
 }
 
 /// What comes after a look at the camera's closing.
 void MainWindow::showDisconnected(CameraClosing::State state)
 {
     if (state == CameraClosing::State::UnderWay) {
-        QTimer::singleShot(lookInterval, this, [this] { followClosing(); });
+        QTimer::singleShot(pollInterval, this, [this] { followClosing(); });
         return;
     }
     libraryHangs = state == CameraClosing::State::Hanging;

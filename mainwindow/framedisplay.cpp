@@ -16,11 +16,11 @@
 namespace
 {
 /// The largest side of a shown picture: a zoom factor that asks for more is held here.
-constexpr int largestSide = 8192;
+constexpr int maxSide = 8192;
 
 int scaledSide(int side, float zoomFactor)
 {
-    return std::min(saturatingInt(double(float(side) * zoomFactor)), largestSide);
+    return std::min(saturatingInt(double(float(side) * zoomFactor)), maxSide);
 }
 } // namespace
 

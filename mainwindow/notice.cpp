@@ -11,13 +11,13 @@
 namespace
 {
 /// A camera sends a picture at least twice a second.
-constexpr double longestPause = 5.0;
+constexpr double maxPause = 5.0;
 /// A picture that is smaller than a tenth shows no star, one of no size nothing at all.
-constexpr float leastZoom = 0.1F;
+constexpr float minZoom = 0.1F;
 /// The pages ask for 30 degrees; from half of it on the axis is not to be trusted.
-constexpr double leastTurn = 15.0;
+constexpr double minTurn = 15.0;
 /// Picks that are nearer to one another than this differ by little more than noise.
-constexpr double leastMove = 10.0;
+constexpr double minMove = 10.0;
 
 using Found = std::optional<Notice>;
 
@@ -39,13 +39,13 @@ Found noCamera(const NoticeFacts &f)
 
 Found noPicture(const NoticeFacts &f)
 {
-    return when(f.connected && f.secondsWithoutPicture >= longestPause, NoticeCode::NoPicture,
+    return when(f.connected && f.secondsWithoutPicture >= maxPause, NoticeCode::NoPicture,
                 std::floor(f.secondsWithoutPicture));
 }
 
 Found zoomShowsNothing(const NoticeFacts &f)
 {
-    return when(f.connected && !(f.zoomFactor >= leastZoom), NoticeCode::ZoomShowsNothing);
+    return when(f.connected && !(f.zoomFactor >= minZoom), NoticeCode::ZoomShowsNothing);
 }
 
 Found noAxis(const NoticeFacts &f)
@@ -110,13 +110,13 @@ Found misfit(const NoticeFacts &f)
 /// Also before the axis is known: nothing turns by 30 degrees in so few pixels.
 Found movedLittle(const NoticeFacts &f)
 {
-    return when(f.connected && f.movedPixels && *f.movedPixels < leastMove,
+    return when(f.connected && f.movedPixels && *f.movedPixels < minMove,
                 NoticeCode::StarMovedLittle, std::round(f.movedPixels.value_or(0)));
 }
 
 Found turnedLittle(const NoticeFacts &f)
 {
-    return when(f.connected && f.turnDegrees && *f.turnDegrees < leastTurn,
+    return when(f.connected && f.turnDegrees && *f.turnDegrees < minTurn,
                 NoticeCode::AxisTurnedLittle, std::floor(f.turnDegrees.value_or(0)));
 }
 

@@ -23,7 +23,7 @@ namespace
 /// Distance of the overlays from the edges of the image area and from each other, pixels.
 constexpr int gap = 6;
 /// Wider than this a tip is harder to read than tall.
-constexpr int widestPage = 760;
+constexpr int maxPageWidth = 760;
 
 /// Pages without tabs: no key changes them, and whoever places them hears of every change of the
 /// room that there is.
@@ -129,7 +129,7 @@ void MainWindow::placeImageOverlays()
     const int narrowest = page->minimumSizeHint().width() + frame;
     const int left =
         std::max(std::min(magnifier->geometry().right() + gap, right - narrowest), gap);
-    const int width = std::clamp(right - left, 0, widestPage);
+    const int width = std::clamp(right - left, 0, maxPageWidth);
     const int height = std::max(page->layout()->totalHeightForWidth(width - frame), 0) + frame;
     tipTabs->setGeometry(left, gap, width, std::max(height, page->minimumSizeHint().height()));
     directionArrow->adjustSize();

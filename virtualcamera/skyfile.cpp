@@ -68,7 +68,7 @@ private:
                                section.empty() ? "stands before any section"
                                                : "unknown key in [" + printable(section) + ']');
         if (!seen.insert(&*key).second)
-            throw SkyFileError(line, printable(name), "stands there twice");
+            throw SkyFileError(line, printable(name), "duplicate key");
         if (const auto fault = setKey(state, *key, trimmed(text.substr(equals + 1))))
             throw SkyFileError(line, printable(name), printable(*fault));
     }

@@ -70,7 +70,7 @@ struct Reader {
             while (i < operationNames.size() && operationNames[i] != name)
                 ++i;
             if (i == operationNames.size())
-                return "names no operation: \"" + std::string(name) + '"';
+                return "unknown operation: \"" + std::string(name) + '"';
             set.set(i);
         }
         state.*member = set;

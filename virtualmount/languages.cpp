@@ -36,7 +36,7 @@ const Language *languageOf(const QString &code)
     return found != languages.end() ? &*found : nullptr;
 }
 
-const Language &languageAmong(const QStringList &userLanguages)
+const Language &bestLanguage(const QStringList &userLanguages)
 {
     for (const QString &name : userLanguages) {
         const QString code = name.section(QLatin1Char('-'), 0, 0).section(QLatin1Char('_'), 0, 0);
@@ -46,7 +46,7 @@ const Language &languageAmong(const QStringList &userLanguages)
     return languages.front();
 }
 
-bool speak(const Language &language)
+bool installTranslator(const Language &language)
 {
     initialiseCatalogues();
     static QTranslator translator;
@@ -58,14 +58,14 @@ bool speak(const Language &language)
            QCoreApplication::installTranslator(&translator);
 }
 
-bool speakAsAsked(const QString &code)
+bool installRequestedLanguage(const QString &code)
 {
     if (code.isEmpty())
-        return speak(languageAmong(QLocale::system().uiLanguages()));
+        return installTranslator(bestLanguage(QLocale::system().uiLanguages()));
     const Language *const language = languageOf(code);
     if (!language)
         return false;
     QLocale::setDefault(QLocale(QLatin1String(language->locale)));
-    return speak(*language);
+    return installTranslator(*language);
 }
 } // namespace virtualmount

@@ -20,11 +20,11 @@ extern const std::array<Language, 10> languages;
 /// The language of a code in capital or small letters; nullptr for every other text.
 const Language *languageOf(const QString &code);
 /// The first of a user's languages, such as "de-AT", that there is; English if there is none.
-const Language &languageAmong(const QStringList &userLanguages);
+const Language &bestLanguage(const QStringList &userLanguages);
 /// Lets the program speak a language from here on. To be called before there is a window.
 /// \return false if the catalogue is not there
-bool speak(const Language &language);
+bool installTranslator(const Language &language);
 /// Speaks the language of a code and writes numbers as it does; for an empty code the system's.
 /// \return false for a code that there is not
-bool speakAsAsked(const QString &code);
+bool installRequestedLanguage(const QString &code);
 } // namespace virtualmount

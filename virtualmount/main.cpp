@@ -50,7 +50,7 @@ int main(int argc, char *argv[])
     QCommandLineParser options;
     describe(options);
     options.process(application);
-    if (!virtualmount::speakAsAsked(options.value(QStringLiteral("language")))) {
+    if (!virtualmount::installRequestedLanguage(options.value(QStringLiteral("language")))) {
         fprintf(stderr, "quorvandel-mount: --language takes EN, ZH, JA, RU, FR, DE, ES, PT, IT or "
                         "KO\n");
         return 1;

@@ -16,8 +16,8 @@ namespace
 using virtualsky::boltLimit;
 using virtualsky::pi;
 
-constexpr double longestPause = 0.25; // seconds
-constexpr double grains = 1e7;        // a degree; 0.4 milliarcseconds each
+constexpr double maxPause = 0.25; // seconds
+constexpr double grains = 1e7;    // a degree; 0.4 milliarcseconds each
 
 double grained(double degrees)
 {
@@ -51,7 +51,7 @@ double wrapped(double degrees)
 
 double AxisMotion::advance(double seconds)
 {
-    const double most = turnRate * std::clamp(seconds, 0.0, longestPause);
+    const double most = turnRate * std::clamp(seconds, 0.0, maxPause);
     if (std::abs(left) <= most) {
         const double last = left;
         left = 0.0;

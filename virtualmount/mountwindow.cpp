@@ -69,13 +69,13 @@ MountWindow::MountWindow(const QString &skyFile, QWidget *parent)
     ticker.setInterval(tickMilliseconds);
     ticker.setTimerType(Qt::PreciseTimer);
     connect(&ticker, &QTimer::timeout, this, &MountWindow::tick);
-    connect(&watcher, &QFileSystemWatcher::fileChanged, this, &MountWindow::look);
-    connect(&watcher, &QFileSystemWatcher::directoryChanged, this, &MountWindow::look);
-    connect(&poll, &QTimer::timeout, this, &MountWindow::look);
+    connect(&watcher, &QFileSystemWatcher::fileChanged, this, &MountWindow::reload);
+    connect(&watcher, &QFileSystemWatcher::directoryChanged, this, &MountWindow::reload);
+    connect(&poll, &QTimer::timeout, this, &MountWindow::reload);
     poll.start(pollMilliseconds);
     watch();
-    addShortcut(Qt::Key_Escape, [this] { toBolts(); });
-    toBolts();
+    addShortcut(Qt::Key_Escape, [this] { focusBolts(); });
+    focusBolts();
     setTruthShown(false);
     refresh();
 }
@@ -90,7 +90,7 @@ void MountWindow::watch()
             watcher.addPath(path);
 }
 
-void MountWindow::look()
+void MountWindow::reload()
 {
     watch();
     document.refresh();
@@ -273,7 +273,7 @@ void MountWindow::closeEvent(QCloseEvent *event)
 }
 
 /// Away from the fields, where the arrow keys turn the bolts.
-void MountWindow::toBolts()
+void MountWindow::focusBolts()
 {
     findChild<QPushButton *>(QStringLiteral("altitudeUp"))->setFocus(Qt::ShortcutFocusReason);
 }
@@ -293,7 +293,7 @@ bool MountWindow::eventFilter(QObject *watched, QEvent *event)
     // What was done with the mouse is done: the keys are the bolts' again. Spin boxes are typed in.
     if (event->type() == QEvent::MouseButtonRelease &&
         (qobject_cast<QAbstractSlider *>(watched) || !isField(*watched)))
-        QTimer::singleShot(0, this, &MountWindow::toBolts);
+        QTimer::singleShot(0, this, &MountWindow::focusBolts);
     if (event->type() == QEvent::ShortcutOverride) {
         const auto &key = static_cast<const QKeyEvent &>(*event);
         const bool isArrow = key.key() >= Qt::Key_Left && key.key() <= Qt::Key_Down;

@@ -64,7 +64,7 @@ private:
     void addStatusLine();
     QShortcut &addShortcut(const QKeySequence &key, const std::function<void()> &action);
     void watchField(QWidget &field);
-    void toBolts();
+    void focusBolts();
 
     void edit(const virtualmount::SkyDocument::Change &change);
     void turnAxisBy(double degrees);
@@ -82,7 +82,7 @@ private:
     void replaceFile();
 
     static double systemSeconds(); ///< the computer's UTC since 1970
-    void look();                   ///< at the file, and show what has changed
+    void reload();                 ///< at the file, and show what has changed
     void watch();
     void tick(); ///< of the moving axis and the passing clouds
     void keepTicking();

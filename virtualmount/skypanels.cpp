@@ -83,7 +83,7 @@ QWidget *MountWindow::timeFields()
 {
     timeMode = new QComboBox(this);
     nameWidget(*timeMode, QStringLiteral("timeMode"), tr("Which time it is"));
-    timeMode->addItems({tr("Now"), tr("Runs from"), tr("Stands at")});
+    timeMode->addItems({tr("Now"), tr("Runs from"), tr("Fixed at")});
     watchField(*timeMode);
     connect(timeMode, QOverload<int>::of(&QComboBox::activated), this, &MountWindow::setTimeMode);
     date = new QDateTimeEdit(this);

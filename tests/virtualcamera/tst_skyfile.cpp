@@ -128,9 +128,9 @@ void SkyFileTest::refused_data()
     row("key of another section", "[site]\nfwhm = 3\n", "line 2: fwhm: unknown key in [site]");
     row("key in capitals", "[site]\nLatitude = 3\n", "line 2: Latitude: unknown key in [site]");
     row("key before a section", "latitude = 3\n", "line 1: latitude: stands before any section");
-    row("twice", "[site]\nlatitude = 3\nlatitude = 3\n", "line 3: latitude: stands there twice");
+    row("twice", "[site]\nlatitude = 3\nlatitude = 3\n", "line 3: latitude: duplicate key");
     row("twice in a section given twice", "[site]\nlatitude = 3\n[site]\nlatitude = 3\n",
-        "line 4: latitude: stands there twice");
+        "line 4: latitude: duplicate key");
     row("no equals sign", "[site]\nlatitude 3\n",
         "line 2: latitude 3: not of the form key = value");
     row("no number", "[site]\nlatitude = north\n", "line 2: latitude: must be a number");
@@ -144,7 +144,7 @@ void SkyFileTest::refused_data()
     row("no picture", "[faults]\npicture = grey\n",
         "line 2: picture: must be sky, black or saturated");
     row("no operation", "[faults]\nfail = InitVELDIX, Foo\n",
-        "line 2: fail: names no operation: \"Foo\"");
+        "line 2: fail: unknown operation: \"Foo\"");
     row("no date", "[time]\ndate = today\n",
         "line 2: date: must be now or a date from 1973 to 2100 like 2026-1");
     row("unprintable", "[site]\n\x01\xff = 3\n", "line 2: ??: unknown key in [site]");

@@ -62,7 +62,7 @@ class MountCataloguesTest : public QObject
     Q_OBJECT
 
 private slots:
-    void init() { QVERIFY(virtualmount::speak(languages.front())); }
+    void init() { QVERIFY(virtualmount::installTranslator(languages.front())); }
     void isComplete_data() { forEachLanguage(); }
     void isComplete();
     void keepsPlaceholders_data() { forEachLanguage(); }
@@ -121,7 +121,7 @@ void MountCataloguesTest::isCompiledIn()
 {
     QFETCH(int, number);
     const Language &language = languages.at(std::size_t(number));
-    QVERIFY(virtualmount::speak(language));
+    QVERIFY(virtualmount::installTranslator(language));
     const auto messages = messagesOf(sourceFile(language));
     QVERIFY(!messages.isEmpty());
     for (const Message &m : messages)
@@ -147,10 +147,10 @@ void MountCataloguesTest::saysFaults()
         try {
             virtualsky::parse(text);
         } catch (const virtualsky::SkyFileError &error) {
-            QVERIFY(virtualmount::speak(languages.front()));
+            QVERIFY(virtualmount::installTranslator(languages.front()));
             const QString english = virtualmount::faultText(error);
             QCOMPARE(english, QString(error.what()));
-            QVERIFY(virtualmount::speak(languages.at(std::size_t(number))));
+            QVERIFY(virtualmount::installTranslator(languages.at(std::size_t(number))));
             const QString translated = virtualmount::faultText(error);
             const QString key = QString::fromStdString(error.key());
             QVERIFY2(translated.contains(key), qPrintable(translated));
@@ -182,7 +182,7 @@ void MountCataloguesTest::followsTheUsersLanguages()
 {
     QFETCH(QStringList, user);
     QFETCH(QString, code);
-    QCOMPARE(QString(virtualmount::languageAmong(user).code), code);
+    QCOMPARE(QString(virtualmount::bestLanguage(user).code), code);
 }
 
 void MountCataloguesTest::followsTheOption_data()
@@ -230,7 +230,7 @@ void MountCataloguesTest::followsTheOption()
     QFETCH(QString, code);
     QFETCH(QString, north);
     QFETCH(QString, number);
-    QVERIFY(virtualmount::speakAsAsked(code));
+    QVERIFY(virtualmount::installRequestedLanguage(code));
     QCOMPARE(QCoreApplication::translate("MountWindow", "North"), north);
     QCOMPARE(QLocale().toString(1.5, 'f', 1), number);
     QLocale::setDefault(QLocale::system());
@@ -238,11 +238,11 @@ void MountCataloguesTest::followsTheOption()
 
 void MountCataloguesTest::unknownOptionsAreRefused()
 {
-    QVERIFY(virtualmount::speak(languages.at(5)));
+    QVERIFY(virtualmount::installTranslator(languages.at(5)));
     for (const char *const code : {"XX", "german", "D", "de_DE"})
-        QVERIFY2(!virtualmount::speakAsAsked(code), code);
+        QVERIFY2(!virtualmount::installRequestedLanguage(code), code);
     QCOMPARE(QCoreApplication::translate("MountWindow", "South"), QString("Süd"));
-    QVERIFY(virtualmount::speakAsAsked(QString())); // the tests' locale is C
+    QVERIFY(virtualmount::installRequestedLanguage(QString())); // the tests' locale is C
     QCOMPARE(QCoreApplication::translate("MountWindow", "South"), QString("South"));
 }
 

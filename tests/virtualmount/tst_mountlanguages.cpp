@@ -76,7 +76,7 @@ class MountLanguagesTest : public QObject
 
 private slots:
     void initTestCase();
-    void cleanupTestCase() { QVERIFY(virtualmount::speak(languages.front())); }
+    void cleanupTestCase() { QVERIFY(virtualmount::installTranslator(languages.front())); }
     void everyTextFits_data();
     void everyTextFits();
     void anAlignedStartFits_data() { everyTextFits_data(); }
@@ -110,7 +110,7 @@ void MountLanguagesTest::everyTextFits_data()
 void MountLanguagesTest::everyTextFits()
 {
     QFETCH(int, number);
-    QVERIFY(virtualmount::speak(languages.at(std::size_t(number))));
+    QVERIFY(virtualmount::installTranslator(languages.at(std::size_t(number))));
     const SkyFileFixture file;
     file.writeText("[time]\ndate = 2028-12-28T20:08:58Z\n[mount]\nra_angle = -88.8\n"
                    "bolt_altitude = 0.8\nbolt_azimuth = 9.5\n[weather]\nclouds = 1\nmoon = 1\n"
@@ -146,7 +146,7 @@ void MountLanguagesTest::everyTextFits()
 void MountLanguagesTest::anAlignedStartFits()
 {
     QFETCH(int, number);
-    QVERIFY(virtualmount::speak(languages.at(std::size_t(number))));
+    QVERIFY(virtualmount::installTranslator(languages.at(std::size_t(number))));
     const SkyFileFixture usual;
     const ShownWindow other(usual.path());
     const SkyFileFixture file;
@@ -165,7 +165,7 @@ void MountLanguagesTest::anAlignedStartFits()
 void MountLanguagesTest::mnemonicsAreUnique()
 {
     QFETCH(int, number);
-    QVERIFY(virtualmount::speak(languages.at(std::size_t(number))));
+    QVERIFY(virtualmount::installTranslator(languages.at(std::size_t(number))));
     const SkyFileFixture file;
     const ShownWindow shown(file.path());
     QHash<QString, QString> users;
@@ -195,7 +195,7 @@ void MountLanguagesTest::nothingIsLeftInEnglish_data()
 void MountLanguagesTest::nothingIsLeftInEnglish()
 {
     QFETCH(int, number);
-    QVERIFY(virtualmount::speak(languages.at(std::size_t(number))));
+    QVERIFY(virtualmount::installTranslator(languages.at(std::size_t(number))));
     const SkyFileFixture file;
     file.writeText("[weather]\nclouds = 7\n");
     const ShownWindow shown(file.path());
@@ -215,7 +215,7 @@ void MountLanguagesTest::toolkitTextsAreTranslated()
 {
     QFETCH(int, number);
     LastTranslator last;
-    QVERIFY(virtualmount::speak(languages.at(std::size_t(number))));
+    QVERIFY(virtualmount::installTranslator(languages.at(std::size_t(number))));
     const SkyFileFixture file;
     ShownWindow shown(file.path());
     last.forget(); // English stands in the sources, and has no catalogue
@@ -237,7 +237,7 @@ void MountLanguagesTest::toolkitTextsAreTranslated()
 
 void MountLanguagesTest::numbersFollowTheLanguage()
 {
-    QVERIFY(virtualmount::speakAsAsked("DE"));
+    QVERIFY(virtualmount::installRequestedLanguage("DE"));
     const SkyFileFixture file;
     file.writeText("[site]\nlatitude = 48.25\n[mount]\nra_angle = 7.5\ntracking = false\n");
     const ShownWindow shown(file.path());
@@ -255,7 +255,7 @@ void MountLanguagesTest::numbersFollowTheLanguage()
 
 void MountLanguagesTest::rowsHaveNamesForScreenReaders()
 {
-    QVERIFY(virtualmount::speak(languages.front()));
+    QVERIFY(virtualmount::installTranslator(languages.front()));
     const SkyFileFixture file;
     const ShownWindow shown(file.path());
     const auto name = [&](const char *field) {
@@ -291,7 +291,7 @@ void MountLanguagesTest::thePartsOfTheTruth()
     QFETCH(QString, code);
     QFETCH(QString, altitude);
     QFETCH(QString, azimuth);
-    QVERIFY(virtualmount::speak(*virtualmount::languageOf(code)));
+    QVERIFY(virtualmount::installTranslator(*virtualmount::languageOf(code)));
     const SkyFileFixture file;
     const ShownWindow shown(file.path()); // 0.6 degrees up and 1 degree west
     clickOn(shown.window, "showTruth");

@@ -181,7 +181,7 @@ void MountSkyTest::times()
 
     press(Qt::Key_D, Qt::AltModifier);
     QCOMPARE(QApplication::focusWidget(), &mode);
-    press(Qt::Key_S); // Stands at
+    press(Qt::Key_F); // Fixed at
     SkyState state = file.state();
     QVERIFY(state.date && !state.running);
     QVERIFY(near(*state.date, double(QDateTime::currentSecsSinceEpoch()), 3.0));

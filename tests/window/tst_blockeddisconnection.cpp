@@ -86,7 +86,7 @@ void BlockedDisconnectionTest::callReturnsWhenStopped()
 void BlockedDisconnectionTest::windowAnswersMeanwhile()
 {
     const BlockedWindow w;
-    static_assert(stopPatience <= 500, "the window is held up for longer");
+    static_assert(stopTimeout <= 500, "the window is held up for longer");
     w.trigger("actionConnect");
     int ticks = 0;
     QTimer tick;

@@ -128,7 +128,7 @@
         <translation>Zurückset&amp;zen</translation>
     </message>
     <message>
-        <source>Set everything as it was at first</source>
+        <source>Reset to the values at the start</source>
         <translation>Alles wieder so einstellen, wie es am Anfang war</translation>
     </message>
     <message>
@@ -196,7 +196,7 @@ Strg+1 bis Strg+6 drehen die Achse, Esc verlässt ein Feld.</translation>
         <translation>Läuft von</translation>
     </message>
     <message>
-        <source>Stands at</source>
+        <source>Fixed at</source>
         <translation>Steht bei</translation>
     </message>
     <message>
@@ -476,7 +476,7 @@ Strg+1 bis Strg+6 drehen die Achse, Esc verlässt ein Feld.</translation>
         <translation>unbekannter Schlüssel in [%1]</translation>
     </message>
     <message>
-        <source>stands there twice</source>
+        <source>duplicate key</source>
         <translation>steht zweimal da</translation>
     </message>
     <message>
@@ -492,7 +492,7 @@ Strg+1 bis Strg+6 drehen die Achse, Esc verlässt ein Feld.</translation>
         <translation>muss sky, black oder saturated sein</translation>
     </message>
     <message>
-        <source>names no operation: &quot;%1&quot;</source>
+        <source>unknown operation: &quot;%1&quot;</source>
         <translation>nennt keine Operation: „%1“</translation>
     </message>
     <message>

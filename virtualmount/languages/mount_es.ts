@@ -128,7 +128,7 @@
         <translation>Restable&amp;cer</translation>
     </message>
     <message>
-        <source>Set everything as it was at first</source>
+        <source>Reset to the values at the start</source>
         <translation>Dejar todo como estaba al principio</translation>
     </message>
     <message>
@@ -196,7 +196,7 @@ Ctrl+1 a Ctrl+6 giran el eje; Esc sale de un campo.</translation>
         <translation>Corre desde</translation>
     </message>
     <message>
-        <source>Stands at</source>
+        <source>Fixed at</source>
         <translation>Fija en</translation>
     </message>
     <message>
@@ -476,7 +476,7 @@ Ctrl+1 a Ctrl+6 giran el eje; Esc sale de un campo.</translation>
         <translation>clave desconocida en [%1]</translation>
     </message>
     <message>
-        <source>stands there twice</source>
+        <source>duplicate key</source>
         <translation>aparece dos veces</translation>
     </message>
     <message>
@@ -492,7 +492,7 @@ Ctrl+1 a Ctrl+6 giran el eje; Esc sale de un campo.</translation>
         <translation>debe ser sky, black o saturated</translation>
     </message>
     <message>
-        <source>names no operation: &quot;%1&quot;</source>
+        <source>unknown operation: &quot;%1&quot;</source>
         <translation>no nombra ninguna operación: «%1»</translation>
     </message>
     <message>

@@ -128,7 +128,7 @@
         <translation>Réinitialis&amp;er</translation>
     </message>
     <message>
-        <source>Set everything as it was at first</source>
+        <source>Reset to the values at the start</source>
         <translation>Tout remettre comme au début</translation>
     </message>
     <message>
@@ -196,7 +196,7 @@ Ctrl+1 à Ctrl+6 tournent l&apos;axe, Échap quitte un champ.</translation>
         <translation>À partir de</translation>
     </message>
     <message>
-        <source>Stands at</source>
+        <source>Fixed at</source>
         <translation>Arrêtée à</translation>
     </message>
     <message>
@@ -476,7 +476,7 @@ Ctrl+1 à Ctrl+6 tournent l&apos;axe, Échap quitte un champ.</translation>
         <translation>clé inconnue dans [%1]</translation>
     </message>
     <message>
-        <source>stands there twice</source>
+        <source>duplicate key</source>
         <translation>s&apos;y trouve deux fois</translation>
     </message>
     <message>
@@ -492,7 +492,7 @@ Ctrl+1 à Ctrl+6 tournent l&apos;axe, Échap quitte un champ.</translation>
         <translation>doit être sky, black ou saturated</translation>
     </message>
     <message>
-        <source>names no operation: &quot;%1&quot;</source>
+        <source>unknown operation: &quot;%1&quot;</source>
         <translation>ne nomme aucune opération&#xa0;: «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>

@@ -128,7 +128,7 @@
         <translation>&amp;Reimposta</translation>
     </message>
     <message>
-        <source>Set everything as it was at first</source>
+        <source>Reset to the values at the start</source>
         <translation>Rimetti tutto com&apos;era all&apos;inizio</translation>
     </message>
     <message>
@@ -196,7 +196,7 @@ Ctrl+1 … Ctrl+6 ruotano l&apos;asse, Esc esce da un campo.</translation>
         <translation>Parte da</translation>
     </message>
     <message>
-        <source>Stands at</source>
+        <source>Fixed at</source>
         <translation>Ferma a</translation>
     </message>
     <message>
@@ -476,7 +476,7 @@ Ctrl+1 … Ctrl+6 ruotano l&apos;asse, Esc esce da un campo.</translation>
         <translation>chiave sconosciuta in [%1]</translation>
     </message>
     <message>
-        <source>stands there twice</source>
+        <source>duplicate key</source>
         <translation>compare due volte</translation>
     </message>
     <message>
@@ -492,7 +492,7 @@ Ctrl+1 … Ctrl+6 ruotano l&apos;asse, Esc esce da un campo.</translation>
         <translation>deve essere sky, black o saturated</translation>
     </message>
     <message>
-        <source>names no operation: &quot;%1&quot;</source>
+        <source>unknown operation: &quot;%1&quot;</source>
         <translation>non indica alcuna operazione: «%1»</translation>
     </message>
     <message>

@@ -128,7 +128,7 @@
         <translation>リセット(&amp;R)</translation>
     </message>
     <message>
-        <source>Set everything as it was at first</source>
+        <source>Reset to the values at the start</source>
         <translation>すべてを最初の状態に戻す</translation>
     </message>
     <message>
@@ -196,7 +196,7 @@ Ctrl+1 ～ Ctrl+6 で軸を回し、Esc で入力欄を離れます。</translat
         <translation>ここから</translation>
     </message>
     <message>
-        <source>Stands at</source>
+        <source>Fixed at</source>
         <translation>ここで停止</translation>
     </message>
     <message>
@@ -476,7 +476,7 @@ Ctrl+1 ～ Ctrl+6 で軸を回し、Esc で入力欄を離れます。</translat
         <translation>[%1] に不明なキーがあります</translation>
     </message>
     <message>
-        <source>stands there twice</source>
+        <source>duplicate key</source>
         <translation>2 回書かれています</translation>
     </message>
     <message>
@@ -492,7 +492,7 @@ Ctrl+1 ～ Ctrl+6 で軸を回し、Esc で入力欄を離れます。</translat
         <translation>sky、black、saturated のどれかでなければなりません</translation>
     </message>
     <message>
-        <source>names no operation: &quot;%1&quot;</source>
+        <source>unknown operation: &quot;%1&quot;</source>
         <translation>そのような操作はありません:「%1」</translation>
     </message>
     <message>

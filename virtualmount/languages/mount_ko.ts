@@ -128,7 +128,7 @@
         <translation>초기화(&amp;R)</translation>
     </message>
     <message>
-        <source>Set everything as it was at first</source>
+        <source>Reset to the values at the start</source>
         <translation>모두 처음 상태로 되돌리기</translation>
     </message>
     <message>
@@ -196,7 +196,7 @@ Ctrl+1~Ctrl+6으로 축을 돌리고 Esc로 입력란에서 나옵니다.</trans
         <translation>여기서 시작</translation>
     </message>
     <message>
-        <source>Stands at</source>
+        <source>Fixed at</source>
         <translation>여기서 정지</translation>
     </message>
     <message>
@@ -476,7 +476,7 @@ Ctrl+1~Ctrl+6으로 축을 돌리고 Esc로 입력란에서 나옵니다.</trans
         <translation>[%1]에 알 수 없는 키가 있습니다</translation>
     </message>
     <message>
-        <source>stands there twice</source>
+        <source>duplicate key</source>
         <translation>두 번 나옵니다</translation>
     </message>
     <message>
@@ -492,7 +492,7 @@ Ctrl+1~Ctrl+6으로 축을 돌리고 Esc로 입력란에서 나옵니다.</trans
         <translation>sky, black, saturated 중 하나여야 합니다</translation>
     </message>
     <message>
-        <source>names no operation: &quot;%1&quot;</source>
+        <source>unknown operation: &quot;%1&quot;</source>
         <translation>그런 동작은 없습니다: ‘%1’</translation>
     </message>
     <message>

@@ -128,7 +128,7 @@
         <translation>&amp;Repor</translation>
     </message>
     <message>
-        <source>Set everything as it was at first</source>
+        <source>Reset to the values at the start</source>
         <translation>Pôr tudo como estava no início</translation>
     </message>
     <message>
@@ -196,7 +196,7 @@ Ctrl+1 a Ctrl+6 rodam o eixo; Esc sai de um campo.</translation>
         <translation>Desde</translation>
     </message>
     <message>
-        <source>Stands at</source>
+        <source>Fixed at</source>
         <translation>Parada em</translation>
     </message>
     <message>
@@ -476,7 +476,7 @@ Ctrl+1 a Ctrl+6 rodam o eixo; Esc sai de um campo.</translation>
         <translation>chave desconhecida em [%1]</translation>
     </message>
     <message>
-        <source>stands there twice</source>
+        <source>duplicate key</source>
         <translation>aparece duas vezes</translation>
     </message>
     <message>
@@ -492,7 +492,7 @@ Ctrl+1 a Ctrl+6 rodam o eixo; Esc sai de um campo.</translation>
         <translation>deve ser sky, black ou saturated</translation>
     </message>
     <message>
-        <source>names no operation: &quot;%1&quot;</source>
+        <source>unknown operation: &quot;%1&quot;</source>
         <translation>não indica nenhuma operação: «%1»</translation>
     </message>
     <message>

@@ -128,7 +128,7 @@
         <translation>С&amp;брос</translation>
     </message>
     <message>
-        <source>Set everything as it was at first</source>
+        <source>Reset to the values at the start</source>
         <translation>Вернуть всё в начальное состояние</translation>
     </message>
     <message>
@@ -196,7 +196,7 @@ Ctrl+1 … Ctrl+6 поворачивают ось, Esc — выход из по�
         <translation>Идёт с</translation>
     </message>
     <message>
-        <source>Stands at</source>
+        <source>Fixed at</source>
         <translation>Стоит на</translation>
     </message>
     <message>
@@ -476,7 +476,7 @@ Ctrl+1 … Ctrl+6 поворачивают ось, Esc — выход из по�
         <translation>неизвестный ключ в [%1]</translation>
     </message>
     <message>
-        <source>stands there twice</source>
+        <source>duplicate key</source>
         <translation>встречается дважды</translation>
     </message>
     <message>
@@ -492,7 +492,7 @@ Ctrl+1 … Ctrl+6 поворачивают ось, Esc — выход из по�
         <translation>должно быть sky, black или saturated</translation>
     </message>
     <message>
-        <source>names no operation: &quot;%1&quot;</source>
+        <source>unknown operation: &quot;%1&quot;</source>
         <translation>нет такой операции: «%1»</translation>
     </message>
     <message>

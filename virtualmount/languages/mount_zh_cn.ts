@@ -128,7 +128,7 @@
         <translation>重置(&amp;R)</translation>
     </message>
     <message>
-        <source>Set everything as it was at first</source>
+        <source>Reset to the values at the start</source>
         <translation>将一切恢复到最初的状态</translation>
     </message>
     <message>
@@ -196,7 +196,7 @@ Ctrl+1 至 Ctrl+6 转动赤经轴，Esc 离开输入框。</translation>
         <translation>从此时起</translation>
     </message>
     <message>
-        <source>Stands at</source>
+        <source>Fixed at</source>
         <translation>停在此时</translation>
     </message>
     <message>
@@ -476,7 +476,7 @@ Ctrl+1 至 Ctrl+6 转动赤经轴，Esc 离开输入框。</translation>
         <translation>[%1] 中未知的键</translation>
     </message>
     <message>
-        <source>stands there twice</source>
+        <source>duplicate key</source>
         <translation>出现了两次</translation>
     </message>
     <message>
@@ -492,7 +492,7 @@ Ctrl+1 至 Ctrl+6 转动赤经轴，Esc 离开输入框。</translation>
         <translation>必须是 sky、black 或 saturated</translation>
     </message>
     <message>
-        <source>names no operation: &quot;%1&quot;</source>
+        <source>unknown operation: &quot;%1&quot;</source>
         <translation>没有这个操作：“%1”</translation>
     </message>
     <message>
