@@ -22,11 +22,10 @@ constexpr std::size_t pixelStack = 100000;
 constexpr double mostLight = 0.2; // part of the picture above the threshold
 constexpr int sampleStep = 61;    // pixels between those that the smoothed noise is measured by
 
-// Alone: more than this many times the highest neighbour. A star 1.5 pixels wide, centred on a
-// pixel, stands 2.6 times above its neighbours.
-constexpr float loneRatio = 3.0f;
-constexpr float loneThreshold = 5.0f;
-constexpr float leastNeighbour = 1.0f;
+// Alone: the four pixels beside it have less than this share of its light together. Those of a star
+// 1.5 pixels wide, centred on a pixel, have 1.5 times as much as the pixel.
+constexpr float loneShare = 0.5f;
+constexpr float loneThreshold = 5.0f; // times the noise
 
 struct CatalogueDeleter {
     void operator()(sep_catalog *found) const { sep_catalog_free(found); }
@@ -63,12 +62,12 @@ Spread spreadOf(const cv::Mat1f &image)
 
 bool isLone(const cv::Mat1f &image, int x, int y, float value)
 {
-    float highest = leastNeighbour;
-    for (int j = std::max(y - 1, 0); j <= std::min(y + 1, image.rows - 1); ++j)
-        for (int i = std::max(x - 1, 0); i <= std::min(x + 1, image.cols - 1); ++i)
-            if (i != x || j != y)
-                highest = std::max(highest, image(j, i));
-    return value > loneRatio * highest;
+    float beside = 0.0f;
+    beside += x > 0 ? image(y, x - 1) : 0.0f;
+    beside += x + 1 < image.cols ? image(y, x + 1) : 0.0f;
+    beside += y > 0 ? image(y - 1, x) : 0.0f;
+    beside += y + 1 < image.rows ? image(y + 1, x) : 0.0f;
+    return beside < loneShare * value;
 }
 
 float meanOfNeighbours(const cv::Mat1f &image, int x, int y)

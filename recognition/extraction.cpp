@@ -23,6 +23,7 @@ constexpr int coarserSearches = 3;     // each twice as coarse as the one before
 constexpr double widthToCoarsen = 3.6; // pixels of the searched picture
 constexpr double longTrail = 1.8;      // length over width
 constexpr std::size_t starsForShape = 4;
+constexpr double skyRoughness = 4.0; // above it what passes for noise is the picture of something
 constexpr std::size_t candidatesAStar = 3; // looked at for every star that is wanted
 
 int searchBin(const cv::Mat &frame)
@@ -31,11 +32,6 @@ int searchBin(const cv::Mat &frame)
     while (double(frame.cols / bin) * double(frame.rows / bin) > searchedPixels)
         ++bin;
     return bin;
-}
-
-ExtractionStatus failure(Extraction &out, ExtractionStatus status)
-{
-    return out.status = status;
 }
 
 void keepBrightest(std::vector<Candidate> &candidates, std::size_t most)
@@ -65,18 +61,18 @@ DetectionResult search(cv::Mat1f &sky, int bin, const ExtractionOptions &options
 
 ExtractionStatus verdict(const Extraction &found, const ExtractionOptions &options)
 {
+    const bool few = found.stars.size() < std::size_t(std::max(options.leastStars, 0));
     if (found.stars.size() >= starsForShape) {
         if (found.elongation > longTrail)
             return ExtractionStatus::Trailed;
         if (found.fwhm > options.widestFwhm)
             return ExtractionStatus::OutOfFocus;
     }
-    return found.stars.size() < std::size_t(std::max(options.leastStars, 0))
-               ? ExtractionStatus::TooFewStars
-               : ExtractionStatus::Ok;
+    return few ? ExtractionStatus::TooFewStars : ExtractionStatus::Ok;
 }
 
-void report(FrameStars &stars, Extraction &out, const ExtractionOptions &options)
+// @param roughness of the background
+void report(FrameStars &stars, double roughness, const ExtractionOptions &options, Extraction &out)
 {
     out.elongation = stars.elongation();
     stars.sift();
@@ -84,13 +80,18 @@ void report(FrameStars &stars, Extraction &out, const ExtractionOptions &options
     for (const MeasuredStar &found : stars.all())
         out.stars.push_back(found.star);
     out.status = verdict(out, options);
+    if (out.status != ExtractionStatus::Ok && roughness > skyRoughness) {
+        out.stars.clear();
+        out.status = ExtractionStatus::NoSky;
+    }
 }
 } // namespace
 
 Extraction extractStars(const cv::Mat &frame, const ExtractionOptions &options)
 {
     Extraction out;
-    if (failure(out, checkFrame(frame)) != ExtractionStatus::Ok)
+    out.status = checkFrame(frame);
+    if (out.status != ExtractionStatus::Ok)
         return out;
     const int bin = searchBin(frame);
     cv::Mat1f sky = binnedFrame(frame, bin);
@@ -110,10 +111,10 @@ Extraction extractStars(const cv::Mat &frame, const ExtractionOptions &options)
     }
     out.background = double(background->medianLevel());
     out.noise = double(background->medianNoise()) * bin;
-    if (failure(out, out.background > nearFullScale * full
-                         ? ExtractionStatus::SaturatedSky
-                         : ExtractionStatus::Ok) != ExtractionStatus::Ok)
+    if (out.background > nearFullScale * full) {
+        out.status = ExtractionStatus::SaturatedSky;
         return out;
+    }
     background->normalise(sky);
     if (bin == 1)
         removeHotPixels(sky);
@@ -122,7 +123,7 @@ Extraction extractStars(const cv::Mat &frame, const ExtractionOptions &options)
         out.status = ExtractionStatus::NoSky;
         return out;
     }
-    report(stars, out, options);
+    report(stars, background->roughness(), options, out);
     return out;
 }
 } // namespace recognition

@@ -5,8 +5,11 @@
 #include "recognition/sepheader.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <iterator>
 #include <memory>
+#include <numeric>
 
 #include <vector>
 
@@ -20,6 +23,7 @@ constexpr int leastTile = 16;  // pixels
 constexpr int filterTiles = 3; // a median of 3 x 3 tiles against bright stars
 constexpr double filterLimit = 0.0;
 constexpr float clipSigmas = 2.5f;
+constexpr float cutOffDepth = 2.0f; // times the noise: among a thousand pixels one lies deeper
 
 int tilesAlong(int pixels)
 {
@@ -69,38 +73,185 @@ float medianOf(const cv::Mat1f &nodes)
     return *middle;
 }
 
-// SEP's mode of whole values is good to some tenths of a value only. The mean of a tile's values
-// about it, without stars, is much better where the noise is a few values.
-float meanAbout(const cv::Mat1f &tile, float level, float sigma)
+// Where most pixels have one value, as where the darkest are cut off at 0, the brighter ones still
+// show the noise: the 84th of 100 is one sigma above the median.
+float noiseOfBrighter(const cv::Mat1f &tile, float level)
 {
-    constexpr int rounds = 2;
-    const float reach = clipSigmas * sigma;
-    for (int round = 0; round < rounds; ++round) {
-        float sum = 0.0f, count = 0.0f;
-        for (int y = 0; y < tile.rows; ++y) {
-            const float *row = tile[y];
-            for (int x = 0; x < tile.cols; ++x) {
-                const float part = std::abs(row[x] - level) <= reach ? 1.0f : 0.0f;
-                sum += part * (row[x] - level);
-                count += part;
-            }
-        }
-        if (count > 0.0f)
-            level += sum / count;
-    }
-    return level;
+    std::vector<float> values;
+    for (int y = 0; y < tile.rows; ++y)
+        std::copy_if(tile[y], tile[y] + tile.cols, std::back_inserter(values),
+                     [](float value) { return value > blankValue; });
+    if (values.empty())
+        return 0.0f;
+    const auto place = values.begin() + std::ptrdiff_t(0.8413 * double(values.size()));
+    std::nth_element(values.begin(), place, values.end());
+    return *place - level;
 }
 
-void refine(cv::Mat1f &levels, const cv::Mat1f &sigma, const cv::Mat1f &looked, cv::Size tile,
-            float leastNoise)
+// The plane that a tile's pixels scatter about.
+struct Plane {
+    float level = 0.0f;                 // at the tile's middle
+    float slopeX = 0.0f, slopeY = 0.0f; // values a pixel
+    float sigma = 0.0f;
+    float middleX = 0.0f,
+          middleY = 0.0f; // pixels of the tile: of a whole one, the last may be less
+};
+
+// Count, sum and sum of squares of the pixels within a reach of the plane, less the plane; in
+// lanes, so that the compiler may add several at a time.
+class ClippedSums
 {
-    const cv::Rect all(0, 0, looked.cols, looked.rows);
-    for (int j = 0; j < levels.rows; ++j)
-        for (int i = 0; i < levels.cols; ++i) {
-            const cv::Rect area =
-                cv::Rect(i * tile.width, j * tile.height, tile.width, tile.height) & all;
-            levels(j, i) = meanAbout(looked(area), levels(j, i), std::max(sigma(j, i), leastNoise));
-        }
+public:
+    ClippedSums(const cv::Mat1f &tile, const Plane &plane, float reach)
+    {
+        const float middleX = plane.middleX, middleY = plane.middleY;
+        for (int y = 0; y < tile.rows; ++y)
+            addRow(tile[y], tile.cols,
+                   plane.level + plane.slopeY * (float(y) - middleY) - plane.slopeX * middleX,
+                   plane.slopeX, reach);
+    }
+    float count() const { return total(counts); }
+    float sum() const { return total(sums); }
+    float squares() const { return total(squaresOf); }
+
+private:
+    static constexpr int lanes = 8;
+    using Lanes = std::array<float, lanes>;
+
+    void add(float value, std::size_t lane, float plane, float reach)
+    {
+        const float rest = value - plane;
+        const float part = std::abs(rest) <= reach ? rest : 0.0f;
+        counts[lane] += std::abs(rest) <= reach ? 1.0f : 0.0f;
+        sums[lane] += part;
+        squaresOf[lane] += part * part;
+    }
+    void addRow(const float *row, int width, float start, float slope, float reach)
+    {
+        int x = 0;
+        for (; x + lanes <= width; x += lanes)
+            for (int lane = 0; lane < lanes; ++lane)
+                add(row[x + lane], std::size_t(lane), start + slope * float(x + lane), reach);
+        for (; x < width; ++x)
+            add(row[x], 0, start + slope * float(x), reach);
+    }
+    static float total(const Lanes &values)
+    {
+        return std::accumulate(values.begin(), values.end(), 0.0f);
+    }
+
+    Lanes counts = {}, sums = {}, squaresOf = {};
+};
+
+// SEP's mode of whole values is good to some tenths of a value only, and its noise has the gradient
+// within a tile in it. Mean and scatter of the pixels without stars are much better.
+void settle(const cv::Mat1f &tile, float leastNoise, Plane &plane)
+{
+    constexpr int rounds = 5;
+    constexpr float settled = 0.03f;        // of the noise
+    constexpr float keptVariance = 0.9113f; // of a normal distribution cut off at 2.5 sigma
+    for (int round = 0; round < rounds; ++round) {
+        const ClippedSums sums(tile, plane, clipSigmas * plane.sigma);
+        const float n = sums.count();
+        if (!(n > 1.0f))
+            return;
+        const float shift = sums.sum() / n;
+        const float variance = (sums.squares() / n - shift * shift) / keptVariance;
+        const float sigma = std::max(std::sqrt(std::max(variance, 0.0f)), leastNoise);
+        const bool still =
+            std::abs(shift) < settled * sigma && std::abs(plane.sigma - sigma) < settled * sigma;
+        plane.level += shift;
+        plane.sigma = sigma;
+        if (still)
+            return;
+    }
+}
+
+// Whether the darker pixels are cut off, at 0 mostly.
+bool isCutOff(const cv::Mat1f &tile, const Plane &plane)
+{
+    float darkest = plane.level;
+    for (int y = 0; y < tile.rows; ++y)
+        for (const float *value = tile[y]; value != tile[y] + tile.cols; ++value)
+            darkest = *value > blankValue ? std::min(darkest, *value) : darkest;
+    return plane.level - darkest < cutOffDepth * plane.sigma;
+}
+
+// A first plane without slopes.
+Plane levelPlane(const cv::Mat1f &tile, float level, float sigma, float leastNoise)
+{
+    Plane plane;
+    plane.level = level;
+    plane.sigma = std::max(sigma, leastNoise);
+    if (!isCutOff(tile, plane)) {
+        settle(tile, leastNoise, plane);
+        return plane;
+    }
+    // This is no normal distribution: its mean, and the scatter of its brighter half.
+    plane.sigma = std::max(plane.sigma, noiseOfBrighter(tile, level));
+    const ClippedSums sums(tile, plane, clipSigmas * plane.sigma);
+    if (sums.count() > 0.0f)
+        plane.level += sums.sum() / sums.count();
+    return plane;
+}
+
+class Tiles
+{
+public:
+    Tiles(const cv::Mat1f &image, cv::Size tileSize) : looked(image), size(tileSize) {}
+
+    cv::Mat1f area(int i, int j) const
+    {
+        return looked(cv::Rect(i * size.width, j * size.height, size.width, size.height) &
+                      cv::Rect(0, 0, looked.cols, looked.rows));
+    }
+    /// Improves levels and noise twice: the first levels give the slopes within the tiles.
+    void refine(cv::Mat1f &levels, cv::Mat1f &sigma, float leastNoise) const
+    {
+        cv::Mat1b cutOff(levels.size());
+        for (int j = 0; j < levels.rows; ++j)
+            for (int i = 0; i < levels.cols; ++i) {
+                const cv::Mat1f tile = area(i, j);
+                const Plane plane = levelPlane(tile, levels(j, i), sigma(j, i), leastNoise);
+                cutOff(j, i) = isCutOff(tile, plane);
+                levels(j, i) = plane.level;
+                sigma(j, i) = plane.sigma;
+            }
+        const cv::Mat1f around = withRing(levels);
+        for (int j = 0; j < levels.rows; ++j)
+            for (int i = 0; i < levels.cols; ++i) {
+                Plane plane = {levels(j, i),
+                               0.5f * (around(j + 1, i + 2) - around(j + 1, i)) / float(size.width),
+                               0.5f * (around(j + 2, i + 1) - around(j, i + 1)) /
+                                   float(size.height),
+                               sigma(j, i),
+                               0.5f * float(size.width - 1),
+                               0.5f * float(size.height - 1)};
+                if (!cutOff(j, i))
+                    settle(area(i, j), leastNoise, plane);
+                levels(j, i) = plane.level;
+                sigma(j, i) = plane.sigma;
+            }
+    }
+
+private:
+    const cv::Mat1f &looked;
+    cv::Size size;
+};
+
+// One sigma of a pixel as the differences of neighbours have it.
+double noiseOfNeighbours(const cv::Mat1f &image, double leastNoise)
+{
+    std::vector<float> steps;
+    for (int y = 0; y < image.rows; y += 4)
+        for (int x = 1; x < image.cols; x += 8)
+            if (image(y, x) > blankValue && image(y, x - 1) > blankValue)
+                steps.push_back(std::abs(image(y, x) - image(y, x - 1)));
+    if (steps.empty())
+        return leastNoise;
+    const auto middle = steps.begin() + std::ptrdiff_t(steps.size() / 2);
+    std::nth_element(steps.begin(), middle, steps.end());
+    return std::max(1.4826 / std::sqrt(2.0) * double(*middle), leastNoise);
 }
 
 struct BackgroundDeleter {
@@ -128,16 +279,13 @@ std::optional<SkyBackground> SkyBackground::measure(const cv::Mat1f &image, floa
     out.tileWidth = width * stride;
     out.tileHeight = height * stride;
     cv::Mat1f back(measured->ny, measured->nx, measured->back);
-    const cv::Mat1f sigma(measured->ny, measured->nx, measured->sigma);
-    cv::Mat1f inverse(sigma.size());
-    std::transform(sigma.begin(), sigma.end(), inverse.begin(), [leastNoise](float noise) {
-        return 1.0f / (noise > leastNoise ? noise : leastNoise);
-    });
-    if (!cv::checkRange(back))
+    cv::Mat1f sigma(measured->ny, measured->nx, measured->sigma);
+    if (!cv::checkRange(back) || !cv::checkRange(sigma))
         return std::nullopt;
-    refine(back, sigma, looked, {width, height}, leastNoise);
+    Tiles(looked, {width, height}).refine(back, sigma, leastNoise);
     out.level = withRing(back);
-    out.inverseNoise = withRing(inverse);
+    out.inverseNoise = withRing(cv::Mat1f(1.0f / sigma));
+    out.neighbourNoise = noiseOfNeighbours(looked, double(leastNoise));
     // Beyond the outer nodes a straight line may reach 0.
     for (float &value : out.inverseNoise)
         value = std::clamp(value, 1e-9f, 1.0f / leastNoise);

@@ -20,6 +20,9 @@ public:
     float noiseAt(double x, double y) const { return 1.0f / valueAt(inverseNoise, x, y); }
     float medianLevel() const;
     float medianNoise() const;
+    /// The noise over what neighbours say of it: about 1 in a picture of the sky, more where the
+    /// noise is that of a picture of something.
+    double roughness() const { return double(medianNoise()) / neighbourNoise; }
 
     /// Makes values into multiples of the noise above the background; blank pixels become 0.
     void normalise(cv::Mat1f &image) const;
@@ -30,6 +33,7 @@ private:
 
     // With a ring of extrapolated nodes about those that were measured.
     cv::Mat1f level, inverseNoise;
+    double neighbourNoise = 1.0;
     double tileWidth = 1, tileHeight = 1; // pixels
 };
 

@@ -16,7 +16,7 @@ namespace
 constexpr int leastRadius = 2, largestRadius = 64; // pixels
 constexpr int margin = 6; // pixels about the place that the star's light may reach into
 constexpr double leastSnr = 5.0;
-constexpr double leastFwhm = 1.0;        // pixels; narrower is a hot pixel
+constexpr double leastFwhm = 0.7;        // pixels; narrower is a hot pixel
 constexpr double usualSigma = 1.2;       // pixels, to begin with
 constexpr double leastNoise = 0.2886751; // rounding to whole values
 
