@@ -8,6 +8,7 @@
 
 #include "astrometry/places.h"
 #include "astrometry/refraction.h"
+#include "recognition/hemisphere.h"
 #include "recognition/mapping.h"
 #include "recognition/star.h"
 
@@ -18,8 +19,6 @@
 
 namespace recognition
 {
-enum class Hemisphere { North, South };
-
 /// Where and through which air the frame was taken. With it, the stars' places are refracted
 /// before they are compared, and the pole is where the Earth's axis itself points to.
 struct Observer {
