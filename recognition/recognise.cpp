@@ -63,7 +63,8 @@ FrameStars frameStarsOf(const std::vector<DetectedStar> &stars, int width, int h
         pixels.push_back({star.x - (width - 1) / 2.0, star.y - (height - 1) / 2.0});
         widths += star.fwhm > 0.0 && star.fwhm < 50.0 ? star.fwhm : 2.5;
     }
-    const double centroidError = 0.3 + 0.1 * widths / static_cast<double>(stars.size());
+    const double centroidError =
+        std::min(0.3 + 0.1 * widths / static_cast<double>(stars.size()), 1.5);
     return FrameStars(std::move(pixels), width, height, centroidError);
 }
 

@@ -2,6 +2,7 @@
 // Blind search by triangles.
 #include "recognition/search.h"
 
+#include "recognition/frametriangle.h"
 #include "recognition/patterns.h"
 
 #include <algorithm>
@@ -15,9 +16,9 @@ using astrometry::Vector3;
 
 constexpr std::size_t brightestInFrame = 16;
 constexpr std::size_t brightestInPart = 8;
-constexpr double leastSide = 8.0;          // pixels
-constexpr double lensTolerance = 0.004;    // relative, of a side, by distortion
-constexpr double greatestTolerance = 0.03; // of a ratio
+constexpr double leastSide = 8.0;                             // pixels
+constexpr double lensTolerance = 0.004;                       // relative, of a side, by distortion
+constexpr double greatestPattern = 20.5 * astrometry::degree; // the index has none wider
 
 struct Sky {
     Hemisphere hemisphere;
@@ -25,44 +26,9 @@ struct Sky {
     std::vector<Vector3> places;
 };
 
-struct Triangle {
-    std::array<std::size_t, 3> stars; // of the frame, opposite the longest side first
-    std::array<CentredPixel, 3> pixels;
-    Shape shape;
-    double longest; // pixels
-    bool positive;  // not mirrored
-};
-
 double distance(CentredPixel a, CentredPixel b)
 {
     return std::hypot(a.x - b.x, a.y - b.y);
-}
-
-std::optional<Triangle> triangleOf(const FrameStars &frame, std::array<std::size_t, 3> stars)
-{
-    struct Side {
-        double length;
-        std::size_t opposite;
-    };
-    std::array<Side, 3> sides;
-    for (std::size_t i = 0; i < 3; ++i)
-        sides[i] = {
-            distance(frame.at(stars[(i + 1) % 3], false), frame.at(stars[(i + 2) % 3], false)),
-            stars[i]};
-    std::sort(sides.begin(), sides.end(),
-              [](const Side &a, const Side &b) { return a.length > b.length; });
-    Triangle t;
-    t.longest = sides[0].length;
-    t.shape = {sides[1].length / t.longest, sides[2].length / t.longest};
-    if (!(sides[2].length > leastSide) || !isUsable(t.shape))
-        return std::nullopt;
-    for (std::size_t i = 0; i < 3; ++i) {
-        t.stars[i] = sides[i].opposite;
-        t.pixels[i] = frame.at(t.stars[i], false);
-    }
-    const auto &[p, q, r] = t.pixels;
-    t.positive = (q.x - p.x) * (r.y - p.y) - (r.x - p.x) * (q.y - p.y) > 0.0;
-    return t;
 }
 
 class Search
@@ -75,9 +41,9 @@ public:
     std::optional<SearchResult> found;
 
 private:
-    bool tryTriangle(const Triangle &triangle);
-    bool tryPattern(const Triangle &triangle, const Sky &sky, const Pattern &pattern);
-    double toleranceOf(const Triangle &triangle) const;
+    bool tryTriangle(const std::array<std::size_t, 3> &stars);
+    bool tryPattern(const FrameTriangle &triangle, const Sky &sky, const Pattern &pattern,
+                    double tolerance);
 
     const FrameStars &frame;
     const RecognitionOptions &options;
@@ -95,25 +61,9 @@ Search::Search(const FrameStars &frameStars, const RecognitionOptions &recogniti
         }
 }
 
-// A pinhole camera shows triangles off its centre drawn out, the more the wider its field.
-double Search::toleranceOf(const Triangle &t) const
+bool Search::tryPattern(const FrameTriangle &t, const Sky &sky, const Pattern &pattern,
+                        double tolerance)
 {
-    double farthest = 0.0;
-    for (const CentredPixel &p : t.pixels)
-        farthest = std::max(farthest, std::hypot(p.x, p.y));
-    const double widest = 2.0 * catalogueRadius / t.longest;
-    const double scale = std::min(options.greatestScale * astrometry::arcsecond, widest);
-    const double drawnOut = 0.5 * farthest * scale * farthest * scale;
-    const double centroids = 2.0 * frame.centroidError() / t.longest;
-    return std::min(lensTolerance + centroids + drawnOut, greatestTolerance);
-}
-
-bool Search::tryPattern(const Triangle &t, const Sky &sky, const Pattern &pattern)
-{
-    const double scale = pattern.longest / t.longest / astrometry::arcsecond;
-    // The pinhole's stretching off the centre is corrected later.
-    if (scale < 0.9 * options.leastScale || scale > 1.1 * options.greatestScale)
-        return false;
     const bool mirrored = pattern.positive != t.positive;
     if (options.mirrored && *options.mirrored != mirrored)
         return false;
@@ -124,8 +74,6 @@ bool Search::tryPattern(const Triangle &t, const Sky &sky, const Pattern &patter
         pixels[i].x = mirrored ? -pixels[i].x : pixels[i].x;
         places[i] = sky.places[pattern.stars[i]];
     }
-    const double shortest = t.longest * t.shape.shortestRatio;
-    const double tolerance = lensTolerance + 3.0 * frame.centroidError() / shortest;
     const auto pose = poseOf(pixels, places, pattern.longest, tolerance);
     if (!pose)
         return false;
@@ -147,15 +95,43 @@ bool Search::tryPattern(const Triangle &t, const Sky &sky, const Pattern &patter
     return true;
 }
 
-bool Search::tryTriangle(const Triangle &triangle)
+bool Search::tryTriangle(const std::array<std::size_t, 3> &stars)
 {
-    const double tolerance = toleranceOf(triangle);
-    for (const Sky &sky : skies)
-        sky.index->patterns.visitLike(triangle.shape, tolerance, [&](const Pattern &pattern) {
-            if (!found)
-                tryPattern(triangle, sky, pattern);
-        });
-    return found.has_value();
+    std::array<CentredPixel, 3> pixels;
+    double farthest = 0.0;
+    for (std::size_t i = 0; i < 3; ++i) {
+        pixels[i] = frame.at(stars[i], false);
+        farthest = std::max(farthest, std::hypot(pixels[i].x, pixels[i].y));
+    }
+    const double a = distance(pixels[0], pixels[1]);
+    const double b = distance(pixels[1], pixels[2]);
+    const double c = distance(pixels[2], pixels[0]);
+    const double shortest = std::min({a, b, c});
+    const double longest = std::max({a, b, c});
+    if (!(shortest > leastSide))
+        return false;
+    const double least = options.leastScale * astrometry::arcsecond;
+    const double greatest =
+        std::min(options.greatestScale * astrometry::arcsecond, greatestPattern / longest);
+    const double centroids = frame.centroidError() / longest;
+    const double tolerance = lensTolerance + shapeChange + 2.0 * centroids;
+    const double sideTolerance = lensTolerance + 3.0 * frame.centroidError() / shortest;
+    for (const ScaleRange &range : scaleRanges(farthest, least, greatest)) {
+        const auto triangle = triangleAt(stars, pixels, range);
+        if (!triangle)
+            continue;
+        const auto shortEnd = static_cast<float>(triangle->longest * range.least / triangle->scale);
+        const auto longEnd =
+            static_cast<float>(triangle->longest * range.greatest / triangle->scale);
+        for (const Sky &sky : skies)
+            sky.index->patterns.visitLike(triangle->shape, tolerance, [&](const Pattern &pattern) {
+                if (!found && pattern.longest >= shortEnd && pattern.longest <= longEnd)
+                    tryPattern(*triangle, sky, pattern, sideTolerance);
+            });
+        if (found)
+            return true;
+    }
+    return false;
 }
 
 bool Search::tryTriangles(const std::vector<std::size_t> &stars)
@@ -163,8 +139,7 @@ bool Search::tryTriangles(const std::vector<std::size_t> &stars)
     for (std::size_t c = 2; c < stars.size(); ++c)
         for (std::size_t b = 1; b < c; ++b)
             for (std::size_t a = 0; a < b; ++a) {
-                const auto triangle = triangleOf(frame, {stars[a], stars[b], stars[c]});
-                if (triangle && tryTriangle(*triangle))
+                if (tryTriangle({stars[a], stars[b], stars[c]}))
                     return true;
             }
     return false;
