@@ -14,7 +14,7 @@ using astrometry::Vector3;
 
 // Radii of the circles whose brightest stars make triangles, degrees: fields of 1.8 to 22 degrees.
 constexpr double radii[] = {0.9, 1.3, 1.8, 2.5, 3.5, 5.0, 7.0, 10.0};
-constexpr std::size_t starsInCircle = 10;
+constexpr std::size_t starsInCircle = 8;
 constexpr double farthestCentre = 11.0; // degrees from the pole, less for the largest circles
 constexpr double year2025 = 1735689600.0;
 

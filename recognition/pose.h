@@ -19,6 +19,7 @@ struct CentredPixel {
 /// A pinhole camera's place among the stars.
 struct Pose {
     astrometry::Matrix3 cameraFromSky; ///< rows: right, down and forward in the sky's frame
+    astrometry::Matrix3 skyFromCamera; ///< its transpose
     double focalLength;                ///< pixels
 
     astrometry::Vector3 skyOf(CentredPixel pixel) const;

@@ -14,8 +14,8 @@ namespace
 {
 using astrometry::Vector3;
 
-constexpr std::size_t brightestInFrame = 16;
-constexpr std::size_t brightestInPart = 8;
+constexpr std::size_t brightestInFrame = 12;
+constexpr std::size_t brightestInPart = 7;
 constexpr double leastSide = 8.0;                             // pixels
 constexpr double lensTolerance = 0.004;                       // relative, of a side, by distortion
 constexpr double greatestPattern = 20.5 * astrometry::degree; // the index has none wider
@@ -28,7 +28,9 @@ struct Sky {
 
 double distance(CentredPixel a, CentredPixel b)
 {
-    return std::hypot(a.x - b.x, a.y - b.y);
+    const double dx = a.x - b.x;
+    const double dy = a.y - b.y;
+    return std::sqrt(dx * dx + dy * dy);
 }
 
 class Search
@@ -85,8 +87,6 @@ bool Search::tryPattern(const FrameTriangle &t, const Sky &sky, const Pattern &p
                                    {{{t.stars[0], pattern.stars[0]},
                                      {t.stars[1], pattern.stars[1]},
                                      {t.stars[2], pattern.stars[2]}}}};
-    if (!seemsRight(hypothesis, frame, sky.index->stars, sky.places))
-        return false;
     Verification verification = verify(hypothesis, frame, sky.index->stars, sky.places);
     const double logChance = std::log(tries) - verification.logOdds;
     if (!(logChance < std::log(options.acceptedChance)))
@@ -114,8 +114,8 @@ bool Search::tryTriangle(const std::array<std::size_t, 3> &stars)
     const double greatest =
         std::min(options.greatestScale * astrometry::arcsecond, greatestPattern / longest);
     const double centroids = frame.centroidError() / longest;
-    const double tolerance = lensTolerance + shapeChange + 2.0 * centroids;
-    const double sideTolerance = lensTolerance + 3.0 * frame.centroidError() / shortest;
+    const double tolerance = lensTolerance + shapeChange + 1.3 * centroids;
+    const double sideTolerance = lensTolerance + 1.3 * frame.centroidError() / shortest;
     for (const ScaleRange &range : scaleRanges(farthest, least, greatest)) {
         const auto triangle = triangleAt(stars, pixels, range);
         if (!triangle)

@@ -17,18 +17,22 @@ constexpr std::size_t mostStars = 80;     // of the frame, that odds are compute
 constexpr double distractors = 0.4;       // part of the frame's stars that need be in no catalogue
 constexpr double lensDistortion = 0.0015; // pixels a pixel of distance from the known stars
 constexpr double searchSigmas = 3.5;
-constexpr std::size_t quickStars = 12;
-constexpr std::size_t quickEmpty = 7; // so many without a hit are enough
-constexpr std::size_t quickHits = 2;
+constexpr double hopeless = -4.5;      // of the logarithm of the odds: given up
+constexpr std::size_t trialStars = 14; // by which the odds must have risen
+constexpr double leastTrialOdds = 2.0; // of the logarithm
+constexpr double unevenness = 1.5;     // of the density of stars, in the trial
+constexpr double leastExpected = 3.0;  // stars in a frame
 constexpr int densityColumns = 6;
 constexpr int densityRows = 5;
+
+// Of the catalogue's part of one hemisphere, steradians.
+const double capArea = 2.0 * astrometry::pi * (1.0 - std::cos(catalogueRadius));
 
 // How many of the catalogue's brightest are compared with n stars of a frame: three times as many
 // as the frame would show if its part of the sky were as full as the mean.
 std::size_t brightestFor(std::size_t n, const Pose &pose, const FrameStars &frame,
                          const PoleStars &stars)
 {
-    const double capArea = 2.0 * astrometry::pi * (1.0 - std::cos(catalogueRadius));
     const double frameArea = frame.area() / (pose.focalLength * pose.focalLength);
     const double wanted =
         (3.0 * static_cast<double>(n) + 10.0) * std::max(capArea / frameArea, 1.0);
@@ -79,7 +83,7 @@ public:
     Verifier(const Hypothesis &hypothesis, const FrameStars &frameStars, const PoleStars &poleStars,
              const std::vector<Vector3> &starPlaces);
 
-    bool seemsRight();
+    bool passesTrial();
     Verification run();
 
 private:
@@ -99,6 +103,7 @@ private:
     Prediction predict(std::size_t star) const;
     Nearest nearest(const Prediction &prediction) const;
     std::size_t expectedStars() const;
+    double addStar(std::size_t i, double expected, std::vector<Pair> &pairs);
 
     const Hypothesis &given;
     const FrameStars &frame;
@@ -122,6 +127,7 @@ Verifier::Verifier(const Hypothesis &hypothesis, const FrameStars &frameStars,
     for (const auto &[star, catalogue] : given.triangle)
         middle += toComplex(frame.at(star, given.mirrored)) / 3.0;
     for (const auto &[star, catalogue] : given.triangle) {
+        claimed.push_back(catalogue);
         const Complex pixel = toComplex(frame.at(star, given.mirrored));
         const auto where = given.pose.pixelOf(places[catalogue]);
         const Complex residual = where ? pixel - toComplex(*where) : Complex(0.0);
@@ -177,28 +183,6 @@ Verifier::Nearest Verifier::nearest(const Prediction &prediction) const
     return best;
 }
 
-bool Verifier::seemsRight()
-{
-    for (const auto &[star, catalogue] : given.triangle)
-        claimed.push_back(catalogue);
-    std::size_t looked = 0;
-    std::size_t hits = 0;
-    for (std::size_t i = 0; i < frame.size() && looked < quickStars; ++i) {
-        if (ofTriangle(i))
-            continue;
-        ++looked;
-        const Nearest found = nearest(predict(i));
-        if (found.density > 0.0) {
-            claimed.push_back(found.star);
-            if (++hits >= quickHits)
-                return true;
-        }
-        if (looked >= quickEmpty && hits == 0)
-            return false;
-    }
-    return false;
-}
-
 // How many catalogue stars can lie in the frame: at least as many as do, for the density's sake.
 std::size_t Verifier::expectedStars() const
 {
@@ -207,36 +191,56 @@ std::size_t Verifier::expectedStars() const
     const auto last = places.begin() + static_cast<std::ptrdiff_t>(brightest);
     const auto n = std::count_if(places.begin(), last,
                                  [&](const Vector3 &p) { return dot(p, forward) > leastCosine; });
-    return std::max<std::size_t>(static_cast<std::size_t>(n), 3);
+    return static_cast<std::size_t>(n);
+}
+
+// The odds of one more star; where it is likelier a catalogue star than not, it is taken for it.
+double Verifier::addStar(std::size_t i, double expected, std::vector<Pair> &pairs)
+{
+    const Prediction prediction = predict(i);
+    const Nearest found = nearest(prediction);
+    const double atRandom = frame.randomDensity(i);
+    const double stray = distractors * atRandom;
+    if ((1.0 - distractors) * found.density / expected > stray) {
+        claimed.push_back(found.star);
+        pairs.emplace_back(i, found.star);
+        // The residual against the pose itself, not against what has been corrected already.
+        const Complex pixel = toComplex(frame.at(i, given.mirrored));
+        correction.add(pixel / frame.radius(), found.residual + (pixel - prediction.pixel),
+                       ownVariance(pixel));
+    }
+    return std::log((stray + (1.0 - distractors) * found.sum / expected) / atRandom);
+}
+
+bool Verifier::passesTrial()
+{
+    const double cap = capArea * given.pose.focalLength * given.pose.focalLength; // pixels
+    const double expected =
+        std::max(static_cast<double>(brightest) * std::min(unevenness * frame.area() / cap, 1.0),
+                 leastExpected);
+    std::vector<Pair> pairs;
+    double logOdds = 0.0;
+    std::size_t looked = 0;
+    for (std::size_t i = 0; i < frame.size() && looked < trialStars; ++i) {
+        if (ofTriangle(i))
+            continue;
+        ++looked;
+        logOdds += addStar(i, expected, pairs);
+        if (logOdds < hopeless)
+            return false;
+    }
+    return logOdds >= leastTrialOdds;
 }
 
 Verification Verifier::run()
 {
     Verification result;
     result.pairs.assign(given.triangle.begin(), given.triangle.end());
-    claimed.clear();
-    for (const auto &[star, catalogue] : given.triangle)
-        claimed.push_back(catalogue);
-    const auto expected = static_cast<double>(expectedStars());
+    const double expected = std::max(static_cast<double>(expectedStars()), leastExpected);
     const std::size_t n = std::min(frame.size(), mostStars);
-    for (std::size_t i = 0; i < n; ++i) {
-        if (ofTriangle(i))
-            continue;
-        const Prediction prediction = predict(i);
-        const Nearest found = nearest(prediction);
-        const double atRandom = frame.randomDensity(i);
-        const double stray = distractors * atRandom;
-        const double odds = (stray + (1.0 - distractors) * found.sum / expected) / atRandom;
-        result.logOdds += std::log(odds);
-        if ((1.0 - distractors) * found.density / expected <= stray)
-            continue;
-        claimed.push_back(found.star);
-        result.pairs.emplace_back(i, found.star);
-        // The residual against the pose itself, not against what has been corrected already.
-        const Complex pixel = toComplex(frame.at(i, given.mirrored));
-        correction.add(pixel / frame.radius(), found.residual + (pixel - prediction.pixel),
-                       ownVariance(pixel));
-    }
+    for (std::size_t i = 0; i < n; ++i)
+        if (!ofTriangle(i))
+            result.logOdds += addStar(i, expected, result.pairs);
     return result;
 }
 } // namespace
@@ -269,15 +273,11 @@ void FrameStars::estimateDensities(int width, int height)
     }
 }
 
-bool seemsRight(const Hypothesis &hypothesis, const FrameStars &frame, const PoleStars &stars,
-                const std::vector<Vector3> &places)
-{
-    return Verifier(hypothesis, frame, stars, places).seemsRight();
-}
-
 Verification verify(const Hypothesis &hypothesis, const FrameStars &frame, const PoleStars &stars,
                     const std::vector<Vector3> &places)
 {
+    if (!Verifier(hypothesis, frame, stars, places).passesTrial())
+        return {hopeless, {}};
     return Verifier(hypothesis, frame, stars, places).run();
 }
 } // namespace recognition

@@ -61,12 +61,8 @@ struct Hypothesis {
     std::array<Pair, 3> triangle;
 };
 
-/// Whether a few of the brightest stars fall on catalogue stars: cheap, and wrong poses seldom
-/// pass.
+/// Poses that the first stars speak against are given up early, with low odds.
 /// @param places of all stars, in the order of PoleStars
-bool seemsRight(const Hypothesis &hypothesis, const FrameStars &frame, const PoleStars &stars,
-                const std::vector<astrometry::Vector3> &places);
-
 Verification verify(const Hypothesis &hypothesis, const FrameStars &frame, const PoleStars &stars,
                     const std::vector<astrometry::Vector3> &places);
 } // namespace recognition
