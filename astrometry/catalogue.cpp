@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Finds the template stars in the catalogue.
-#include "virtualcamera/catalogue.h"
+#include "astrometry/catalogue.h"
 
-#include "virtualcamera/vector3.h"
+#include "astrometry/vector3.h"
 
-namespace virtualsky
+namespace astrometry
 {
 namespace
 {
@@ -39,4 +39,4 @@ const CatalogueStar &templateStar(bool south, TemplateStar star)
     const Place &place = templatePlaces[south ? 1 : 0][static_cast<int>(star)];
     return nearestStar(place.ra, place.dec);
 }
-} // namespace virtualsky
+} // namespace astrometry

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Reads and writes the dates of the sky file.
+// Reads and writes dates.
+#include "astrometry/utcdate.h"
+
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
 
-#include "virtualcamera/skykeys.h"
-
-namespace virtualsky
+namespace astrometry
 {
 namespace
 {
@@ -105,4 +105,4 @@ std::string formatDate(double utcSeconds)
     }
     return date + 'Z';
 }
-} // namespace virtualsky
+} // namespace astrometry
