@@ -6,8 +6,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 #include <memory>
 #include <opencv2/imgproc.hpp>
+#include <utility>
 
 namespace recognition
 {
@@ -28,7 +30,13 @@ constexpr float loneShare = 0.5f;
 constexpr float loneThreshold = 5.0f; // times the noise
 
 struct CatalogueDeleter {
-    void operator()(sep_catalog *found) const { sep_catalog_free(found); }
+    void operator()(sep_catalog *found) const
+    {
+        // SEP 1.2.1 forgets these two; a later one finds that there is nothing left to free.
+        std::free(std::exchange(found->flux, nullptr));
+        std::free(std::exchange(found->cflux, nullptr));
+        sep_catalog_free(found);
+    }
 };
 
 // The kernel lets independent noise of 1 stay 1.
