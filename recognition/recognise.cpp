@@ -2,8 +2,7 @@
 // From a list of stars to the pole: search, refinement and what follows from the mapping.
 #include "recognition/recognise.h"
 
-#include "astrometry/catalogue.h"
-#include "recognition/fieldstars.h"
+#include "recognition/outcome.h"
 #include "recognition/patterns.h"
 #include "recognition/refinement.h"
 #include "recognition/search.h"
@@ -83,38 +82,6 @@ std::vector<std::size_t> fieldOf(const SearchResult &found, const FrameStars &fr
             field.push_back(stars.catalogueIndex(i));
     return field;
 }
-
-void measurePole(const RecognitionOptions &options, Recognition &result)
-{
-    const Vector3 pole = {0.0, 0.0, result.hemisphere == Hemisphere::North ? 1.0 : -1.0};
-    const std::optional<PixelPlace> place = result.mapping.pixelOf(pole);
-    if (!place) {
-        result.status = RecognitionStatus::NoMatch;
-        return;
-    }
-    result.pole = *place;
-    result.poleCovariance = result.mapping.covarianceAt(*place);
-    result.poleSigmaArcseconds =
-        result.mapping.scaleAt(*place) *
-        std::sqrt(0.5 * (result.poleCovariance.xx + result.poleCovariance.yy));
-    result.rollDegrees = rollOf(result.mapping, result.hemisphere, options.utcSeconds);
-}
-
-void fill(const Refined &refined, const UsableStars &usable, const SearchResult &found,
-          const RecognitionOptions &options, Recognition &result)
-{
-    result.status = RecognitionStatus::Recognised;
-    result.hemisphere = found.hemisphere;
-    result.mapping = refined.mapping;
-    result.mirrored = refined.mapping.isMirrored();
-    result.rms = refined.rms;
-    result.chance = std::min(1.0, std::exp(found.logChance));
-    result.matched = refined.matched;
-    for (MatchedStar &star : result.matched)
-        star.detected = usable.given[star.detected];
-    result.scale = result.mapping.scaleAt({(result.width - 1) / 2.0, (result.height - 1) / 2.0});
-    measurePole(options, result);
-}
 } // namespace
 
 Recognition recognise(const std::vector<DetectedStar> &stars, int width, int height,
@@ -145,8 +112,12 @@ Recognition recognise(const std::vector<DetectedStar> &stars, int width, int hei
     const std::optional<Refined> refined =
         refine({usable.stars, width, height}, found->hypothesis.mirrored, known,
                fieldOf(*found, frame, poleStars, options.utcSeconds), options);
-    if (refined && refined->matched.size() >= leastStars)
-        fill(*refined, usable, *found, options, result);
+    if (!refined || refined->matched.size() < leastStars)
+        return result;
+    result = outcomeOf(*refined, {usable.stars, width, height}, found->hemisphere, found->logChance,
+                       stars.size(), options);
+    for (MatchedStar &star : result.matched)
+        star.detected = usable.given[star.detected];
     return result;
 }
 } // namespace recognition

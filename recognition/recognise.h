@@ -59,6 +59,7 @@ struct Recognition {
     std::size_t extracted = 0; ///< how many stars were given
     Hemisphere hemisphere = Hemisphere::North;
     double utcSeconds = 0.0; ///< as in the options
+    bool observed = false;   ///< refraction was applied: the options had an observer
     int width = 0;           ///< pixels of the frame
     int height = 0;
     SkyMapping mapping;

@@ -16,16 +16,18 @@ using astrometry::Vector3;
 using Complex = std::complex<double>;
 
 constexpr int rounds = 10;
-constexpr double firstRadius = 5.0;      // pixels, of the first match
-constexpr double leastRadius = 1.5;      // pixels
-constexpr double matchSigmas = 6.0;      // of the residuals' scatter
-constexpr double biweightSigmas = 6.0;   // Tukey's constant, in sigmas of a star
-constexpr double blendWidths = 3.0;      // full widths within which two stars disturb each other
-constexpr double centroidFloor = 0.03;   // pixels, one axis
-constexpr double saturatedFloor = 0.15;  // pixels, one axis
-constexpr double catalogueError = 0.12;  // arcseconds, one axis, of one star
-constexpr double systematicError = 0.15; // arcseconds, one axis, common to all stars
-constexpr double typicalWidth = 2.5;     // pixels, where none is given
+constexpr double firstRadius = 5.0;     // pixels, of the first match
+constexpr double leastRadius = 1.5;     // pixels
+constexpr double matchSigmas = 6.0;     // of the residuals' scatter
+constexpr double biweightSigmas = 6.0;  // Tukey's constant, in sigmas of a star
+constexpr double blendWidths = 3.0;     // full widths within which two stars disturb each other
+constexpr double centroidFloor = 0.03;  // pixels, one axis
+constexpr double saturatedFloor = 0.15; // pixels, one axis
+constexpr double catalogueError = 0.12; // arcseconds, one axis, of one star
+// Common to all stars, arcseconds, one axis. Without a site the diurnal aberration is left out.
+constexpr double systematicError = 0.1;
+constexpr double systematicErrorWithoutSite = 0.22;
+constexpr double typicalWidth = 2.5; // pixels, where none is given
 
 double medianOf(std::vector<double> values)
 {
@@ -305,7 +307,8 @@ void Refiner::setNoise(const std::vector<FitPoint> &fitted)
     best.fit.noise = {student * (own * sum.xx / freedom + (1.0 - own) * round),
                       student * own * sum.xy / freedom,
                       student * (own * sum.yy / freedom + (1.0 - own) * round)};
-    const double floor = systematicError * astrometry::arcsecond;
+    const double floor =
+        astrometry::arcsecond * (options.observer ? systematicError : systematicErrorWithoutSite);
     best.fit.floor2 = floor * floor;
 }
 
