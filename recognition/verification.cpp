@@ -143,8 +143,8 @@ bool Verifier::ofTriangle(std::size_t star) const
 
 double Verifier::ownVariance(Complex pixel) const
 {
-    const double distortion = lensDistortion * std::abs(pixel - middle);
-    return frame.centroidError() * frame.centroidError() + distortion * distortion;
+    return frame.centroidError() * frame.centroidError() +
+           lensDistortion * lensDistortion * std::norm(pixel - middle);
 }
 
 Verifier::Prediction Verifier::predict(std::size_t star) const
