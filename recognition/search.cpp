@@ -15,10 +15,9 @@ namespace
 using astrometry::Vector3;
 
 constexpr std::size_t brightestInFrame = 12;
-constexpr std::size_t moreInFrame = 20;
 constexpr std::size_t brightestInPart = 7;
 constexpr double leastSide = 8.0;                             // pixels
-constexpr double lensTolerance = 0.004;                       // relative, of a side, by distortion
+constexpr double lensTolerance = 0.0025;                      // relative, of a side, by distortion
 constexpr double greatestPattern = 20.5 * astrometry::degree; // the index has none wider
 
 struct Sky {
@@ -39,9 +38,8 @@ class Search
 public:
     Search(const FrameStars &frameStars, const RecognitionOptions &recognitionOptions);
 
-    /// True when found. Every triangle of a list of stars, the first ones first; those whose last
-    /// star comes before `newFrom` have been tried.
-    bool tryTriangles(const std::vector<std::size_t> &stars, std::size_t newFrom = 2);
+    /// True when found. Every triangle of a list of stars, the first ones first.
+    bool tryTriangles(const std::vector<std::size_t> &stars);
     std::optional<SearchResult> found;
 
 private:
@@ -136,9 +134,9 @@ bool Search::tryTriangle(const std::array<std::size_t, 3> &stars)
     return false;
 }
 
-bool Search::tryTriangles(const std::vector<std::size_t> &stars, std::size_t newFrom)
+bool Search::tryTriangles(const std::vector<std::size_t> &stars)
 {
-    for (std::size_t c = newFrom; c < stars.size(); ++c)
+    for (std::size_t c = 2; c < stars.size(); ++c)
         for (std::size_t b = 1; b < c; ++b)
             for (std::size_t a = 0; a < b; ++a) {
                 if (tryTriangle({stars[a], stars[b], stars[c]}))
@@ -174,9 +172,6 @@ std::optional<SearchResult> search(const FrameStars &frame, int width, int heigh
                                                      {x * width, y * height}, fraction * width,
                                                      fraction * height)))
                     return std::move(attempt.found);
-    if (attempt.tryTriangles(brightestOf(frame, moreInFrame, {0, 0}, width, height),
-                             brightestInFrame))
-        return std::move(attempt.found);
     return std::nullopt;
 }
 } // namespace recognition

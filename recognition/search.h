@@ -18,7 +18,7 @@ struct SearchResult {
 };
 
 /// Tries the triangles of the brightest stars, then those of the brightest stars of parts of the
-/// frame, then those of more stars, until a pose is surer than `options.acceptedChance`.
+/// frame, until a pose is surer than `options.acceptedChance`.
 std::optional<SearchResult> search(const FrameStars &frame, int width, int height,
                                    const RecognitionOptions &options);
 } // namespace recognition
