@@ -6,7 +6,20 @@
 #include "mainwindow/mainwindow.h"
 
 #include <QApplication>
+#include <QDateTime>
 #include <cstdlib>
+#include <optional>
+
+namespace
+{
+/// The present date for `--angles-of-date`, as UTC since 1970.
+std::optional<double> dateOfAngles()
+{
+    if (!QCoreApplication::arguments().contains(QStringLiteral("--angles-of-date")))
+        return {};
+    return double(QDateTime::currentMSecsSinceEpoch()) / 1000.0;
+}
+} // namespace
 
 int main(int argc, char *argv[])
 {
@@ -14,7 +27,7 @@ int main(int argc, char *argv[])
     QApplication application(argc, argv);
     // Without a log file Qt's own output stays.
     startProgram(application, QUORVANDEL_FILE_LOG ? logMessageHandler : nullptr);
-    MainWindow window;
+    MainWindow window(nullptr, dateOfAngles());
     const TerminationSignals closing(window);
     window.show();
     const int status = QApplication::exec();

@@ -15,6 +15,7 @@
 #include "dialogs/poletrackingdialog.h"
 #include "dialogs/settingsfile.h"
 #include "dialogs/style.h"
+#include "geometry/anglesofdate.h"
 #include "geometry/saturate.h"
 #include "geometry/starcatalogue.h"
 #include "mainwindow/wizardtable.h"
@@ -49,7 +50,7 @@ QTimer *makeTimer(QObject *parent, int milliseconds)
 }
 } // namespace
 
-MainWindow::MainWindow(QWidget *parent)
+MainWindow::MainWindow(QWidget *parent, std::optional<double> anglesAt)
     : QMainWindow(parent),
       ui(std::make_unique<Ui::MainWindow>()),
       blankImage(int(frameWidthDefault), int(frameHeightDefault), QImage::Format_ARGB32)
@@ -69,6 +70,10 @@ MainWindow::MainWindow(QWidget *parent)
     setCameraDefaults(cameraState);
     currentStep = 0;
     loadStarCatalogue();
+    if (anglesAt) {
+        takeAnglesOfDate(northCatalogue, false, *anglesAt);
+        takeAnglesOfDate(southCatalogue, true, *anglesAt);
+    }
     computeTemplatePoles();
     if (!loadSettings())
         takeSettings(Settings());

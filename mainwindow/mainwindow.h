@@ -43,7 +43,9 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    explicit MainWindow(QWidget *parent = nullptr);
+    /// \param anglesAt UTC since 1970: the template stars' angles are computed for this date;
+    /// without it the built-in ones are taken
+    explicit MainWindow(QWidget *parent = nullptr, std::optional<double> anglesAt = {});
     ~MainWindow() override;
 
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -16,7 +16,7 @@
 namespace recognition
 {
 /// How much a ratio of sides may change within a range of scales.
-inline constexpr double shapeChange = 0.003;
+inline constexpr double shapeChange = 0.002;
 
 struct ScaleRange {
     double least, greatest; ///< radians a pixel

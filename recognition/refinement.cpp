@@ -26,7 +26,7 @@ constexpr double saturatedFloor = 0.15; // pixels, one axis
 constexpr double catalogueError = 0.12; // arcseconds, one axis, of one star
 // Common to all stars, arcseconds, one axis. Without a site the diurnal aberration is left out.
 constexpr double systematicError = 0.1;
-constexpr double systematicErrorWithoutSite = 0.22;
+constexpr double systematicErrorWithoutSite = 0.19;
 constexpr double typicalWidth = 2.5; // pixels, where none is given
 
 double medianOf(std::vector<double> values)

@@ -17,7 +17,7 @@ using astrometry::Vector3;
 constexpr std::size_t brightestInFrame = 12;
 constexpr std::size_t brightestInPart = 7;
 constexpr double leastSide = 8.0;                             // pixels
-constexpr double lensTolerance = 0.004;                       // relative, of a side, by distortion
+constexpr double lensTolerance = 0.0025;                      // relative, of a side, by distortion
 constexpr double greatestPattern = 20.5 * astrometry::degree; // the index has none wider
 
 struct Sky {

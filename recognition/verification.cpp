@@ -14,11 +14,11 @@ using astrometry::Vector3;
 using Complex = std::complex<double>;
 
 constexpr std::size_t mostStars = 80;     // of the frame, that odds are computed from
-constexpr double distractors = 0.4;       // part of the frame's stars that need be in no catalogue
+constexpr double distractors = 0.55;      // part of the frame's stars that need be in no catalogue
 constexpr double lensDistortion = 0.0015; // pixels a pixel of distance from the known stars
 constexpr double searchSigmas = 3.5;
-constexpr double hopeless = -4.5;      // of the logarithm of the odds: given up
-constexpr std::size_t trialStars = 14; // by which the odds must have risen
+constexpr double hopeless = -7.0;      // of the logarithm of the odds: given up
+constexpr std::size_t trialStars = 18; // by which the odds must have risen
 constexpr double leastTrialOdds = 2.0; // of the logarithm
 constexpr double unevenness = 1.5;     // of the density of stars, in the trial
 constexpr double leastExpected = 3.0;  // stars in a frame
@@ -143,8 +143,8 @@ bool Verifier::ofTriangle(std::size_t star) const
 
 double Verifier::ownVariance(Complex pixel) const
 {
-    const double distortion = lensDistortion * std::abs(pixel - middle);
-    return frame.centroidError() * frame.centroidError() + distortion * distortion;
+    return frame.centroidError() * frame.centroidError() +
+           lensDistortion * lensDistortion * std::norm(pixel - middle);
 }
 
 Verifier::Prediction Verifier::predict(std::size_t star) const
