@@ -24,10 +24,6 @@ struct Range {
 Range rangeOf(const cv::Mat1f &image, const cv::Rect &area)
 {
     Range range = {image(area.y, area.x), image(area.y, area.x)};
-    // Mostly two pixels in a row are enough to see that there is structure.
-    const float next = image(area.y, area.x + std::min(1, area.width - 1));
-    if (std::abs(next - range.low) > flatRange)
-        return {std::min(next, range.low), std::max(next, range.low)};
     for (int y = area.y; y < area.br().y; ++y) {
         const float *row = image[y];
         for (int x = area.x; x < area.br().x; ++x) {
@@ -46,15 +42,29 @@ cv::Rect blockArea(const cv::Mat1f &image, int column, int row)
            cv::Rect(0, 0, image.cols, image.rows);
 }
 
+// Mostly two pixels of a row are enough to see that there is structure.
+bool isSurelyStructured(const float *row, int columns)
+{
+    for (int x = 1; x < columns; ++x)
+        if (std::abs(row[x] - row[x - 1]) > flatRange)
+            return true;
+    return false;
+}
+
 // The value of each flat block, `structured` for the others.
 cv::Mat1f flatBlocks(const cv::Mat1f &image)
 {
-    cv::Mat1f flat((image.rows + block - 1) / block, (image.cols + block - 1) / block);
-    for (int j = 0; j < flat.rows; ++j)
+    cv::Mat1f flat((image.rows + block - 1) / block, (image.cols + block - 1) / block, structured);
+    for (int j = 0; j < flat.rows; ++j) {
+        const float *row = image[j * block];
         for (int i = 0; i < flat.cols; ++i) {
+            if (isSurelyStructured(row + i * block, std::min(block, image.cols - i * block)))
+                continue;
             const Range range = rangeOf(image, blockArea(image, i, j));
-            flat(j, i) = range.high - range.low <= flatRange ? range.low : structured;
+            if (range.high - range.low <= flatRange)
+                flat(j, i) = range.low;
         }
+    }
     return flat;
 }
 

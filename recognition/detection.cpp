@@ -21,8 +21,8 @@ constexpr int leastArea = 1;
 constexpr int deblendLevels = 8;
 constexpr double deblendContrast = 0.02;
 constexpr std::size_t pixelStack = 100000;
-constexpr double mostLight = 0.2; // part of the picture above the threshold
-constexpr int sampleStep = 61;    // pixels between those that the smoothed noise is measured by
+constexpr double mostLight = 0.2;      // part of the picture above the threshold
+constexpr std::size_t sampled = 10000; // pixels that the smoothed noise is measured by
 
 // Alone: the four pixels beside it have less than this share of its light together. Those of a star
 // 1.5 pixels wide, centred on a pixel, have 1.5 times as much as the pixel.
@@ -56,8 +56,8 @@ struct Spread {
 Spread spreadOf(const cv::Mat1f &image)
 {
     std::vector<float> sample;
-    sample.reserve(image.total() / sampleStep + 1);
-    for (std::size_t i = 0; i < image.total(); i += sampleStep)
+    const std::size_t step = image.total() / sampled | 1; // odd: not always the same columns
+    for (std::size_t i = 0; i < image.total(); i += step)
         sample.push_back(image.ptr<float>()[i]);
     const auto middle = sample.begin() + static_cast<std::ptrdiff_t>(sample.size() / 2);
     std::nth_element(sample.begin(), middle, sample.end());

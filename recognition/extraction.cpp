@@ -71,8 +71,9 @@ ExtractionStatus verdict(const Extraction &found, const ExtractionOptions &optio
     return few ? ExtractionStatus::TooFewStars : ExtractionStatus::Ok;
 }
 
-// @param roughness of the background
-void report(FrameStars &stars, double roughness, const ExtractionOptions &options, Extraction &out)
+// @param roughness of the background @param full the frame's greatest value
+void report(FrameStars &stars, double roughness, double full, const ExtractionOptions &options,
+            Extraction &out)
 {
     out.elongation = stars.elongation();
     stars.sift();
@@ -80,10 +81,15 @@ void report(FrameStars &stars, double roughness, const ExtractionOptions &option
     for (const MeasuredStar &found : stars.all())
         out.stars.push_back(found.star);
     out.status = verdict(out, options);
-    if (out.status != ExtractionStatus::Ok && roughness > skyRoughness) {
-        out.stars.clear();
+    if (out.status == ExtractionStatus::Ok)
+        return;
+    // Why there are no better stars.
+    if (out.background > nearFullScale * full)
+        out.status = ExtractionStatus::SaturatedSky;
+    else if (roughness > skyRoughness)
         out.status = ExtractionStatus::NoSky;
-    }
+    if (out.status == ExtractionStatus::NoSky)
+        out.stars.clear();
 }
 } // namespace
 
@@ -111,10 +117,6 @@ Extraction extractStars(const cv::Mat &frame, const ExtractionOptions &options)
     }
     out.background = double(background->medianLevel());
     out.noise = double(background->medianNoise()) * bin;
-    if (out.background > nearFullScale * full) {
-        out.status = ExtractionStatus::SaturatedSky;
-        return out;
-    }
     background->normalise(sky);
     if (bin == 1)
         removeHotPixels(sky);
@@ -123,7 +125,7 @@ Extraction extractStars(const cv::Mat &frame, const ExtractionOptions &options)
         out.status = ExtractionStatus::NoSky;
         return out;
     }
-    report(stars, background->roughness(), options, out);
+    report(stars, background->roughness(), full, options, out);
     return out;
 }
 } // namespace recognition

@@ -15,14 +15,14 @@
 
 namespace recognition
 {
-/// What a frame is good for. After BadFrame to NoSky there are no stars; after the others those
-/// that there are.
+/// What a frame is good for. After BadFrame, TooLarge, Black and NoSky there are no stars; after
+/// the others those that there are.
 enum class ExtractionStatus {
     Ok,
     BadFrame,     ///< empty, below 32 pixels a side, not 8 or 16 bit, not 1 or 3 channels
     TooLarge,     ///< above 24 megapixels
     Black,        ///< no light at all: a cap on the lens, no exposure
-    SaturatedSky, ///< the background itself is at full scale
+    SaturatedSky, ///< the background is near full scale, and the stars are too few or have no shape
     NoSky,        ///< structure everywhere: not the sky at night
     OutOfFocus,   ///< `fwhm` above `ExtractionOptions::widestFwhm`
     Trailed,      ///< most stars are drawn out, `elongation` times as long as wide

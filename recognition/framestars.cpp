@@ -68,9 +68,10 @@ bool insideEdges(const DetectedStar &star, const cv::Mat &frame)
            star.y <= frame.rows - 1 - margin;
 }
 
-double distance(const DetectedStar &a, const DetectedStar &b)
+bool isWithin(const DetectedStar &star, double x, double y)
 {
-    return std::hypot(a.x - b.x, a.y - b.y);
+    const double dx = star.x - x, dy = star.y - y, reach = std::max(1.5, 0.7 * star.fwhm);
+    return dx * dx + dy * dy < reach * reach;
 }
 } // namespace
 
@@ -100,11 +101,8 @@ FrameStars::FrameStars(const cv::Mat &picture, const SkyBackground &sky, int pix
 
 bool FrameStars::known(double x, double y) const
 {
-    return std::any_of(stars.begin(), stars.end(), [x, y](const MeasuredStar &other) {
-        const double dx = other.star.x - x, dy = other.star.y - y;
-        const double reach = std::max(1.5, 0.7 * other.star.fwhm);
-        return dx * dx + dy * dy < reach * reach;
-    });
+    return std::any_of(stars.begin(), stars.end(),
+                       [x, y](const MeasuredStar &other) { return isWithin(other.star, x, y); });
 }
 
 FrameStars::Way FrameStars::wayFor(const Candidate &candidate, int searchBin) const
@@ -220,7 +218,7 @@ void FrameStars::sift()
     std::vector<MeasuredStar> apart;
     for (const MeasuredStar &found : stars)
         if (std::none_of(apart.begin(), apart.end(), [&found](const MeasuredStar &other) {
-                return distance(found.star, other.star) < std::max(1.5, 0.7 * other.star.fwhm);
+                return isWithin(other.star, found.star.x, found.star.y);
             }))
             apart.push_back(found);
     stars = std::move(apart);

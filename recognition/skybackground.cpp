@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The background's grid comes from SEP, measured on every second pixel of every second row.
+// The background's grid begins with SEP's, measured on a part of the pixels, and is refined on
+// them.
 #include "recognition/skybackground.h"
 
 #include "recognition/sepheader.h"
@@ -17,10 +18,11 @@ namespace recognition
 {
 namespace
 {
-constexpr int stride = 2;      // between the pixels that are looked at
-constexpr int usualTile = 64;  // pixels
-constexpr int leastTile = 16;  // pixels
-constexpr int filterTiles = 3; // a median of 3 x 3 tiles against bright stars
+constexpr int columnStride = 2;  // between the pixels that are looked at
+constexpr int tallPicture = 800; // pixels: its tiles hold enough in every fourth row
+constexpr int usualTile = 64;    // pixels
+constexpr int leastTile = 16;    // pixels
+constexpr int filterTiles = 3;   // a median of 3 x 3 tiles against bright stars
 constexpr double filterLimit = 0.0;
 constexpr float clipSigmas = 2.5f;
 constexpr float cutOffDepth = 2.0f; // times the noise: among a thousand pixels one lies deeper
@@ -31,14 +33,20 @@ int tilesAlong(int pixels)
     return std::max(1, static_cast<int>(std::lround(double(pixels) / tile)));
 }
 
-cv::Mat1f everySecond(const cv::Mat1f &image)
+int rowStride(const cv::Mat1f &image)
 {
-    cv::Mat1f out((image.rows + stride - 1) / stride, (image.cols + stride - 1) / stride);
+    return image.rows >= tallPicture ? 4 : 2;
+}
+
+cv::Mat1f thinned(const cv::Mat1f &image)
+{
+    const int step = rowStride(image);
+    cv::Mat1f out((image.rows + step - 1) / step, (image.cols + columnStride - 1) / columnStride);
     for (int y = 0; y < out.rows; ++y) {
-        const float *in = image[y * stride];
+        const float *in = image[y * step];
         float *to = out[y];
         for (int x = 0; x < out.cols; ++x)
-            to[x] = in[x * stride];
+            to[x] = in[x * columnStride];
     }
     return out;
 }
@@ -243,7 +251,7 @@ private:
 double noiseOfNeighbours(const cv::Mat1f &image, double leastNoise)
 {
     std::vector<float> steps;
-    for (int y = 0; y < image.rows; y += 4)
+    for (int y = 0; y < image.rows; y += 6)
         for (int x = 1; x < image.cols; x += 8)
             if (image(y, x) > blankValue && image(y, x - 1) > blankValue)
                 steps.push_back(std::abs(image(y, x) - image(y, x - 1)));
@@ -261,7 +269,7 @@ struct BackgroundDeleter {
 
 std::optional<SkyBackground> SkyBackground::measure(const cv::Mat1f &image, float leastNoise)
 {
-    cv::Mat1f looked = everySecond(image);
+    cv::Mat1f looked = thinned(image);
     const int nx = tilesAlong(image.cols), ny = tilesAlong(image.rows);
     sep_image picture = {};
     picture.data = looked.data;
@@ -276,8 +284,8 @@ std::optional<SkyBackground> SkyBackground::measure(const cv::Mat1f &image, floa
         return std::nullopt;
     const std::unique_ptr<sep_bkg, BackgroundDeleter> keeper(measured);
     SkyBackground out;
-    out.tileWidth = width * stride;
-    out.tileHeight = height * stride;
+    out.tileWidth = width * columnStride;
+    out.tileHeight = height * rowStride(image);
     cv::Mat1f back(measured->ny, measured->nx, measured->back);
     cv::Mat1f sigma(measured->ny, measured->nx, measured->sigma);
     if (!cv::checkRange(back) || !cv::checkRange(sigma))

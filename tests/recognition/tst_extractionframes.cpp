@@ -89,6 +89,7 @@ private slots:
     void framesThatCannotBeUsed();
     void emptyPictures_data();
     void emptyPictures();
+    void brightSkyKeepsItsStars();
     void sizes_data();
     void sizes();
     void paddedRowsMakeNoDifference();
@@ -160,6 +161,18 @@ void TestExtractionFrames::emptyPictures()
     QCOMPARE(found.status, status);
     QVERIFY(!reasonOf(found).empty());
     QVERIFY(found.stars.size() < 6);
+}
+
+void TestExtractionFrames::brightSkyKeepsItsStars()
+{
+    // A third of the sky's own pixels are at full scale.
+    cv::Mat1w field = starField(640, 480);
+    cv::Mat frame;
+    field.convertTo(frame, CV_8U, 0.2, 240.0 - 0.2 * 2000.0);
+    const Extraction found = extractStars(frame);
+    QVERIFY(found.background > 0.9 * 255);
+    QCOMPARE(found.status, ExtractionStatus::Ok);
+    QVERIFY2(found.stars.size() > 150, qPrintable(QString::number(found.stars.size())));
 }
 
 void TestExtractionFrames::sizes_data()
