@@ -26,8 +26,7 @@ constexpr double saturatedFloor = 0.15; // pixels, one axis
 constexpr double catalogueError = 0.12; // arcseconds, one axis, of one star
 // Common to all stars, arcseconds, one axis. Without a site the diurnal aberration is left out.
 constexpr double systematicError = 0.1;
-constexpr double systematicErrorWithoutSite = 0.2;
-constexpr double reserve = 1.2;      // of the noise's variance: the robust fit trims its tails
+constexpr double systematicErrorWithoutSite = 0.19;
 constexpr double typicalWidth = 2.5; // pixels, where none is given
 
 double medianOf(std::vector<double> values)
@@ -303,12 +302,11 @@ void Refiner::setNoise(const std::vector<FitPoint> &fitted)
     }
     const double freedom = std::max(weights - static_cast<double>(termCount(best.fit.terms)), 1.0);
     const double student = 2.0 * freedom > 4.0 ? freedom / (freedom - 1.0) : 3.0;
-    const double widened = reserve * student;
     const double round = 0.5 * (sum.xx + sum.yy) / freedom;
     const double own = freedom / (freedom + roundStars);
-    best.fit.noise = {widened * (own * sum.xx / freedom + (1.0 - own) * round),
-                      widened * own * sum.xy / freedom,
-                      widened * (own * sum.yy / freedom + (1.0 - own) * round)};
+    best.fit.noise = {student * (own * sum.xx / freedom + (1.0 - own) * round),
+                      student * own * sum.xy / freedom,
+                      student * (own * sum.yy / freedom + (1.0 - own) * round)};
     const double floor =
         astrometry::arcsecond * (options.observer ? systematicError : systematicErrorWithoutSite);
     best.fit.floor2 = floor * floor;
