@@ -64,8 +64,8 @@ std::vector<Triple> triplesOf(const std::vector<Vector3> &places)
                 if (squared <= farthest * farthest)
                     addCircle(places, {x, y, sign * std::sqrt(1.0 - squared)}, radius, triples);
             }
-        removeDuplicates(triples);
     }
+    removeDuplicates(triples);
     return triples;
 }
 

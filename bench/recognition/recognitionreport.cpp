@@ -17,6 +17,8 @@ int main(int argc, char *argv[])
         reportPoles(count > 0 ? count : 400);
     else if (what == "axes")
         reportAxes(count > 0 ? count : 200);
+    else if (what == "fields")
+        reportFields(count > 0 ? count : 1000);
     else if (what == "false")
         return reportFalseFrames(first, count > 0 ? count : 10000) == 0 ? 0 : 1;
     else if (what == "speed")
@@ -27,8 +29,9 @@ int main(int argc, char *argv[])
         return writeFrames(argv[3], count > 0 ? count : 10) ? 0 : 1;
     else {
         std::fprintf(
-            stderr, "usage: recognitionreport skies|poles|axes|false|speed|memory [COUNT [FIRST]]\n"
-                    "       recognitionreport frames COUNT FOLDER\n");
+            stderr,
+            "usage: recognitionreport skies|poles|axes|fields|false|speed|memory [COUNT [FIRST]]\n"
+            "       recognitionreport frames COUNT FOLDER\n");
         return 2;
     }
     return 0;

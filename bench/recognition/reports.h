@@ -8,6 +8,8 @@ void reportSkies(int first, int count);
 void reportPoles(int count);
 /// The axis from three frames 30 degrees apart, `count` nights for each pole.
 void reportAxes(int count);
+/// What part of `count` star lists is recognised, for each field of view and number of false stars.
+void reportFields(int count);
 /// `count` frames in which nothing must be recognised; @return how many were
 int reportFalseFrames(int first, int count);
 /// Medians of the thread's own time over `count` frames.
