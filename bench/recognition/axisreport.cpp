@@ -7,6 +7,8 @@
 #include "recognition/extraction.h"
 #include "recognition/recognise.h"
 
+#include <algorithm>
+#include <cmath>
 #include <cstdio>
 
 namespace

@@ -16,6 +16,6 @@ int reportFalseFrames(int first, int count);
 void reportSpeeds(int count);
 /// Memory before, during and after `count` frames.
 void reportMemory(int count);
-/// Writes `count` frames as PNG files into a folder, with their truth as truth.csv.
+/// Writes `count` frames of one date as PNG files into a folder, with their truth as truth.csv.
 /// @return whether all were written
 bool writeFrames(const char *folder, int count);

@@ -6,6 +6,8 @@
 #include "recognition/extraction.h"
 #include "recognition/recognise.h"
 
+#include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <opencv2/imgcodecs.hpp>
 #include <string>
@@ -55,6 +57,9 @@ void reportSkies(int first, int count)
     }
 }
 
+// 2026-11-20T20:00:00Z: pictures of one date can be recognised in one run.
+constexpr double sameDate = 1795204800.0;
+
 bool writeFrames(const char *folder, int count)
 {
     const std::string place = std::string(folder) + "/";
@@ -66,7 +71,8 @@ bool writeFrames(const char *folder, int count)
     bool written = true;
     for (int number = 0; number < count; ++number) {
         const bool south = number % 2 == 1;
-        const RandomSky sky = plainSky(std::uint64_t(number), south, 2026);
+        RandomSky sky = plainSky(std::uint64_t(number), south, 2026);
+        sky.state.date = sameDate;
         const std::string file = "sky" + std::to_string(number) + ".png";
         written = cv::imwrite(place + file, painter.frameOf(sky)) && written;
         const virtualsky::Point pole = truthOf(sky).pole.value_or(virtualsky::Point{-1e4, -1e4});

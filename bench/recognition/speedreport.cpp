@@ -8,6 +8,8 @@
 #include "recognition/follower.h"
 #include "recognition/recognise.h"
 
+#include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <functional>
 #include <opencv2/imgproc.hpp>
