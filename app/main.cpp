@@ -7,16 +7,41 @@
 #include "mainwindow/mainwindow.h"
 
 #include <QApplication>
+#include <QDateTime>
+#include <cstdio>
 #include <cstdlib>
+#include <cstring>
+#include <optional>
+
+namespace
+{
+/// The present date for `--angles-of-date`, as UTC since 1970.
+std::optional<double> dateOfAngles()
+{
+    if (!QCoreApplication::arguments().contains(QStringLiteral("--angles-of-date")))
+        return {};
+    return double(QDateTime::currentMSecsSinceEpoch()) / 1000.0;
+}
+
+constexpr char usage[] =
+    "usage: quorvandel [--maximized] [--angles-of-date] [--help]\n"
+    "  --maximized       fill the screen from the start\n"
+    "  --angles-of-date  compute the template stars' angles for the present date,\n"
+    "                    instead of using the built-in table\n"
+    "  --help            print this and exit\n";
+} // namespace
 
 int main(int argc, char *argv[])
 {
+    for (int i = 1; i < argc; ++i)
+        if (std::strcmp(argv[i], "--help") == 0)
+            return std::fputs(usage, stdout) < 0 ? EXIT_FAILURE : EXIT_SUCCESS;
     prepareApplication();
     QApplication application(argc, argv);
     // Without a log file, Qt's own output is kept.
     startProgram(application, QUORVANDEL_FILE_LOG ? logMessageHandler : nullptr);
     Session session;
-    MainWindow window(session);
+    MainWindow window(session, nullptr, dateOfAngles());
     const TerminationSignals closing(window);
     if (QApplication::arguments().contains(QLatin1String("--maximized")))
         window.showMaximized();

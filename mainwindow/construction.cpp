@@ -12,6 +12,7 @@
 #include "dialogs/astrorefractiondialog.h"
 #include "dialogs/favoritedialog.h"
 #include "dialogs/poletrackingdialog.h"
+#include "geometry/anglesofdate.h"
 #include "geometry/starcatalogue.h"
 #include "mainwindow/wizardtable.h"
 #include "ui_mainwindow.h"
@@ -48,7 +49,7 @@ QTimer *makeTimer(QObject *parent, int milliseconds)
 }
 } // namespace
 
-MainWindow::MainWindow(Session &shared, QWidget *parent)
+MainWindow::MainWindow(Session &shared, QWidget *parent, std::optional<double> anglesAt)
     : QMainWindow(parent),
       ui(std::make_unique<Ui::MainWindow>()),
       session(shared),
@@ -69,6 +70,10 @@ MainWindow::MainWindow(Session &shared, QWidget *parent)
     setCameraDefaults(session.camera);
     currentStep = 0;
     loadStarCatalogue();
+    if (anglesAt) {
+        takeAnglesOfDate(northCatalogue, false, *anglesAt);
+        takeAnglesOfDate(southCatalogue, true, *anglesAt);
+    }
     computeTemplatePoles();
     if (!loadSettings())
         applySettings(Settings());

@@ -56,7 +56,10 @@ class MainWindow : public QMainWindow
 
 public:
     /// @param shared outlives the window
-    explicit MainWindow(Session &shared, QWidget *parent = nullptr);
+    /// @param anglesAt UTC in seconds since 1970: the template stars' angles are computed for this
+    /// date; without it the built-in ones are used
+    explicit MainWindow(Session &shared, QWidget *parent = nullptr,
+                        std::optional<double> anglesAt = {});
     ~MainWindow() override;
 
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -18,7 +18,7 @@ fi
 cmake --preset release -B "$folder" -DCMAKE_INSTALL_PREFIX=/usr -DQUORVANDEL_TESTS=OFF \
     -DCMAKE_CXX_FLAGS="$CXXFLAGS $CPPFLAGS" \
     -DCMAKE_EXE_LINKER_FLAGS="$LDFLAGS" -DCMAKE_SHARED_LINKER_FLAGS="$LDFLAGS"
-cmake --build "$folder" --target quorvandel veldix quorvandel-mount
+cmake --build "$folder" --target quorvandel veldix quorvandel-mount quorvandel-recognise
 rm -f "$folder"/quorvandel_*.deb
 (cd "$folder" && cpack -G DEB)
 ls "$folder"/quorvandel_*.deb

@@ -19,7 +19,9 @@ pole is. The program shows both live while the bolts of the mount are turned.
 .
 The library of the camera's maker is needed for a real camera. A virtual
 camera and a virtual mount are included, so that all of it can be practised
-indoors.")
+indoors.
+.
+The command quorvandel-recognise finds the pole in pictures by their stars.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 

@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: MIT
 """Draws the star templates north_mask.png and south_mask.png from the star list.
 
-    tools/make_masks.py [--stars virtualcamera/data/pole_stars.csv] [--output resources/images]
+    tools/make_masks.py [--stars astrometry/pole_stars.csv] [--output resources/images]
                         [--rings geometry/templaterings.inc]
 
 Each star is projected from the gnomonic plane about the pole of EPOCH onto the template by the
@@ -241,7 +241,7 @@ def make(name, template, stars, folder):
 def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--stars", type=pathlib.Path,
-                        default=ROOT / "virtualcamera/data/pole_stars.csv")
+                        default=ROOT / "astrometry/pole_stars.csv")
     parser.add_argument("--output", type=pathlib.Path, default=ROOT / "resources/images")
     parser.add_argument("--rings", type=pathlib.Path,
                         default=ROOT / "geometry/templaterings.inc")

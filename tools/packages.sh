@@ -4,7 +4,7 @@
 
 # The smallest sets that will do: to build, to run, to run unseen, for the tests, for the lints.
 packages_build="cmake ninja-build g++ qtbase5-dev qttools5-dev qttools5-dev-tools qtmultimedia5-dev
-  libopencv-core-dev libopencv-imgproc-dev liberfa-dev"
+  libopencv-core-dev libopencv-imgproc-dev libopencv-imgcodecs-dev liberfa-dev libsep-dev"
 packages_run="libqt5multimedia5-plugins gstreamer1.0-plugins-good fonts-dejavu-core fonts-liberation
   fonts-noto-cjk xdg-utils"
 packages_unseen="xvfb"

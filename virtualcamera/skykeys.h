@@ -8,13 +8,14 @@
 #include <variant>
 #include <vector>
 
+#include "astrometry/utcdate.h"
 #include "virtualcamera/skystate.h"
 
 namespace virtualsky
 {
 inline constexpr double boltLimit = 20.0; ///< of the bolts, degrees either way
-inline constexpr int firstYear = 1973;    ///< of dates: UTC has whole leap seconds from then on
-inline constexpr int lastYear = 2100;
+using astrometry::firstYear;
+using astrometry::lastYear;
 
 /// A date, or the word that stands for none.
 struct DateMember {
@@ -41,9 +42,6 @@ std::optional<std::string> setKey(SkyState &state, const SkyKey &key, std::strin
 /// The member as the text that `setKey` reads back to the same value.
 std::string keyText(const SkyState &state, const SkyKey &key);
 
-/// "2026-11-20T20:00:00Z" (UTC, firstYear to lastYear, seconds with up to three decimals) to
-/// seconds since 1970; nothing for anything else.
-std::optional<double> parseDate(std::string_view text);
-/// The other way round, to the nearest millisecond; the seconds' decimals only where there are any.
-std::string formatDate(double utcSeconds);
+using astrometry::formatDate;
+using astrometry::parseDate;
 } // namespace virtualsky

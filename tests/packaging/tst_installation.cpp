@@ -35,10 +35,12 @@ QStringList expectedFiles()
 {
     QStringList files{BINDIR "/quorvandel",
                       BINDIR "/quorvandel-mount",
+                      BINDIR "/quorvandel-recognise",
                       LIBDIR "/quorvandel/libveldix.so.20",
                       LIBEXECDIR "/quorvandel/bin/quorvandel",
                       LIBEXECDIR "/quorvandel/lib",
                       LIBEXECDIR "/quorvandel/share",
+                      MANDIR "/man1/quorvandel-recognise.1",
                       metainfoName};
     for (const QString &program : programs) {
         files << DATADIR "/applications/" + program + ".desktop" << MANDIR "/man1/" + program + ".1"
@@ -46,8 +48,8 @@ QStringList expectedFiles()
         for (const int size : iconSizes)
             files << iconName(size, program);
     }
-    for (const char *name :
-         {"LICENSE", "CHANGELOG.md", "installing.md", "real-camera.md", "virtual-camera.md"})
+    for (const char *name : {"LICENSE", "CHANGELOG.md", "installing.md", "real-camera.md",
+                             "recognition.md", "virtual-camera.md"})
         files << QStringLiteral(DOCDIR "/") + name;
     files.sort();
     return files;
@@ -156,8 +158,9 @@ private slots:
     void programsMayBeStarted_data()
     {
         QTest::addColumn<QString>("name");
-        for (const char *name : {BINDIR "/quorvandel", BINDIR "/quorvandel-mount",
-                                 LIBEXECDIR "/quorvandel/bin/quorvandel"})
+        for (const char *name :
+             {BINDIR "/quorvandel", BINDIR "/quorvandel-mount", BINDIR "/quorvandel-recognise",
+              LIBEXECDIR "/quorvandel/bin/quorvandel"})
             QTest::newRow(name) << QString(name);
     }
 
@@ -213,6 +216,9 @@ private slots:
             QTest::newRow(qPrintable("man page of " + program))
                 << "mandoc" << QStringList{"-Tlint", "-Wwarning", installed(page.arg(program))};
         }
+        QTest::newRow("man page of quorvandel-recognise")
+            << "mandoc"
+            << QStringList{"-Tlint", "-Wwarning", installed(page.arg("quorvandel-recognise"))};
         QTest::newRow("metainfo") << "appstreamcli"
                                   << QStringList{"validate", "--no-net", installed(metainfoName)};
     }

@@ -17,7 +17,7 @@ from astropy.coordinates import FK5, ICRS, SkyCoord
 from astropy.time import Time
 
 DATE = Time("2024-07-01")
-LIST = pathlib.Path(__file__).resolve().parents[2] / "virtualcamera/data/pole_stars.csv"
+LIST = pathlib.Path(__file__).resolve().parents[2] / "astrometry/pole_stars.csv"
 
 # A, B and D by their places (degrees, J2000) with their template pixels, then further stars by HD
 # number; the sign tells how right ascension grows on the screen (+1 clockwise).

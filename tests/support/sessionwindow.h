@@ -14,5 +14,8 @@ struct OwnSession {
 class SessionWindow : public OwnSession, public MainWindow
 {
 public:
-    explicit SessionWindow(QWidget *parent = nullptr) : MainWindow(ownSession, parent) {}
+    explicit SessionWindow(QWidget *parent = nullptr, std::optional<double> anglesAt = {})
+        : MainWindow(ownSession, parent, anglesAt)
+    {
+    }
 };

@@ -101,7 +101,7 @@ void AstrometryTest::refractionStaysBoundedBelowTheHorizon()
 
 void AstrometryTest::catalogueIsComplete()
 {
-    QFile file(QStringLiteral(PROJECT_SOURCE_DIR "/virtualcamera/data/pole_stars.csv"));
+    QFile file(QStringLiteral(PROJECT_SOURCE_DIR "/astrometry/pole_stars.csv"));
     QVERIFY(file.open(QIODevice::ReadOnly));
     file.readLine();
     const CatalogueStar *star = catalogue().begin();

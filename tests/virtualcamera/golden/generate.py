@@ -22,7 +22,7 @@ iers.conf.iers_degraded_accuracy = "ignore"
 erfa_astrom.get_polar_motion = lambda time: (0.0, 0.0)
 
 HERE = os.path.dirname(os.path.abspath(__file__))
-CATALOGUE = os.path.join(HERE, "..", "..", "..", "virtualcamera", "data", "pole_stars.csv")
+CATALOGUE = os.path.join(HERE, "..", "..", "..", "astrometry", "pole_stars.csv")
 DATES = ["1995-03-01T03:14:15", "2016-05-23T00:00:00", "2024-05-23T12:00:00",
          "2026-11-20T20:00:00", "2030-01-01T18:30:00"]
 SITES = [(40.0, 116.0), (69.65, 18.96), (5.0, -170.0), (-35.0, 149.0), (-77.85, 166.67)]

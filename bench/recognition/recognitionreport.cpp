@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+// Measures the recognition of the pole's sky; docs/recognition.md records what it prints.
+#include "bench/recognition/reports.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+int main(int argc, char *argv[])
+{
+    const std::string what = argc > 1 ? argv[1] : "";
+    const int count = argc > 2 ? std::atoi(argv[2]) : 0;
+    const int first = argc > 3 ? std::atoi(argv[3]) : 0;
+    if (what == "skies")
+        reportSkies(first, count > 0 ? count : 2000);
+    else if (what == "poles")
+        reportPoles(count > 0 ? count : 400);
+    else if (what == "axes")
+        reportAxes(count > 0 ? count : 200);
+    else if (what == "fields")
+        reportFields(count > 0 ? count : 1000);
+    else if (what == "false")
+        return reportFalseFrames(first, count > 0 ? count : 10000) == 0 ? 0 : 1;
+    else if (what == "speed")
+        reportSpeeds(count > 0 ? count : 100);
+    else if (what == "memory")
+        reportMemory(count > 0 ? count : 100000);
+    else if (what == "frames" && argc > 3)
+        return writeFrames(argv[3], count > 0 ? count : 10) ? 0 : 1;
+    else {
+        std::fprintf(
+            stderr,
+            "usage: recognitionreport skies|poles|axes|fields|false|speed|memory [COUNT [FIRST]]\n"
+            "       recognitionreport frames COUNT FOLDER\n");
+        return 2;
+    }
+    return 0;
+}

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+// Options to frame to stars to sky.
+#include "recognise/command.h"
+
+#include <chrono>
+
+PictureReport recognisePicture(const std::string &name, const PictureFile &picture,
+                               const CommandLine &wishes, double now)
+{
+    PictureReport report;
+    report.file = name;
+    report.complaint = picture.complaint;
+    if (!report.complaint.empty())
+        return report;
+    recognition::RecognitionOptions options;
+    options.utcSeconds = wishes.date.value_or(picture.date.value_or(now));
+    options.hemisphere = wishes.hemisphere;
+    if (wishes.scale) {
+        options.leastScale = wishes.scale->first;
+        options.greatestScale = wishes.scale->second;
+    }
+    using Clock = std::chrono::steady_clock;
+    const Clock::time_point start = Clock::now();
+    report.extraction = recognition::extractStars(picture.pixels);
+    report.recognition = recognition::recognise(report.extraction.stars, picture.pixels.cols,
+                                                picture.pixels.rows, options);
+    report.seconds = std::chrono::duration<double>(Clock::now() - start).count();
+    return report;
+}

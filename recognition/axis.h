@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+// About which point of the picture does the camera turn with the mount's RA axis?
+#pragma once
+
+#include "recognition/recognise.h"
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace recognition
+{
+/// Least turn from the first to the last of the frames' angles, degrees.
+inline constexpr double leastTurn = 15.0;
+
+enum class AxisStatus {
+    Found,
+    TooFewFrames,    ///< fewer than two recognised frames
+    DifferentFrames, ///< not of one camera: size, mirroring, hemisphere or scale differ
+    TooLittleTurn,   ///< less than `leastTurn` in all
+    Bumped           ///< the frames do not agree on one axis, and no majority does
+};
+
+struct Axis {
+    AxisStatus status = AxisStatus::TooFewFrames;
+    PixelPlace place = {0.0, 0.0}; ///< pixels; it may lie outside the frame
+    Covariance covariance;         ///< pixels squared
+    double sigmaArcseconds = 0.0;  ///< root of the mean of the two variances, on the sky
+    /// Of the frames' turns, degrees: greatest minus least.
+    double totalTurn = 0.0;
+    /// Of each frame against the first recognised one, degrees, -180 to 180, positive as a mount
+    /// tracks (westwards); 0 for frames that were not recognised.
+    std::vector<double> turns;
+    /// Frames that do not turn about the axis of the others: tripod or bolts were moved.
+    std::vector<std::size_t> bumped;
+    /// Whether the frames could have contradicted each other: two alone never do.
+    bool checked = false;
+    double rms = 0.0; ///< arcseconds, by which the frames disagree, both axes
+};
+
+/// The RA axis from frames between which it turned, either way, in any number of steps; the sky
+/// moved meanwhile with the Earth. Each frame's `utcSeconds` must be right within a second or two
+/// against the others. Frames that were not recognised are left out. Recognise with an observer
+/// where refraction matters (below 30 degrees of latitude).
+/// The axis is the pixel that shows, in every frame, the same direction fixed to the Earth.
+Axis axisOfTurns(const std::vector<Recognition> &frames);
+
+/// A sentence about the outcome that a person can act on.
+std::string reason(const Axis &axis);
+} // namespace recognition

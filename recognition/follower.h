@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+// Where is the pole in the next frame of a live picture?
+#pragma once
+
+#include "recognition/recognise.h"
+
+#include <opencv2/core.hpp>
+#include <optional>
+#include <vector>
+
+namespace recognition
+{
+struct FollowerOptions {
+    /// As for `recognise`; utcSeconds is replaced by each frame's own time.
+    RecognitionOptions recognition;
+    int windowRadius = 6;       ///< pixels about a star's expected place, 4 to 64
+    int searchRadius = 24;      ///< pixels, for the brightest ones, that tell how the field moved
+    std::size_t mostStars = 30; ///< measured in a frame, at least leastStars
+};
+
+/// Looks only at windows about the stars of the last frame, as long as they are found there;
+/// otherwise the whole frame is searched, blind but for the scale, mirroring and hemisphere that
+/// were found before. Between frames the field may shift by `searchRadius`, and turn by as much as
+/// leaves its stars in their windows: half a degree. Not for two threads at a time.
+class Follower
+{
+public:
+    explicit Follower(const FollowerOptions &options) : given(options) {}
+
+    /// @param frame 8 or 16 bit, 1 or 3 channels @param utcSeconds middle of the exposure
+    /// `matched[i].detected` indexes `stars()`.
+    Recognition follow(const cv::Mat &frame, double utcSeconds);
+
+    /// The stars that the last frame's recognition rests on.
+    const std::vector<DetectedStar> &stars() const { return measured; }
+    /// Whether the last frame was recognised by windows alone.
+    bool followed() const { return byWindows; }
+    /// Forgets everything; the next frame is searched blind.
+    void reset();
+
+private:
+    struct Target {
+        std::size_t catalogue;
+        PixelPlace place; // where it would be if nothing had moved
+    };
+    struct Shift {
+        double x, y;
+    };
+
+    std::optional<Recognition> byLastFrame(const cv::Mat &frame, double utcSeconds);
+    std::optional<Shift> shiftOf(const cv::Mat &frame, const std::vector<Target> &targets) const;
+    Recognition blind(const cv::Mat &frame, double utcSeconds);
+    void enrol(const Recognition &recognition);
+    void refreshPlaces(double utcSeconds);
+    std::vector<Target> targets() const;
+
+    FollowerOptions given;
+    std::optional<Recognition> last;
+    // The stars to look for, brightest first, and their places as seen at `enrolled`.
+    std::vector<std::size_t> roster;
+    std::vector<astrometry::Vector3> rosterPlaces;
+    double enrolled = 0.0;
+    std::vector<DetectedStar> measured;
+    bool byWindows = false;
+};
+} // namespace recognition

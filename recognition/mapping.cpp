@@ -1,0 +1,166 @@
+// SPDX-License-Identifier: MIT
+// Evaluates the mapping between pixels and sky, its inverse and its covariance.
+#include "recognition/mapping.h"
+
+#include <cmath>
+
+namespace recognition
+{
+namespace
+{
+using astrometry::Vector3;
+using Complex = SkyMapping::Complex;
+
+constexpr double leastForward = 0.1736; // cos 80 degrees
+constexpr double step = 1e-3;           // pixels, of the Jacobian's differences
+constexpr int mostNewtonSteps = 25;
+constexpr double newtonTolerance = 1e-7; // pixels
+constexpr double farthest = 50.0;        // units from the frame's centre, of the inverse
+} // namespace
+
+std::size_t termCount(MappingModel model)
+{
+    constexpr std::size_t counts[] = {2, 3, 3, 4, 6, 10};
+    return counts[static_cast<std::size_t>(model)];
+}
+
+void evaluateTerms(MappingModel model, Complex z, Complex *out)
+{
+    const Complex c = std::conj(z);
+    const double square = std::norm(z);
+    out[0] = 1.0;
+    out[1] = z;
+    switch (model) {
+    case MappingModel::Similarity:
+        break;
+    case MappingModel::Radial:
+        out[2] = z * square;
+        break;
+    case MappingModel::Cubic:
+        out[6] = z * z * z;
+        out[7] = z * square;
+        out[8] = c * square;
+        out[9] = c * c * c;
+        [[fallthrough]];
+    case MappingModel::Quadratic:
+        out[3] = z * z;
+        out[4] = square;
+        out[5] = c * c;
+        out[2] = c;
+        break;
+    case MappingModel::AffineRadial:
+        out[3] = z * square;
+        [[fallthrough]];
+    case MappingModel::Affine:
+        out[2] = c;
+        break;
+    }
+}
+
+SkyMapping::SkyMapping(const Frame &frame, PixelPlace centrePixel, double unitPixels, bool mirror,
+                       const Fit &polynomial)
+    : axes(frame), centre(centrePixel), unit(unitPixels), mirrored(mirror), fit(polynomial)
+{
+}
+
+Complex SkyMapping::unitsOf(PixelPlace pixel) const
+{
+    const double x = (pixel.x - centre.x) / unit;
+    return {mirrored ? -x : x, (pixel.y - centre.y) / unit};
+}
+
+Complex SkyMapping::planeOf(PixelPlace pixel) const
+{
+    Complex values[mostTerms];
+    evaluateTerms(fit.terms, unitsOf(pixel), values);
+    Complex sum = 0.0;
+    for (std::size_t i = 0; i < termCount(fit.terms); ++i)
+        sum += fit.coefficients[i] * values[i];
+    return sum;
+}
+
+std::optional<Complex> SkyMapping::planeOf(const Vector3 &sky) const
+{
+    const double forward = dot(sky, axes.forward);
+    if (!(forward > leastForward))
+        return std::nullopt;
+    return Complex(dot(sky, axes.right) / forward, dot(sky, axes.down) / forward);
+}
+
+Vector3 SkyMapping::skyOf(PixelPlace pixel) const
+{
+    const Complex p = planeOf(pixel);
+    const Vector3 &r = axes.right;
+    const Vector3 &d = axes.down;
+    const Vector3 &f = axes.forward;
+    const Vector3 v = {f.x + p.real() * r.x + p.imag() * d.x, f.y + p.real() * r.y + p.imag() * d.y,
+                       f.z + p.real() * r.z + p.imag() * d.z};
+    return scaled(v, 1.0 / length(v));
+}
+
+SkyMapping::Jacobian SkyMapping::jacobianAt(PixelPlace p) const
+{
+    const Complex alongX =
+        (planeOf(PixelPlace{p.x + step, p.y}) - planeOf(PixelPlace{p.x - step, p.y})) /
+        (2.0 * step);
+    const Complex alongY =
+        (planeOf(PixelPlace{p.x, p.y + step}) - planeOf(PixelPlace{p.x, p.y - step})) /
+        (2.0 * step);
+    return {alongX.real(), alongY.real(), alongX.imag(), alongY.imag()};
+}
+
+std::optional<PixelPlace> SkyMapping::pixelOf(const Vector3 &sky) const
+{
+    const std::optional<Complex> wanted = planeOf(sky);
+    if (!wanted)
+        return std::nullopt;
+    PixelPlace pixel = centre;
+    for (int i = 0; i < mostNewtonSteps; ++i) {
+        const Complex error = *wanted - planeOf(pixel);
+        const Jacobian j = jacobianAt(pixel);
+        const double determinant = j.determinant();
+        if (determinant == 0.0 || !std::isfinite(determinant))
+            return std::nullopt;
+        const double dx = (j.yy * error.real() - j.xy * error.imag()) / determinant;
+        const double dy = (j.xx * error.imag() - j.yx * error.real()) / determinant;
+        pixel.x += dx;
+        pixel.y += dy;
+        if (!(std::hypot(pixel.x - centre.x, pixel.y - centre.y) < farthest * unit))
+            return std::nullopt;
+        if (std::hypot(dx, dy) < newtonTolerance)
+            return pixel;
+    }
+    return std::nullopt;
+}
+
+double SkyMapping::scaleAt(PixelPlace pixel) const
+{
+    // Away from the tangent point the gnomonic plane is wider than the sky: cubed cosine in area.
+    const double squaredTangent = std::norm(planeOf(pixel));
+    const double shrink = std::pow(1.0 + squaredTangent, -0.75);
+    return std::sqrt(std::abs(jacobianAt(pixel).determinant())) * shrink / astrometry::arcsecond;
+}
+
+Covariance SkyMapping::covarianceAt(PixelPlace pixel) const
+{
+    Complex values[mostTerms];
+    evaluateTerms(fit.terms, unitsOf(pixel), values);
+    const std::size_t n = termCount(fit.terms);
+    double leverage = 0.0;
+    for (std::size_t i = 0; i < n; ++i)
+        for (std::size_t k = 0; k < n; ++k)
+            leverage +=
+                std::real(values[i] * fit.inverse[i * mostTerms + k] * std::conj(values[k]));
+    const Covariance plane = {leverage * fit.noise.xx + fit.floor2, leverage * fit.noise.xy,
+                              leverage * fit.noise.yy + fit.floor2};
+    const Jacobian j = jacobianAt(pixel);
+    const double d = j.determinant();
+    const double xx = j.yy / d;
+    const double xy = -j.xy / d;
+    const double yx = -j.yx / d;
+    const double yy = j.xx / d;
+    return {xx * xx * plane.xx + 2.0 * xx * xy * plane.xy + xy * xy * plane.yy,
+            xx * yx * plane.xx + (xx * yy + xy * yx) * plane.xy + xy * yy * plane.yy,
+            yx * yx * plane.xx + 2.0 * yx * yy * plane.xy + yy * yy * plane.yy};
+}
+} // namespace recognition

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+// Frames of the virtual camera, what is recognised in them, and what is true.
+#pragma once
+
+#include <opencv2/core.hpp>
+
+#include "recognition/extraction.h"
+#include "recognition/recognise.h"
+#include "virtualcamera/scene.h"
+#include "virtualcamera/sensor.h"
+#include "virtualcamera/truth.h"
+
+namespace skyframes
+{
+constexpr double november2026 = 1795204800.0;
+constexpr double november2040 = 2236896000.0;
+
+/// A noisy sky, standing still, with the axis near the picture's centre.
+inline virtualsky::SkyState skyOf(bool south, double date)
+{
+    virtualsky::SkyState state;
+    state.latitude = south ? -34.0 : 40.0;
+    state.longitude = south ? 149.0 : 116.0;
+    state.date = date;
+    state.running = false;
+    return state;
+}
+
+inline cv::Mat frameOf(const virtualsky::SkyState &state, double utcSeconds, unsigned number,
+                       double seconds = 0.5, double gain = 50.0)
+{
+    cv::Mat frame(virtualsky::sensorHeight, virtualsky::sensorWidth,
+                  state.channels == 3 ? CV_8UC3 : CV_8UC1);
+    virtualsky::Scene scene;
+    virtualsky::Sensor sensor;
+    sensor.render(state, scene.starsAt(state, utcSeconds), {}, {seconds, gain, number}, frame.data);
+    return frame;
+}
+
+inline recognition::Recognition recognised(const cv::Mat &frame, double utcSeconds)
+{
+    recognition::RecognitionOptions options;
+    options.utcSeconds = utcSeconds;
+    return recognition::recognise(recognition::extractStars(frame).stars, frame.cols, frame.rows,
+                                  options);
+}
+
+/// Squared distance of a place from the truth in standard errors: 4 on the two-sigma ellipse.
+inline double claimed(const recognition::PixelPlace &place, const recognition::Covariance &c,
+                      const virtualsky::Point &truth)
+{
+    const double dx = place.x - truth.x;
+    const double dy = place.y - truth.y;
+    return (c.yy * dx * dx - 2.0 * c.xy * dx * dy + c.xx * dy * dy) / (c.xx * c.yy - c.xy * c.xy);
+}
+
+/// Arcseconds.
+inline double error(const recognition::PixelPlace &place, const virtualsky::Point &truth)
+{
+    return virtualsky::pixelScale * std::hypot(place.x - truth.x, place.y - truth.y);
+}
+} // namespace skyframes

@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: MIT
+// Is the pole found in frames of the virtual camera and in photographs, and followed from frame to
+// frame?
+#include <QImage>
+#include <QtTest>
+
+#include "astrometry/utcdate.h"
+#include "recognition/follower.h"
+#include "skyframes.h"
+
+#include <cmath>
+#include <random>
+
+using namespace recognition;
+using namespace skyframes;
+using virtualsky::SkyState;
+
+class TestRecognisedSky : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void poleAgreesWithTheTruth_data();
+    void poleAgreesWithTheTruth();
+    void photograph_data();
+    void photograph();
+    void followsDriftAndShifts();
+    void followerFindsALostField();
+    void followerReportsClouds();
+};
+
+void TestRecognisedSky::poleAgreesWithTheTruth_data()
+{
+    QTest::addColumn<bool>("south");
+    QTest::addColumn<double>("date");
+    QTest::newRow("north 2026") << false << november2026;
+    QTest::newRow("south 2026") << true << november2026;
+    QTest::newRow("north 2040") << false << november2040;
+    QTest::newRow("south 2040") << true << november2040;
+}
+
+void TestRecognisedSky::poleAgreesWithTheTruth()
+{
+    QFETCH(bool, south);
+    QFETCH(double, date);
+    std::mt19937 random(south ? 21 : 22);
+    std::uniform_real_distribution<double> place(-200.0, 200.0);
+    std::uniform_real_distribution<double> angle(0.0, 360.0);
+    constexpr int trials = 25;
+    double squares = 0.0;
+    int inside = 0;
+    for (unsigned trial = 0; trial < trials; ++trial) {
+        SkyState state = skyOf(south, date);
+        state.axisX = place(random);
+        state.axisY = place(random);
+        state.roll = angle(random);
+        const Recognition found = recognised(frameOf(state, date, trial), date);
+        QVERIFY2(found.status == RecognitionStatus::Recognised, reason(found).c_str());
+        QVERIFY(!found.mirrored);
+        const virtualsky::Point pole = virtualsky::truth(state, date).pole.value();
+        squares += std::pow(error(found.pole, pole), 2);
+        inside += claimed(found.pole, found.poleCovariance, pole) <= 4.0;
+    }
+    QVERIFY2(std::sqrt(squares / trials) < 1.0, qPrintable(QString::number(squares / trials)));
+    QVERIFY2(inside >= 20, qPrintable(QString::number(inside))); // fewer by chance: 1 in 1000
+}
+
+void TestRecognisedSky::photograph_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<double>("x"); // of the plate-solved pole, with aberration
+    QTest::addColumn<double>("y");
+    QTest::addColumn<double>("allowed"); // pixels
+    QTest::newRow("north") << "north_pole.png" << 340.56 << 277.23 << 1.0;
+    QTest::newRow("south") << "south_pole.png" << 764.32 << 333.89 << 0.6;
+}
+
+void TestRecognisedSky::photograph()
+{
+    QFETCH(QString, file);
+    QFETCH(double, x);
+    QFETCH(double, y);
+    QFETCH(double, allowed);
+    QImage image(QStringLiteral(PROJECT_SOURCE_DIR "/../shared/photos/") + file);
+    if (image.isNull())
+        QSKIP("the photographs are not there");
+    image = image.convertToFormat(QImage::Format_Grayscale8);
+    const cv::Mat frame(image.height(), image.width(), CV_8UC1, image.bits(),
+                        std::size_t(image.bytesPerLine()));
+    const double date = astrometry::parseDate("2014-12-15T20:00:00Z").value();
+    const Recognition found = recognised(frame, date);
+    QVERIFY2(found.status == RecognitionStatus::Recognised, reason(found).c_str());
+    QVERIFY(found.hemisphere == (file.startsWith("south") ? Hemisphere::South : Hemisphere::North));
+    QVERIFY(!found.mirrored);
+    const double off = std::hypot(found.pole.x - x, found.pole.y - y);
+    QVERIFY2(off < allowed, qPrintable(QString::number(off)));
+}
+
+void TestRecognisedSky::followsDriftAndShifts()
+{
+    SkyState state = skyOf(false, november2026);
+    Follower follower({});
+    double date = november2026;
+    for (unsigned frame = 0; frame < 12; ++frame) {
+        date += 20.0;
+        state.boltAltitude -= 0.05; // 6 pixels
+        state.boltAzimuth += 0.03;
+        const Recognition found = follower.follow(frameOf(state, date, frame), date);
+        QVERIFY2(found.status == RecognitionStatus::Recognised, reason(found).c_str());
+        QCOMPARE(follower.followed(), frame > 0);
+        const virtualsky::Point pole = virtualsky::truth(state, date).pole.value();
+        QVERIFY2(error(found.pole, pole) < 3.0, qPrintable(QString::number(frame)));
+        QVERIFY(claimed(found.pole, found.poleCovariance, pole) < 25.0);
+        for (const MatchedStar &star : found.matched)
+            QVERIFY(std::hypot(follower.stars()[star.detected].x - star.place.x,
+                               follower.stars()[star.detected].y - star.place.y) < 2.0);
+    }
+}
+
+void TestRecognisedSky::followerFindsALostField()
+{
+    SkyState state = skyOf(true, november2026);
+    Follower follower({});
+    follower.follow(frameOf(state, november2026, 1), november2026);
+    state.raAngle = 40.0; // every star leaves its window
+    const Recognition found = follower.follow(frameOf(state, november2026, 2), november2026);
+    QVERIFY(!follower.followed());
+    QVERIFY2(found.status == RecognitionStatus::Recognised, reason(found).c_str());
+    const virtualsky::Point pole = virtualsky::truth(state, november2026).pole.value();
+    QVERIFY(error(found.pole, pole) < 3.0);
+}
+
+void TestRecognisedSky::followerReportsClouds()
+{
+    SkyState state = skyOf(false, november2026);
+    Follower follower({});
+    follower.follow(frameOf(state, november2026, 1), november2026);
+    SkyState clouded = state;
+    clouded.picture = virtualsky::Picture::Black;
+    const Recognition lost = follower.follow(frameOf(clouded, november2026, 2), november2026);
+    QVERIFY(lost.status == RecognitionStatus::TooFewStars);
+    QVERIFY(!follower.followed());
+    // After the cloud has passed the windows are still the right ones.
+    const Recognition back = follower.follow(frameOf(state, november2026, 3), november2026);
+    QVERIFY(back.status == RecognitionStatus::Recognised);
+    QVERIFY(follower.followed());
+}
+
+QTEST_GUILESS_MAIN(TestRecognisedSky)
+#include "tst_recognisedsky.moc"
