@@ -320,7 +320,8 @@ void ManualTest::tellsOfEveryLogLine_data()
 {
     QTest::addColumn<QString>("line");
     const QRegularExpression call("q(?:Warning|Critical)\\(\\s*\"(?:%s)?([^\"%]*)");
-    for (const char *const name : {"app", "camera", "dialogs", "geometry", "mainwindow"}) {
+    for (const char *const name :
+         {"app", "camera", "core", "dialogs", "geometry", "mainwindow", "widgets"}) {
         const QDir folder(QString(PROJECT_SOURCE_DIR "/") + name);
         for (const QString &file : folder.entryList({"*.cpp"}))
             for (auto found = call.globalMatch(textOf(folder.filePath(file))); found.hasNext();)
