@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace recognition
 {
@@ -75,9 +76,64 @@ Indices largestAgreement(const std::vector<EarthView> &views, const std::vector<
     return best;
 }
 
-bool isSound(const std::vector<EarthView> &views, const std::optional<FixedPoint> &point)
+// What the frames say together: the views, and their turns, of which steps of less than half a turn
+// add up.
+struct Turns {
+    std::vector<EarthView> views;
+    std::vector<double> degrees;
+};
+
+Turns turnsOf(const Frames &frames)
 {
-    return point && agreeing(views, *point).size() == views.size();
+    Turns turns;
+    double sum = 0.0;
+    for (const Recognition *frame : frames) {
+        turns.views.emplace_back(*frame, frames.front()->pole);
+        if (turns.views.size() > 1)
+            sum += turns.views.back().turnAgainst(turns.views[turns.views.size() - 2]);
+        turns.degrees.push_back(sum);
+    }
+    return turns;
+}
+
+struct Consensus {
+    FixedPoint point;
+    Indices used;
+};
+
+// All frames if they agree, else the largest set that does. Two frames agree on some axis whatever
+// happened: it takes a third to tell who moved, and more frames in agreement than out of it.
+std::optional<Consensus> consensusOf(const Turns &turns)
+{
+    Indices all(turns.views.size());
+    std::iota(all.begin(), all.end(), std::size_t{0});
+    const std::optional<FixedPoint> point = fixedPointOf(turns.views, all);
+    if (point && agreeing(turns.views, *point).size() == all.size())
+        return Consensus{*point, all};
+    const Indices used = largestAgreement(turns.views, turns.degrees);
+    if (used.size() < 3 || 2 * used.size() <= all.size())
+        return std::nullopt;
+    std::vector<double> usedTurns;
+    for (const std::size_t i : used)
+        usedTurns.push_back(turns.degrees[i]);
+    const std::optional<FixedPoint> without = fixedPointOf(turns.views, used);
+    if (!without || spanOf(usedTurns) < leastTurn)
+        return std::nullopt;
+    return Consensus{*without, used};
+}
+
+void fill(const Consensus &consensus, const Frames &frames, const Indices &numbers, Axis &axis)
+{
+    axis.status = AxisStatus::Found;
+    axis.checked = consensus.used.size() > 2;
+    axis.place = consensus.point.pixel;
+    axis.covariance = consensus.point.covariance;
+    axis.rms = consensus.point.rms / astrometry::arcsecond;
+    axis.sigmaArcseconds = frames.front()->mapping.scaleAt(axis.place) *
+                           std::sqrt(0.5 * (axis.covariance.xx + axis.covariance.yy));
+    for (std::size_t i = 0; i < frames.size(); ++i)
+        if (std::find(consensus.used.begin(), consensus.used.end(), i) == consensus.used.end())
+            axis.bumped.push_back(numbers[i]);
 }
 } // namespace
 
@@ -86,7 +142,7 @@ Axis axisOfTurns(const std::vector<Recognition> &given)
     Axis axis;
     axis.turns.assign(given.size(), 0.0);
     Frames frames;
-    Indices numbers;
+    Indices numbers; // of the frames among those given
     for (std::size_t i = 0; i < given.size(); ++i)
         if (given[i].status == RecognitionStatus::Recognised) {
             frames.push_back(&given[i]);
@@ -98,49 +154,18 @@ Axis axisOfTurns(const std::vector<Recognition> &given)
         axis.status = AxisStatus::DifferentFrames;
         return axis;
     }
-    std::vector<EarthView> views;
-    std::vector<double> turns;
-    double before = 0.0;
-    for (std::size_t i = 0; i < frames.size(); ++i) {
-        views.emplace_back(*frames[i], frames.front()->pole);
-        // Steps of less than half a turn add up.
-        before += i == 0 ? 0.0 : wrapped(views[i].turnAgainst(views[i - 1]));
-        turns.push_back(before);
-        axis.turns[numbers[i]] = wrapped(before);
-    }
-    axis.totalTurn = spanOf(turns);
+    const Turns turns = turnsOf(frames);
+    for (std::size_t i = 0; i < frames.size(); ++i)
+        axis.turns[numbers[i]] = wrapped(turns.degrees[i]);
+    axis.totalTurn = spanOf(turns.degrees);
     if (axis.totalTurn < leastTurn) {
         axis.status = AxisStatus::TooLittleTurn;
         return axis;
     }
-    Indices used(frames.size());
-    for (std::size_t i = 0; i < used.size(); ++i)
-        used[i] = i;
-    std::optional<FixedPoint> point = fixedPointOf(views, used);
-    if (!isSound(views, point)) {
-        used = largestAgreement(views, turns);
-        // Two frames agree on some axis whatever happened: it takes a third to tell who moved, and
-        // more frames in agreement than out of it.
-        const bool majority = used.size() >= 3 && 2 * used.size() > views.size();
-        point = majority ? fixedPointOf(views, used) : std::nullopt;
-        std::vector<double> usedTurns;
-        for (const std::size_t i : used)
-            usedTurns.push_back(turns[i]);
-        if (!point || spanOf(usedTurns) < leastTurn) {
-            axis.status = AxisStatus::Bumped;
-            return axis;
-        }
-        for (std::size_t i = 0; i < views.size(); ++i)
-            if (std::find(used.begin(), used.end(), i) == used.end())
-                axis.bumped.push_back(numbers[i]);
-    }
-    axis.status = AxisStatus::Found;
-    axis.checked = used.size() > 2;
-    axis.place = point->pixel;
-    axis.covariance = point->covariance;
-    axis.rms = point->rms / astrometry::arcsecond;
-    axis.sigmaArcseconds = frames.front()->mapping.scaleAt(axis.place) *
-                           std::sqrt(0.5 * (axis.covariance.xx + axis.covariance.yy));
+    if (const auto consensus = consensusOf(turns))
+        fill(*consensus, frames, numbers, axis);
+    else
+        axis.status = AxisStatus::Bumped;
     return axis;
 }
 

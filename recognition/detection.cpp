@@ -53,12 +53,17 @@ struct Spread {
     float median, deviation; // the deviation as one sigma of a normal distribution
 };
 
-Spread spreadOf(const cv::Mat1f &image)
+std::vector<float> sampleOf(const cv::Mat1f &image)
 {
     std::vector<float> sample;
     const std::size_t step = image.total() / sampled | 1; // odd: not always the same columns
     for (std::size_t i = 0; i < image.total(); i += step)
         sample.push_back(image.ptr<float>()[i]);
+    return sample;
+}
+
+Spread spreadOf(std::vector<float> sample)
+{
     const auto middle = sample.begin() + static_cast<std::ptrdiff_t>(sample.size() / 2);
     std::nth_element(sample.begin(), middle, sample.end());
     const float median = *middle;
@@ -145,14 +150,15 @@ Detection detect(const cv::Mat1f &normalised, int bin, double threshold)
 {
     Detection out;
     const cv::Mat1f image = smoothed(normalised);
-    const Spread spread = spreadOf(image);
+    const std::vector<float> sample = sampleOf(image);
+    const Spread spread = spreadOf(sample);
     out.noiseScale = std::max(1.0, double(spread.deviation));
     const float limit =
         std::max(spread.median, 0.0f) + static_cast<float>(threshold * out.noiseScale);
-    std::size_t bright = 0;
-    visitBright(image, limit, [&bright](int, int) { ++bright; });
     out.result = DetectionResult::TooMuchLight;
-    if (double(bright) > mostLight * double(image.total()))
+    const auto bright =
+        std::count_if(sample.begin(), sample.end(), [limit](float value) { return value > limit; });
+    if (double(bright) > mostLight * double(sample.size()))
         return out;
     sep_set_extract_pixstack(pixelStack);
     const sep_image picture = sepImage(image);

@@ -105,6 +105,26 @@ std::optional<Follower::Shift> Follower::shiftOf(const cv::Mat &frame,
     return Shift{middleOf(x), middleOf(y)};
 }
 
+Follower::Measured Follower::measure(const cv::Mat &frame, const std::vector<Target> &expected,
+                                     Shift shift) const
+{
+    Measured found;
+    for (const Target &target : expected) {
+        const PixelPlace place = {target.place.x + shift.x, target.place.y + shift.y};
+        if (found.tried == given.mostStars)
+            break;
+        if (!isInside(place, frame, given.windowRadius + 1.0))
+            continue;
+        ++found.tried;
+        const auto star = measureStar(frame, place.x, place.y, given.windowRadius);
+        if (!star)
+            continue;
+        found.catalogue.push_back(target.catalogue);
+        found.stars.push_back(*star);
+    }
+    return found;
+}
+
 std::optional<Recognition> Follower::byLastFrame(const cv::Mat &frame, double utcSeconds)
 {
     // With refraction the places go with the hour angle.
@@ -114,42 +134,28 @@ std::optional<Recognition> Follower::byLastFrame(const cv::Mat &frame, double ut
     const std::optional<Shift> shift = shiftOf(frame, expected);
     if (!shift)
         return std::nullopt;
-    std::vector<DetectedStar> stars;
-    std::vector<Correspondence> known;
-    std::vector<std::size_t> field;
-    std::size_t tried = 0;
-    for (const Target &target : expected) {
-        const PixelPlace place = {target.place.x + shift->x, target.place.y + shift->y};
-        if (tried == given.mostStars)
-            break;
-        if (!isInside(place, frame, given.windowRadius + 1.0))
-            continue;
-        ++tried;
-        const auto star = measureStar(frame, place.x, place.y, given.windowRadius);
-        if (!star)
-            continue;
-        known.push_back({stars.size(), target.catalogue});
-        stars.push_back(*star);
-        field.push_back(target.catalogue);
-    }
-    if (stars.size() < leastStars ||
-        static_cast<double>(stars.size()) < foundPart * static_cast<double>(tried))
+    Measured found = measure(frame, expected, *shift);
+    const double enough =
+        std::max(foundPart * static_cast<double>(found.tried), static_cast<double>(leastStars));
+    if (static_cast<double>(found.stars.size()) < enough)
         return std::nullopt;
+    std::vector<Correspondence> known;
+    for (std::size_t i = 0; i < found.stars.size(); ++i)
+        known.push_back({i, found.catalogue[i]});
     RecognitionOptions options = given.recognition;
     options.utcSeconds = utcSeconds;
-    const StarFrame starFrame = {stars, frame.cols, frame.rows};
-    const auto refined = refine(starFrame, last->mirrored, known, field, options);
-    if (!refined || refined->matched.size() < leastStars ||
-        static_cast<double>(refined->matched.size()) < foundPart * static_cast<double>(tried))
+    const StarFrame starFrame = {found.stars, frame.cols, frame.rows};
+    const auto refined = refine(starFrame, last->mirrored, known, found.catalogue, options);
+    if (!refined || static_cast<double>(refined->matched.size()) < enough)
         return std::nullopt;
     Recognition result = outcomeOf(*refined, starFrame, last->hemisphere, std::log(last->chance),
-                                   stars.size(), options);
+                                   found.stars.size(), options);
     const bool likely = result.status == RecognitionStatus::Recognised &&
                         std::abs(result.scale / last->scale - 1.0) < scaleChange &&
                         result.rms < worseResiduals * last->rms + residualPixels * result.scale;
     if (!likely)
         return std::nullopt;
-    measured = std::move(stars);
+    measured = std::move(found.stars);
     return result;
 }
 

@@ -47,6 +47,13 @@ private:
         double x, y;
     };
 
+    struct Measured {
+        std::vector<DetectedStar> stars;
+        std::vector<std::size_t> catalogue; // of each star
+        std::size_t tried = 0;
+    };
+
+    Measured measure(const cv::Mat &frame, const std::vector<Target> &expected, Shift shift) const;
     std::optional<Recognition> byLastFrame(const cv::Mat &frame, double utcSeconds);
     std::optional<Shift> shiftOf(const cv::Mat &frame, const std::vector<Target> &targets) const;
     Recognition blind(const cv::Mat &frame, double utcSeconds);

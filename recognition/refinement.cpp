@@ -2,6 +2,7 @@
 // Alternates between matching stars and fitting the mapping, robustly.
 #include "recognition/refinement.h"
 
+#include "recognition/modelchoice.h"
 #include "recognition/polynomialfit.h"
 #include "recognition/pose.h"
 
@@ -19,7 +20,6 @@ constexpr int rounds = 10;
 constexpr double firstRadius = 5.0;     // pixels, of the first match
 constexpr double leastRadius = 1.5;     // pixels
 constexpr double matchSigmas = 6.0;     // of the residuals' scatter
-constexpr double biweightSigmas = 6.0;  // Tukey's constant, in sigmas of a star
 constexpr double blendWidths = 3.0;     // full widths within which two stars disturb each other
 constexpr double centroidFloor = 0.03;  // pixels, one axis
 constexpr double saturatedFloor = 0.15; // pixels, one axis
@@ -28,13 +28,6 @@ constexpr double catalogueError = 0.12; // arcseconds, one axis, of one star
 constexpr double systematicError = 0.1;
 constexpr double systematicErrorWithoutSite = 0.19;
 constexpr double typicalWidth = 2.5; // pixels, where none is given
-
-double medianOf(std::vector<double> values)
-{
-    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
-}
 
 double widthOf(const DetectedStar &star)
 {
@@ -71,8 +64,6 @@ private:
     bool recentre();
     void match(double radiusPixels);
     std::vector<FitPoint> points() const;
-    bool fit(std::vector<FitPoint> &fitted);
-    void weigh(std::vector<FitPoint> &fitted) const;
     void setNoise(const std::vector<FitPoint> &fitted);
     double residualPixels(const std::vector<FitPoint> &fitted) const;
 
@@ -192,55 +183,6 @@ std::vector<FitPoint> Refiner::points() const
     return all;
 }
 
-// Tukey's biweight, for the scatter that the median residual shows.
-void Refiner::weigh(std::vector<FitPoint> &fitted) const
-{
-    std::vector<double> squares;
-    std::array<Complex, SkyMapping::mostTerms> terms;
-    for (const FitPoint &p : fitted) {
-        evaluateTerms(best.fit.terms, p.pixel, terms.data());
-        Complex residual = p.plane;
-        for (std::size_t i = 0; i < termCount(best.fit.terms); ++i)
-            residual -= best.fit.coefficients[i] * terms[i];
-        squares.push_back(std::norm(residual) / p.variance);
-    }
-    constexpr double medianOfTwoAxes = 1.3863; // of chi squared with two degrees of freedom
-    const double n = static_cast<double>(fitted.size());
-    const double used = static_cast<double>(termCount(best.fit.terms));
-    const double freedom = std::max(n - used, 1.0) / n;
-    const double variance = medianOf(squares) / medianOfTwoAxes / freedom;
-    for (std::size_t i = 0; i < fitted.size(); ++i) {
-        const double u = squares[i] / (biweightSigmas * biweightSigmas * variance);
-        fitted[i].weight = u < 1.0 ? (1.0 - u) * (1.0 - u) : 0.0;
-    }
-}
-
-// The model with the least Bayesian information criterion.
-bool Refiner::fit(std::vector<FitPoint> &fitted)
-{
-    constexpr MappingModel models[] = {MappingModel::Similarity, MappingModel::Radial,
-                                       MappingModel::Affine,     MappingModel::AffineRadial,
-                                       MappingModel::Quadratic,  MappingModel::Cubic};
-    std::optional<PolynomialFit> chosen;
-    double least = 0.0;
-    for (const MappingModel model : models) {
-        const auto terms = static_cast<double>(termCount(model));
-        const auto fit = fitPolynomial(model, fitted);
-        if (!fit || (model != MappingModel::Similarity && fit->weights < 2.0 * terms + 2.0))
-            continue;
-        const double n = 2.0 * fit->weights;
-        const double criterion =
-            n * std::log(fit->chiSquared / n + 1e-30) + 2.0 * terms * std::log(n);
-        if (!chosen || criterion < least) {
-            chosen = fit;
-            least = criterion;
-        }
-    }
-    if (chosen)
-        best = *chosen;
-    return chosen.has_value();
-}
-
 double Refiner::residualPixels(const std::vector<FitPoint> &fitted) const
 {
     double sum = 0.0;
@@ -263,9 +205,11 @@ bool Refiner::iterate()
         fitted = points();
         if (fitted.size() < 4)
             return false;
-        weigh(fitted);
-        if (!fit(fitted))
+        weighRobustly(best.fit, fitted);
+        const auto chosen = fitBestModel(fitted);
+        if (!chosen)
             return false;
+        best = *chosen;
         const double next =
             std::clamp(matchSigmas * residualPixels(fitted), leastRadius, firstRadius);
         const bool settled =
@@ -276,39 +220,16 @@ bool Refiner::iterate()
         if (round < 2 && !recentre())
             return false;
     }
-    weigh(fitted);
+    weighRobustly(best.fit, fitted);
     setNoise(fitted);
     return true;
 }
 
-// The residuals' covariance for a centroid variance of 1. Few stars know their own scatter badly:
-// it is drawn towards a round one, and widened as Student's distribution is.
 void Refiner::setNoise(const std::vector<FitPoint> &fitted)
 {
-    constexpr double roundStars = 12.0; // so many stars' worth of roundness
-    Covariance sum;
-    double weights = 0.0;
-    std::array<Complex, SkyMapping::mostTerms> terms;
-    for (const FitPoint &p : fitted) {
-        evaluateTerms(best.fit.terms, p.pixel, terms.data());
-        Complex r = p.plane;
-        for (std::size_t i = 0; i < termCount(best.fit.terms); ++i)
-            r -= best.fit.coefficients[i] * terms[i];
-        const double weight = p.weight / p.variance;
-        sum.xx += weight * r.real() * r.real();
-        sum.xy += weight * r.real() * r.imag();
-        sum.yy += weight * r.imag() * r.imag();
-        weights += p.weight;
-    }
-    const double freedom = std::max(weights - static_cast<double>(termCount(best.fit.terms)), 1.0);
-    const double student = 2.0 * freedom > 4.0 ? freedom / (freedom - 1.0) : 3.0;
-    const double round = 0.5 * (sum.xx + sum.yy) / freedom;
-    const double own = freedom / (freedom + roundStars);
-    best.fit.noise = {student * (own * sum.xx / freedom + (1.0 - own) * round),
-                      student * own * sum.xy / freedom,
-                      student * (own * sum.yy / freedom + (1.0 - own) * round)};
     const double floor =
         astrometry::arcsecond * (options.observer ? systematicError : systematicErrorWithoutSite);
+    best.fit.noise = noiseOf(best.fit, fitted);
     best.fit.floor2 = floor * floor;
 }
 

@@ -16,8 +16,9 @@ using astrometry::Vector3;
 
 constexpr std::size_t brightestInFrame = 12;
 constexpr std::size_t brightestInPart = 7;
-constexpr double leastSide = 8.0;                             // pixels
-constexpr double lensTolerance = 0.0025;                      // relative, of a side, by distortion
+constexpr double leastSide = 8.0;        // pixels
+constexpr double lensTolerance = 0.0025; // relative, of a side, by distortion
+constexpr double widestTangent = 1.2;    // of the angle off the centre, of a triangle's corner
 constexpr double greatestPattern = 20.5 * astrometry::degree; // the index has none wider
 
 struct Sky {
@@ -111,8 +112,8 @@ bool Search::tryTriangle(const std::array<std::size_t, 3> &stars)
     if (!(shortest > leastSide))
         return false;
     const double least = options.leastScale * astrometry::arcsecond;
-    const double greatest =
-        std::min(options.greatestScale * astrometry::arcsecond, greatestPattern / longest);
+    const double greatest = std::min({options.greatestScale * astrometry::arcsecond,
+                                      greatestPattern / longest, widestTangent / farthest});
     const double centroids = frame.centroidError() / longest;
     const double tolerance = lensTolerance + shapeChange + 1.3 * centroids;
     const double sideTolerance = lensTolerance + 1.3 * frame.centroidError() / shortest;

@@ -38,15 +38,14 @@ int rowStride(const cv::Mat1f &image)
     return image.rows >= tallPicture ? 4 : 2;
 }
 
-cv::Mat1f thinned(const cv::Mat1f &image)
+cv::Mat1f thinned(const cv::Mat1f &image, int rowStep, int columnStep)
 {
-    const int step = rowStride(image);
-    cv::Mat1f out((image.rows + step - 1) / step, (image.cols + columnStride - 1) / columnStride);
+    cv::Mat1f out((image.rows + rowStep - 1) / rowStep, (image.cols + columnStep - 1) / columnStep);
     for (int y = 0; y < out.rows; ++y) {
-        const float *in = image[y * step];
+        const float *in = image[y * rowStep];
         float *to = out[y];
         for (int x = 0; x < out.cols; ++x)
-            to[x] = in[x * columnStride];
+            to[x] = in[x * columnStep];
     }
     return out;
 }
@@ -265,32 +264,45 @@ double noiseOfNeighbours(const cv::Mat1f &image, double leastNoise)
 struct BackgroundDeleter {
     void operator()(sep_bkg *background) const { sep_bkg_free(background); }
 };
+using BackgroundKeeper = std::unique_ptr<sep_bkg, BackgroundDeleter>;
+
+// What SEP finds in a thinned picture: one node a tile.
+BackgroundKeeper roughBackground(cv::Mat1f &picture, cv::Size tile)
+{
+    sep_image image = {};
+    image.data = picture.data;
+    image.dtype = SEP_TFLOAT;
+    image.w = picture.cols;
+    image.h = picture.rows;
+    image.gain = 1.0;
+    sep_bkg *measured = nullptr;
+    const int status = sep_background(&image, tile.width, tile.height, filterTiles, filterTiles,
+                                      filterLimit, &measured);
+    return BackgroundKeeper(status == 0 ? measured : nullptr);
+}
 } // namespace
 
 std::optional<SkyBackground> SkyBackground::measure(const cv::Mat1f &image, float leastNoise)
 {
-    cv::Mat1f looked = thinned(image);
+    const int rowStep = rowStride(image);
+    const cv::Mat1f looked = thinned(image, rowStep, columnStride);
     const int nx = tilesAlong(image.cols), ny = tilesAlong(image.rows);
-    sep_image picture = {};
-    picture.data = looked.data;
-    picture.dtype = SEP_TFLOAT;
-    picture.w = looked.cols;
-    picture.h = looked.rows;
-    picture.gain = 1.0;
-    const int width = (looked.cols + nx - 1) / nx, height = (looked.rows + ny - 1) / ny;
-    sep_bkg *measured = nullptr;
-    if (sep_background(&picture, width, height, filterTiles, filterTiles, filterLimit, &measured) !=
-        0)
+    // SEP's part is a beginning: it need not see all that is looked at.
+    const int coarser = rowStep > columnStride ? 2 : 1;
+    cv::Size tile((looked.cols + nx - 1) / nx, (looked.rows + ny - 1) / ny);
+    tile.width += tile.width % coarser;
+    cv::Mat1f rough = thinned(looked, 1, coarser);
+    const BackgroundKeeper measured = roughBackground(rough, {tile.width / coarser, tile.height});
+    if (!measured)
         return std::nullopt;
-    const std::unique_ptr<sep_bkg, BackgroundDeleter> keeper(measured);
     SkyBackground out;
-    out.tileWidth = width * columnStride;
-    out.tileHeight = height * rowStride(image);
+    out.tileWidth = tile.width * columnStride;
+    out.tileHeight = tile.height * rowStep;
     cv::Mat1f back(measured->ny, measured->nx, measured->back);
     cv::Mat1f sigma(measured->ny, measured->nx, measured->sigma);
     if (!cv::checkRange(back) || !cv::checkRange(sigma))
         return std::nullopt;
-    Tiles(looked, {width, height}).refine(back, sigma, leastNoise);
+    Tiles(looked, tile).refine(back, sigma, leastNoise);
     out.level = withRing(back);
     out.inverseNoise = withRing(cv::Mat1f(1.0f / sigma));
     out.neighbourNoise = noiseOfNeighbours(looked, double(leastNoise));
@@ -321,37 +333,37 @@ float SkyBackground::valueAt(const cv::Mat1f &nodes, double x, double y) const
     return upper * (1.0f - fv) + lower * fv;
 }
 
-void SkyBackground::fillRow(const cv::Mat1f &nodes, int y, std::vector<float> &columns) const
+void SkyBackground::normaliseRow(float *row, int y, int width) const
 {
-    const double v = std::clamp((y + 0.5) / tileHeight + 0.5, 0.0, nodes.rows - 1.001);
+    const double v = std::clamp((y + 0.5) / tileHeight + 0.5, 0.0, level.rows - 1.001);
     const int j = static_cast<int>(v);
     const float part = static_cast<float>(v - j);
-    const int width = static_cast<int>(columns.size());
+    const auto nodeOf = [&](const cv::Mat1f &nodes, int i) {
+        return nodes(j, i) * (1.0f - part) + nodes(j + 1, i) * part;
+    };
     int x = 0;
-    for (int i = 0; i + 1 < nodes.cols && x < width; ++i) {
-        const float left = nodes(j, i) * (1.0f - part) + nodes(j + 1, i) * part;
-        const float right = nodes(j, i + 1) * (1.0f - part) + nodes(j + 1, i + 1) * part;
-        const float step = (right - left) / static_cast<float>(tileWidth);
+    for (int i = 0; i + 1 < level.cols && x < width; ++i) {
         // Node i lies half a tile before tile i begins, the ring's first one half a tile outside.
         const double place = (i - 0.5) * tileWidth - 0.5;
-        const int last = i + 2 == nodes.cols
-                             ? width
-                             : std::min(width, static_cast<int>(std::ceil(place + tileWidth)));
-        const float origin = left - step * static_cast<float>(place);
-        for (; x < last; ++x)
-            columns[static_cast<std::size_t>(x)] = origin + step * static_cast<float>(x);
+        const int end = i + 2 == level.cols
+                            ? width
+                            : std::min(width, static_cast<int>(std::ceil(place + tileWidth)));
+        const auto across = static_cast<float>(1.0 / tileWidth), before = static_cast<float>(place);
+        const float levelStep = (nodeOf(level, i + 1) - nodeOf(level, i)) * across;
+        const float scaleStep = (nodeOf(inverseNoise, i + 1) - nodeOf(inverseNoise, i)) * across;
+        const float levelAt0 = nodeOf(level, i) - levelStep * before;
+        const float scaleAt0 = nodeOf(inverseNoise, i) - scaleStep * before;
+        for (; x < end; ++x) {
+            const float at = static_cast<float>(x);
+            const float value = (row[x] - levelAt0 - levelStep * at) * (scaleAt0 + scaleStep * at);
+            row[x] = row[x] <= blankValue ? 0.0f : value;
+        }
     }
 }
 
 void SkyBackground::normalise(cv::Mat1f &image) const
 {
-    std::vector<float> levels(static_cast<std::size_t>(image.cols)), scales(levels.size());
-    for (int y = 0; y < image.rows; ++y) {
-        fillRow(level, y, levels);
-        fillRow(inverseNoise, y, scales);
-        float *row = image[y];
-        for (std::size_t x = 0; x < levels.size(); ++x)
-            row[x] = row[x] <= blankValue ? 0.0f : (row[x] - levels[x]) * scales[x];
-    }
+    for (int y = 0; y < image.rows; ++y)
+        normaliseRow(image[y], y, image.cols);
 }
 } // namespace recognition

@@ -29,7 +29,7 @@ public:
 
 private:
     float valueAt(const cv::Mat1f &nodes, double x, double y) const;
-    void fillRow(const cv::Mat1f &nodes, int y, std::vector<float> &columns) const;
+    void normaliseRow(float *row, int y, int width) const;
 
     // With a ring of extrapolated nodes about those that were measured.
     cv::Mat1f level, inverseNoise;

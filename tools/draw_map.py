@@ -81,7 +81,9 @@ def reduced(uses):
 def drawn(uses, home):
     """The map as text: one line a target, the highest folder first."""
     rank = {folder: i for i, folder in enumerate(FOLDERS)}
-    ours = {t: {o for o in others if o in home and o != t} for t, others in uses.items() if t in home}
+    # Which benchmarks there are depends on what is installed.
+    ours = {t: {o for o in others if o in home and o != t}
+            for t, others in uses.items() if t in home and home[t] != "bench"}
     ours = reduced({t: {o for o in others if not o.startswith("quorvandel_")}
                     for t, others in ours.items()})
     lines = []

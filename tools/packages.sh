@@ -9,7 +9,7 @@ packages_run="libqt5multimedia5-plugins gstreamer1.0-plugins-good fonts-dejavu-c
   fonts-noto-cjk xdg-utils"
 packages_unseen="xvfb"
 packages_test="desktop-file-utils appstream mandoc libbenchmark-dev"
-packages_lint="clang-format clang-tidy"
+packages_lint="clang-format clang-tidy python3"
 
 missing_packages() {
   local package

@@ -11,7 +11,7 @@ void openManual(const QUrl &page, const QString &title, QStatusBar &bar)
 {
     if (QDesktopServices::openUrl(page))
         return;
-    constexpr int shownFor = 30'000; // milliseconds: long enough to copy it by hand
+    constexpr int shownFor = 30000; // milliseconds: long enough to copy it by hand
     const QString place = page.toDisplayString(QUrl::PreferLocalFile);
     qWarning() << "no program opens the manual; it lies at" << place;
     bar.showMessage(title + QLatin1String(": ") + place, shownFor);

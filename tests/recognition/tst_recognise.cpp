@@ -54,6 +54,8 @@ private slots:
     void failuresHaveReasons_data();
     void failuresHaveReasons();
     void unusableStarsAreIgnored();
+    void exactPlacesAreNoTrouble();
+    void theAcceptedChanceIsHeeded();
 };
 
 void TestRecognise::blind_data()
@@ -274,6 +276,33 @@ void TestRecognise::unusableStarsAreIgnored()
     QVERIFY(std::hypot(found.pole.x - field.pole.x, found.pole.y - field.pole.y) < field.allowed);
     for (const MatchedStar &star : found.matched)
         QVERIFY(star.detected >= unusable.size());
+}
+
+// Stars without any error leave no residuals to judge weights by.
+void TestRecognise::exactPlacesAreNoTrouble()
+{
+    const Field &field = fieldNamed("finder north");
+    const Recognition first = recognised(field, optionsOf(field));
+    std::vector<DetectedStar> exact;
+    for (const MatchedStar &star : first.matched)
+        exact.push_back(
+            {star.place.x, star.place.y, 1e6 / (double(exact.size()) + 1.0), 50.0, 2.5, false});
+    const Recognition found = recognise(exact, field.width, field.height, optionsOf(field));
+    QVERIFY2(found.status == RecognitionStatus::Recognised, reason(found).c_str());
+    QCOMPARE(found.matched.size(), exact.size());
+    QVERIFY(std::hypot(found.pole.x - first.pole.x, found.pole.y - first.pole.y) < 1e-4);
+    QVERIFY(found.rms < 1e-3);
+    QVERIFY(found.poleSigmaArcseconds > 0.1);
+}
+
+void TestRecognise::theAcceptedChanceIsHeeded()
+{
+    const Field &field = fieldNamed("few stars");
+    RecognitionOptions options = optionsOf(field);
+    const Recognition found = recognised(field, options);
+    QVERIFY(found.status == RecognitionStatus::Recognised);
+    options.acceptedChance = found.chance / 1e6;
+    QVERIFY(recognised(field, options).status == RecognitionStatus::NoMatch);
 }
 
 QTEST_GUILESS_MAIN(TestRecognise)

@@ -123,7 +123,7 @@ void TestRecognitionFuzz::nothingIsRecognised()
 {
     QFETCH(unsigned, seed);
     Lists lists(seed);
-    const int n = listsToTry(120);
+    const int n = listsToTry(80);
     for (int i = 0; i < n; ++i) {
         const int width = lists.whole(1, 5000);
         const int height = lists.whole(1, 4000);
@@ -146,7 +146,7 @@ void TestRecognitionFuzz::nothingIsRecognised()
 void TestRecognitionFuzz::skiesFarFromThePoleAreNotRecognised()
 {
     Lists lists(3);
-    const int n = listsToTry(60);
+    const int n = listsToTry(40);
     for (int i = 0; i < n; ++i) {
         const double focalLength = lists.between(3000.0, 30000.0); // pixels
         std::vector<std::pair<double, DetectedStar>> sky;
@@ -176,7 +176,7 @@ void TestRecognitionFuzz::skiesFarFromThePoleAreNotRecognised()
 void TestRecognitionFuzz::spoiltListsOfTheSkyDoNoHarm()
 {
     Lists lists(4);
-    const int n = listsToTry(120);
+    const int n = listsToTry(80);
     int recognised = 0;
     for (int i = 0; i < n; ++i) {
         const auto &all = goldenfields::all();

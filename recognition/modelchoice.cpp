@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+// Model choice, robust weights and noise of the mapping's fit.
+#include "recognition/modelchoice.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace recognition
+{
+namespace
+{
+using Complex = std::complex<double>;
+
+constexpr double biweightSigmas = 6.0;  // Tukey's constant, in sigmas of a star
+constexpr double leastVariance = 1e-24; // radians squared a pixel squared
+constexpr double roundStars = 12.0;     // so many stars' worth of roundness in the noise
+
+Complex residualOf(const SkyMapping::Fit &fit, const FitPoint &point)
+{
+    std::array<Complex, SkyMapping::mostTerms> terms;
+    evaluateTerms(fit.terms, point.pixel, terms.data());
+    Complex residual = point.plane;
+    for (std::size_t i = 0; i < termCount(fit.terms); ++i)
+        residual -= fit.coefficients[i] * terms[i];
+    return residual;
+}
+} // namespace
+
+double medianOf(std::vector<double> values)
+{
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
+std::optional<PolynomialFit> fitBestModel(const std::vector<FitPoint> &points)
+{
+    constexpr MappingModel models[] = {MappingModel::Similarity, MappingModel::Radial,
+                                       MappingModel::Affine,     MappingModel::AffineRadial,
+                                       MappingModel::Quadratic,  MappingModel::Cubic};
+    std::optional<PolynomialFit> chosen;
+    double least = 0.0;
+    for (const MappingModel model : models) {
+        const auto terms = static_cast<double>(termCount(model));
+        const auto fit = fitPolynomial(model, points);
+        if (!fit || (model != MappingModel::Similarity && fit->weights < 2.0 * terms + 2.0))
+            continue;
+        const double n = 2.0 * fit->weights;
+        const double criterion =
+            n * std::log(fit->chiSquared / n + 1e-30) + 2.0 * terms * std::log(n);
+        if (!chosen || criterion < least) {
+            chosen = fit;
+            least = criterion;
+        }
+    }
+    return chosen;
+}
+
+void weighRobustly(const SkyMapping::Fit &fit, std::vector<FitPoint> &points)
+{
+    constexpr double medianOfTwoAxes = 1.3863; // of chi squared with two degrees of freedom
+    std::vector<double> squares;
+    for (const FitPoint &p : points)
+        squares.push_back(std::norm(residualOf(fit, p)) / p.variance);
+    const double n = static_cast<double>(points.size());
+    const double used = static_cast<double>(termCount(fit.terms));
+    const double freedom = std::max(n - used, 1.0) / n;
+    // Stars without any error leave no scatter to judge by.
+    const double variance = std::max(medianOf(squares) / medianOfTwoAxes / freedom, leastVariance);
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        const double u = squares[i] / (biweightSigmas * biweightSigmas * variance);
+        points[i].weight = u < 1.0 ? (1.0 - u) * (1.0 - u) : 0.0;
+    }
+}
+
+Covariance noiseOf(const SkyMapping::Fit &fit, const std::vector<FitPoint> &points)
+{
+    Covariance sum;
+    double weights = 0.0;
+    for (const FitPoint &p : points) {
+        const Complex r = residualOf(fit, p);
+        const double weight = p.weight / p.variance;
+        sum.xx += weight * r.real() * r.real();
+        sum.xy += weight * r.real() * r.imag();
+        sum.yy += weight * r.imag() * r.imag();
+        weights += p.weight;
+    }
+    const double freedom = std::max(weights - static_cast<double>(termCount(fit.terms)), 1.0);
+    const double student = 2.0 * freedom > 4.0 ? freedom / (freedom - 1.0) : 3.0;
+    const double round = 0.5 * (sum.xx + sum.yy) / freedom;
+    const double own = freedom / (freedom + roundStars);
+    return {student * (own * sum.xx / freedom + (1.0 - own) * round),
+            student * own * sum.xy / freedom,
+            student * (own * sum.yy / freedom + (1.0 - own) * round)};
+}
+} // namespace recognition

@@ -1,0 +1,53 @@
+# SPDX-License-Identifier: MIT
+# The checks of the sources, a function NAME_lint each. Sourced by ./test and tools/lint.sh with the
+# project's root as the current folder.
+
+# sources PATTERN...: the files that the patterns fit, in a checkout or in a folder without git.
+sources() {
+  git ls-files --cached --others --exclude-standard "$@" 2>/dev/null && return
+  local pattern
+  for pattern in "$@"; do
+    find . -path ./build -prune -o -name "$pattern" -type f -print
+  done
+}
+
+format_lint() { sources '*.cpp' '*.h' | xargs clang-format --dry-run -Werror; }
+
+licence_lint() {
+  local bare
+  bare=$(sources '*.cpp' '*.h' '*.py' '*.sh' '*.cmake' '*CMakeLists.txt' '*.ui' '*.qss' '*.md' \
+    '*.map' '*.supp' '*.qrc' '*.html' '*.css' '*.desktop' '*.1' '*.xml.in' '*.qrc.in' |
+    xargs grep -L 'SPDX-License-Identifier: MIT')
+  [ -z "$bare" ] || {
+    printf 'without the line that names the licence:\n%s\n' "$bare"
+    return 1
+  }
+}
+
+tidy_lint() {
+  run-clang-tidy -quiet -j 2 -p build/asan \
+    "^$PWD/(app|bench|camera|core|dialogs|geometry|mainwindow|resources|tools|virtualcamera|virtualmount|widgets)/.*\.cpp\$"
+}
+
+# texts_of CATALOGUE: the contexts and source texts in it.
+texts_of() { tr '\n' ' ' <"$1" | grep -o '<name>[^<]*\|<source>[^<]*'; }
+
+# Every text of the sources stands in the catalogues (the tests hold all of them against the English).
+# The virtual mount has no English one: none of its catalogues gains or loses a text when the sources
+# are read anew.
+texts_lint() {
+  local copy=build/texts.ts lupdate catalogue status=0
+  lupdate=$(command -v /usr/lib/qt5/bin/lupdate lupdate | head -n 1)
+  cp resources/languages/lan_en_us.ts $copy
+  "$lupdate" -no-obsolete -locations none -source-language en_US -I . app camera core dialogs geometry \
+    mainwindow widgets -ts $copy && cmp $copy resources/languages/lan_en_us.ts || status=1
+  for catalogue in virtualmount/languages/mount_*.ts; do
+    cp "$catalogue" $copy
+    "$lupdate" -silent -no-obsolete -locations none -source-language en_US -I . virtualmount \
+      -ts $copy && diff <(texts_of $copy) <(texts_of "$catalogue") || status=1
+  done
+  return $status
+}
+
+# The map in ARCHITECTURE.md is what the build says, and no arrow runs up.
+map_lint() { python3 tools/draw_map.py --check; }
