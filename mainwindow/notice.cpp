@@ -32,6 +32,12 @@ bool showsPole(const NoticeFacts &f)
     return f.step == StartMonitor || f.monitoring;
 }
 
+/// Connect does nothing then.
+Found libraryUnusable(const NoticeFacts &f)
+{
+    return when(!f.libraryUsable, NoticeCode::LibraryUnusable);
+}
+
 Found noCamera(const NoticeFacts &f)
 {
     return when(!f.connected && f.pageShown, NoticeCode::NoCamera);
@@ -141,16 +147,31 @@ Found settingsNotKept(const NoticeFacts &f)
 
 /// In order of urgency.
 constexpr Found (*const rules[])(const NoticeFacts &) = {
-    noCamera,           noPicture,         zoomShowsNothing,  noAxis,
-    monitorNotPrepared, poleStarNotPicked, templateNotPlaced, templateLeftOver,
-    noStarHere,         noStarInPick,      starsLost,         misfit,
-    movedLittle,        turnedLittle,      dialNotReset,      ringUnderMagnifier,
+    libraryUnusable,
+    noCamera,
+    noPicture,
+    zoomShowsNothing,
+    noAxis,
+    monitorNotPrepared,
+    poleStarNotPicked,
+    templateNotPlaced,
+    templateLeftOver,
+    noStarHere,
+    noStarInPick,
+    starsLost,
+    misfit,
+    movedLittle,
+    turnedLittle,
+    dialNotReset,
+    ringUnderMagnifier,
     settingsNotKept,
 };
 
 const char *sourceText(NoticeCode code)
 {
     switch (code) {
+    case NoticeCode::LibraryUnusable:
+        return QT_TRANSLATE_NOOP("Notice", "The camera library cannot be used: see the log.");
     case NoticeCode::NoCamera:
         return QT_TRANSLATE_NOOP("Notice", "No camera is connected.");
     case NoticeCode::NoPicture:

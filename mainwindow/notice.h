@@ -9,6 +9,7 @@
 
 /// In order of urgency: of several that hold the first is shown.
 enum class NoticeCode {
+    LibraryUnusable,
     NoCamera,
     NoPicture, ///< seconds
     ZoomShowsNothing,
@@ -43,6 +44,7 @@ inline bool operator==(const Notice &a, const Notice &b)
 /// Everything that the notices depend on; the defaults give none.
 struct NoticeFacts {
     // The camera and the picture
+    bool libraryUsable = true; ///< it was initialised
     bool connected = false;
     bool pageShown = false;           ///< an instruction page is to be seen
     double secondsWithoutPicture = 0; ///< since the last one, or since connecting

@@ -62,6 +62,7 @@ void MainWindow::showNotice()
 NoticeFacts MainWindow::noticeFacts() const
 {
     NoticeFacts facts;
+    facts.libraryUsable = session.camera.sdkReady;
     facts.connected = session.camera.cameraConnected;
     facts.pageShown = !tipTabs->isHidden();
     facts.secondsWithoutPicture = double(sinceLastPicture.elapsed()) / 1000.0;

@@ -580,6 +580,10 @@
 <context>
     <name>Notice</name>
     <message>
+        <source>The camera library cannot be used: see the log.</source>
+        <translation>Kamerabibliothek unbrauchbar: siehe Protokoll.</translation>
+    </message>
+    <message>
         <source>No camera is connected.</source>
         <translation>Es ist keine Kamera verbunden.</translation>
     </message>

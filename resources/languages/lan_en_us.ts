@@ -580,6 +580,10 @@
 <context>
     <name>Notice</name>
     <message>
+        <source>The camera library cannot be used: see the log.</source>
+        <translation>The camera library cannot be used: see the log.</translation>
+    </message>
+    <message>
         <source>No camera is connected.</source>
         <translation>No camera is connected.</translation>
     </message>

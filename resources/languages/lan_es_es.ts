@@ -580,6 +580,10 @@
 <context>
     <name>Notice</name>
     <message>
+        <source>The camera library cannot be used: see the log.</source>
+        <translation>La biblioteca de la cámara no se puede usar: vea el registro.</translation>
+    </message>
+    <message>
         <source>No camera is connected.</source>
         <translation>No hay ninguna cámara conectada.</translation>
     </message>

@@ -580,6 +580,10 @@
 <context>
     <name>Notice</name>
     <message>
+        <source>The camera library cannot be used: see the log.</source>
+        <translation>Bibliothèque de la caméra inutilisable : voir le journal.</translation>
+    </message>
+    <message>
         <source>No camera is connected.</source>
         <translation>Aucune caméra n&apos;est connectée.</translation>
     </message>

@@ -580,6 +580,10 @@
 <context>
     <name>Notice</name>
     <message>
+        <source>The camera library cannot be used: see the log.</source>
+        <translation>Libreria della camera inutilizzabile: vedere il registro.</translation>
+    </message>
+    <message>
         <source>No camera is connected.</source>
         <translation>Nessuna camera collegata.</translation>
     </message>

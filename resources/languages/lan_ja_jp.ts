@@ -580,6 +580,10 @@
 <context>
     <name>Notice</name>
     <message>
+        <source>The camera library cannot be used: see the log.</source>
+        <translation>カメラライブラリを使用できません：ログを参照してください。</translation>
+    </message>
+    <message>
         <source>No camera is connected.</source>
         <translation>カメラが接続されていません。</translation>
     </message>

@@ -580,6 +580,10 @@
 <context>
     <name>Notice</name>
     <message>
+        <source>The camera library cannot be used: see the log.</source>
+        <translation>카메라 라이브러리를 사용할 수 없습니다: 로그를 확인하세요.</translation>
+    </message>
+    <message>
         <source>No camera is connected.</source>
         <translation>연결된 카메라가 없습니다.</translation>
     </message>

@@ -580,6 +580,10 @@
 <context>
     <name>Notice</name>
     <message>
+        <source>The camera library cannot be used: see the log.</source>
+        <translation>Biblioteca da câmara inutilizável: consulte o registo.</translation>
+    </message>
+    <message>
         <source>No camera is connected.</source>
         <translation>Nenhuma câmara ligada.</translation>
     </message>

@@ -580,6 +580,10 @@
 <context>
     <name>Notice</name>
     <message>
+        <source>The camera library cannot be used: see the log.</source>
+        <translation>Библиотека камеры непригодна: см. журнал.</translation>
+    </message>
+    <message>
         <source>No camera is connected.</source>
         <translation>Камера не подключена.</translation>
     </message>

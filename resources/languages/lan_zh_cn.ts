@@ -580,6 +580,10 @@
 <context>
     <name>Notice</name>
     <message>
+        <source>The camera library cannot be used: see the log.</source>
+        <translation>相机库无法使用：请查看日志。</translation>
+    </message>
+    <message>
         <source>No camera is connected.</source>
         <translation>未连接相机。</translation>
     </message>

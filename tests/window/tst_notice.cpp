@@ -138,6 +138,9 @@ void TestNotice::notices_data()
     using Code = NoticeCode;
     const float none = std::numeric_limits<float>::quiet_NaN();
 
+    row("unusable library",
+        with(SetExposure, [](auto &f) { f.libraryUsable = f.connected = false; }),
+        {Code::LibraryUnusable});
     row("no camera", with(SetExposure, [](auto &f) { f.connected = false; }), {Code::NoCamera});
     row("monitoring without a camera", with(FineAdjustment, [](auto &f) { f.connected = false; }),
         {Code::NoCamera});
