@@ -188,6 +188,9 @@ void SdkMatrixTest::failure()
         giveGoodFrames();
     });
     QCOMPARE(bool(w->session().camera.sdkReady), !neverReady);
+    if (neverReady) // Connect says nothing, the status bar does
+        QTRY_COMPARE(w->child<QLabel>("label_notice").text(),
+                     QString("The camera library cannot be used: see the log."));
     if (atStart) {
         connecting(*w, fault, !neverReady);
     } else {
