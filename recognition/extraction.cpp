@@ -29,7 +29,8 @@ constexpr std::size_t candidatesAStar = 3; // looked at for every star that is w
 int searchBin(const cv::Mat &frame)
 {
     int bin = 1;
-    while (double(frame.cols / bin) * double(frame.rows / bin) > searchedPixels)
+    const auto along = [&bin](int pixels) -> int { return pixels / bin; };
+    while (double(along(frame.cols)) * double(along(frame.rows)) > searchedPixels)
         ++bin;
     return bin;
 }

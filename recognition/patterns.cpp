@@ -113,7 +113,8 @@ PatternIndex::PatternIndex(const PoleStars &stars)
 void PatternIndex::sortIntoCells(std::vector<Pattern> &&unsorted)
 {
     const auto cell = [](const Pattern &p) {
-        return static_cast<std::size_t>(rowOf(p.middleRatio) * columns + columnOf(p.shortestRatio));
+        const int number = rowOf(p.middleRatio) * columns + columnOf(p.shortestRatio);
+        return static_cast<std::size_t>(number);
     };
     cellStart.assign(static_cast<std::size_t>(rows * columns) + 1, 0);
     for (const Pattern &p : unsorted)

@@ -50,7 +50,8 @@ PoleStars::PoleStars(Hemisphere hemisphere) : sign(hemisphere == Hemisphere::Nor
 void PoleStars::fillCells()
 {
     const auto cell = [](const Star &star) {
-        return static_cast<std::size_t>(cellOf(star.place.y) * cellsAcross + cellOf(star.place.x));
+        const int number = cellOf(star.place.y) * cellsAcross + cellOf(star.place.x);
+        return static_cast<std::size_t>(number);
     };
     cellStart.assign(static_cast<std::size_t>(cellsAcross * cellsAcross) + 1, 0);
     for (const Star &star : stars)
