@@ -3,6 +3,7 @@
 #pragma once
 
 #include <opencv2/core.hpp>
+#include <optional>
 #include <vector>
 
 namespace recognition

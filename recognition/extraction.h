@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Which stars are in a frame, how bright and how sharp, and if there are none, why?
 //
-// The detection follows Source Extractor (Bertin and Arnouts 1996, A&AS 117, 393) by way of SEP
-// (Barbary 2016, JOSS 1, 58); centres and widths are adaptive Gaussian-weighted moments (Bernstein
+// The background follows Source Extractor (Bertin and Arnouts 1996, A&AS 117, 393) by way of SEP
+// (Barbary 2016, JOSS 1, 58); stars are peaks of the smoothed frame (Stetson 1987, PASP 99, 191);
+// centres and widths are adaptive Gaussian-weighted moments (Bernstein
 // and Jarvis 2002, AJ 123, 583).
 #pragma once
 
