@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The table of the notices: when each holds, and its words.
+// The table of notices: the condition and the text of each.
 #include "mainwindow/notice.h"
 
 #include "mainwindow/wizardtable.h"
@@ -10,13 +10,13 @@
 
 namespace
 {
-/// A camera sends a picture at least twice a second.
+/// Seconds; a camera delivers a picture at least twice a second.
 constexpr double longestPause = 5.0;
-/// A picture that is smaller than a tenth shows no star, one of no size nothing at all.
+/// Below a tenth, the picture shows no stars; at zero size it shows nothing.
 constexpr float leastZoom = 0.1F;
-/// The pages ask for 30 degrees; from half of it on the axis is not to be trusted.
+/// The pages ask for 30 degrees; below half of that the axis is unreliable.
 constexpr double leastTurn = 15.0;
-/// Picks that are nearer to one another than this differ by little more than noise.
+/// Picks that are closer together than this differ by little more than noise, pixels.
 constexpr double leastMove = 10.0;
 
 using Found = std::optional<Notice>;
@@ -26,7 +26,7 @@ Found when(bool holds, NoticeCode code, double first = 0, double second = 0)
     return holds ? Found(Notice{code, int(first), int(second)}) : std::nullopt;
 }
 
-/// Monitor mode is prepared or runs.
+/// Monitor mode is prepared or running.
 bool showsPole(const NoticeFacts &f)
 {
     return f.step == StartMonitor || f.monitoring;
@@ -107,7 +107,7 @@ Found misfit(const NoticeFacts &f)
                 NoticeCode::TemplateMisfit, fit.held, fit.rings);
 }
 
-/// Also before the axis is known: nothing turns by 30 degrees in so few pixels.
+/// Also before the axis is known: no turn of 30 degrees moves a star by so few pixels.
 Found movedLittle(const NoticeFacts &f)
 {
     return when(f.connected && f.movedPixels && *f.movedPixels < leastMove,
@@ -120,7 +120,7 @@ Found turnedLittle(const NoticeFacts &f)
                 NoticeCode::AxisTurnedLittle, std::floor(f.turnDegrees.value_or(0)));
 }
 
-/// The dial turns the places where the stars were found, and these hold its angle already.
+/// The dial rotates the positions where the stars were found, which already include its angle.
 Found dialNotReset(const NoticeFacts &f)
 {
     return when(f.connected && showsPole(f) && f.monitorPrepared && f.dialAtStart != 0 &&

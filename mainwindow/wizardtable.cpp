@@ -207,7 +207,8 @@ const WizardStep &wizardStep(int step)
 
 LampCount lampsOnStyleChange(int step)
 {
-    // Entering this step leaves the three lamps lit that the pole star's expected position lit.
+    // On entry to this step, the three lamps stay lit as the pole star's expected position set
+    // them.
     if (step == CurrentPosition)
         return wizardStep(ExpectedPosition).lamps;
     return isWizardStep(step) ? wizardStep(step).lamps : lampsUnchanged;
