@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Which languages does the virtual mount speak, and which one is it asked for?
+// Which languages does the virtual mount support, and which one is requested?
 #pragma once
 
 #include <QString>
@@ -10,21 +10,22 @@ namespace virtualmount
 {
 struct Language {
     const char *code;      ///< as on the command line
-    const char *locale;    ///< as QLocale takes it
+    const char *locale;    ///< as QLocale expects it
     const char *catalogue; ///< resource path of the compiled catalogue; empty for the source texts
 };
 
 /// All ten; English, the source language, comes first.
 extern const std::array<Language, 10> languages;
 
-/// The language of a code in capital or small letters; nullptr for every other text.
+/// The language of a code, case-insensitive; nullptr for any other text.
 const Language *languageOf(const QString &code);
-/// The first of a user's languages, such as "de-AT", that there is; English if there is none.
+/// The first supported language of a user's list, such as "de-AT"; English if there is none.
 const Language &languageAmong(const QStringList &userLanguages);
-/// Lets the program speak a language from here on. To be called before there is a window.
-/// \return false if the catalogue is not there
+/// Activates a language. Call it before creating a window.
+/// \return false if the catalogue is missing
 bool speak(const Language &language);
-/// Speaks the language of a code and writes numbers as it does; for an empty code the system's.
-/// \return false for a code that there is not
+/// Activates the language of a code and its number format; an empty code means the system's
+/// language.
+/// \return false for an unknown code
 bool speakAsAsked(const QString &code);
 } // namespace virtualmount
