@@ -9,7 +9,7 @@
 /// Smallest block that counts: a grey frame at half its size.
 constexpr std::size_t largeBlock = 640 * 480;
 
-/// Starts counting. Call it only from main() on.
+/// Starts counting. Must not be called before main().
 void countLargeAllocations();
 
 /// Stops counting; returns the number of requests per call chain and size.

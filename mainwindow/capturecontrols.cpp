@@ -23,7 +23,7 @@ namespace
 {
 constexpr double microsecondsPerMillisecond = 1000.0;
 
-/// The value of `digits`. A number too large for int is limited; it is too large for any slider.
+/// The value of `digits`; a number too large for int becomes the largest int.
 int numberIn(const QString &digits)
 {
     bool isNumber = false;

@@ -207,8 +207,7 @@ const WizardStep &wizardStep(int step)
 
 LampCount lampsOnStyleChange(int step)
 {
-    // On entry to this step, the three lamps stay lit as the pole star's expected position set
-    // them.
+    // Entering this step leaves the lamps as the expected-position step set them.
     if (step == CurrentPosition)
         return wizardStep(ExpectedPosition).lamps;
     return isWizardStep(step) ? wizardStep(step).lamps : lampsUnchanged;
