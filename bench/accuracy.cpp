@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Tries the method on frames of the virtual camera and compares with the scene's truth.
+// Applies the method to frames of the virtual camera and compares the results with the truth.
 #include "bench/accuracy.h"
 
 #include "geometry/axiscentre.h"
@@ -23,7 +23,7 @@ namespace
 {
 using virtualsky::SkyState;
 
-/// Degrees of RA between the three picks: 30 to 60, as the instructions ask for.
+/// Degrees of RA between the three picks: 30 to 60, as the instructions require.
 constexpr double turns[][2] = {{30, 60}, {40, 80}, {45, 90}, {60, 120}};
 
 QPointF toPointF(const std::optional<virtualsky::Point> &p)
@@ -36,7 +36,7 @@ double length(QPointF p)
     return std::hypot(p.x(), p.y());
 }
 
-/// Part of a Gaussian of width `sigma` about `centre` that falls on the pixel at `pixel`.
+/// Fraction of a Gaussian of width `sigma` about `centre` in the pixel at `pixel`.
 double pixelShare(double pixel, double centre, double sigma)
 {
     const double scale = 1.0 / (sigma * std::sqrt(2.0));
@@ -44,8 +44,8 @@ double pixelShare(double pixel, double centre, double sigma)
            (std::erf((pixel + 0.5 - centre) * scale) - std::erf((pixel - 0.5 - centre) * scale));
 }
 
-/// The Cramér-Rao bound of a star's x for its light, the background and the sensor's noise. A pixel
-/// at full scale tells nothing.
+/// The Cramér-Rao bound of a star's x for its light, the background and the sensor's noise. A
+/// saturated pixel carries no information.
 double centroidBound(const AccuracyCase &sky, const SkyState &state, double magnitude, QPointF star)
 {
     constexpr int reach = 12;
@@ -79,7 +79,7 @@ class Camera
 public:
     Camera(const AccuracyCase &skyCase, const SkyState &initial) : sky(skyCase), current(initial) {}
 
-    /// A frame as the camera takes it at one angle of the RA axis.
+    /// A frame of the camera at one angle of the RA axis.
     const cv::Mat &frameAt(double raAngle)
     {
         current.raAngle = raAngle;
@@ -107,8 +107,8 @@ SkyState skyOf(const AccuracyCase &sky)
     SkyState state = practiceSky(sky.south);
     state.date =
         double(QDateTime::fromString(sky.date + "T14:00:00Z", Qt::ISODate).toSecsSinceEpoch());
-    // Nearly aligned, as when the pole is monitored: in the south the triangle's two candidates for
-    // the pole lie some 33 pixels apart, and the one nearer to the axis is taken.
+    // Nearly aligned, as during pole monitoring: in the south the triangle's two candidates for the
+    // pole are some 33 pixels apart, and the one closer to the axis is used.
     state.boltAltitude = 0.03;
     state.boltAzimuth = 0.02;
     state.clouds = sky.clouds;
@@ -122,7 +122,7 @@ StarCatalogue anglesOf(const AccuracyCase &sky)
         sky.south ? ":/starData/SStarPosData.ini" : ":/starData/NStarPosData.ini", sky.epoch);
 }
 
-/// What was found minus what is true, of one thing, pixels.
+/// Found minus true positions of one quantity, pixels.
 class Errors
 {
 public:
@@ -150,7 +150,7 @@ private:
     std::vector<QPointF> errors;
 };
 
-/// The method's tries under one sky.
+/// The trials under one sky.
 class Tries
 {
 public:
@@ -159,7 +159,7 @@ public:
     {
     }
 
-    /// The axis, and all stars with it, comes to another place between the pixels.
+    /// Moves the axis and all stars to another position relative to the pixel grid.
     void moveAxis()
     {
         std::uniform_real_distribution<double> place(-3, 3);
@@ -181,11 +181,11 @@ private:
     Camera camera;
     std::mt19937 random{20240523};
     Errors starA, starB, axis, pole;
-    QPointF lastA, lastB, lastAxis; ///< the true places in the last picture for a pole
+    QPointF lastA, lastB, lastAxis; ///< the true positions in the last frame for a pole
     int failures = 0;
 };
 
-/// A click is a pixel or two off the star. Nothing, and one failure more, where no star is found.
+/// Clicks a pixel or two off the star. Empty, and one more failure, if no star is found.
 std::optional<QPointF> Tries::find(const cv::Mat &frame, QPointF star)
 {
     std::uniform_real_distribution<double> slip(-2, 2);

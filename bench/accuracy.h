@@ -6,22 +6,22 @@
 #include <QString>
 #include <vector>
 
-/// One sky under which the method is tried.
+/// One sky under which the method is tested.
 struct AccuracyCase {
-    QString name; ///< of the light and noise
+    QString name; ///< of the light and noise conditions
     QString date; ///< of the sky, "yyyy-MM-dd"
     int epoch;    ///< year of the built-in angles that are used
     bool south;
     double seconds; ///< exposure
     double gain;    ///< camera units
-    double clouds;  ///< part of the light that is held back
+    double clouds;  ///< fraction of the light that is blocked
     bool noise;
 };
 
-/// Errors of one star's position in pixels, one axis.
+/// Errors of one star's position along one axis, pixels.
 struct CentroidError {
     double rms;   ///< found - true
-    double bound; ///< the least that any unbiased method could reach (Cramér-Rao); 0 without noise
+    double bound; ///< lower limit for any unbiased method (Cramér-Rao); 0 without noise
 };
 
 struct Accuracy {
@@ -30,16 +30,16 @@ struct Accuracy {
     double poleMean;    ///< arcseconds; distance of the mean pole from the true one
     double poleRms;     ///< arcseconds; distance of single poles from the true one
     double poleScatter; ///< arcseconds; of single poles about their mean, both axes together
-    int failures;       ///< stars, poles and axes that were not found; the errors leave them out
+    int failures; ///< stars, poles and axes that were not found; they are excluded from the errors
 };
 
-/// Every hemisphere, date and light of the report.
+/// All combinations of hemisphere, date and light in the report.
 std::vector<AccuracyCase> accuracyCases();
 
-/// What the triangle alone gives with perfect star positions, arcseconds, computed elsewhere from
-/// the apparent places; 0 for dates that are not in the table.
+/// The error of the triangle alone with perfect star positions, arcseconds, computed independently
+/// from apparent places; 0 for dates that are not in the table.
 double poleErrorOfTheAngles(const QString &date, bool south);
 
-/// Tries the method on `trials` frames of the virtual camera, each with noise of its own and the
-/// stars at other places between the pixels.
+/// Applies the method to `trials` frames of the virtual camera, each with different noise and star
+/// positions relative to the pixel grid.
 Accuracy measureAccuracy(const AccuracyCase &sky, int trials);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Prints the accuracy of the method as a Markdown table.
+// Prints the method's accuracy as a Markdown table.
 #include "bench/accuracy.h"
 #include "resources/resources.h"
 
@@ -22,8 +22,9 @@ int main(int argc, char *argv[])
                a.starA.rms, a.starA.bound, a.starB.rms, a.starB.bound, a.axisRms, a.poleMean,
                a.poleRms, a.poleScatter, poleErrorOfTheAngles(sky.date, sky.south));
         if (a.failures > 0)
-            fprintf(stderr, "%s %s %s: %d times nothing was found\n", sky.south ? "south" : "north",
-                    qPrintable(sky.date), qPrintable(sky.name), a.failures);
+            fprintf(stderr, "%s %s %s: nothing was found in %d trials\n",
+                    sky.south ? "south" : "north", qPrintable(sky.date), qPrintable(sky.name),
+                    a.failures);
     }
     return 0;
 }

@@ -12,7 +12,8 @@ namespace
 {
 const virtualsky::Exposure exposure{0.5, 50.0, 1};
 
-/// As the camera library makes it: sky file looked at, sky turned, stars spread, noise drawn.
+/// Same work as in the camera library: check the sky file, rotate the sky, spread the stars, add
+/// noise.
 void frame(benchmark::State &state)
 {
     virtualsky::SkySource source("no sky file", {});

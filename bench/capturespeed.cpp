@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What does the capture thread need for one frame, and what does monitor mode add?
+// How long does the capture thread need per frame, and what does monitor mode add?
 #include "bench/plainforms.h"
 #include "bench/skyframe.h"
 #include "camera/capturethread.h"
@@ -9,12 +9,12 @@
 #include <benchmark/benchmark.h>
 #include <opencv2/imgproc.hpp>
 
-/// Runs the capture thread's work without its thread.
+/// Runs the capture thread's work on the calling thread.
 class CaptureThreadProbe
 {
 public:
     explicit CaptureThreadProbe(Session &session) : thread(session) {}
-    /// With a grey frame of `size` in the fetch buffer.
+    /// Processes one frame, with a grey frame of `size` in the fetch buffer.
     void handleFrame(cv::Size size)
     {
         thread.fetched = {std::uint32_t(size.width), std::uint32_t(size.height), 8, 1};
@@ -34,7 +34,7 @@ QPointF found(const std::optional<virtualsky::Point> &place)
     return {place->x, place->y};
 }
 
-/// The state as after Connect, with the sky in both frame buffers.
+/// Sets the state after Connect, with the sky in both frame buffers.
 void prepare(Session &session, bool marks, bool monitoring)
 {
     const SkyFrame &frame = skyFrame();
@@ -65,7 +65,7 @@ void capturePass(benchmark::State &state, bool marks)
     CaptureThreadProbe capture(session);
     for (auto _ : state) {
         capture.handleFrame(skyFrame().grey.size());
-        session.frameQueue.clear(); // as the GUI takes each picture
+        session.frameQueue.clear(); // the GUI takes each picture
     }
 }
 
@@ -94,7 +94,7 @@ void monitoringAdded(benchmark::State &state)
     }
 }
 
-/// Also holds the results of both forms against each other.
+/// Also compares the results of both implementations.
 void monitoringPlain(benchmark::State &state)
 {
     Session session;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Times clicks from another thread's post to the painted answer.
+// Measures the time from posting a click on another thread to the painted response.
 #include "bench/clicks.h"
 
 #include "bench/processfigures.h"
@@ -14,7 +14,7 @@
 
 namespace
 {
-/// Hears of the end of the painting that follows a click.
+/// Detects the end of the painting that follows a click.
 class PaintWatch : public QObject
 {
 public:
@@ -33,7 +33,7 @@ protected:
     {
         if (waiting && event->type() == QEvent::Paint) {
             waiting = false;
-            // The window's painting ends before the loop comes back to this.
+            // The window finishes painting before the event loop gets here.
             QTimer::singleShot(0, this, [this] {
                 times.push_back(1e3 * (clockSeconds(CLOCK_MONOTONIC) - start));
             });
@@ -61,7 +61,7 @@ std::vector<double> clickTimes(QWidget &button, int count)
                 &watch,
                 [&watch, &button, posted] {
                     if (watch.isWaiting())
-                        return; // the one before is still being answered
+                        return; // the previous click is still being processed
                     watch.begin(posted);
                     QTest::mouseClick(&button, Qt::LeftButton);
                 },

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// How long does the window take to answer a click?
+// How long does the window take to respond to a click?
 #pragma once
 
 #include <QWidget>
 #include <vector>
 
-/// Clicks `button` `count` times at uneven intervals while the event loop runs. A click is timed
-/// from the moment at which another thread puts it into the loop's queue, as the thread that reads
-/// the window system's events does, to the end of the button's next painting.
-/// \returns milliseconds of every click, sorted
+/// Clicks `button` `count` times at uneven intervals while the event loop runs. The time of a click
+/// starts when another thread posts it to the event loop, as the thread that reads window system
+/// events does, and ends after the button's next repaint.
+/// \returns milliseconds of all clicks, sorted
 std::vector<double> clickTimes(QWidget &button, int count);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What does the window need to show one frame, magnifier included?
+// How long does the window need to show one frame, including the magnifier?
 #include "bench/skyframe.h"
 #include "camera/frames.h"
 #include "camera/session.h"
@@ -34,7 +34,7 @@ void shown(benchmark::State &state, const char *zoom)
     }
 }
 
-/// The bare scaling and conversion; the last picture and pixmap are kept, as the window keeps them.
+/// Scaling and conversion only; keeps the last picture and pixmap, as the window does.
 void bare(benchmark::State &state, double zoom)
 {
     const QSize size = picture().size() * zoom;
@@ -46,7 +46,7 @@ void bare(benchmark::State &state, double zoom)
         benchmark::ClobberMemory();
     }
 }
-/// What painting the magnifier costs once the loop gets to it, out of a pixmap that it shares.
+/// The cost of painting the magnifier from the pixmap that it shares.
 void magnified(benchmark::State &state)
 {
     constexpr int side = 150;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Stands between the capture thread and the camera library's frame operation (linker option
-// --wrap) and counts.
+// Intercepts the capture thread's calls of the camera library's frame operation (linker option
+// --wrap) and counts them.
 #include "bench/fetches.h"
 
 #include "bench/processfigures.h"

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-// How many frames did the camera give, and what did making them cost?
+// How many frames did the camera deliver, and what did rendering them cost?
 #pragma once
 
 #include <cstdint>
 
 struct Fetches {
     std::uint64_t frames;
-    double seconds; ///< processor time inside the camera library
+    double seconds; ///< processor time in the camera library
 };
 
-/// Since the start of the process.
+/// Totals since the start of the process.
 Fetches fetches();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Measures the time from the start of the process to the first painted window, over several starts.
+// Measures the time from process start to the first painted window, over several starts.
 #include "app/startup.h"
 #include "app/terminationsignals.h"
 #include "bench/processfigures.h"
@@ -23,7 +23,7 @@ double monotonicSeconds()
     return clockSeconds(CLOCK_MONOTONIC);
 }
 
-/// Ends the program once the window has been painted.
+/// Quits the program when the window has been painted.
 class FirstPaint : public QObject
 {
 protected:
@@ -37,7 +37,7 @@ protected:
     }
 };
 
-/// Prints what has passed since `started` at every stage; the same steps as the program's own.
+/// Takes the same steps as the program and prints the time since `started` after each stage.
 int showWindow(int argc, char *argv[], double started)
 {
     const auto passed = [started] { return 1e3 * (monotonicSeconds() - started); };
@@ -60,7 +60,7 @@ int showWindow(int argc, char *argv[], double started)
     _exit(0);
 }
 
-/// Starts this program again and reads what it prints.
+/// Starts this program again and reads its output.
 std::vector<double> startOnce(const std::string &self)
 {
     const std::string command = self + " " + std::to_string(monotonicSeconds()) + " 2>/dev/null";
@@ -78,7 +78,7 @@ int main(int argc, char *argv[])
 {
     if (argc > 1)
         return showWindow(argc, argv, std::strtod(argv[1], nullptr));
-    constexpr int starts = 21; // the first only warms the caches
+    constexpr int starts = 21; // the first one only warms up the caches
     static const char *const stages[] = {"main() entered", "application object", "style sheet",
                                          "window built", "window painted"};
     std::vector<std::vector<double>> times(std::size(stages));

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Takes the place of the C library's allocation functions in the whole process, and keeps the call
-// chains of large requests.
+// Replaces the C library's allocation functions in the process and records the call stacks of large
+// requests.
 #include "bench/largeallocations.h"
 
 #include <array>
@@ -30,7 +30,7 @@ struct Request {
 };
 
 std::array<Request, capacity> requests;
-std::atomic<std::size_t> requestCount{capacity}; // at capacity nothing is kept
+std::atomic<std::size_t> requestCount{capacity}; // nothing is recorded at capacity
 
 void note(std::size_t size)
 {
@@ -55,7 +55,7 @@ std::string nameOf(void *address)
     return name.substr(0, name.find('('));
 }
 
-/// The named callers, innermost first, without the allocation functions themselves.
+/// The named callers, innermost first, without the allocation functions.
 std::string describe(const Request &request)
 {
     std::string text = std::to_string(request.size) + " bytes:";

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Measures the whole program on the virtual camera in monitor mode: memory, load, rate, clicks,
-// large allocations.
+// Measures the complete program with the virtual camera in monitor mode: memory, load, frame rate,
+// clicks, large allocations.
 #include "app/startup.h"
 #include "bench/clicks.h"
 #include "bench/fetches.h"
@@ -22,12 +22,12 @@ constexpr double settleSeconds = 3;
 void measureMemory(MonitoredRun &run, double)
 {
     run.wait(settleSeconds);
-    printf("resident %.1f MiB, of it anonymous %.1f and of files %.1f; peak %.1f; reserved %.1f\n",
+    printf("resident %.1f MiB (anonymous %.1f, file-backed %.1f); peak %.1f; reserved %.1f\n",
            statusMebibytes("VmRSS"), statusMebibytes("RssAnon"), statusMebibytes("RssFile"),
            statusMebibytes("VmHWM"), statusMebibytes("VmSize"));
 }
 
-/// Frames a second and processor seconds a second, by thread, over a while.
+/// Frames per second and processor load by thread, over a period.
 void measureLoad(MonitoredRun &run, double seconds)
 {
     run.wait(settleSeconds);
@@ -41,9 +41,9 @@ void measureLoad(MonitoredRun &run, double seconds)
     const double cpu = clockSeconds(CLOCK_PROCESS_CPUTIME_ID) - cpuBefore;
     const Fetches after = fetches();
     const double frames = double(after.frames - before.frames);
-    printf("%.1f pages of memory touched anew a frame\n",
+    printf("%.1f newly touched memory pages per frame\n",
            double(pageFaults() - faultsBefore) / frames);
-    printf("%.1f frames a second; %.1f %% of a core, of it the virtual camera %.1f %%\n",
+    printf("%.1f frames per second; %.1f %% of a core, including %.1f %% for the virtual camera\n",
            frames / passed, 100 * cpu / passed, 100 * (after.seconds - before.seconds) / passed);
     for (const auto &[name, now] : threadSeconds()) {
         const auto earlier = threadsBefore.find(name);
@@ -81,12 +81,12 @@ void listAllocations(MonitoredRun &run, double seconds)
     run.wait(seconds);
     const double frames = double(fetches().frames - before);
     const auto counts = largeAllocations();
-    printf("%.0f frames; requests of %zu bytes and more for each frame:\n", frames, largeBlock);
+    printf("%.0f frames; requests of at least %zu bytes per frame:\n", frames, largeBlock);
     for (const auto &[who, count] : counts)
         printf("  %.2f  %s\n", count / frames, who.c_str());
 }
 
-/// Resident mebibytes every second, for bench/plot_memory.py.
+/// Prints resident mebibytes every second, for bench/plot_memory.py.
 void soak(MonitoredRun &run, double seconds)
 {
     printf("seconds,resident_mebibytes,frames\n");
@@ -102,7 +102,7 @@ void soak(MonitoredRun &run, double seconds)
 const struct {
     const char *name;
     void (*measure)(MonitoredRun &run, double seconds);
-    double seconds; ///< unless told otherwise
+    double seconds; ///< default duration
 } measurements[] = {{"memory", measureMemory, 0},  {"load", measureLoad, 20},
                     {"clicks", measureClicks, 15}, {"rate", measureRate, 15},
                     {"soak", soak, 600},           {"allocations", listAllocations, 10}};

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Leads the window into monitor mode as a person does.
+// Operates the window like a user to enter monitor mode.
 #include "bench/monitoredrun.h"
 
 #include "core/settingsfile.h"
@@ -21,7 +21,7 @@ virtualsky::SkyState startingSky()
     return sky;
 }
 
-/// A new window finds the default settings.
+/// Writes default settings, so that a new window starts with them.
 std::string preparedSkyFile()
 {
     writeSettings(settingsFilePath(), Settings());
@@ -43,7 +43,7 @@ MonitoredRun::MonitoredRun(int zoomPercent) : knobs(preparedSkyFile(), startingS
     person.findAxis();
     person.placePoleStar();
     person.startMonitor();
-    // Short enough for 30 frames a second, with as many counts as at 200 ms and a gain of 50.
+    // Short enough for 30 frames per second, with the same values as 200 ms at a gain of 50.
     typeInto("lineEditExpose", "20");
     typeInto("lineEditGain", "100");
     setUnthrottled(false);
@@ -65,7 +65,7 @@ void MonitoredRun::wait(double seconds) const
     QTest::qWait(int(1000 * seconds));
 }
 
-/// Also where the field's section is folded.
+/// Also works if the field's section is collapsed.
 void MonitoredRun::typeInto(const char *lineEdit, const char *text)
 {
     auto *const edit = window.findChild<QLineEdit *>(lineEdit);

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// How does the whole program get into monitor mode by itself?
+// How does the complete program enter monitor mode automatically?
 #pragma once
 
 #include "camera/session.h"
 #include "mainwindow/mainwindow.h"
 #include "tools/tour/knobs.h"
 
-/// The window, connected to the virtual camera and monitoring; closed at the end.
+/// The window, connected to the virtual camera and monitoring; closed on destruction.
 class MonitoredRun
 {
 public:
@@ -14,9 +14,9 @@ public:
     explicit MonitoredRun(int zoomPercent);
     ~MonitoredRun();
 
-    /// A new frame at every call, or the rate of a real camera: 30 a second.
+    /// True: a new frame on every call. False: the rate of a real camera, 30 per second.
     void setUnthrottled(bool unthrottled);
-    /// Lets the window work.
+    /// Runs the event loop.
     void wait(double seconds) const;
 
     Session session;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The plain forms that the program's own work is measured against.
+// Plain implementations that the program's own code is compared with.
 #include "bench/plainforms.h"
 
 #include <algorithm>

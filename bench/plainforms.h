@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How is the same work done plainly, with no thought to its cost?
+// How is the same work done in a straightforward way, without optimisation?
 #pragma once
 
 #include <QImage>
@@ -9,12 +9,12 @@
 #include <random>
 #include <vector>
 
-/// The brightest pixel and the centroid about it, each with the whole frame filtered first; the
-/// frame has one channel. Gives `search` where no star is found.
+/// The brightest pixel and the centroid about it, each after filtering the full frame; the frame
+/// has one channel. Returns `search` if no star is found.
 QPointF plainStar(const cv::Mat &grey, QPointF search);
 
-/// The whole frame enlarged five-fold, converted and marked, and the surroundings of star B cut
-/// out of it. Keeps its large matrices between calls.
+/// Enlarges the full frame five-fold, converts and marks it, and cuts out the surroundings of star
+/// B. Keeps its large matrices between calls.
 class PlainMagnifier
 {
 public:
@@ -24,7 +24,7 @@ private:
     cv::Mat large, largeColour;
 };
 
-/// A frame of stars over a noisy sky: a normal deviate for every pixel.
+/// Renders a frame of stars over a noisy sky: one normal deviate per pixel.
 class PlainSensor
 {
 public:

@@ -1,10 +1,10 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""Draws the resident memory of a soak as an SVG picture.
+"""Plots the resident memory of a long run as an SVG picture.
 
 usage: plot_memory.py soak.csv memory.svg
 
-The table is what `load soak` prints: seconds, mebibytes, frames.
+The input is the output of `load soak`: seconds, mebibytes, frames.
 """
 import csv
 import sys
@@ -55,7 +55,7 @@ def picture(seconds, mebibytes):
 
 
 def slope(xs, ys):
-    """Least squares, units of y for each unit of x."""
+    """Least-squares slope, units of y per unit of x."""
     mean_x, mean_y = sum(xs) / len(xs), sum(ys) / len(ys)
     return sum((x - mean_x) * (y - mean_y) for x, y in zip(xs, ys)) / sum(
         (x - mean_x) ** 2 for x in xs
@@ -72,10 +72,10 @@ def main(table, image):
     frames = int(rows[-1]["frames"]) - int(rows[0]["frames"])
     half = len(rows) // 2
     print(f"{seconds[-1]:.0f} s, {frames} frames")
-    print(f"least {min(mebibytes):.1f}, most {max(mebibytes):.1f} MiB")
+    print(f"minimum {min(mebibytes):.1f}, maximum {max(mebibytes):.1f} MiB")
     for name, part in (("first", slice(0, half)), ("second", slice(half, None))):
         print(f"mean of the {name} half: {sum(mebibytes[part]) / len(mebibytes[part]):.2f} MiB")
-    print(f"trend: {60 * slope(seconds, mebibytes):+.3f} MiB a minute")
+    print(f"trend: {60 * slope(seconds, mebibytes):+.3f} MiB per minute")
 
 
 if __name__ == "__main__":

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Figures of the process out of /proc.
+// Reads the process' figures from /proc.
 #include "bench/processfigures.h"
 
 #include <QDir>

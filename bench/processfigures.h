@@ -1,19 +1,19 @@
 // SPDX-License-Identifier: MIT
-// What does this process use just now?
+// What resources does this process use at the moment?
 #pragma once
 
 #include <ctime>
 #include <map>
 #include <string>
 
-/// A clock of clock_gettime in seconds.
+/// Reads a clock of clock_gettime, seconds.
 double clockSeconds(clockid_t clock);
 
 /// A line of /proc/self/status in mebibytes, for example "VmRSS".
 double statusMebibytes(const std::string &name);
 
-/// Pages that the system gave the process so far, without reading a disk.
+/// Minor page faults of the process so far (no disk access).
 long pageFaults();
 
-/// Processor seconds of every thread so far, those of one name together.
+/// Processor seconds of every thread so far; threads of the same name are added up.
 std::map<std::string, double> threadSeconds();

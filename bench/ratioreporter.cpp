@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The table of ratios, from the medians of the repetitions.
+// The table of ratios of the repetitions' medians.
 #include "bench/ratioreporter.h"
 
 #include <algorithm>
@@ -8,7 +8,7 @@
 
 namespace
 {
-/// One line of the table; the latter two are names of benchmarks.
+/// One line of the table; `measured` and `plain` are benchmark names.
 struct Ratio {
     const char *what;
     const char *measured;

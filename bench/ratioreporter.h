@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How does each piece of work compare with the plain form of the same work in the same run?
+// How does each operation compare with the plain implementation in the same run?
 #pragma once
 
 #include <benchmark/benchmark.h>
@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-/// Prints what the console reporter prints, and after it a table of ratios of the medians of the
+/// Prints the console reporter's output, followed by a table of ratios of the medians of the
 /// processor time of all threads.
 class RatioReporter : public benchmark::ConsoleReporter
 {
@@ -18,5 +18,5 @@ public:
 private:
     double median(const std::string &name) const;
 
-    std::map<std::string, std::vector<double>> milliseconds; ///< of every repetition, by name
+    std::map<std::string, std::vector<double>> milliseconds; ///< of all repetitions, by name
 };

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The frame that everything is measured on.
+// The frame that all benchmarks use.
 #include "bench/skyframe.h"
 
 #include "tools/practicesky.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Which frame is everything measured on?
+// Which frame do all benchmarks use?
 #pragma once
 
 #include "virtualcamera/skystate.h"
@@ -7,14 +7,14 @@
 
 #include <opencv2/core.hpp>
 
-/// A northern sky at half a second and a gain of 50, with noise, standing still.
+/// A northern sky at half a second and a gain of 50, with noise, without motion.
 struct SkyFrame {
     SkyFrame();
 
     virtualsky::SkyState sky;
-    virtualsky::Truth truth; ///< where the stars lie in `grey`
+    virtualsky::Truth truth; ///< star positions in `grey`
     cv::Mat grey;            ///< 960 x 1280, one channel
 };
 
-/// Made at the first call.
+/// Rendered on the first call.
 const SkyFrame &skyFrame();

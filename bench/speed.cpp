@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Measures single pieces of the program's work beside the plain forms of the same work.
+// Measures individual operations of the program against plain implementations of the same work.
 #include "bench/ratioreporter.h"
 #include "resources/resources.h"
 
@@ -12,7 +12,7 @@ int main(int argc, char *argv[])
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     initialiseResources();
-    // Repetitions of all benchmarks take turns, so that another load of the machine meets all.
+    // Repetitions of all benchmarks are interleaved, so that other load on the machine affects all.
     std::vector<char *> arguments(argv, argv + argc);
     char turns[] = "--benchmark_enable_random_interleaving=true";
     char repetitions[] = "--benchmark_repetitions=15";

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Remembers the picks of an alignment and what follows from them.
+// Records the picks of an alignment and what follows from them.
 #include "mainwindow/alignmentprogress.h"
 
 #include "mainwindow/wizardtable.h"
@@ -14,7 +14,7 @@ double distance(QPointF a, QPointF b)
     return std::hypot(a.x() - b.x(), a.y() - b.y());
 }
 
-/// The angle between two points as seen from a third, degrees, 0 to 180.
+/// The angle between two points as seen from a third point, degrees, 0 to 180.
 double angleBetween(QPointF a, QPointF b, QPointF from)
 {
     const QPointF u = a - from, v = b - from;
@@ -22,7 +22,7 @@ double angleBetween(QPointF a, QPointF b, QPointF from)
     return std::abs(std::atan2(u.x() * v.y() - u.y() * v.x(), QPointF::dotProduct(u, v))) * degrees;
 }
 
-/// Which of the three picks is made in a step, from 0; -1 for none.
+/// Index of the pick (0 to 2) that a step asks for; -1 if it asks for none.
 int pickIn(int step)
 {
     return step == FirstPick ? 0 : step == SecondPick ? 1 : step == ThirdPick ? 2 : -1;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What has the user done so far in this alignment, as far as the notices need it?
+// Which of the user's actions in this alignment do the notices depend on?
 #pragma once
 
 #include "geometry/templaterings.h"
@@ -8,34 +8,35 @@
 #include <array>
 #include <optional>
 
-/// How the three picks of one star lie to one another.
+/// How far apart the three picks of one star are.
 struct PickTurns {
-    double movedPixels = 0; ///< the least distance between two of the picks
-    double turnDegrees = 0; ///< the least angle between two of them as seen from the axis, 0 to 180
+    double movedPixels = 0; ///< smallest distance between two of the picks
+    double turnDegrees = 0; ///< smallest angle between two of them as seen from the axis, 0 to 180
 };
 
 PickTurns turnsBetween(const std::array<QPointF, 3> &picks, QPointF axis);
 
-/// Follows the wizard: told of every step that is entered and of every pick.
+/// Follows the wizard; is notified of every step that is entered and of every pick.
 class AlignmentProgress
 {
 public:
-    /// Begins a step; the steps that ask for a pick forget the earlier ones.
+    /// Enters a step; the steps that ask for a pick discard the earlier ones.
     void enter(int step);
-    /// A double click was accepted in a step. \param onStar whether a star is there
+    /// Records an accepted double click. \param onStar whether there is a star at `place`
     void pick(int step, QPointF place, bool onStar);
-    /// The axis was computed from the three picks.
+    /// Records that the axis was computed from the three picks.
     void fitAxis(QPointF axis);
-    /// The two reference stars were looked for. \param dialDegrees what the tracking dial showed
+    /// Records the search for the two reference stars. \param dialDegrees reading of the tracking
+    /// dial
     void prepareMonitor(int dialDegrees, const TemplateFit &fit);
 
     bool poleStarPicked() const { return polePicked; }
     bool poleStarOnStar() const { return poleOnStar; }
-    /// The first of the three picks, 1 to 3, that holds no star; 0 if there is none.
+    /// The first of the three picks, 1 to 3, that is not on a star; 0 if there is none.
     int emptyPick() const;
-    /// The least distance between two picks that follow one another; nothing before the second.
+    /// The smallest distance between two consecutive picks; empty before the second pick.
     std::optional<double> movedPixels() const;
-    /// Of the three picks that gave the axis; nothing if the axis comes from an earlier night.
+    /// For the three picks that gave the axis; empty if the axis comes from an earlier session.
     const std::optional<PickTurns> &turns() const { return axisTurns; }
     bool monitorPrepared() const { return prepared; }
     int dialAtStart() const { return dial; }

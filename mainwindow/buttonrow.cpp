@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The rows of a page's question and its buttons.
+// Lays out a page's question and its buttons in rows.
 #include "mainwindow/buttonrow.h"
 
 #include <algorithm>
@@ -57,7 +57,7 @@ int ButtonRow::heightForWidth(int width) const
     return bottom;
 }
 
-/// Of the widest item: every other arrangement has more room.
+/// Size of the widest item: every other arrangement has more room.
 QSize ButtonRow::minimumSize() const
 {
     QSize least;
@@ -66,7 +66,7 @@ QSize ButtonRow::minimumSize() const
     return least;
 }
 
-/// All in one row.
+/// Size with all items in one row.
 QSize ButtonRow::sizeHint() const
 {
     const QVector<QSize> all = sizes();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How do a page's question and its buttons share the width that there is?
+// How do a page's question and its buttons share the available width?
 #pragma once
 
 #include <QLayout>
@@ -8,12 +8,12 @@
 #include <QSize>
 #include <QVector>
 
-/// Where items of the given sizes lie in `width` pixels, from the top left: from left to right, in
-/// as few rows as hold them, each row at the right end, its items centred in its height. An item
-/// that is wider than `width` is cut to it.
+/// Rectangles of items of the given sizes in `width` pixels. They run from the top left to the
+/// right in as few rows as possible; each row is right-aligned and its items are vertically
+/// centred. An item that is wider than `width` is cut to it.
 QVector<QRect> placedInRows(const QVector<QSize> &sizes, int width, int spacing);
 
-/// A layout of that kind.
+/// A layout that uses placedInRows.
 class ButtonRow : public QLayout
 {
 public:

@@ -20,13 +20,13 @@
 namespace
 {
 constexpr auto modelName = "QUORVANDEL";
-/// More cameras than can be; a library that reports more is not asked for the IDs of all.
+/// More cameras than can be connected. If a library reports more, the other IDs are not read.
 constexpr std::int32_t maxCameras = 1024;
 
 /// Milliseconds between two looks at a closing that takes its time.
 constexpr int pollInterval = 20;
 
-/// The model in an ID of the form model, '-', serial; empty for an ID without '-'.
+/// The model in an ID of the form model-serial; empty for an ID without '-'.
 QString modelOf(const char *id)
 {
     const QString text = QString::fromLatin1(id);
@@ -51,8 +51,8 @@ bool readId(int index, char (&id)[maxIdSize])
     return true;
 }
 
-/// Sets a slider and the edit box beside it to a number, both without their signals: what was just
-/// read must not be written back to the camera.
+/// Sets a slider and the edit box beside it without emitting signals: a value that was just read
+/// must not be written back to the camera.
 void showParameter(QSlider &slider, QLineEdit &edit, int value)
 {
     const QSignalBlocker sliderBlocker(slider);
@@ -97,7 +97,7 @@ void MainWindow::showNotFound()
                              QMessageBox::Ok);
 }
 
-/// Leaves the ID of the first camera of our model in cameraId; false if there is none.
+/// Stores the ID of the first camera of our model in cameraId; false if there is none.
 bool MainWindow::chooseCamera()
 {
     const std::int32_t count = std::min(ScanVELDIX(), maxCameras);
@@ -107,7 +107,7 @@ bool MainWindow::chooseCamera()
     return false;
 }
 
-/// Opens and initialises the chosen camera. After a failure past the opening it stays open.
+/// Opens and initialises the chosen camera. If a step after opening fails, the camera stays open.
 bool MainWindow::openCamera()
 {
     void *const handle = OpenVELDIX(session.camera.cameraId);
@@ -137,7 +137,7 @@ bool MainWindow::openCamera()
     return true;
 }
 
-/// Frame format and transfer; what the camera refuses is left as it is.
+/// Sets frame format and transfer; a setting that the camera refuses stays unchanged.
 void MainWindow::configureCamera()
 {
     void *const handle = session.handle.get();
@@ -165,7 +165,7 @@ void MainWindow::readCameraParameters()
     showParameter(*ui->sliderGain, *ui->lineEditGain, saturatingInt(session.camera.gain));
 }
 
-/// Enables what only works with a camera.
+/// Enables the controls that need a camera.
 void MainWindow::showConnected(bool connected)
 {
     for (QAction *const action : {ui->actionSave_As, ui->actionDisplay_Template,
@@ -174,8 +174,8 @@ void MainWindow::showConnected(bool connected)
     ui->menuZoom->setEnabled(connected);
 }
 
-/// A camera whose library does not return at once is closed later, the window being usable until
-/// then.
+/// If the camera library does not return at once, closing completes later and the window stays
+/// usable in the meantime.
 void MainWindow::disconnectCamera()
 {
     captureThread->stopCapture();
@@ -185,15 +185,15 @@ void MainWindow::disconnectCamera()
     showDisconnected(cameraClosing.poll(std::min(sdkCallTimeout(), stopTimeout)));
 }
 
-/// Whoever answers a box or a dialog finds the wizard where it was.
+/// Waits while a modal dialog is open, so that the wizard does not change behind it.
 void MainWindow::followClosing()
 {
-    if (cameraClosing.isUnderWay()) // else it has ended with the window's closing
+    if (cameraClosing.isUnderWay()) // otherwise it was completed when the window closed
         showDisconnected(QApplication::activeModalWidget() ? CameraClosing::State::UnderWay
                                                            : cameraClosing.poll(0));
 }
 
-/// What comes after a look at the camera's closing.
+/// Updates the window after a check of the close operation.
 void MainWindow::showDisconnected(CameraClosing::State state)
 {
     if (state == CameraClosing::State::UnderWay) {
@@ -215,8 +215,8 @@ void MainWindow::showDisconnected(CameraClosing::State state)
     magnifier->update();
 }
 
-/// What a call of the capture thread's is waited for, milliseconds: once it did not return in that
-/// time it is waited for no longer.
+/// How long to wait for a call of the capture thread, milliseconds; 0 once a call has exceeded that
+/// time.
 int MainWindow::sdkCallTimeout() const
 {
     return libraryHangs ? 0 : CameraHandle::sdkCallTimeout;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What do the sliders and edit boxes of the camera do?
+// What do the camera's sliders and edit boxes do?
 #include "mainwindow/mainwindow.h"
 
 #include "camera/session.h"
@@ -23,7 +23,7 @@ namespace
 {
 constexpr double microsecondsPerMillisecond = 1000.0;
 
-/// The number that `digits` spell; one too large for int is still too large for any slider.
+/// The value of `digits`; a number too large for int becomes the largest int.
 int numberIn(const QString &digits)
 {
     bool isNumber = false;
@@ -54,7 +54,7 @@ MainWindow::Parameter MainWindow::speedParameter()
     return {*ui->sliderSpeed, *ui->lineEditSpeed, session.camera.speed, 1.0, CONTROL_SPEED};
 }
 
-/// A field without a text, as the speed's is at first, shows in grey what is in force.
+/// A field without text, such as speed at start-up, shows the current value as grey placeholder.
 void MainWindow::buildPlaceholders()
 {
     const auto follow = [](QLineEdit *edit, const QSlider *slider) {

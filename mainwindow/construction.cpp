@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How is the window put together, in which order, and how is it taken apart?
+// How is the window built and destroyed, and in which order?
 #include "mainwindow/mainwindow.h"
 
 #include "camera/session.h"
@@ -94,7 +94,7 @@ MainWindow::MainWindow(Session &shared, QWidget *parent, std::optional<double> a
 
 MainWindow::~MainWindow()
 {
-    // Not while the window's children go one by one.
+    // Not while the window's children are being destroyed.
     ui->scrollArea_showImg->viewport()->removeEventFilter(tipTabs);
 }
 
@@ -226,7 +226,7 @@ void MainWindow::applyStyle()
     showLamps(0);
 }
 
-/// The icons and the glow; the lamps are the wizard's.
+/// Applies icons and glow; the wizard sets the lamps.
 void MainWindow::showStyle(const Style &style)
 {
     ui->label_precise_poleIcon->setPixmap(QPixmap(style.poleIcon));
@@ -237,7 +237,7 @@ void MainWindow::showStyle(const Style &style)
 
 void MainWindow::applyZoomAction()
 {
-    // All three factors have exact binary fractions.
+    // All three factors are exact in binary.
     QAction *const action = zoomFactor == 0.5F    ? ui->action50
                             : zoomFactor == 0.75F ? ui->action75
                                                   : ui->action100;
@@ -266,7 +266,7 @@ void MainWindow::applyIdleState()
          {ui->pushButton_head_region, ui->pushButton_head_setting, ui->pushButton_head_confirm,
           ui->pushButton_head_rough, ui->pushButton_head_precise})
         head->setEnabled(false);
-    // Not on what would be the first in the order, "Start Monitor": the space bar would press it.
+    // Not on the first widget in tab order, "Start Monitor": the space bar would press it.
     ui->scrollArea_showImg->setFocus();
     showNotice();
 }
@@ -287,7 +287,7 @@ void MainWindow::buildPlayer()
     playlist->setPlaybackMode(QMediaPlaylist::CurrentItemInLoop);
     player->setPlaylist(playlist);
     player->setVolume(0);
-    // A loop tries an item that can not be played again and again, so the loop ends with it.
+    // A looping playlist would retry an unplayable item forever, so looping is switched off.
     const auto giveUp = [this, playlist] {
         qWarning("the sound can not be played: %s", qPrintable(player->errorString()));
         playlist->setPlaybackMode(QMediaPlaylist::CurrentItemOnce);

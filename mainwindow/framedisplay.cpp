@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How do the queued pictures and the frame rate come onto the screen?
+// How do queued pictures and the frame rate reach the screen?
 #include "mainwindow/mainwindow.h"
 
 #include "camera/session.h"
@@ -33,7 +33,8 @@ void MainWindow::updateFPS()
 
 void MainWindow::showImages()
 {
-    // The lock is held for the taking alone: the capture thread need not wait for the scaling.
+    // The queue is locked only while the picture is taken, so scaling does not block the capture
+    // thread.
     const QImage picture = session.frameQueue.takeOldest();
     if (!picture.isNull()) {
         sinceLastPicture.start();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What does the mouse do over the picture and over the instruction pages?
+// What does the mouse do over the picture and the instruction pages?
 #include "mainwindow/mainwindow.h"
 
 #include "camera/session.h"
@@ -26,11 +26,11 @@ QPointF framePosition(QPoint view, float zoomFactor)
     return {double(float(view.x()) / zoomFactor), double(float(view.y()) / zoomFactor)};
 }
 
-/// How far the place of a picked star may lie from the middle of its light, frame pixels: another
-/// star within the centroid's window draws it aside.
+/// How far a picked position may be from the star's own centroid, frame pixels: another star within
+/// the centroid's window pulls the pick aside.
 constexpr double pickReach = 5.0;
 
-/// The event's position in whole pixels of the widget that it was sent to; halves go up.
+/// The event's position in whole pixels of its target widget; halves are rounded up.
 QPoint positionOf(const QEvent *event)
 {
     const QPointF position = static_cast<const QMouseEvent *>(event)->localPos();
@@ -61,15 +61,15 @@ bool MainWindow::imageEvent(QEvent *event)
     return true;
 }
 
-/// The read-out over a page takes the place of the tab widget alone into account; it is never
-/// used for picking.
+/// The read-out over a page accounts only for the position of the tab widget; it is never used for
+/// picking.
 bool MainWindow::pageEvent(QEvent *event)
 {
     followPointer(tipTabs->pos() + positionOf(event));
     return true;
 }
 
-/// Shows the pointer's frame position and what lies under it, magnified.
+/// Shows the pointer's frame position and magnifies what is under it.
 void MainWindow::followPointer(QPoint view)
 {
     positionLabel->setText(coordinateText(framePosition(view, zoomFactor)));
@@ -123,7 +123,7 @@ void MainWindow::pickStar(QPoint view)
     showNotice();
 }
 
-/// Centres the template on the click, not on the star.
+/// Centres the template on the click position, not on the star.
 void MainWindow::placeTemplateAt(QPoint view)
 {
     clickViewPos = view;
@@ -140,7 +140,7 @@ void MainWindow::pickPoleStar(QPoint view, QPointF star)
     placeTemplateAt(view);
     polarisPos = star;
     ui->label_curPos->setText(pointText(star));
-    // The target would otherwise be the one of an earlier pick until the slider is moved.
+    // Otherwise the target of an earlier pick would stay until the slider is moved.
     showPolarisTarget();
 }
 

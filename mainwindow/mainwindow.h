@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The one window of the program: who owns what, and which signals and slots are there?
+// The main window: who owns what, and which signals and slots are there?
 #pragma once
 
 #include "camera/cameraclosing.h"
@@ -48,8 +48,8 @@ namespace Ui
 class MainWindow;
 }
 
-/// Owns every other object of the program and all of its state but for the process-wide records.
-/// The class lies over several files, each named for its concern.
+/// Owns all other objects and all state of the program, except the process-wide records. The class
+/// is split into several files, one per concern.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -64,10 +64,10 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
-    /// Asks the capture thread to stop and waits for it; false if the camera library does not
-    /// return from a call: the window cannot be destroyed then.
+    /// Asks the capture thread to stop and waits for it. False if the camera library does not
+    /// return from a call; the window must not be destroyed then.
     bool stopCaptureAndWait();
-    /// The wizard's step: 1 to 13, and 1 after construction.
+    /// The wizard's step, 1 to 13; 1 after construction.
     int step() const { return currentStep; }
 
 signals:
@@ -76,7 +76,7 @@ signals:
     void resetUI();
 
 private slots:
-    // wizard.cpp: the sections' heads and the pages' buttons
+    // wizard.cpp: section headers and page buttons
     void on_pushButton_head_region_toggled(bool checked);
     void on_pushButton_head_setting_toggled(bool checked);
     void on_pushButton_head_confirm_toggled(bool checked);
@@ -114,7 +114,7 @@ private slots:
     // region.cpp
     void on_radioButton_north_toggled(bool checked);
     void on_radioButton_south_toggled(bool checked);
-    // templateoverlay.cpp: the rotate sliders and their buttons
+    // templateoverlay.cpp: rotate sliders and their buttons
     void on_horizontalSlider_confirm_match_valueChanged(int value);
     void on_pushButton_confirm_minus_clicked();
     void on_pushButton_confirm_add_clicked();
@@ -134,14 +134,14 @@ private slots:
     void on_actionStretch_toggled(bool checked);
     void on_actionAstronomical_Refraction_triggered();
     void on_actionManual_Trace_triggered();
-    // templateoverlay.cpp: the zoom
+    // templateoverlay.cpp: zoom
     void on_action100_toggled(bool checked);
     void on_action75_toggled(bool checked);
     void on_action50_toggled(bool checked);
     // menuactions.cpp
     void on_actionQuorvandel_Manual_triggered();
     void on_actionAbout_triggered();
-    // texts.cpp: the languages
+    // texts.cpp: languages
     void on_actionEnglish_toggled(bool checked);
     void on_actionChinese_toggled(bool checked);
     void on_actionJapanese_toggled(bool checked);
@@ -152,7 +152,7 @@ private slots:
     void on_actionPortuguese_toggled(bool checked);
     void on_actionItalian_toggled(bool checked);
     void on_actionKorean_toggled(bool checked);
-    // capturecontrols.cpp: the camera's parameters
+    // capturecontrols.cpp: camera parameters
     void on_sliderExpose_valueChanged(int value);
     void on_lineEditExpose_returnPressed();
     void on_sliderGain_valueChanged(int value);
@@ -172,7 +172,7 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    friend class MainWindowProbe; // reads and sets the state for the tests
+    friend class MainWindowProbe; // reads and sets the state in tests
 
     // construction.cpp
     void buildImageArea();
@@ -293,15 +293,15 @@ private:
     QString languageCode;                 ///< "EN", "ZH", ...
     QString styleName;                    ///< "Color" or "Mono"
 
-    /// Comes into the middle of the view with the next picture, frame pixels.
+    /// Is scrolled to the middle of the view with the next picture, frame pixels.
     std::optional<QPointF> placeWithNextPicture;
-    bool libraryHangs = false; ///< the last closing has met a call that does not return
-    ButtonPress buttonPress;   ///< of the pages' buttons
+    bool libraryHangs = false; ///< a call did not return during the last close operation
+    ButtonPress buttonPress;   ///< last press of a page's button
     AlignmentProgress progress;
     QElapsedTimer sinceLastPicture; ///< or since the camera was connected
 
     QImage blankImage;   ///< what the magnifier shows without a camera
-    QImage displayImage; ///< the last shown picture, at its zoom; what Save As writes
+    QImage displayImage; ///< the last displayed picture at its zoom; Save As writes it
     QImage northMask, southMask;
 
     QTabWidget *tipTabs = nullptr;
@@ -323,6 +323,6 @@ private:
     QTranslator *translator = nullptr;
     QMediaPlayer *player = nullptr;
     CameraClosing cameraClosing{session};
-    /// Declared last: it ends before any other member goes.
+    /// Declared last, so that it is stopped before any other member is destroyed.
     std::unique_ptr<CaptureThread> captureThread;
 };

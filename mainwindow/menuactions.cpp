@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What do the menu entries do besides connecting, zooming and choosing a language?
+// What do the menu entries do, except connecting, zooming and choosing a language?
 #include "mainwindow/mainwindow.h"
 
 #include "camera/session.h"

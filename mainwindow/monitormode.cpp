@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Where does the capture thread look for the reference stars?
+// Where does the capture thread search for the reference stars?
 #include "mainwindow/mainwindow.h"
 
 #include "camera/monitor.h"
@@ -39,11 +39,11 @@ void MainWindow::pushbuttonGetCurPolarisDoneClicked()
 
 void MainWindow::on_pushButton_monitor_clicked()
 {
-    session.magnifierQueue.clear(); // what an earlier round has left
+    session.magnifierQueue.clear(); // left over from an earlier run
     switchStep(FineAdjustment);
 }
 
-/// Always from where the stars were found at the start: successive turns do not add up.
+/// Always starts from the initial star positions: successive turns do not add up.
 void MainWindow::poleTracking(double degree)
 {
     const QPointF axis = session.alignmentPoints.savedAxisCenter;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The table of the notices: when each holds, and its words.
+// The table of notices: the condition and the text of each.
 #include "mainwindow/notice.h"
 
 #include "mainwindow/wizardtable.h"
@@ -26,7 +26,7 @@ Found when(bool holds, NoticeCode code, double first = 0, double second = 0)
     return holds ? Found(Notice{code, int(first), int(second)}) : std::nullopt;
 }
 
-/// Monitor mode is prepared or runs.
+/// Monitor mode is prepared or running.
 bool showsPole(const NoticeFacts &f)
 {
     return f.step == StartMonitor || f.monitoring;
@@ -113,7 +113,7 @@ Found misfit(const NoticeFacts &f)
                 NoticeCode::TemplateMisfit, fit.held, fit.rings);
 }
 
-/// Also before the axis is known: nothing turns by 30 degrees in so few pixels.
+/// Also before the axis is known: no turn of 30 degrees moves a star by so few pixels.
 Found movedLittle(const NoticeFacts &f)
 {
     return when(f.connected && f.movedPixels && *f.movedPixels < minMove,
@@ -126,7 +126,7 @@ Found turnedLittle(const NoticeFacts &f)
                 NoticeCode::AxisTurnedLittle, std::floor(f.turnDegrees.value_or(0)));
 }
 
-/// The dial turns the places where the stars were found, and these hold its angle already.
+/// The dial rotates the positions where the stars were found, which already include its angle.
 Found dialNotReset(const NoticeFacts &f)
 {
     return when(f.connected && showsPole(f) && f.monitorPrepared && f.dialAtStart != 0 &&

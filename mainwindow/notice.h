@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What, of all that the program knows, does the user have to be told now?
+// What is the most important thing that the user must be told now?
 #pragma once
 
 #include "geometry/templaterings.h"
@@ -7,7 +7,7 @@
 #include <QString>
 #include <optional>
 
-/// In order of urgency: of several that hold the first is shown.
+/// In order of urgency: if several apply, the first is shown.
 enum class NoticeCode {
     LibraryUnusable,
     NoCamera,
@@ -15,9 +15,9 @@ enum class NoticeCode {
     ZoomShowsNothing,
     NoAxis,
     MonitorNotPrepared, ///< monitoring began without its reference stars
-    PoleStarNotPicked,  ///< a step that needs the pole star was left without its pick
+    PoleStarNotPicked,  ///< the user left a step that needs the pole star without picking it
     TemplateNotPlaced,  ///< the same for the first step with a template
-    TemplateLeftOver,   ///< it lies where an earlier step has put it
+    TemplateLeftOver,   ///< it is where an earlier step placed it
     NoStarHere,
     NoStarInPick, ///< number of the pick, 1 to 3
     StarsLost,
@@ -33,7 +33,7 @@ enum class NoticeCode {
 
 struct Notice {
     NoticeCode code;
-    int first = 0, second = 0; ///< what the code says of them
+    int first = 0, second = 0; ///< meaning as listed with the code
 };
 
 inline bool operator==(const Notice &a, const Notice &b)
@@ -41,39 +41,39 @@ inline bool operator==(const Notice &a, const Notice &b)
     return a.code == b.code && a.first == b.first && a.second == b.second;
 }
 
-/// Everything that the notices depend on; the defaults give none.
+/// Everything that the notices depend on; the defaults produce none.
 struct NoticeFacts {
     // The camera and the picture
     bool libraryUsable = true; ///< it was initialised
     bool connected = false;
-    bool pageShown = false;           ///< an instruction page is to be seen
+    bool pageShown = false;           ///< an instruction page is visible
     double secondsWithoutPicture = 0; ///< since the last one, or since connecting
     float zoomFactor = 1.0F;
-    bool settingsKept = true; ///< they can be written
+    bool settingsKept = true; ///< the settings file is writable
 
     // The alignment
     int step = 0;
     bool monitoring = false; ///< the marks of monitor mode are shown
     bool hasAxis = false;
-    bool monitorPrepared = false; ///< the reference stars were looked for in this alignment
+    bool monitorPrepared = false; ///< the reference stars were searched for in this alignment
     bool templateShown = false;
     bool poleStarPicked = false; ///< in this step or the last one that asked for it
     bool poleStarOnStar = true;
-    int emptyPick = 0;                 ///< of the three, 1 to 3, the first without a star
-    std::optional<double> movedPixels; ///< least distance between two picks
-    std::optional<double> turnDegrees; ///< least turn between two picks that gave the axis
+    int emptyPick = 0; ///< the first of the three picks, 1 to 3, that is not on a star
+    std::optional<double> movedPixels; ///< smallest distance between two picks
+    std::optional<double> turnDegrees; ///< smallest turn between two picks that gave the axis
 
-    // What the frame shows
+    // Results from the frame
     TemplateFit fit;        ///< of the template, or of both stars in monitor mode
     TemplateFit fitAtStart; ///< when the current position was confirmed
     bool starAFound = true, starBFound = true;
     bool ringUnderMagnifier = false;
-    int dialDegrees = 0; ///< the tracking dial, now and when the stars were looked for
+    int dialDegrees = 0; ///< the tracking dial, now and when the stars were searched for
     int dialAtStart = 0;
 };
 
-/// The most urgent notice; nothing while all is well.
+/// The most urgent notice; empty if there is nothing to report.
 std::optional<Notice> noticeFor(const NoticeFacts &facts);
 
-/// One sentence in the language in force.
+/// One sentence in the current language.
 QString noticeText(const Notice &notice);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What does the window know that a notice may depend on, and where is the notice shown?
+// Which facts do the notices depend on, and where is the notice shown?
 #include "mainwindow/mainwindow.h"
 
 #include "camera/session.h"
@@ -20,7 +20,7 @@
 
 namespace
 {
-/// A reference star is searched for no farther than this from its place, along x and y.
+/// Half the side of the search area of a reference star, frame pixels.
 constexpr double searchHalf = 20.0;
 /// Radius of the rotating ring, frame pixels.
 constexpr double ringRadius = 10.0;
@@ -35,7 +35,7 @@ double direction(QPointF way)
     return qRadiansToDegrees(std::atan2(way.y(), way.x()));
 }
 
-/// The template as both reference stars have it.
+/// The placement of the template that both reference stars imply.
 TemplatePlace placeThrough(QPointF starA, QPointF starB, const StarCatalogue &catalogue, bool south)
 {
     const QPointF onTemplate(catalogue.starAX - catalogue.starBX,
@@ -89,7 +89,7 @@ NoticeFacts MainWindow::noticeFacts() const
     return facts;
 }
 
-/// Fills in what takes a look at the stars of the latest frame, some milliseconds' work.
+/// Fills in the facts that need the stars of the latest frame; takes some milliseconds.
 void MainWindow::lookAtFrame(NoticeFacts &facts) const
 {
     const cv::Mat frame = session.latestFrame.copy();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Draws as much of a sentence as there is room for.
+// Draws as much of a sentence as fits.
 #include "mainwindow/noticelabel.h"
 
 #include <QPainter>
@@ -8,7 +8,7 @@
 
 namespace
 {
-/// As high as the other read-outs, so that the status bar stays as it is.
+/// Same height as the other read-outs, so that the status bar keeps its height.
 constexpr int readOutHeight = 18;
 } // namespace
 

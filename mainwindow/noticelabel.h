@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: MIT
-// How does a sentence stand in the room that the status bar leaves it?
+// How does a sentence fit into the free space of the status bar?
 #pragma once
 
 #include <QLabel>
 
-/// Takes no room of its own: a text that is too long for it ends in an ellipsis and is whole in the
-/// tooltip and for screen readers.
+/// Requests no space of its own. A text that is too long ends in an ellipsis; the tooltip and
+/// screen readers get the full text.
 class NoticeLabel : public QLabel
 {
 public:
     explicit NoticeLabel(QWidget *parent);
 
     void showSentence(const QString &sentence);
-    /// What of the text is to be seen.
+    /// The visible part of the text.
     QString shownText() const;
 
     QSize sizeHint() const override;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Tells the second press of a double click from one of its own.
+// Distinguishes the second press of a double click from a separate press.
 #include "mainwindow/pagebutton.h"
 
 #include <QGuiApplication>

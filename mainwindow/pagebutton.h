@@ -1,27 +1,27 @@
 // SPDX-License-Identifier: MIT
-// Whose are the two presses of a double click, when the first has changed what lies under it?
+// Which button gets the second press of a double click if the first press has changed the page?
 #pragma once
 
 #include <QMouseEvent>
 #include <QPoint>
 #include <QPushButton>
 
-/// Where on the screen, and at which time of the window system's, a page's button was pressed last.
+/// Screen position and window-system time of the last press of a page's button.
 struct ButtonPress {
     QPoint place;
     ulong time = 0; ///< milliseconds
     bool happened = false;
 };
 
-/// Whether `doubleClick` began with that press, and so was meant for the button.
+/// Whether `doubleClick` began with that press and so was meant for that button.
 bool beganWith(const ButtonPress &press, const QMouseEvent &doubleClick);
 
-/// A button on an instruction page. What a hand that clicks twice meant for one page is not taken
-/// for a click on the next, whose button may lie in the same place.
+/// A button on an instruction page. The second press of a double click on one page must not count
+/// as a click on the next page, whose button may be in the same place.
 class PageButtonWidget : public QPushButton
 {
 public:
-    /// @param lastPress is told of every press
+    /// @param lastPress is updated on every press
     PageButtonWidget(ButtonPress &lastPress, QWidget *parent);
 
 protected:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How is a position written on the screen?
+// How is a position formatted on the screen?
 #pragma once
 
 #include <QPointF>

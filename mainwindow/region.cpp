@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// On which hemisphere is the mount aligned, and what follows from it?
+// Which hemisphere is the mount aligned in, and what follows from it?
 #include "mainwindow/mainwindow.h"
 
 #include "camera/session.h"
@@ -9,7 +9,7 @@
 
 #include <QtDebug>
 
-/// A name that the settings file gives and that is neither is taken for the south.
+/// Any other name in the settings file means the south.
 bool MainWindow::isSouth() const
 {
     return regionName != QLatin1String("North");
@@ -35,7 +35,7 @@ void MainWindow::applyRegion()
     showFlatTemplate();
 }
 
-/// Takes over a hemisphere's stars and texts and starts the alignment anew.
+/// Loads a hemisphere's stars and texts and restarts the alignment.
 void MainWindow::changeRegion(const char *name)
 {
     regionName = name;

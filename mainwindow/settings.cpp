@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How do the settings get from the file into their holders, and back?
+// How do the settings get from the file to their owners, and back?
 #include "mainwindow/mainwindow.h"
 
 #include "camera/session.h"
@@ -47,7 +47,7 @@ void MainWindow::saveSettings() const
     writeSettings(settingsFilePath(), settings);
 }
 
-/// The name for the GUI; the capture thread is told what it needs to know of it.
+/// Sets the name for the GUI and the mono flag for the capture thread.
 void MainWindow::setStyleName(const QString &name)
 {
     styleName = name;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Where does the template lie over the picture, and how does it follow the sliders and the zoom?
+// Where is the template over the picture, and how does it follow the sliders and the zoom?
 #include "mainwindow/mainwindow.h"
 
 #include "camera/session.h"
@@ -22,9 +22,9 @@
 
 namespace
 {
-/// The arrow picture's size at full zoom, pixels.
+/// Size of the arrow picture at full zoom, pixels.
 const QSize arrowSize(238, 171);
-/// The largest arrow, whatever the zoom factor.
+/// Size limit of the arrow at any zoom factor, pixels.
 constexpr int largestArrow = 4096;
 
 void showPlaced(QLabel &label, const PlacedTemplate &placed)
@@ -36,7 +36,7 @@ void showPlaced(QLabel &label, const PlacedTemplate &placed)
 }
 } // namespace
 
-/// The poles are marked in the masks themselves, so that the marks turn and scale with them.
+/// The poles are marked in the masks themselves, so that the marks rotate and scale with them.
 void MainWindow::computeTemplatePoles()
 {
     if (!northMask.isNull())
@@ -58,7 +58,7 @@ void MainWindow::showFlatTemplate()
     showPlaced(*ui->label_templateImg, flatTemplate(regionMask(), zoomFactor, templateCenter));
 }
 
-/// Where the pole star must be placed, from the template's angle: for the capture side and the eye.
+/// Computes from the template's angle where the pole star must be placed, and shows it.
 void MainWindow::showPolarisTarget()
 {
     const QPointF pole = expectedPole(regionCatalogue(), rotateValue, polarisPos);
@@ -79,7 +79,7 @@ void MainWindow::scaleDirectionArrow()
     placeImageOverlays();
 }
 
-/// The picture's place in the middle of what is to be seen of it, frame pixels.
+/// The picture position in the middle of its visible part, frame pixels.
 QPointF MainWindow::placeInView() const
 {
     const QPoint origin = ui->scrollAreaWidgetContents_showImg->pos();
@@ -87,14 +87,14 @@ QPointF MainWindow::placeInView() const
     return QRectF(area & ui->label_showImg->geometry()).center() / double(zoomFactor);
 }
 
-/// Scrolls, as far as it goes, until a place of the picture is in the middle. What has just become
-/// larger or smaller is laid out first.
+/// Scrolls as far as possible until a picture position is in the middle. Pending size changes are
+/// laid out first.
 void MainWindow::scrollTo(QPointF framePosition)
 {
     QWidget &contents = *ui->scrollAreaWidgetContents_showImg;
     contents.layout()->activate();
     contents.resize(contents.minimumSizeHint());
-    // The scroll bars come and go, and take of the room, by a posted call.
+    // A posted event shows and hides the scroll bars, which changes the viewport's size.
     QCoreApplication::sendPostedEvents(ui->scrollArea_showImg, QEvent::MetaCall);
     const QPointF view = framePosition * double(zoomFactor);
     const QSizeF area = ui->scrollArea_showImg->viewport()->size();
@@ -104,11 +104,11 @@ void MainWindow::scrollTo(QPointF framePosition)
         saturatingInt(view.y() - area.height() / 2));
 }
 
-/// What was in the middle of the view and in the magnifier stays there.
+/// The middle of the view and of the magnifier stay on the same picture position.
 void MainWindow::setZoom(float factor)
 {
     if (zoomFactor > 0.0F && factor != zoomFactor) {
-        if (!placeWithNextPicture) // or nothing is in view yet, or at the factor before the last
+        if (!placeWithNextPicture) // a pending place stays: the view still has an older factor
             placeWithNextPicture = placeInView();
         const QPointF magnified =
             QPointF(magnifier->magnifiedCentre()) * double(factor / zoomFactor);
@@ -153,8 +153,8 @@ void MainWindow::on_horizontalSlider_rough_match_valueChanged(int value)
 }
 
 /// Turns the shared angle by some degrees, within 0 to 360, and moves `slider` there.
-/// @param turned the slider's slot: it runs also where the slider stands there already, since the
-/// sliders share the angle
+/// @param turned the slider's slot; also called if the slider is already there, since the sliders
+/// share the angle
 void MainWindow::stepRotation(QSlider &slider, int degrees, void (MainWindow::*turned)(int))
 {
     rotateValue = std::clamp(rotateValue + degrees, slider.minimum(), slider.maximum());

@@ -14,7 +14,7 @@
 
 namespace
 {
-/// The form's texts that have become data: what they show must outlast a change of language.
+/// Form texts that hold data: what they show must survive a language change.
 class ShownData
 {
 public:
@@ -53,7 +53,7 @@ void MainWindow::languageChanged()
     qDebug() << "current language" << languageCode;
     const QString catalogue = languageOf(languageCode).catalogue;
     const QString none = QStringLiteral("");
-    // Tried apart first: a load that fails would empty the translator in force.
+    // Tried separately first: a failed load would clear the active translator.
     if (!QTranslator().load(catalogue, none, none, none) ||
         !translator->load(catalogue, none, none, none))
         return;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// In which step is the alignment, and what moves it on?
+// Which step is the alignment in, and what advances it?
 #include "mainwindow/mainwindow.h"
 
 #include "camera/session.h"
@@ -77,14 +77,15 @@ void MainWindow::switchStep(int step)
     progress.enter(step);
     placeImageOverlays();
     showNotice();
-    if (step == StartMonitor) // once the panel is laid out; the page speaks of this button
+    if (step == StartMonitor) // after layout of the panel; the page refers to this button
         QTimer::singleShot(0, this, [this] {
             ui->scrollArea_manager->ensureWidgetVisible(ui->pushButton_monitor);
         });
 }
 
-/// Where the focus is on what the step hides the picture takes it. It would otherwise go on to the
-/// next in the order, "Start Monitor", a "Reset" or a hemisphere, and a key hit by chance use it.
+/// If the step hides the focused widget, the picture takes the focus. Otherwise the focus would go
+/// to the next widget in tab order ("Start Monitor", a "Reset" or a hemisphere), and a stray key
+/// press would trigger it.
 void MainWindow::keepFocus(int step)
 {
     const QWidget *const focus = focusWidget();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How are the instruction pages built, worded and placed over the picture?
+// How are the instruction pages built, labelled and placed over the picture?
 #include "mainwindow/mainwindow.h"
 
 #include "mainwindow/buttonrow.h"
@@ -25,8 +25,8 @@ constexpr int gap = 6;
 /// Wider than this a tip is harder to read than tall.
 constexpr int maxPageWidth = 760;
 
-/// Pages without tabs: no key changes them, and whoever places them hears of every change of the
-/// room that there is.
+/// Pages without tabs. No key switches pages; `roomChanged` is called after every change of the
+/// available space.
 class Pages : public QTabWidget
 {
 public:
@@ -34,7 +34,7 @@ public:
         : QTabWidget(&area), place(std::move(roomChanged))
     {
         tabBar()->hide();
-        tabBar()->setFocusPolicy(Qt::NoFocus); // or Tab would stop at it, unseen
+        tabBar()->setFocusPolicy(Qt::NoFocus); // otherwise Tab would stop at the hidden tab bar
         area.viewport()->installEventFilter(this);
     }
     bool eventFilter(QObject *watched, QEvent *event) override
@@ -116,9 +116,9 @@ void MainWindow::applyRegionTexts()
     }
 }
 
-/// Puts the page over the top of the picture, right of the magnifier (over it, where there is no
-/// room for the widest of the question and its buttons) and no higher than its text needs, and the
-/// arrow below it.
+/// Puts the page over the top of the picture and the arrow below it. The page is right of the
+/// magnifier, or over it if the widest of the question and its buttons does not fit, and no higher
+/// than its text needs.
 void MainWindow::placeImageOverlays()
 {
     const QRect area = ui->scrollArea_showImg->viewport()->geometry();

@@ -207,7 +207,7 @@ const WizardStep &wizardStep(int step)
 
 LampCount lampsOnStyleChange(int step)
 {
-    // Entering this step leaves the three lamps lit that the pole star's expected position lit.
+    // Entering this step leaves the lamps as the expected-position step set them.
     if (step == CurrentPosition)
         return wizardStep(ExpectedPosition).lamps;
     return isWizardStep(step) ? wizardStep(step).lamps : lampsUnchanged;

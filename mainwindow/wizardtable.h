@@ -5,7 +5,7 @@
 #include <QString>
 #include <array>
 
-/// The steps in their order; each has one instruction page.
+/// The steps in order; each has one instruction page.
 enum Step {
     SetExposure = 1,
     MatchTemplate,
@@ -22,9 +22,9 @@ enum Step {
     FineAdjustment,
 };
 constexpr int wizardStepCount = FineAdjustment;
-/// "Done": hides the pages and leaves everything else as it is.
+/// "Done": hides the pages and leaves everything else unchanged.
 constexpr int wizardStepDone = 14;
-/// The wizard at rest, as after the camera was disconnected.
+/// No step is active, as after the camera was disconnected.
 constexpr int wizardAtRest = 0;
 
 enum class Section { Region, Setting, Confirm, Rough, Precise };
@@ -41,14 +41,14 @@ constexpr bool isWizardStep(int step)
     return step >= SetExposure && step <= wizardStepCount;
 }
 
-/// What entering a step does to something that is on or off.
+/// What entering a step does to something that can be on or off.
 enum class Change { Keep, Off, On };
 
-/// How many of the three star lamps are lit, from the first one on; -1 = they stay as they are.
+/// How many of the three star lamps are lit, counted from the first; -1 = unchanged.
 using LampCount = int;
 constexpr LampCount lampsUnchanged = -1;
 
-/// Everything that entering one step sets; what is Keep stays as it was.
+/// Everything that entering a step sets; Keep leaves it unchanged.
 struct WizardStep {
     Sections open; ///< all other sections are closed
     Change templateLabel;
@@ -59,16 +59,16 @@ struct WizardStep {
     Change rotatingArc;
     Change monitor; ///< monitorTracking, showPoleRect and showMonitorCross alike
     bool stopsBlinking;
-    int afterPick; ///< the step that a star picked in this one leads to; wizardAtRest: none
+    int afterPick; ///< the step after a star is picked in this one; wizardAtRest: none
 };
 
 /// @param step 1 to wizardStepCount
 const WizardStep &wizardStep(int step);
 
-/// The lamps that a change of style draws anew in a step; lampsUnchanged where there is no step.
+/// The lamps that a style change redraws in a step; lampsUnchanged outside the steps.
 LampCount lampsOnStyleChange(int step);
 
-/// The steps in which the template lies over the picture and follows the rotate sliders.
+/// The steps in which the template is over the picture and follows the rotate sliders.
 constexpr bool showsTemplate(int step)
 {
     return step == MatchTemplate || step == ExpectedPosition || step == CurrentPosition;
@@ -77,8 +77,8 @@ constexpr bool showsTemplate(int step)
 struct PageButton {
     const char *name;
     const char *text;
-    const char *slot; ///< in the form that connect takes
-    int target;       ///< the step that it leads to, where its slot asks nothing else
+    const char *slot; ///< in the form that connect expects
+    int target;       ///< the step that the button leads to, unless its slot decides
 };
 
 /// One instruction page. Texts are source texts of the context "MainWindow"; null where the page
@@ -87,18 +87,18 @@ struct WizardPage {
     const char *name;
     const char *tipName;
     const char *northTip;
-    const char *southTip; ///< null where the step names no star: then northTip holds everywhere
+    const char *southTip; ///< null where the step names no star: then northTip is used for both
     const char *askName;
     const char *ask;
-    PageButton back;    ///< one without a name is not there
-    PageButton forward; ///< right of the other
+    PageButton back;    ///< no button if its name is null
+    PageButton forward; ///< right of the back button
 };
 
 /// @param step 1 to wizardStepCount
 const WizardPage &wizardPage(int step);
 
-/// The tip of a page in a hemisphere; null, for "leave it", unless it is "North" or "South".
+/// The tip of a page for a hemisphere; null (leave unchanged) unless it is "North" or "South".
 const char *regionTip(const WizardPage &page, const QString &regionName);
 
-/// The next angle of the broken ring in degrees: 0, 10, ... 70 and from the start again.
+/// The next angle of the broken ring in degrees: 0, 10, ... 70, then 0 again.
 double nextArcAngle(double angle);

@@ -1,16 +1,16 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
-# Builds the Debian package in build/package and names it in the last line.
+# Builds the Debian package in build/package and prints its name in the last line.
 #   packaging/make_package.sh
-# Needs what ./run installs for building, and dpkg-dev.
+# Needs the build packages that ./run installs, and dpkg-dev.
 set -eu
 
 cd "$(dirname "$0")/.."
 folder=build/package
 
-# Debian's flags for the compiler and the linker, without which the build would lack some hardening.
+# Debian's compiler and linker flags; without them the build would lack some hardening.
 eval "$(DEB_BUILD_MAINT_OPTIONS=hardening=+all dpkg-buildflags --export=sh)"
-# No file in the package is dated later than the last change of the sources.
+# No file in the package has a date after the last change of the sources.
 if [ -z "${SOURCE_DATE_EPOCH:-}" ] && day=$(git log -1 --format=%ct 2>/dev/null); then
     export SOURCE_DATE_EPOCH="$day"
 fi

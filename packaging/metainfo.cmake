@@ -1,10 +1,10 @@
 # SPDX-License-Identifier: MIT
-# What software centres show: the screenshots, and the releases as CHANGELOG.md tells them.
+# What software centres show: the screenshots, and the releases from CHANGELOG.md.
 
-# File in docs/images and caption; the first one is what lists show.
+# File in docs/images and caption; lists show the first one.
 set(pictures
-  "north/step-13-aligned.png|The mark of the pole meets the mark of the axis: aligned"
-  "north/step-02-template.png|The template is turned until it lies on the stars around Polaris"
+  "north/step-13-aligned.png|The pole mark is on the axis mark: aligned"
+  "north/step-02-template.png|The template is turned until it matches the stars around Polaris"
   "north/step-08-axis.png|Three positions of one star show where the axis points"
   "south/step-13-aligned.png|South of the equator, by the stars around sigma Octantis")
 set(screenshots "")
@@ -19,14 +19,14 @@ foreach(picture IN LISTS pictures)
   set(type "")
 endforeach()
 
-# Newest first; latestRelease and latestDay are what the package's own changelog says.
+# Newest first; latestRelease and latestDay are used in the package's own changelog.
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/CHANGELOG.md)
 file(STRINGS ${CMAKE_SOURCE_DIR}/CHANGELOG.md headings REGEX "^## \\[[0-9]")
 set(releases "")
 set(latestRelease "")
 foreach(heading IN LISTS headings)
   if(NOT heading MATCHES "^## .([0-9.]+). - ([0-9][0-9][0-9][0-9]-[0-9][0-9]-[0-9][0-9])$")
-    message(FATAL_ERROR "CHANGELOG.md: not the heading of a release: ${heading}")
+    message(FATAL_ERROR "CHANGELOG.md: not a release heading: ${heading}")
   endif()
   string(APPEND releases "    <release version=\"${CMAKE_MATCH_1}\" date=\"${CMAKE_MATCH_2}\"/>\n")
   if(NOT latestRelease)

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
-# The package for Debian: `cpack` or the target `package` builds it.
+# The Debian package: built by `cpack` or the target `package`.
 if(NOT latestRelease VERSION_EQUAL PROJECT_VERSION)
-  message(WARNING "CHANGELOG.md ends with ${latestRelease}, the version is ${PROJECT_VERSION}")
+  message(WARNING "The latest release in CHANGELOG.md is ${latestRelease}, the version is ${PROJECT_VERSION}")
 endif()
 
 set(CPACK_GENERATOR DEB)
@@ -12,7 +12,7 @@ set(CPACK_PACKAGE_CONTACT "The Quorvandel developers <developers@quorvandel.exam
 set(CPACK_PACKAGE_HOMEPAGE_URL "https://quorvandel.example/")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "polar alignment of an equatorial telescope mount")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
-"A small camera turns with the mount and looks at the sky round the celestial
+"A small camera turns with the mount and looks at the sky around the celestial
 pole. Picking one star before and after two turns of the mount shows where
 its axis points; the stars around Polaris or sigma Octantis show where the
 pole is. The program shows both live while the bolts of the mount are turned.
@@ -30,14 +30,14 @@ set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_SECTION science)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# What opens the manual; the libraries are added to it.
+# Opens the manual; the libraries are added automatically.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "xdg-utils")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
   "fonts-liberation, fonts-noto-cjk, libqt5multimedia5-plugins, gstreamer1.0-plugins-good, firefox-esr | www-browser")
-# The virtual camera is loaded by name and lies in a folder of its own.
+# The virtual camera is loaded by name and has its own folder.
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS OFF)
 
-# Debian's own documents, and the compression that it asks for, are made on the way.
+# Debian's own documents, and the compression that it requires, are added during packaging.
 execute_process(COMMAND date --utc --rfc-email --date=${latestDay}
   OUTPUT_VARIABLE debianDay OUTPUT_STRIP_TRAILING_WHITESPACE)
 configure_file(debian/changelog.in debian/changelog @ONLY)

@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Installs the Debian package in a clean root, runs it there as a user without rights, and removes it.
+# Installs the Debian package in a clean root, runs it there as an unprivileged user, and removes it.
 #   packaging/test_package.sh [PACKAGE]     without PACKAGE it is built first
-# Needs root, the network (for the clean root, once, and what the package depends on) and debootstrap,
-# lintian, xvfb, xdotool. Ends with the plain count.
+# Needs root, the network (for the clean root, once, and the package's dependencies) and debootstrap,
+# lintian, xvfb, xdotool. The last line is the number of passed and failed checks.
 set -u
 cd "$(dirname "$0")/.." || exit 1
 cache=$PWD/build/package-test
@@ -11,7 +11,7 @@ user=observer
 home=/home/$user
 folder=.local/share/quorvandel
 
-# In a namespace of its own, so that whatever is mounted or started here ends with this script.
+# In a separate namespace, so that all mounts and processes end with this script.
 if [ -z "${QUORVANDEL_PACKAGE_TEST:-}" ]; then
   [ "$(id -u)" -eq 0 ] || { echo "This must be run as root."; exit 2; }
   for tool in debootstrap lintian Xvfb xdotool; do
@@ -27,7 +27,7 @@ mkdir -p "$cache/archives/partial"
 root=$(mktemp -d "$cache/root.XXXXXX")
 scratch=$(mktemp -d)
 
-screen= # Xvfb's process, which takes its lock file with it
+screen= # Xvfb's process; it removes its lock file when it ends
 leave() {
   [ -z "$screen" ] || { kill "$screen" && wait "$screen"; }
   awk -v root="$root/" 'index($2, root) == 1 { print $2 }' /proc/mounts | sort -r | xargs -r umount
@@ -38,7 +38,7 @@ trap leave EXIT
 passed=0
 failed=0
 
-# check TEXT COMMAND...: counts whether COMMAND succeeds, and shows what it wrote if it does not.
+# check TEXT COMMAND...: counts whether COMMAND succeeds, and shows its output if it does not.
 check() {
   local text=$1
   shift
@@ -78,7 +78,7 @@ clean_root() {
     in_root useradd -m $user
 }
 
-# All there is, without what a system writes in passing and what belongs to users.
+# All files except those that a system changes during normal use and those of users.
 everything() {
   (cd "$root" && find . -xdev \( -path ./home -o -path ./tmp -o -path ./proc -o -path ./var/log \
     -o -path ./var/cache -o -path ./var/lib/apt -o -path './var/lib/dpkg/*-old' \) -prune \
@@ -86,7 +86,7 @@ everything() {
 }
 
 # ---- running the programs ------------------------------------------------------------------------
-# start HOME COMMAND...: as the user; sets `running`; what it writes goes to $scratch/said.
+# start HOME COMMAND...: runs COMMAND as the user; sets `running`; its output goes to $scratch/said.
 start() {
   local at=$1
   shift
@@ -109,7 +109,7 @@ window() {
 
 keys() { xdotool windowfocus --sync "$window" && sleep 0.5 && xdotool key --delay 200 "$@"; }
 
-# finished: waits for the end of the program; its status.
+# finished: waits for the program to end; returns its status.
 finished() {
   for _ in $(seq 100); do
     kill -0 $running 2>/dev/null || break
@@ -117,7 +117,7 @@ finished() {
   done
   if kill $running 2>/dev/null; then
     wait $running
-    echo "it had to be ended"
+    echo "the program did not end by itself"
     return 1
   fi
   wait $running
@@ -144,7 +144,7 @@ names_no_build_folder() {
   in_root dpkg -L quorvandel | sed "s,^,$root," | xargs -d '\n' grep -lsF -d skip -- "$PWD/" && return 1
   true
 }
-strangers() { # files of the user's outside the home
+strangers() { # the user's files outside the home
   find "$root" -xdev -user $user -not -path "$root/home/*" -not -path "$root/proc/*" \
     -not -path "$root/tmp/*" | grep .
 }
@@ -178,10 +178,10 @@ test_settings() {
 
 test_upgrade() {
   printf '\n' >>"$root/usr/libexec/quorvandel/bin/quorvandel"
-  check "after an upgrade the copy is old" fails copy_is_current
+  check "after an upgrade the copy is outdated" fails copy_is_current
   visit "upgraded" $home
   check "upgraded: the copy is renewed" copy_is_current
-  check "upgraded: the settings stay" same "$(setting style)" Mono
+  check "upgraded: the settings are kept" same "$(setting style)" Mono
 }
 
 test_documents() {
@@ -195,11 +195,11 @@ test_documents() {
 
 test_homes_that_do_not_serve() {
   mkdir "$root/home/readonly" "$root/home/noexec"
-  visit "a home of another's" /home/readonly
-  check "a home of another's: it says so" said "the settings will not be kept"
+  visit "another user's home" /home/readonly
+  check "another user's home: it reports that" said "the settings will not be kept"
   mount -t tmpfs -o noexec,mode=777 noexec "$root/home/noexec"
-  visit "a home without programs" /home/noexec
-  check "a home without programs: it says so" said "does not let programs be started"
+  visit "a noexec home" /home/noexec
+  check "a noexec home: it reports that" said "does not let programs be started"
 }
 
 test_mount() {
@@ -209,20 +209,20 @@ test_mount() {
   wait $running 2>/dev/null
 }
 
-# ---- all of it -----------------------------------------------------------------------------------
-check "lintian finds nothing but what is explained" \
+# ---- all tests -----------------------------------------------------------------------------------
+check "lintian reports nothing except the explained overrides" \
   lintian --allow-root --fail-on error,warning "$package"
-check "a clean root with what the package depends on" clean_root
+check "a clean root with the package's dependencies" clean_root
 [ -d "$root$home" ] || exit 1
 everything >"$scratch/before"
 cp "$package" "$root/tmp/package.deb"
 check "it is installed" in_root dpkg -i /tmp/package.deb
-check "no file of it names the folder where it was built" names_no_build_folder
-check "nothing it depends on is missing" in_root apt-get check
+check "no installed file contains the path of the build folder" names_no_build_folder
+check "no dependency is missing" in_root apt-get check
 
 mkdir -p "$root/tmp/.X11-unix" && chmod 1777 "$root/tmp"
 mkdir -p /tmp/.X11-unix
-# A display that is free; its number can be read as soon as it takes connections.
+# A free display; its number is available as soon as it accepts connections.
 mkfifo "$scratch/display"
 Xvfb -displayfd 5 -ac -screen 0 1366x900x24 5>"$scratch/display" >"$scratch/xvfb" 2>&1 &
 screen=$!

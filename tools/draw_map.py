@@ -1,14 +1,14 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Which target links which, and which folder includes which? Draws the map in ARCHITECTURE.md.
+"""Which target links which, and which folder includes which? Generates the map in ARCHITECTURE.md.
 
   tools/draw_map.py           prints the map
   tools/draw_map.py --write   writes it into ARCHITECTURE.md
-  tools/draw_map.py --check   fails if the map there is old, or if an arrow runs up
+  tools/draw_map.py --check   fails if that map is out of date, or if an arrow points up
 
-The targets and their links are what CMake says of the configured build folder (--build DIR, by default
+The targets and their links come from CMake's graph of the configured build folder (--build DIR, default
 build/release); the includes are read from the sources. FOLDERS lists the folders from the bottom up: a
-folder may use those before it alone.
+folder may use only the folders before it.
 """
 import argparse
 import pathlib
@@ -26,7 +26,7 @@ FOLDERS = [folder for folder in (ROOT / "tools/folders.txt").read_text().split()
 
 
 def links(build):
-    """The targets that a build links: {target: {targets of ours that it uses}}."""
+    """The link dependencies of a build: {target: {targets that it uses}}."""
     with tempfile.TemporaryDirectory() as scratch:
         graph = pathlib.Path(scratch) / "graph"
         subprocess.run(["cmake", f"--graphviz={graph}", str(build)], check=True, cwd=ROOT,
@@ -40,7 +40,7 @@ def links(build):
 
 
 def folder_of_targets():
-    """The folder of each target that the sources declare."""
+    """{target: folder} for all targets declared in the sources."""
     found = {}
     for folder in FOLDERS:
         listing = ROOT / folder / "CMakeLists.txt"
@@ -51,7 +51,7 @@ def folder_of_targets():
 
 
 def includes():
-    """{folder: {folders whose headers it includes: one file that does}}."""
+    """{folder: {folders whose headers it includes: an example file}}."""
     found = {}
     for folder in FOLDERS:
         found[folder] = {}
@@ -66,7 +66,7 @@ def includes():
 
 
 def reduced(uses):
-    """Only the arrows that no longer way already says."""
+    """The arrows that no longer path already implies."""
     def reach(target, seen):
         for other in uses.get(target, ()):
             if other not in seen:
@@ -79,7 +79,7 @@ def reduced(uses):
 
 
 def drawn(uses, home):
-    """The map as text: one line a target, the highest folder first."""
+    """The map as text: one line per target, the highest folder first."""
     rank = {folder: i for i, folder in enumerate(FOLDERS)}
     # Which benchmarks there are depends on what is installed.
     ours = {t: {o for o in others if o in home and o != t}
@@ -96,7 +96,7 @@ def drawn(uses, home):
 
 
 def upward(uses, home):
-    """The arrows that run up, in words."""
+    """Describes the arrows that point up."""
     rank = {folder: i for i, folder in enumerate(FOLDERS)}
     wrong = [f"{target} ({home[target]}/) links {other} ({home[other]}/)"
              for target, others in uses.items() if target in home
@@ -118,14 +118,14 @@ def main():
     text = drawn(uses, home)
     wrong = upward(uses, home)
     for arrow in wrong:
-        print(f"an arrow runs up: {arrow}", file=sys.stderr)
+        print(f"an arrow points up: {arrow}", file=sys.stderr)
     page = PAGE.read_text()
     old = page[page.index(BEGIN) + len(BEGIN):page.index(END)].strip() if BEGIN in page else None
     if options.write:
         PAGE.write_text(page.replace(old, text))
     elif options.check:
         if old != text:
-            print("ARCHITECTURE.md shows an old map: run tools/draw_map.py --write", file=sys.stderr)
+            print("The map in ARCHITECTURE.md is out of date: run tools/draw_map.py --write", file=sys.stderr)
             return 1
     else:
         print(text)

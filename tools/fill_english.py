@@ -1,6 +1,6 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""Gives every text of an English catalogue itself as its translation.
+"""Sets the translation of every text in an English catalogue to the text itself.
 
     tools/fill_english.py resources/languages/lan_en_us.ts
 

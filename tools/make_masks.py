@@ -5,18 +5,18 @@
     tools/make_masks.py [--stars astrometry/pole_stars.csv] [--output resources/images]
                         [--rings geometry/templaterings.inc]
 
-Each star is projected from the gnomonic plane about the pole of EPOCH onto the template by the
-similarity (turn, scale, shift; never a mirror image) that brings stars A, B and D nearest to their
-template pixels; scale and residuals are printed. Star B is the point the template is turned about,
-so its ring is drawn on its pixel exactly, less than a pixel from where the fit would put it.
+Each star is projected from the gnomonic plane about the pole of EPOCH onto the template by a
+similarity (rotation, scale, shift; no reflection). It is the least-squares fit of stars A, B and D to
+their template pixels; scale and residuals are printed. The template rotates about star B, so its
+ring is drawn exactly on its pixel, less than a pixel from the fitted position.
 
-Positions carry proper motion and precession (IAU 1976); nutation and aberration shift the whole
-field alike and are left out. The stars' places relative to one another hardly change: ten years
-move the pole by 3.3 arcminutes and bend the plane by less than 0.05 pixel.
+Positions include proper motion and precession (IAU 1976). Nutation and aberration shift the entire
+field equally and are omitted. The relative positions of the stars hardly change: ten years move the
+pole by 3.3 arcminutes and distort the plane by less than 0.05 pixel.
 
-The rings' places and radii are also written as a table for the program.
+The rings' positions and radii are also written as a table for the program.
 
-Pixels: x to the right, y downwards, (0, 0) the middle of the top-left pixel. Needs numpy and
+Pixels: x to the right, y downwards, (0, 0) is the centre of the top-left pixel. Needs numpy and
 rsvg-convert (librsvg2-bin).
 """
 import argparse
@@ -30,12 +30,12 @@ import numpy as np
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 EPOCH = 2024.5  # Julian year, the middle of the last epoch of the star angles
-FAINTEST = 8.0  # V of the faintest ring: such a star still shows at 500 ms
+FAINTEST = 8.0  # V of the faintest ring: such a star is still visible at 500 ms
 ARCSEC = math.radians(1 / 3600)
 
-# Per hemisphere: size of the picture, and for A, B and D the catalogue place (degrees, J2000) by
-# which the star is found in the list and its template pixel. `sense` is the sense in which right
-# ascension grows on the screen: +1 clockwise, -1 counter-clockwise.
+# Per hemisphere: size of the picture; for A, B and D the catalogue position (degrees, J2000) that
+# identifies the star in the list, and its template pixel. `sense` is the direction in which right
+# ascension increases on the screen: +1 clockwise, -1 counter-clockwise.
 TEMPLATES = {
     "north": {
         "size": (800, 800),
@@ -69,7 +69,7 @@ ACCENT = "#ffab40"
 
 def read_stars(path):
     """The star list as arrays: right ascension and declination (radians, J2000), proper motions
-    (radians a year, the first with cos(dec) in it) and V magnitude."""
+    (radians per year, the first multiplied by cos(dec)) and V magnitude."""
     with open(path, encoding="utf-8", newline="") as file:
         rows = list(csv.DictReader(line for line in file if not line.startswith("#")))
     column = lambda name: np.array([float(row[name] or 0) for row in rows])
@@ -98,7 +98,7 @@ def precession(year):
 
 
 def unit_vectors(stars, year):
-    """Directions to the stars at `year`, one row a star, mean equator of that year."""
+    """Directions to the stars at `year`, one row per star, mean equator of that year."""
     ra, dec = stars["ra"], stars["dec"]
     position = np.stack([np.cos(dec) * np.cos(ra), np.cos(dec) * np.sin(ra), np.sin(dec)], 1)
     east = np.stack([-np.sin(ra), np.cos(ra), 0 * ra], 1)
@@ -111,13 +111,13 @@ def unit_vectors(stars, year):
 
 def plane(vectors, north, sense):
     """Gnomonic plane about the pole as complex numbers (radians): x to the right, y downwards,
-    right ascension growing clockwise (`sense` +1) or counter-clockwise (-1) on the screen."""
+    right ascension increasing clockwise (`sense` +1) or counter-clockwise (-1) on the screen."""
     towards = vectors[:, 2] if north else -vectors[:, 2]
     return (vectors[:, 0] + 1j * sense * vectors[:, 1]) / towards
 
 
 def fit(points, pixels):
-    """Least-squares similarity pixel = turn * point + shift over all given stars."""
+    """Least-squares similarity pixel = turn * point + shift for all given stars."""
     mean_point, mean_pixel = points.mean(), pixels.mean()
     p, q = points - mean_point, pixels - mean_pixel
     turn = np.vdot(p, q) / np.vdot(p, p)
@@ -125,7 +125,7 @@ def fit(points, pixels):
 
 
 def find(stars, place):
-    """Number of the brightest star within 20 arcseconds of `place` (degrees, J2000)."""
+    """Index of the brightest star within 20 arcseconds of `place` (degrees, J2000)."""
     ra, dec = np.radians(place)
     away = np.hypot((stars["ra"] - ra) * np.cos(dec), stars["dec"] - dec)
     near = np.flatnonzero(away < 20 * ARCSEC)
@@ -135,19 +135,19 @@ def find(stars, place):
 
 
 def ring_radius(v):
-    """Radius in pixels of the ring of a star of magnitude `v`, wider than the star's picture."""
+    """Radius in pixels of the ring of a star of magnitude `v`, larger than the star's image."""
     return 6.0 + 1.0 * (FAINTEST - v)
 
 
 def ring(x, y, radius, colour, width):
-    """A light ring with a dark rim either side of it."""
+    """A light ring with dark edges."""
     circle = f'<circle cx="{x + 0.5:.3f}" cy="{y + 0.5:.3f}" r="{radius:.2f}" fill="none"'
     return (f'{circle} stroke="#000000" stroke-opacity="0.7" stroke-width="{width + 2.2}"/>\n'
             f'{circle} stroke="{colour}" stroke-width="{width}"/>\n')
 
 
 def strokes(path, colour, width, scale=1.0, shift=(0.0, 0.0)):
-    """A light line with a dark rim; the path is scaled, then shifted, the widths are in pixels."""
+    """A light line with dark edges; the path is scaled, then shifted; widths are in pixels."""
     start = (f'<path d="{path}" fill="none" stroke-linecap="round" stroke-linejoin="round" '
              f'transform="translate({shift[0]:.2f} {shift[1]:.2f}) scale({scale})"')
     dark, light = (width + 2.2) / scale, width / scale
@@ -156,7 +156,7 @@ def strokes(path, colour, width, scale=1.0, shift=(0.0, 0.0)):
 
 
 def letter(name, x, y, size=10):
-    """The star's letter, its middle at pixel (x, y); drawn as lines, so no font is needed."""
+    """The star's letter, centred at pixel (x, y); drawn as lines, so no font is needed."""
     return strokes(LETTERS[name], ACCENT, 1.5, size, (x + 0.5 - size * 0.4, y + 0.5 - size / 2))
 
 
@@ -170,8 +170,8 @@ def ticks(x, y, inner, outer):
 
 
 def plain_stars(size, pixels, magnitudes, named):
-    """Numbers of the stars besides A, B and D whose rings lie whole in the picture, faintest
-    first."""
+    """Indices of the stars other than A, B and D whose rings are entirely inside the picture,
+    faintest first."""
     width, height = size
     for number in np.argsort(-magnitudes):
         x, y, v = pixels[number].real, pixels[number].imag, magnitudes[number]
@@ -182,7 +182,7 @@ def plain_stars(size, pixels, magnitudes, named):
 
 
 def drawing(size, pixels, magnitudes, named):
-    """The template as SVG text. `named` tells the star number of A, B and D."""
+    """The template as SVG text. `named` contains the indices of A, B and D."""
     width, height = size
     parts = [f'<svg xmlns="http://www.w3.org/2000/svg" width="{width}" height="{height}" '
              f'viewBox="0 0 {width} {height}">\n']
@@ -202,7 +202,7 @@ def drawing(size, pixels, magnitudes, named):
 
 
 def ring_table(name, numbers, pixels, magnitudes):
-    """The rings as a C++ array: place and radius in pixels, brightest first."""
+    """The rings as a C++ array: position and radius in pixels, brightest first."""
     rows = "".join(f"    {{{pixels[n].real:.1f}, {pixels[n].imag:.1f}, "
                    f"{ring_radius(magnitudes[n]):.1f}}},\n"
                    for n in sorted(numbers, key=lambda n: magnitudes[n]))
@@ -210,7 +210,7 @@ def ring_table(name, numbers, pixels, magnitudes):
 
 
 def make(name, template, stars, folder):
-    """Writes one template, prints how well the three stars fit and returns its table of rings."""
+    """Writes one template, prints the fit's residuals and returns the table of rings."""
     towards = plane(unit_vectors(stars, EPOCH), name == "north", template["sense"])
     near = np.abs(towards) < math.radians(8)
     near &= (stars["dec"] > 0) == (name == "north")
@@ -220,7 +220,7 @@ def make(name, template, stars, folder):
 
     turn, shift = fit(points, targets)
     residuals = np.abs(turn * points + shift - targets)
-    print(f"{name}: {1 / abs(turn) / ARCSEC:.3f} arcsec a pixel, residuals "
+    print(f"{name}: {1 / abs(turn) / ARCSEC:.3f} arcsec per pixel, residuals "
           + ", ".join(f"{key} {r:.2f} px" for key, r in zip(named, residuals)))
 
     pixels = turn * towards + shift

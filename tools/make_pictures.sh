@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Makes every picture of the README and the manual anew, from the program at work on the virtual
+# Regenerates every picture of the README and the manual by running the program with the virtual
 # camera: tools/make_pictures.sh [build folder]. Needs convert (imagemagick) and optipng.
 set -u
 cd "$(dirname "$0")/.." || exit 1
@@ -15,7 +15,7 @@ scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 chmod 700 "$scratch"
 
-# tour OPTION...: the tour without a screen and without a trace of this user's settings.
+# tour OPTION...: runs the tour without a screen and independently of this user's settings.
 tour() {
   QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 HOME="$scratch" XDG_RUNTIME_DIR="$scratch" \
     XDG_CONFIG_HOME="$scratch" QUORVANDEL_SKY="$scratch/sky.ini" \
@@ -23,7 +23,7 @@ tour() {
     "$build/tour/quorvandel-tour" --fast "$@"
 }
 
-# shrink FILE...: 200 colours are enough for a night sky, and a third of the size.
+# shrink FILE...: reduces to 200 colours, enough for a night sky, at a third of the size.
 shrink() {
   local file
   for file in "$@"; do
@@ -45,7 +45,7 @@ make_set() { # make_set FOLDER OPTION...
   done
 }
 
-# The last step from near, three times as large; it rests at both ends.
+# A close-up of the last step, three times as large; it pauses at both ends.
 make_animation() {
   tour --frames "$scratch/frames" --zoom 100 || return 1
   local frames=("$scratch"/frames/*.png)

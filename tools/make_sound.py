@@ -2,8 +2,8 @@
 # SPDX-License-Identifier: MIT
 """Makes resources/audio/audio.mp3, the calm loop behind Tools > Unfreeze.
 
-Needs numpy and lame. The loop is 48 seconds of slow chords under single bell notes. What
-rings past its end is added to its beginning, so that the waveform has no seam. Run it as:
+Needs numpy and lame. The loop is 48 seconds of slow chords and single bell notes. Sound
+that extends past the end is added to the beginning, so that the waveform has no seam. Usage:
 python3 tools/make_sound.py
 """
 import pathlib
@@ -13,7 +13,7 @@ import wave
 
 import numpy as np
 
-RATE = 44100  # samples a second
+RATE = 44100  # samples per second
 SECONDS = 48
 LENGTH = RATE * SECONDS
 TARGET = pathlib.Path(__file__).resolve().parent.parent / "resources" / "audio" / "audio.mp3"
@@ -21,7 +21,7 @@ TARGET = pathlib.Path(__file__).resolve().parent.parent / "resources" / "audio" 
 # Semitones above A3 (220 Hz), one chord for every eight seconds.
 CHORDS = [(-12, 0, 7, 11), (-15, -3, 4, 9), (-10, -5, 2, 9), (-17, -5, 0, 7), (-15, -8, 4, 11),
           (-14, -2, 5, 10)]
-# (second, semitones above A4) of the bells, sparse enough to be forgotten.
+# (second, semitones above A4) of the bells, deliberately sparse.
 BELLS = [(1.0, 7), (4.0, 14), (9.5, 4), (13.0, 16), (17.0, 9), (20.5, 14), (25.5, 7), (29.0, 12),
          (33.0, 11), (37.5, 4), (41.5, 10), (45.0, 5)]
 
@@ -31,13 +31,13 @@ def note(semitones, base):
 
 
 def add_round(track, start, sound):
-    """Adds `sound` from second `start` on, going round the end of the loop."""
+    """Adds `sound` from second `start` on, wrapping around at the end of the loop."""
     places = (int(start * RATE) + np.arange(len(sound))) % LENGTH
     np.add.at(track, places, sound)
 
 
 def pad(frequency, pan, rng):
-    """A soft voice of 12 seconds: three partials, two of them a little apart to let it breathe."""
+    """A soft 12-second voice of partials; the first two are slightly detuned, so that they beat."""
     time = np.arange(12 * RATE) / RATE
     envelope = np.sin(np.pi * np.minimum(time / 12, 1)) ** 2
     sound = np.zeros(len(time))
@@ -49,7 +49,7 @@ def pad(frequency, pan, rng):
 
 
 def bell(frequency, pan):
-    """A struck note that dies away within 7 seconds."""
+    """A struck note that decays within 7 seconds."""
     time = np.arange(7 * RATE) / RATE
     sound = np.zeros(len(time))
     for factor, strength, decay in ((1, 1.0, 1.8), (2.0, 0.35, 1.0), (3.01, 0.12, 0.6)):
@@ -65,7 +65,7 @@ def loop():
     for number, chord in enumerate(CHORDS):
         for voice, semitones in enumerate(chord):
             frequency = note(semitones, 220.0)
-            # Sit each chord about its eight seconds; higher voices are softer.
+            # Each chord overlaps its eight seconds at both ends; higher voices are softer.
             add_round(track, 8 * number - 2,
                       pad(frequency, 0.35 + 0.1 * voice, rng) * 0.5 / (1 + 0.5 * voice))
     for number, (start, semitones) in enumerate(BELLS):

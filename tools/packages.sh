@@ -2,7 +2,7 @@
 # The packages of Debian and Ubuntu that the project needs, and how they are installed.
 # Sourced by tools/stages.sh.
 
-# The smallest sets that will do: to build, to run, to run unseen, for the tests, for the lints.
+# The minimum sets: to build, to run, to run without a screen, for the tests, for the lints.
 packages_build="cmake ninja-build g++ qtbase5-dev qttools5-dev qttools5-dev-tools qtmultimedia5-dev
   libopencv-core-dev libopencv-imgproc-dev libopencv-imgcodecs-dev liberfa-dev libsep-dev"
 packages_run="libqt5multimedia5-plugins gstreamer1.0-plugins-good fonts-dejavu-core fonts-liberation
@@ -19,20 +19,19 @@ missing_packages() {
   done
 }
 
-# lock_holder LOG: who holds the lock that apt did not get, in apt's words; fails if apt failed for
-# another reason.
+# lock_holder LOG: prints the holder of the lock that apt could not get, as apt names it; fails if
+# apt failed for another reason.
 lock_holder() {
   grep -aqE '^(E|Error): (Could not get lock|Unable to (acquire|lock) )' "$1" || return 1
   sed -nE 's/.*held by (process [0-9]+ \([^)]*\)).*/\1/p' "$1" | tail -n 1 | grep . ||
     echo "another program"
 }
 
-lock_patience=1800 # seconds for which another program may hold the package system
+lock_patience=1800 # maximum seconds to wait for another program's lock
 lock_interval=2    # seconds between two attempts
 
-# patiently COMMAND...: runs apt-get, again and again while another program holds one of its locks:
-# apt itself would wait for some of them only, and say nothing. Writes that it waits to file
-# descriptor 3.
+# patiently COMMAND...: runs apt-get and retries while another program holds one of its locks; apt
+# itself waits only for some of them, and silently. Reports the waiting on file descriptor 3.
 patiently() {
   local attempt=$logs/apt-get.log holder status said=false since=$SECONDS
   while true; do
@@ -41,7 +40,7 @@ patiently() {
     [ "$status" -ne 0 ] && holder=$(lock_holder "$attempt") || return "$status"
     [ $((SECONDS - since)) -lt "$lock_patience" ] || return "$status"
     if ! $said; then
-      [ ! -t 3 ] || printf '\r\033[K' >&3 # the stage's own line
+      [ ! -t 3 ] || printf '\r\033[K' >&3 # clears the stage's line
       printf 'Waiting for %s, which holds the package system, for at most %d minutes.\n' \
         "$holder" $((lock_patience / 60)) >&3
       said=true
@@ -50,14 +49,14 @@ patiently() {
   done
 }
 
-# install_packages PACKAGE...: installs what is missing and says what.
+# install_packages PACKAGE...: installs missing packages and lists them.
 install_packages() {
   local missing as_root=() apt
   if ! command -v apt-get >/dev/null || ! command -v dpkg-query >/dev/null; then
     if [ -f build/packages-are-there ]; then return 0; fi
-    printf 'This is not Debian or Ubuntu. Install what these packages of Debian bring:\n   '
+    printf 'This is not Debian or Ubuntu. Install the equivalents of these Debian packages:\n   '
     printf ' %s' "$@"
-    printf '\nand then say so with: mkdir -p build; touch build/packages-are-there\n'
+    printf '\nand then confirm with: mkdir -p build; touch build/packages-are-there\n'
     return 1
   fi
   missing=$(missing_packages "$@")
@@ -70,9 +69,9 @@ install_packages() {
     as_root=(sudo)
   fi
   printf 'Installing: %s\n' "$missing"
-  # The question for the password must be seen, so it comes before the output goes to a log.
+  # The password prompt must be visible, so it comes before output is redirected to a log.
   [ ${#as_root[@]} -eq 0 ] || sudo -v || return 1
-  # The messages are read here, so they are in English.
+  # The messages are parsed here, so they must be in English.
   apt=("${as_root[@]}" env LC_ALL=C DEBIAN_FRONTEND=noninteractive apt-get)
   stage "Reading the package lists" patiently "${apt[@]}" update || return 1
   # shellcheck disable=SC2086 # the list is meant to be split

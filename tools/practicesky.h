@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-// Under which sky is the program shown and measured?
+// Which sky is the program demonstrated and measured with?
 #pragma once
 
 #include "virtualcamera/skystate.h"
 
-/// One site on each hemisphere, on a May night whose star angles are built in; the time stands
-/// still. Everything else has its default.
+/// One site per hemisphere, on a night in May for which star angles are built in; time is stopped.
+/// Everything else has its default.
 inline virtualsky::SkyState practiceSky(bool south)
 {
     virtualsky::SkyState sky;

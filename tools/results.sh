@@ -1,16 +1,16 @@
 # SPDX-License-Identifier: MIT
-# What ctest's output says: how many checks passed, failed and were skipped, and why those that
-# failed did. Sourced by ./test.
+# Evaluates ctest's output: how many checks passed, failed and were skipped, and the reasons for
+# failures. Sourced by ./test.
 #
-# REPORT is what `ctest` writes, DETAILS its Testing/Temporary/LastTest.log with what the tests wrote.
+# REPORT is the output of `ctest`, DETAILS its Testing/Temporary/LastTest.log with the tests' output.
 
 # failed_tests REPORT: a line "name reason" for each test that ctest counts as failed.
 failed_tests() {
   sed -nE '/^The following tests FAILED:/,$ s/^[[:space:]]+[0-9]+ - ([^ ]+) \(([^)]*)\).*/\1 \2/p' "$1"
 }
 
-# count_results REPORT DETAILS: "passed failed skipped". The rows of Qt Test count each; a test that
-# says nothing of rows, or fails beyond them (a crash, a leak, a timeout), counts as one.
+# count_results REPORT DETAILS: "passed failed skipped". Each row of Qt Test counts. A test that
+# reports no rows, or fails outside of them (a crash, a leak, a timeout), counts as one.
 count_results() {
   failed_tests "$1" | awk '
     function close_test() {
@@ -32,10 +32,10 @@ count_results() {
     }' <(cat; echo) "$2"
 }
 
-# skipped_rows DETAILS: what was left out, and why.
+# skipped_rows DETAILS: which rows were skipped, and why.
 skipped_rows() { grep -ah '^SKIP ' "$1" | sort -u; }
 
-# output_of TEST DETAILS: what a test wrote, without the talk of the media framework.
+# output_of TEST DETAILS: a test's output, without the messages of the media framework.
 output_of() {
   awk -v test="$1" '
     /^[0-9]+\/[0-9]+ Testing: / { mine = $3 == test; inside = 0 }
@@ -45,7 +45,7 @@ output_of() {
     mine && /^Output:$/ && !inside { inside = 1 }' "$2"
 }
 
-# failures_in: of a test's output, the lines that say why it failed, each with what belongs to it.
+# failures_in: filters a test's output for the reasons of its failure, with some lines of context.
 failures_in() {
   awk '
     /^(PASS|SKIP|XFAIL|BPASS|BFAIL|QDEBUG|QINFO|QWARN|QCRITICAL|QSYSTEM|RESULT|Totals|Config|\*\*\*)/ {
@@ -57,8 +57,8 @@ failures_in() {
     left > 0 { print; left-- }'
 }
 
-# explain_failures REPORT DETAILS: for each test that failed its name and its reasons, at most 40
-# lines; the end of its output where it does not say why, or did not get to its end.
+# explain_failures REPORT DETAILS: the name of each failed test and the reasons, at most 40 lines;
+# the end of its output if there are no reasons or the test did not finish.
 explain_failures() {
   local name reason lines
   while read -r name reason; do

@@ -1,12 +1,12 @@
 # SPDX-License-Identifier: MIT
-# What the scripts share: stages that report what they do, how far they are and why they failed.
-# Sourced by bash with the project's root as the current folder; brings tools/packages.sh with it.
+# Common functions of the scripts: stages that report their task, their progress and why they failed.
+# Sourced by bash with the project's root as the current folder; sources tools/packages.sh.
 
 logs=build/logs
 . tools/packages.sh
 
-# progress_of LOG: how far a running command is, by the last lines of its log: the percentage of
-# ninja's steps or of ctest's tests; otherwise the last line itself, cut.
+# progress_of LOG: progress of a running command, from the last lines of its log: the percentage of
+# ninja's steps or of ctest's tests; otherwise the truncated last line.
 progress_of() {
   local last
   last=$(tail -c 4000 "$1" 2>/dev/null | tr '\r' '\n' | sed -nE \
@@ -19,8 +19,8 @@ progress_of() {
   fi
 }
 
-# show_progress TEXT LOG OWNER: until the process OWNER ends. A terminal's line is written again and
-# again; elsewhere a line is added every minute.
+# show_progress TEXT LOG OWNER: shows progress until the process OWNER ends. On a terminal it updates
+# one line; otherwise it adds a line every minute.
 show_progress() {
   local text=$1 log=$2 owner=$3 width seconds=0 line
   width=$(tput cols 2>/dev/null || echo 80)
@@ -36,8 +36,8 @@ show_progress() {
   done
 }
 
-# reasons LOG: why a command failed: the errors of compilers, linkers, CMake and lints, or else the
-# last lines.
+# reasons LOG: why a command failed: the errors of compilers, linkers, CMake and lints, or if there
+# are none, the last lines.
 reasons() {
   local errors
   errors=$(grep -aE -A 4 \
@@ -50,14 +50,14 @@ reasons() {
   fi
 }
 
-# log_of TEXT: where the output of the stage TEXT goes.
+# log_of TEXT: the log file of the stage TEXT.
 log_of() { printf '%s/%s.log' "$logs" "$(printf '%s' "$1" | tr -cs 'A-Za-z0-9' '-' | cut -c1-60)"; }
 
 explain=reasons
 
-# stage TEXT COMMAND...: runs COMMAND with its output in a log and reports what is being done, where
-# the log is, and, if it failed, why: by the function named in `explain`, which is given the log.
-# What COMMAND writes to file descriptor 3 is seen at once. Returns the command's status.
+# stage TEXT COMMAND...: runs COMMAND with its output in a log. Reports the task, the log file and,
+# on failure, the reasons, from the function named in `explain`, which gets the log. COMMAND's output
+# to file descriptor 3 is visible immediately. Returns the command's status.
 stage() {
   local text=$1 log status watcher start=$SECONDS
   shift
@@ -65,7 +65,7 @@ stage() {
   log=$(log_of "$text")
   : >"$log"
   if [ -t 1 ]; then printf '%s ...' "$text"; else printf '%s ... (log: %s)\n' "$text" "$log"; fi
-  # Beside the command, which keeps Ctrl+C.
+  # The command runs in the foreground, so that Ctrl+C reaches it.
   show_progress "$text" "$log" $$ &
   watcher=$!
   "$@" 3>&1 >"$log" 2>&1
@@ -76,7 +76,7 @@ stage() {
   if [ $status -eq 0 ]; then
     printf '%s ... done (%d s)\n' "$text" $((SECONDS - start))
   else
-    printf '%s ... FAILED (%d s) with status %d, because of (all of it: %s):\n' \
+    printf '%s ... FAILED (%d s) with status %d, reasons (full log: %s):\n' \
       "$text" $((SECONDS - start)) $status "$log"
     "$explain" "$log" | sed 's/^/    /'
   fi

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The state of an opened camera.
+// The state of an open camera.
 #include "virtualcamera/device.h"
 
 #include <chrono>
@@ -13,7 +13,7 @@ struct Control {
     double least, most, initial;
 };
 enum Index : std::size_t { Gain, ExposureMicroseconds, Speed, UsbTraffic };
-// In the order of Index.
+// Same order as Index.
 constexpr std::array<Control, 4> controls = {
     {{6, 0.0, 200.0, 50.0}, {8, 1.0, 600e6, 200000.0}, {9, 0.0, 2.0, 0.0}, {12, 0.0, 255.0, 30.0}}};
 

@@ -4,21 +4,21 @@
 
 namespace virtualsky
 {
-/// Seconds from the start of one exposure to the start of the next: exposure and read-out, at least
-/// 1/30 s. The read-out takes 10 ms and 0.11 ms for every unit of USB traffic at speed 0, three
+/// Seconds from the start of one exposure to the start of the next: exposure plus read-out, at
+/// least 1/30 s. The read-out takes 10 ms plus 0.11 ms per unit of USB traffic at speed 0, three
 /// quarters of that at speed 1, half of it at speed 2.
 double framePeriod(double exposureSeconds, double usbTraffic, double speed);
 
-/// A camera that exposes one frame after another and keeps the latest until it is fetched.
+/// Timing of a camera that exposes continuously and keeps the latest frame until it is fetched.
 /// Times are seconds of any steady clock.
 class FrameClock
 {
 public:
-    /// Live mode begins: the first exposure starts.
+    /// Starts live mode and the first exposure.
     void begin(double now, double period);
-    /// From now on frames take `period`, the running exposure included.
+    /// Sets the frame period, including that of the running exposure.
     void setPeriod(double period);
-    /// True once for every finished frame; of several missed ones only the latest is given.
+    /// True once per finished frame; of several missed frames only the latest counts.
     bool take(double now);
 
 private:

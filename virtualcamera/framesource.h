@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the camera operations need of whatever makes the frames.
+// What do the camera operations need from a source of frames?
 #pragma once
 
 #include <cstdint>
@@ -9,13 +9,13 @@
 
 namespace virtualsky
 {
-/// How the camera around the frames behaves just now.
+/// The current behaviour of the camera itself.
 struct Behaviour {
     OperationSet fail;
     unsigned cameras = 1;     ///< 0 to 2
-    bool unplugged = false;   ///< frames stop, no camera is found
-    double slowSeconds = 0.0; ///< that every frame takes longer
-    bool unthrottled = false; ///< a frame at every call
+    bool unplugged = false;   ///< no frames, and no camera is found
+    double slowSeconds = 0.0; ///< added to the time of every frame
+    bool unthrottled = false; ///< a frame on every call
 };
 
 struct FrameRequest {
@@ -23,8 +23,8 @@ struct FrameRequest {
     Exposure exposure;
 };
 
-/// Frames with parameters: a rendered sky, replayed files, another camera.
-/// Every member may be called from any thread.
+/// Frames with parameters: a rendered sky, replayed files, another camera. All members are
+/// thread-safe.
 class FrameSource
 {
 public:
@@ -33,7 +33,7 @@ public:
     virtual Behaviour behaviour() = 0;
 
     /// Fills `out` with 8-bit samples, rows without padding.
-    /// @param out room for area.width * area.height * 3 bytes
+    /// @param out at least area.width * area.height * 3 bytes
     /// @return channels of the frame, 1 or 3
     virtual unsigned frame(const FrameRequest &request, std::uint8_t *out) = 0;
 };

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Writes "virtual sky" into a frame.
+// Draws "virtual sky" into a frame.
 #include "virtualcamera/label.h"
 
 #include <cstddef>

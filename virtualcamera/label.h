@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What tells a picture of the virtual sky from one of a real camera?
+// What distinguishes a picture of the virtual sky from one of a real camera?
 #pragma once
 
 #include <array>
@@ -9,11 +9,11 @@
 namespace virtualsky
 {
 inline constexpr int labelLeft = 8;  ///< pixels left of the label
-inline constexpr int labelBelow = 3; ///< rows below it: it lies within the lowest 16
+inline constexpr int labelBelow = 3; ///< rows below it: the label is within the lowest 16 rows
 
-/// The label, '#' where a pixel is changed. Its strokes are one pixel wide and have gaps where they
-/// would meet: no square of 3 x 3 pixels holds more than four changed ones, so that the median of
-/// each is still one of the sky's values, and no search for stars behind a median filter finds any.
+/// The label; '#' is a changed pixel. Its strokes are one pixel wide and have gaps at the joints:
+/// no square of 3 x 3 pixels contains more than four changed pixels. The median of each square is
+/// therefore still a sky value, and a star search after a median filter does not find the label.
 inline constexpr std::array<std::string_view, 13> labelPicture = {
     "....................#....................#..............#.............",
     ".........#..........#....................#..............#.............",
@@ -32,8 +32,8 @@ inline constexpr std::array<std::string_view, 13> labelPicture = {
 inline constexpr int labelWidth = static_cast<int>(labelPicture.front().size());
 inline constexpr int labelHeight = static_cast<int>(labelPicture.size());
 
-/// Writes the label into the lowest rows, lighter than a dark sky and darker than a bright one. A
-/// frame that it does not fit into stays as it is.
+/// Draws the label into the lowest rows, lighter than a dark sky and darker than a bright one. A
+/// frame that is too small stays unchanged.
 /// @param frame rows of width * channels bytes, from the top
 void drawLabel(int width, int height, unsigned channels, std::uint8_t *frame);
 } // namespace virtualsky

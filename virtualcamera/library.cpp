@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The register of cameras and open handles.
+// The cameras and the open handles.
 #include "virtualcamera/library.h"
 
 namespace virtualsky

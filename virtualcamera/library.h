@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The camera library as a whole: which cameras are there, which are open?
+// The camera library as a whole: which cameras exist, and which are open?
 #pragma once
 
 #include <cstdint>
@@ -12,7 +12,7 @@
 
 namespace virtualsky
 {
-/// Every member may be called from any thread.
+/// All members are thread-safe.
 class Library
 {
 public:
@@ -24,11 +24,11 @@ public:
     bool initResource();
     /// 0 before `initResource` and while the camera is unplugged.
     unsigned cameraCount();
-    /// "QUORVANDEL-V0001" and so on; empty for an index that has no camera.
+    /// "QUORVANDEL-V0001" and so on; empty for an index without a camera.
     std::string cameraId(std::int32_t index);
 
-    /// A number that was never a handle before, 0 if there is no such camera. A camera may be
-    /// opened more than once.
+    /// Returns a handle that was never used before, or 0 if there is no such camera. A camera may
+    /// be opened more than once.
     std::uintptr_t open(const std::string &id);
     /// Null for a handle that is not open.
     std::shared_ptr<Device> device(std::uintptr_t handle);

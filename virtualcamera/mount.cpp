@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The equatorial mount: bolts, RA axis, tracking, and the camera's place on it.
+// The equatorial mount: bolts, RA axis, tracking, and the camera's position on it.
 #include "virtualcamera/mount.h"
 
 #include <cmath>
@@ -27,7 +27,7 @@ Vector3 horizonDirection(const Aim &aim)
             std::cos(aim.azimuth) * std::cos(aim.altitude), std::sin(aim.altitude)};
 }
 
-// (right, down, along the axis) of somebody who looks along the axis with the zenith up.
+// (right, down, along the axis) for an observer who looks along the axis with the zenith up.
 Matrix3 mountFromHorizon(const SkyState &state)
 {
     const Aim aim = axisAim(state);
@@ -52,7 +52,7 @@ Matrix3 turnAboutForward(double angle)
     return {{{{c, -s, 0.0}, {s, c, 0.0}, {0.0, 0.0, 1.0}}}};
 }
 
-// The shortest rotation that takes forward (0, 0, 1) to `to`.
+// The shortest rotation from forward (0, 0, 1) to `to`.
 Matrix3 tiltForwardTo(const Vector3 &to)
 {
     const double k = 1.0 / (1.0 + to.z);

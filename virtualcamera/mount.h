@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Which way does the mount's RA axis point, and how does the camera sit on it?
+// Which way does the mount's RA axis point, and how is the camera mounted on it?
 //
 // Horizon vectors are (east, north, up), camera vectors (right, down, forward).
 #pragma once
@@ -9,12 +9,12 @@
 
 namespace virtualsky
 {
-/// Turns of the sky in a UT1 second: the rate of the Earth rotation angle (IAU 2000).
+/// Turns of the sky per UT1 second: the rate of the Earth rotation angle (IAU 2000).
 inline constexpr double skyTurnsPerSecond = 1.00273781191135448 / 86400.0;
 
 bool isSouth(const SkyState &state);
 
-/// How long the RA axis has followed the sky since the tracked turn was 0; 0 without tracking.
+/// How long the RA axis has been tracking since the tracked turn was 0; 0 without tracking.
 double trackedSeconds(const SkyState &state, double utcSeconds);
 
 /// The true pole above the horizon of the site, horizon vector.
@@ -23,7 +23,7 @@ Vector3 poleDirection(const SkyState &state);
 /// The RA axis: the pole displaced by the bolts, horizon vector.
 Vector3 axisDirection(const SkyState &state);
 
-/// Turns horizon vectors into camera vectors. The axis always falls on the pixel that the camera's
-/// place on the mount sets, whatever the bolts and the RA angle are.
+/// Transforms horizon vectors to camera vectors. The axis is always at the pixel given by the
+/// camera's position on the mount, for all bolt positions and RA angles.
 Matrix3 cameraFromHorizon(const SkyState &state, double utcSeconds);
 } // namespace virtualsky

@@ -7,7 +7,7 @@
 
 namespace virtualsky
 {
-/// SplitMix64 (Steele, Lea, Flood 2014): 64 random bits a call, any seed will do.
+/// SplitMix64 (Steele, Lea, Flood 2014): 64 random bits per call; any seed is valid.
 class RandomBits
 {
 public:
@@ -20,7 +20,7 @@ public:
         z = (z ^ (z >> 27)) * 0x94d049bb133111ebu;
         return z ^ (z >> 31);
     }
-    /// 0 up to and without 1.
+    /// In [0, 1).
     double uniform() { return static_cast<double>(next() >> 11) * 0x1p-53; }
 
 private:
@@ -28,9 +28,9 @@ private:
 };
 
 /// 65536 values of the normal distribution (mean 0, sigma 1, largest 4.3): a random 16-bit index
-/// draws one. Built at the first call, safe from any thread.
+/// selects one. Built on the first call, thread-safe.
 const std::vector<float> &normalTable();
 
-/// Independent seeds for frame `number` and for the sensor's own marks (number 0).
+/// Independent seeds for frame `number` and for the sensor's fixed pattern (number 0).
 std::uint64_t frameSeed(std::uint32_t seed, std::uint64_t number);
 } // namespace virtualsky

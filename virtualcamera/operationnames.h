@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The sixteen operations of a camera library, by name, so that faults can be aimed at them.
+// The sixteen operations of a camera library by name, so that each can be made to fail.
 #pragma once
 
 #include <array>
@@ -14,7 +14,7 @@ inline constexpr std::array<std::string_view, 16> operationNames = {
     "SetVELDIXBinMode",   "SetVELDIXResolution", "GetVELDIXParam", "SetVELDIXParam",
     "BeginVELDIXLive",    "GetVELDIXLiveFrame",  "StopVELDIXLive", "CloseVELDIX"};
 
-/// In the order of `operationNames`.
+/// Same order as `operationNames`.
 enum class Operation {
     InitResource,
     Scan,

@@ -27,7 +27,7 @@ void reportFault(const std::string &text)
     std::fprintf(stderr, "virtual camera: %s\n", text.c_str());
 }
 
-// Never destroyed: a thread may still fetch frames while the process ends.
+// Never destroyed: a thread may still fetch frames during process exit.
 Library &library()
 {
     static Library *const instance =
@@ -40,7 +40,7 @@ std::uintptr_t number(void *handle)
     return reinterpret_cast<std::uintptr_t>(handle);
 }
 
-// Does `work` unless the operation is set to fail; an exception is a failure.
+// Calls `work` unless the operation is set to fail; an exception counts as a failure.
 template <typename Result, typename Work>
 Result guarded(Operation operation, Result failed, Work work) noexcept
 {
@@ -51,7 +51,7 @@ Result guarded(Operation operation, Result failed, Work work) noexcept
     }
 }
 
-// The same for an operation on an open camera; `work` tells whether it succeeded.
+// The same for an operation on an open camera; `work` returns whether it succeeded.
 template <typename Work>
 std::uint32_t onDevice(Operation operation, void *handle, Work work) noexcept
 {

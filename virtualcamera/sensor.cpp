@@ -9,18 +9,17 @@ namespace virtualsky
 {
 namespace
 {
-constexpr double gaussianWidth = 2.3548200450309493; // full width at half maximum over sigma
-constexpr double fullMoonMagnitude = 17.0;           // a square arcsecond
-constexpr double faintestTrace = 0.02;               // electrons in a pixel, left out below
-constexpr int largestRadius = 60;                    // pixels
+constexpr double gaussianWidth = 2.3548200450309493; // full width at half maximum / sigma
+constexpr double fullMoonMagnitude = 17.0;           // per square arcsecond
+constexpr double faintestTrace = 0.02; // electrons in a pixel; fainter light is ignored
+constexpr int largestRadius = 60;      // pixels
 
 double fluxRatio(double magnitude)
 {
     return std::pow(10.0, -0.4 * magnitude);
 }
 
-// How much brighter or fainter than in green a star is in blue, green and red: a black body's
-// slope.
+// A star's brightness in blue, green and red relative to green, from the slope of a black body.
 double colourFactor(double bMinusV, int channel)
 {
     constexpr double slope[3] = {-0.8, 0.0, 0.5};
@@ -28,7 +27,7 @@ double colourFactor(double bMinusV, int channel)
     return std::pow(10.0, 0.4 * slope[channel] * (bMinusV - sunColour));
 }
 
-// Parts of the light of a Gaussian at `centre` that fall into pixels first .. first + n - 1.
+// Fractions of a Gaussian's light at `centre` in the pixels first .. first + n - 1.
 void fillProfile(std::vector<double> &profile, double centre, double sigma, int first, int n)
 {
     const double k = 1.0 / (sigma * std::sqrt(2.0));
@@ -41,7 +40,7 @@ void fillProfile(std::vector<double> &profile, double centre, double sigma, int 
     }
 }
 
-// The radius at which a star's trace gets fainter than `faintestTrace`.
+// The radius at which a star's light falls below `faintestTrace`.
 int traceRadius(double electrons, double sigma)
 {
     const double ratio = electrons / (2.0 * pi * sigma * sigma * faintestTrace);
@@ -86,10 +85,10 @@ double imageSigma(const SkyState &state)
 }
 
 struct Sensor::Response {
-    float scale;        // values an electron
+    float scale;        // values per electron
     float readVariance; // values squared, 0 without noise
-    float shotVariance; // values squared an electron, 0 without noise
-    float skyElectrons; // in every pixel
+    float shotVariance; // values squared per electron, 0 without noise
+    float skyElectrons; // in each pixel
 };
 
 void Sensor::addStar(const Point &place, double electrons, double sigma, const Area &area)
@@ -120,7 +119,7 @@ void Sensor::addHotPixels(const SkyState &state, const Area &area, double second
     for (unsigned i = 0; i < state.hotPixels; ++i) {
         const int x = static_cast<int>(random.uniform() * sensorWidth);
         const int y = static_cast<int>(random.uniform() * sensorHeight);
-        // 300 to 3000 electrons a second, as many per octave of brightness.
+        // 300 to 3000 electrons per second, uniformly distributed in log brightness.
         const double rate = 300.0 * std::pow(10.0, random.uniform());
         const bool inside =
             x >= area.x && y >= area.y && x < area.x + area.width && y < area.y + area.height;
@@ -133,7 +132,7 @@ void Sensor::addHotPixels(const SkyState &state, const Area &area, double second
 void Sensor::collect(const SkyState &state, const std::vector<ImagedStar> &stars, const Area &area,
                      double seconds, int channel)
 {
-    // Every pixel is dark since it was last digitised.
+    // Every pixel was reset to 0 when it was last digitised.
     light.resize(static_cast<std::size_t>(area.width) * static_cast<std::size_t>(area.height));
     const double sigma = imageSigma(state);
     for (const ImagedStar &star : stars) {
@@ -178,7 +177,7 @@ void Sensor::digitise(const Response &response, RandomBits &random, unsigned cha
                 *out = dark[index];
             } else {
                 *out = lit(*star, index);
-                *star = 0.0f; // dark again for the next picture
+                *star = 0.0f; // reset for the next frame
             }
             ++star;
             out += channels;

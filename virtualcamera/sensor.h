@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What do lens and sensor make of the stars: light to electrons to 8-bit values?
+// How do the lens and the sensor turn starlight into electrons and 8-bit values?
 #pragma once
 
 #include <cstdint>
@@ -13,34 +13,34 @@
 
 namespace virtualsky
 {
-/// Electrons a second of a star of V = 0 behind 25.4 mm at f/2: 1.27 cm^2, some 3e6 photons a
-/// second and cm^2 over the sensor's whole band, 40 percent of them counted.
+/// Electrons per second from a star of V = 0 behind 25.4 mm at f/2: 1.27 cm^2, some 3e6 photons per
+/// second and cm^2 over the sensor's full band, 40 percent of them counted.
 inline constexpr double zeroMagnitudeRate = 1.5e6;
 inline constexpr double fullWell = 15000.0; ///< electrons
-inline constexpr double biasLevel = 8.0;    ///< values of 0 to 255
+inline constexpr double biasLevel = 8.0;    ///< 8-bit values
 
-/// 8-bit values an electron: 0.7 at gain 50, tenfold for every 50 units.
+/// 8-bit values per electron: 0.7 at gain 50, tenfold for every 50 units.
 double valuesPerElectron(double gain);
-/// One sigma in 8-bit values: 3 electrons before the amplifier, 0.6 values behind it.
+/// One sigma in 8-bit values: 3 electrons before the amplifier, 0.6 values after it.
 double readNoise(double gain);
-/// Electrons a second in a pixel without stars: sky and moon, behind the clouds.
+/// Electrons per second in a pixel without stars: sky and moon, dimmed by clouds.
 double backgroundRate(const SkyState &state);
-/// Electrons a second of a whole star, behind the clouds.
+/// Total electrons per second of a star, dimmed by clouds.
 double starRate(const SkyState &state, double vMagnitude);
-/// Sigma of a star's image in pixels: lens and seeing together.
+/// Sigma of a star's image in pixels: lens and seeing combined.
 double imageSigma(const SkyState &state);
 
-/// Renders pictures; keeps its buffers between frames. Not for two threads at a time.
+/// Renders frames; keeps its buffers between them. Not thread-safe.
 class Sensor
 {
 public:
-    /// @param out area.width * area.height * state.channels bytes, rows from the top without
-    /// padding, three channels as blue, green, red; the area lies within the sensor
+    /// @param out area.width * area.height * state.channels bytes: rows from the top without
+    /// padding, three channels as blue, green, red. The area must be within the sensor.
     void render(const SkyState &state, const std::vector<ImagedStar> &stars, const Area &area,
                 const Exposure &exposure, std::uint8_t *out);
 
 private:
-    struct Response; // of one exposure: the numbers that turn electrons into values
+    struct Response; // of one exposure: the factors that convert electrons to values
 
     void collect(const SkyState &state, const std::vector<ImagedStar> &stars, const Area &area,
                  double seconds, int channel);
@@ -50,8 +50,8 @@ private:
     void digitise(const Response &response, RandomBits &random, unsigned channels,
                   std::uint8_t *out);
 
-    std::vector<float> light;             // electrons of stars and hot pixels
-    std::vector<std::uint8_t> background; // values of a pixel without stars, for every random index
-    std::vector<double> profileX, profileY; // parts of a star's light by column and row
+    std::vector<float> light;               // electrons from stars and hot pixels
+    std::vector<std::uint8_t> background;   // values of a pixel without stars for each random index
+    std::vector<double> profileX, profileY; // fractions of a star's light by column and row
 };
 } // namespace virtualsky

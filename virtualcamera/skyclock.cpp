@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The sky's time: now, a running date, or a frozen one.
+// The sky's time: now, a running date, or a fixed one.
 #include "virtualcamera/skyclock.h"
 
 namespace virtualsky

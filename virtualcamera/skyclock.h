@@ -8,13 +8,13 @@
 
 namespace virtualsky
 {
-/// A state with nothing left open, and the time it is looked at.
+/// A fully determined state, and its time.
 struct Moment {
-    SkyState state; ///< trackingSince is there if the mount tracks
+    SkyState state; ///< trackingSince is set if the mount tracks
     double utcSeconds;
 };
 
-/// Remembers when a date was first read and when tracking began.
+/// Stores when a date was first read and when tracking began.
 class SkyClock
 {
 public:

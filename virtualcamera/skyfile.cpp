@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The sky file's text, line by line.
+// Parses and formats the sky file's text, line by line.
 #include "virtualcamera/skyfile.h"
 
 #include <algorithm>
@@ -12,7 +12,7 @@ namespace virtualsky
 {
 namespace
 {
-// Whatever stood in the file, a message stays one line of printable text.
+// Messages stay one line of printable text, whatever the file contains.
 std::string printable(std::string_view text)
 {
     constexpr std::size_t longest = 60;

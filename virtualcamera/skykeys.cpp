@@ -30,7 +30,7 @@ std::string outside(const SkyKey &key)
     return "must lie between " + numberText(key.least) + " and " + numberText(key.most);
 }
 
-// Reads and writes the members of each type; the fault's text completes "key ...".
+// Reads and writes the members of each type; a fault completes the sentence "key ...".
 struct Reader {
     SkyState &state;
     const SkyKey &key;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Where the sky file lies, and how it is written in one go.
+// Where is the sky file, and how is it written atomically?
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -22,11 +22,11 @@ bool makeFolders(const std::string &path)
     return true;
 }
 
-// The file that a chain of symbolic links leads to, there or not; the path itself where it is none,
-// and nothing, with errno set, where the chain has no end.
+// The target of a chain of symbolic links, existing or not; the path itself if it is not a link.
+// Empty, with errno set, if the chain is endless.
 std::string behindLinks(std::string path)
 {
-    constexpr int longestChain = 40; // as the kernel has it
+    constexpr int longestChain = 40; // the kernel's limit
     for (int link = 0; link < longestChain; ++link) {
         std::string target(4096, '\0');
         const ssize_t length = ::readlink(path.c_str(), target.data(), target.size());
@@ -79,7 +79,7 @@ std::string skyFilePath()
     };
     if (const std::string path = variable("QUORVANDEL_SKY"); !path.empty())
         return path;
-    // A relative folder in the variable is to be ignored (XDG base directories).
+    // Relative paths in the variable must be ignored (XDG base directories).
     if (const std::string folder = variable("XDG_RUNTIME_DIR"); !folder.empty() && folder[0] == '/')
         return folder + "/quorvandel/sky.ini";
     return "/tmp/quorvandel-" + std::to_string(::getuid()) + "/sky.ini";

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// From the sky file to a frame.
+// Makes a frame from the sky file.
 #include "virtualcamera/skysource.h"
 
 #include <chrono>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Frames of the virtual sky, as the sky file sets it.
+// Frames of the virtual sky as set in the sky file.
 #pragma once
 
 #include <mutex>
@@ -16,7 +16,7 @@ namespace virtualsky
 class SkySource : public FrameSource
 {
 public:
-    /// @param report gets one line for every new fault of the sky file
+    /// @param report is called with one line for each new fault of the sky file
     SkySource(const std::string &path, SkyWatch::Report report);
 
     Behaviour behaviour() override;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Everything that can be set about the virtual sky, the mount under it and the camera on it.
+// All settings of the virtual sky, the mount under it and the camera on it.
 #pragma once
 
 #include <cstdint>
@@ -14,24 +14,24 @@ enum class Picture { Sky, Black, Saturated };
 /// Dates are seconds since 1970-01-01T00:00:00 UTC, without leap seconds.
 /// The file's keys, ranges and meanings are in docs/virtual-camera.md.
 struct SkyState {
-    double latitude = 40.0;   ///< degrees, north positive; below 0 the south pole is looked at
+    double latitude = 40.0; ///< degrees, north positive; below 0 the camera looks at the south pole
     double longitude = 116.0; ///< degrees, east positive
 
     std::optional<double> date; ///< absent = now
-    bool running = true;        ///< a given date goes on from when it was first read
+    bool running = true;        ///< the date advances from when it was first read
 
     double boltAltitude = 0.6; ///< degrees, the axis above the pole
     double boltAzimuth = -1.0; ///< degrees about the vertical, the axis east of the pole
     double raAngle = 0.0;      ///< degrees, positive as the mount tracks (westwards)
     bool tracking = false;
-    std::optional<double> trackingSince; ///< where the tracked angle is 0
+    std::optional<double> trackingSince; ///< the time when the tracked angle is 0
 
     double axisX = 40.0;  ///< pixels right of the picture's centre
     double axisY = -30.0; ///< pixels below the picture's centre
     double roll = 0.0;    ///< degrees, the picture's turn about the axis point, clockwise
     unsigned channels = 1;
-    bool unthrottled = false; ///< a new frame at every call
-    bool label = true;        ///< "virtual sky" in every picture
+    bool unthrottled = false; ///< a new frame on every call
+    bool label = true;        ///< draws "virtual sky" into every picture
 
     std::uint32_t seed = 1;
     bool noise = true;
@@ -39,9 +39,9 @@ struct SkyState {
     double fwhm = 2.5;   ///< pixels, the lens alone
     double seeing = 3.0; ///< arcseconds, full width at half maximum
 
-    double skyMagnitude = 19.5; ///< V magnitudes a square arcsecond
-    double clouds = 0.0;        ///< part of all light that is held back
-    double moon = 0.0;          ///< glow, 0 none to 1 full
+    double skyMagnitude = 19.5; ///< V magnitudes per square arcsecond
+    double clouds = 0.0;        ///< fraction of all light that is blocked
+    double moon = 0.0;          ///< brightness of its glow, 0 none to 1 full
     bool refraction = false;
     double pressure = 1010.0;  ///< hectopascals
     double temperature = 10.0; ///< degrees Celsius
@@ -50,7 +50,7 @@ struct SkyState {
     OperationSet fail;
     unsigned cameras = 1;
     bool unplugged = false;
-    double slow = 0.0; ///< seconds that every frame takes longer
+    double slow = 0.0; ///< seconds added to the time of every frame
     Picture picture = Picture::Sky;
 };
 } // namespace virtualsky

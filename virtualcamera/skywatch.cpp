@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Follows the sky file.
+// Follows changes of the sky file.
 #include "virtualcamera/skywatch.h"
 
 #include <fcntl.h>
@@ -18,8 +18,8 @@ namespace virtualsky
 {
 namespace
 {
-// File systems stamp changes with a clock of some milliseconds: a stamp younger than this may hide
-// a second change of the same length.
+// File timestamps have a resolution of some milliseconds: a timestamp younger than this may hide a
+// second change of the same length.
 constexpr double stampDoubtSeconds = 0.1;
 
 double secondsNow()
@@ -32,7 +32,7 @@ double secondsNow()
 class File
 {
 public:
-    // O_NONBLOCK: a pipe in the file's place must not hold the frame up.
+    // O_NONBLOCK: opening a pipe in the file's place must not block.
     explicit File(const std::string &path)
         : descriptor(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK))
     {

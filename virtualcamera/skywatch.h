@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The sky file as it changes: the last good state, and each fault reported once.
+// The sky file as it changes: the last valid state, and each fault reported once.
 #pragma once
 
 #include <sys/types.h>
@@ -12,16 +12,16 @@
 
 namespace virtualsky
 {
-/// Not for two threads at a time.
+/// Not thread-safe.
 class SkyWatch
 {
 public:
     using Report = std::function<void(const std::string &)>;
 
-    /// @param report gets one line for every new fault of the file
+    /// @param report is called with one line for each new fault of the file
     SkyWatch(std::string path, Report report);
 
-    /// Looks at the file (one stat where nothing changed). Absent file: the defaults.
+    /// Checks the file (one stat if nothing has changed). No file means the defaults.
     const SkyState &current();
 
 private:
@@ -38,8 +38,8 @@ private:
     std::string path;
     Report report;
     SkyState good;
-    std::string lastFault; // empty while the file is good
+    std::string lastFault; // empty while the file is valid
     Stamp stamp;
-    bool settled = false; // the file can no longer change without its stamp showing it
+    bool settled = false; // any further change of the file will change its timestamp
 };
 } // namespace virtualsky

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A line's text without the blanks at its ends.
+// A line's text without leading and trailing blanks.
 #pragma once
 
 #include <string_view>

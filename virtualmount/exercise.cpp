@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Draws exercises.
+// Draws random exercises.
 #include "virtualmount/exercise.h"
 
 #include "virtualcamera/mount.h"
@@ -13,7 +13,7 @@ namespace virtualmount
 namespace
 {
 constexpr int mostDraws = 100;
-constexpr double edge = 40.0; // pixels that a template star keeps from the picture's edges
+constexpr double edge = 40.0; // minimum distance of a template star from the edges, pixels
 
 double poleErrorDegrees(const SkyState &state)
 {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The faults of a sky file: the camera's reader, which knows no toolkit, tells them in English.
+// The faults of a sky file. The camera's parser does not use Qt and reports them in English.
 #include "virtualmount/faulttexts.h"
 
 #include "virtualcamera/skyfile.h"
@@ -35,7 +35,8 @@ QString translated(const char *source)
     return QCoreApplication::translate("SkyFault", source);
 }
 
-/// The text of a pattern, whose placeholders stand for what is found in their place.
+/// Translates a fault that matches a known pattern; the parts at its placeholders are kept as they
+/// are.
 QString inLanguage(const QString &fault)
 {
     static const QRegularExpression placeholder(QStringLiteral("%[12]"));
@@ -61,7 +62,7 @@ QString inLanguage(const QString &fault)
 
 QString faultText(const virtualsky::SkyFileError &error)
 {
-    // "line 3: clouds: must be a number", without the line and the key where there is none.
+    // "line 3: clouds: must be a number"; line and key are absent for some faults.
     QString fault = QString::fromUtf8(error.what());
     if (error.line() > 0)
         fault.remove(0, QStringLiteral("line %1: ").arg(error.line()).size());

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How does the window say in its language what is wrong with the sky file?
+// How does the window report in its language what is wrong with the sky file?
 #pragma once
 
 #include <QString>
@@ -11,7 +11,7 @@ class SkyFileError;
 
 namespace virtualmount
 {
-/// The error's own text, in the language in force as far as it is one of the known texts. Keys and
-/// sections stay as the file spells them.
+/// The error's text in the current language if the text is a known one; otherwise unchanged. Keys
+/// and sections are never translated.
 QString faultText(const virtualsky::SkyFileError &error);
 } // namespace virtualmount

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Panels, and fields that are set by the program.
+// Panels, and fields that the program sets.
 #include "virtualmount/fields.h"
 
 #include <QAbstractButton>

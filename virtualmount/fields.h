@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How do the window's fields show a value without taking it for something the user did?
+// How do the window's fields show a value without treating it as user input?
 #pragma once
 
 #include <QString>
@@ -15,18 +15,18 @@ class QWidget;
 
 namespace virtualmount
 {
-/// A panel's grid. The style sheet puts the title inside the frame: room for it is left on top.
+/// A panel's grid, with space at the top for the title: the style sheet puts it inside the frame.
 QGridLayout &gridIn(QGroupBox &panel);
 
-/// Names a widget for tests (object name), for screen readers, and for the mouse (tool tip).
+/// Sets a widget's object name (for tests), accessible name (for screen readers) and tool tip.
 void nameWidget(QWidget &widget, const QString &objectName, const QString &accessibleName,
                 const QString &tip = QString());
 
-// Each shows a value and emits nothing. What is being typed stays unless the value is a new one.
+// Each shows a value and emits no signal. Text being typed is replaced only by a new value.
 void showIn(QAbstractButton &button, bool checked);
 void showIn(QDoubleSpinBox &box, double value);
-void showIn(QSlider &slider, double value); ///< the nearest place on the slider
+void showIn(QSlider &slider, double value); ///< the nearest slider position
 void showIn(QComboBox &box, int index);
-/// @param utcSeconds since 1970; a field with the keyboard is left alone
+/// @param utcSeconds since 1970; a field with keyboard focus stays unchanged
 void showIn(QDateTimeEdit &edit, double utcSeconds);
 } // namespace virtualmount

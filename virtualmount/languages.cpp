@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The table of the ten languages, and the catalogue in force.
+// The table of the ten languages, and the active catalogue.
 #include "virtualmount/languages.h"
 
 #include <QCoreApplication>
@@ -7,7 +7,7 @@
 #include <QTranslator>
 #include <algorithm>
 
-// Q_INIT_RESOURCE must stand in the global namespace.
+// Q_INIT_RESOURCE must be used in the global namespace.
 static void initialiseCatalogues()
 {
     Q_INIT_RESOURCE(mountlanguages);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Which languages does the virtual mount speak, and which one is it asked for?
+// Which languages does the virtual mount support, and which one is requested?
 #pragma once
 
 #include <QString>
@@ -10,14 +10,14 @@ namespace virtualmount
 {
 struct Language {
     const char *code;      ///< as on the command line
-    const char *locale;    ///< as QLocale takes it
+    const char *locale;    ///< as QLocale expects it
     const char *catalogue; ///< resource path of the compiled catalogue; empty for the source texts
 };
 
 /// All ten; English, the source language, comes first.
 extern const std::array<Language, 10> languages;
 
-/// The language of a code in capital or small letters; nullptr for every other text.
+/// The language of a code, case-insensitive; nullptr for any other text.
 const Language *languageOf(const QString &code);
 /// The first of a user's languages, such as "de-AT", that there is; English if there is none.
 const Language &bestLanguage(const QStringList &userLanguages);

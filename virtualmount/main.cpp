@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The virtual mount's entry point: the look, the sky file, the window, the event loop.
+// The virtual mount's entry point: style, sky file, window, event loop.
 #include "app/startup.h"
 #include "app/terminationsignals.h"
 #include "virtualcamera/skyfile.h"
@@ -69,7 +69,7 @@ int main(int argc, char *argv[])
         return 0;
     }
     MountWindow window(skyFile);
-    const TerminationSignals closing(window); // clouds that pass are put back
+    const TerminationSignals closing(window); // passing clouds are reset
     window.setAttribute(Qt::WA_ShowWithoutActivating, behind);
     window.show();
     if (behind)

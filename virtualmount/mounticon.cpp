@@ -2,7 +2,7 @@
 // The icon, from the bundled pictures.
 #include "virtualmount/mounticon.h"
 
-// Q_INIT_RESOURCE must stand in the global namespace.
+// Q_INIT_RESOURCE must be used in the global namespace.
 static void initialiseIcon()
 {
     Q_INIT_RESOURCE(mounticon);

@@ -6,6 +6,6 @@
 
 namespace virtualmount
 {
-/// The menu entry's, compiled in: it is there before anything is installed.
+/// The menu entry's icon, compiled in so that it is available before installation.
 QIcon mountIcon();
 } // namespace virtualmount

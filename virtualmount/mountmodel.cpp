@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The hand's actions, each on a state given to it.
+// The user's actions, each applied to a given state.
 #include "virtualmount/mountmodel.h"
 
 #include "virtualcamera/mount.h"
@@ -24,7 +24,7 @@ double grained(double degrees)
     return std::round(degrees * grains) / grains;
 }
 
-// Puts the tracked turn into the axis' own angle and lets tracking begin anew.
+// Adds the tracked turn to the axis' own angle and restarts tracking.
 void settleTracking(SkyState &state, const Moment &moment)
 {
     if (state.tracking)
@@ -32,8 +32,8 @@ void settleTracking(SkyState &state, const Moment &moment)
     state.trackingSince.reset();
 }
 
-// With the computer's time the beginning is known for good, whoever looks at the file and when.
-// A date of its own is counted from when the camera reads it: the beginning is left to it.
+// With the computer's time the start of tracking is fixed, whoever reads the file and when. A fixed
+// date counts from when the camera reads it, so the camera determines the start.
 void beginTracking(SkyState &state, double utcSeconds)
 {
     if (state.tracking && !state.date)
@@ -114,7 +114,7 @@ void setTime(SkyState &state, const Moment &moment, double systemSeconds, TimeMo
 
 double passingClouds(double seconds)
 {
-    // Two periods that meet again after five minutes; what lies below the threshold is clear sky.
+    // Two periods that coincide every five minutes; values below the threshold mean clear sky.
     const double bank = std::sin(2.0 * pi * seconds / 60.0);
     const double wisp = std::sin(2.0 * pi * seconds / 25.0);
     const double thickness = 0.7 * bank + 0.3 * wisp;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The virtual mount's window: which knobs turn the axis and the bolts, and what tells how it
-// stands?
+// The virtual mount's window: which controls turn the axis and the bolts, and what shows their
+// positions?
 #include "virtualmount/fields.h"
 #include "virtualmount/mounttexts.h"
 #include "virtualmount/mountwindow.h"
@@ -17,7 +17,7 @@
 
 using namespace virtualmount;
 
-/// A push turns a bolt.
+/// A button that turns a bolt.
 struct MountWindow::BoltButton {
     Bolt bolt;
     double degrees;
@@ -62,7 +62,7 @@ QWidget *MountWindow::axisPanel()
                    tr("Turn the RA axis by %1 degrees").arg(turn),
                    key.toString(QKeySequence::NativeText));
         connect(button, &QPushButton::clicked, this, [this, turn] { turnAxisBy(turn); });
-        // A key that is held turns once: the turns add up, and each of them takes its time.
+        // A held key turns only once: turns add up, and each takes time.
         addShortcut(key, [this, turn] { turnAxisBy(turn); }).setAutoRepeat(false);
         grid.addWidget(button, int(i) / 3, 2 + int(i) % 3);
     }
@@ -126,7 +126,7 @@ QWidget *MountWindow::boltPanel()
         auto *const label = new QLabel(panel);
         nameWidget(*label, QLatin1String(name), what, what);
         label->setAlignment(Qt::AlignCenter);
-        label->ensurePolished(); // the style sheet's font
+        label->ensurePolished(); // applies the style sheet's font
         int widest = 76;
         for (const double turns : {-88.88, 88.88}) {
             label->setText(text(turns * degreesPerTurn));
@@ -152,7 +152,7 @@ void MountWindow::addStatusLine()
                tr("Write a new sky file over the one with the fault"));
     connect(replaceButton, &QPushButton::clicked, this, &MountWindow::replaceFile);
     statusBar()->setSizeGripEnabled(false);
-    statusBar()->setFixedHeight(44); // two lines; the size hint of text that wraps is a guess
+    statusBar()->setFixedHeight(44); // two lines; the size hint of wrapped text is only an estimate
     statusBar()->setContentsMargins(0, 0, 6, 0);
     statusBar()->addWidget(status, 1);
     statusBar()->addPermanentWidget(replaceButton);

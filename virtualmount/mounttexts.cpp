@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The texts of the virtual mount's window that are made of numbers.
+// The texts of the virtual mount's window that contain numbers.
 #include "virtualmount/mounttexts.h"
 
 #include "virtualmount/mountmodel.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The virtual mount's window at work: from a hand's action to the file, and from the file back.
+// The virtual mount's window at run time: user actions go to the file, file changes to the window.
 #include "virtualmount/mountwindow.h"
 
 #include "virtualmount/exercise.h"
@@ -30,10 +30,10 @@ using namespace virtualmount;
 
 namespace
 {
-constexpr int tickMilliseconds = 66;  // fifteen writes a second while the axis turns
-constexpr int pollMilliseconds = 500; // for what the watcher misses, and for the clock
+constexpr int tickMilliseconds = 66;  // 15 writes per second while the axis turns
+constexpr int pollMilliseconds = 500; // for changes that the watcher misses, and for the clock
 
-/// Whether it is a field itself, not the list that a combo box drops down.
+/// Whether it is a field itself, not the drop-down list of a combo box.
 bool isField(const QObject &watched)
 {
     return qobject_cast<const QAbstractSlider *>(&watched) ||
@@ -82,7 +82,7 @@ MountWindow::MountWindow(const QString &skyFile, QWidget *parent)
 
 void MountWindow::watch()
 {
-    // A file that was renamed over is another file: its watch ended with the old one.
+    // A file that was replaced by renaming is a new file: the watch ended with the old one.
     const QFileInfo info(document.filePath());
     for (const QString &path : {info.absoluteFilePath(), info.absolutePath()})
         if (QFileInfo::exists(path) && !watcher.files().contains(path) &&
@@ -278,10 +278,10 @@ void MountWindow::focusBolts()
     findChild<QPushButton *>(QStringLiteral("altitudeUp"))->setFocus(Qt::ShortcutFocusReason);
 }
 
-/// A field with a use of its own for the arrow keys and the wheel.
+/// A field that uses the arrow keys and the wheel itself.
 void MountWindow::watchField(QWidget &field)
 {
-    field.setFocusPolicy(Qt::StrongFocus); // the wheel fetches no focus
+    field.setFocusPolicy(Qt::StrongFocus); // the wheel does not set the focus
     field.installEventFilter(this);
     field.installEventFilter(&wheelGuard);
     if (auto *const box = qobject_cast<QComboBox *>(&field))
@@ -290,7 +290,8 @@ void MountWindow::watchField(QWidget &field)
 
 bool MountWindow::eventFilter(QObject *watched, QEvent *event)
 {
-    // What was done with the mouse is done: the keys are the bolts' again. Spin boxes are typed in.
+    // After a mouse action the arrow keys turn the bolts again. Spin boxes keep the focus for
+    // typing.
     if (event->type() == QEvent::MouseButtonRelease &&
         (qobject_cast<QAbstractSlider *>(watched) || !isField(*watched)))
         QTimer::singleShot(0, this, &MountWindow::focusBolts);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The window with the virtual mount's knobs: what does a hand turn, and when is it written?
+// The window with the virtual mount's controls: what do they change, and when is it written?
 #pragma once
 
 #include "virtualmount/mountmodel.h"
@@ -24,7 +24,7 @@ class QPushButton;
 class QShortcut;
 class QSlider;
 
-/// Edits one sky file, live, and keeps nothing else. Shows what the file says, whoever wrote it.
+/// Edits one sky file live and stores nothing else. Shows the file's contents, whoever wrote them.
 class MountWindow : public QMainWindow
 {
     Q_OBJECT
@@ -33,18 +33,18 @@ public:
     explicit MountWindow(const QString &skyFile, QWidget *parent = nullptr);
 
 protected:
-    /// A sky with passing clouds is left as it was before them.
+    /// Resets passing clouds to the value before them.
     void closeEvent(QCloseEvent *event) override;
-    /// Keeps the arrow keys for the fields that need them themselves, and gives them back to the
-    /// bolts after the mouse.
+    /// Passes the arrow keys to fields that need them, and returns them to the bolts after a mouse
+    /// action.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     using SkyState = virtualsky::SkyState;
     using Bolt = double SkyState::*;
 
-    // The panels, in the order in which they stand and the Tab key goes: those of the mount are in
-    // mountpanels.cpp, those of what is round it in skypanels.cpp, the last in truthpanel.cpp.
+    // The panels in layout and tab order: those of the mount are in mountpanels.cpp, those of its
+    // surroundings in skypanels.cpp, the last one in truthpanel.cpp.
     QWidget *axisPanel();
     QWidget *boltPanel();
     QWidget *sitePanel();
@@ -84,7 +84,7 @@ private:
     static double systemSeconds(); ///< the computer's UTC since 1970
     void reload();                 ///< at the file, and show what has changed
     void watch();
-    void tick(); ///< of the moving axis and the passing clouds
+    void tick(); ///< of the axis in motion and the passing clouds
     void keepTicking();
     void stopMotion();
     void refresh();
@@ -99,13 +99,13 @@ private:
     virtualsky::SkyClock clock;
     virtualmount::AxisMotion motion;
     SkyState shown;          ///< what the fields show
-    double skySeconds = 0.0; ///< the sky's UTC of what they show
+    double skySeconds = 0.0; ///< UTC of the sky that the fields show
     std::mt19937 random;     ///< draws exercises
     bool truthShown = false;
     bool dialLeads = false;           ///< the dial was turned and the axis follows it
-    double altitudeBase, azimuthBase; ///< the bolts where the count of turns is 0, degrees
-    bool beganAligned = false;        ///< with the bolts there
-    double cloudsBefore = 0.0;        ///< what goes on once no more clouds pass
+    double altitudeBase, azimuthBase; ///< bolt positions where the turn count is 0, degrees
+    bool beganAligned = false;        ///< the mount was aligned at those positions
+    double cloudsBefore = 0.0;        ///< value that is restored when the clouds stop
 
     WheelGuard wheelGuard;
     QFileSystemWatcher watcher;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A lock and a local socket, named for the user and the sky file; each start asks there first.
+// A lock and a local socket, named after the user and the sky file; each start connects there
+// first.
 #include "virtualmount/oneinstance.h"
 
 #include <QCryptographicHash>
@@ -13,12 +14,12 @@
 
 namespace
 {
-constexpr int patience = 5000; // milliseconds, for an answer of one that is just starting
+constexpr int patience = 5000; // milliseconds to wait for an answer from a process that is starting
 constexpr char raiseRequest[] = "raise\n";
 constexpr char findRequest[] = "find\n";
 constexpr char answer[] = "here\n";
 
-/// The file need not be there, but its folder usually is: by whichever links it is reached.
+/// The file may be missing, but its folder usually exists; links to it are resolved.
 QString placeOf(const QString &skyFile)
 {
     const QFileInfo file(skyFile);
@@ -93,9 +94,9 @@ void OneInstance::announce(QWidget &window)
             QObject::connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
             QObject::connect(socket, &QLocalSocket::readyRead, &window,
                              [socket, &window] { answerTo(*socket, window); });
-            answerTo(*socket, window); // what came with the connection
+            answerTo(*socket, window); // requests that arrived with the connection
         }
     });
-    QLocalServer::removeServer(name); // what a process that was killed has left
+    QLocalServer::removeServer(name); // left over from a process that was killed
     server.listen(name);
 }

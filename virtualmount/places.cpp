@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Shares the screen between the program and the virtual mount.
+// Divides the screen between the program and the virtual mount.
 #include "virtualmount/places.h"
 
 #include <QDeadlineTimer>
@@ -10,9 +10,9 @@
 
 namespace
 {
-/// Below this width pages and picture of the program are too narrow to work with.
+/// Below this width, the program's pages and picture are too narrow to use.
 constexpr int programNarrowest = 800;
-/// More than the picture at full zoom and the panel need is not taken.
+/// Largest useful size: more than the picture at full zoom and the panel need is not used.
 constexpr int programWidest = 1620, programHighest = 1040;
 constexpr int gap = 2;
 

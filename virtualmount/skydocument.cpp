@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Reads, changes and writes the sky file so that nobody's change is lost.
+// Reads, changes and writes the sky file without losing anyone's changes.
 #include "virtualmount/skydocument.h"
 
 #include "virtualcamera/skyfile.h"
@@ -23,7 +23,7 @@ namespace
 using virtualsky::SkyKey;
 using virtualsky::SkyState;
 
-constexpr int lockMilliseconds = 500; // a write takes a few
+constexpr int lockMilliseconds = 500; // a write takes a few milliseconds
 
 QString translated(const char *source)
 {
@@ -41,12 +41,12 @@ FileText readFile(const QString &path)
     const QFileInfo info(path);
     if (!info.exists())
         return {};
-    // A pipe would hold the window up.
+    // Opening a pipe would block the window.
     if (!info.isFile())
         return {true, {}, translated(QT_TRANSLATE_NOOP("SkyDocument", "not an ordinary file"))};
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        // Taken away or replaced in between: the next look tells.
+        // Removed or replaced in between: the next reload reports it.
         return QFileInfo::exists(path) ? FileText{true, {}, file.errorString()} : FileText{};
     }
     const QByteArray bytes = file.read(qint64(virtualsky::largestSkyFile) + 1);
@@ -55,14 +55,14 @@ FileText readFile(const QString &path)
     return {true, bytes.toStdString(), {}};
 }
 
-/// Held from reading to writing. Where no lock file can be made, nothing can be written either,
-/// and the writing tells why.
+/// Held from reading to writing. If no lock file can be created, the file cannot be written either,
+/// and the write reports the reason.
 class Lock
 {
 public:
     explicit Lock(const QString &path) : file(path + QStringLiteral(".lock"))
     {
-        // QLockFile's own waiting is too coarse for a hand that turns a knob.
+        // QLockFile polls too slowly for a knob that is being turned.
         QElapsedTimer waited;
         waited.start();
         while (!file.tryLock(0)) {
@@ -109,7 +109,7 @@ bool SkyDocument::refresh()
     return !existed || text != textBefore || readFault != faultBefore;
 }
 
-/// A state that others have written.
+/// Adopts a state written by others.
 void SkyDocument::take(const SkyState &state)
 {
     for (const SkyKey &key : virtualsky::skyKeys()) {
@@ -138,7 +138,7 @@ bool SkyDocument::write(const std::string &newText)
     return true;
 }
 
-/// Passes on whether the lock is ours; where it is not, says so in lastWriteFault.
+/// Returns whether the lock is held; if not, sets lastWriteFault.
 bool SkyDocument::mayWrite(bool locked)
 {
     lastWriteFault.clear();

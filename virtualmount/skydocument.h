@@ -9,9 +9,9 @@
 
 namespace virtualmount
 {
-/// The file as it was last read. It is read again before every change, and only the keys that the
-/// change touches are written, under a lock that other windows of this program wait for. A file
-/// that can not be understood is left as it is. For one thread.
+/// The file as it was last read. It is read again before each change, and only the changed keys are
+/// written, under a lock that other windows of this program respect. A file that cannot be parsed
+/// stays unchanged. Not thread-safe.
 class SkyDocument
 {
 public:
@@ -20,22 +20,22 @@ public:
     explicit SkyDocument(QString filePath);
 
     const QString &filePath() const { return path; }
-    /// The last good state; the defaults where there is no file or there was none that is good.
+    /// The last valid state; the defaults if there is no file or no valid state so far.
     const virtualsky::SkyState &state() const { return good; }
-    /// The state as it was found at first, with every change since then that others have made:
-    /// what this object has written is not in it.
+    /// The initial state plus all later changes by others; changes written by this object are
+    /// excluded.
     const virtualsky::SkyState &found() const { return others; }
-    /// What is wrong with the file, one line; empty = nothing.
+    /// What is wrong with the file, one line; empty = no fault.
     const QString &fault() const { return readFault; }
-    /// Why the last change could not be written; empty = it was, or there was nothing to write.
+    /// Why the last change could not be written; empty = written, or nothing to write.
     const QString &writeFault() const { return lastWriteFault; }
 
-    /// Reads the file again. True if the state or the fault is another one than before.
+    /// Reads the file again. True if the state or the fault has changed.
     bool refresh();
-    /// Reads, changes and writes. False = the file has a fault, or could not be written: then it
-    /// stays as it is.
+    /// Reads, changes and writes. False if the file has a fault or could not be written; it then
+    /// stays unchanged.
     bool change(const Change &apply);
-    /// Writes the last good state over a file with a fault; nothing where there is none.
+    /// Overwrites a file that has a fault with the last valid state; otherwise does nothing.
     bool replace();
 
 private:

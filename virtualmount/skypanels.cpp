@@ -18,17 +18,17 @@
 
 using namespace virtualmount;
 
-/// A slider over a number of the state.
+/// A slider for a number of the state.
 struct MountWindow::Slider {
     double SkyState::*member;
-    double stepsPerUnit; ///< of the number
+    double stepsPerUnit; ///< steps per unit of the number
     int most;            ///< steps
     const char *name, *label;
-    QString shown; ///< with %1 for the steps
+    QString shown; ///< display text, with %1 for the steps
     const char *what;
 };
 
-/// A coordinate of the site with its side: north and east are positive.
+/// A coordinate of the site with its direction: north and east are positive.
 struct MountWindow::Place {
     double SkyState::*member;
     double most; ///< degrees
@@ -92,12 +92,12 @@ QWidget *MountWindow::timeFields()
     date->setDateTimeRange(
         QDateTime(QDate(virtualsky::firstYear, 1, 1), QTime(0, 0), Qt::UTC),
         QDateTime(QDate(virtualsky::lastYear, 12, 31), QTime(23, 59, 59), Qt::UTC));
-    date->setMinimumWidth(190); // the style sheet's buttons are not in the size hint
+    date->setMinimumWidth(190); // the size hint excludes the style sheet's buttons
     date->setDisplayFormat(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
     date->setKeyboardTracking(false);
     watchField(*date);
     connect(date, &QDateTimeEdit::dateTimeChanged, this, &MountWindow::setDate);
-    // What is being typed stands until it is done.
+    // Text being typed stays until editing is finished.
     auto *const text = date->findChild<QLineEdit *>();
     connect(date, &QDateTimeEdit::editingFinished, text, [text] { text->setModified(false); });
     return date;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Changes single keys in the text of a sky file.
+// Changes individual keys in the text of a sky file.
 #include "virtualmount/skytext.h"
 
 #include "virtualcamera/skykeys.h"
@@ -52,7 +52,7 @@ public:
 
 private:
     struct Place {
-        std::size_t line; // of the key, or where to put it in
+        std::size_t line; // of the key, or where to insert it
         bool isThere = false;
         bool hasSection = false;
     };

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How is a sky file changed without losing what else stands in it?
+// How is a sky file changed without losing its other contents?
 #pragma once
 
 #include "virtualcamera/skystate.h"
@@ -9,10 +9,10 @@
 
 namespace virtualmount
 {
-/// The text with the keys given another value in which `after` differs from `before`. Comments, the
-/// order of lines and all other keys stay. A key that is not there yet is added at the end of its
-/// section, a section at the end of the text.
-/// @param text one that `virtualsky::parse` takes, with `before` as its result
+/// The text with new values for the keys in which `after` differs from `before`. Comments, the
+/// order of lines and all other keys are kept. A missing key is added at the end of its section, a
+/// missing section at the end of the text.
+/// @param text one that `virtualsky::parse` accepts, with `before` as its result
 std::string withChanges(std::string_view text, const virtualsky::SkyState &before,
                         const virtualsky::SkyState &after);
 } // namespace virtualmount

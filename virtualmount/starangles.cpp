@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Holds the program's own triangle against the virtual sky.
+// Compares the program's built-in triangle with the virtual sky.
 #include "virtualmount/starangles.h"
 
 #include "geometry/polecomputation.h"
@@ -20,7 +20,7 @@ struct PlanePoint {
     double x, y;
 };
 
-/// In the plane that touches the sky at the pole; arcseconds, the pole at (0, 0).
+/// In the tangent plane at the pole; arcseconds, the pole at (0, 0).
 PlanePoint starInPlane(const SkyState &state, virtualsky::TemplateStar which, double utcSeconds)
 {
     const virtualsky::CatalogueStar &star =
@@ -37,7 +37,7 @@ std::optional<double> anglesError(const StarCatalogue &angles, const SkyState &s
 {
     const PlanePoint a = starInPlane(state, virtualsky::TemplateStar::A, utcSeconds);
     const PlanePoint b = starInPlane(state, virtualsky::TemplateStar::B, utcSeconds);
-    // Turned so that A is the origin and B lies on the x axis: stars on one column give no pole.
+    // Rotated so that A is the origin and B is on the x axis: stars in one column give no pole.
     const double side = std::hypot(b.x - a.x, b.y - a.y);
     const PlanePoint along = {(b.x - a.x) / side, (b.y - a.y) / side};
     const PlanePoint truePole = {-(a.x * along.x + a.y * along.y),

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// By how much do the star angles that are built into the program miss the pole?
+// How far from the pole do the star angles built into the program lead?
 #pragma once
 
 #include "virtualcamera/skystate.h"
@@ -11,12 +11,11 @@ struct StarCatalogue;
 
 namespace virtualmount
 {
-/// The angle between the pole that the triangle of the stars A and B and the pole gives with these
-/// angles, and the true pole of date; arcseconds. The stars stand where they appear from the site,
-/// without refraction, and the triangle lies in the plane that touches the sky at the true pole.
-/// Nothing for angles of which no triangle can be made.
+/// Angle between the true pole of date and the pole that these angles give from stars A and B;
+/// arcseconds. The stars are at their apparent positions for the site, without refraction, and the
+/// triangle is in the tangent plane at the true pole. Empty for angles that form no triangle.
 /// \param angles of the site's hemisphere
-/// \param utcSeconds UTC since 1970 of the sky
+/// \param utcSeconds UTC of the sky, seconds since 1970
 std::optional<double> anglesError(const StarCatalogue &angles, const virtualsky::SkyState &state,
                                   double utcSeconds);
 
@@ -24,8 +23,8 @@ struct AnglesError {
     int year;          ///< of the angles
     double arcseconds; ///< as of anglesError
 };
-/// The error of the built-in angles that the program takes on a day.
-/// \param today by the computer's clock: the program does not know the date of the virtual sky
+/// The error of the built-in angles that the program uses on a given day.
+/// \param today by the computer's clock: the program does not know the virtual sky's date
 std::optional<AnglesError> builtInAnglesError(const QDate &today, const virtualsky::SkyState &state,
                                               double utcSeconds);
 } // namespace virtualmount

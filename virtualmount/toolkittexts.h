@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Which of the toolkit's own texts does the user of the virtual mount meet? They are translated
-// with ours, since the toolkit's catalogues need not be on the machine.
+// Which of the toolkit's own texts can the user of the virtual mount see? They are translated here
+// because the toolkit's catalogues may not be installed.
 #pragma once
 
 #include <QtGlobal>
@@ -13,7 +13,7 @@ struct ToolkitText {
 };
 
 inline constexpr ToolkitText toolkitTexts[] = {
-    // The keys, as tool tips name them.
+    // Keys as named in tool tips.
     {"QShortcut", QT_TRANSLATE_NOOP("QShortcut", "Ctrl")},
     {"QShortcut", QT_TRANSLATE_NOOP("QShortcut", "Shift")},
     {"QShortcut", QT_TRANSLATE_NOOP("QShortcut", "Up")},
@@ -31,7 +31,7 @@ inline constexpr ToolkitText toolkitTexts[] = {
     {"QAbstractSpinBox", QT_TRANSLATE_NOOP("QAbstractSpinBox", "&Select All")},
     {"QAbstractSpinBox", QT_TRANSLATE_NOOP("QAbstractSpinBox", "&Step up")},
     {"QAbstractSpinBox", QT_TRANSLATE_NOOP("QAbstractSpinBox", "Step &down")},
-    // Why the sky file can not be read or written.
+    // Why the sky file cannot be read or written.
     {"QIODevice", QT_TRANSLATE_NOOP("QIODevice", "Permission denied")},
     {"QIODevice", QT_TRANSLATE_NOOP("QIODevice", "Too many open files")},
     {"QIODevice", QT_TRANSLATE_NOOP("QIODevice", "No such file or directory")},

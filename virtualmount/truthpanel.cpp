@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The virtual mount's window: how does an exercise begin, and what is told of the error that is
-// left?
+// The virtual mount's window: how does an exercise start, and what is shown of the remaining error?
 #include "virtualmount/exercise.h"
 #include "virtualmount/fields.h"
 #include "virtualmount/mounttexts.h"
@@ -45,7 +44,7 @@ QWidget *MountWindow::truthPanel()
     const auto line = [&](const char *name, const QString &says, const QString &longest) {
         auto *const label = new QLabel(panel);
         nameWidget(*label, QLatin1String(name), says);
-        label->ensurePolished(); // the style sheet's font, and those that stand in for it
+        label->ensurePolished(); // applies the style sheet's font and its fallbacks
         label->setText(longest);
         label->setMinimumHeight(label->sizeHint().height());
         return label;
@@ -72,7 +71,7 @@ void MountWindow::setTruthShown(bool on)
     refreshTexts();
 }
 
-/// The turns are counted from here: otherwise they would tell the exercise.
+/// Turns are counted from here: otherwise they would reveal the exercise.
 void MountWindow::newExercise()
 {
     edit([this](SkyState &state) {
@@ -94,7 +93,7 @@ void MountWindow::beginCounts()
 
 QString MountWindow::truthText() const
 {
-    // The error lies in the bolts and the site alone: any time will do.
+    // The error depends only on the bolts and the site, not on the time.
     const TruthTexts truth = truthTexts(virtualsky::truth(shown, skySeconds));
     return tr("The RA axis misses the pole by %1:\n%2 and %3.")
         .arg(truth.total, truth.altitude, truth.azimuth);

@@ -1,6 +1,6 @@
 #!/bin/sh
 # SPDX-License-Identifier: MIT
-# Renders the two programs' icons to the sizes of the hicolor theme, into the folders beside this file.
+# Renders the icons of both programs in the sizes of the hicolor theme, into folders beside this file.
 # Needs rsvg-convert (librsvg2-bin).
 set -eu
 

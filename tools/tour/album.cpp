@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Saves the pictures of a tour.
+// Saves a tour's pictures.
 #include "tools/tour/album.h"
 
 #include <QPixmap>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Where do the pictures of a tour go?
+// Where are a tour's pictures saved?
 #pragma once
 
 #include <QDir>
@@ -8,15 +8,15 @@ class QPixmap;
 class QRect;
 class QWidget;
 
-/// A folder of pictures, made where it is missing.
+/// A folder of pictures; created if it is missing.
 class Album
 {
 public:
     explicit Album(const QString &path);
 
-    /// Saves what a widget shows as `name`.png; throws std::runtime_error where that fails.
+    /// Saves a grab of a widget as `name`.png; throws std::runtime_error if that fails.
     void add(QWidget &widget, const QString &name) const;
-    /// Saves a part of what a widget shows as the next of 000.png, 001.png, ...
+    /// Saves a grab of a part of a widget as the next of 000.png, 001.png, ...
     void addFrame(QWidget &widget, const QRect &part);
 
 private:

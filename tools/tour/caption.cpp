@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The caption of the tour.
+// The tour's caption.
 #include "tools/tour/caption.h"
 
 Caption::Caption(QWidget &window, const QWidget &over) : QLabel(&window), part(over)

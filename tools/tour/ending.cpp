@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Waits for a key.
+// Waits for a key press.
 #include "tools/tour/ending.h"
 
 #include <QApplication>
@@ -15,7 +15,7 @@ bool isModifier(int key)
            key == Qt::Key_Super_L || key == Qt::Key_Super_R;
 }
 
-/// Takes the keys of the whole application.
+/// Intercepts the keys of the application.
 class KeyTaker : public QObject
 {
 public:
@@ -30,7 +30,7 @@ protected:
         if (watched == &window && event->type() == QEvent::Close)
             loop.quit();
         if (event->type() == QEvent::ShortcutOverride) {
-            event->accept(); // no shortcut: the key itself comes next
+            event->accept(); // suppresses shortcuts: the key press itself follows
             return true;
         }
         if (event->type() != QEvent::KeyPress)

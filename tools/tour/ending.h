@@ -1,17 +1,16 @@
 // SPDX-License-Identifier: MIT
-// How long does the result of a tour stay?
+// How long does a tour's result stay visible?
 #pragma once
 
 class QString;
 class QWidget;
 
-/// Whether somebody is there who sees the result and can press a key.
-/// \param isFast without pauses for somebody who watches
-/// \param savesPictures for somebody who looks at them later
-/// \param platform Qt's name of what the windows are shown on
+/// Whether a user can see the result and press a key.
+/// \param isFast the tour runs without pauses for a viewer
+/// \param savesPictures the tour saves pictures for later
+/// \param platform Qt's platform name
 bool isWatched(bool isFast, bool savesPictures, const QString &platform);
 
-/// Returns once a key was pressed in any of the program's windows, or the window was closed. The
-/// key does nothing else; keys that only change others, as Shift does, and repeated ones do not
-/// count.
+/// Returns when a key was pressed in any of the program's windows, or the window was closed. The
+/// key press has no other effect. Modifiers, such as Shift, and auto-repeated keys do not count.
 void waitForKey(QWidget &window);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Opens and photographs menus and dialogs.
+// Opens menus and dialogs and saves their pictures.
 #include "tools/tour/exhibits.h"
 
 #include "tools/tour/album.h"

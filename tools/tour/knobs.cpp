@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Writes the sky file as a hand turns the mount's knobs.
+// Writes the sky file as if a user turned the mount's knobs.
 #include "tools/tour/knobs.h"
 
 #include "virtualcamera/skyfile.h"
@@ -11,7 +11,7 @@
 
 namespace
 {
-/// A star out of the picture is given a place far outside it.
+/// A star outside the picture gets a position far away from it.
 QPointF toPointF(const std::optional<virtualsky::Point> &point)
 {
     return point ? QPointF(point->x, point->y) : QPointF(-1e6, -1e6);
@@ -53,7 +53,8 @@ QPointF Knobs::starBWith(double altitude, double azimuth) const
 
 void Knobs::nudgeStarB(QPointF step)
 {
-    // How the star answers to each bolt, by a small turn of it; then two equations in two unknowns.
+    // The star's movement per degree of each bolt, from a small turn; then two equations in two
+    // unknowns.
     constexpr double turn = 0.01;
     const QPointF here = starB();
     const QPointF up = (starBWith(state.boltAltitude + turn, state.boltAzimuth) - here) / turn;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How does the hand on the virtual mount turn its knobs, and how far off is the mount in truth?
+// How does a simulated user turn the mount's knobs, and what is the mount's true error?
 #pragma once
 
 #include "virtualcamera/skystate.h"
@@ -8,24 +8,24 @@
 #include <QPointF>
 #include <string>
 
-/// The sky file of the virtual camera, held in memory and written whole at every change.
+/// The sky file of the virtual camera, kept in memory and rewritten completely on every change.
 class Knobs
 {
 public:
-    /// @param path the sky file; its folder is made where it is missing
+    /// @param path the sky file; its folder is created if it is missing
     Knobs(std::string path, const virtualsky::SkyState &initial);
 
     /// Turns the RA axis to an angle in degrees, positive as the mount tracks.
     void turnRaAxisTo(double degrees);
-    /// Turns the bolts to their readings in degrees: altitude, and azimuth about the vertical.
+    /// Turns the bolts to the given positions in degrees: altitude, and azimuth about the vertical.
     void turnBoltsTo(double altitude, double azimuth);
-    /// Turns the bolts so that the picture of star B moves by `step` frame pixels.
+    /// Turns the bolts so that star B moves by `step` in the picture, frame pixels.
     void nudgeStarB(QPointF step);
     /// Any other change: edit the state, then write it.
     virtualsky::SkyState &edit() { return state; }
     void write() const;
 
-    /// Places in the picture now, frame pixels.
+    /// Current positions in the picture, frame pixels.
     QPointF starA() const;
     QPointF starB() const;
     QPointF starD() const;

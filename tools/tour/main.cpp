@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Shows the whole alignment by itself in the real window, and prints the mount's true error before
-// and after.
+// Runs the complete alignment automatically in the real window, and prints the mount's true error
+// before and after.
 #include "app/startup.h"
 #include "camera/session.h"
 #include "core/settingsfile.h"
@@ -29,15 +29,15 @@
 
 namespace
 {
-/// The errors that the tour starts with, degrees.
+/// Initial errors of the bolts, degrees.
 constexpr double altitudeOff = 0.8;
 constexpr double azimuthOff = -0.9;
-/// After every action, for somebody who watches.
+/// Milliseconds after every action, for a viewer.
 constexpr int watchingPause = 1500;
 constexpr int watchedBoltParts = 8;
-/// What the rough turn of the bolts leaves for somebody to see of the fine one, frame pixels.
+/// Remaining error after the rough adjustment, so that a viewer sees the fine one; frame pixels.
 constexpr QPointF watchedRoughRest(-11, 9);
-/// A window narrower than this is better shown at half size.
+/// In a window narrower than this, the picture is shown at half size.
 constexpr int narrowWindow = 1200;
 
 virtualsky::SkyState startingSky(bool south, bool isUnthrottled, bool isQuiet)
@@ -46,16 +46,16 @@ virtualsky::SkyState startingSky(bool south, bool isUnthrottled, bool isQuiet)
     sky.boltAltitude = altitudeOff;
     sky.boltAzimuth = azimuthOff;
     sky.unthrottled = isUnthrottled;
-    sky.noise = !isQuiet; // pictures of a quiet sensor are small files
+    sky.noise = !isQuiet; // pictures without noise are small files
     return sky;
 }
 
-/// How far the animated fine adjustment starts from its aim, frame pixels: well inside the 20 by
-/// which the program follows the reference stars.
+/// Distance of the animated fine adjustment's start from its target, frame pixels: well within the
+/// 20 pixels in which the program tracks the reference stars.
 constexpr double animatedX = -11;
 constexpr double animatedY = 9;
 constexpr int animatedParts = 30;
-/// The part of the window that is animated, round the axis mark.
+/// The animated part of the window, around the axis mark.
 constexpr QSize animatedSize(320, 240);
 
 QRect roundAxis(const MainWindow &window, const Knobs &knobs, int zoomPercent)
@@ -66,7 +66,7 @@ QRect roundAxis(const MainWindow &window, const Knobs &knobs, int zoomPercent)
     return part;
 }
 
-/// Connects and photographs what there is to see without aligning.
+/// Connects and takes pictures of everything that needs no alignment.
 void showViews(MainWindow &window, const Session &session, Knobs &knobs, Person::Options how,
                const Album &album)
 {
@@ -95,7 +95,7 @@ void alignRoughly(Person &person)
     person.placePoleStar();
 }
 
-/// Aligns for somebody who watches: the last steps from near, and the result stays until a key.
+/// Aligns for a viewer: enlarges the last steps, and keeps the result until a key is pressed.
 void alignWatched(Person &person, Knobs &knobs, MainWindow &window, MountWindow &mount)
 {
     const double before = knobs.poleError() / 60;
@@ -116,7 +116,7 @@ void alignWatched(Person &person, Knobs &knobs, MainWindow &window, MountWindow 
     waitForKey(window);
 }
 
-/// Aligns, with pictures of the steps and of the fine adjustment where they are wanted.
+/// Aligns; takes pictures of the steps and of the fine adjustment if requested.
 void alignInView(Person &person, Knobs &knobs, Album *animation, MainWindow &window,
                  int zoomPercent)
 {
@@ -139,8 +139,8 @@ std::unique_ptr<Album> albumFor(const QCommandLineParser &options, const QString
     return options.isSet(option) ? std::make_unique<Album>(options.value(option)) : nullptr;
 }
 
-/// Both windows in view, or on a small screen the mount's behind, and the picture small enough to
-/// be seen whole.
+/// Places both windows side by side, or the mount's behind on a small screen, and makes the picture
+/// small enough to fit.
 void placeSideBySide(MainWindow &window, MountWindow &mount, Person::Options &how)
 {
     mount.ensurePolished();
@@ -216,7 +216,7 @@ void run(const QCommandLineParser &options)
 
 int main(int argc, char *argv[])
 {
-    setvbuf(stdout, nullptr, _IOLBF, 0); // each action is told as it is done, into a file as well
+    setvbuf(stdout, nullptr, _IOLBF, 0); // prints each action immediately, also into a file
     prepareApplication();
     QApplication application(argc, argv);
     QCommandLineParser options;
@@ -227,7 +227,7 @@ int main(int argc, char *argv[])
         return 1;
     }
 
-    // The sky of somebody who practises is left alone.
+    // Keeps the user's own practice sky unchanged.
     const QTemporaryDir ownSky;
     qputenv("QUORVANDEL_SKY", QFile::encodeName(ownSky.filePath("sky.ini")));
 

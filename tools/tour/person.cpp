@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The steps of an alignment as a person does them.
+// The steps of an alignment as a user performs them.
 #include "tools/tour/person.h"
 
 #include "camera/session.h"
@@ -25,13 +25,13 @@ namespace
 {
 constexpr int patienceMilliseconds = 20000;
 constexpr int firstTurn = 55; ///< degrees of RA between the picks
-constexpr int ringReach = 16; ///< frame pixels; the template's rings are smaller than that
+constexpr int ringReach = 16; ///< frame pixels; larger than the template's rings
 
-/// Waits for `condition` with the event loop running, or is stuck.
+/// Waits for `condition` with the event loop running; throws Stuck after a timeout.
 template <typename Condition> void waitUntil(Condition condition, const char *what)
 {
     if (!QTest::qWaitFor(condition, patienceMilliseconds))
-        throw Stuck(std::string("waited in vain for ") + what);
+        throw Stuck(std::string("timed out waiting for ") + what);
 }
 
 double direction(QPointF from, QPointF to)
@@ -64,7 +64,7 @@ void Person::show(const char *name)
 {
     if (!arrived)
         return;
-    waitForFrames(3); // frames that were under way still show the marks of before
+    waitForFrames(3); // frames in progress still show the previous marks
     arrived(name);
 }
 
@@ -73,7 +73,7 @@ void Person::pause() const
     QTest::qWait(options.pauseMilliseconds);
 }
 
-/// The picture changes once for every frame that is shown.
+/// The picture changes once per displayed frame.
 void Person::waitForFrames(int count) const
 {
     const auto &picture = widget<QLabel>("label_showImg");
@@ -103,12 +103,12 @@ void Person::click(const char *button)
 {
     auto &found = widget<QPushButton>(button);
     if (!found.isVisible() || !found.isEnabled())
-        throw Stuck(std::string("can not click ") + button);
+        throw Stuck(std::string("cannot click ") + button);
     QTest::mouseClick(&found, Qt::LeftButton);
     pause();
 }
 
-/// Clicks a button that may ask a question, and answers it.
+/// Clicks a button that may show a question, and answers it.
 void Person::clickAnswering(const char *button)
 {
     QTimer answer;
@@ -127,7 +127,7 @@ void Person::clickAnswering(const char *button)
 void Person::type(const char *lineEdit, const QString &text)
 {
     auto &edit = widget<QLineEdit>(lineEdit);
-    QTest::mouseDClick(&edit, Qt::LeftButton); // selects what is there
+    QTest::mouseDClick(&edit, Qt::LeftButton); // selects the existing text
     QTest::keyClicks(&edit, text);
     QTest::keyClick(&edit, Qt::Key_Return);
     pause();
@@ -148,7 +148,7 @@ void Person::moveSliderTo(QSlider &slider, int value)
     pause();
 }
 
-/// Turns the template until its stars A and B lie as they do in the picture.
+/// Turns the template until its stars A and B are aligned with those in the picture.
 void Person::turnTemplate(const char *slider, QPointF b, QPointF a)
 {
     const StarCatalogue &stars = options.south ? southCatalogue : northCatalogue;
@@ -160,7 +160,7 @@ void Person::turnTemplate(const char *slider, QPointF b, QPointF a)
         checkRingRound(a);
 }
 
-/// Throws if the shown template has no ring round a star: something of it in all four quarters.
+/// Throws if the shown template has no ring around a star, that is, pixels in all four quadrants.
 void Person::checkRingRound(QPointF star) const
 {
     auto &label = widget<QLabel>("label_templateImg");
@@ -177,17 +177,17 @@ void Person::checkRingRound(QPointF star) const
                 quarters[dy > 0][dx > 0] = true;
     if (!label.isVisible() || !quarters[0][0] || !quarters[0][1] || !quarters[1][0] ||
         !quarters[1][1])
-        throw Stuck("the template has no ring round its star");
+        throw Stuck("the template has no ring around its star");
 }
 
-/// Where a person sees something: a pixel or so off.
+/// Where a user sees something: within a pixel or so.
 QPointF Person::eye(QPointF place)
 {
     std::uniform_real_distribution<double> slip(-1.5, 1.5);
     return place + QPointF(slip(random), slip(random));
 }
 
-/// Whether a star is well inside the frame and neither under a page nor under the magnifier.
+/// Whether a star is well inside the frame and not covered by a page or the magnifier.
 bool Person::staysClear(QPointF star) const
 {
     constexpr int underOverlays = 170;
@@ -195,8 +195,8 @@ bool Person::staysClear(QPointF star) const
     return frame.contains(star) && star.y() * options.zoomPercent / 100.0 > underOverlays;
 }
 
-/// Whether a star can be picked at all three angles of the RA axis: a person sees along which
-/// circle it will move.
+/// Whether a star can be picked at all three angles of the RA axis. A user can see which circle it
+/// will move along.
 bool Person::isPickable(QPointF (Knobs::*star)() const) const
 {
     Knobs turned = knobs;
@@ -213,7 +213,7 @@ QPoint Person::inView(QPointF frame) const
     return (frame * options.zoomPercent / 100.0).toPoint();
 }
 
-/// Scrolls with the arrow keys until the picture's point is neither outside nor under a page.
+/// Scrolls with the arrow keys until the view position is inside the view and not under a page.
 void Person::bringIntoView(QPoint view)
 {
     auto &picture = widget<QLabel>("label_showImg");
@@ -234,7 +234,7 @@ void Person::bringIntoView(QPoint view)
     scroll(Qt::Key_Right, [&] { return place().x() > area.viewport()->width() - edge; });
     scroll(Qt::Key_Left, [&] { return place().x() < edge; });
     if (window.childAt(picture.mapTo(&window, view)) != &picture)
-        throw Stuck(QStringLiteral("the mouse can not reach the view pixel %1, %2")
+        throw Stuck(QStringLiteral("the mouse cannot reach the view pixel %1, %2")
                         .arg(view.x())
                         .arg(view.y())
                         .toStdString());
@@ -267,7 +267,7 @@ QImage Person::shownPicture() const
         .convertToFormat(QImage::Format_RGB32);
 }
 
-/// The middle of the green or red pixels, in frame pixels.
+/// The centroid of the green or red pixels, in frame pixels.
 QPointF Person::markInPicture(Mark mark) const
 {
     const QImage picture = shownPicture();
@@ -276,7 +276,7 @@ QPointF Person::markInPicture(Mark mark) const
     for (int y = 0; y < picture.height(); ++y) {
         const auto *const line = reinterpret_cast<const QRgb *>(picture.constScanLine(y));
         for (int x = 0; x < picture.width(); ++x) {
-            // Grey sky has none of either; where one mark lies over the other each has its share.
+            // Grey sky has no such pixels; where one mark covers the other, each gets its share.
             const int pure =
                 (mark == Mark::Pole ? qGreen(line[x]) : qRed(line[x])) - qBlue(line[x]);
             if (pure <= 0)
@@ -286,8 +286,7 @@ QPointF Person::markInPicture(Mark mark) const
         }
     }
     if (weight <= 0)
-        throw Stuck(mark == Mark::Pole ? "no pole mark is to be seen"
-                                       : "no axis mark is to be seen");
+        throw Stuck(mark == Mark::Pole ? "no pole mark is visible" : "no axis mark is visible");
     return sum / weight * 100.0 / options.zoomPercent;
 }
 
@@ -297,7 +296,7 @@ QPointF Person::axisMark() const
                         : markInPicture(Mark::Axis);
 }
 
-/// The way from the dancing pole mark to the axis mark, the mean over some frames; frame pixels.
+/// The vector from the moving pole mark to the axis mark, averaged over some frames; frame pixels.
 QPointF Person::fromPoleToAxis() const
 {
     constexpr int frames = 8;
@@ -355,7 +354,7 @@ void Person::setExposure()
 {
     say(QStringLiteral("Set the exposure until the stars show"));
     type("lineEditExpose", QStringLiteral("500"));
-    // The southern stars are faint: a person turns the gain up until they stand out.
+    // The southern stars are faint: a user increases the gain until they are clearly visible.
     type("lineEditGain", options.south ? QStringLiteral("70") : QStringLiteral("50"));
     waitForFrames(4);
     show("step-01-exposure");
@@ -398,7 +397,7 @@ void Person::findAxis()
     click("pushButton_validateCenter_done");
 }
 
-/// At once, or for somebody who watches at a pace that can be followed.
+/// At once, or slowly enough for a viewer to follow.
 void Person::turnAxisTo(double degrees)
 {
     constexpr double part = 2.0;
@@ -456,7 +455,7 @@ void Person::magnifyMarks()
     bringIntoView(mark);
     auto &picture = widget<QLabel>("label_showImg");
     auto *const surface = window.windowHandle();
-    constexpr QPoint way(60, 40); // from beside the marks
+    constexpr QPoint way(60, 40); // from next to the marks
     constexpr int parts = 15;
     QTest::mousePress(surface, Qt::LeftButton, {}, picture.mapTo(&window, mark - way));
     for (int part = 1; part <= parts; ++part) {
@@ -468,7 +467,7 @@ void Person::magnifyMarks()
     show("step-13-magnified");
 }
 
-/// As a hand does it: the turn begins and ends slowly.
+/// As by hand: the turn starts and ends slowly.
 void Person::turnBoltsSmoothly(QPointF step, int parts)
 {
     const auto done = [&](int part) { return (1 - std::cos(M_PI * part / parts)) / 2; };
@@ -484,7 +483,7 @@ void Person::fineAdjust()
 {
     say(QStringLiteral("Turn the bolts until the pole mark lies on the axis mark"));
     for (int i = 0; i < 4; ++i) {
-        // The pole moves in the picture with the stars.
+        // The pole and the stars move together in the picture.
         turnBoltsSmoothly(fromPoleToAxis(), i == 0 ? options.boltParts : 1);
     }
     show("step-13-aligned");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How does a person align the mount with the window: what is clicked, typed and turned?
+// How does a user align the mount with the window: what is clicked, typed and turned?
 #pragma once
 
 #include "tools/tour/knobs.h"
@@ -18,18 +18,18 @@ class QMenu;
 class QSlider;
 struct Session;
 
-/// Something is not as the instructions promise; what() tells what.
+/// The program does not behave as the instructions say; what() describes the difference.
 class Stuck : public std::runtime_error
 {
 public:
     using std::runtime_error::runtime_error;
 };
 
-/// Aligns the virtual mount by following the window's instructions with mouse and keys alone. Where
-/// a person looks at the picture for a star, the knobs' truth stands in for the eyes, a pixel or so
-/// off. The coloured marks and the template's rings are looked for in the pixels that the window
-/// shows, and numbers are read from its labels; in the mono style, where shapes alone tell the
-/// white marks apart, the program's own positions stand in.
+/// Aligns the virtual mount by following the window's instructions, using only mouse and keys.
+/// Where a user would find a star in the picture, the true position is used, with an error of a
+/// pixel or so. The coloured marks and the template's rings are found in the displayed pixels, and
+/// numbers are read from labels. In the mono style the white marks differ only in shape, so the
+/// program's own positions are used.
 class Person
 {
 public:
@@ -37,26 +37,26 @@ public:
         int zoomPercent = 100; ///< 100, 75 or 50
         bool south = false;
         bool mono = false;
-        bool reuseSavedAxis = false; ///< what to answer where the program asks
-        int pauseMilliseconds = 0;   ///< after every action, for somebody who watches
-        QPointF roughRest;           ///< how far off the rough turn of the bolts ends, frame pixels
-        int boltParts = 1;           ///< in how many parts the first fine turn of the bolts is made
-        QPointF templateSlip; ///< how far beside the pole star it is double clicked, frame pixels
-        int templateTurn = 0; ///< by how much the template is turned too far, degrees
+        bool reuseSavedAxis = false; ///< the answer if the program asks
+        int pauseMilliseconds = 0;   ///< after every action, for a viewer
+        QPointF roughRest;    ///< error after the rough adjustment of the bolts, frame pixels
+        int boltParts = 1;    ///< number of parts of the first fine adjustment of the bolts
+        QPointF templateSlip; ///< offset of the double click from the pole star, frame pixels
+        int templateTurn = 0; ///< additional turn of the template, degrees
     };
 
     Person(QMainWindow &window, const Session &session, Knobs &knobs, const Options &options,
            unsigned seed);
 
-    /// Told of every action before it is done.
+    /// Called before every action.
     std::function<void(const QString &)> announce;
-    /// Told of every step once its picture is there, for example to take a screenshot.
+    /// Called for every step when its picture is displayed, for example to take a screenshot.
     std::function<void(const QString &name)> arrived;
-    /// Told of every part of a fine turn of the bolts once the picture shows it.
+    /// Called for every part of a fine adjustment when the picture shows it.
     std::function<void()> moved;
 
     void connectCamera();
-    /// Style, hemisphere and zoom.
+    /// Sets style, hemisphere and zoom.
     void prepare();
     void setExposure();
     void confirmTemplate();
@@ -65,12 +65,12 @@ public:
     void startMonitor();
     /// Shows the picture at 100 percent.
     void zoomIn();
-    /// Drags the magnifier onto the axis mark, where it stays.
+    /// Drags the magnifier onto the axis mark and leaves it there.
     void magnifyMarks();
     void fineAdjust();
     void finish();
     void disconnectCamera();
-    /// All of the above from the first to finish().
+    /// Performs all steps above, up to finish().
     void align();
 
 private:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The tour's command line.
+// The tour's command-line options.
 #include "tools/tour/touroptions.h"
 
 #include "core/languages.h"
@@ -12,13 +12,14 @@ void addTourOptions(QCommandLineParser &options)
     options.setApplicationDescription("Runs the alignment by itself on the virtual camera. At the "
                                       "end the result stays until a key is pressed.");
     options.addHelpOption();
-    options.addOption({"south", "Align on the southern pole."});
-    options.addOption({"fast", "Without pauses, as fast as the pictures come; ends by itself."});
-    options.addOption({"real-rate", "With --fast: no faster than a camera, for honest read-outs."});
+    options.addOption({"south", "Align with the southern pole."});
+    options.addOption({"fast", "Without pauses, as fast as frames arrive; exits by itself."});
     options.addOption(
-        {"pictures", "Save a picture of every step to <folder>; ends by itself.", "folder"});
+        {"real-rate", "With --fast: at a camera's frame rate, for realistic read-outs."});
+    options.addOption(
+        {"pictures", "Save a picture of every step to <folder>; exits by itself.", "folder"});
     options.addOption({"frames",
-                       "Save the pictures of the fine adjustment to <folder>; ends by itself.",
+                       "Save the pictures of the fine adjustment to <folder>; exits by itself.",
                        "folder"});
     options.addOption({"views",
                        "Instead of aligning, save the window at every zoom, the menus and "

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What can be asked of the tour, and what is refused?
+// Which options does the tour accept, and which are rejected?
 #pragma once
 
 #include <QString>
@@ -8,6 +8,6 @@ class QCommandLineParser;
 
 void addTourOptions(QCommandLineParser &options);
 
-/// What is wrong with options that were parsed, one line; empty = nothing. What the parser itself
-/// does not know is not looked at.
+/// What is wrong with parsed options, one line; empty = nothing. Options that the parser itself
+/// does not know are not checked.
 QString tourOptionsFault(const QCommandLineParser &options);
