@@ -44,8 +44,8 @@ const Entry entries[] = {
     {"AXIS_CENTER", "y", &Settings::axisY},
 };
 
-/// At most this many bytes of a file are searched for keys; that takes a second or two.
-constexpr qint64 mostRead = 1 << 27;
+/// At most this many bytes of a file are searched for keys.
+constexpr qint64 maxRead = 1 << 25;
 
 /// The texts of our keys in the file, in the order of the table; nullopt for a missing key.
 using Texts = std::array<std::optional<QString>, std::size(entries)>;
@@ -74,7 +74,7 @@ Texts textsIn(QFile &file)
         names[i] = QLatin1String(entries[i].group) + '/' + entries[i].key;
     Texts texts;
     IniScanner scanner(file, int(largestSettingsFile));
-    for (IniEntry found; file.pos() <= mostRead && scanner.next(found);) {
+    for (IniEntry found; file.pos() <= maxRead && scanner.next(found);) {
         const auto name = std::find(names.begin(), names.end(), found.name);
         if (found.kind != IniEntry::Key || name == names.end())
             continue;
