@@ -15,7 +15,7 @@
 
 namespace
 {
-/// Every alignment starts so far off in both bolts, degrees.
+/// Every alignment starts this far off in both bolts, degrees.
 constexpr double startOff = 1.0;
 /// Limits of the remaining true error at the date of the built-in angles, arcseconds.
 constexpr double worstAllowed = 60.0;
@@ -30,7 +30,7 @@ struct Result {
     double before, after; ///< arcseconds
 };
 
-/// Fewer rows where a sanitizer makes everything slow: each choice still occurs.
+/// Fewer rows where a sanitizer slows everything down: each choice still occurs.
 bool isReduced()
 {
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
@@ -66,7 +66,7 @@ private:
 
 void AlignmentTest::initTestCase()
 {
-    // Beside the executable, as the settings file: runs of other builds have their own.
+    // Beside the executable, like the settings file: runs of other builds have their own.
     qputenv("QUORVANDEL_SKY", (QCoreApplication::applicationDirPath() + "/sky.ini").toUtf8());
     initialiseResources();
     applyStyleSheet(*qApp, ":/qss/default.qss");
@@ -118,7 +118,7 @@ void AlignmentTest::aligns()
     sky.unthrottled = true;
     Knobs knobs(qEnvironmentVariable("QUORVANDEL_SKY").toStdString(), sky);
 
-    // A centre of an earlier night is there, so the program asks whether to use it.
+    // A centre from an earlier night is saved, so the program asks whether to use it.
     Settings settings;
     settings.axisX = 600;
     settings.axisY = 500;
@@ -128,7 +128,7 @@ void AlignmentTest::aligns()
     options.south = south;
     options.mono = mono;
     try {
-        if (reuse) { // an earlier night on which the axis was found
+        if (reuse) { // on an earlier night the axis was found
             SessionWindow earlier;
             earlier.resize(1280, 800);
             earlier.show();
@@ -151,7 +151,7 @@ void AlignmentTest::aligns()
     }
 }
 
-/// Prints the tables and holds the median.
+/// Prints the tables and checks the median.
 void AlignmentTest::cleanupTestCase()
 {
     for (const QString date : {"2024-05-23", "2026-11-20"}) {
@@ -170,7 +170,7 @@ void AlignmentTest::cleanupTestCase()
         const double middle = median(errors);
         printf("  median %.1f, worst %.1f of %zu\n", middle,
                *std::max_element(errors.begin(), errors.end()), errors.size());
-        // The median speaks of the whole table: three rows of a reduced one have none to speak of.
+        // The limit is for the full table; a reduced one has three rows, too few for a median.
         if (date == "2024-05-23" && int(errors.size()) == rowsOfOneDate)
             QVERIFY2(middle <= medianAllowed, qPrintable(QString::number(middle)));
     }

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-// Does each cause of a wrong or missing result bring its notice, and does the notice go with it?
+// Does each cause of a wrong or missing result show its notice, and does the notice go with it?
 #include "camera/camerastate.h"
 #include "camera/frames.h"
 #include "core/sharedstate.h"
-#include "widgets/magnifierwidget.h"
 #include "geometry/starfinder.h"
 #include "tests/e2e/noticewindow.h"
+#include "widgets/magnifierwidget.h"
 
 #include <QAction>
 #include <QDial>
@@ -17,7 +17,7 @@
 
 namespace
 {
-/// A place round which no star is far and wide.
+/// A place with no star far around it.
 QPointF emptySky()
 {
     constexpr int alone = 32; // the search reaches 20 along x and y
@@ -79,7 +79,7 @@ private:
     static void connectCamera(NoticeWindow &w);
 };
 
-/// With the tour's exposure, in step 1.
+/// In step 1, with the tour's exposure.
 void TestNoticeCauses::connectCamera(NoticeWindow &w)
 {
     Person person = w.person();
@@ -89,14 +89,14 @@ void TestNoticeCauses::connectCamera(NoticeWindow &w)
     QTest::qWait(100);
 }
 
-/// The panel's button leads to the last page without one.
+/// The panel's button opens the last page without a camera.
 void TestNoticeCauses::noCamera()
 {
     NoticeWindow w(false);
     QVERIFY(w.staysAway());
     w.click("pushButton_monitor");
     QCOMPARE(w.notice(), QString("No camera is connected."));
-    w.child<QAction>("actionGerman").trigger(); // it follows the language
+    w.child<QAction>("actionGerman").trigger(); // the notice follows the language
     QCOMPARE(w.notice(), QString("Es ist keine Kamera verbunden."));
     w.child<QAction>("actionEnglish").trigger();
     connectCamera(w);
@@ -203,11 +203,11 @@ void TestNoticeCauses::savedAxisAndOldTemplate()
     QVERIFY(w.goes());
 }
 
-/// The page is answered without a turn of the axis.
+/// The page is answered without turning the axis.
 void TestNoticeCauses::picksInOnePlace()
 {
     NoticeWindow w(false);
-    const BoxCloser ok; // three picks that agree to the last bit give no axis
+    const BoxCloser ok; // three picks that are equal to the last bit give no axis
     connectCamera(w);
     w.click("pushButton_setting_done");
     w.click("pushButton_confirm_done");
@@ -243,7 +243,7 @@ void TestNoticeCauses::turnedTooLittle()
         w.click(turned[pick]);
     }
     QCOMPARE(w.window->step(), 8);
-    // So small a turn gives the axis, and thereby the angle, but roughly.
+    // So small a turn gives the axis, and thus the angle, only roughly.
     QVERIFY2(w.notice().startsWith("The axis turned by only "), qPrintable(w.notice()));
     w.click("pushButton_validateCenter_reset");
     QVERIFY(w.staysAway());
@@ -289,7 +289,7 @@ void TestNoticeCauses::ringUnderMagnifier()
     person.arrived = [&](const QString &name) {
         if (name != QLatin1String("step-10-before"))
             return;
-        // The picture is scrolled by the keys until the ring is under the magnifier, and back.
+        // The keys scroll the picture until the ring is under the magnifier, and back.
         auto &area = w.child<QScrollArea>("scrollArea_showImg");
         const auto &lens = *w.window->findChild<MagnifierWidget *>();
         const auto place = [&] {
@@ -314,7 +314,7 @@ void TestNoticeCauses::ringUnderMagnifier()
     QCOMPARE(w.window->step(), 12);
 }
 
-/// A second step 11 while the dial stands at 90: its next move would turn the stars away.
+/// A second step 11 while the dial is at 90: its next move would turn the stars away.
 void TestNoticeCauses::dialNotReset()
 {
     NoticeWindow w(false, withAxis(680, 450));
@@ -367,7 +367,7 @@ void TestNoticeCauses::settingsNotKept()
     const bool isRoot = getuid() == 0;
     const auto rights = QFile::permissions(folder);
     if (isRoot)
-        QCOMPARE(setreuid(65534, uid_t(-1)), 0); // whom access(2) asks about
+        QCOMPARE(setreuid(65534, uid_t(-1)), 0); // the user that access(2) checks
     else
         QVERIFY(QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner));
     const bool came = w.comes("Settings will not be kept: their folder cannot be written.");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Is a person who aligns rightly left in peace, and one with a wrong template told so in time?
+// Does a correct alignment show no notice, and does a wrong template show one in time?
 #include "core/sharedstate.h"
 #include "tests/e2e/noticewindow.h"
 
@@ -9,7 +9,7 @@ namespace
 {
 const QString misfit = QStringLiteral("The template does not fit: ");
 
-/// Fewer rows where a sanitizer makes everything slow.
+/// Fewer rows where a sanitizer slows everything down.
 bool isLeftOut(int row)
 {
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
@@ -46,7 +46,7 @@ void TestNotices::rightAlignment_data()
                     << south << reuse << ++seed;
 }
 
-/// At the end of each step, from connecting to the marks lying one over the other, nothing is said.
+/// At the end of each step, from connecting to the marks lying over each other, no notice is shown.
 void TestNotices::rightAlignment()
 {
     QFETCH(bool, south);
@@ -54,7 +54,7 @@ void TestNotices::rightAlignment()
     QFETCH(unsigned, seed);
     Settings settings;
     NoticeWindow w(south, settings);
-    if (reuse) { // the axis of the night before: the camera sits as it did
+    if (reuse) { // the axis of the night before: the camera has not been moved
         settings.axisX = w.knobs.axis().x();
         settings.axisY = w.knobs.axis().y();
         alignmentPoints.savedAxisCenter = w.knobs.axis();
@@ -67,7 +67,7 @@ void TestNotices::rightAlignment()
         Person person = w.person(seed);
         person.arrived = [&](const QString &name) {
             ends.append(name);
-            QTest::qWait(oneLook); // what was last seen may be from before the last action
+            QTest::qWait(oneLook); // the notice seen last may be from before the last action
             if (!w.notice().isEmpty())
                 said.insert(name, w.notice());
         };
@@ -98,8 +98,8 @@ void TestNotices::wrongTemplate_data()
     }
 }
 
-/// Who clicks through all the same is told so wherever the template is shown, and beside the pole
-/// mark.
+/// A person who continues all the same sees the notice wherever the template is shown, and beside
+/// the pole mark.
 void TestNotices::wrongTemplate()
 {
     QFETCH(bool, south);
@@ -128,13 +128,13 @@ void TestNotices::wrongTemplate()
     for (const char *const step :
          {"step-02-template", "step-09-expected", "step-11-current", "step-12-monitor"})
         QVERIFY2(said.value(step).startsWith(misfit), qPrintable(step + (": " + said.value(step))));
-    // A template that lies far off has no star where it expects star A.
+    // A template that is far off has no star where it expects star A.
     const QString atTheMark = said.value("step-13-before");
     QVERIFY2(atTheMark.startsWith(misfit) || atTheMark == QLatin1String("Star A lost."),
              qPrintable(atTheMark));
     for (const char *const step : {"step-01-exposure", "step-08-axis"})
         QVERIFY2(said.value(step).isEmpty(), qPrintable(said.value(step)));
-    // It goes with its cause.
+    // The notice goes with its cause.
     w.click("pushButton_finetunePole_reset");
     QVERIFY(w.staysAway());
 }
