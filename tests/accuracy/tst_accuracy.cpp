@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Are star positions, axis and pole as exact as light, noise and the built-in angles allow?
+// Are star positions, axis and pole as accurate as light, noise and the built-in angles allow?
 #include "bench/accuracy.h"
 #include "resources/resources.h"
 
@@ -9,14 +9,14 @@
 namespace
 {
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr int trials = 4; // fewer scatter below half the bound
+constexpr int trials = 4; // with fewer, the scatter may be below half the bound
 #else
 constexpr int trials = 20;
 #endif
 
 /// Noise of 0.1 pixel in both stars moves the pole by this much, arcseconds rms.
 constexpr double poleNoisePerTenthPixel = 3.3;
-/// What the reckoning of the table and the camera's scale leave open, arcseconds.
+/// Error left by the computation of the table and by the camera's scale, arcseconds.
 constexpr double tableTolerance = 4.0;
 } // namespace
 
@@ -49,7 +49,7 @@ void AccuracyTest::method()
 
     for (const CentroidError &star : {found.starA, found.starB}) {
         QVERIFY2(star.rms < 0.35, qPrintable(QString::number(star.rms)));
-        // No unbiased method is better than the bound; a few trials scatter about it.
+        // No unbiased method is better than the bound; a few trials scatter around it.
         if (sky.noise)
             QVERIFY2(star.rms > 0.5 * star.bound, qPrintable(QString::number(star.rms)));
         else // Polaris is saturated: its centre is found from a plateau

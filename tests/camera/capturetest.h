@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What do the tests of the capture loop begin with? A thread that has not started yet, and the
+// What do the tests of the capture loop start with? A thread that has not started yet, and the
 // recording camera, open and with one star in its picture.
 #pragma once
 
@@ -12,17 +12,17 @@
 #include <QObject>
 #include <memory>
 
-/// Lets `count` frames come, and waits until the last of them has been worked on to its end.
+/// Lets `count` frames come, and waits until the last of them is fully processed.
 inline bool waitForFrames(int count)
 {
     sdk().setFramesLeft(count);
     const bool fetched = comesTrue([] { return sdk().framesLeft() == 0; });
     const int soFar = sdk().fetchCount();
-    // The frame before the next fetch is worked on to its end.
+    // The frame before the next fetch is fully processed.
     return fetched && comesTrue([soFar] { return sdk().fetchCount() > soFar; });
 }
 
-/// Each test function has a session and a thread of its own; no mark is shown, no star followed.
+/// Each test function has its own session and thread; no mark is shown and no star is followed.
 class CaptureTest : public QObject
 {
     Q_OBJECT

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Loads the camera library as the program does, and prints what came of it.
+// Loads the camera library as the program does, and prints the result.
 #include "camera/veldix.h"
 
 #include <QCoreApplication>
@@ -21,7 +21,7 @@ int printIfCameraLibrary(dl_phdr_info *info, size_t, void *)
     return 0;
 }
 
-/// Whether each operation gives what it gives without a library.
+/// Whether each operation returns what it returns without a library.
 void printFailures(const char *when)
 {
     char id[veldixIdSize + 1] = "untouched";
@@ -53,7 +53,7 @@ void printFailures(const char *when)
 
 int main(int argc, char **argv)
 {
-    // Nothing is left for a forked child to write again.
+    // A forked child finds nothing in the buffer to write again.
     setvbuf(stdout, nullptr, _IOLBF, 0);
     const QCoreApplication application(argc, argv);
     qInstallMessageHandler(printMessage);

@@ -89,12 +89,12 @@ void CaptureThreadTest::liveModeRefused()
                                            {QtDebugMsg, startAndEnd[1]}}));
 }
 
-/// Stop and a refused closing come before the thread has begun: it does not begin after them.
+/// Stop and a refused close come before the thread has started: it does not start after them.
 void CaptureThreadTest::stoppedBeforeItBegins()
 {
     sdk().setStatus("CloseVELDIX", 1);
     {
-        const CameraHandle::Hold held(session->handle); // which the thread needs to begin
+        const CameraHandle::Hold held(session->handle); // the thread needs it to start
         thread->startCapture();
         thread->stopCapture();
         StopVELDIXLive(held.get());
@@ -115,7 +115,7 @@ void CaptureThreadTest::noFrameYet()
     const int before = sdk().fetchCount();
     QTRY_VERIFY(sdk().fetchCount() >= before + 20);
     const int fetches = sdk().fetchCount() - before;
-    // 10 ms at least from one try to the next; a busy machine takes longer.
+    // At least 10 ms between two tries; a busy machine takes longer.
     QVERIFY2(fetches <= timer.elapsed() / 10 + 1, QByteArray::number(fetches));
     QVERIFY(thread->isRunning());
     QCOMPARE(log->texts(QtCriticalMsg), QStringList());
@@ -195,7 +195,7 @@ void CaptureThreadTest::unusableFrames_data()
     QTest::newRow("largest") << most << most << most << outside(most, most, most);
 }
 
-/// Told once, however many come; what was known of the good frames stays.
+/// Logged once, however many come; what is known of the good frames stays.
 void CaptureThreadTest::unusableFrames()
 {
     QFETCH(uint, width);
@@ -212,8 +212,8 @@ void CaptureThreadTest::unusableFrames()
     QVERIFY(thread->isRunning());
 }
 
-/// It is not asked for the next one at once: one that gives rubbish without a pause would take a
-/// whole processor.
+/// The next frame is not requested at once: a camera that delivers rubbish without a pause would
+/// keep a processor fully busy.
 void CaptureThreadTest::unusableFramesAreNotHurriedFor()
 {
     sdk().setFrame(0, 0, 1, {1});
@@ -227,7 +227,7 @@ void CaptureThreadTest::unusableFramesAreNotHurriedFor()
              QByteArray::number(sdk().fetchCount()));
 }
 
-/// Another format is told of, the same one after it too, and after a new start everything again.
+/// Each change of format is logged once; after a new start, every format is logged again.
 void CaptureThreadTest::eachUnusableFormatIsTold()
 {
     thread->startCapture();
@@ -265,7 +265,7 @@ void CaptureThreadTest::stalledGui()
     }
     QCOMPARE(session->frameQueue.size(), 2);
     QCOMPARE(session->magnifierQueue.size(), 2);
-    // The oldest wait; what came later was dropped.
+    // The oldest frames wait; later ones were dropped.
     QCOMPARE(session->frameQueue.waiting()[0].pixel(5, 5), qRgb(1, 1, 1));
     QCOMPARE(session->frameQueue.waiting()[1].pixel(5, 5), qRgb(2, 2, 2));
     QCOMPARE(int(session->latestFrame.copy().at<uchar>(5, 5)), framesForAll);
@@ -283,11 +283,11 @@ void CaptureThreadTest::magnifierOnlyInMonitorMode()
     QCOMPARE(session->magnifierQueue.size(), 1);
     QCOMPARE(session->magnifierQueue.waiting()[0].size(), QSize(200, 200));
     QCOMPARE(session->magnifierQueue.waiting()[0].format(), QImage::Format_RGB888);
-    // The dot of star B, green, lies in the crop's middle.
+    // The dot of star B, green, is in the middle of the crop.
     QCOMPARE(session->magnifierQueue.waiting()[0].pixel(100, 100), qRgb(0, 255, 0));
 }
 
-/// The star is shown where it was seen; marks and pole stand where it would be without air.
+/// The star is shown where it was seen; marks and pole are where they would be without air.
 void CaptureThreadTest::refractionLeavesTheEnlargementAlone()
 {
     session->overlayFlags.monitorTracking = true;
@@ -325,7 +325,7 @@ void CaptureThreadTest::marksAreDrawn()
 
 void CaptureThreadTest::noPoleOnOneColumn()
 {
-    showFrame(starFrame({})); // black: the search positions hold
+    showFrame(starFrame({})); // black: the search positions stay
     session->overlayFlags.monitorTracking = true;
     session->overlayFlags.showPoleRect = true;
     session->alignmentPoints.angleBAP = 40.0;
@@ -355,8 +355,8 @@ void CaptureThreadTest::frameRate_data()
     QTest::newRow("after quick ones, no mean") << 10 << 700;
 }
 
-/// The rate is the last frame's alone. Each of the two moments that it lies between is held between
-/// two looks at the clock, however busy the machine.
+/// The rate depends on the last frame alone. The two times that bound its interval are each
+/// bracketed by two clock readings, however busy the machine is.
 void CaptureThreadTest::frameRate()
 {
     QFETCH(int, quickFrames);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How does a matrix become a picture, and how full may a queue be?
+// How does a matrix become a picture, and how full can a queue get?
 #include "camera/frames.h"
 #include "camera/latestframe.h"
 #include "camera/picturequeue.h"
@@ -120,7 +120,7 @@ void FramesTest::matrices()
         QVERIFY(row.matrix.size() == row.size);
         QCOMPARE(row.matrix.type(), row.type);
     }
-    QCOMPARE(cv::countNonZero(raw), 0); // before the first frame nothing is seen
+    QCOMPARE(cv::countNonZero(raw), 0); // nothing is visible before the first frame
 }
 
 void FramesTest::queueIsBounded()

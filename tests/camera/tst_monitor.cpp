@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Are the reference stars followed, the pole reckoned and the pole star enlarged as they should be?
+// Are the reference stars followed, the pole computed and the pole star enlarged correctly?
 #include "camera/monitor.h"
 #include "core/sharedstate.h"
 #include "geometry/polecomputation.h"
@@ -18,7 +18,7 @@ namespace
 constexpr double pixelTolerance = 0.05;
 const QPointF noStar(300, 700);
 
-/// Minutes of arc, taken as pixels, at latitude 40, 10 degrees Celsius and 1010 hPa:
+/// Minutes of arc, used as pixels, at latitude 40, 10 degrees Celsius and 1010 hPa:
 /// python3 -c "from math import *; print(1 / tan(radians(40 + 7.31 / 44.4)))"
 constexpr double raisedAt1010 = 1.184822634584;
 
@@ -43,7 +43,7 @@ void ticks(cv::Mat &picture, int x, int y, const cv::Scalar &colour)
     cv::line(picture, {x, y + 11}, {x, y + 6}, colour, 1, 8);
 }
 
-/// The crop cut from the whole frame's enlargement, which is put back as it was afterwards.
+/// A crop cut from the enlargement of the whole frame, which is restored afterwards.
 class WholeEnlargement
 {
 public:
@@ -230,7 +230,7 @@ void MonitorTest::pole_data()
     QTest::newRow("far below") << QPointF(0, 959) << false;
 }
 
-/// Two places make the two angles, one on each side of the line: the pole is the one on the axis's.
+/// The angles allow two places, one on each side of the line: the pole is on the axis's side.
 void MonitorTest::pole()
 {
     QFETCH(QPointF, axis);
@@ -295,7 +295,7 @@ void MonitorTest::crop()
         if (atTheEdges)
             b = i % 2 ? QPointF(i % 4 == 1 ? margin(random) : 1280 + margin(random), y(random))
                       : QPointF(x(random), i % 4 ? margin(random) : 960 + margin(random));
-        // The first star is near enough, most times, to have its mark in the crop too.
+        // The first star is usually close enough for its mark to be in the crop too.
         const QPointF a = b + QPointF(apart(random), apart(random));
         cropAroundStarB(frame, a, b, mono, matrices);
         QVERIFY2(sameBytes(matrices.magnifierCrop, whole.crop(a, b, mono)),

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Does the capture loop enlarge the followed star in the style of the display, and in the same
-// memory for every frame?
+// Does the capture loop enlarge the followed star in the display's style, and in the same memory
+// for every frame?
 #include "tests/camera/capturetest.h"
 #include "tests/support/capturethreadprobe.h"
 
@@ -25,13 +25,13 @@ void MonitorThreadTest::enlargementInTheStyle_data()
     QTest::newRow("mono") << true << qRgb(248, 248, 255);
 }
 
-/// Star A stands so near to star B that its mark lies in the enlargement, ten frame pixels to the
-/// right of the middle.
+/// Star A is so close to star B that its mark is in the enlargement, ten frame pixels to the right
+/// of the middle.
 void MonitorThreadTest::enlargementInTheStyle()
 {
     QFETCH(bool, mono);
     QFETCH(QRgb, starA);
-    showFrame(starFrame({})); // black: the search positions hold
+    showFrame(starFrame({})); // black: the search positions stay
     session->monitorPositions.starASearch = QPointF(650, 480);
     session->monitorPositions.starBSearch = QPointF(640, 480);
     session->overlayFlags.monitorTracking = true;
@@ -54,8 +54,8 @@ void MonitorThreadTest::matricesAreReused_data()
     QTest::newRow("colour") << 3;
 }
 
-/// What is allocated once is used for every frame. The headers that are kept here keep the first
-/// memory from being given out again, so that a new allocation has another address.
+/// Memory that is allocated once is used for every frame. The headers kept here prevent the first
+/// memory from being reused, so that a new allocation has another address.
 void MonitorThreadTest::matricesAreReused()
 {
     QFETCH(int, channels);
@@ -67,7 +67,7 @@ void MonitorThreadTest::matricesAreReused()
         {first.enlargedColour, matrices.enlargedColour},
         {first.magnifierCrop, matrices.magnifierCrop}};
     session->overlayFlags.monitorTracking = true;
-    // The enlarged part lies elsewhere in each frame, once over the edge.
+    // The enlarged part is at a different place in each frame, once over the edge.
     for (const QPointF star : {QPointF(640, 480), QPointF(100, 900), QPointF(1279, 0)}) {
         showFrame(starFrame({star}, channels));
         session->monitorPositions.starASearch = star;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Do the marks over a frame have their shapes, places and colours?
+// Do the marks over a frame have the right shapes, places and colours?
 #include "camera/overlay.h"
 #include "camera/session.h"
 
@@ -25,7 +25,7 @@ QImage sky()
     return picture;
 }
 
-/// What the marks look like, drawn shape by shape with plain coordinates.
+/// The expected marks, drawn shape by shape with plain coordinates.
 class Drawing
 {
 public:
@@ -111,7 +111,7 @@ QImage drawn(const OverlayMarks &m)
     return picture;
 }
 
-/// Everything at places of its own, nothing shown.
+/// Every mark at a place of its own, none shown.
 OverlayMarks hidden(bool monoStyle)
 {
     OverlayMarks m;
@@ -195,7 +195,7 @@ void OverlayTest::pixels_data()
     QTest::addColumn<bool>("mono");
     QTest::addColumn<double>("share"); ///< of the mark's colour in its lit pixels, at least
     QTest::addColumn<QList<QPoint>>("lit");
-    QTest::addColumn<QList<QPoint>>("dark"); ///< not touched
+    QTest::addColumn<QList<QPoint>>("dark"); ///< not drawn on
     QTest::addColumn<QColor>("colour");
     // The mark's centre is the middle of a pixel, so that upright lines fill whole pixels.
     const QList<QPoint> axisLit{{693, 400}, {696, 400}, {704, 400}, {707, 400},
@@ -203,7 +203,7 @@ void OverlayTest::pixels_data()
     const QList<QPoint> axisDark{{691, 400}, {709, 400}, {698, 400}, {702, 400},
                                  {700, 398}, {700, 391}, {700, 409}, {700, 400}};
     const QList<QPoint> arcLit{{297, 200}, {300, 200}, {303, 200}, {300, 197}, {300, 203}};
-    // At 20 degrees the gaps of the ring lie around 20 degrees and a quarter turn on each.
+    // At 20 degrees the gaps of the ring are around 20 degrees and every quarter turn from there.
     const QList<QPoint> arcDark{{295, 200}, {305, 200}, {300, 195}, {300, 205},
                                 {309, 197}, {297, 191}, {291, 203}, {303, 209}};
     const QList<QPoint> starLit{{895, 600}, {905, 600}, {900, 595}, {900, 605}, {900, 580},

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Where is the camera library looked for, and what is said when it is not there or not whole?
+// Where is the camera library searched for, and what is logged when it is missing or incomplete?
 #include "camera/loaderfolders.h"
 #include "camera/veldix.h"
 
@@ -21,7 +21,7 @@ enum class File {
     NoLibrary,
     Crashing,
     NeedsAnother,   ///< library, which is not there
-    OtherProcessor, ///< by its machine's number, which the loader passes over
+    OtherProcessor, ///< by its machine number, which the loader skips
     OtherClass,     ///< 32 bits for 64
     Folder,
     DanglingLink
@@ -40,7 +40,7 @@ bool copyWithByte(const QString &target, int position, char value)
 bool put(File file, const QString &folder)
 {
     const QString target = folder + '/' + soname;
-    // Two of the folders are one where the architecture has no folder of its own.
+    // Two of the folders are the same where the architecture has no folder of its own.
     if (file == File::None || QFile::exists(target))
         return true;
     if (!QDir().mkpath(folder))
@@ -71,7 +71,7 @@ bool put(File file, const QString &folder)
 /// What the program can do with what it finds.
 enum class Result {
     Ready,    ///< there is a camera
-    NoCamera, ///< it says so, since its library can not be used
+    NoCamera, ///< the log says that its library cannot be used
     Failed    ///< InitVELDIXResource fails
 };
 
@@ -208,14 +208,14 @@ void SdkLoaderTest::search()
     QVERIFY(lines.contains("again " + status));
     QVERIFY(lines.contains(isReady ? "cameras 1" : "cameras 0"));
     QCOMPARE(lines.contains("after " + allFail), !isReady);
-    // The thread sanitizer's loader lists a library that was loaded twice as often.
+    // Under the thread sanitizer, the loader lists a library twice that was loaded twice.
     QStringList loaded = lines.filter(QRegularExpression("^loaded "));
     loaded.removeDuplicates();
     const QStringList critical = lines.filter(QRegularExpression("^critical "));
     if (isReady) {
         QCOMPARE(loaded, QStringList("loaded " + root + '/' + text + '/' + soname));
         QCOMPARE(critical, QStringList());
-    } else { // one that lacks a function may stay in memory, but no other is tried behind it
+    } else { // one that lacks a function may stay in memory, but no other is tried after it
         QVERIFY2(loaded.size() <= (result == Result::Failed ? 1 : 0),
                  qPrintable(loaded.join('\n')));
         QVERIFY2(critical.value(0).startsWith("critical " + text.replace("@", root)),
@@ -223,7 +223,7 @@ void SdkLoaderTest::search()
     }
 }
 
-/// As the loader does: what is for another processor does not hide what lies in a later folder.
+/// Like the loader: a library for another processor does not hide one in a later folder.
 void SdkLoaderTest::anotherFolderOfThePath()
 {
     const QTemporaryDir temporary;
@@ -236,7 +236,7 @@ void SdkLoaderTest::anotherFolderOfThePath()
     QVERIFY(lines.contains("cameras 1"));
 }
 
-/// A library in a folder that ldconfig has not been told of again is there too.
+/// A library in a folder that ldconfig has not processed yet is found too.
 void SdkLoaderTest::configuredFolders()
 {
     const QTemporaryDir temporary;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How does a test read the notices of a window that is worked by hand on the virtual camera?
+// How does a test read the notices of a window that is operated by hand on the virtual camera?
 #pragma once
 
 #include "app/stylesheet.h"
@@ -17,11 +17,11 @@
 #include <functional>
 #include <memory>
 
-/// Longer than the pause between two looks for a notice.
+/// Longer than the interval between two checks for a notice.
 constexpr int oneLook = 700;
 constexpr int noticePatience = 20000;
 
-/// A shown window under the practice sky, the mount's bolts off, and a person in front of it.
+/// A shown window under the practice sky, with the mount's bolts off, and a person to operate it.
 class NoticeWindow
 {
 public:
@@ -35,7 +35,7 @@ public:
         window->resize(size);
         window->show();
         if (!QTest::qWaitForWindowExposed(window.get(), noticePatience))
-            qFatal("the window does not come up");
+            qFatal("the window does not appear");
     }
     ~NoticeWindow()
     {
@@ -63,7 +63,7 @@ public:
     {
         return QTest::qWaitFor([&] { return notice().isEmpty(); }, noticePatience);
     }
-    /// Whether none is there, now and at the next look.
+    /// Whether there is no notice, now and at the next check.
     bool staysAway() const
     {
         const bool isAway = notice().isEmpty();

@@ -16,7 +16,7 @@
 
 namespace
 {
-/// Every alignment starts so far off in both bolts, degrees.
+/// Every alignment starts this far off in both bolts, degrees.
 constexpr double startOff = 1.0;
 /// Limits of the remaining true error at the date of the built-in angles, arcseconds.
 constexpr double worstAllowed = 60.0;
@@ -35,7 +35,7 @@ struct Result {
     double before, after; ///< arcseconds
 };
 
-/// Fewer rows where a sanitizer makes everything slow: each choice still occurs.
+/// Fewer rows where a sanitizer slows everything down: each choice still occurs.
 bool isReduced()
 {
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
@@ -71,7 +71,7 @@ private:
 
 void AlignmentTest::initTestCase()
 {
-    // Beside the executable, as the settings file: runs of other builds have their own.
+    // Beside the executable, like the settings file: runs of other builds have their own.
     qputenv("QUORVANDEL_SKY", (QCoreApplication::applicationDirPath() + "/sky.ini").toUtf8());
     initialiseResources();
     applyStyleSheet(*qApp, ":/qss/default.qss");
@@ -131,7 +131,7 @@ void AlignmentTest::aligns()
     sky.unthrottled = true;
     Knobs knobs(qEnvironmentVariable("QUORVANDEL_SKY").toStdString(), sky);
 
-    // A centre of an earlier night is there, so the program asks whether to use it.
+    // A centre from an earlier night is saved, so the program asks whether to use it.
     Settings settings;
     settings.axisX = 600;
     settings.axisY = 500;

@@ -18,11 +18,11 @@
 
 namespace
 {
-/// How far a star that is followed lies from the truth at most, frame pixels.
+/// Largest distance of a followed star from its true position, frame pixels.
 constexpr double starTolerance = 1.0;
 /// The pole follows from two stars and the built-in angles.
 constexpr double poleTolerance = 2.5;
-/// A star is searched for no farther than this from its search position, along x and y.
+/// A star is searched for within this distance from its search position, along x and y.
 constexpr double searchHalf = 20.0;
 constexpr int patience = 20000;
 
@@ -43,7 +43,7 @@ double directionOf(QPointF way)
 }
 } // namespace
 
-/// One alignment for each hemisphere is led up to its last step; every row puts the sky back.
+/// One alignment per hemisphere is taken to its last step; every row restores the sky.
 class MonitorSkyTest : public QObject
 {
     Q_OBJECT
@@ -83,14 +83,14 @@ void MonitorSkyTest::initTestCase_data()
 
 void MonitorSkyTest::initTestCase()
 {
-    // Beside the executable, as the settings file: runs of other builds have their own.
+    // Beside the executable, like the settings file: runs of other builds have their own.
     qputenv("QUORVANDEL_SKY", (QCoreApplication::applicationDirPath() + "/sky.ini").toUtf8());
     initialiseResources();
     applyStyleSheet(*qApp, ":/qss/default.qss");
     QFile::remove(settingsFilePath());
 }
 
-/// Leads an alignment to its last step, where the marks are followed.
+/// Takes an alignment to its last step, where the marks are followed.
 void MonitorSkyTest::monitor(bool south)
 {
     if (window)
@@ -159,7 +159,7 @@ void MonitorSkyTest::starsAreFound()
     QVERIFY(QTest::qWaitFor([this] { return isFollowed(); }, patience));
 }
 
-/// The bolts take the stars out of their windows and back.
+/// The bolts move the stars out of their windows and back.
 void MonitorSkyTest::lostAndFoundAgain()
 {
     const QPointF searchB = positions().starBSearch;
@@ -177,8 +177,7 @@ void MonitorSkyTest::lostAndFoundAgain()
     QVERIFY(QTest::qWaitFor([this] { return isFollowed(); }, patience));
 }
 
-/// Behind a cloud what is found is noise, and stays in the windows; the sky clears, and all is
-/// well.
+/// Behind a cloud only noise is found, within the windows; when the sky clears, all is well again.
 void MonitorSkyTest::cloudsComeAndGo()
 {
     knobs->edit().clouds = 1.0;
@@ -194,7 +193,7 @@ void MonitorSkyTest::cloudsComeAndGo()
     QVERIFY(QTest::qWaitFor([this] { return isFollowed(); }, patience));
 }
 
-/// Where the tracking dial has to stand after a turn of the axis: the picture's turn, clockwise.
+/// The tracking dial's correct value after a turn of the axis: the picture's turn, clockwise.
 int MonitorSkyTest::dialFor(int degrees) const
 {
     Knobs turned = *knobs;
@@ -219,7 +218,7 @@ void MonitorSkyTest::axisIsTurned_data()
         QTest::addRow("%d degrees", degrees) << degrees;
 }
 
-/// The tracking dial takes the search along.
+/// The tracking dial moves the search positions along.
 void MonitorSkyTest::axisIsTurned()
 {
     QFETCH(int, degrees);
@@ -230,8 +229,8 @@ void MonitorSkyTest::axisIsTurned()
     QVERIFY(QTest::qWaitFor([this] { return isFollowed(); }, patience));
 }
 
-/// The axis is turned until both stars are in one column of the picture: the pole is right or is
-/// not shown, and comes back.
+/// The axis is turned until both stars are in one column of the picture: the pole is either right
+/// or not shown, and comes back.
 void MonitorSkyTest::bothInOneColumn()
 {
     Knobs tried = *knobs;

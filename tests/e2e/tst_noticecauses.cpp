@@ -93,7 +93,7 @@ void NoticeCausesTest::noCamera()
     QVERIFY(w.staysAway());
     w.click("pushButton_monitor");
     QCOMPARE(w.notice(), QString("No camera is connected."));
-    w.child<QAction>("actionGerman").trigger(); // it follows the language
+    w.child<QAction>("actionGerman").trigger(); // the notice follows the language
     QCOMPARE(w.notice(), QString("Es ist keine Kamera verbunden."));
     w.child<QAction>("actionEnglish").trigger();
     connectCamera(w);
@@ -204,7 +204,7 @@ void NoticeCausesTest::savedAxisAndOldTemplate()
 void NoticeCausesTest::picksInOnePlace()
 {
     NoticeWindow w(false);
-    const BoxCloser ok; // three picks that agree to the last bit give no axis
+    const BoxCloser ok; // three picks that are equal to the last bit give no axis
     connectCamera(w);
     w.click("pushButton_setting_done");
     w.click("pushButton_confirm_done");
@@ -240,7 +240,7 @@ void NoticeCausesTest::turnedTooLittle()
         w.click(turned[pick]);
     }
     QCOMPARE(w.window->step(), 8);
-    // So small a turn gives the axis, and thereby the angle, but roughly.
+    // So small a turn gives the axis, and thus the angle, only roughly.
     QVERIFY2(w.notice().startsWith("The axis turned by only "), qPrintable(w.notice()));
     w.click("pushButton_validateCenter_reset");
     QVERIFY(w.staysAway());
@@ -286,7 +286,7 @@ void NoticeCausesTest::ringUnderMagnifier()
     person.arrived = [&](const QString &name) {
         if (name != QLatin1String("step-10-before"))
             return;
-        // The picture is scrolled by the keys until the ring is under the magnifier, and back.
+        // The keys scroll the picture until the ring is under the magnifier, and back.
         auto &area = w.child<QScrollArea>("scrollArea_showImg");
         const auto &lens = *w.window->findChild<MagnifierWidget *>();
         const auto place = [&] {
@@ -364,7 +364,7 @@ void NoticeCausesTest::settingsNotKept()
     const bool isRoot = getuid() == 0;
     const auto rights = QFile::permissions(folder);
     if (isRoot)
-        QCOMPARE(setreuid(65534, uid_t(-1)), 0); // whom access(2) asks about
+        QCOMPARE(setreuid(65534, uid_t(-1)), 0); // the user that access(2) checks
     else
         QVERIFY(QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner));
     const bool came = w.comes("Settings will not be kept: their folder cannot be written.");

@@ -8,7 +8,7 @@ namespace
 {
 const QString misfit = QStringLiteral("The template does not fit: ");
 
-/// Fewer rows where a sanitizer makes everything slow.
+/// Fewer rows where a sanitizer slows everything down.
 bool isLeftOut(int row)
 {
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
@@ -53,7 +53,7 @@ void NoticesTest::rightAlignment()
     QFETCH(unsigned, seed);
     Settings settings;
     NoticeWindow w(south, settings);
-    if (reuse) { // the axis of the night before: the camera sits as it did
+    if (reuse) { // the axis of the night before: the camera has not been moved
         settings.axisX = w.knobs.axis().x();
         settings.axisY = w.knobs.axis().y();
         w.session().alignmentPoints.savedAxisCenter = w.knobs.axis();
@@ -66,7 +66,7 @@ void NoticesTest::rightAlignment()
         Person person = w.person(seed);
         person.arrived = [&](const QString &name) {
             ends.append(name);
-            QTest::qWait(oneLook); // what was last seen may be from before the last action
+            QTest::qWait(oneLook); // the notice seen last may be from before the last action
             if (!w.notice().isEmpty())
                 said.insert(name, w.notice());
         };
@@ -127,13 +127,13 @@ void NoticesTest::wrongTemplate()
     for (const char *const step :
          {"step-02-template", "step-09-expected", "step-11-current", "step-12-monitor"})
         QVERIFY2(said.value(step).startsWith(misfit), qPrintable(step + (": " + said.value(step))));
-    // A template that lies far off has no star where it expects star A.
+    // A template that is far off has no star where it expects star A.
     const QString atTheMark = said.value("step-13-before");
     QVERIFY2(atTheMark.startsWith(misfit) || atTheMark == QLatin1String("Star A lost."),
              qPrintable(atTheMark));
     for (const char *const step : {"step-01-exposure", "step-08-axis"})
         QVERIFY2(said.value(step).isEmpty(), qPrintable(said.value(step)));
-    // It goes with its cause.
+    // The notice goes with its cause.
     w.click("pushButton_finetunePole_reset");
     QVERIFY(w.staysAway());
 }

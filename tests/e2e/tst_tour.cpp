@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Does the tour align by itself, tell how well, and leave a picture of every step?
+// Does the tour align by itself, report how well, and leave a picture of every step?
 #include "tests/support/patience.h"
 
 #include <QDir>
@@ -13,11 +13,12 @@
 namespace
 {
 constexpr int stepCount = 13;
-/// A tour takes as long as its pictures and the machine's other work, milliseconds.
+/// Depends on the tour's pictures and on the machine's load, milliseconds.
 constexpr int longestTour = 8 * patience;
-/// The north's misalignment to begin with is 0.8 degrees and 0.9 degrees of azimuth, arcminutes.
+/// In the north the tour starts 0.8 degrees off in altitude and 0.9 degrees in azimuth: at least
+/// this error in arcminutes.
 constexpr double smallestError = 50;
-/// What the method leaves on a quiet sensor at the tour's date, arcseconds.
+/// Remaining error of the method on a quiet sensor at the tour's date, arcseconds.
 constexpr double largestRest = 75;
 } // namespace
 
@@ -35,7 +36,7 @@ private slots:
     void refusesStrayOptions();
 
 private:
-    /// Runs the tour and keeps what it prints.
+    /// Runs the tour and stores what it prints.
     void run(const QStringList &options);
     QStringList pictures() const { return QDir(folder->path()).entryList({"*.png"}); }
     double told(const char *before, const char *after) const;
@@ -63,7 +64,7 @@ void TourTest::run(const QStringList &options)
     exitCode = tour.exitCode();
 }
 
-/// The number that the tour has printed between two texts.
+/// The number that the tour printed between two texts.
 double TourTest::told(const char *before, const char *after) const
 {
     const QRegularExpression line(QString(before) + " ([0-9.]+) " + after);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Does the tour show its end from near, keep it until a key, and refuse what it does not know?
+// Does the tour show its end enlarged, keep it until a key press, and refuse unknown options?
 #include "app/stylesheet.h"
 #include "mainwindow/mainwindow.h"
 #include "resources/resources.h"
@@ -24,7 +24,7 @@
 
 namespace
 {
-/// For a wait that would not end.
+/// Ends the run if a wait never ends.
 struct Impatience {
     Impatience()
     {
@@ -90,13 +90,13 @@ void TourEndingTest::theLastStepsAreSeenFromNear()
     QCOMPARE(picture.pixmap(Qt::ReturnByValue).width(), 1280);
     person.startMonitor();
     person.magnifyMarks();
-    // There is a way to go that can be seen: more than ten pixels, 50 in the magnifier.
+    // The way to go is visible: more than ten pixels, 50 in the magnifier.
     const double before = knobs.poleError() / 30.45;
     QVERIFY2(before > 10 && before < 20, qPrintable(QString::number(before)));
     person.fineAdjust();
     person.finish();
     QVERIFY2(knobs.poleError() < 75, qPrintable(QString::number(knobs.poleError())));
-    // Both marks are in the magnifier still; it shows 15 pixels on every side.
+    // Both marks are still in the magnifier; it shows 15 pixels on every side.
     const auto &magnifier = *window.findChild<MagnifierWidget *>();
     const QPointF off = QPointF(magnifier.magnifiedCentre()) - knobs.axis();
     QVERIFY2(std::hypot(off.x(), off.y()) < 4, qPrintable(QString::number(off.manhattanLength())));

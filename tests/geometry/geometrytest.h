@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the geometry's tests share: tolerances, log texts and the golden files.
+// What do the geometry's tests share? Tolerances, log texts and the golden files.
 #pragma once
 
 #include "tests/support/logrecorder.h"
@@ -14,7 +14,7 @@
 
 namespace geometrytest
 {
-/// Both not-a-number, equal, or apart by at most the tolerance.
+/// Both not-a-number, equal, or at most the tolerance apart.
 inline bool within(double actual, double expected, double tolerance)
 {
     if (std::isnan(actual) || std::isnan(expected))
@@ -30,7 +30,7 @@ inline QString difference(double actual, double expected, double tolerance)
         .arg(tolerance);
 }
 
-/// All recorded lines as "critical: text", so that a comparison also finds one too many.
+/// All recorded lines as "critical: text", so that a comparison also finds an extra line.
 inline QStringList logOf(const LogRecorder &recorder)
 {
     QStringList all;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Does the circle through three positions come out right, and do turns go the right way?
+// Is the circle through three positions right, and do rotations go the right way?
 #include "geometry/axiscentre.h"
 
 #include "tests/geometry/geometrytest.h"
@@ -35,7 +35,7 @@ void AxisCentreTest::circle_data()
     QTest::addColumn<QVector<double>>("centre");
     QTest::addColumn<int>("radius");
     QTest::addColumn<QStringList>("log");
-    // The outputs that a failure has to leave alone.
+    // The outputs, which a failure must leave unchanged.
     const QVector<double> kept{-7.5, -8.5};
     const int keptRadius = -9;
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Does the geometry keep its promises for numbers and matrices that make no sense?
+// Does the geometry keep its guarantees for numbers and matrices that make no sense?
 #include "geometry/axiscentre.h"
 #include "geometry/polecomputation.h"
 #include "geometry/refraction.h"
@@ -28,7 +28,7 @@ private slots:
 
 namespace
 {
-/// Half of the time one of the awkward numbers, else an ordinary position or angle.
+/// Half of the time one of the awkward numbers, otherwise an ordinary position or angle.
 double anyNumber(Random &random)
 {
     using limits = std::numeric_limits<double>;
@@ -67,7 +67,7 @@ bool sameNumber(double a, double b)
     return a == b || (std::isnan(a) && std::isnan(b));
 }
 
-/// Any depth, channel count and shape, sometimes a part of a larger matrix.
+/// Any depth, channel count and shape, sometimes part of a larger matrix.
 cv::Mat anyMatrix(Random &random)
 {
     static const int depths[] = {CV_8U, CV_8S, CV_16U, CV_16S, CV_32S, CV_32F, CV_64F};
@@ -194,7 +194,7 @@ void GeometryFuzzTest::matrices()
         status = GetPreciseStarPos(&frame, startX, startY, x, y);
         QVERIFY(status == 0 ? usable : status == -1);
         QVERIFY(status == 0 || (sameNumber(x, startX) && sameNumber(y, startY)));
-        // The search window's half and the centroid window's half.
+        // Half of the search window plus half of the centroid window.
         QVERIFY(status == -1 || (std::fabs(x - startX) <= 31.0 && std::fabs(y - startY) <= 31.0));
         found += status == 0;
         recorder.clear();

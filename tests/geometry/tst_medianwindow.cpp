@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Does filtering only the window give, to the last bit, what filtering the whole frame gives?
+// Does filtering only the window give the same result, to the last bit, as filtering the frame?
 #include "geometry/stardetection.h"
 
 #include "tests/geometry/geometrytest.h"
@@ -20,7 +20,7 @@ private slots:
 
 namespace
 {
-/// The definition, with the whole frame filtered at every call.
+/// The definition: the whole frame is filtered at every call.
 namespace wholeframe
 {
 bool corner(const cv::Mat &frame, double x, double y, int side, cv::Rect &window)
@@ -102,7 +102,7 @@ cv::Mat randomFrame(Random &random, Content content, int type)
 {
     const int columns = random.whole(38, 90);
     const int rows = random.whole(38, 90);
-    // A part of a larger matrix of noise, so that a look beyond the frame would show.
+    // Part of a larger matrix of noise, so that an access beyond the frame would show.
     cv::Mat larger(rows + 7, columns + 5, type);
     for (int row = 0; row < larger.rows; ++row)
         for (int i = 0; i < larger.cols * larger.channels(); ++i)

@@ -80,7 +80,7 @@ void PoleComputationTest::byStar_data()
     const auto row = [](const char *name, QVector<double> in, int status, QVector<double> pole,
                         QStringList log) { QTest::newRow(name) << in << status << pole << log; };
     // x1, y1, angle at A, x2, y2, angle at B, xd, yd, angle at B between D and the pole.
-    // D lies above B on the screen (smaller y): 45 degrees from minus, 135 from plus.
+    // D is above B on the screen (smaller y): 45 degrees from minus, 135 from plus.
     row("angle of plus", {0, 0, 45, 10, 0, 45, 10, -8, 130}, 0, {5, 5}, {});
     row("angle of minus", {0, 0, 45, 10, 0, 45, 10, -8, 50}, 0, {5, -5}, {});
     row("tie", {0, 0, 45, 10, 0, 45, 18, 0, 90}, 0, {5, -5}, {});

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Is a star found where it is, and does every failure say what it has to and leave the start?
+// Is a star found where it is, and does every failure log its message and leave the start
+// unchanged?
 #include "geometry/stardetection.h"
 
 #include "tests/geometry/geometrytest.h"
@@ -37,7 +38,7 @@ const double notANumber = std::numeric_limits<double>::quiet_NaN();
 const double infinity = std::numeric_limits<double>::infinity();
 
 /// 100 x 80 pixels of one brightness, with squares of 3 x 3 brighter pixels on top. The median
-/// wears a square's corners off and leaves a cross of five pixels about the same centre.
+/// removes a square's corners and leaves a cross of five pixels around the same centre.
 struct Scene {
     int background;
     QVector<QPoint> squares;
@@ -236,7 +237,7 @@ void StarDetectionTest::unusableFrames()
 
 void StarDetectionTest::partOfALargerMatrix()
 {
-    // White all around, so that a look beyond the frame would show.
+    // White all around, so that an access beyond the frame would show.
     cv::Mat larger(200, 200, CV_8UC1, cv::Scalar(255));
     const cv::Mat star = draw({10, {{15, 16}}, 200});
     cv::Mat frame = larger(cv::Rect(33, 44, 100, 80));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Are the stars of a frame found, and nothing else taken for one?
+// Are the stars of a frame found, and is nothing else taken for a star?
 #include "geometry/starfinder.h"
 
 #include <QTest>
@@ -131,7 +131,7 @@ void TestStarFinder::refusesFrames()
     if (rows)
         frame(cv::Rect(20, 20, 5, 5)).setTo(cv::Scalar::all(255));
     QCOMPARE(int(findStars(frame).size()), 0);
-    if (rows >= 300 && columns >= 300) { // the same light is a star in a frame that will do
+    if (rows >= 300 && columns >= 300) { // the same light is a star in a large enough frame
         cv::Mat usable(rows, columns, CV_8UC1, cv::Scalar(0));
         usable(cv::Rect(20, 20, 5, 5)).setTo(255);
         QCOMPARE(int(findStars(usable).size()), 1);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Is a template that lies wrong told from one that lies right, on the real stars of both poles?
+// Is a misplaced template distinguished from a correct one, on the real stars of both poles?
 #include "geometry/starcatalogue.h"
 #include "geometry/templaterings.h"
 #include "resources/resources.h"
@@ -42,7 +42,7 @@ QString text(const TemplateFit &fit)
     return QStringLiteral("%1 of %2 rings, %3 stars").arg(fit.held).arg(fit.rings).arg(fit.stars);
 }
 
-/// A frame of the practice sky, and where the template belongs.
+/// A frame of the practice sky, and the template's correct place.
 struct Rendered {
     Rendered(bool south, double seconds, double gain, double moon, double clouds = 0.0)
         : grey(frameSize.height(), frameSize.width(), CV_8UC1)
@@ -68,7 +68,7 @@ struct Rendered {
     std::vector<FieldStar> stars;
 };
 
-/// Rendered once.
+/// Rendered only once.
 const Rendered &halfASecond(bool south, double gain)
 {
     static std::map<std::pair<bool, double>, Rendered> all;
@@ -110,7 +110,7 @@ void TestTemplateFit::hemispheres()
     QTest::newRow("south") << true;
 }
 
-/// Round every place of the table the picture has a closed ring of that radius.
+/// Around every place of the table the picture has a closed ring of that radius.
 void TestTemplateFit::ringsAreThoseOfTheMask()
 {
     QFETCH(bool, south);
@@ -148,7 +148,7 @@ void TestTemplateFit::rightOne_data()
                         << south << seconds << gain << moon;
 }
 
-/// Also with the pixel or two and the half degree that a careful hand is off.
+/// Also with an error of a pixel or two and half a degree, as by a careful hand.
 void TestTemplateFit::rightOne()
 {
     QFETCH(bool, south);
@@ -216,7 +216,7 @@ void TestTemplateFit::nothingIsSaidOfFewStars()
     }
 }
 
-/// Real pictures of the pole fields; stars A and B as plate solutions have them.
+/// Real pictures of the pole fields; stars A and B from plate solutions.
 void TestTemplateFit::photographs()
 {
     QFETCH(bool, south);

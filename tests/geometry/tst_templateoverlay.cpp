@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Does the template lie where it was clicked, turned the right way, and do the positions follow?
+// Is the template placed where it was clicked, turned the right way, and do the positions follow?
 #include "geometry/templateoverlay.h"
 
 #include "geometry/starcatalogue.h"
@@ -104,7 +104,7 @@ void TemplateOverlayTest::turnedPicture()
 
 void TemplateOverlayTest::senseOfTurning()
 {
-    // One spot on the right of the centre comes below it after a quarter turn.
+    // A spot right of the centre is below it after a quarter turn.
     QImage picture = mask(QSize(101, 101));
     for (int y = 48; y <= 52; ++y)
         for (int x = 88; x <= 92; ++x)
@@ -124,7 +124,7 @@ void TemplateOverlayTest::senseOfTurning()
         }
         return QPointF(x / sum, y / sum);
     };
-    // The turned picture has whole pixels, and so has its place: half a pixel and one.
+    // Rounding to whole pixels: half a pixel in the turned picture, up to one in its place.
     for (int angle = 0; angle <= 360; angle += 10) {
         const double radians = angle * 3.141592653589793 / 180.0;
         COMPARE_WITHIN(spot(angle).x(), 40.0 * std::cos(radians), 1.5);
@@ -278,7 +278,7 @@ void TemplateOverlayTest::templateOnItself()
     QVERIFY(starA.x() == 445.0 && starA.y() == 218.0);
     const QPointF pole = expectedPole(c, 0, {400, 400});
     QVERIFY(pole.x() == 391.5 && pole.y() == 318.25);
-    // The pole 10 right of the star comes 10 below it after a quarter turn.
+    // The pole 10 right of the star is 10 below it after a quarter turn.
     c.templatePoleX = 410;
     c.templatePoleY = 400;
     const QPointF turned = expectedPole(c, 90, {50, 60});

@@ -138,7 +138,7 @@ void TemplatePoleTest::cross()
     QVERIFY(computeTemplatePole(stars, mask, "north"));
     QCOMPARE(logOf(recorder), QStringList{"debug: north pole in template 25 35"});
 
-    // Drawn by the same painter at the exact position, on the same ground.
+    // Drawn by the same painter at the exact position, on the same background.
     QImage expected = blackMask(static_cast<QImage::Format>(format));
     expected = expected.convertToFormat(mask.format());
     QPainter painter(&expected);
@@ -148,7 +148,7 @@ void TemplatePoleTest::cross()
     painter.drawLine(QPointF(25, 30), QPointF(25, 40));
     painter.end();
     QVERIFY(mask == expected);
-    // And indeed a cross: light on the arms, none beyond them.
+    // It is a cross: light on the arms, none beyond them.
     QVERIFY(qGreen(mask.pixel(22, 35)) > 50 && qGreen(mask.pixel(25, 38)) > 50);
     QVERIFY(qBlue(mask.pixel(22, 35)) > qRed(mask.pixel(22, 35)));
     QCOMPARE(mask.pixel(32, 35), mask.pixel(0, 0));

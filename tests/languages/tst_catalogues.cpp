@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Is every text there in every language, finished, with its placeholders, and really translated?
+// Is every text present in every language, finished, with its placeholders, and really translated?
 #include "core/languages.h"
 #include "core/toolkittexts.h"
 #include "resources/resources.h"
@@ -46,7 +46,7 @@ bool isUniversal(const QString &source)
            source.startsWith("<html>");
 }
 
-/// Words that are written as in English in one language.
+/// Words that one language writes as English does.
 const QMap<QString, QSet<QString>> &loanWords()
 {
     static const QMap<QString, QSet<QString>> words{
@@ -109,7 +109,7 @@ void CataloguesTest::keepsPlaceholders()
         QVERIFY2(placeholdersIn(m.source) == placeholdersIn(m.translation), qPrintable(m.source));
 }
 
-/// As many ampersands as the source: none in our own texts, one in some of the toolkit's.
+/// As many ampersands as the source has: none in our own texts, one in some of the toolkit's.
 void CataloguesTest::keepsMnemonics()
 {
     QFETCH(int, number);

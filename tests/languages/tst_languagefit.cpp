@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Has every text of every language the room that it needs, in the window, its pages, its menus and
-// its dialogs, and does nothing lie over its neighbour? What is measured is also saved as pictures,
-// a folder for each language, for somebody to look at.
+// Does every text of every language have the room that it needs, in the window, its pages, menus
+// and dialogs, and does nothing cover its neighbour? Everything measured is also saved as pictures,
+// one folder per language, for visual inspection.
 #include "app/stylesheet.h"
 #include "core/languages.h"
 #include "resources/resources.h"
@@ -36,10 +36,10 @@ constexpr bool isSanitized = true; // the same pictures, many times slower
 #else
 constexpr bool isSanitized = false;
 #endif
-/// Of a picture's file: little compression, which is quick.
+/// For a picture's file: little compression, which is fast.
 constexpr int pngQuality = 80;
 
-/// Where the title of a box lies in it.
+/// The rectangle of a box's title.
 QRect titlePlace(const QGroupBox &box)
 {
     QStyleOptionGroupBox option;
@@ -52,7 +52,7 @@ QRect titlePlace(const QGroupBox &box)
                                        &box);
 }
 
-/// The title must lie in its box, and none of the box's contents over the title.
+/// The title must be inside its box, and none of the box's contents may cover it.
 QString lackOfTitle(const QGroupBox &box)
 {
     if (box.title().isEmpty())
@@ -77,7 +77,7 @@ QString lackOfField(const QWidget &field, const QLineEdit &edit, const QString &
     option.initFrom(&edit);
     option.lineWidth =
         edit.hasFrame() ? edit.style()->pixelMetric(QStyle::PM_DefaultFrameWidth) : 0;
-    // What the text is cut at.
+    // The rectangle that clips the text.
     const QRect inside = edit.style()->subElementRect(QStyle::SE_LineEditContents, &option, &edit);
     const QFontMetrics metrics(edit.font());
     return lack(field, {metrics.horizontalAdvance(text), metrics.ascent()}, inside.size());
@@ -93,7 +93,7 @@ QString lackOfNumber(const QDoubleSpinBox &box)
     return {};
 }
 
-/// What is missing of the room that a widget of any kind needs; empty if nothing is.
+/// How much room a widget of any kind lacks; empty if none.
 QString lackOfAny(const QWidget &widget)
 {
     if (const auto *const box = qobject_cast<const QGroupBox *>(&widget))
@@ -106,7 +106,7 @@ QString lackOfAny(const QWidget &widget)
     return lackOf(widget);
 }
 
-/// What can be seen of a widget, in its window.
+/// The visible part of a widget, in window coordinates.
 QRect placeOf(const QWidget &widget)
 {
     const QWidget *const window = widget.window();
@@ -116,8 +116,8 @@ QRect placeOf(const QWidget &widget)
     return place;
 }
 
-/// Whether a widget shows something that no other may cover, or be covered by it. The picture and
-/// the template lie under everything else on purpose.
+/// Whether a widget shows something that must neither cover another widget nor be covered. The
+/// picture and the template are below everything else on purpose.
 bool isPiece(const QWidget &widget)
 {
     const QString name = widget.objectName();
@@ -166,8 +166,8 @@ QStringList lacksAndOverlapsIn(const QWidget &window)
     return lacks;
 }
 
-/// What is cut of the page over the picture or of the panel beside it, and whether the page lies
-/// over the point that the magnifier shows.
+/// What is cut off of the page over the picture or of the panel beside it, and whether the page
+/// covers the point that the magnifier shows.
 QStringList lacksOfPage(const MainWindow &window)
 {
     QStringList lacks;
@@ -204,7 +204,7 @@ QStringList lacksOfPage(const MainWindow &window)
     return lacks;
 }
 
-/// The pictures of one language, or of none.
+/// Saves the pictures of one language, or none.
 class Pictures
 {
 public:
@@ -217,7 +217,7 @@ public:
             std::make_unique<QDir>(QCoreApplication::applicationDirPath() + "/pictures/" + code);
         isThere = folder->mkpath(".");
     }
-    /// Whether it is saved, where it is wanted.
+    /// False if the picture is wanted and cannot be saved.
     bool add(QWidget &widget, const QString &name) const
     {
         return !folder ||
@@ -229,7 +229,7 @@ private:
     bool isThere = false;
 };
 
-/// What is missing of the room for a menu's entries; the menu is opened for it.
+/// How much room a menu's entries lack; opens the menu to measure them.
 QStringList lacksAndOverlapsIn(QMenu &menu, const Pictures &pictures)
 {
     QStringList lacks;
@@ -243,7 +243,8 @@ QStringList lacksAndOverlapsIn(QMenu &menu, const Pictures &pictures)
             continue;
         const QRect place = menu.actionGeometry(action) & menu.rect();
         const QString keys = action->shortcut().toString(QKeySequence::NativeText);
-        // Between the paddings for the check mark and the arrow; the keys stand apart.
+        // Between the paddings for the check mark and the arrow; the shortcuts have a column of
+        // their own.
         const int needed = 30 + 28 + metrics.horizontalAdvance(action->text()) +
                            (keys.isEmpty() ? 0 : metrics.horizontalAdvance("  " + keys));
         if (place.width() < needed || place.height() < metrics.height())
@@ -325,7 +326,7 @@ void LanguageFitTest::fits()
     }
     for (QDialog *const dialog : window.findChildren<QDialog *>()) {
         if (auto *const unit = dialog->findChild<QComboBox *>("comboBox_presure"))
-            unit->setCurrentIndex(1); // of the longer numbers
+            unit->setCurrentIndex(1); // the unit with the longer numbers
         dialog->show();
         settle();
         QVERIFY(pictures.add(*dialog, dialog->objectName()));
@@ -344,7 +345,7 @@ void LanguageFitTest::fitsOnASmallScreen_data()
                 << int(i) << size;
 }
 
-/// The page in all steps, with a picture that is larger than its room.
+/// The page in all steps, with a picture that is larger than its view.
 void LanguageFitTest::fitsOnASmallScreen()
 {
     QFETCH(int, number);

@@ -21,7 +21,7 @@
 #include <QTabWidget>
 #include <QTest>
 
-// The macros must stand in the global namespace.
+// The macros must be used in the global namespace.
 static void takeCataloguesAway()
 {
     Q_CLEANUP_RESOURCE(languages);
@@ -47,7 +47,7 @@ public:
     explicit LanguageSetting(const QByteArray &code) : file(settingsFilePath())
     {
         if (!file.open(QIODevice::WriteOnly) || file.write("[LANGUAGE]\nlang=" + code + '\n') < 0)
-            qFatal("the settings file can not be written");
+            qFatal("the settings file cannot be written");
         file.close();
     }
     ~LanguageSetting() { file.remove(); }
@@ -189,7 +189,7 @@ void LanguageSwitchTest::dialogTexts_data()
             << row.dialog << row.widget << QString::fromUtf8(row.source);
 }
 
-/// French and English again; the dialog has not been shown.
+/// To French and back to English; the dialog has not been shown.
 void LanguageSwitchTest::dialogTexts()
 {
     QFETCH(QString, dialog);
@@ -209,7 +209,7 @@ void LanguageSwitchTest::dialogTexts()
     const QString expected = in(french, qPrintable(dialog), source.toUtf8());
     QVERIFY(!expected.isEmpty() && expected != source);
     window.findChild<QAction *>(french.action)->trigger();
-    QTRY_COMPARE(text(), expected); // the toolkit tells some of it by an event
+    QTRY_COMPARE(text(), expected); // the toolkit updates some texts by an event
     window.findChild<QAction *>("actionEnglish")->trigger();
     QTRY_COMPARE(text(), source);
 }
@@ -244,11 +244,11 @@ void LanguageSwitchTest::isToldAtStart_data()
     QTest::addColumn<int>("times");
     for (const Language &language : languages)
         QTest::newRow(language.code) << (&language == &languages.front() ? 1 : 2);
-    QTest::newRow("XX") << 1; // English in force
+    QTest::newRow("XX") << 1; // English is in use
 }
 
-/// The start announces the language by itself; checking another action than English, which is
-/// checked from the first, announces it besides.
+/// The start reports the language by itself; checking an action other than English, which is
+/// checked initially, reports it once more.
 void LanguageSwitchTest::isToldAtStart()
 {
     QFETCH(int, times);
@@ -294,7 +294,7 @@ void LanguageSwitchTest::failedLoadKeepsTheLanguage()
     window.findChild<QAction *>("actionKorean")->setChecked(true);
     bringCataloguesBack();
     QCOMPARE(window.findChild<QMenu *>("menuFile")->title(), spanish);
-    // What is yet to be shown, a message box say, stays Spanish too.
+    // Texts that are shown later, for example in a message box, stay Spanish too.
     QCOMPARE(QCoreApplication::translate("MainWindow", "File"), spanish);
     QCOMPARE(log.lines().size(), 1);
     QCOMPARE(log.lines().first().text, QString("current language \"KO\""));

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Is every notice to be read whole in every language in a small window, and does it push nothing
-// aside? A picture of the longest one is saved for each language, for somebody to look at.
+// Can every notice be read in full in every language in a small window, and does it push nothing
+// aside? A picture of the longest one is saved for each language, for visual inspection.
 #include "app/stylesheet.h"
 #include "core/languages.h"
 #include "mainwindow/notice.h"
@@ -21,7 +21,7 @@ namespace
 {
 const QSize smallest(800, 480);
 
-/// What the status bar shows besides, and the window itself.
+/// What else the status bar shows, and the window itself.
 QVector<QRect> others(const QMainWindow &window)
 {
     return {window.geometry(), window.statusBar()->geometry(), window.centralWidget()->geometry(),
@@ -122,7 +122,7 @@ void NoticeFitTest::tooNarrow()
     QCOMPARE(window->minimumSizeHint(), least);
     QVERIFY(label->shownText().endsWith(QChar(0x2026)));
     QCOMPARE(label->toolTip(), text);
-    QCOMPARE(label->text(), text); // what a screen reader says
+    QCOMPARE(label->text(), text); // what a screen reader speaks
     label->showSentence(QString());
     QVERIFY(label->toolTip().isEmpty());
     window->close();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Is any text of the toolkit's left in English: in the context menus, in the file dialog, in the
+// Is any of the toolkit's texts left in English: in the context menus, the file dialog or the
 // boxes?
 #include "core/languages.h"
 #include "resources/resources.h"
@@ -36,7 +36,7 @@ private slots:
 
 namespace
 {
-/// Some that the walk must have come by, where nothing else is said in the same words.
+/// Some that the walk must meet, where no other text has the same words.
 constexpr std::pair<const char *, const char *> shownTexts[] = {
     {"QLineEdit", "Delete"},
     {"QAbstractSpinBox", "&Step up"},
@@ -47,7 +47,7 @@ constexpr std::pair<const char *, const char *> shownTexts[] = {
     {"QFileDialog", "Show &hidden files"},
 };
 
-/// The box that has come up is closed with its last button; its text and buttons.
+/// Closes the open message box with its last button; returns its text and buttons.
 QStringList answerBox()
 {
     auto *const box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
@@ -60,14 +60,14 @@ QStringList answerBox()
     return texts;
 }
 
-/// What is never shown: the keys that a text is read as a shortcut of, and the portable names of
-/// the dialog's own.
+/// Texts that are never shown: key names for parsing shortcuts, and the portable names of the
+/// dialog's own shortcuts.
 bool isShortcut(const QString &text)
 {
     return text.startsWith("QShortcut: ") || text.startsWith("QFileDialog: Alt+");
 }
 
-/// Runs `action`, which may hold the program in a box; what the box said.
+/// Runs `action`, which may block in a box; returns the box's texts.
 QStringList boxAfter(const std::function<void()> &action)
 {
     QStringList texts;
@@ -84,8 +84,8 @@ QAction *actionNamed(const QWidget &dialog, const char *name)
     return dialog.findChild<QAction *>(name);
 }
 
-/// Through all that the dialog for a file's name offers. The folder has the files `here.png` and,
-/// write- protected, `locked.png`.
+/// Walks through everything that the file dialog offers. The folder has the files `here.png` and,
+/// write-protected, `locked.png`.
 QStringList walkFileDialog(QFileDialog &dialog)
 {
     QStringList seen = contextMenusIn(dialog);
@@ -141,7 +141,7 @@ void ToolkitTextsTest::areTranslated()
     window.findChild<QAction *>(languages.at(std::size_t(number)).action)->setChecked(true);
     MainWindowProbe(window).switchStep(1);
     QTest::qWait(20);
-    last.forget(); // of the window in English
+    last.forget(); // texts of the window in English
     QStringList seen = contextMenusIn(window);
     for (QDialog *const dialog : window.findChildren<QDialog *>()) {
         dialog->show();

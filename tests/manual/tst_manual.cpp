@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Is the manual found, does the menu open it, and are its pages whole?
+// Is the manual found, does the menu open it, and are its pages complete?
 #include "core/manual.h"
 #include "mainwindow/notice.h"
 #include "resources/resources.h"
@@ -26,11 +26,11 @@ QString textOf(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        qFatal("can not read %s", qPrintable(path));
+        qFatal("cannot read %s", qPrintable(path));
     return QString::fromUtf8(file.readAll());
 }
 
-/// All pages of a language in one text, the words of the source without its line ends.
+/// All pages of a language in one text: the words of the source without line ends.
 QString wordsOf(const QString &language)
 {
     QString all;
@@ -50,7 +50,7 @@ QStringList attributesIn(const QString &html, const QString &name)
 }
 } // namespace
 
-/// Takes the files that the program opens.
+/// Receives the files that the program opens.
 class FileTaker : public QObject
 {
     Q_OBJECT
@@ -151,7 +151,7 @@ void ManualTest::address()
     QCOMPARE(manualUrl(language, root.filePath(executable)), url);
 }
 
-/// A user's copy of the executable sees the installed documents through a link beside its folder.
+/// A user's copy of the executable finds the installed documents through a link beside its folder.
 void ManualTest::throughALink()
 {
     const QTemporaryDir place;
@@ -183,7 +183,7 @@ void ManualTest::ofThisBuild()
 {
     QFETCH(QString, page);
     if (!QCoreApplication::applicationDirPath().startsWith(PROJECT_SOURCE_DIR "/"))
-        QSKIP("the build folder lies outside the source tree");
+        QSKIP("the build folder is outside the source tree");
     QCOMPARE(manualUrl(QTest::currentDataTag()), QUrl::fromLocalFile(manual + page));
 }
 
@@ -192,13 +192,13 @@ void ManualTest::fromTheMenu()
     SessionWindow window;
     const QUrl expected = manualUrl("EN");
     if (!expected.isLocalFile())
-        QSKIP("the build folder lies outside the source tree");
+        QSKIP("the build folder is outside the source tree");
     FileTaker taker;
     window.findChild<QAction *>("actionQuorvandel_Manual")->trigger();
     QCOMPARE(taker.urls, QList<QUrl>{expected});
 }
 
-/// The test's platform has nothing that opens a page, as a system without a launcher.
+/// The test's platform cannot open a page, like a system without a launcher.
 void ManualTest::whereItLiesWithoutALauncher()
 {
     SessionWindow window;
@@ -217,7 +217,7 @@ void ManualTest::linksLeadSomewhere_data()
             QTest::addRow("%s/%s", language, qPrintable(page)) << QString(language) + '/' + page;
 }
 
-/// Pictures and pages are files beside the page, so that all of it works without a network.
+/// Pictures and pages are files beside the page, so that everything works without a network.
 void ManualTest::linksLeadSomewhere()
 {
     QFETCH(QString, page);
@@ -287,7 +287,7 @@ void ManualTest::tellsOfEveryMessage_data()
         QTest::newRow(message) << message;
 }
 
-/// In the words that the program uses in that language.
+/// In the program's own words in that language.
 void ManualTest::tellsOfEveryMessage()
 {
     QFETCH(QString, message);
@@ -299,7 +299,7 @@ void ManualTest::tellsOfEveryMessage()
     QVERIFY2(wordsOf("zh").contains(translated.simplified()), qPrintable(translated));
 }
 
-/// In the words of the catalogue, with dots for the numbers.
+/// In the catalogue's words, with dots for the numbers.
 void ManualTest::tellsOfEveryNotice()
 {
     QFETCH(QString, language);
@@ -330,7 +330,7 @@ void ManualTest::tellsOfEveryLogLine_data()
     }
 }
 
-/// Warnings and failures, as far as they begin with a fixed text, or with one after a name.
+/// Warnings and failures that begin with a fixed text, or have one after a name.
 void ManualTest::tellsOfEveryLogLine()
 {
     QFETCH(QString, line);

@@ -30,7 +30,7 @@ QString iconName(int size, const QString &program)
     return QStringLiteral(DATADIR "/icons/hicolor/%1x%1/apps/%2.png").arg(size).arg(program);
 }
 
-/// Everything but the manual's own files, relative to the prefix.
+/// Everything except the manual's own files, relative to the prefix.
 QStringList expectedFiles()
 {
     QStringList files{BINDIR "/quorvandel",
@@ -55,7 +55,7 @@ QStringList expectedFiles()
     return files;
 }
 
-/// The texts of all elements of a name, or of one of their attributes.
+/// The texts of all elements with a name, or of one of their attributes.
 QStringList elements(const QString &path, const QString &name, const QString &attribute = {})
 {
     QFile file(path);

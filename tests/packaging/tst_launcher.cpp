@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Does the launcher start the user's copy of the program, keep it current, and cope without one?
+// Does the launcher start the user's copy of the program, keep it current, and cope without a copy?
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
@@ -14,7 +14,7 @@
 
 namespace
 {
-/// Stands for the program: says which file was started and with what, and ends with 7.
+/// Stands in for the program: prints which file was started with which arguments, exits with 7.
 const QByteArray stub = "#!/bin/sh\nprintf '%s\\n' \"$0\" \"$@\"\nexit 7\n";
 constexpr int stubStatus = 7;
 const QString refusal = QStringLiteral("quorvandel: the settings will not be kept: ");
@@ -32,7 +32,7 @@ void write(const QString &path, const QByteArray &text)
 QByteArray read(const QString &path)
 {
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(can not be read)");
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(cannot be read)");
 }
 
 ino_t inodeOf(const QString &path)
@@ -42,7 +42,7 @@ ino_t inodeOf(const QString &path)
 }
 
 struct Outcome {
-    QStringList lines; ///< what the stub said: its path, then its arguments
+    QStringList lines; ///< the stub's output: its path, then its arguments
     QString errors;
     int status;
 };
@@ -55,11 +55,11 @@ class LauncherTest : public QObject
 private:
     std::unique_ptr<QTemporaryDir> scratch;
     QString prefix;    ///< the installed tree
-    QString launcher;  ///< in it
-    QString installed; ///< the stub in it
+    QString launcher;  ///< the launcher in that tree
+    QString installed; ///< the stub in that tree
     QString home;
     QString folder; ///< the user's folder, where XDG_DATA_HOME is not set
-    QString copy;   ///< the copy in it
+    QString copy;   ///< the copy in that folder
 
     void install()
     {

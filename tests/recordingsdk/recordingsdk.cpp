@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A camera library that keeps a record of its calls and answers as it is told.
+// A camera library that records its calls and answers as the test tells it.
 #include "tests/recordingsdk/recordingsdk.h"
 
 #include <algorithm>
@@ -23,7 +23,7 @@ using Clock = std::chrono::steady_clock;
 struct Camera {
     int number;
     bool open;
-    int callsInside; ///< calls that are under way in this moment
+    int callsInside; ///< calls in progress at this moment
 };
 
 struct Script {
@@ -130,7 +130,7 @@ public:
     bool waitForHeldFetch(int milliseconds) const override
     {
         std::unique_lock<std::mutex> lock(mutex);
-        // Against the clock that is waited on with calls the thread sanitizer knows.
+        // With the system clock, since the thread sanitizer knows the calls that wait on it.
         return changed.wait_until(
             lock, std::chrono::system_clock::now() + std::chrono::milliseconds(milliseconds),
             [this] { return heldFetches > 0; });
@@ -146,7 +146,7 @@ public:
     std::uint32_t fetch(void *handle, std::uint32_t *width, std::uint32_t *height,
                         std::uint32_t *bpp, std::uint32_t *channels, std::uint8_t *buffer);
 
-    /// An operation on a handle that only has a status.
+    /// An operation on a handle that only returns a status.
     template <typename... Values>
     std::uint32_t onHandle(const char *operation, void *handle, const Values &...values)
     {
@@ -185,7 +185,7 @@ private:
         const Camera *const camera = cameraOf(handle);
         return !handle ? "null" : camera ? "camera " + std::to_string(camera->number) : "unknown";
     }
-    /// Whether the handle is open; a call on a closed or unknown one is kept as a violation.
+    /// Whether the handle is open; a call on a closed or unknown one is recorded as a violation.
     bool check(const char *operation, void *handle)
     {
         const Camera *const camera = cameraOf(handle);
@@ -196,8 +196,8 @@ private:
         return false;
     }
     bool nextFrameIsDue();
-    /// Runs the operation's observer, if any, with the lock let go; meanwhile the call counts as
-    /// one that is under way on the camera, if any.
+    /// Runs the operation's observer, if any, with the lock released; meanwhile the call counts as
+    /// in progress on the camera, if any.
     void letObserve(std::unique_lock<std::mutex> &lock, const char *operation,
                     void *handle = nullptr)
     {
@@ -220,12 +220,12 @@ private:
     mutable std::mutex mutex;
     mutable std::condition_variable changed;
     Script script;
-    std::list<Camera> cameras; ///< all that were ever opened
+    std::list<Camera> cameras; ///< all that have ever been opened
     int opened = 0;            ///< since the last reset
     std::vector<SdkCall> recorded;
     std::vector<std::string> broken;
     std::vector<std::thread::id> threadsFetching;
-    std::map<std::string, int> observed; ///< calls that are in an observer in this moment
+    std::map<std::string, int> observed; ///< calls that are in an observer at this moment
     int fetches = 0;
     int heldFetches = 0;
 };

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What was the camera library asked, and how is it to answer? The tests' side of the library that
-// records.
+// What was the camera library asked, and how should it answer? The tests' interface to the library
+// that records.
 #pragma once
 
 #include <cstdint>
@@ -16,8 +16,8 @@ struct SdkCall {
     std::thread::id thread;
 };
 
-/// The one camera that the library pretends to have. All operations succeed until told otherwise.
-/// May be used from any thread.
+/// The single camera that the library simulates. All operations succeed until told otherwise. May
+/// be used from any thread.
 class RecordingSdk
 {
 public:
@@ -26,48 +26,49 @@ public:
     /// Back to the state after loading: nothing recorded, nothing open, one camera, no frames.
     virtual void reset() = 0;
 
-    /// All calls but those of GetVELDIXLiveFrame, in the order in which they came.
+    /// All calls except those of GetVELDIXLiveFrame, in the order in which they came.
     virtual std::vector<SdkCall> calls() const = 0;
     virtual void clearCalls() = 0;
-    /// Calls of GetVELDIXLiveFrame, and on which threads they came.
+    /// Calls of GetVELDIXLiveFrame, and the threads that made them.
     virtual int fetchCount() const = 0;
     virtual std::vector<std::thread::id> fetchThreads() const = 0;
-    /// Calls with a handle that was closed or never given out, and closings during another call.
+    /// Calls with a handle that was closed or never returned, and closings during another call.
     virtual std::vector<std::string> violations() const = 0;
 
-    /// `observer` runs inside every call of `operation` from now on, on the caller's thread, before
-    /// the answer is chosen: it may look about, tell the library how to answer, or wait. An empty
-    /// one ends that. Returns once the earlier observer is left; not to be called by an observer.
+    /// From now on, `observer` runs inside every call of `operation`, on the caller's thread,
+    /// before the answer is chosen: it may inspect the state, tell the library how to answer, or
+    /// wait. An empty one ends that. Returns once the earlier observer has returned; must not be
+    /// called by an observer.
     virtual void observe(const std::string &operation, std::function<void()> observer) = 0;
-    /// The status that `operation` gives from now on; OpenVELDIX gives null for anything but 0.
+    /// The status that `operation` returns from now on; OpenVELDIX returns null for anything but 0.
     virtual void setStatus(const std::string &operation, std::uint32_t status) = 0;
-    /// The IDs of the cameras, each copied with a NUL behind it, or without one if so told.
+    /// The IDs of the cameras, each copied with a terminating NUL, or without one on request.
     virtual void setCameras(const std::vector<std::string> &ids, bool terminated = true) = 0;
-    /// What ScanVELDIX gives, whatever the number of IDs.
+    /// What ScanVELDIX returns, whatever the number of IDs.
     virtual void setCameraCount(std::int32_t count) = 0;
-    /// The camera whose ID can not be read.
+    /// The camera whose ID cannot be read.
     virtual void failId(std::int32_t index) = 0;
-    /// What GetVELDIXParam gives until the parameter is set.
+    /// What GetVELDIXParam returns until the parameter is set.
     virtual void setParam(std::int32_t control, double value) = 0;
 
     /// The frame that every fetch delivers from now on; the pixels may be fewer than announced.
     virtual void setFrame(std::uint32_t width, std::uint32_t height, std::uint32_t channels,
                           const std::vector<std::uint8_t> &pixels) = 0;
-    /// The bits a sample that every frame is said to have; 8 after reset().
+    /// The bits per sample that every frame is said to have; 8 after reset().
     virtual void setFrameBits(std::uint32_t bits) = 0;
     /// How many frames are still to come; negative = no end. None after reset().
     virtual void setFramesLeft(int count) = 0;
     virtual int framesLeft() const = 0;
-    /// The least time between two frames, milliseconds.
+    /// The shortest time between two frames, milliseconds.
     virtual void setFrameInterval(int milliseconds) = 0;
 
-    /// Fetches wait inside the library from now on, until released.
+    /// From now on, fetches wait inside the library until they are released.
     virtual void holdFetches() = 0;
     virtual void releaseFetches() = 0;
     /// True as soon as a fetch waits inside; false if none came in time.
     virtual bool waitForHeldFetch(int milliseconds) const = 0;
 };
 
-/// The name of the library's function that gives its RecordingSdk, of this type.
+/// The name and type of the library's function that returns its RecordingSdk.
 constexpr auto recordingSdkSymbol = "recordingSdk";
 using RecordingSdkFunction = RecordingSdk *(*)();

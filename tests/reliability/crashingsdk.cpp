@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A camera library that misbehaves as it is loaded, in the way that the environment names.
+// A camera library that misbehaves while it is loaded, in the way that the environment names.
 #include <csignal>
 #include <cstdlib>
 #include <cstring>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Is a program that was started ready for signals, and does it end after one?
+// Is a started program ready for signals, and does it end after one?
 #pragma once
 
 #include "tests/support/patience.h"
@@ -8,8 +8,7 @@
 #include <QProcess>
 #include <QRegularExpression>
 
-/// Whether the process has a handler of its own for the signal; false where there is no such
-/// process.
+/// Whether the process has a handler of its own for the signal; false if there is no such process.
 inline bool handlesSignal(qint64 process, int number)
 {
     QFile file(QStringLiteral("/proc/%1/status").arg(process));
@@ -29,9 +28,9 @@ inline bool waitsForSignal(qint64 process, int number)
            file.readAll().contains(") S ");
 }
 
-/// Waits until a process that was sent a signal has ended. The thread sanitizer keeps a signal that
-/// reaches a thread at an ill time until that thread's next call, which for an idle one of Qt's
-/// pool is its end after 30 seconds.
+/// Waits until a process that was sent a signal has ended. The thread sanitizer delays a signal
+/// that reaches a thread at a bad moment until that thread's next call, which for an idle thread of
+/// Qt's pool is its end after 30 seconds.
 inline bool endsAfterSignal(QProcess &process)
 {
     return process.waitForFinished(3 * patience);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A camera library that never returns from the call for a frame, and whose user presses Connect.
+// A camera library whose call for a frame never returns, and which presses Connect like a user.
 #include <QAction>
 #include <QApplication>
 #include <QTimer>
@@ -24,7 +24,7 @@ void pressConnect()
 
 EXPORTED std::uint32_t InitVELDIXResource()
 {
-    QTimer::singleShot(0, qApp, pressConnect); // once the window is made
+    QTimer::singleShot(0, qApp, pressConnect); // once the window exists
     return 0;
 }
 EXPORTED std::int32_t ScanVELDIX()

@@ -6,7 +6,7 @@
 #include <QFile>
 #include <QRegularExpression>
 
-/// Open file descriptors, without the one that the counting takes.
+/// Open file descriptors, except the one that the counting uses.
 inline int openDescriptors()
 {
     return int(QDir("/proc/self/fd")
@@ -20,7 +20,7 @@ inline int runningThreads()
     return int(QDir("/proc/self/task").entryList(QDir::Dirs | QDir::NoDotAndDotDot).size());
 }
 
-/// A line of /proc/self/status in bytes, by its name.
+/// A line of /proc/self/status by its name, in bytes.
 inline qint64 statusBytes(const QString &name)
 {
     QFile file("/proc/self/status");
@@ -40,5 +40,5 @@ inline void forgetPeakMemory()
 {
     QFile file("/proc/self/clear_refs");
     if (!file.open(QIODevice::WriteOnly) || file.write("5") != 1)
-        qFatal("the peak of memory can not be reset");
+        qFatal("the memory peak cannot be reset");
 }

@@ -18,7 +18,7 @@ inline void giveGoodFrames()
     sdk().setFramesLeft(-1);
 }
 
-/// Whether a picture is shown that was not there before, of that size (none given: of any).
+/// Whether a new picture is shown, of that size if one is given.
 inline bool newPicture(const CameraWindow &w, const QSize &size = {})
 {
     auto &label = w.child<QLabel>("label_showImg");
@@ -39,10 +39,10 @@ inline void moveControls(const CameraWindow &w)
     QTest::qWait(30);
 }
 
-/// Connects, sees a picture and disconnects, as if nothing had been.
+/// Connects, sees a picture and disconnects, as if nothing had happened.
 inline bool worksAgain(const CameraWindow &w)
 {
-    if (w.session().camera.cameraConnected) // after a refused closing, for example
+    if (w.session().camera.cameraConnected) // after a refused close, for example
         w.trigger("actionConnect");
     giveGoodFrames();
     w.trigger("actionConnect");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What lies in the settings file's place, and beside it?
+// What is in the settings file's place, and beside it?
 #pragma once
 
 #include "core/settingsfile.h"
@@ -16,10 +16,10 @@ inline void put(const QByteArray &bytes)
 {
     QFile file(settingsFilePath());
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(bytes) != bytes.size())
-        qFatal("the settings file can not be written");
+        qFatal("the settings file cannot be written");
 }
 
-/// The files beside the settings file that keep what was not read.
+/// The files beside the settings file that keep what could not be read.
 inline QStringList keptAside()
 {
     const QFileInfo place(settingsFilePath());
@@ -33,11 +33,11 @@ inline QByteArray bytesOf(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        qFatal("%s can not be read", qPrintable(path));
+        qFatal("%s cannot be read", qPrintable(path));
     return file.readAll();
 }
 
-/// Whatever a row has put there, with its rights restored.
+/// Removes whatever a row has put there and restores its permissions.
 inline void clearPlace()
 {
     const QByteArray path = settingsFilePath().toLocal8Bit();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Does the program start although the camera library crashes, ends it or hangs as it is loaded?
+// Does the program start although the camera library crashes, exits or hangs while it is loaded?
 #include "tests/reliability/handledsignals.h"
 #include "tests/support/patience.h"
 
@@ -21,7 +21,7 @@ void CrashingSdkTest::programStarts_data()
 {
     QTest::addColumn<QString>("way");
     QTest::addColumn<QByteArray>("complaint");
-    QTest::addColumn<QByteArray>("start"); // what comes of it
+    QTest::addColumn<QByteArray>("start"); // the outcome
     for (const char *const way : {"abort", "segmentation fault", "exit", "hang"})
         QTest::newRow(way) << way << QByteArray("is there and can not be used")
                            << QByteArray("InitVELDIXSDK success");

@@ -9,11 +9,11 @@ namespace
 {
 constexpr int cycles = 100;
 constexpr int windows = 20;
-/// Before counting: what is made once is made by then.
+/// Before counting: by then, everything that is created only once exists.
 constexpr int firstCycles = 5;
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr bool isSanitized = true; // freed memory is kept back
+constexpr bool isSanitized = true; // freed memory is kept
 #else
 constexpr bool isSanitized = false;
 #endif
@@ -74,7 +74,7 @@ void CyclesTest::connections()
     QVERIFY2(isSanitized || more < memoryAllowed, qPrintable(QString::number(more)));
 }
 
-/// Each window connects and is closed while pictures come.
+/// Each window connects and is closed while pictures arrive.
 void CyclesTest::manyWindows()
 {
     Held before{};

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Does the log file hold every line of every thread, and does the program write one when built so?
+// Does the log file hold every line of every thread, and does the program write one if built so?
 #include "app/logging.h"
 #include "tests/reliability/handledsignals.h"
 #include "tests/support/patience.h"
@@ -125,7 +125,7 @@ void FileLogTest::programWritesItsLog()
     QVERIFY(!program.readAllStandardError().contains("change region to"));
 }
 
-/// With a file in the place of its folder it starts and ends as ever, and complains line by line.
+/// With a file in the place of its folder it starts and ends normally, and reports each lost line.
 void FileLogTest::programGoesOnWithoutItsLog()
 {
     const QString inTheWay = folder->path() + "/Documents/Quorvandel";

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Does the window bear somebody who clicks, types and pulls the cable at random?
+// Does the window survive a user who clicks, types and pulls the cable at random?
 //
 // QUORVANDEL_MONKEY_SECONDS  how long, 20 where it is not set
 // QUORVANDEL_MONKEY_SEED     which random actions, 1 where it is not set; printed at the start
@@ -29,7 +29,7 @@ unsigned fromEnvironment(const char *name, unsigned otherwise)
 }
 } // namespace
 
-/// Does one random thing after another to the window and its dialogs.
+/// Performs one random action after another on the window and its dialogs.
 class Monkey : public QObject
 {
     Q_OBJECT
@@ -42,7 +42,7 @@ public:
     }
 
     void act();
-    QMap<QString, int> done; ///< how often each kind of action was taken
+    QMap<QString, int> done; ///< how often each kind of action was done
     int boxes = 0;           ///< that were answered
 
 private:
@@ -117,7 +117,7 @@ void Monkey::act()
     }
 }
 
-/// Any enabled widget of the type that can be seen; null if there is none.
+/// Any enabled, visible widget of the type; null if there is none.
 template <typename T> T *Monkey::anyVisible()
 {
     QList<T *> found;
@@ -134,7 +134,7 @@ QPoint Monkey::placeOn(const QWidget &widget)
     return {below(widget.width()), below(widget.height())};
 }
 
-/// Any button for a message, nothing for a dialog or menu that waits for an answer.
+/// Presses any button of a message box, and closes a dialog or menu without an answer.
 void Monkey::dismiss()
 {
     if (QWidget *const popup = QApplication::activePopupWidget())
@@ -238,7 +238,7 @@ void Monkey::failOperations()
     w.sky.write();
 }
 
-/// Chance alone seldom finds the way to the later steps.
+/// Chance alone rarely reaches the later steps.
 void Monkey::enterStep()
 {
     if (w.session().camera.cameraConnected)
@@ -270,7 +270,7 @@ void MonkeyTest::hammered()
 {
     const unsigned seed = fromEnvironment("QUORVANDEL_MONKEY_SEED", 1);
     const qint64 duration = 1000 * qint64(fromEnvironment("QUORVANDEL_MONKEY_SECONDS", 20));
-    // Not by qInfo, which Qt Test cuts off after 2000 messages.
+    // Not with qInfo, which Qt Test cuts off after 2000 messages.
     std::printf("seed %u, %lld seconds\n", seed, duration / 1000);
     std::fflush(stdout);
     for (const char *const scheme : {"http", "https", "file"})
@@ -291,7 +291,7 @@ void MonkeyTest::hammered()
                     pages);
         if (w.session().camera.cameraConnected)
             w.toggleConnection();
-        // An initialisation that was made to fail is tried again by a new window alone.
+        // An initialisation that was made to fail is only tried again by a new window.
         w.window->close();
         w.window.reset();
         w.open();

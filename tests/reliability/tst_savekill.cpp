@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Is the settings file whole, whenever the process that writes it is killed?
+// Is the settings file complete, whenever the process that writes it is killed?
 #include "core/settingsfile.h"
 
 #include <QDir>
@@ -15,8 +15,8 @@
 namespace
 {
 constexpr int kills = 200;
-/// A save waits no longer than that for what a killed process has left, milliseconds: a lock that
-/// nobody lets go is waited for half a minute.
+/// Longest time that a save waits because of what a killed process left behind, milliseconds. A
+/// lock that nobody releases costs half a minute.
 constexpr int longestWait = 20000;
 
 /// Two records that share no value; the second one's file takes many writes.
@@ -81,7 +81,7 @@ void SaveKillTest::killedWhileSaving()
     int seen[2] = {0, 0};
     qint64 longest = 0;
     for (int kill = 0; kill < kills; ++kill) {
-        // A file for each; the lock that a killed process has left is met by the save below.
+        // One file per process; the save below meets the lock that a killed process left behind.
         const QString path = folder.filePath(QString("%1.ini").arg(kill));
         writeSettings(path, recordOf(false));
         QProcess child;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Does the program bear a camera library that fails now and then?
+// Does the program cope with a camera library that fails now and then?
 #include "tests/reliability/sdkwindow.h"
 #include "tests/support/logrecorder.h"
 
@@ -14,7 +14,7 @@ namespace
 /// Which calls of an operation fail, counted from 1.
 struct Calls {
     int first, last;
-    int every = 1; ///< of those between, each that is a multiple of this
+    int every = 1; ///< of those calls, only each multiple of this
     bool contains(int n) const { return n >= first && n <= last && n % every == 0; }
 };
 constexpr int noEnd = 1 << 30;
@@ -24,8 +24,8 @@ struct Pattern {
     Calls failing;
 };
 
-/// From now on those calls of `operation` give `status`, the others 0. The count outlives the
-/// window, whose capture thread may call to the last.
+/// From now on those calls of `operation` return `status`, the others 0. The counter outlives the
+/// window, whose capture thread may call until the very end.
 void failCalls(const QString &operation, const Calls &failing, std::uint32_t status)
 {
     const auto count = std::make_shared<std::atomic<int>>(0);
@@ -68,8 +68,8 @@ void SdkIntermittentTest::parameters_data()
     QTest::newRow("every second") << Calls{1, noEnd, 2};
 }
 
-/// Two parameters are set by Connect and four by the sliders: a call that fails changes nothing
-/// about the next, and what was asked for stays shown.
+/// Connect sets two parameters and the sliders four: a failed call does not affect the next one,
+/// and the requested value stays shown.
 void SdkIntermittentTest::parameters()
 {
     QFETCH(Calls, failing);
@@ -137,7 +137,7 @@ void SdkIntermittentTest::opening_data()
                 << row.operation << row.hasBox << row.connects << row.critical << pattern.failing;
 }
 
-/// Each Connect comes to what its own calls come to, whatever the one before came to.
+/// Each Connect depends on its own calls only, not on the result of the one before.
 void SdkIntermittentTest::opening()
 {
     QFETCH(QString, operation);
@@ -179,7 +179,7 @@ void SdkIntermittentTest::closing_data()
             QTest::addRow("%s fails, %s", operation, pattern.name) << operation << pattern.failing;
 }
 
-/// A Disconnect whose closing fails leaves the camera connected; the next one tries again.
+/// A Disconnect whose close fails leaves the camera connected; the next one tries again.
 void SdkIntermittentTest::closing()
 {
     QFETCH(QString, operation);
@@ -219,7 +219,7 @@ void SdkIntermittentTest::fetches_data()
     }
 }
 
-/// A fetch that fails is a frame that is not there yet: the next one is shown.
+/// A failed fetch means that the frame is not there yet: the next one is shown.
 void SdkIntermittentTest::fetches()
 {
     QFETCH(Calls, failing);
@@ -251,7 +251,7 @@ void SdkIntermittentTest::bogusFrames_data()
     QTest::newRow("largest") << sdkError << sdkError << sdkError;
 }
 
-/// As many as are fetched, for a while; the window goes on, and good frames are shown again.
+/// For a while, every fetch gives one; the window goes on, and good frames are shown again.
 void SdkIntermittentTest::bogusFrames()
 {
     QFETCH(uint, width);

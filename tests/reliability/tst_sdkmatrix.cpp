@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Does the program bear every failure and every wrong answer of the camera library, at every point,
-// and connect again once that is over?
+// Does the program survive every failure and every wrong answer of the camera library, at every
+// point, and connect again afterwards?
 #include "tests/reliability/sdkwindow.h"
 #include "tests/support/logrecorder.h"
 
@@ -17,10 +17,10 @@ constexpr std::size_t bufferSize = 3686400;
 
 /// When the fault begins.
 enum class Moment {
-    Start,     ///< before the window is there
-    Live,      ///< while pictures come; the controls are moved, then Disconnect is chosen
-    Again,     ///< while pictures come; then Disconnect and Connect are chosen
-    WindowEnd, ///< while pictures come; then the window is closed
+    Start,     ///< before the window exists
+    Live,      ///< while pictures arrive; the controls are moved, then Disconnect is chosen
+    Again,     ///< while pictures arrive; then Disconnect and Connect are chosen
+    WindowEnd, ///< while pictures arrive; then the window is closed
 };
 const std::pair<Moment, const char *> moments[] = {{Moment::Start, "at the start"},
                                                    {Moment::Live, "while live"},
@@ -79,7 +79,7 @@ QList<Fault> allFaults()
     return faults;
 }
 
-/// What a Connect under a fault comes to.
+/// The result of a Connect under a fault.
 struct Outcome {
     bool connects = true;
     std::optional<Box> box;
@@ -159,19 +159,19 @@ void SdkMatrixTest::compareWith(const CameraWindow &w, const LogRecorder &log,
     QCOMPARE(bool(w.session().camera.cameraConnected), outcome.connects);
 }
 
-/// Chooses Connect under the fault and compares what comes of it.
+/// Chooses Connect under the fault and checks the result.
 void SdkMatrixTest::connecting(const CameraWindow &w, const Fault &fault, bool ready)
 {
     const LogRecorder log;
     const BoxWatcher boxes;
     w.trigger("actionConnect");
     const Outcome outcome = ready ? outcomeOfConnecting(fault) : Outcome{false, {}, {}};
-    // The capture thread's line comes late; without one the thread goes on to fetch.
+    // The capture thread logs its line late; without one the thread goes on to fetch.
     QTRY_COMPARE(log.texts(QtCriticalMsg), criticalLines(outcome));
     const int fetches = sdk().fetchCount();
     if (outcome.connects && fault.operation != "BeginVELDIXLive")
         QTRY_VERIFY(sdk().fetchCount() > fetches);
-    QTest::qWait(60); // and nothing more is said
+    QTest::qWait(60); // and nothing more is logged
     compareWith(w, log, boxes, outcome);
 }
 
@@ -211,7 +211,7 @@ void SdkMatrixTest::failure()
     if (moment == Moment::Again && !staysOpen)
         connecting(*w, fault, true);
     lift(fault);
-    if (moment == Moment::WindowEnd || neverReady) { // only a new start can do more
+    if (moment == Moment::WindowEnd || neverReady) { // only a new start can recover
         w.reset();
         w = std::make_unique<CameraWindow>();
     }
@@ -244,7 +244,7 @@ void SdkMatrixTest::frame_data()
                 << width << height << channels << bits << step;
 }
 
-/// Good frames, then strange ones, then good ones again; the mouse and the controls work meanwhile.
+/// Good frames, then strange ones, then good ones again; mouse and controls work meanwhile.
 void SdkMatrixTest::frame()
 {
     QFETCH(uint, width);
@@ -314,7 +314,7 @@ void SdkMatrixTest::id()
         QCOMPARE(bool(w.session().camera.cameraConnected), connects);
         QCOMPARE(boxes.boxes().size(), connects ? 0 : 1);
         QCOMPARE(log.texts(QtCriticalMsg).filter("too long").size(), id.size() > 255 ? 1 : 0);
-        // It is given back as it came, or not at all.
+        // It is returned unchanged, or not at all.
         QCOMPARE(sdkCalls({"OpenVELDIX"}),
                  connects ? QStringList("OpenVELDIX(" + id + ")") : QStringList());
         if (connects)
@@ -324,7 +324,7 @@ void SdkMatrixTest::id()
     QVERIFY(worksAgain(w));
 }
 
-/// A camera whose ID can not be given back does not hide the one behind it.
+/// A camera whose ID cannot be returned does not hide the one behind it.
 void SdkMatrixTest::tooLongIdIsPassedOver()
 {
     const CameraWindow w({}, [] {
@@ -344,7 +344,7 @@ void SdkMatrixTest::hangingFetch_data()
     QTest::newRow("Disconnect is chosen") << true;
 }
 
-/// The window goes on while a fetch hangs; Disconnect waits for it and no longer.
+/// The window stays usable while a fetch hangs; Disconnect waits for the fetch and no longer.
 void SdkMatrixTest::hangingFetch()
 {
     QFETCH(bool, disconnects);

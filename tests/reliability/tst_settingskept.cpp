@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Is what saving would lose of a settings file kept?
+// Is the content of a settings file that saving would lose kept?
 #include "tests/reliability/settingsplace.h"
 #include "tests/support/reachablecopy.h"
 #include "tests/support/sessionwindow.h"
@@ -46,7 +46,7 @@ void SettingsKeptTest::nothingIsLost_data()
     QTest::newRow("a letter") << QByteArray("Dear Quorvandel, my mount\n") << true;
 }
 
-/// What saving would not write back lies beside the settings file, to the last byte; a second save
+/// What saving would not write back is kept beside the settings file, byte for byte; a second save
 /// finds nothing more to keep.
 void SettingsKeptTest::nothingIsLost()
 {
@@ -67,7 +67,7 @@ void SettingsKeptTest::nothingIsLost()
              QVariant("1"));
 }
 
-/// What can be read of a file with an object stays where it is.
+/// The readable part of a file with an object stays where it is.
 void SettingsKeptTest::othersKeysStay()
 {
     put("[MINE]\na=b\nobject=@\\126ariant(\\0\\0\\0\\x0b\\0\\x10\\0\\0\\0)\nlist=1, \"2;3\"\n"
@@ -93,8 +93,8 @@ void SettingsKeptTest::rubbishDoesNotOutgrowTheLimit_data()
     QTest::newRow("plain") << "key%1=" + QByteArray(1000, 'x') + '\n' << false;
 }
 
-/// A file just below the limit, which the writer's escapes would make larger, is kept aside as it
-/// is, and read in full before that.
+/// A file just below the limit, which the writer's escapes would make larger, is kept aside
+/// unchanged, and read in full before that.
 void SettingsKeptTest::rubbishDoesNotOutgrowTheLimit()
 {
     QFETCH(QByteArray, line);
@@ -132,7 +132,7 @@ void SettingsKeptTest::aSecondOneIsKeptToo()
     QCOMPARE(kept, letters);
 }
 
-/// What can not be kept is not written over.
+/// What cannot be kept is not overwritten.
 void SettingsKeptTest::damagedFileThatCanNotBeWritten()
 {
     const QByteArray letter = "[STYLE]\nstyle=Mono\na letter\n";

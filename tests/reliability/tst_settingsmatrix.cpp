@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Does a window come up and work, whatever lies where the settings file belongs?
+// Does a window open and work, whatever is in the settings file's place?
 #include "tests/reliability/settingsplace.h"
 #include "tests/support/reachablecopy.h"
 #include "tests/support/sessionwindow.h"
@@ -82,8 +82,8 @@ QByteArray fileWith(const QString &key, const QByteArray &value)
            value + '\n';
 }
 
-/// A number as it is in force: the refraction dialog's boxes, which show two decimals, hold four of
-/// them in their ranges and write them back.
+/// The value in effect: the refraction dialog's boxes, which show two decimals, limit four of the
+/// numbers to their ranges and write them back.
 QString throughBox(const QString &key, const QString &number)
 {
     const struct {
@@ -100,26 +100,26 @@ QString throughBox(const QString &key, const QString &number)
     return number;
 }
 
-/// Works a window as far as a person might who has not connected: pictures, template, style.
+/// Uses a window as far as possible without a connection: pictures, template, style.
 void work(SessionWindow &window)
 {
     window.resize(1600, 1100);
     window.show();
     if (!QTest::qWaitForWindowExposed(&window, patience))
-        qFatal("the window does not come up");
+        qFatal("the window does not appear");
     QImage picture(1280, 960, QImage::Format_RGB888);
     picture.fill(Qt::blue);
     window.ownSession.frameQueue.append(picture);
     MainWindowProbe probe(window);
     probe.switchStep(2);
     if (!comesTrue([&window] { return window.ownSession.frameQueue.isEmpty(); }))
-        qFatal("the picture is not taken");
+        qFatal("the window shows no picture");
     QTest::mouseDClick(&named<QLabel>(window, "label_showImg"), Qt::LeftButton, {}, QPoint(0, 0));
     for (const int angle : {90, 359, 0})
         named<QSlider>(window, "horizontalSlider_confirm_match").setValue(angle);
     QTest::qWait(30);
     if (window.grab().isNull())
-        qFatal("the window can not be painted");
+        qFatal("the window cannot be painted");
 }
 } // namespace
 
@@ -213,13 +213,13 @@ void SettingsMatrixTest::content_data()
     QTest::newRow("keys without a group") << QByteArray("style=Mono\nfactor=0.5\n") << defaults;
     QTest::newRow("comments alone") << QByteArray("; nothing\n# here\n") << defaults;
     QTest::newRow("a million line ends") << QByteArray(1000000, '\n') << defaults;
-    // A list that says to have 2^28 or more entries, and no bytes for any.
+    // A list that claims 2^28 or more entries, without any bytes for them.
     for (const char *const count : {"\\x10\\0\\0\\0", "\\x7f\\xff\\xff\\xff"})
         for (const char *const type : {"@Variant", "@DateTime"})
             QTest::addRow("%s with a list of %s entries", type, count)
                 << fileWith(keys[0], QByteArray(type) + "(\\0\\0\\0\\x0b\\0" + count + ")")
                 << defaults;
-    // Written so that the bytes do not show it; the other keys hold.
+    // Written so that the bytes do not show it; the other keys are read.
     const QByteArray list = "\\0\\0\\0\\x0b\\0\\x10\\0\\0\\0)";
     for (const QByteArray &hidden :
          {"@Variant(" + list, "@\\126ariant(" + list, "@Variant\\x28" + list,
@@ -231,7 +231,7 @@ void SettingsMatrixTest::content_data()
             << [&] {
                    QStringList values = with(keys[3], "0.5");
                    values[0] = "Mono";
-                   if (hidden.startsWith("a, ")) // a list is no text
+                   if (hidden.startsWith("a, ")) // a list is not a text
                        values[1] = "";
                    return values;
                }();
@@ -269,7 +269,7 @@ QByteArray place8Bit()
 Q_DECLARE_METATYPE(Arrange)
 Q_DECLARE_METATYPE(After)
 
-/// What else than a file of ours may lie there, or in what kind of folder.
+/// What else may be there instead of our file, or in which kind of folder.
 void SettingsMatrixTest::place_data()
 {
     QTest::addColumn<Arrange>("arrange");
@@ -293,14 +293,14 @@ void SettingsMatrixTest::place_data()
         {"folder that is not empty", [] { QDir().mkpath(settingsFilePath() + "/within"); }, "Color",
          After::NoFile},
         {"read-only file", [=] { putWith(0444); }, "Mono", After::Unchanged},
-        {"file that can not be read", [=] { putWith(0000); }, "Color", After::Unchanged},
-        {"folder that can not be written",
+        {"file that cannot be read", [=] { putWith(0000); }, "Color", After::Unchanged},
+        {"folder that cannot be written",
          [=] {
              putWith(0644);
              limit(0555);
          },
          "Mono", After::Unchanged},
-        {"absent, folder that can not be written", [=] { limit(0555); }, "Color", After::NoFile},
+        {"absent, folder that cannot be written", [=] { limit(0555); }, "Color", After::NoFile},
         {"pipe", [] { mkfifo(place8Bit(), 0666); }, "Color", After::NoFile},
         {"link to nothing", [] { QFile::link("nowhere/at all.ini", settingsFilePath()); }, "Color",
          After::NoFile},
@@ -330,7 +330,7 @@ void SettingsMatrixTest::place()
     QCOMPARE(isFile, after != After::NoFile);
     if (!isFile)
         return;
-    QFile file(settingsFilePath()); // QSettings remembers what it read
+    QFile file(settingsFilePath()); // QSettings caches what it has read
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QByteArray bytes = file.readAll();
     if (after == After::Unchanged)
@@ -339,7 +339,7 @@ void SettingsMatrixTest::place()
         QVERIFY2(bytes.contains("style=Mono") && bytes.contains("P_unit=kPa"), bytes);
 }
 
-/// Read for its keys, in little memory and time; it makes room when the settings are saved.
+/// Its keys are read in little memory and time; saving the settings replaces it.
 void SettingsMatrixTest::hugeFile()
 {
     const auto peakOfOneWindow = [] {
@@ -358,7 +358,7 @@ void SettingsMatrixTest::hugeFile()
             QByteArray("[ZOOM]\nfactor=0.5\n") + QByteArray("a=b\n").repeated(1 << 18);
         while (file.size() < 25'000'000)
             QVERIFY(file.write(lines) == lines.size());
-        // No mark closes it; what follows is read all the same.
+        // No closing quote; what follows is read all the same.
         const QByteArray open = "[STYLE]\nb=\"" + QByteArray(1 << 21, 'x') + "\nstyle=Mono\n";
         QVERIFY(file.write(open) == open.size());
     }

@@ -61,7 +61,7 @@ void SignalDialogsTest::endsWhileWaiting()
             stillAsked = false;
         });
         QTimer::singleShot(500, [] { ::kill(::getpid(), SIGTERM); });
-        QTimer tooLong; // of this row alone
+        QTimer tooLong; // of this row only
         connect(&tooLong, &QTimer::timeout, [] { QCoreApplication::exit(1); });
         tooLong.start(patience);
         QCOMPARE(QApplication::exec(), 0);

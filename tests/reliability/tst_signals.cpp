@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Does a signal end the program as the close button does, with the settings saved?
+// Does a signal end the program like the close button, with the settings saved?
 #include "tests/reliability/handledsignals.h"
 #include "tests/support/patience.h"
 
@@ -14,13 +14,13 @@
 
 namespace
 {
-/// The folder of the program under test, whose settings file lies beside it.
+/// The folder of the program under test, with its settings file.
 QString settingsPath()
 {
     return QFileInfo(QStringLiteral(PROGRAM_FILE)).absolutePath() + "/Quorvandel.ini";
 }
 
-/// The program, running, in a home of its own.
+/// The running program, with a home of its own.
 class Program
 {
 public:
@@ -45,7 +45,7 @@ public:
         while (!errors.contains(text) && process.waitForReadyRead(patience));
         return errors.contains(text);
     }
-    /// Waits until the window is made and the event loop runs.
+    /// Waits until the window exists and the event loop runs.
     bool isReady()
     {
         return hasSaid("InitVELDIXSDK success") && comesTrue([this] {
@@ -112,7 +112,7 @@ void SignalsTest::signalClosesTheWindow()
     QCOMPARE(file.value("ZOOM/factor").toString(), QString("1"));
 }
 
-/// A second and a hundredth signal during the end do no harm to the file.
+/// A second and a hundredth signal during the shutdown do not damage the file.
 void SignalsTest::manySignals()
 {
     Program program;
@@ -148,7 +148,7 @@ void SignalsTest::otherSignalsStay()
     QVERIFY(!QFile::exists(settingsPath()));
 }
 
-/// No thread can be ended inside a library: the process ends without it, with everything saved.
+/// A thread cannot be ended inside a library: the process exits without it, with everything saved.
 void SignalsTest::endsThoughTheCameraLibraryHangs()
 {
     Program program(HANGING_FOLDER);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What if the camera's cable is pulled and put back, in any step of the alignment?
+// What if the camera's cable is pulled and plugged in again, in any step of the alignment?
 #include "tests/reliability/virtualwindow.h"
 
 #include "mainwindow/wizardtable.h"
@@ -38,7 +38,7 @@ void UnplugTest::unplugged_data()
             QTest::addRow("step %d, %s", step, name) << step << then;
 }
 
-/// What somebody tries while no picture comes.
+/// What a user tries while no picture arrives.
 void UnplugTest::useControls(const VirtualWindow &w)
 {
     for (const char *const name : {"sliderExpose", "sliderGain", "sliderTraffic", "sliderSpeed"})
@@ -61,7 +61,7 @@ void UnplugTest::unplugged()
     QVERIFY(w.hasNewPicture());
 
     w.plug(false);
-    // The frame under way and those that wait are still shown.
+    // The frame in progress and the waiting ones are still shown.
     QTRY_VERIFY(!w.hasNewPicture(500));
     QCOMPARE(w.window->step(), step);
     QVERIFY(w.session().camera.cameraConnected);

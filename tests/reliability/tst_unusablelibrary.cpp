@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Does a camera library that is there and can not be used keep the virtual sky away?
+// Does a camera library that is present but unusable keep the virtual sky away?
 #include "tests/support/sessionwindow.h"
 #include "tests/window/windowtest.h"
 
@@ -16,13 +16,13 @@ namespace
 {
 const QString soname = QStringLiteral("libveldix.so.20");
 
-/// The folder that the loader searches first, by the environment of the test.
+/// The folder that the loader searches first, according to the test's environment.
 QString pathOfLoader()
 {
     return QString::fromLocal8Bit(qgetenv("LD_LIBRARY_PATH"));
 }
 
-/// The box that a press of Connect brings up, answered; empty without one.
+/// Presses Connect and closes the box that appears; returns its text, empty without a box.
 QString boxOfConnect(MainWindow &window)
 {
     QString text;
@@ -49,7 +49,7 @@ private slots:
     void withoutItTheVirtualCameraConnects();
 };
 
-/// The virtual camera lies where an installed program has it, and something else goes before it.
+/// The virtual camera is where an installed program has it, and another library precedes it.
 void UnusableLibraryTest::initTestCase()
 {
     initialiseResources();
@@ -73,7 +73,7 @@ void UnusableLibraryTest::connectFindsNothing()
     window.close();
 }
 
-/// The other half: it was the broken library alone that kept it away.
+/// The counterpart: only the broken library kept it away.
 void UnusableLibraryTest::withoutItTheVirtualCameraConnects()
 {
     QVERIFY(QFile::remove(pathOfLoader() + '/' + soname));

@@ -12,7 +12,7 @@
 #include <QSlider>
 #include <memory>
 
-/// The sky file of this test, of which the virtual camera is told by the environment.
+/// This test's sky file; the environment passes its path to the virtual camera.
 inline std::string skyFileOfTest()
 {
     const QString path = QCoreApplication::applicationDirPath() + "/sky.ini";
@@ -43,7 +43,7 @@ public:
         window->resize(1600, 1100);
         window->show();
         if (!QTest::qWaitForWindowExposed(window.get(), patience))
-            qFatal("the window does not come up");
+            qFatal("the window does not appear");
     }
 
     Session &session() const { return window->ownSession; }
@@ -60,7 +60,7 @@ public:
         return hasNewPicture();
     }
 
-    /// Whether a picture comes from now on.
+    /// Whether a new picture comes in that time.
     bool hasNewPicture(int milliseconds = patience) const
     {
         auto &label = named<QLabel>(*window, "label_showImg");

@@ -1,6 +1,6 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""Where stars lie in the template masks, by astropy and independently of tools/make_masks.py.
+"""Where are the stars in the template masks? By astropy, independently of tools/make_masks.py.
 
     tests/resources/golden_masks.py
 
@@ -20,7 +20,7 @@ DATE = Time("2024-07-01")
 LIST = pathlib.Path(__file__).resolve().parents[2] / "astrometry/pole_stars.csv"
 
 # A, B and D by their places (degrees, J2000) with their template pixels, then further stars by HD
-# number; the sign tells how right ascension grows on the screen (+1 clockwise).
+# number; the sign gives how right ascension grows on the screen (+1 clockwise).
 FIELDS = [
     ("north", 1, [(259.23525, 89.03772), (37.95454, 89.26411), (351.75363, 87.30750)],
      [445 + 218j, 400 + 400j, 648 + 495j], ["5848", "107192", "5914", "221142"]),

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Do the two commands say how far a stage is, why it failed, what was counted and what is waited
+// Do the two commands report a stage's progress, why it failed, what was counted and what is waited
 // for?
 #include <QDir>
 #include <QFile>
@@ -34,8 +34,8 @@ private:
             qFatal("cannot write %s", qPrintable(name));
     }
 
-    /// Runs commands of bash after the scripts' functions are known, in a folder that has the
-    /// project's tools in it.
+    /// Runs bash commands after sourcing the scripts' functions, in a folder with the project's
+    /// tools.
     Outcome bash(const QString &commands, const QStringList &arguments = {}) const
     {
         QProcess process;
@@ -48,11 +48,11 @@ private:
         if (!process.waitForFinished(60'000))
             qFatal("the script does not end");
         QString text = QString::fromUtf8(process.readAll());
-        text.replace(QRegularExpression("\\(\\d+ s\\)"), "(0 s)"); // whatever it took
+        text.replace(QRegularExpression("\\(\\d+ s\\)"), "(0 s)"); // the time varies
         return {text, process.exitCode()};
     }
 
-    /// Puts a program of this name in front of the system's.
+    /// Puts a program of this name before the system's on the search path.
     void standIn(const QString &name, const QByteArray &script) const
     {
         write("bin/" + name, "#!/bin/bash\n" + script);
@@ -80,7 +80,7 @@ private slots:
     void lintsAreNotForQuick();
 };
 
-/// The ways of failing run once, under the real ctest.
+/// The failing tests run once, under the real ctest.
 void ScriptsTest::initTestCase()
 {
     QVERIFY(folder.isValid());
@@ -135,7 +135,7 @@ void ScriptsTest::aStageThatFails()
     QVERIFY(!outcome.text.contains("\n    60\n"));
 }
 
-/// What a compiler said counts, not what others did until the end.
+/// A compiler's messages are shown, not what others print until the end.
 void ScriptsTest::errorsBeforeTheEnd()
 {
     write("said", "a.cpp:3:1: error: 'x' was not declared\n   3 | x;\n" +
@@ -192,7 +192,7 @@ void ScriptsTest::reasons()
     QVERIFY2(said.contains(text), qPrintable(said));
 }
 
-/// Two hundred lines of the media framework's and of the program's own are not among the reasons.
+/// Two hundred lines of the media framework and of the program itself are not listed as reasons.
 void ScriptsTest::noNoise()
 {
     const QString said =

@@ -32,7 +32,7 @@ void NoDecoderTest::givesUp()
     };
     action.trigger();
     QTRY_VERIFY(failures() > 0);
-    QTest::qWait(1000); // a service that goes on fails some hundred times in a second
+    QTest::qWait(1000); // a service that does not give up fails some hundred times a second
     QVERIFY2(failures() <= 2, qPrintable(QString::number(failures())));
     QCOMPARE(player.state(), QMediaPlayer::StoppedState);
     QCOMPARE(player.volume(), 0);
@@ -40,7 +40,7 @@ void NoDecoderTest::givesUp()
 
 int main(int argc, char *argv[])
 {
-    // This one test is about the service that the others are kept from.
+    // Only this test is about the service that is hidden from the others.
     qunsetenv("GST_PLUGIN_SYSTEM_PATH_1_0");
     qputenv("GST_PLUGIN_FEATURE_RANK",
             "mpg123audiodec:NONE,avdec_mp3:NONE,avdec_mp3float:NONE,mad:NONE,mpegaudioparse:NONE");

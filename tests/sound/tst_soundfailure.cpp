@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What happens where the sound can not be played: no service, or one that has no decoder?
+// What happens if the sound cannot be played: no service, or one without a decoder?
 #define QT_STATICPLUGIN
 
 #include "resources/resources.h"
@@ -20,7 +20,7 @@ bool isServiceThere = true;
 int plays = 0; ///< how often the service was asked to play
 } // namespace
 
-/// Finds a moment after each start that it has no decoder for the item.
+/// Reports, a moment after each start, that it has no decoder for the item.
 class FailingControl : public SilentControl
 {
 public:
@@ -34,7 +34,7 @@ public:
         SilentControl::play();
         QTimer::singleShot(1, this, [this] { fail(QMediaPlayer::FormatError, "no decoder"); });
     }
-    /// A moment later, as the services do it; a start in between takes it back.
+    /// Takes effect a moment later, as in real services; a start in between cancels it.
     void stop() override
     {
         isStopping = true;
@@ -75,7 +75,7 @@ private slots:
 void SoundFailureTest::initTestCase()
 {
     initialiseResources();
-    QCoreApplication::setLibraryPaths({}); // no sound service of the system's
+    QCoreApplication::setLibraryPaths({}); // no sound service from the system
 }
 
 void SoundFailureTest::isLoggedAndNothingElse_data()
@@ -88,7 +88,7 @@ void SoundFailureTest::isLoggedAndNothingElse_data()
         << "the sound can not be played: The QMediaPlayer object does not have a valid service";
 }
 
-/// Twice: a failure does not keep the next start from being tried.
+/// Twice: a failure does not prevent the next start from trying.
 void SoundFailureTest::isLoggedAndNothingElse()
 {
     QFETCH(bool, service);
@@ -105,7 +105,7 @@ void SoundFailureTest::isLoggedAndNothingElse()
         QVERIFY(action.isChecked());
         QTRY_VERIFY(log.contains(QtWarningMsg, line));
         QTest::qWait(200); // long enough for a hundred further tries
-        // A start that activates the playlist anew asks the service twice.
+        // A start that activates the playlist again asks the service twice.
         QVERIFY2(plays <= 2, qPrintable(QString::number(plays)));
         QCOMPARE(plays > 0, service);
         const QStringList warnings = log.texts(QtWarningMsg);

@@ -43,21 +43,21 @@ inline char *toString(const Box &box)
     return qstrdup(qPrintable(text));
 }
 
-/// A modal box over the main window with an Ok button alone.
+/// A modal box over the main window with only an Ok button.
 inline Box okBox(QMessageBox::Icon icon, const QString &title, const QString &text)
 {
     return {icon, title, text, {QMessageBox::Ok}, QMessageBox::Ok, true, true, true};
 }
 
-/// The box that says which operation has kept the camera from being connected.
+/// The box that names the operation that prevented the connection.
 inline Box failedBox(const char *operation)
 {
     return okBox(QMessageBox::Critical, "Error",
                  QStringLiteral("Can not connect Quorvandel as %1 error!").arg(operation));
 }
 
-/// While it lives, notes every message box that comes up and answers it; any other modal dialog is
-/// given to `onDialog`.
+/// While it exists, records every message box that appears and answers it; any other modal dialog
+/// is passed to `onDialog`.
 class BoxWatcher : public QObject
 {
 public:
@@ -68,7 +68,7 @@ public:
         connect(&timer, &QTimer::timeout, this, &BoxWatcher::look);
         timer.start(5);
     }
-    /// @param button which every box must have
+    /// @param button that every box must have
     explicit BoxWatcher(QMessageBox::StandardButton button) : BoxWatcher() { answer = button; }
 
     const QList<Box> &boxes() const { return seen; }

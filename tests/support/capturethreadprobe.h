@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// In which matrices does a capture thread work?
+// Which matrices does a capture thread use?
 #pragma once
 
 #include "camera/capturethread.h"

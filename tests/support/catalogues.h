@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What stands in a Qt Linguist catalogue?
+// What is in a Qt Linguist catalogue?
 #pragma once
 
 #include <QFile>
@@ -13,7 +13,7 @@ struct Message {
     QString context, source, translation, state;
 };
 
-/// Of a .ts file, in its order; none where it can not be read.
+/// The messages of a .ts file, in its order; none if it cannot be read.
 inline QList<Message> messagesOf(const QString &path)
 {
     QFile file(path);

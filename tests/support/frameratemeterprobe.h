@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Between which times has the frame rate been measured?
+// Which times has the frame rate been measured from?
 #pragma once
 
 #include "camera/framerate.h"
@@ -17,7 +17,7 @@ public:
         const Locker lock(meter.mutex);
         return meter.lastFrameTime;
     }
-    /// From the end of the last interval to the beginning of the next, milliseconds.
+    /// From the end of the last interval to the start of the next, milliseconds.
     std::int32_t betweenIntervals() const
     {
         const Locker lock(meter.mutex);

@@ -7,7 +7,7 @@
 
 namespace
 {
-// A std::mutex, since its lock is seen by the thread sanitizer.
+// A std::mutex, since the thread sanitizer sees its lock.
 std::mutex recordMutex;
 QList<LogLine> record;
 

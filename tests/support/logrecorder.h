@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Which lines does the code under test log? Records every message of Qt's logger while it lives.
+// Which lines does the code under test log? Records every message of Qt's logger while it exists.
 #pragma once
 
 #include <QList>
@@ -16,8 +16,8 @@ inline bool operator==(const LogLine &a, const LogLine &b)
     return a.type == b.type && a.text == b.text;
 }
 
-/// Takes the place of the message handler from construction to destruction (one at a time).
-/// Messages of any thread are kept; the recorder may be read from any thread.
+/// Replaces the message handler from construction to destruction (one at a time). Messages of any
+/// thread are kept; the recorder may be read from any thread.
 class LogRecorder
 {
 public:

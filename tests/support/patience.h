@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How long does a test wait for what must come?
+// How long does a test wait for what must happen?
 #pragma once
 
 #include <QtTest/QtTest>
@@ -7,14 +7,15 @@
 /// Milliseconds: far longer than anything takes on a machine that is busy with other tests.
 constexpr int patience = 30000;
 
-/// Whether `condition` has come true in that time. It is asked no more once it was true.
+/// Whether `condition` becomes true in that time. It is not evaluated again once it was true.
 template <typename Condition> bool comesTrue(const Condition &condition)
 {
     return QTest::qWaitFor(condition, patience);
 }
 
-// The toolkit's own forms wait five seconds, too few there, and ask once more after the condition
-// came true: what is true for a moment alone, as a process that sleeps, fails them.
+// The toolkit's own macros wait five seconds, too short here, and evaluate the condition again
+// after it became true. A condition that is true only for a moment, such as a sleeping process,
+// fails them.
 #undef QTRY_VERIFY
 #define QTRY_VERIFY(condition)                                                                     \
     QVERIFY2(comesTrue([&] { return bool(condition); }), "never came true: " #condition)

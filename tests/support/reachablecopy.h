@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Where can a test work whose OrdinaryUser must reach the folder of its executable?
+// Where can a test run whose OrdinaryUser must be able to access the executable's folder?
 #pragma once
 
 #include "tests/support/ordinaryuser.h"
@@ -20,8 +20,8 @@ namespace reachablecopy
 {
 constexpr char mark[] = "QUORVANDEL_TEST_COPY";
 
-/// Whether OrdinaryUser may start it: every folder above it lets others in, and its file system
-/// lets programs be started.
+/// Whether OrdinaryUser may start it: every folder above it is accessible to others, and its file
+/// system permits execution.
 inline bool reaches(const QByteArray &program)
 {
     const OrdinaryUser user;
@@ -43,9 +43,9 @@ inline int run(const QByteArray &program, char *argv[])
 }
 } // namespace reachablecopy
 
-/// For root, runs a copy of this executable in a temporary folder that OrdinaryUser reaches, and
-/// gives its status: root's home, and so the build folder, may be closed to others. Nothing in the
-/// copy itself, and for other users, who work where they are.
+/// As root, runs a copy of this executable in a temporary folder that OrdinaryUser can access, and
+/// returns its status: root's home, and so the build folder, may be closed to others. Empty in the
+/// copy itself, and for other users, who run in place.
 inline std::optional<int> statusOfCopy(char *argv[])
 {
     using namespace reachablecopy;
@@ -62,5 +62,5 @@ inline std::optional<int> statusOfCopy(char *argv[])
             reaches(program))
             return run(program, argv);
     }
-    qFatal("there is no folder that an ordinary user reaches");
+    qFatal("no folder is accessible to an ordinary user");
 }

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-// How does a test make a window that shares its state with nobody?
+// How does a test create a window that shares its state with no other?
 #pragma once
 
 #include "camera/session.h"
 #include "mainwindow/mainwindow.h"
 
-/// First among the bases of a window, so that the session is there before it and outlives it.
+/// First base class of a window, so that the session exists before the window and outlives it.
 struct OwnSession {
     Session ownSession;
 };

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Which key of the sky file is meant, and is a text taken as a sky file?
+// Which key of the sky file is meant, and is a text accepted as a sky file?
 #pragma once
 
 #include "virtualcamera/skyfile.h"
@@ -22,7 +22,7 @@ inline const virtualsky::SkyKey &keyNamed(const QString &wanted)
     qFatal("no such key");
 }
 
-/// Empty = the text was taken.
+/// Empty = the text was accepted.
 inline QString faultOf(const QByteArray &text)
 {
     try {

@@ -9,7 +9,7 @@
 #include <QMediaService>
 #include <QMediaTimeRange>
 
-/// Takes every item and plays nothing, but keeps the state that a player would have.
+/// Accepts every item and plays nothing, but keeps the state that a player would have.
 class SilentControl : public QMediaPlayerControl
 {
 public:
@@ -56,7 +56,7 @@ protected:
         now = next;
         emit stateChanged(next);
     }
-    /// The item turns out to be none that can be played.
+    /// The item turns out to be unplayable.
     void fail(QMediaPlayer::Error reason, const QString &text)
     {
         status = QMediaPlayer::InvalidMedia;

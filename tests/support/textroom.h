@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Has every text of a window the room that it needs?
+// Does every text of a window have the room that it needs?
 #pragma once
 
 #include <QAbstractButton>
@@ -10,7 +10,7 @@
 #include <QStringList>
 #include <algorithm>
 
-/// What `has` is short of `needed`, in words; empty if it is not.
+/// How far `has` falls short of `needed`, in words; empty if it is enough.
 inline QString lack(const QWidget &widget, QSize needed, QSize has)
 {
     if (needed.width() <= has.width() && needed.height() <= has.height())
@@ -23,8 +23,7 @@ inline QString lack(const QWidget &widget, QSize needed, QSize has)
         .arg(has.height());
 }
 
-/// What is missing of the room that the text of a label, button or combo box needs; empty if
-/// nothing is.
+/// How much room the text of a label, button or combo box lacks; empty if none.
 inline QString lackOf(const QWidget &widget)
 {
     const auto *const label = qobject_cast<const QLabel *>(&widget);
@@ -34,7 +33,7 @@ inline QString lackOf(const QWidget &widget)
     if (!isText)
         return {};
     const bool wraps = label && label->wordWrap();
-    // Text may use the line spacing above and below its letters: what counts is the ink.
+    // Text may use the line spacing above and below its letters: only the ink counts.
     const QFontMetrics metrics(widget.font());
     const int neededWidth = wraps ? 0 : widget.sizeHint().width();
     const int neededHeight = wraps ? widget.heightForWidth(widget.width())
@@ -42,14 +41,14 @@ inline QString lackOf(const QWidget &widget)
     return lack(widget, {neededWidth, neededHeight}, widget.size());
 }
 
-/// Layouts within layouts settle one after the other.
+/// Nested layouts settle one after the other.
 inline void settle()
 {
     for (int i = 0; i < 6; ++i)
         QCoreApplication::processEvents();
 }
 
-/// One line a widget of the window, those in dialogs of its own left out.
+/// One line per widget of the window, except those in its own dialogs.
 inline QStringList lacksIn(const QWidget &window)
 {
     QStringList lacks;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Which texts does the toolkit look up, in a walk through a window's context menus and dialogs,
-// that no catalogue has?
+// that no catalogue translates?
 #pragma once
 
 #include <QApplication>
@@ -14,7 +14,7 @@
 #include <QTranslator>
 #include <functional>
 
-/// Installed before all others, it is asked last: for what they do not translate.
+/// Installed before all others, so it is asked last: for texts that the others do not translate.
 class LastTranslator : public QTranslator
 {
 public:
@@ -40,12 +40,11 @@ private:
     mutable QSet<QString> asked;
 };
 
-/// Asks `widget` for its context menu at a place of its own, and closes the menu; the entries that
-/// it had.
+/// Requests the context menu of `widget` at a place of its own, closes it, and returns its entries.
 inline QStringList contextMenuOf(QWidget &widget, QPoint place)
 {
     QStringList entries;
-    QTimer closing; // some menus hold the event until they are closed
+    QTimer closing; // some menus block the event until they are closed
     QObject::connect(&closing, &QTimer::timeout, [&entries] {
         if (const auto *const menu = qobject_cast<QMenu *>(QApplication::activePopupWidget()))
             for (const QAction *const action : menu->actions())
@@ -61,7 +60,7 @@ inline QStringList contextMenuOf(QWidget &widget, QPoint place)
     return entries;
 }
 
-/// Of all visible widgets of a window; the entries that were there.
+/// Of all visible widgets of a window; returns the entries.
 inline QStringList contextMenusIn(QWidget &window)
 {
     QStringList entries;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the tests of the virtual sky share: a quiet state, a rendered frame, a plain centroid.
+// What do the tests of the virtual sky share? A quiet state, a rendered frame, a plain centroid.
 #pragma once
 
 #include <algorithm>
@@ -53,7 +53,7 @@ inline Frame render(const SkyState &state, const std::vector<ImagedStar> &stars,
     return frame;
 }
 
-/// Centre of what lies above the dark level in a square about a place.
+/// Centre of the light above the dark level in a square around a place.
 inline Point centroid(const Frame &frame, const Point &near, int radius, unsigned channel = 0)
 {
     const int middleX = static_cast<int>(std::lround(near.x));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Do the stars stand where astropy puts them?
+// Are the stars where astropy puts them?
 #include <QFile>
 #include <QtTest>
 
@@ -9,7 +9,7 @@ using namespace virtualsky;
 
 namespace
 {
-// The two programs agree to some milliarcseconds; the sky promises one arcsecond.
+// The two programs agree within a few milliarcseconds; the sky promises one arcsecond.
 constexpr double toleranceArcseconds = 0.05;
 
 Vector3 horizonOf(double altitudeDegrees, double azimuthDegrees)

@@ -63,7 +63,7 @@ void ClocksTest::frameIsReadyAfterItsPeriod()
 
 void ClocksTest::latenessDoesNotAddUp()
 {
-    // Asked every 10 ms, as the program does: 30 frames a second all the same.
+    // Polled every 10 ms, as the program does: still 30 frames a second.
     FrameClock clock;
     clock.begin(0.0, 1.0 / 30.0);
     int frames = 0;
@@ -105,7 +105,7 @@ void ClocksTest::skyTime_data()
     QTest::addColumn<double>("date"); // -1 = now
     QTest::addColumn<bool>("running");
     QTest::addColumn<double>("first");
-    QTest::addColumn<double>("later"); // 50 seconds on
+    QTest::addColumn<double>("later"); // 50 seconds later
     QTest::newRow("now") << -1.0 << true << 1000.0 << 1050.0;
     QTest::newRow("now does not freeze") << -1.0 << false << 1000.0 << 1050.0;
     QTest::newRow("running date") << 7e8 << true << 7e8 << 7e8 + 50.0;
@@ -133,12 +133,12 @@ void ClocksTest::newDateStartsAnew()
     SkyState state;
     state.date = 7e8;
     clock.at(state, 1000.0);
-    state.boltAltitude = 2.0; // no reason to start anew
+    state.boltAltitude = 2.0; // no reason to restart
     QCOMPARE(clock.at(state, 1010.0).utcSeconds, 7e8 + 10.0);
     state.date = 8e8;
     QCOMPARE(clock.at(state, 1020.0).utcSeconds, 8e8);
     QCOMPARE(clock.at(state, 1021.0).utcSeconds, 8e8 + 1.0);
-    // Tracking begins anew with the date, or years would be tracked in one step.
+    // Tracking restarts with the date; otherwise years would be tracked in one step.
     state.tracking = true;
     clock.at(state, 1022.0);
     state.date = 9e8;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Is every picture labelled, and does the label leave the search for stars alone?
+// Is every picture labelled, and does the label not disturb the search for stars?
 #include "tests/virtualcamera/skytest.h"
 
 #include "geometry/stardetection.h"
@@ -23,7 +23,7 @@ std::vector<std::uint8_t> labelled(int width, int height, unsigned channels, std
     return frame;
 }
 
-/// What the label makes of a flat frame, as rows of '#' and '.'.
+/// How the label changes a flat frame, as rows of '#' and '.'.
 QStringList rowsOf(const std::vector<std::uint8_t> &frame, int width, unsigned channels, int level)
 {
     QStringList rows;
@@ -106,7 +106,7 @@ void LabelTest::everyPictureHasIt_data()
     QTest::newRow("saturated") << QByteArray("[faults]\npicture = saturated\n") << true;
 }
 
-/// The same frame with the label and without differs by the label alone.
+/// The same frame with and without the label differs by the label alone.
 void LabelTest::everyPictureHasIt()
 {
     QFETCH(QByteArray, sky);
@@ -143,7 +143,7 @@ void LabelTest::noStarIsFoundInIt_data()
             QTest::addRow("star of %g magnitudes in column %g", magnitude, x) << magnitude << x;
 }
 
-/// Every click about the label gives what it gives without: the star nearby, or nothing.
+/// Every click near the label has the same result as without it: the star nearby, or nothing.
 void LabelTest::noStarIsFoundInIt()
 {
     QFETCH(double, magnitude);

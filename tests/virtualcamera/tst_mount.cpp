@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Do bolts, RA axis, tracking and the camera's place move the picture as on a real mount?
+// Do bolts, RA axis, tracking and the camera's place move the picture as a real mount does?
 #include <QtTest>
 
 #include "tests/virtualcamera/skytest.h"
@@ -135,7 +135,7 @@ void MountTest::boltsMoveThePole_data()
     const double southSlant = std::cos(degree * 35.0) * oneDegree;
     QTest::newRow("north: axis raised, pole falls") << 40.0 << 1.0 << 0.0 << 0.0 << oneDegree;
     QTest::newRow("south: axis raised, pole falls") << -35.0 << 1.0 << 0.0 << 0.0 << oneDegree;
-    // East is on the right of somebody who looks north and on the left of somebody who looks south.
+    // East is on the right when looking north and on the left when looking south.
     QTest::newRow("north: axis east, pole goes left") << 40.0 << 0.0 << 1.0 << -slant << 0.0;
     QTest::newRow("south: axis east, pole goes right") << -35.0 << 0.0 << 1.0 << southSlant << 0.0;
 }
@@ -236,7 +236,7 @@ void MountTest::trackingHoldsTheStars()
     const Truth first = truth(state, may2024);
     const Truth later = truth(state, may2024 + 7200.0);
     QVERIFY(distance(*first.axis, *later.axis) < 1e-9);
-    // A misaligned axis lets the pole and the stars drift: two hours are 30.08 degrees about it.
+    // With a misaligned axis the pole and the stars drift: two hours are 30.08 degrees about it.
     const double radius = distance(*first.pole, *first.axis);
     const double drift = 2.0 * radius * std::sin(15.041 * degree);
     QVERIFY(std::abs(distance(*first.pole, *later.pole) - drift) < 0.1);

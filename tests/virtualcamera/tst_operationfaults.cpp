@@ -14,7 +14,7 @@ using virtualsky::operationNames;
 
 namespace
 {
-// Calls one operation as it would succeed; true = it said so.
+// Calls one operation so that it would succeed; true = it reports success.
 bool succeeds(int operation, void *handle)
 {
     const VeldixLibrary &v = veldix();
@@ -94,7 +94,7 @@ void OperationFaultsTest::namedOperationFails()
     QVERIFY(camera);
     const std::string name(operationNames[static_cast<std::size_t>(operation)]);
     setSky(("[camera]\nunthrottled = true\n[faults]\nfail = " + name + "\n").c_str());
-    // The named one alone fails; Close comes last, since it would spoil the others.
+    // Only the named one fails; Close comes last, since it would affect the others.
     for (int other = 0; other < 16; ++other) {
         if (other == 14 || other == 15)
             continue;
@@ -145,7 +145,7 @@ void OperationFaultsTest::frameNeverBlocks()
     for (int i = 0; i < 100; ++i)
         QVERIFY(frame.fetch(veldix(), camera) != 0u);
     QVERIFY(timer.elapsed() < patience);
-    // A shorter exposure takes over from the running one.
+    // A shorter exposure replaces the running one.
     QCOMPARE(veldix().setParam(camera, exposureControl, 1000.0), 0u);
     QVERIFY(comesTrue([&] { return frame.fetch(veldix(), camera) == 0u; }));
     QCOMPARE(veldix().close(camera), 0u);
@@ -159,8 +159,8 @@ void OperationFaultsTest::frameRate()
     void *const camera = veldix().openLive();
     QCOMPARE(veldix().setParam(camera, exposureControl, 180000.0), 0u);
     VeldixFrame frame;
-    // 180 ms and 13.3 ms of read-out, counted from the beginning: never early, however often it is
-    // asked.
+    // 180 ms and 13.3 ms of read-out, counted from the start: never early, however often it is
+    // polled.
     for (int i = 1; i <= 6; ++i) {
         while (frame.fetch(veldix(), camera) != 0u)
             QTest::qSleep(1);
@@ -193,7 +193,7 @@ void OperationFaultsTest::unpluggedCamera()
     QVERIFY(!veldix().open("QUORVANDEL-V0001"));
     QCOMPARE(veldix().setParam(camera, exposureControl, 1000.0), failure);
     QCOMPARE(veldix().beginLive(camera), failure);
-    // Plugged in again, the open camera goes on.
+    // Plugged in again, the open camera continues.
     init();
     QCOMPARE(frame.fetch(veldix(), camera), 0u);
     setSky("[faults]\nunplugged = true\n");

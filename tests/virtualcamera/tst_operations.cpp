@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Do the sixteen operations take and refuse what the interface says?
+// Do the sixteen operations accept and refuse what the interface specifies?
 #include <QProcess>
 #include <QtTest>
 #include <limits>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Does the sensor answer to light, exposure, gain and weather as a camera does?
+// Does the sensor respond to light, exposure, gain and weather like a real camera?
 #include <QtTest>
 
 #include "tests/virtualcamera/skytest.h"
@@ -30,7 +30,7 @@ void SensorTest::visibility_data()
     QTest::addColumn<double>("magnitude");
     QTest::addColumn<double>("seconds");
     QTest::addColumn<double>("gain");
-    QTest::addColumn<bool>("shows"); // the peak stands 3 sigma or more above the background
+    QTest::addColumn<bool>("shows"); // the peak is 3 sigma or more above the background
     QTest::newRow("V 8 at 500 ms, gain 50") << 8.0 << 0.5 << 50.0 << true;
     QTest::newRow("V 9 at 500 ms, gain 50") << 9.0 << 0.5 << 50.0 << true;
     QTest::newRow("V 11 at 500 ms, gain 50") << 11.0 << 0.5 << 50.0 << false;
@@ -123,7 +123,7 @@ void SensorTest::lightIsIntegratedOverPixels()
     SkyState state = darkState();
     state.fwhm = 0.5;
     state.seeing = 0.0;
-    // So narrow that nearly all light falls into one pixel, and half of it on either side of an
+    // So narrow that nearly all light falls into one pixel, or half of it on either side of an
     // edge.
     const Frame inside = oneStar(state, 8.0, 0.5, 50.0);
     const Frame between = oneStar(state, 8.0, 0.5, 50.0, {640.5, 480.0});
@@ -185,7 +185,8 @@ void SensorTest::saturatesFlat()
     for (int y = 479; y <= 481; ++y)
         for (int x = 639; x <= 641; ++x)
             QCOMPARE(polaris.at(x, y), 255);
-    // The flat core is round about the star: its centre is good to a part of a pixel still.
+    // The flat core is symmetric about the star: its centre is still accurate to a fraction of a
+    // pixel.
     QVERIFY(distance(centroid(polaris, place, 12), place) < 0.1);
 }
 

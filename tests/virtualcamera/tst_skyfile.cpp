@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Is the sky file read as it is documented, and refused as a whole when anything is wrong?
+// Is the sky file read as documented, and refused as a whole if anything is wrong?
 #include <QFile>
 #include <QtTest>
 #include <random>
@@ -185,7 +185,7 @@ void SkyFileTest::faultNamesKeyAndLine()
 {
     try {
         parse("[site]\n\nlongitude = 181\n");
-        QFAIL("taken");
+        QFAIL("accepted");
     } catch (const SkyFileError &error) {
         QCOMPARE(error.line(), 3);
         QCOMPARE(error.key(), std::string("longitude"));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Does the page on the sky file say what the sky file does, and are dates read as it says?
+// Does the page on the sky file match the sky file, and are dates read as it says?
 #include <QFile>
 #include <QtTest>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Does a change of the sky file arrive, and does a bad one leave the sky alone?
+// Does a change of the sky file take effect, and does a bad one leave the sky unchanged?
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -30,7 +30,7 @@ public:
     }
 
     void write(const std::string &text) { QVERIFY(writeAtomically(path, text)); }
-    // As a careless editor does: the same file, in place.
+    // Like a careless editor: the same file, in place.
     void overwrite(const QByteArray &text)
     {
         QFile file(QString::fromStdString(path));
@@ -108,7 +108,7 @@ void SkyWatchTest::changeWithinOneStampArrives()
     QCOMPARE(::stat(f.path.c_str(), &first), 0);
     QCOMPARE(f.latitude(), 10.0);
     f.overwrite("[site]\nlatitude = 20\n");
-    // As on a file system whose clock has not ticked between the two.
+    // Like on a file system whose clock has not ticked between the two.
     const timespec times[] = {first.st_atim, first.st_mtim};
     QCOMPARE(::utimensat(AT_FDCWD, f.path.c_str(), times, 0), 0);
     QCOMPARE(f.latitude(), 20.0);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Does the truth tell what the rendered picture shows, and what the bolts are off by?
+// Does the truth match the rendered picture, and give the error of the bolts?
 #include <QtTest>
 #include <complex>
 #include <numeric>
@@ -85,7 +85,7 @@ void TruthTest::poleErrorIsTheBolts_data()
     QTest::newRow("none") << 40.0 << 0.0 << 0.0 << 0.0 << 0.0 << 1e-6;
     QTest::newRow("altitude up") << 40.0 << 0.5 << 0.0 << 1800.0 << 0.0 << 1e-6;
     QTest::newRow("altitude down, south") << -35.0 << -0.5 << 0.0 << -1800.0 << 0.0 << 1e-6;
-    // The vertical's turn shows on the sky by the cosine of the altitude.
+    // A rotation about the vertical shows on the sky times the cosine of the altitude.
     QTest::newRow("azimuth at 60 degrees") << 60.0 << 0.0 << 0.1 << 0.0 << 180.0 << 0.4;
     QTest::newRow("azimuth at 60 south") << -60.0 << 0.0 << 0.1 << 0.0 << 180.0 << 0.4;
     QTest::newRow("azimuth at the pole") << 90.0 << 0.0 << 1.0 << 0.0 << 0.0 << 1e-6;
@@ -159,7 +159,7 @@ void TruthTest::photographsAgree()
     for (int i = 0; i < 8; i += 2)
         measured.emplace_back(places[i], places[i + 1]);
     const double december2014 = 1418644800.0;
-    // The camera aimed as the photograph was: the pole at its place, turned as star B stands.
+    // The camera is aimed as for the photograph: the pole at its place, star B in its direction.
     SkyState state = quietState(south);
     state.axisX = places[6] - centreX;
     state.axisY = places[7] - centreY;
@@ -172,7 +172,7 @@ void TruthTest::photographsAgree()
     state.roll = std::arg((measured[1] - measured[3]) / (upright[1] - upright[3])) / degree;
     double factor = 0.0;
     const double worst = similarityResidual(look(), measured, &factor);
-    // One pixel and one percent for what the photographs' lenses and the air did to them.
+    // One pixel and one percent for the effects of the photographs' lenses and of the air.
     QVERIFY2(worst < 1.0, qPrintable(QString::number(worst)));
     QVERIFY2(std::abs(factor - 1.0) < 0.01, qPrintable(QString::number(factor)));
 }
@@ -211,7 +211,7 @@ void TruthTest::centroidsAgree()
         *std::array{seen.starA, seen.starB, seen.starD}[static_cast<std::size_t>(star)];
     Scene scene;
     std::vector<ImagedStar> stars = scene.starsAt(state, may2024);
-    // Neighbours would pull the plain centroid.
+    // Neighbours would shift the plain centroid.
     stars.erase(
         std::remove_if(stars.begin(), stars.end(),
                        [&](const ImagedStar &s) { return distance(s.place, place) > 0.01; }),
@@ -243,7 +243,7 @@ void TruthTest::refractionLiftsThePole()
     state.latitude = latitude;
     state.refraction = on;
     const Truth seen = truth(state, may2024);
-    // The vertical is the picture's, so that the lift is straight up: -y.
+    // The picture's vertical is the true vertical, so the lift is straight up: -y.
     const double expected = on ? textbookRefraction(90.0 - std::abs(latitude)) / 30.45 : 0.0;
     QVERIFY(std::abs(seen.refractedPole->x - seen.pole->x) < 1e-6);
     const double lift = seen.pole->y - seen.refractedPole->y;
@@ -304,7 +304,7 @@ void TruthTest::rangesEndInDefinedPlaces()
             QVERIFY(place && std::abs(place->x) < 1e5 && std::abs(place->y) < 1e5);
         QVERIFY(distance(*seen.axis, {centreX, centreY}) < 1e-6);
         QVERIFY(seen.poleError > 19.9 * 3600.0 && seen.poleError < 29.0 * 3600.0);
-        // The pole and star B stay together: 0.7 degrees in 1973, half a degree in 2100.
+        // The pole and star B stay close: 0.7 degrees in 1973, half a degree in 2100.
         const double apart = distance(*seen.pole, *seen.starB) * pixelScale / 3600.0;
         QVERIFY(apart > 0.3 && apart < 1.8);
     }

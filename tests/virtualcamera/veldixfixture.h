@@ -14,7 +14,7 @@
 constexpr std::uint32_t failure = 0xFFFFFFFFu;
 constexpr int exposureControl = 8;
 
-// Before the library is loaded: it asks for the variable once.
+// Before the library is loaded: it reads the variable only once.
 struct SkyFolder {
     SkyFolder() { qputenv("QUORVANDEL_SKY", path().toUtf8()); }
     QString path() const { return folder.filePath("sky.ini"); }

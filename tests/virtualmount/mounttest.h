@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What do the virtual mount's tests share? A sky file of their own, read and written beside it.
+// What do the virtual mount's tests share? A sky file of their own, read and written directly.
 #pragma once
 
 #include "virtualcamera/skyfile.h"
@@ -15,13 +15,13 @@ class SkyFileFixture
 public:
     QString path() const { return folder.filePath(QStringLiteral("sky.ini")); }
 
-    /// As an editor does that truncates and writes.
+    /// Like an editor that truncates and writes.
     void writeText(const QByteArray &text) const
     {
         QFile file(path());
         if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) ||
             file.write(text) != text.size())
-            qFatal("can not write %s", qPrintable(path()));
+            qFatal("cannot write %s", qPrintable(path()));
     }
 
     QByteArray text() const
@@ -30,7 +30,7 @@ public:
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
-    /// What the camera would see; the test run ends where it would refuse the file.
+    /// What the camera would see; ends the test run if it would refuse the file.
     virtualsky::SkyState state() const
     {
         try {

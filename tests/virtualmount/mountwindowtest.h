@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How do tests take hold of the virtual mount's window?
+// How do tests find and operate the widgets of the virtual mount's window?
 #pragma once
 
 #include "tests/support/patience.h"
@@ -18,7 +18,7 @@ inline bool near(double a, double b, double tolerance)
     return std::abs(a - b) <= tolerance;
 }
 
-/// The child of that class and name; the test run ends at once where there is none.
+/// The child of that class and name; ends the test run if there is none.
 template <typename T> T &named(const QObject &parent, const QString &name)
 {
     T *const found = parent.findChild<T *>(name);
@@ -35,11 +35,11 @@ inline QString textOf(const QObject &window, const QString &label)
 inline void clickOn(const QObject &window, const QString &button)
 {
     auto &widget = named<QAbstractButton>(window, button);
-    const QPoint place(12, widget.height() / 2); // a check box takes clicks on its left only
+    const QPoint place(12, widget.height() / 2); // a check box accepts clicks only on its left
     QTest::mouseClick(&widget, Qt::LeftButton, Qt::NoModifier, place);
 }
 
-/// Sends a key to whatever has the keyboard.
+/// Sends a key to the widget that has the keyboard focus.
 inline void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
 {
     QTest::keyClick(QApplication::focusWidget(), key, modifiers);
@@ -62,7 +62,7 @@ inline void pressMnemonic(Qt::Key key)
         qFatal("a button stays down");
 }
 
-/// A window on screen that has the keyboard.
+/// A window on screen that has the keyboard focus.
 class ShownWindow
 {
 public:

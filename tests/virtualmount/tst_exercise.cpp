@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Are exercises spread evenly, can each of them be done, and is an aligned mount told from others?
+// Are exercises spread evenly, is each of them feasible, and is an aligned mount recognised?
 #include "tests/virtualmount/mounttest.h"
 #include "virtualcamera/truth.h"
 #include "virtualmount/exercise.h"
@@ -15,7 +15,7 @@ namespace
 constexpr double evening = 1795204800.0; // 2026-11-20T20:00:00Z
 constexpr int draws = 3000;
 
-/// How far counts lie from an even spread: 9 on average for ten parts, above 28 once in a thousand.
+/// How far counts are from an even spread: 9 on average for ten parts, above 28 once in a thousand.
 double chiSquared(const std::array<int, 10> &counts)
 {
     const double expected = draws / 10.0;
@@ -62,8 +62,8 @@ void ExerciseTest::changesBoltsAndRollAlone()
     QCOMPARE(virtualsky::format(state), virtualsky::format(expected));
 }
 
-/// With the stars well inside the picture at every draw, only those too near the pole are left out:
-/// too few to be seen here.
+/// With the stars well inside the picture at every draw, only those too near the pole are rejected:
+/// too few to be noticed here.
 void ExerciseTest::isSpreadEvenly()
 {
     std::array<int, 10> altitudes{};
@@ -83,7 +83,7 @@ void ExerciseTest::isSpreadEvenly()
         QVERIFY(std::abs(state.roll) <= 180.0);
         ++azimuths.at(partOf(state.boltAzimuth, -3.0, 3.0000001));
         ++rolls.at(partOf(state.roll, -180.0, 180.0000001));
-        // The middle of the altitudes is where the axis would be too near the pole.
+        // The middle of the altitudes is missing, since the axis would be too near the pole.
         ++altitudes.at(partOf(state.boltAltitude, -3.0, 3.0000001));
         high += state.boltAltitude > 0.0;
         west += state.boltAzimuth < 0.0;
@@ -127,7 +127,7 @@ void ExerciseTest::canBeDone()
     QVERIFY2(most > 9000.0, qPrintable(QString::number(most)));
 }
 
-/// A camera that looks past the pole.
+/// A camera that points past the pole.
 void ExerciseTest::endsWhereNoneCanBeDone()
 {
     SkyState state;

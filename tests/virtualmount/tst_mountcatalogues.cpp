@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Is every text of the virtual mount there in every language, and is the right language chosen?
+// Is every text of the virtual mount present in every language, and is the right language chosen?
 #include "tests/support/catalogues.h"
 #include "virtualcamera/skyfile.h"
 #include "virtualmount/faulttexts.h"
@@ -25,14 +25,14 @@ QString sourceFile(const Language &language)
     return QStringLiteral(PROJECT_SOURCE_DIR "/virtualmount/languages/%1.ts").arg(name);
 }
 
-/// Texts that are the same in every language: numbers and signs, keys as the caps say them.
+/// Texts that are the same in every language: numbers, signs, and keys as they are labelled.
 bool isUniversal(const QString &source)
 {
     static const QRegularExpression withoutWords(R"(^[^\p{L}]*$)");
     return source == "Ctrl" || withoutWords.match(source).hasMatch();
 }
 
-/// Words that are written as in English in one language.
+/// Words that one language writes as English does.
 const QMap<QString, QSet<QString>> &loanWords()
 {
     static const QMap<QString, QSet<QString>> words{
@@ -95,7 +95,7 @@ void MountCataloguesTest::isComplete()
     }
 }
 
-/// And underlined letters and line ends.
+/// Also underlined letters and line ends.
 void MountCataloguesTest::keepsPlaceholders()
 {
     QFETCH(int, number);
@@ -132,8 +132,8 @@ void MountCataloguesTest::isCompiledIn()
         QVERIFY2(!translator.translate(text.context, text.text).isEmpty(), text.text);
 }
 
-/// Every kind of fault that the reader of sky files knows is said in the language, and in English
-/// as the reader says it.
+/// Every kind of fault that the sky file's reader reports is translated, and in English it is the
+/// reader's own text.
 void MountCataloguesTest::saysFaults()
 {
     QFETCH(int, number);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Does the virtual mount's window set exercises, say where the rest of the error comes from, and
-// go back to what it found?
+// Does the virtual mount's window set exercises, say where the remaining error comes from, and
+// restore what it found?
 #include "app/stylesheet.h"
 #include "resources/resources.h"
 #include "tests/virtualmount/mountwindowtest.h"
@@ -69,12 +69,12 @@ void MountExerciseTest::newExercise()
     QVERIFY(state.roll != 0.0);
     QVERIFY(file.text().startsWith("[mount]\nra_angle = 2 # turned\n"));
     QCOMPARE(state.latitude, 52.0);
-    // Nothing tells where it begins.
+    // Nothing reveals where it starts.
     QCOMPARE(textOf(shown.window, "altitudeCount"), QString("0"));
     QCOMPARE(textOf(shown.window, "azimuthCount"), QString("0"));
     QCOMPARE(textOf(shown.window, "truth"), QString("What is left of the error is hidden."));
     QCOMPARE(textOf(shown.window, "angles"), QString());
-    press(Qt::Key_Right); // the keys are the bolts' still
+    press(Qt::Key_Right); // the keys still move the bolts
     QCOMPARE(textOf(shown.window, "azimuthCount"), QString("0.25 east"));
 }
 
@@ -174,7 +174,7 @@ void MountExerciseTest::anAlignedStartIsTold()
     QTRY_COMPARE(textOf(shown.window, "truth"), QString("What is left of the error is hidden."));
 }
 
-/// Coming near the pole by hand says nothing.
+/// No message appears when the pole is approached by hand.
 void MountExerciseTest::anotherStartIsTold()
 {
     const SkyFileFixture file;

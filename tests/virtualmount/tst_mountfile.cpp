@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Does the virtual mount's window get on with another one, with an editor and with a broken file?
+// Does the virtual mount's window cope with another one, with an editor and with a broken file?
 #include "tests/virtualmount/mountwindowtest.h"
 
 #include <QCheckBox>
@@ -165,7 +165,7 @@ void MountFileTest::aMalformedFileIsKept()
         clickOn(shown.window, button);
     QTest::qWait(300);
     QCOMPARE(file.text(), broken);
-    // What could not be written does not show either.
+    // What could not be written is not shown either.
     QVERIFY(!named<QCheckBox>(shown.window, "refraction").isChecked());
     QVERIFY(!named<QCheckBox>(shown.window, "tracking").isChecked());
     QCOMPARE(textOf(shown.window, "altitudeCount"), QString("0"));
@@ -229,7 +229,7 @@ void MountFileTest::anUnwritablePlaceIsTold()
 {
     const SkyFileFixture file;
     file.writeText("[site]\n");
-    const ShownWindow shown(file.path() + "/sky.ini"); // a file is no folder
+    const ShownWindow shown(file.path() + "/sky.ini"); // a file is not a folder
     clickOn(shown.window, "altitudeDown");
     QVERIFY(textOf(shown.window, "status").contains("can not be written: Not a directory"));
     QCOMPARE(textOf(shown.window, "altitudeCount"), QString("0"));
@@ -242,7 +242,7 @@ void MountFileTest::readersNeverSeeAPart()
     file.writeText("[mount]\nra_angle = 0\n");
     const ShownWindow shown(file.path());
     std::atomic<bool> done{false};
-    QString fault; // written by the reader, read after it has ended
+    QString fault; // written by the reader, read after its end
     int different = 0;
     std::thread reader([&] {
         double last = 0.0;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Does the virtual mount's window say everything in every language, with room for every text?
+// Does the virtual mount's window show everything in every language, with room for every text?
 #include "app/stylesheet.h"
 #include "resources/resources.h"
 #include "tests/support/catalogues.h"
@@ -22,7 +22,7 @@ using virtualmount::languages;
 
 namespace
 {
-/// The boxes' texts, of which size hints know too little, that are wider than their room.
+/// Texts of boxes that are wider than their room; size hints do not cover them well enough.
 QStringList cutTexts(const QWidget &window)
 {
     QStringList cut;
@@ -49,7 +49,7 @@ QStringList cutTexts(const QWidget &window)
     return cut;
 }
 
-/// All that a user reads or is read, each with the widget's name.
+/// Everything that a user reads or a screen reader speaks, each with the widget's name.
 QStringList textsIn(const QWidget &window)
 {
     QStringList texts = {window.windowTitle()};
@@ -129,7 +129,7 @@ void MountLanguagesTest::everyTextFits()
     QCOMPARE(lacks(), QString());
     clickOn(window, "showTruth");
     QCOMPARE(lacks(), QString());
-    // The longest counts and errors that a hand comes to: an hour of sky and more.
+    // The longest counts and errors that a user can reach: an hour of sky and more.
     file.writeText(file.text().replace("0.8\n", "10.4\n").replace("9.5\n", "-8.8\n"));
     QTRY_VERIFY(textOf(window, "azimuthCount").contains("54"));
     QCOMPARE(lacks(), QString());
@@ -142,7 +142,7 @@ void MountLanguagesTest::everyTextFits()
     QCOMPARE(window.size(), places.mount.size());
 }
 
-/// What the window says of a mount that is aligned at its start takes no more room.
+/// What the window says about a mount that is aligned at the start needs no more room.
 void MountLanguagesTest::anAlignedStartFits()
 {
     QFETCH(int, number);
@@ -156,7 +156,7 @@ void MountLanguagesTest::anAlignedStartFits()
     QVERIFY(textOf(shown.window, "truth") != textOf(other.window, "truth"));
     QCOMPARE((lacksIn(shown.window) + cutTexts(shown.window)).join("; "), QString());
     QCOMPARE(shown.window.sizeHint(), other.window.sizeHint());
-    // The button is named as it reads, without its letter in brackets.
+    // The button is named as it is read, without its letter in brackets.
     QString button = named<QAbstractButton>(shown.window, "newExercise").text();
     button.remove(QRegularExpression("\\(&.\\)")).remove('&');
     QVERIFY2(textOf(shown.window, "truth").contains(button), qPrintable(button));
@@ -187,7 +187,7 @@ void MountLanguagesTest::mnemonicsAreUnique()
 void MountLanguagesTest::nothingIsLeftInEnglish_data()
 {
     QTest::addColumn<int>("number");
-    // Scripts in which no English word can be taken for one of the language's own.
+    // Scripts in which no English word can be mistaken for one of the language's own.
     for (const std::size_t i : {1U, 2U, 3U, 9U})
         QTest::newRow(languages[i].code) << int(i);
 }
@@ -218,7 +218,7 @@ void MountLanguagesTest::toolkitTextsAreTranslated()
     QVERIFY(virtualmount::installTranslator(languages.at(std::size_t(number))));
     const SkyFileFixture file;
     ShownWindow shown(file.path());
-    last.forget(); // English stands in the sources, and has no catalogue
+    last.forget(); // English is in the sources, and has no catalogue
     QStringList seen = contextMenusIn(shown.window);
     for (auto *const box : shown.window.findChildren<QComboBox *>()) {
         box->showPopup();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What does every action of a hand change, and how is it said?
+// What does every action by hand change, and how is it displayed?
 #include "virtualmount/mountmodel.h"
 #include "virtualmount/mounttexts.h"
 
@@ -238,7 +238,7 @@ void MountModelTest::passingCloudsComeAndGo()
     for (int tenths = 1; tenths <= 6000; ++tenths) {
         const double held = passingClouds(tenths / 10.0);
         QVERIFY(held >= 0.0 && held <= 0.9);
-        QVERIFY(std::abs(held - before) <= 0.021); // no cloud has an edge like a wall
+        QVERIFY(std::abs(held - before) <= 0.021); // no cloud has a sharp edge
         QVERIFY(std::abs(100.0 * held - std::round(100.0 * held)) <= 1e-9);
         clear += held == 0.0;
         thick += held >= 0.7;

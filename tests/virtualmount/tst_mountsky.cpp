@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Do the knobs for the site, the time, the weather and the camera's faults do what they say, by
+// Do the controls for the site, the time, the weather and the camera's faults work as labelled, by
 // mouse and by keyboard?
 #include "app/stylesheet.h"
 #include "resources/resources.h"
@@ -208,7 +208,7 @@ void MountSkyTest::times()
     press(Qt::Key_Up);
     clickOn(shown.window, "tracking");
     const QByteArray text = file.text();
-    emit mode.activated(mode.currentIndex()); // what is chosen again changes nothing
+    emit mode.activated(mode.currentIndex()); // choosing the same entry again changes nothing
     QCOMPARE(file.text(), text);
     press(Qt::Key_D, Qt::AltModifier);
     press(Qt::Key_Up); // Now
@@ -227,7 +227,7 @@ void MountSkyTest::theDateRunsUnderTheFocus()
     const QDateTime first = date.dateTime();
     QTRY_VERIFY(date.dateTime() > first);
     QCOMPARE(date.currentSection(), QDateTimeEdit::DaySection);
-    // And what others write shows.
+    // What others write is shown too.
     file.writeText("[time]\ndate = 2029-01-01T00:00:00Z\nrunning = false\n");
     QTRY_COMPARE(date.dateTime().date().year(), 2029);
     QVERIFY(date.hasFocus());
@@ -242,14 +242,14 @@ void MountSkyTest::aDateBeingTypedStays()
     date.setFocus();
     date.setSelectedSection(QDateTimeEdit::YearSection);
     QTest::keyClicks(&date, "20");
-    QTest::qWait(1500); // the clock goes on meanwhile
+    QTest::qWait(1500); // the clock keeps running meanwhile
     QTest::keyClicks(&date, "31");
     QTest::qWait(1500);
     QCOMPARE(file.text(), QByteArray("[time]\ndate = 2026-11-20T20:00:00Z\n"));
     press(Qt::Key_Return);
     QVERIFY(file.text().startsWith("[time]\ndate = 2031-11-20T20:00:0"));
     const QDateTime typed = date.dateTime();
-    QTRY_VERIFY(date.dateTime() > typed); // and runs on from there
+    QTRY_VERIFY(date.dateTime() > typed); // and runs from there
 }
 
 void MountSkyTest::passingClouds()

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Do the bolts, the axis and the truth of the virtual mount's window do what they say, and is
-// everything in it within reach?
+// Do the bolts, the axis and the truth in the virtual mount's window work as labelled, and is
+// everything in it reachable?
 #include "app/stylesheet.h"
 #include "resources/resources.h"
 #include "tests/support/wheel.h"
@@ -172,7 +172,7 @@ void MountWindowTest::theAxisMovesAtAPersonsPace()
         if (angle != seen.last())
             seen.append(angle);
     }
-    // 45 degrees at 20 a second: 2.25 s, later on a busy machine and never sooner.
+    // 45 degrees at 20 degrees a second: 2.25 s, later on a busy machine and never sooner.
     QVERIFY2(time.elapsed() >= 2100, qPrintable(QString::number(time.elapsed())));
     QCOMPARE(seen.last(), 45.0);
     QVERIFY2(seen.size() >= 9, qPrintable(QString::number(seen.size())));
@@ -249,7 +249,7 @@ void MountWindowTest::wheelNeedsTheFocus_data()
         QTest::newRow(field) << field;
 }
 
-/// A hand that rolls past a field changes nothing.
+/// The wheel over a field without the focus changes nothing.
 void MountWindowTest::wheelNeedsTheFocus()
 {
     QFETCH(QString, field);
@@ -279,7 +279,7 @@ void MountWindowTest::arrowsAreTheBoltsAfterTheMouse()
     side.showPopup();
     QAbstractItemView &list = *side.view();
     QTRY_VERIFY(list.isVisible());
-    QTest::qWait(QApplication::doubleClickInterval() + 100); // until the list takes a release
+    QTest::qWait(QApplication::doubleClickInterval() + 100); // until the list accepts a release
     const QPoint south(10, list.visualRect(list.model()->index(1, 0)).center().y());
     QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, south);
     QTRY_COMPARE(side.currentIndex(), 1);
@@ -306,7 +306,7 @@ void MountWindowTest::aHeldKeyTurnsTheAxisOnce()
 
 void MountWindowTest::trackingIsKeptInTheAngle()
 {
-    // Tracking for exactly an hour of a sky that stands still is turned on and off elsewhere.
+    // An hour of tracking under a frozen sky, started elsewhere, is turned off and on here.
     const SkyFileFixture file;
     file.writeText("[time]\ndate = 2026-11-20T20:00:00Z\nrunning = false\n[mount]\nra_angle = 10\n"
                    "tracking = true\ntracking_since = 2026-11-20T19:00:00Z\n");
@@ -336,7 +336,7 @@ void MountWindowTest::theTruthIsHiddenUntilAskedFor()
     pressMnemonic(Qt::Key_T);
     QCOMPARE(textOf(shown.window, "truth"),
              QString("The RA axis misses the pole by 15′ 00″:\n15′ 00″ too high and 0′ 00″."));
-    press(Qt::Key_Down); // and follows the bolts
+    press(Qt::Key_Down); // and it follows the bolts
     QCOMPARE(textOf(shown.window, "truth"),
              QString("The RA axis misses the pole by 10′ 00″:\n10′ 00″ too high and 0′ 00″."));
     clickOn(shown.window, "showTruth");
@@ -395,7 +395,7 @@ void MountWindowTest::reset()
     QCOMPARE(textOf(shown.window, "altitudeCount"), QString("0"));
     QCOMPARE(textOf(shown.window, "angle"), QString("0.0°"));
     QVERIFY(named<QSlider>(shown.window, "clouds").isEnabled());
-    QTest::qWait(300); // nothing goes on moving
+    QTest::qWait(300); // nothing keeps moving
     QCOMPARE(virtualsky::format(file.state()), virtualsky::format(before));
 }
 
@@ -479,7 +479,7 @@ void MountWindowTest::fitsBesideTheMainWindow()
     QCOMPARE(shown.window.windowTitle(), QString("Quorvandel Virtual Mount"));
 }
 
-/// In every size that a title bar or a list of windows may ask for.
+/// In every size that a title bar or a window list may request.
 void MountWindowTest::hasAnIcon()
 {
     const SkyFileFixture file;

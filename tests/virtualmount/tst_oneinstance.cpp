@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Does a second start of the virtual mount find the window that is there?
+// Does a second start of the virtual mount find the existing window?
 #include "tests/virtualmount/mounttest.h"
 
 #include <QDir>
@@ -26,7 +26,7 @@ struct Sky {
     }
 };
 
-/// The program on a sky file; it is ended with its object.
+/// The program on a sky file; it ends with its object.
 struct Mount {
     QProcess process;
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Do the program and the virtual mount stand on the screen as a whole, frames and all?
+// Do the program and the virtual mount fit on the screen completely, frames included?
 #include "virtualmount/places.h"
 
 #include <QtTest>
 
 namespace
 {
-/// With its frame: what is asked for is the frame's corner and the size within the frame.
+/// With its frame: the requested place is the frame's corner and the size inside the frame.
 QRect outer(const QRect &place, const QMargins &frame)
 {
     return {place.topLeft(),

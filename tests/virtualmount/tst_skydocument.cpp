@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Does the sky file keep what others wrote, whatever a hand changes, and is it whole at all times?
+// Does the sky file keep what others wrote, whatever is changed by hand, and is it always complete?
 #include "tests/virtualmount/mounttest.h"
 #include "virtualmount/mountmodel.h"
 #include "virtualmount/skydocument.h"
@@ -121,7 +121,7 @@ void SkyDocumentTest::noFileMeansTheDefaults()
     QCOMPARE(virtualsky::format(document.state()), virtualsky::format(SkyState()));
     QVERIFY(document.fault().isEmpty());
     QVERIFY(!document.refresh());
-    QVERIFY(!QFile::exists(file.path())); // to look is not to write
+    QVERIFY(!QFile::exists(file.path())); // reading does not write
 }
 
 void SkyDocumentTest::theFirstChangeWritesEveryKey()
@@ -168,7 +168,7 @@ void SkyDocumentTest::aFaultIsToldAndKept()
     file.writeText(text);
     QVERIFY(document.refresh());
     QCOMPARE(document.fault(), fault);
-    QVERIFY(!document.refresh()); // told once
+    QVERIFY(!document.refresh()); // reported once
     QVERIFY(!document.change([](SkyState &state) { state.latitude = 10.0; }));
     QCOMPARE(file.text(), text);
     QCOMPARE(document.fault(), fault);
@@ -202,7 +202,7 @@ void SkyDocumentTest::replaceWritesTheLastGoodState()
     QVERIFY(!document.refresh());
 }
 
-/// What was found, with the changes of others and without one's own.
+/// What was found, with the changes of others and without our own.
 void SkyDocumentTest::whatOthersWroteIsKeptApart()
 {
     const SkyFileFixture file;
@@ -214,7 +214,7 @@ void SkyDocumentTest::whatOthersWroteIsKeptApart()
     }));
     QCOMPARE(document.found().latitude, 12.0);
     QCOMPARE(document.found().moon, 0.0);
-    // Before a change as well as at a look; a key that others set is theirs from then on.
+    // Before a change as well as at a poll; a key that others have set is theirs from then on.
     file.writeText(file.text() + "clouds = 0.25\n");
     QVERIFY(document.change([](SkyState &state) { state.latitude = 21.0; }));
     file.writeText(file.text().replace("moon = 0.5", "moon = 0.75"));
@@ -236,7 +236,7 @@ void SkyDocumentTest::aLinkStaysALink()
     const QString real = elsewhere.filePath("mine.ini");
     QVERIFY(QFile::link(real, file.path()));
     SkyDocument document(file.path());
-    for (const double latitude : {12.0, 13.0}) { // first where the link leads to nothing yet
+    for (const double latitude : {12.0, 13.0}) { // first without the link's target
         QVERIFY(document.change([latitude](SkyState &state) { state.latitude = latitude; }));
         QVERIFY(QFileInfo(file.path()).isSymLink());
         QCOMPARE(file.state().latitude, latitude);
@@ -251,7 +251,7 @@ void SkyDocumentTest::replaceLeavesAGoodFileAlone()
     const SkyFileFixture file;
     file.writeText("nonsense\n");
     SkyDocument document(file.path());
-    const QByteArray mended = "[site]\nlatitude = 12 # mended meanwhile\n";
+    const QByteArray mended = "[site]\nlatitude = 12 # fixed meanwhile\n";
     file.writeText(mended);
     QVERIFY(document.replace());
     QCOMPARE(file.text(), mended);
@@ -297,13 +297,13 @@ void SkyDocumentTest::anUnwritablePlaceIsTold()
 {
     const SkyFileFixture file;
     file.writeText("[site]\n");
-    SkyDocument below(file.path() + "/sky.ini"); // a file is no folder
+    SkyDocument below(file.path() + "/sky.ini"); // a file is not a folder
     QVERIFY(!below.change([](SkyState &state) { state.moon = 1.0; }));
     QCOMPARE(below.writeFault(), QString("Not a directory"));
     QCOMPARE(below.state().moon, 0.0);
 
     const QTemporaryDir folder;
-    SkyDocument instead(folder.path()); // a folder is no file
+    SkyDocument instead(folder.path()); // a folder is not a file
     QCOMPARE(instead.fault(), QString("not an ordinary file"));
     QVERIFY(!instead.replace());
     QVERIFY(!instead.fault().isEmpty());
@@ -346,7 +346,7 @@ void SkyDocumentTest::readersNeverSeeAPart()
     file.writeText("[mount]\nra_angle = 0\n");
     std::atomic<bool> done{false};
     std::atomic<int> reads{0};
-    QString seenFault; // written by the reader, read after it has ended
+    QString seenFault; // written by the reader, read after its end
     std::thread reader([&] {
         while (!done && seenFault.isEmpty()) {
             try {

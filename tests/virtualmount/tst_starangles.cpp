@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// By how much do the built-in star angles miss the pole, held against an independent program?
+// By how much do the built-in star angles miss the pole, compared with an independent program?
 #include "geometry/starcatalogue.h"
 #include "resources/resources.h"
 #include "virtualcamera/skykeys.h"
@@ -46,7 +46,7 @@ void StarAnglesTest::golden_data()
     QCOMPARE(rows, 14);
 }
 
-/// Half an arcsecond: the independent program looks from the Earth's centre.
+/// Half an arcsecond: the independent program observes from the Earth's centre.
 void StarAnglesTest::golden()
 {
     QFETCH(bool, south);
@@ -92,7 +92,7 @@ void StarAnglesTest::anglesOfTheDay()
              qPrintable(QString::number(error->arcseconds)));
 }
 
-/// Neither bolts nor refraction nor where the camera looks.
+/// Bolts, refraction and the camera's direction have no effect.
 void StarAnglesTest::theMountDoesNotMatter()
 {
     const double evening = *virtualsky::parseDate("2026-11-20T20:00:00Z");

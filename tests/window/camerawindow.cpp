@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Works the program's window with the recording camera behind it.
+// Operates the program's window with the recording camera behind it.
 #include "tests/window/camerawindow.h"
 
 #include "resources/resources.h"
@@ -24,7 +24,7 @@ CameraWindow::CameraWindow(const QByteArray &settings, const std::function<void(
     if (!settings.isEmpty()) {
         QFile file(settingsPath());
         if (!file.open(QIODevice::WriteOnly) || file.write(settings) != settings.size())
-            qFatal("the settings file can not be written");
+            qFatal("the settings file cannot be written");
     }
     sdk().reset();
     if (beforeStart)
@@ -33,7 +33,7 @@ CameraWindow::CameraWindow(const QByteArray &settings, const std::function<void(
     window->resize(1600, 1100);
     window->show();
     if (!QTest::qWaitForWindowExposed(window.get(), patience))
-        qFatal("the window does not come up");
+        qFatal("the window does not appear");
 }
 
 CameraWindow::~CameraWindow()
@@ -59,13 +59,13 @@ void CameraWindow::connectCamera() const
 {
     trigger("actionConnect");
     if (!comesTrue([] { return !sdkCalls({"BeginVELDIXLive"}).isEmpty(); }))
-        qFatal("the live mode does not begin");
+        qFatal("live mode does not start");
 }
 
 bool CameraWindow::waitForNewFrame() const
 {
-    // A picture of a frame fetched from now on is shown once this many more were taken: the one
-    // being worked on, two that wait, and one to be sure of.
+    // A picture of a frame fetched from now on is shown after this many more fetches: the one being
+    // processed, two that wait, and one as a margin.
     sdk().setFramesLeft(0);
     const bool drained = comesTrue([this] {
         const int count = sdk().fetchCount();

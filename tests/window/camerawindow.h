@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How does a test work the program's window with the recording camera behind it?
+// How does a test operate the program's window with the recording camera behind it?
 #pragma once
 
 #include "tests/camera/recordingcamera.h"
@@ -9,7 +9,7 @@
 
 #include <functional>
 
-/// A shown window that starts from the given settings file, or from none, with the recording
+/// A shown window that starts with the given settings file, or without one, with the recording
 /// camera reset and a session of its own.
 class CameraWindow
 {
@@ -31,9 +31,9 @@ public:
     }
 
     void trigger(const char *action) const;
-    /// Runs a slot that has no parameters.
+    /// Calls a slot without parameters.
     void call(const char *slot) const;
-    /// Connects and waits until the camera has been told to begin.
+    /// Connects and waits until the camera was told to start.
     void connectCamera() const;
     /// Waits until a frame that was fetched after this call is shown.
     bool waitForNewFrame() const;
@@ -43,5 +43,5 @@ public:
     std::unique_ptr<SessionWindow> window;
 };
 
-/// Where the settings file of the running test lies.
+/// The path of the running test's settings file.
 QString settingsPath();

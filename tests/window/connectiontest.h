@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Which calls, boxes and states belong to a connection? What the tests of connecting share.
+// Which calls, boxes and states belong to a connection? Shared by the tests of connecting.
 #pragma once
 
 #include "tests/support/logrecorder.h"
@@ -31,7 +31,7 @@ inline const QStringList settingLog{
 inline const Box notFound =
     okBox(QMessageBox::Information, "Info", "Not Found VELDIX Quorvandel equipment!");
 
-/// The debug lines of the SDK alone, without those of the wizard and the capture thread.
+/// The debug lines of the SDK only, without those of the wizard and the capture thread.
 inline QStringList sdkLog(const LogRecorder &log)
 {
     return log.texts(QtDebugMsg).filter(QRegularExpression("VELDIX"));
@@ -92,13 +92,13 @@ inline Shown atRest(const CameraWindow &w)
     return {false, "Connect", false, false, w.window->windowTitle()};
 }
 
-/// What the magnifier has painted last, without its frame and cross.
+/// What the magnifier painted last, without its frame and cross.
 inline QImage magnified(const CameraWindow &w)
 {
     return w.window->findChild<MagnifierWidget *>()->magnifiedRegion().toImage();
 }
 
-/// Whether there is a picture of which nothing can be seen.
+/// Whether the picture exists and is fully transparent.
 inline bool isClear(const QImage &picture)
 {
     for (int y = 0; y < picture.height(); ++y)

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What does the main window's form say, and which ranges and sizes has it? The tables that the bare
-// form and the window made from it are held to.
+// Which texts, ranges and sizes does the main window's form have? The tables that the bare form and
+// the window made from it are compared with.
 #pragma once
 
 #include "tests/window/windowtest.h"
@@ -10,7 +10,7 @@
 #include <QMenuBar>
 #include <QSlider>
 
-/// One entry as "name=text", with a trailing '*' where it is checkable; "-" for a rule.
+/// One entry as "name=text", with a trailing '*' if it is checkable; "-" for a separator.
 inline QString entryText(const QAction &action)
 {
     if (action.isSeparator())
@@ -63,7 +63,7 @@ inline void addMenuRows()
                                              "actionAbout=About"};
 }
 
-/// What has no text at all has a null one here.
+/// A widget whose class has no text has a null one here.
 inline void addWidgetRows()
 {
     QTest::addColumn<QString>("className");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What do the tests of the wizard begin with? A window that knows nothing of earlier runs.
+// What do the tests of the wizard start with? A window without any earlier state.
 #pragma once
 
 #include "resources/resources.h"
@@ -10,7 +10,7 @@
 #include <QObject>
 #include <memory>
 
-/// Each test function has a new window of its own, made without a settings file.
+/// Each test function has its own new window, created without a settings file.
 class FreshWindowTest : public QObject
 {
     Q_OBJECT

@@ -36,7 +36,7 @@ inline QPointF turnedVector(QPointF d, double degrees)
             d.x() * std::sin(angle) + d.y() * std::cos(angle)};
 }
 
-/// Star B's offset to star A on the template, turned. Needs a window made before: it reads the
+/// Star B's offset to star A on the template, rotated. Needs an existing window, which reads the
 /// catalogue.
 inline QPointF offsetToA(double degrees, const QString &region = "North")
 {

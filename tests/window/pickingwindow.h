@@ -27,7 +27,7 @@ inline QByteArray zoomSetting(double zoom)
     return "[ZOOM]\nfactor=" + QByteArray::number(zoom) + '\n';
 }
 
-/// A connected window that shows the stars, worked through the window system's events.
+/// A connected window that shows the stars, operated through the window system's events.
 class PickingWindow : public CameraWindow
 {
 public:
@@ -59,7 +59,7 @@ public:
         QTest::qWait(30);
     }
 
-    /// Shows other stars than those at the start.
+    /// Shows stars other than the initial ones.
     void show(const cv::Mat &other)
     {
         frame = other;
@@ -79,11 +79,11 @@ public:
         if (window->childAt(place) != &image)
             qFatal("the picture is covered at %d, %d", view.x(), view.y());
         QTest::mouseDClick(window->windowHandle(), Qt::LeftButton, Qt::NoModifier, place);
-        // So that the next double click is not part of this one.
+        // Prevents the next double click from being part of this one.
         QTest::qWait(5);
     }
 
-    /// Holds the button at one place of the picture and moves to another.
+    /// Presses the button at one place of the picture and moves to another.
     void drag(QPoint from, QPoint to) const
     {
         QWindow *const handle = window->windowHandle();

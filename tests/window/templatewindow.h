@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How does a test reach the template that lies over the picture, and what should it look like?
+// How does a test reach the template over the picture, and what should it look like?
 #pragma once
 
 #include "geometry/starcatalogue.h"
@@ -68,7 +68,7 @@ inline StarCatalogue &catalogueOf(const QString &region)
     return region == "South" ? southCatalogue : northCatalogue;
 }
 
-/// The hemisphere's mask with the pole's mark in it: what the window shows, not turned.
+/// The hemisphere's mask with the pole's mark: what the window shows, unrotated.
 inline QImage markedMask(const QString &region)
 {
     QImage mask(region == "South" ? ":/images/south_mask.png" : ":/images/north_mask.png");

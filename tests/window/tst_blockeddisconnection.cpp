@@ -15,7 +15,7 @@ namespace
 {
 const QString complaint = "the camera is not closed: its library does not return from a call";
 
-/// A connected window whose camera is inside its call for a frame, and stays there.
+/// A connected window whose camera is inside its call for a frame and stays there.
 class BlockedWindow : public CameraWindow
 {
 public:
@@ -60,7 +60,7 @@ private slots:
     void closeFails();
 };
 
-/// As some libraries have it: only StopVELDIXLive brings back whoever waits for a frame.
+/// In some libraries only StopVELDIXLive releases a caller that waits for a frame.
 void BlockedDisconnectionTest::callReturnsWhenStopped()
 {
     const BlockedWindow w;
@@ -101,7 +101,7 @@ void BlockedDisconnectionTest::windowAnswersMeanwhile()
     QCOMPARE(sdkCalls(), closing);
 }
 
-/// There is nothing to connect yet, and nothing more to disconnect.
+/// There is nothing to connect yet, and nothing else to disconnect.
 void BlockedDisconnectionTest::connectMeanwhile()
 {
     const BlockedWindow w;
@@ -120,7 +120,7 @@ void BlockedDisconnectionTest::connectMeanwhile()
     QVERIFY(w.waitForNewFrame());
 }
 
-/// The closing goes on where it is, and is waited for.
+/// The close continues in the background, and is waited for.
 void BlockedDisconnectionTest::closeWindowMeanwhile()
 {
     const BlockedWindow w;
@@ -136,7 +136,7 @@ void BlockedDisconnectionTest::closeWindowMeanwhile()
     QVERIFY(!w.session().camera.cameraConnected);
     QCOMPARE(sdkCalls(), closing);
     QVERIFY(log.contains(QtDebugMsg, "ReleaseVELDIXResource success"));
-    QTest::qWait(100); // and nothing of the Disconnect comes after it
+    QTest::qWait(100); // and nothing from the Disconnect follows it
     QCOMPARE(sdkCalls(), closing);
 }
 
@@ -153,7 +153,7 @@ void BlockedDisconnectionTest::closeWindowAtOnce()
     QCOMPARE(sdkCalls(), closing);
 }
 
-/// The wizard does not go away under somebody who answers a box.
+/// The wizard does not disappear while the user answers a box.
 void BlockedDisconnectionTest::boxMeanwhile()
 {
     const BlockedWindow w;
@@ -169,7 +169,7 @@ void BlockedDisconnectionTest::boxMeanwhile()
     QCOMPARE(sdkCalls(), closing);
 }
 
-/// A library whose calls all wait for one another holds up no window.
+/// A library whose calls all wait for each other does not block a window.
 void BlockedDisconnectionTest::stopBlocksToo()
 {
     std::atomic<bool> goOn{false};
@@ -198,7 +198,7 @@ void BlockedDisconnectionTest::stopBlocksToo()
     QCOMPARE(sdkCalls(), QStringList("StopVELDIXLive(camera 1)") + closing);
 }
 
-/// The camera is not closed under the one call when the other has returned.
+/// When one call returns, the camera is not closed while the other is still in progress.
 void BlockedDisconnectionTest::callReturnsWhileStopBlocks()
 {
     std::atomic<bool> goOn{false};
@@ -219,7 +219,7 @@ void BlockedDisconnectionTest::callReturnsWhileStopBlocks()
     QCOMPARE(sdkCalls(), closing);
 }
 
-/// As where nothing blocks: the camera stays connected, the picture goes.
+/// As without blocking: the camera stays connected, the picture disappears.
 void BlockedDisconnectionTest::closeFails()
 {
     const BlockedWindow w;

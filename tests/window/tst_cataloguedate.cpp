@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// Does the window take the stars of today's local date?
+// Does the window use the stars of today's local date?
 //
-// The machine's clock is set for this process alone: the toolkit reads the time of day by
-// gettimeofday, and finds the one of this executable first.
+// The clock is set for this process only: the toolkit reads the time with gettimeofday, and finds
+// this executable's own version first.
 #include "geometry/starcatalogue.h"
 #include "resources/resources.h"
 #include "tests/support/logrecorder.h"
@@ -48,7 +48,7 @@ void CatalogueDateTest::initTestCase()
 void CatalogueDateTest::localDate_data()
 {
     QTest::addColumn<QString>("utc");
-    QTest::addColumn<QByteArray>("zone"); ///< as TZ has it: hours west of Greenwich
+    QTest::addColumn<QByteArray>("zone"); ///< in TZ's form: hours west of Greenwich
     QTest::addColumn<QDate>("today");
     QTest::addColumn<int>("epoch");
     QTest::newRow("at Greenwich") << "2018-11-22T12:00:00Z" << QByteArray("UTC0")

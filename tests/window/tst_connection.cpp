@@ -100,12 +100,12 @@ void ConnectionTest::connectAndDisconnect()
     QVERIFY(w.session().handle.get() == nullptr);
     QTRY_VERIFY(log.contains(QtDebugMsg, "CaptureThread done"));
     QCOMPARE(boxes.boxes(), QList<Box>());
-    // The title is not among what Disconnect puts back.
+    // Disconnect does not restore the title.
     QCOMPARE(rest.title, idTitle);
     QVERIFY(plainTitle != idTitle);
 }
 
-/// A camera that refuses a format or holds up the setting is connected all the same.
+/// A camera that refuses a format or delays the setting is connected all the same.
 void ConnectionTest::connectedBeforeItIsSet()
 {
     const CameraWindow w;
@@ -123,7 +123,7 @@ void ConnectionTest::choice_data()
     QTest::addColumn<int>("failingId");
     QTest::addColumn<bool>("terminated");
     QTest::addColumn<QString>("opened"); ///< empty = none
-    QTest::addColumn<int>("read");       ///< IDs that were asked for
+    QTest::addColumn<int>("read");       ///< IDs that were requested
     const auto row = [](const char *name, const QStringList &ids, const QString &opened, int read,
                         int failingId = -1, bool terminated = true) {
         QTest::newRow(name) << ids << failingId << terminated << opened << read;
@@ -132,7 +132,7 @@ void ConnectionTest::choice_data()
     row("one", {"QUORVANDEL-V0001"}, "QUORVANDEL-V0001", 1);
     row("the lower index of two", {"QUORVANDEL-B", "QUORVANDEL-A"}, "QUORVANDEL-B", 1);
     row("behind another model", {"OTHER-1", "QUORVANDEL-2"}, "QUORVANDEL-2", 2);
-    row("behind one that can not be read", {"QUORVANDEL-1", "QUORVANDEL-2"}, "QUORVANDEL-2", 2, 0);
+    row("behind one that cannot be read", {"QUORVANDEL-1", "QUORVANDEL-2"}, "QUORVANDEL-2", 2, 0);
     row("none can be read", {"QUORVANDEL-1"}, "", 1, 0);
     row("no dash", {"QUORVANDEL"}, "", 1);
     row("two dashes", {"QUORVANDEL-X-123"}, "", 1);
@@ -180,14 +180,14 @@ void ConnectionTest::choice()
 void ConnectionTest::manyCameras_data()
 {
     QTest::addColumn<int>("count");
-    QTest::addColumn<int>("read"); ///< IDs that are asked for
+    QTest::addColumn<int>("read"); ///< IDs that are requested
     QTest::newRow("one less than the limit") << 1023 << 1023;
     QTest::newRow("the limit") << 1024 << 1024;
     QTest::newRow("one more") << 1025 << 1024;
     QTest::newRow("most") << std::numeric_limits<int>::max() << 1024;
 }
 
-/// A library that tells of more cameras than can be is not asked for the IDs of all.
+/// A library that reports an impossible number of cameras is not asked for all the IDs.
 void ConnectionTest::manyCameras()
 {
     QFETCH(int, count);
@@ -234,7 +234,7 @@ void ConnectionTest::readBack_data()
 {
     QTest::addColumn<double>("exposure");
     QTest::addColumn<double>("gain");
-    QTest::addColumn<int>("shownExposure"); ///< the edit boxes show what the sliders can not
+    QTest::addColumn<int>("shownExposure"); ///< the edit boxes show what the sliders cannot
     QTest::addColumn<int>("shownGain");
     QTest::newRow("plain") << 120000.0 << 17.0 << 120 << 17;
     QTest::newRow("cut, not rounded") << 20999.9 << 3.99 << 20 << 3;
@@ -276,7 +276,7 @@ void ConnectionTest::readBack()
     QCOMPARE(w.child<QSlider>("sliderGain").value(), qBound(1, shownGain, 100));
 }
 
-/// Traffic and speed are written at every connection; exposure and gain are the camera's.
+/// Traffic and speed are set at every connection; exposure and gain remain the camera's.
 void ConnectionTest::keptParametersAreSentAgain()
 {
     const CameraWindow w;

@@ -33,7 +33,7 @@ void ConnectionFailuresTest::failure_data()
     QTest::addColumn<QString>("critical"); ///< the critical line; empty = none
     QTest::addColumn<bool>("hasBox");
     QTest::addColumn<bool>("connects");
-    QTest::addColumn<QString>("unlogged"); ///< the debug line that is left out
+    QTest::addColumn<QString>("unlogged"); ///< the debug line that is missing
     const auto row = [](const char *name, const char *operation, std::uint32_t status,
                         const QStringList &calls, const char *critical, bool hasBox, bool connects,
                         const char *unlogged = "") {
@@ -143,7 +143,7 @@ void ConnectionFailuresTest::failedCloseLeavesItConnected()
     QCOMPARE(sdkLog(log), QStringList("StopVELDIXLive"));
     QCOMPARE(shownBy(w), connectedState);
     QVERIFY(w.session().handle.get() != nullptr);
-    // What follows the closing is done all the same.
+    // What follows the close is done all the same.
     QVERIFY(image.pixmap(Qt::ReturnByValue).isNull());
     QCOMPARE(position.text(), QString());
     QTRY_VERIFY(isClear(magnified(w)));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Which widgets and helpers has the window right after it was made, and how are they set?
+// Which widgets and helpers does a new window have, and how are they set?
 #include "tests/window/windowtest.h"
 
 #include "dialogs/aboutdialog.h"
@@ -84,7 +84,7 @@ void ConstructedWidgetsTest::actions_data()
         {"actionConnect", true, true},
         {"actionDisplay_Template", false, false},
         {"actionMono_Style", true, true},
-        {"actionStretch", false, false}, // what is hidden counts as disabled
+        {"actionStretch", false, false}, // hidden counts as disabled
         {"actionAstronomical_Refraction", false, true},
         {"actionManual_Trace", false, true},
         {"actionPlay_Audio", true, true},

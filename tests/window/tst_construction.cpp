@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What is in force right after the window was made, for each kind of settings file?
+// What is in effect in a new window, for each kind of settings file?
 #include "tests/support/boxwatcher.h"
 #include "tests/window/windowtest.h"
 
@@ -81,7 +81,7 @@ void ConstructionTest::sharedValues()
     QCOMPARE(QPointF(session.alignmentPoints.savedAxisCenter), QPointF(0, 0));
 }
 
-/// What the window draws on without a camera, and the thread that it owns by itself.
+/// The images that the window draws on without a camera, and the thread that it owns.
 void ConstructionTest::picturesAndThread()
 {
     SessionWindow window;
@@ -93,7 +93,7 @@ void ConstructionTest::picturesAndThread()
     QVERIFY(!probe.captureThread().isRunning());
 }
 
-/// Stars before settings, then hemisphere, style, language and camera, as the log tells them.
+/// According to the log: stars before settings, then hemisphere, style, language and camera.
 void ConstructionTest::order()
 {
     writeIni(settingsFilePath(), {"[STYLE]", "style=Mono", "[LANGUAGE]", "lang=EN"});
@@ -166,7 +166,7 @@ void ConstructionTest::languages_data()
                                 << QString(":/languages/lan_%1.qm").arg(row.catalogue);
 }
 
-/// An unknown code stays in force until another language is chosen.
+/// An unknown code remains in effect until another language is chosen.
 void ConstructionTest::languages()
 {
     QFETCH(QString, action);
@@ -249,7 +249,7 @@ void ConstructionTest::styles()
         QCOMPARE(shadow->color(), glow);
 }
 
-/// Without the camera maker's library the window is as usable as with it, but can not connect.
+/// Without the camera maker's library the window is as usable as with it, but cannot connect.
 void ConstructionTest::sdkMissing()
 {
     const LogRecorder log;
@@ -308,7 +308,7 @@ void ConstructionTest::templatePoleIsMarked_data()
     poleDataFollowsRegion_data();
 }
 
-/// What lies over the picture is the mask with the pole's cross in it, and nothing else.
+/// The label over the picture shows the mask with the pole's cross in it, and nothing else.
 void ConstructionTest::templatePoleIsMarked()
 {
     QFETCH(QString, region);

@@ -16,10 +16,10 @@ struct Control {
     const char *name;
     const char *slider;
     const char *edit;
-    const char *slot; ///< of the edit box
+    const char *slot; ///< the edit box's slot
     int least, most, page;
     int start;
-    int control;    ///< of the camera library
+    int control;    ///< the camera library's number
     double perUnit; ///< camera units in one of the slider's
     double CameraState::*value;
 };
@@ -51,7 +51,7 @@ QString callFor(const Control &control, double shown, const QString &handle = "c
         .arg(qint64(shown * control.perUnit));
 }
 
-/// A connected window with the parameters in view and the calls so far forgotten.
+/// A connected window with the parameters visible and the previous calls cleared.
 class ControlWindow : public CameraWindow
 {
 public:
@@ -65,7 +65,7 @@ public:
         sdk().clearCalls();
     }
 
-    /// Slider, edit box, stored value and the calls so far, all together.
+    /// Checks slider, edit box, stored value and the previous calls together.
     void check(const QStringList &calls, int shown, const QString &text) const
     {
         QCOMPARE(sdkCalls(), calls);
@@ -261,7 +261,7 @@ void ControlsTest::emptyText_data()
                            << "" << 0;
 }
 
-/// The validator keeps Return from an empty box; the slot itself must stand it.
+/// The validator blocks Return in an empty box; the slot itself must cope with it.
 void ControlsTest::emptyText()
 {
     QFETCH(QString, name);
@@ -299,7 +299,7 @@ void ControlsTest::withoutCamera_data()
     dragging_data();
 }
 
-/// The call is made with no handle, and the value waits for the next connection.
+/// The call is made with a null handle, and the value is kept for the next connection.
 void ControlsTest::withoutCamera()
 {
     QFETCH(QString, name);

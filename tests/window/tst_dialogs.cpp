@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Where do the dialogs' widgets lie, what do they say, and what do the two small ones do?
+// Where are the dialogs' widgets, what do they say, and what do the two small dialogs do?
 #include "dialogs/aboutdialog.h"
 #include "dialogs/astrorefractiondialog.h"
 #include "dialogs/favoritedialog.h"
@@ -29,7 +29,7 @@ std::unique_ptr<QDialog> makeDialog(const QString &name, RefractionSettings &ref
 }
 } // namespace
 
-/// Takes the web addresses that the program opens.
+/// Receives the web addresses that the program opens.
 class UrlTaker : public QObject
 {
     Q_OBJECT
@@ -82,7 +82,7 @@ void DialogsTest::frames_data()
     QTest::newRow("refraction") << QSize(369, 123) << "Astronomical Refraction";
     QTest::newRow("tracking") << QSize(353, 160) << "Pole Tracking";
     QTest::newRow("about") << QSize(338, 179) << "About";
-    const FavoriteDialog favourites; // its size is its own business, as long as it is fixed
+    const FavoriteDialog favourites; // its size is not specified, as long as it is fixed
     QTest::newRow("favourite") << favourites.size() << favourites.windowTitle();
 }
 
@@ -236,7 +236,7 @@ void DialogsTest::aboutLinks()
     QCOMPARE(taker.urls, QList<QUrl>{QUrl("https://a.example/b")});
 }
 
-/// The Tab key leads from the button to both links and back.
+/// The Tab key moves from the button to both links and back.
 void DialogsTest::aboutByKeyboard()
 {
     AboutDialog dialog;
@@ -273,7 +273,7 @@ void DialogsTest::aboutClicks_data()
     QTest::newRow("label_version") << QPoint(60, 12) << 0;
 }
 
-/// By the mouse on the shown dialog; each click opens the address once.
+/// With the mouse on the shown dialog; each click opens the address once.
 void DialogsTest::aboutClicks()
 {
     QFETCH(QPoint, place);
@@ -323,7 +323,7 @@ void DialogsTest::shownFromTheMenu_data()
     QTest::newRow("FavoriteDialog") << "on_actionFavorite_triggered";
 }
 
-/// Shown and not waited for: the slot comes back, and the same dialog shows again after a close.
+/// Shown without waiting: the slot returns, and the same dialog is shown again after a close.
 void DialogsTest::shownFromTheMenu()
 {
     QFETCH(QString, slot);
@@ -340,7 +340,7 @@ void DialogsTest::shownFromTheMenu()
     QCOMPARE(window.findChildren<QDialog *>(), dialogs);
 }
 
-/// What the player can tell where no sound service is there: the action reaches it, at volume 0.
+/// What the player reports without a sound service: the action reaches it, at volume 0.
 void DialogsTest::sound()
 {
     SessionWindow window;

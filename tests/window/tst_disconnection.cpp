@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How is the camera let go, with frames in flight, in a hurry, and as the window closes?
+// How is the camera released, with frames in flight, in quick succession, and as the window closes?
 #include "tests/support/mainwindowprobe.h"
 #include "tests/window/connectiontest.h"
 
@@ -65,7 +65,7 @@ void DisconnectionTest::disconnectClearsThePicture()
     QCOMPARE(w.session().frameRate.rate().tenths, 0);
     QTRY_COMPARE(rate.text(), QStringLiteral("FPS : 0.0"));
     QVERIFY(w.session().frameQueue.isEmpty());
-    // Nothing comes after it: the frames that are still announced are not fetched.
+    // Nothing comes after it: frames that are still announced are not fetched.
     const int fetches = sdk().fetchCount();
     QTest::qWait(150);
     QVERIFY(sdk().fetchCount() <= fetches + 1);
@@ -73,7 +73,7 @@ void DisconnectionTest::disconnectClearsThePicture()
     QVERIFY(w.session().frameQueue.isEmpty());
 }
 
-/// By itself: nothing else is painted that would paint it along.
+/// On its own: nothing else that is painted would repaint it too.
 void DisconnectionTest::disconnectPaintsTheMagnifier()
 {
     const CameraWindow w;
@@ -84,13 +84,13 @@ void DisconnectionTest::disconnectPaintsTheMagnifier()
     w.child<QScrollArea>("scrollArea_showImg").viewport()->setUpdatesEnabled(false);
     sdk().setFramesLeft(0);
     QTRY_VERIFY(w.session().frameQueue.isEmpty());
-    QTest::qWait(100); // for what is still to be painted
+    QTest::qWait(100); // pending paint events
     QVERIFY(!isClear(magnified(w)));
     w.trigger("actionConnect");
     QTRY_VERIFY(isClear(magnified(w)));
 }
 
-/// The thread is told to stop, and that is all.
+/// The thread is told to stop, and nothing else happens.
 void DisconnectionTest::disconnectWithoutHandle()
 {
     const CameraWindow w;
@@ -98,7 +98,7 @@ void DisconnectionTest::disconnectWithoutHandle()
     w.connectCamera();
     QVERIFY(w.waitForNewFrame());
     sdk().clearCalls();
-    const LogRecorder log; // from before the handle goes: the loop may end at once without it
+    const LogRecorder log; // before the handle goes, since the loop may then end at once
     void *const handle = w.session().handle.get();
     w.session().handle.set(nullptr);
     w.trigger("actionConnect");
@@ -143,7 +143,7 @@ void DisconnectionTest::manyReconnectsWhileFramesFlow()
     QVERIFY(w.child<QLabel>("label_showImg").pixmap(Qt::ReturnByValue).isNull());
 }
 
-/// The capture thread may be beginning still: the camera is not closed under it.
+/// The capture thread may still be starting: the camera is not closed meanwhile.
 void DisconnectionTest::disconnectWhileItBegins()
 {
     std::atomic<bool> inside{false}, goOn{false};
@@ -157,7 +157,7 @@ void DisconnectionTest::disconnectWhileItBegins()
     w.trigger("actionConnect");
     QTRY_VERIFY(inside);
     w.trigger("actionConnect");
-    QTest::qWait(600); // longer than a call for a frame is waited for
+    QTest::qWait(600); // longer than the wait for a frame call
     QCOMPARE(sdkCalls({"BeginVELDIXLive", "StopVELDIXLive", "CloseVELDIX"}), beginning);
     QCOMPARE(shownBy(w), connectedState);
     goOn = true;
@@ -190,7 +190,7 @@ void DisconnectionTest::disconnectDuringALongFetch()
     QCOMPARE(rate.text(), QStringLiteral("FPS : 0.0"));
 }
 
-/// The window comes back without the camera being closed, and a later Disconnect closes it.
+/// The window becomes usable without the camera being closed, and a later Disconnect closes it.
 void DisconnectionTest::disconnectFromALibraryThatHangs()
 {
     const CameraWindow w;
@@ -206,7 +206,7 @@ void DisconnectionTest::disconnectFromALibraryThatHangs()
     const QString complaint = "the camera is not closed: its library does not return from a call";
     w.trigger("actionConnect");
     QTRY_COMPARE(log.texts(QtCriticalMsg), QStringList(complaint));
-    w.trigger("actionConnect"); // waits no longer
+    w.trigger("actionConnect"); // no longer waits
     QCOMPARE(log.texts(QtCriticalMsg), QStringList({complaint, complaint}));
     QCOMPARE(sdkCalls(), QStringList("StopVELDIXLive(camera 1)")); // that did not help
     QCOMPARE(shownBy(w), connectedState);
@@ -227,7 +227,7 @@ void DisconnectionTest::disconnectInEveryStep_data()
         QTest::addRow("step %d", step) << step;
 }
 
-/// The wizard is put away, and remembers where it was.
+/// The wizard is hidden, and remembers its step.
 void DisconnectionTest::disconnectInEveryStep()
 {
     QFETCH(int, step);
@@ -246,7 +246,7 @@ void DisconnectionTest::disconnectInEveryStep()
     QVERIFY(w.child<QPushButton>("pushButton_head_region").isChecked());
     QVERIFY(w.child<QWidget>("widget_region").isVisible());
     w.trigger("actionConnect");
-    QCOMPARE(shownBy(w), atRest(w)); // the pages among it
+    QCOMPARE(shownBy(w), atRest(w)); // including the pages
     QVERIFY(!mask.isVisible());
     QVERIFY(!arrow.isVisible());
     for (const char *const section : {"region", "setting", "confirm", "rough", "precise"}) {
@@ -301,7 +301,7 @@ void DisconnectionTest::closeWindow()
     QVERIFY(QFile::exists(settingsPath()));
 }
 
-/// There is nothing to close, and nothing to say; the library is given up all the same.
+/// There is nothing to close and no message; the library is released all the same.
 void DisconnectionTest::closeWindowWithoutHandle()
 {
     const CameraWindow w;
@@ -318,7 +318,7 @@ void DisconnectionTest::closeWindowWithoutHandle()
     QVERIFY(QFile::exists(settingsPath()));
 }
 
-/// A library that crashes or hangs as it stops takes no setting with it.
+/// A library that crashes or hangs while it stops does not lose any setting.
 void DisconnectionTest::settingsAreSavedBeforeTheCameraStops()
 {
     QByteArray atStop;
@@ -338,7 +338,7 @@ void DisconnectionTest::settingsAreSavedBeforeTheCameraStops()
     QCOMPARE(atStop, file.readAll());
 }
 
-/// The second closing lets the camera go; the library was given up by the first.
+/// The second close releases the camera; the library was released by the first.
 void DisconnectionTest::closeAgainAfterAFailedClose()
 {
     const CameraWindow w;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Does the main window's form have every menu, widget, text, range and size that it should?
+// Does the main window's form have every menu, widget, text, range and size that it should have?
 #include "tests/window/formtables.h"
 
 #include "resources/resources.h"
@@ -124,7 +124,7 @@ void FormTest::entriesAfterRetranslation_data()
                 QTest::newRow(qPrintable(entry.section('=', 0, 0))) << entry;
 }
 
-/// menus() has held the texts as they are at first.
+/// menus() has checked the initial texts.
 void FormTest::entriesAfterRetranslation()
 {
     QFETCH(QString, entry);
@@ -154,12 +154,12 @@ void FormTest::widgets()
     checkWidget(*window, QTest::currentDataTag());
 }
 
-/// Retranslation sets every text anew, also those that were changed meanwhile.
+/// Retranslation sets every text again, including those that were changed meanwhile.
 void FormTest::widgetsAfterRetranslation()
 {
     QFETCH(QString, className);
     QFETCH(QString, text);
-    // What has no words keeps its text: retranslation may leave pictures, numbers and signs alone.
+    // Texts without words are kept: retranslation may leave pictures, numbers and signs alone.
     static const QRegularExpression words("[A-Za-z]{2}");
     const QString name = QTest::currentDataTag();
     if (className == "QWidget" || !text.contains(words))
@@ -204,7 +204,7 @@ void FormTest::parents_data()
         << QStringList{"label_refStarB_position", "label_refStarB_pos"};
 }
 
-/// All the named widgets that lie directly in one, and no others.
+/// All the named widgets that are direct children of one, and no others.
 void FormTest::parents()
 {
     QFETCH(QStringList, children);
@@ -218,7 +218,7 @@ void FormTest::parents()
     QCOMPARE(found, children);
 }
 
-/// The widgets of a layout from its first item on.
+/// The widgets of a layout, starting with its first item.
 QStringList widgetNames(const QLayout &layout)
 {
     QStringList names;
@@ -320,7 +320,7 @@ void FormTest::styleSheets()
     QCOMPARE(named<QWidget>(*window, QTest::currentDataTag()).styleSheet(), sheet);
 }
 
-/// The stored hemisphere's button must still send its signal when it is checked.
+/// Checking the stored hemisphere's button must still emit its signal.
 void FormTest::hemisphereIsLeftOpen()
 {
     QVERIFY(!ui.radioButton_north->isChecked());

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How do the waiting pictures and the frame rate come onto the screen?
+// How do the waiting pictures and the frame rate get onto the screen?
 #include "tests/window/camerawindow.h"
 #include "widgets/magnifierwidget.h"
 
@@ -24,7 +24,7 @@ QByteArray zoomSetting(const QByteArray &factor)
     return "[ZOOM]\nfactor=" + factor + '\n';
 }
 
-/// Whether a point of the frame lies in the middle of the view, to a few pixels.
+/// Whether a point of the frame is in the middle of the view, within a few pixels.
 bool isInTheMiddle(const CameraWindow &w, double zoom, QPointF frame)
 {
     const auto &area = w.child<QScrollArea>("scrollArea_showImg");
@@ -87,7 +87,7 @@ void FrameDisplayTest::zoom()
     QCOMPARE(picture.pixelColor(shown.width() / 2, shown.height() / 2), QColor(90, 60, 30));
 }
 
-/// Whatever the camera has said of the frames after it.
+/// Whatever the camera reports about the frames after it.
 void FrameDisplayTest::waitingPictureKeepsItsSize()
 {
     const CameraWindow w(zoomSetting("0.5"));
@@ -98,7 +98,7 @@ void FrameDisplayTest::waitingPictureKeepsItsSize()
     QCOMPARE(w.child<QLabel>("label_showImg").pixmap(Qt::ReturnByValue).size(), QSize(320, 240));
 }
 
-/// At half size a pixel is the mean of four: no star of one pixel is lost.
+/// At half size a pixel is the mean of four: no single-pixel star is lost.
 void FrameDisplayTest::scalingIsSmooth()
 {
     const CameraWindow w(zoomSetting("0.5"));
@@ -147,7 +147,7 @@ void FrameDisplayTest::firstPictureIsCentred_data()
     QTest::newRow("50") << QByteArray("0.5");
 }
 
-/// After every connection, and only once: where the user scrolls to is kept.
+/// After every connection, and only once: the user's scroll position is kept.
 void FrameDisplayTest::firstPictureIsCentred()
 {
     QFETCH(QByteArray, factor);
@@ -159,7 +159,7 @@ void FrameDisplayTest::firstPictureIsCentred()
     for (int connection = 0; connection < 2; ++connection) {
         w.connectCamera();
         QTRY_VERIFY(area.verticalScrollBar()->maximum() > 100);
-        QTest::qWait(50); // what is laid out later must not undo it
+        QTest::qWait(50); // later layouting must not undo it
         QVERIFY2(isInTheMiddle(w, factor.toDouble(), {640, 480}), "not at first");
         area.horizontalScrollBar()->setValue(20);
         area.verticalScrollBar()->setValue(30);
@@ -242,7 +242,7 @@ void FrameDisplayTest::magnifierFollowsThePicture()
     for (const QColor &colour : {QColor(200, 10, 20), QColor(10, 200, 20)}) {
         w.session().frameQueue.append(plainPicture(640, 480, colour));
         w.call("showImages");
-        QCoreApplication::processEvents(); // it is told to paint, and does so by itself
+        QCoreApplication::processEvents(); // told to paint, it does so by itself
         const QImage region = magnifier->magnifiedRegion().toImage();
         QVERIFY(!region.isNull());
         QCOMPARE(region.pixelColor(0, 0), colour);
@@ -328,7 +328,7 @@ void FrameDisplayTest::readOutsWaitForAPicture()
     for (int i = 1; i <= 3; ++i) {
         w.session().monitorPositions.starACurrent = QPointF(100 + i, 200);
         w.session().monitorPositions.starBCurrent = QPointF(300, 400 + i);
-        // The picture itself goes on coming.
+        // Pictures themselves keep coming.
         w.session().frameQueue.append(plainPicture(64, 48, Qt::blue));
         w.call("showImages");
         QCOMPARE(starA.text() + starB.text(), QStringLiteral("(100.0,200.0)(300.0,400.0)"));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Does the scanner read an INI file as the toolkit's reader does, whatever its bytes are?
+// Does the scanner read an INI file like the toolkit's reader, whatever its bytes are?
 #include "core/iniscanner.h"
 
 #include <QBuffer>
@@ -14,7 +14,7 @@ namespace
 {
 using Values = QMap<QString, QStringList>;
 
-/// The toolkit lists other keys and does not give them.
+/// The toolkit lists other keys but does not return their values.
 bool canBeAskedFor(const QString &key)
 {
     return !key.isEmpty() && !key.startsWith('/') && !key.endsWith('/') && !key.contains("//");
@@ -36,7 +36,7 @@ Values readByToolkit(const QByteArray &bytes, const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(bytes) != bytes.size())
-        qFatal("the file can not be written");
+        qFatal("the file cannot be written");
     file.close();
     const QSettings settings(path, QSettings::IniFormat);
     Values values;
@@ -94,12 +94,12 @@ void IniScannerTest::readsAsTheToolkit()
     QFETCH(QByteArray, bytes);
     const QTemporaryDir folder;
     Values ours = scanned(bytes);
-    if (bytes.contains("@@")) // what that stands for is not the scanner's business
+    if (bytes.contains("@@")) // the scanner does not interpret this escape
         ours["g/a"][0].remove(0, 1);
     QCOMPARE(ours, readByToolkit(bytes, folder.filePath("one.ini")));
 }
 
-/// Seeded texts of the characters that mean something in such a file.
+/// Seeded texts of the characters that have a meaning in such a file.
 void IniScannerTest::readsAnyBytesAsTheToolkit()
 {
     const QTemporaryDir folder;
@@ -109,7 +109,7 @@ void IniScannerTest::readsAnyBytesAsTheToolkit()
         QByteArray bytes = round % 2 ? "[g]\n" : "";
         for (unsigned length = unsigned(random()) % 40; length > 0; --length)
             bytes += alphabet.at(int(unsigned(random()) % unsigned(alphabet.size())));
-        // The toolkit remembers a file by its name and time.
+        // The toolkit caches a file by its name and time.
         const QString path = folder.filePath(QString::number(round) + ".ini");
         const Values expected = readByToolkit(bytes, path);
         QFile::remove(path);
@@ -119,7 +119,7 @@ void IniScannerTest::readsAnyBytesAsTheToolkit()
     }
 }
 
-/// They are passed over; what follows on the next line is read.
+/// They are skipped; what follows on the next line is read.
 void IniScannerTest::tooLongEntries()
 {
     const QByteArray longText(300, 'x');

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What outlasts a change of language while a camera is connected and monitored?
+// What survives a change of language while a camera is connected and monitored?
 #include "tests/window/monitorwindow.h"
 
 #include <QAction>
@@ -8,7 +8,7 @@
 
 namespace
 {
-/// How the texts are applied anew: by a language's action, or by the slot alone.
+/// How the texts are set again: by a language's action, or by the slot alone.
 void resetTexts(const CameraWindow &w, const QString &how)
 {
     if (how == "uiReset")
@@ -17,7 +17,7 @@ void resetTexts(const CameraWindow &w, const QString &how)
         w.trigger(qPrintable(how));
 }
 
-/// A window in monitor mode whose pictures have all come: nothing changes any more by itself.
+/// A window in monitor mode whose pictures have all arrived: nothing changes by itself any more.
 class StillWindow : public MonitorWindow
 {
 public:
@@ -32,7 +32,7 @@ public:
         });
         sdk().setFramesLeft(0);
         const int fetches = sdk().fetchCount();
-        // The frame in flight is done with once another fetch has begun.
+        // The frame in flight is processed once another fetch has begun.
         const bool still = QTest::qWaitFor([&] {
             return sdk().fetchCount() > fetches + 1 && session().frameQueue.isEmpty() &&
                    session().magnifierQueue.isEmpty();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Is everything in the window reached by the Tab key, and is nothing begun by a key hit by chance?
+// Can the Tab key reach everything in the window, and does no accidental key press start anything?
 #include "tests/support/mainwindowprobe.h"
 #include "tests/window/camerawindow.h"
 
@@ -38,7 +38,7 @@ void press(const CameraWindow &w, Qt::Key key, Qt::KeyboardModifiers modifiers =
     QTest::keyClick(w.window->windowHandle(), key, modifiers);
 }
 
-/// What the key goes through, from where the focus is until it is there again.
+/// The widgets that the key visits, from the current focus until it is there again.
 QStringList wayRound(const CameraWindow &w, Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
     constexpr int most = 40;
@@ -61,7 +61,7 @@ void KeyboardTest::spaceBarAtTheStart()
     QCOMPARE(QApplication::focusWidget()->objectName(), QString("scrollArea_showImg"));
     press(w, Qt::Key_Space);
     QCOMPARE(w.window->step(), 1);
-    press(w, Qt::Key_Tab); // the page's button is the next
+    press(w, Qt::Key_Tab); // the page's button is next
     press(w, Qt::Key_Space);
     QCOMPARE(w.window->step(), 2);
 }
@@ -89,7 +89,7 @@ void KeyboardTest::returnPressesOnce_data()
     QTest::newRow("space bar") << Qt::Key_Space;
 }
 
-/// However long it is held, and when it comes up again.
+/// However long the key is held, and when it is released.
 void KeyboardTest::returnPressesOnce()
 {
     QFETCH(Qt::Key, key);
@@ -114,7 +114,7 @@ void KeyboardTest::returnPressesOnce()
     send(QEvent::KeyRelease, false);
     QCOMPARE(clicks.count(), 1);
     QCOMPARE(w.window->step(), 2);
-    // The window system's way, with whatever has the focus.
+    // Through the window system, with whatever has the focus.
     w.child<QPushButton>("pushButton_confirm_add").setFocus();
     press(w, key);
     QCOMPARE(MainWindowProbe(*w.window).rotateValue(), 1);
@@ -151,7 +151,7 @@ void KeyboardTest::arrowKeyAfterDone_data()
                 << key.value() << byMouse;
 }
 
-/// Monitoring goes on, and the hemisphere stays.
+/// Monitoring continues, and the hemisphere stays.
 void KeyboardTest::arrowKeyAfterDone()
 {
     QFETCH(int, key);
@@ -194,7 +194,7 @@ void KeyboardTest::focusAfterThePagesButtons_data()
     QTest::newRow("Restart") << 13 << "pushButton_finetunePole_reset" << 1;
 }
 
-/// A second press of the key that pressed a page's button presses none of the next page's.
+/// The key that pressed a page's button does not press one of the next page when hit again.
 void KeyboardTest::focusAfterThePagesButtons()
 {
     QFETCH(int, step);
@@ -213,7 +213,7 @@ void KeyboardTest::focusAfterThePagesButtons()
     QCOMPARE(w.window->step(), next);
 }
 
-/// What is typed into goes with its section; the focus of another one stays.
+/// A closed section takes the focus away from its own fields; another section's focus stays.
 void KeyboardTest::focusAfterAClosedSection()
 {
     const CameraWindow w;
@@ -248,7 +248,7 @@ void KeyboardTest::tabGoesRound()
     QCOMPARE(QSet<QString>(forward.begin(), forward.end()).size(), forward.size());
     std::reverse(back.begin() + 1, back.end());
     QCOMPARE(back, forward);
-    // Every button that can be pressed is on the way; of the two hemispheres the chosen one.
+    // Every enabled button is on the way; of the two hemispheres, the chosen one.
     for (const QAbstractButton *const button : w.window->findChildren<QAbstractButton *>())
         if (button->window() == w.window.get() && button->isVisible() && button->isEnabled() &&
             (!button->autoExclusive() || button->isChecked()))

@@ -36,8 +36,8 @@ QStringList linesOf(const QString &path)
 
 const QDateTime start(QDate(2024, 5, 23), QTime(21, 4, 10));
 
-/// The kinds of message that the child process can log: by Qt's logger, which ends the process
-/// after a fatal one by itself, and straight to the handler.
+/// The kinds of message that the child process can log: through Qt's logger, which itself ends the
+/// process after a fatal one, and directly to the handler.
 const char *const childKinds[] = {"--fatal", "--fatal-handled", "--debug"};
 
 /// What the child process does: logs one line, then the message that its argument names.
@@ -117,7 +117,7 @@ void LoggingTest::pathNamesTheStart()
     QFETCH(QString, name);
     prepareLogFile(time);
     QCOMPARE(logFilePath, QDir::toNativeSeparators(documents + "/Quorvandel/Log/" + name));
-    QVERIFY(!QFile::exists(logFilePath)); // only the name is prepared
+    QVERIFY(!QFile::exists(logFilePath)); // only the name is set
 }
 
 void LoggingTest::foldersAreMade_data()
@@ -136,7 +136,7 @@ void LoggingTest::foldersAreMade()
     QVERIFY(QFileInfo(documents + "/Quorvandel/Log").isDir());
 }
 
-/// No folder is made above the program's own; the file can then not be opened.
+/// No folder is created above the program's own; the file can then not be opened.
 void LoggingTest::documentsMissing()
 {
     QVERIFY(QDir(documents).removeRecursively());
@@ -149,7 +149,7 @@ void LoggingTest::documentsMissing()
 
 void LoggingTest::folderCanNotBeMade_data()
 {
-    QTest::addColumn<QString>("file"); ///< that lies in the place of a folder
+    QTest::addColumn<QString>("file"); ///< in the place of a folder
     QTest::addColumn<int>("rights");   ///< of the user's documents
     QTest::addColumn<bool>("writes");
     QTest::newRow("a file for the program's folder") << "/Quorvandel" << 0755 << false;
@@ -158,7 +158,7 @@ void LoggingTest::folderCanNotBeMade_data()
     QTest::newRow("documents that can be written") << "" << 0755 << true;
 }
 
-/// The program goes on without its log, and says so for each line that is lost.
+/// The program continues without its log, and reports each line that is lost.
 void LoggingTest::folderCanNotBeMade()
 {
     QFETCH(QString, file);
@@ -279,7 +279,7 @@ void LoggingTest::messageIsTakenAsItIs()
     QCOMPARE(lines.first().mid(QString("yyyy/MM/dd hh:mm:ss").size()), "\tInfo\t " + message);
 }
 
-/// The text goes through the locale's bytes, which end there.
+/// The text is converted to the locale's bytes, which end there.
 void LoggingTest::messageEndsAtItsNul()
 {
     logMessageHandler(QtInfoMsg, context, QString("before") + QChar(0) + "after");
@@ -288,7 +288,7 @@ void LoggingTest::messageEndsAtItsNul()
     QCOMPARE(lines.first().mid(QString("yyyy/MM/dd hh:mm:ss").size()), QString("\tInfo\t before"));
 }
 
-/// A file taken away between two messages is made anew by the second.
+/// A file removed between two messages is created again by the second.
 void LoggingTest::fileIsClosedBetweenMessages()
 {
     logMessageHandler(QtDebugMsg, context, "first");
@@ -316,7 +316,7 @@ void LoggingTest::fatalIsNotWritten()
     QVERIFY(lines.first().endsWith("\tDebug\t before"));
 }
 
-/// The complaint goes to Qt's own output, not back into the handler; the lines are dropped.
+/// The error goes to Qt's own output, not back to the handler; the lines are dropped.
 void LoggingTest::unwritableFileIsReported()
 {
     QProcess child;

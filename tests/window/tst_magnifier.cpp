@@ -14,7 +14,7 @@ namespace
 {
 const QColor ground(10, 20, 30);
 
-/// Every pixel tells its place: red is x, green y, each modulo 256, and blue counts the wraps.
+/// Every pixel encodes its place: red is x, green y, each modulo 256, and blue counts the wraps.
 QPixmap placePicture(int width, int height)
 {
     QImage image(width, height, QImage::Format_RGB32);
@@ -39,7 +39,7 @@ QImage paint(QWidget &widget)
     return image;
 }
 
-/// The view in its plain form: each ellipse is filled whole.
+/// A simple implementation of the view: each ellipse is filled completely.
 class PlainView : public QWidget
 {
 public:
@@ -219,7 +219,7 @@ void MagnifierTest::regionHoldsTheSquare_data()
     QTest::newRow("120 at 3") << QSize(120, 120) << 3.0F << QRect(80, 80, 40, 40);
     QTest::newRow("an odd side") << large << 2.0F << QRect(63, 63, 75, 75);
     QTest::newRow("truncated") << large << 4.0F << QRect(82, 82, 37, 37);
-    // The width alone counts.
+    // Only the width counts.
     QTest::newRow("wider than high") << QSize(150, 90) << 3.0F << QRect(75, 75, 50, 50);
     QTest::newRow("higher than wide") << QSize(90, 150) << 3.0F << QRect(85, 85, 30, 30);
 }
@@ -425,7 +425,7 @@ void MagnifierTest::oddZooms_data()
     QTest::newRow("no number") << std::nanf("");
 }
 
-/// Zooms that no caller sets are painted without harm.
+/// Zooms that no caller sets are painted without errors.
 void MagnifierTest::oddZooms()
 {
     QFETCH(float, zoom);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Do the menu's entries bring up the dialogs, and what does the refraction dialog show then?
+// Do the menu's entries open the dialogs, and what does the refraction dialog then show?
 #include "tests/window/camerawindow.h"
 
 #include <QAction>
@@ -11,7 +11,7 @@
 
 namespace
 {
-/// The visible dialogs' classes.
+/// The classes of the visible dialogs.
 QStringList shownDialogs(const CameraWindow &w)
 {
     QStringList names;
@@ -49,7 +49,7 @@ void MenuDialogsTest::shown_data()
     QTest::newRow("AboutDialog") << "actionAbout";
 }
 
-/// Shown beside the window, which goes on working; a second time after it was closed.
+/// Shown beside the window, which stays usable; shown again after it was closed.
 void MenuDialogsTest::shown()
 {
     QFETCH(QString, action);
@@ -133,7 +133,7 @@ void MenuDialogsTest::refractionAsLoaded()
         QCOMPARE(w.child<QDoubleSpinBox>(names[i]).value(), shown[i]);
     QCOMPARE(w.child<QCheckBox>("checkBox_enableAstroRef").isChecked(), enabled);
     QCOMPARE(w.child<QComboBox>("comboBox_presure").currentIndex(), unit);
-    // What is shown is in force.
+    // The shown values are in effect.
     QCOMPARE(float(w.session().refraction.latitude), float(shown[0]));
     QCOMPARE(float(w.session().refraction.longitude), float(shown[1]));
     QCOMPARE(float(w.session().refraction.P), float(shown[2]));

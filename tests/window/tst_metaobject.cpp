@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Which signals and slots do the window and its dialogs have, in which order?
+// Which signals and slots do the window and its dialogs have, and in which order?
 #include "dialogs/aboutdialog.h"
 #include "dialogs/astrorefractiondialog.h"
 #include "dialogs/favoritedialog.h"

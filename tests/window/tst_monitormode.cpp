@@ -64,7 +64,7 @@ void MonitorModeTest::startPositions()
     QFETCH(int, degrees);
     QFETCH(QPointF, starB);
     const QPointF predicted = starB + offsetToA(degrees, region);
-    const QPointF starA = predicted + QPointF(3, -4); // the template never fits quite
+    const QPointF starA = predicted + QPointF(3, -4); // the template never fits exactly
     const MonitorWindow w(degrees, starB, {starB, starA}, region);
     const LogRecorder log;
     w.call("pushbuttonGetCurPolarisDoneClicked");
@@ -82,8 +82,8 @@ void MonitorModeTest::startPositions()
              pointText(w.session().monitorPositions.starBSearch));
 }
 
-/// Where a star is not found its expected place stands in: for star A the template's, which at
-/// angle 0 with star B on its template pixel is the template's star A itself.
+/// A star that is not found is replaced by its expected place. For star A it is the template's,
+/// which at angle 0 with star B on its template pixel is the template's star A itself.
 void MonitorModeTest::startWithoutStars()
 {
     const QPointF starB = templateB("North");
@@ -152,7 +152,7 @@ void MonitorModeTest::dialTurnsTheSearch_data()
     turnsDoNotAddUp_data();
 }
 
-/// From the dialog's knobs to where the capture thread looks.
+/// From the dialog's dial to the capture thread's search positions.
 void MonitorModeTest::dialTurnsTheSearch()
 {
     QFETCH(QString, region);
@@ -205,7 +205,7 @@ void MonitorModeTest::dialKeepsItsValueWhileHidden()
     w.trigger("actionManual_Trace");
     QVERIFY(dialog.isVisible());
     QCOMPARE(dial.value(), 77);
-    QCOMPARE(log.texts(QtDebugMsg).filter("area"), QStringList()); // nothing is turned anew
+    QCOMPARE(log.texts(QtDebugMsg).filter("area"), QStringList()); // nothing is rotated again
     QVERIFY(isNear(w.session().monitorPositions.starBSearch, turnedAboutAxis(foundB, 77), 1e-9));
 }
 
@@ -239,7 +239,7 @@ void MonitorModeTest::starsLostAndFoundAgain()
     QVERIFY(follow({4, 4}));
     // The pole moves with its stars.
     QTRY_VERIFY(isNear(w.session().monitorPositions.poleCurrent, pole + QPointF(14, -5), 0.3));
-    // Lost beyond the window about the start, found again at the start.
+    // Lost outside the window around the start, found again at the start.
     w.show({starB + QPointF(60, 0), starA + QPointF(60, 0)});
     QTRY_COMPARE(w.session().monitorPositions.starBCurrent.load(), searchB);
     QVERIFY(follow({0, 0}));
@@ -253,7 +253,7 @@ void MonitorModeTest::endsWithTheWizardsStart()
     w.enterStep(13);
     QVERIFY(w.session().overlayFlags.monitorTracking);
     w.call("pushbuttonFinetunePoleDoneClicked");
-    QVERIFY(w.session().overlayFlags.monitorTracking); // only the pages go
+    QVERIFY(w.session().overlayFlags.monitorTracking); // only the pages are hidden
     w.call("pushbuttonFinetunePoleResetClicked");
     QCOMPARE(w.window->step(), 1);
     QVERIFY(!w.session().overlayFlags.monitorTracking && !w.session().overlayFlags.showPoleRect &&
@@ -267,12 +267,12 @@ void MonitorModeTest::beginsWithoutTheLastRoundsPictures()
     w.call("pushbuttonGetCurPolarisDoneClicked");
     sdk().setFramesLeft(0);
     const int fetches = sdk().fetchCount();
-    QTRY_VERIFY(sdk().fetchCount() > fetches); // the last frame has gone its way
+    QTRY_VERIFY(sdk().fetchCount() > fetches); // the last frame is fully processed
     QImage old(200, 200, QImage::Format_RGB888);
     old.fill(Qt::red);
     w.session().magnifierQueue.append(old);
     QTest::mouseClick(&w.child<QPushButton>("pushButton_monitor"), Qt::LeftButton);
-    QTest::qWait(60); // three times as long as a picture waits to be shown
+    QTest::qWait(60); // three times the longest wait of a picture
     QVERIFY(w.child<QLabel>("label_biggerImg").pixmap(Qt::ReturnByValue).isNull());
     QVERIFY(w.session().magnifierQueue.isEmpty());
     sdk().setFramesLeft(-1);

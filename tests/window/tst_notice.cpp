@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Which notice follows from what is known, and what of an alignment is remembered for it?
+// Which notice follows from the known facts, and what of an alignment is remembered for it?
 #include "core/languages.h"
 #include "mainwindow/alignmentprogress.h"
 #include "mainwindow/notice.h"
@@ -25,7 +25,7 @@ namespace
 const TemplateFit good{27, 28, 80};
 const TemplateFit bad{4, 28, 80};
 
-/// An alignment in which all is well, in some step of it.
+/// An alignment without any problem, in some step.
 NoticeFacts wellIn(int step)
 {
     NoticeFacts f;
@@ -52,7 +52,7 @@ NoticeFacts with(int step, const std::function<void(NoticeFacts &)> &change)
     return facts;
 }
 
-/// Every code with the longest numbers that it may show.
+/// Every code with the largest numbers that it may show.
 QVector<Notice> allNotices()
 {
     QVector<Notice> all;
@@ -192,7 +192,7 @@ void TestNotice::notices_data()
         with(ConfirmAxis,
              [](auto &f) {
                  f.movedPixels = 0.6;
-                 f.turnDegrees = 100.0; // of the noise
+                 f.turnDegrees = 100.0; // caused by the noise
              }),
         {Code::StarMovedLittle, 1});
     for (const int step : {int(ConfirmAxis), int(ExpectedPosition), int(FineAdjustment)})
@@ -224,7 +224,7 @@ void TestNotice::notices()
     QCOMPARE(noticeFor(facts), expected);
 }
 
-/// With everything wrong at once, and one after the other set right, they come in order.
+/// With everything wrong at first and one thing fixed after the other, they come in order.
 void TestNotice::theMostUrgentOne()
 {
     NoticeFacts f = with(FineAdjustment, [](auto &facts) {
@@ -342,7 +342,7 @@ void TestNotice::picksAreRemembered()
     progress.enter(FirstPick); // "Reset"
     QVERIFY(!progress.turns() && !progress.movedPixels());
     QCOMPARE(progress.emptyPick(), 0);
-    progress.fitAxis({0, 0}); // without picks there is nothing to be said of them
+    progress.fitAxis({0, 0}); // without picks there is nothing to report about them
     QVERIFY(!progress.turns());
 }
 

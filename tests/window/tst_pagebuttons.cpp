@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Does a hand that clicks twice on a page's button do more than to press it?
+// Does a double click on a page's button do more than a single press?
 #include "tests/support/logrecorder.h"
 #include "tests/support/mainwindowprobe.h"
 #include "tests/window/camerawindow.h"
@@ -22,12 +22,12 @@ private slots:
 
 namespace
 {
-/// Two presses in one place, as quick as a double click, through the window system.
+/// Two presses at one place, as fast as a double click, through the window system.
 void doubleClickAt(const CameraWindow &w, QPoint place)
 {
     static int time = 0;
     QWindow *const handle = w.window->windowHandle();
-    time += 10000; // no part of an earlier double click
+    time += 10000; // not part of an earlier double click
     for (int press = 0; press < 2; ++press) {
         const auto send = [&](Qt::MouseButton button, Qt::MouseButtons held, QEvent::Type type) {
             qt_handleMouseEvent(handle, place, handle->mapToGlobal(place), held, button, type,
@@ -49,7 +49,7 @@ QRect placeOf(const CameraWindow &w, int step, const char *button)
     return {widget.mapTo(w.window.get(), QPoint()), widget.size()};
 }
 
-/// A connected window that shows a sky without stars, of which a pick takes the brightest pixel.
+/// A connected window that shows a sky without stars, where a pick takes the brightest pixel.
 class GreyWindow : public CameraWindow
 {
 public:
@@ -86,7 +86,7 @@ void PageButtonsTest::onTheNextPagesButton()
     const QRect both = placeOf(w, step, button) & later;
     QVERIFY2(both.isValid(), "the two buttons have no place in common");
     doubleClickAt(w, both.center());
-    // It was there for the second press.
+    // It was there at the second press.
     QCOMPARE(w.window->childAt(both.center())->objectName().toUtf8(), next);
     QCOMPARE(w.window->step(), step + 1);
 }
@@ -103,7 +103,7 @@ void PageButtonsTest::onThePicture_data()
     QTest::newRow("Done") << 13 << QByteArray("pushButton_finetunePole_done") << 13;
 }
 
-/// The next page is lower: the second press falls on the picture beneath.
+/// The next page is lower: the second press hits the picture below.
 void PageButtonsTest::onThePicture()
 {
     QFETCH(int, step);
@@ -120,14 +120,14 @@ void PageButtonsTest::onThePicture()
     QCOMPARE(w.window->step(), entered);
     QCOMPARE(log.texts(QtDebugMsg).filter("star pos"), QStringList());
     QCOMPARE(boxes.boxes(), QList<Box>());
-    // The next one in the same place is a pick.
+    // The next double click at the same place is a pick.
     QTest::qWait(20);
     doubleClickAt(w, low);
     if (entered == 3)
         QCOMPARE(w.window->step(), 4);
 }
 
-/// Slower than a double click each press counts.
+/// Slower than a double click, each press counts.
 void PageButtonsTest::twoClicksInTurn()
 {
     const GreyWindow w;

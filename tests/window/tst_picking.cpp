@@ -96,7 +96,7 @@ void PickingTest::templateOnThePoleStar()
     w.child<QSlider>("horizontalSlider_confirm_match").setValue(angle);
     auto &label = w.child<QLabel>("label_templateImg");
     QVERIFY(!label.isVisible());
-    // Not on the star's middle: the template lies where the click was.
+    // Not on the star's middle: the template is where the click was.
     const QPoint click = w.view(onCircle[0]) + QPoint(3, -2);
     const BoxWatcher boxes;
     w.doubleClick(click);
@@ -111,7 +111,7 @@ void PickingTest::templateOnThePoleStar()
         QVERIFY(std::abs(place.width() - side * std::sqrt(2.0)) <= 2);
     QCOMPARE(place.topLeft(), click - QPoint((place.width() - 1) / 2, (place.height() - 1) / 2));
     QCOMPARE(label.pixmap(Qt::ReturnByValue).size(), place.size());
-    // The slider's glow blinks from now on.
+    // From now on the slider's glow blinks.
     QGraphicsEffect &glow = *w.child<QSlider>("horizontalSlider_confirm_match").graphicsEffect();
     const bool lit = glow.isEnabled();
     QTRY_VERIFY(glow.isEnabled() != lit);
@@ -146,7 +146,7 @@ void PickingTest::poleStar()
     QGraphicsEffect &glow = *w.child<QSlider>("horizontalSlider_rough_match").graphicsEffect();
     const bool lit = glow.isEnabled();
     QTRY_VERIFY(glow.isEnabled() != lit);
-    // A second pick takes the place of the first.
+    // A second pick replaces the first.
     w.doubleClick(w.view(onCircle[2]));
     QCOMPARE(w.child<QLabel>("label_curPos").text(), pointText(w.starAt(w.view(onCircle[2]))));
     QCOMPARE(boxes.boxes(), QList<Box>());
@@ -161,7 +161,7 @@ void PickingTest::pickGivesTheTarget_data()
             QTest::addRow("step %d, %d degrees", step, angle) << step << angle;
 }
 
-/// Each pick by itself: no slider is moved after the axis is there.
+/// Each pick by itself: no slider is moved once the axis is known.
 void PickingTest::pickGivesTheTarget()
 {
     QFETCH(int, step);
@@ -219,7 +219,7 @@ void PickingTest::threeStars()
                          "axis center " + pairText({x, y}) + ' ' + QString::number(radius)));
 }
 
-/// After a fit that failed the last one holds; the pick is the third star's all the same.
+/// After a failed fit the last one stays in effect; the pick is still the third star's.
 void PickingTest::threeOnALine()
 {
     const PickingWindow w;
@@ -255,7 +255,7 @@ void PickingTest::twoOnARow_data()
     QTest::newRow("second and third") << QList<int>{350, 450, 450};
 }
 
-/// No circle is tried through them, which the log does not tell but the window does.
+/// No circle is fitted through them, which the window shows but the log does not.
 void PickingTest::twoOnARow()
 {
     QFETCH(QList<int>, rows);
@@ -299,7 +299,7 @@ void PickingTest::emptyPatchChangesNothing()
     const MainWindowProbe probe(*w.window);
     const auto text = [&w](const char *label) { return w.child<QLabel>(label).text(); };
     w.enterStep(9);
-    w.doubleClick(w.view(onCircle[1])); // so that there is something to lose
+    w.doubleClick(w.view(onCircle[1])); // something to lose
     w.enterStep(3);                     // ends the blinking
     w.enterStep(step);
     w.session().alignmentPoints.savedAxisCenter =

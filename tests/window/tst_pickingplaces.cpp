@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Where exactly does a double click search, and where does the template lie afterwards, at each
-// zoom and in a scrolled picture?
+// Where exactly does a double click search, and where is the template afterwards, at each zoom and
+// in a scrolled picture?
 #include "mainwindow/pointtext.h"
 #include "tests/support/mainwindowprobe.h"
 #include "tests/window/pickingwindow.h"
@@ -22,8 +22,8 @@ void fill(cv::Mat &frame, const QRect &area, int light)
     frame(cv::Rect(area.x(), area.y(), area.width(), area.height())).setTo(light);
 }
 
-/// A faint patch in the middle of the window with that corner, and bright bars along its four
-/// sides, all of them just outside: one row or column further and a bar is found instead.
+/// A faint patch in the middle of the window with that corner, and bright bars just outside its
+/// four sides: one row or column further, and a bar is found instead.
 cv::Mat fencedFrame(QPoint corner)
 {
     constexpr int thick = 5, gap = 5;
@@ -109,7 +109,8 @@ void PickingPlacesTest::framesEdge_data()
     rows("bottom", 0.5, {320, 470}, {320, 471});
 }
 
-/// The search needs all its 40 x 40 pixels: a star is there, but past the edge it is not sought.
+/// The search needs all its 40 x 40 pixels: a star beyond the edge is there but is not searched
+/// for.
 void PickingPlacesTest::framesEdge()
 {
     QFETCH(double, zoom);
@@ -157,7 +158,7 @@ void PickingPlacesTest::picks()
     QVERIFY(label.isVisible());
     const int side = int(800 * zoom);
     QCOMPARE(label.size(), QSize(side, side));
-    // On the screen the template's middle lies under the mouse, whatever is scrolled.
+    // On the screen the template's middle is under the mouse, whatever the scroll position.
     QCOMPARE(label.mapTo(w.window.get(), middle(label.rect())), w.inWindow(click));
 }
 
@@ -212,7 +213,7 @@ void PickingPlacesTest::fitIsAccepted_data()
     QTest::newRow("50") << 0.5;
 }
 
-/// "Correct" takes over what the fit found, whatever has become of the saved centre meanwhile.
+/// "Correct" takes the centre from the fit, whatever has happened to the saved one meanwhile.
 void PickingPlacesTest::fitIsAccepted()
 {
     QFETCH(double, zoom);
@@ -229,7 +230,7 @@ void PickingPlacesTest::fitIsAccepted()
     QCOMPARE(w.child<QLabel>("label_axisPos").text(), pointText(fitted));
 }
 
-/// "Reset" keeps the fit, and three other stars make another.
+/// "Reset" keeps the fit, and three other stars give a new one.
 void PickingPlacesTest::fitIsReset()
 {
     const PickingWindow w;

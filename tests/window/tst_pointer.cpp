@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What is shown of the place under the mouse, over the picture and over the pages?
+// What is shown about the place under the mouse, over the picture and over the pages?
 #include "tests/support/logrecorder.h"
 #include "tests/window/pickingwindow.h"
 #include "widgets/magnifierwidget.h"
@@ -104,7 +104,7 @@ void PointerTest::zoomKeepsThePlace_data()
     QTest::newRow("50 to 100") << 0.5 << QByteArray("action100") << 1.0;
 }
 
-/// In the middle of the view, as far as it can be scrolled, and in the magnifier.
+/// In the middle of the view, as far as scrolling allows, and in the magnifier.
 void PointerTest::zoomKeepsThePlace()
 {
     QFETCH(double, from);
@@ -127,7 +127,7 @@ void PointerTest::zoomKeepsThePlace()
     const QPointF before = place(from);
     w.trigger(action);
     QTRY_COMPARE(w.image.width(), int(1280 * to));
-    QTest::qWait(50); // what is laid out later must not undo it
+    QTest::qWait(50); // later layouting must not undo it
     QVERIFY2((place(to) - before).manhattanLength() <= 6, "another place is in the middle");
     const QPoint magnified = w.window->findChild<MagnifierWidget *>()->magnifiedCentre();
     QVERIFY((QPointF(magnified) / to - QPointF(star) / from).manhattanLength() <= 4);
@@ -156,7 +156,7 @@ void PointerTest::overThePages()
     QTest::mouseMove(handle, page.mapTo(w.window.get(), to));
     QTest::qWait(5);
     QTest::mouseRelease(handle, Qt::LeftButton, Qt::NoModifier, page.mapTo(w.window.get(), to));
-    // The tab widget's place counts, neither the page's own in it nor the scrolling.
+    // The tab widget's place counts, not the page's place in it and not the scrolling.
     const QPoint view = tabs.pos() + to;
     const float factor = float(zoom);
     const QString text = QString::number(double(float(view.x()) / factor), 'f', 1) + ',' +
@@ -201,7 +201,7 @@ void PointerTest::noPictureYet()
 void PointerTest::consumed_data()
 {
     QTest::addColumn<bool>("connected");
-    QTest::addColumn<bool>("onPage"); ///< or else on the picture
+    QTest::addColumn<bool>("onPage"); ///< otherwise on the picture
     QTest::addColumn<QEvent::Type>("type");
     QTest::addColumn<bool>("expected");
     const struct {
@@ -220,7 +220,7 @@ void PointerTest::consumed_data()
         QTest::addRow("not connected, picture, %s", e.name) << false << false << e.type << false;
         QTest::addRow("not connected, page, %s", e.name) << false << true << e.type << false;
     }
-    // Other kinds of events go on to the widget too.
+    // Other kinds of events are passed on to the widget.
     for (const QEvent::Type type : {QEvent::Enter, QEvent::Leave, QEvent::Show, QEvent::Resize,
                                     QEvent::FocusIn, QEvent::HoverMove, QEvent::LanguageChange}) {
         QTest::addRow("picture, event %d", type) << true << false << type << false;
@@ -228,7 +228,7 @@ void PointerTest::consumed_data()
     }
 }
 
-/// What is consumed does not reach the widget; what is not leaves the read-out alone.
+/// A consumed event does not reach the widget; one that is not leaves the read-out unchanged.
 void PointerTest::consumed()
 {
     QFETCH(bool, connected);
@@ -245,7 +245,7 @@ void PointerTest::consumed()
     QWidget &page = *w.child<QTabWidget>("tabWidget_tipMsg").currentWidget();
     QWidget &watched = onPage ? page : static_cast<QWidget &>(image);
     const BoxWatcher boxes;
-    // A mouse event for all types: none but the mouse's own may be taken for one.
+    // A mouse event of every type: only the mouse's own types may be handled as one.
     QMouseEvent event(type, QPointF(300, 400), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
     QCOMPARE(w.window->eventFilter(&watched, &event), expected);
     QCOMPARE(w.child<QLabel>("positionLabel").text().isEmpty(), !expected);

@@ -94,7 +94,7 @@ void RefractionDialogTest::comboBox()
 void RefractionDialogTest::loadedValues_data()
 {
     QTest::addColumn<QList<double>>("stored"); // latitude, longitude, P, T
-    QTest::addColumn<QList<double>>("shown");  // which come back to the record
+    QTest::addColumn<QList<double>>("shown");  // values that come back to the record
     using Values = QList<double>;
     QTest::newRow("defaults") << Values{39.9, 116.3, 101, 10} << Values{39.9, 116.3, 101, 10};
     QTest::newRow("others") << Values{51.25, 12.5, 95.5, -5} << Values{51.25, 12.5, 95.5, -5};
@@ -321,7 +321,7 @@ void RefractionDialogTest::throughTheWindow_data()
                                        << "1013" << 110.0F << "110";
 }
 
-/// From the settings file into the record, by way of the dialog, and back into the file.
+/// From the settings file into the record, through the dialog, and back into the file.
 void RefractionDialogTest::throughTheWindow()
 {
     QFETCH(QString, unit);

@@ -13,7 +13,7 @@
 
 namespace
 {
-/// Answers the file dialog with a name, or cancels it where the name is empty.
+/// Answers the file dialog with a name, or cancels it if the name is empty.
 class NameChooser
 {
 public:
@@ -51,7 +51,7 @@ private:
     BoxWatcher watcher;
 };
 
-/// A connected window whose picture is shown and changes no more.
+/// A connected window whose picture is shown and no longer changes.
 class SavingWindow : public CameraWindow
 {
 public:
@@ -144,7 +144,7 @@ void SaveAsTest::nothingSaved_data()
     QTest::newRow("no suffix") << "@/sky";
     QTest::newRow("unknown suffix") << "@/sky.text";
     QTest::newRow("no such folder") << "@/none/sky.png";
-    QTest::newRow("folder that can not be written") << "/proc/sky.png";
+    QTest::newRow("folder that cannot be written") << "/proc/sky.png";
 }
 
 void SaveAsTest::nothingSaved()
@@ -164,7 +164,7 @@ void SaveAsTest::nothingSaved()
     QCOMPARE(QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
 }
 
-/// The name is asked for, but there is nothing to save, and nobody is told.
+/// The name is requested, but there is nothing to save, and no message.
 void SaveAsTest::beforeTheFirstPicture()
 {
     const QTemporaryDir folder;

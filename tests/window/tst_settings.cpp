@@ -37,7 +37,7 @@ QStringList sorted(QStringList list)
     return list;
 }
 
-/// The file's lines as "GROUP/key=value", sorted: the order is the library's affair.
+/// The file's lines as "GROUP/key=value", sorted: the library determines their order.
 QStringList entriesOf(const QString &path)
 {
     QStringList entries;
@@ -135,7 +135,7 @@ void SettingsTest::initTestCase()
 void SettingsTest::init()
 {
     removeSettings();
-    // A new name each time: QSettings keeps what it read of a file of equal size and age.
+    // A new name each time: QSettings caches a file of the same size and age.
     path = folder.filePath(QString("%1.ini").arg(++fileNumber));
 }
 
@@ -194,7 +194,7 @@ void SettingsTest::readKey_data()
         QTest::newRow(row.name) << row.group << row.line << row.index << row.expected;
 }
 
-/// One key in the file: it is taken, and every other one has its default.
+/// One key in the file: it is used, and every other one has its default.
 void SettingsTest::readKey()
 {
     QFETCH(QString, group);
@@ -289,7 +289,7 @@ void SettingsTest::foreignKeysStay()
     QVERIFY(lines.contains("style=Color"));
 }
 
-/// A folder of that name can neither be read nor written; nobody is told.
+/// A folder of that name can be neither read nor written; there is no message.
 void SettingsTest::unwritablePath()
 {
     const QString name = folder.filePath("folder.ini");
@@ -372,7 +372,7 @@ void SettingsTest::partialFileInTheWindow()
     QCOMPARE(MainWindowProbe(window).languageCode(), QString("EN"));
 }
 
-/// Only the dialog's widgets limit what is in force: what they do not show is taken as it is.
+/// Only the dialog's widgets limit the values in effect; other values are used as they are.
 void SettingsTest::outOfRangeValuesAreKept()
 {
     writeIni(settingsFilePath(),

@@ -69,7 +69,7 @@ void SheetAndFormsTest::sectionsHaveOneFont_data()
         QTest::newRow(body) << QString(body);
 }
 
-/// Everything that shows text in a section's body has the body's font, however deep it lies.
+/// Everything that shows text in a section's body has the body's font, at any depth.
 void SheetAndFormsTest::sectionsHaveOneFont()
 {
     QFETCH(QString, body);
@@ -115,7 +115,7 @@ void SheetAndFormsTest::pagesAreWholeInANarrowWindow_data()
         QTest::addRow("step %d", step) << step;
 }
 
-/// The page goes over the magnifier rather than cut its question and its buttons.
+/// The page covers the magnifier rather than cut off its question and its buttons.
 void SheetAndFormsTest::pagesAreWholeInANarrowWindow()
 {
     QFETCH(int, step);
@@ -134,7 +134,7 @@ void SheetAndFormsTest::pagesAreWholeInANarrowWindow()
     }
 }
 
-/// The page of step 12 asks for it, and it lies at the panel's end.
+/// The page of step 12 asks for it, and it is at the panel's end.
 void SheetAndFormsTest::startMonitorComesIntoView()
 {
     SessionWindow window;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What is the sound service asked for? A service of the test's own stands in for the system's.
+// What is the sound service asked for? A service of the test's own replaces the system's.
 #define QT_STATICPLUGIN
 
 #include "resources/resources.h"
@@ -16,7 +16,7 @@ QStringList calls; ///< what the service was asked for, in order
 bool isUsed = false;
 } // namespace
 
-/// Notes what it is asked for.
+/// Records what it is asked for.
 class RecordingControl : public SilentControl
 {
 public:
@@ -79,7 +79,7 @@ private slots:
 void SoundTest::initTestCase()
 {
     initialiseResources();
-    QCoreApplication::setLibraryPaths({}); // the system's sound services stay out of this
+    QCoreApplication::setLibraryPaths({}); // no sound service from the system
     const QMediaPlayer probe;
     QVERIFY(isUsed);
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Does starting bring the look, the log file's name and the messages' way?
+// Does starting set the style sheet, the log file's name and the message handler?
 #include "app/startup.h"
 
 #include "app/logging.h"
@@ -33,7 +33,7 @@ void recordMessage(QtMsgType, const QMessageLogContext &, const QString &message
     handled->append(message);
 }
 
-/// Starts the program; what handled messages before gets them again afterwards.
+/// Starts the program, then restores the previous message handler.
 void startWith(QtMessageHandler handler)
 {
     const QtMessageHandler before = qInstallMessageHandler(nullptr);
@@ -49,7 +49,7 @@ void StartupTest::init()
     logFilePath.clear();
 }
 
-/// Read here by the path that the resources give it, for comparing.
+/// Read directly, by its path in the resources, for comparison.
 QString StartupTest::bundledSheet()
 {
     QFile file(QStringLiteral(":/qss/default.qss"));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Which marks lie over the shown picture in each step of the alignment?
+// Which marks are over the shown picture in each step of the alignment?
 #include "camera/overlay.h"
 #include "tests/support/mainwindowprobe.h"
 #include "tests/window/camerawindow.h"
@@ -9,8 +9,8 @@
 
 namespace
 {
-/// What entering each step does to the axis mark, the star circle, the rotating arc and the three
-/// marks of monitor mode: '1' on, '0' off, '-' left as it was.
+/// How entering each step changes the axis mark, the star circle, the rotating arc and the three
+/// marks of monitor mode: '1' on, '0' off, '-' unchanged.
 const char *const stepRows[] = {"0000", "----", "00--", "00--", "00--", "00--", "00--",
                                 "11--", "101-", "101-", "100-", "----", "---1"};
 
@@ -39,13 +39,13 @@ void StepMarksTest::marks_data()
                 << step << before;
 }
 
-/// From the step to the pixels on the screen. The marks stand apart from each other.
+/// From the step to the pixels on the screen. The marks do not overlap.
 void StepMarksTest::marks()
 {
     QFETCH(int, step);
     QFETCH(bool, before);
     const CameraWindow w;
-    showFrame(starFrame({})); // black: the search positions hold
+    showFrame(starFrame({})); // black: the search positions stay
     w.connectCamera();
     MainWindowProbe probe(*w.window);
     probe.angleTimer().stop();

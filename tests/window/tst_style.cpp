@@ -68,7 +68,7 @@ void StyleTest::init()
 void StyleTest::table_data()
 {
     QTest::addColumn<QString>("style");
-    QTest::addColumn<QStringList>("pictures"); // pole, axis, lit, dark
+    QTest::addColumn<QStringList>("pictures"); // pole, axis, lit, unlit
     QTest::addColumn<QColor>("glow");
     const QStringList colour{":/images/pole_color.png", ":/images/center_color.png",
                              ":/images/lighton_color.png", ":/images/lightoff_color.png"};
@@ -108,7 +108,7 @@ void StyleTest::lampsOfSteps()
     QCOMPARE(lampsOnStyleChange(step), lit);
 }
 
-/// The other checks of this file would see nothing if two of the pictures were alike.
+/// The other checks in this file would detect nothing if two of the pictures were alike.
 void StyleTest::picturesDiffer()
 {
     const QPair<const char *, const char *> pairs[] = {
@@ -177,7 +177,7 @@ void StyleTest::lampsInTheWindow_data()
                 {7, "CCc", "MMm"}, {8, "CCC", "MMM"}, {9, "CCC", "MMM"}};
     for (const auto &row : rows)
         QTest::addRow("%d", row.step) << row.step << row.before << row.mono;
-    // These steps take the lamps over from the step before them.
+    // These steps keep the lamps of the step before them.
     for (const int step : {1, 2, 10, 12, 13})
         QTest::addRow("%d, kept", step) << step << "CCc"
                                         << "CCc";
@@ -200,7 +200,7 @@ void StyleTest::lampsInTheWindow()
     QCOMPARE(lampPattern(*window), mono.toUpper() == mono && step == 11 ? "CCC" : before);
 }
 
-/// A style changed in step 12 leaves the lamps behind; the next step that sets them catches up.
+/// A style change in step 12 leaves the lamps unchanged; the next step that sets them catches up.
 void StyleTest::mixedLampsAfterReturn()
 {
     MainWindowProbe probe(*window);

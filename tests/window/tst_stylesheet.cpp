@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Is the style sheet taken as it should be, and does the program start the way it should?
+// Is the style sheet applied correctly, and does the program start as it should?
 #include "app/stylesheet.h"
 #include "resources/resources.h"
 #include "tests/support/logrecorder.h"
@@ -73,7 +73,7 @@ void StyleSheetTest::bundledSheet()
     QVERIFY(qApp->styleSheet().contains("#936639"));
     const QWidget widget;
     widget.ensurePolished();
-    QCOMPARE(log.lines().size(), 0); // a sheet that can not be parsed is complained about
+    QCOMPARE(log.lines().size(), 0); // a sheet that cannot be parsed causes a warning
 }
 
 void StyleSheetTest::bundledSheetNamesOnlyBundledFiles()
@@ -90,8 +90,8 @@ void StyleSheetTest::bundledSheetNamesOnlyBundledFiles()
     QVERIFY(count > 0);
 }
 
-/// The program itself, started and ended from outside: it makes the log's folder and no file, and
-/// its messages go to the standard error output.
+/// The program itself, started and killed from outside: it creates the log's folder but no file,
+/// and its messages go to the standard error output.
 void StyleSheetTest::programPreparesButDoesNotLog()
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -108,7 +108,7 @@ void StyleSheetTest::programPreparesButDoesNotLog()
     QByteArray errors;
     while (!errors.contains("InitVELDIX") && program.waitForReadyRead(60000))
         errors += program.readAllStandardError();
-    program.kill(); // an ordinary end would write the settings file beside the program
+    program.kill(); // a regular end would write the settings file beside the program
     QVERIFY(program.waitForFinished());
     QVERIFY2(errors.contains("InitVELDIX"), errors);
     QVERIFY2(errors.contains("change region to"), errors);

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Is the template over the picture turned to the angle that the sliders share, in both
+// Is the template over the picture rotated to the angle that the sliders share, in both
 // hemispheres?
 #include "tests/support/mainwindowprobe.h"
 #include "tests/window/templatewindow.h"
 
 namespace
 {
-/// The picture and its place are the mask turned by `angle` about the view pixel `middlePixel`.
+/// The picture and its place are the mask rotated by `angle` about the view pixel `middlePixel`.
 bool isTurned(const QLabel &label, const QImage &mask, int angle, double zoom, QPoint middlePixel)
 {
     const PlacedTemplate turned = turnTemplate(mask, angle, float(zoom), middlePixel);
@@ -52,7 +52,7 @@ void TemplateAngleTest::sliderTurns()
     (step == 2 ? w.confirm : w.rough).setValue(angle);
     const QImage mask = markedMask(region);
     QVERIFY(isTurned(w.label, mask, angle, 1.0, star));
-    QVERIFY(!isTurned(w.label, mask, 360 - angle, 1.0, star)); // the senses can be told apart
+    QVERIFY(!isTurned(w.label, mask, 360 - angle, 1.0, star)); // both directions differ
     QCOMPARE(MainWindowProbe(*w.window).rotateValue(), angle);
 }
 
@@ -66,7 +66,7 @@ void TemplateAngleTest::pickTurns_data()
     }
 }
 
-/// The angle was chosen before: the pick alone shows the mask turned.
+/// The angle was chosen before: the pick alone shows the mask rotated.
 void TemplateAngleTest::pickTurns()
 {
     QFETCH(QString, region);
@@ -115,7 +115,7 @@ void TemplateAngleTest::buttonOfASliderThatStandsThere_data()
     QTest::newRow("rough, minus") << 9 << "pushButton_rough_minus" << 101;
 }
 
-/// The template and, of the rough slider, the target follow although no slider moves.
+/// The template is updated although no slider moves; with the rough slider, the target too.
 void TemplateAngleTest::buttonOfASliderThatStandsThere()
 {
     QFETCH(int, step);

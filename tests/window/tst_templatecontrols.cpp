@@ -52,7 +52,7 @@ void TemplateControlsTest::sliderTurnsTheTemplate()
     const double side = 800 * (std::abs(std::cos(radians)) + std::abs(std::sin(radians)));
     QVERIFY2(std::abs(place.width() - side) <= 2, QByteArray::number(place.width()));
     QCOMPARE(place.width(), place.height());
-    // The turned mask, by the rule that places it.
+    // The rotated mask, by the rule that places it.
     const PlacedTemplate turned =
         turnTemplate(QImage(":/images/north_mask.png"), angle, 1.0F, star);
     QVERIFY(!turned.image.isNull());
@@ -96,7 +96,7 @@ void TemplateControlsTest::buttons()
     QCOMPARE(slider.value(), to);
     const MainWindowProbe probe(*w.window);
     QCOMPARE(probe.rotateValue(), to);
-    // The shared angle has stopped where the slider has: one press leads away from there.
+    // The shared angle stops where the slider does: one press moves away from there.
     const bool adds = button.endsWith("add");
     w.click(step == 2 ? adds ? "pushButton_confirm_minus" : "pushButton_confirm_add"
             : adds    ? "pushButton_rough_minus"
@@ -118,7 +118,7 @@ void TemplateControlsTest::slidersShareTheAngle()
     QCOMPARE(w.confirm.value(), 100);
     w.enterStep(2);
     QTest::qWait(20);
-    w.click("pushButton_confirm_minus"); // the slider stands there already
+    w.click("pushButton_confirm_minus"); // the slider is there already
     QCOMPARE(w.confirm.value(), 100);
     w.click("pushButton_confirm_minus");
     QCOMPARE(w.confirm.value(), 99);
@@ -156,7 +156,7 @@ void TemplateControlsTest::confirmSliderLeavesTheTarget()
     w.confirm.setValue(200);
     QCOMPARE(w.target.text(), text);
     QCOMPARE(w.session().alignmentPoints.polarisTarget.load(), target);
-    w.click("pushButton_rough_add"); // from the angle that both share
+    w.click("pushButton_rough_add"); // starts at the angle that both share
     QCOMPARE(w.rough.value(), 201);
     QCOMPARE(w.target.text(), targetText(w, 201, star));
 }

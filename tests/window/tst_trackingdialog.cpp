@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Does the pole tracking dialog announce every angle, and only within its range?
+// Does the pole tracking dialog report every angle, and only within its range?
 #include "dialogs/poletrackingdialog.h"
 #include "resources/resources.h"
 #include "tests/window/windowtest.h"
@@ -13,7 +13,7 @@
 
 namespace
 {
-/// At the dial's rim, in a direction from its middle as on a clock: 12 is up, the ends meet at 6.
+/// At the dial's rim, in the direction of a clock's hour hand: 12 is up, the ends meet at 6.
 void sendMouse(QDial &dial, QEvent::Type type, double hour, Qt::MouseButtons held,
                Qt::MouseButton button = Qt::LeftButton)
 {

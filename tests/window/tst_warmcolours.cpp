@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Does everything keep to the warm colours that spare eyes used to the night: the widgets that have
-// the focus, and the signs in the boxes?
+// Does everything use the warm colours that protect dark-adapted eyes: the widgets with the focus,
+// and the icons in the boxes?
 #include "app/stylesheet.h"
 #include "tests/support/patience.h"
 #include "tests/window/freshwindowtest.h"
@@ -56,7 +56,7 @@ void WarmColoursTest::focus_data()
     QTest::newRow("pushButton_rotateStar1_reset") << 4;
 }
 
-/// Seen, and not blue.
+/// Visible, and not blue.
 void WarmColoursTest::focus()
 {
     QFETCH(int, step);
@@ -98,7 +98,7 @@ void WarmColoursTest::boxes()
     QCOMPARE(bluishPixels(sign.toImage()), 0);
 }
 
-/// The text is for a picture that has yet to come.
+/// The text is for a picture that is yet to come.
 void WarmColoursTest::objectNamesAreNotSeen()
 {
     applySheet();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Does the window made from the form still say all that the form does, also after other languages?
+// Does the window made from the form still have all the form's texts, also after other languages?
 #include "tests/support/sessionwindow.h"
 #include "tests/window/formtables.h"
 
@@ -27,7 +27,7 @@ private slots:
     void otherLanguageSaysOther();
 
 private:
-    /// The two windows: as it was made, and after English, Chinese and English again.
+    /// The two windows: as created, and after English, Chinese and English again.
     QList<const MainWindow *> both() const { return {made.get(), travelled.get()}; }
 
     std::unique_ptr<SessionWindow> made, travelled;
@@ -73,7 +73,7 @@ void WindowFormTest::widgets()
     QFETCH(QString, text);
     const QString name = QTest::currentDataTag();
     if (name == "label_templateImg")
-        text.clear(); // the template has taken the text's place
+        text.clear(); // the template has replaced the text
     for (const MainWindow *const window : both()) {
         const auto &widget = named<QWidget>(*window, name);
         QCOMPARE(QString(widget.metaObject()->className()), className);
@@ -95,7 +95,7 @@ void WindowFormTest::sizes()
         checkSize(*window);
 }
 
-/// The way led through another language indeed.
+/// The other language really differs.
 void WindowFormTest::otherLanguageSaysOther()
 {
     QFETCH(QStringList, entries);

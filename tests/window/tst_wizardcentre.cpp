@@ -56,7 +56,7 @@ void WizardCentreTest::reuseQuestion()
     QCOMPARE(double(session().alignmentPoints.savedAxisCenter.x), after.x());
     QCOMPARE(double(session().alignmentPoints.savedAxisCenter.y), after.y());
     QCOMPARE(named<QLabel>(*window, "label_axisPos").text(), label);
-    QCOMPARE(probe->axisCenter(), QPointF()); // that of a fit alone
+    QCOMPARE(probe->axisCenter(), QPointF()); // only a fit sets it
 }
 
 void WizardCentreTest::questionWords()

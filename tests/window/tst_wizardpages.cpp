@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What do the instruction pages say in each hemisphere, and where do they lie?
+// What do the instruction pages say in each hemisphere, and where are they?
 #include "mainwindow/buttonrow.h"
 #include "mainwindow/wizardtable.h"
 #include "tests/support/patience.h"
@@ -197,7 +197,7 @@ void WizardPagesTest::textsComeBackAfterReset()
     for (const QString &button : QString(row.buttons).split('|', Qt::SkipEmptyParts))
         QCOMPARE(named<QPushButton>(page, button.section('=', 0, 0)).text(),
                  button.section('=', 1));
-    QCOMPARE(window->step(), step); // texts alone
+    QCOMPARE(window->step(), step); // only the texts
     QCOMPARE(tabs().currentIndex(), step - 1);
 }
 
@@ -206,7 +206,7 @@ void WizardPagesTest::pageLiesOverTheTop_data()
     pages_data();
 }
 
-/// Over the picture, beside the magnifier, whole, and no more than its upper part.
+/// Over the picture, beside the magnifier, complete, and in its upper part only.
 void WizardPagesTest::pageLiesOverTheTop()
 {
     QFETCH(int, step);
@@ -227,7 +227,7 @@ void WizardPagesTest::pageLiesOverTheTop()
         QVERIFY(!arrow.geometry().intersects(place));
 }
 
-/// A picture that is larger than its room brings a scroll bar, beside which the page stays.
+/// A picture that is larger than its view adds a scroll bar, and the page stays beside it.
 void WizardPagesTest::pageLeavesTheScrollBarFree()
 {
     window->resize(1024, 700);
@@ -245,7 +245,7 @@ void WizardPagesTest::rows_data()
     QTest::addColumn<int>("width");
     QTest::addColumn<QVector<QRect>>("places");
     using Places = QVector<QRect>;
-    // Of a text and two buttons, 6 pixels apart.
+    // A text and two buttons, 6 pixels apart.
     QTest::newRow("room to spare")
         << 400 << Places{{88, 5, 100, 20}, {194, 0, 80, 30}, {280, 0, 120, 30}};
     QTest::newRow("just one row") << 312

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What does entering each step change, and which button leads where?
+// What does entering each step change, and which button leads to which step?
 #include "tests/support/logrecorder.h"
 #include "tests/window/freshwindowtest.h"
 
@@ -13,7 +13,7 @@ const char *const lampNames[] = {"label_starPos1_icon", "label_starPos2_icon",
                                  "label_starPos3_icon"};
 constexpr int stepCount = 13;
 
-/// What a step does, spelled as a row: '1' on, '0' off, '-' left as it was.
+/// What a step does, written as a row: '1' on, '0' off, '-' unchanged.
 struct StepRow {
     const char *sections; ///< region, setting, confirm, rough, precise
     char shownTemplate, arrow;
@@ -72,7 +72,7 @@ private:
     QString state();
 };
 
-/// Everything that a step may set, at one end.
+/// Sets everything that a step may change to one extreme.
 void WizardTableTest::setAll(bool on, bool isMono)
 {
     named<QAction>(*window, "actionMono_Style").setChecked(isMono);
@@ -95,7 +95,7 @@ void WizardTableTest::setAll(bool on, bool isMono)
     tabs().setCurrentIndex(on ? stepCount - 1 : 0);
 }
 
-/// All of it in one line, for comparing.
+/// The whole state in one line, for comparison.
 QString WizardTableTest::state()
 {
     const auto digit = [](bool on) { return QString(on ? "1" : "0"); };
@@ -210,7 +210,7 @@ void WizardTableTest::buttons_data()
         QTest::addRow("%d %s", row.from, row.button) << row.from << QString(row.button) << row.to;
 }
 
-/// By the mouse, on the page that lies over the picture.
+/// With the mouse, on the page over the picture.
 void WizardTableTest::buttons()
 {
     QFETCH(int, from);

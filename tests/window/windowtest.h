@@ -15,7 +15,7 @@
 #include <QPushButton>
 #include <QtTest>
 
-/// The child of that class and name; the test run ends at once where there is none.
+/// The child of that class and name; ends the test run if there is none.
 template <typename T> T &named(const QObject &parent, const QString &name)
 {
     T *const found = parent.findChild<T *>(name);
@@ -24,7 +24,7 @@ template <typename T> T &named(const QObject &parent, const QString &name)
     return *found;
 }
 
-/// Whether a widget shows as soon as its window does.
+/// Whether a widget becomes visible as soon as its window does.
 inline bool isOpen(const QWidget &widget)
 {
     return !widget.isHidden();
@@ -62,7 +62,7 @@ inline void writeIni(const QString &path, const IniLines &lines)
 {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        qFatal("can not write %s", qPrintable(path));
+        qFatal("cannot write %s", qPrintable(path));
     file.write((lines.join('\n') + '\n').toUtf8());
 }
 

@@ -1,13 +1,13 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""Which numbers should the geometry give? An implementation of its own, in numpy and OpenCV.
+"""Which numbers should the geometry give? An independent implementation in numpy and OpenCV.
 
 Run in this folder:  /usr/bin/python3 generate.py
 Writes the .csv files and the .png frames beside it; the same numbers on every run.
 
-Where there is a second way to the same point it is taken: the pole is stepped off from star A
-along a turned direction, not found by intersecting circles, the circle's centre solves a linear
-system, the turns are complex products and the median is a sort of nine shifted pictures.
+Where a second method exists it is used: the pole is found by a step from star A along a rotated
+direction instead of intersecting circles, the circle's centre solves a linear system, rotations are
+complex products and the median is a sort of nine shifted pictures.
 """
 import cmath
 import configparser
@@ -34,7 +34,7 @@ def write(name, header, rows):
 # --- plane geometry -------------------------------------------------------------------------
 
 def circle(p1, p2, p3):
-    """Centre and whole radius: equal distance from p1 and p2, and from p1 and p3."""
+    """Centre and integer radius: equal distance from p1 and p2, and from p1 and p3."""
     matrix = 2.0 * np.array([p2 - p1, p3 - p1])
     side = np.array([p2 @ p2 - p1 @ p1, p3 @ p3 - p1 @ p1])
     centre = np.linalg.solve(matrix, side)
@@ -143,7 +143,7 @@ def star_data(letter, year):
 
 
 def overlay_file(rng):
-    """What follows from the template's angle, for the epoch of 2024."""
+    """Values that follow from the template's angle, for the epoch of 2024."""
     rows = []
     for hemisphere, letter in (("north", "N"), ("south", "S")):
         a, b, d, angles = star_data(letter, 2024)

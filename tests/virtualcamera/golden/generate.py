@@ -1,9 +1,9 @@
 # SPDX-License-Identifier: MIT
-"""Altitudes and azimuths of stars near the poles by astropy, to hold the virtual sky against.
+"""Altitudes and azimuths of stars near the poles by astropy, as a reference for the virtual sky.
 
     /usr/bin/python3 generate.py > places.csv
 
-Runs without network. UT1 is taken as UTC and polar motion as zero, as the virtual sky takes them.
+Runs without network. UT1 is taken as UTC and polar motion as zero, as in the virtual sky.
 Columns: UTC seconds since 1970, site latitude and longitude (degrees, east positive), right
 ascension and declination of the star in the catalogue (degrees), altitude and azimuth without
 refraction (degrees, azimuth from north through east), the same with refraction at 1010 hPa, 10

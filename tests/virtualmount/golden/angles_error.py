@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""By how much the built-in star angles miss the pole, to hold the virtual mount's figure against.
+"""By how much do the built-in star angles miss the pole? Reference for the virtual mount's value.
 
     /usr/bin/python3 angles_error.py > angles_error.csv
 
