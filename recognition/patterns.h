@@ -93,8 +93,9 @@ void PatternIndex::visitLike(const Shape &shape, double tolerance, Visitor visit
     const auto shortest = static_cast<float>(shape.shortestRatio);
     const auto most = static_cast<float>(tolerance);
     for (int row = rowOf(shape.middleRatio - tolerance); row <= lastRow; ++row) {
-        const std::uint32_t last = cellStart[static_cast<std::size_t>(row * columns + right + 1)];
-        for (auto i = cellStart[static_cast<std::size_t>(row * columns + left)]; i < last; ++i) {
+        const std::size_t start = static_cast<std::size_t>(row) * std::size_t(columns);
+        const std::uint32_t last = cellStart[start + std::size_t(right) + 1];
+        for (auto i = cellStart[start + std::size_t(left)]; i < last; ++i) {
             const Pattern &p = patterns[i];
             if (std::abs(p.middleRatio - middle) <= most &&
                 std::abs(p.shortestRatio - shortest) <= most)

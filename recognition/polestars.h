@@ -75,8 +75,9 @@ void PoleStars::visitNear(const astrometry::Vector3 &direction, double radius, V
     const int right = cellOf(direction.x + pad);
     const int bottom = cellOf(direction.y + pad);
     for (int row = cellOf(direction.y - pad); row <= bottom; ++row) {
-        const auto first = static_cast<std::size_t>(row * cellsAcross + left);
-        const auto last = static_cast<std::size_t>(row * cellsAcross + right + 1);
+        const std::size_t start = static_cast<std::size_t>(row) * std::size_t(cellsAcross);
+        const std::size_t first = start + std::size_t(left);
+        const std::size_t last = start + std::size_t(right) + 1;
         for (std::size_t i = cellStart[first]; i < cellStart[last]; ++i)
             visit(static_cast<std::size_t>(cellStars[i]));
     }
