@@ -90,6 +90,7 @@ MainWindow::MainWindow(Session &shared, QWidget *parent, std::optional<double> a
     buildPlaceholders();
     buildPlayer();
     initialiseSdk();
+    showNotice();
 }
 
 MainWindow::~MainWindow()
@@ -268,7 +269,6 @@ void MainWindow::applyIdleState()
         head->setEnabled(false);
     // Not on the first widget in tab order, "Start Monitor": the space bar would press it.
     ui->scrollArea_showImg->setFocus();
-    showNotice();
 }
 
 void MainWindow::buildValidators()
