@@ -106,7 +106,7 @@ void CaptureThread::refuseFrame()
         return;
     refused = fetched;
     if (!fitsBuffer(fetched)) {
-        qCritical("frame of %u x %u pixels with %u channels can not be shown", fetched.width,
+        qCritical("frame of %u x %u pixels with %u channels cannot be shown", fetched.width,
                   fetched.height, fetched.channels);
         return;
     }

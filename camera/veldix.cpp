@@ -114,7 +114,7 @@ enum class Outcome {
 
 void logUnusable(const QByteArray &files, const QString &reason)
 {
-    qCritical("%s is there and can not be used: %s; no other camera library is tried",
+    qCritical("%s is there and cannot be used: %s; no other camera library is tried",
               files.constData(), qPrintable(reason));
 }
 
@@ -154,7 +154,7 @@ Outcome load()
             return outcome;
         reasons.append(reason);
     }
-    qCritical("the camera library can not be loaded: %s", qPrintable(reasons.join("; ")));
+    qCritical("the camera library cannot be loaded: %s", qPrintable(reasons.join("; ")));
     return Outcome::Absent;
 }
 } // namespace

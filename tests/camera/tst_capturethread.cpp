@@ -176,7 +176,7 @@ void CaptureThreadTest::unusableFrames_data()
             .arg(count);
     };
     const auto outside = [](uint width, uint height, uint channels) {
-        return QStringLiteral("frame of %1 x %2 pixels with %3 channels can not be shown")
+        return QStringLiteral("frame of %1 x %2 pixels with %3 channels cannot be shown")
             .arg(width)
             .arg(height)
             .arg(channels);

@@ -132,7 +132,7 @@ void SdkLoaderTest::search_data()
     row("own folder of the architecture", none, none, whole, Result::Ready, LIBDIR "/quorvandel");
     row("loader's path before own folder", whole, whole, whole, Result::Ready, "path");
 
-    const QString broken = "@/path/" + soname + " is there and can not be used: ";
+    const QString broken = "@/path/" + soname + " is there and cannot be used: ";
     const struct {
         const char *name;
         File file;
@@ -140,8 +140,8 @@ void SdkLoaderTest::search_data()
     } unusable[] = {
         {"no library", File::NoLibrary, broken + "@/path/" + soname + ": file too short"},
         {"crashing", File::Crashing,
-         soname + " is there and can not be used: it ends or holds up the program"},
-        {"needs another", File::NeedsAnother, soname + " is there and can not be used: libneeded"},
+         soname + " is there and cannot be used: it ends or holds up the program"},
+        {"needs another", File::NeedsAnother, soname + " is there and cannot be used: libneeded"},
         {"other processor", File::OtherProcessor, broken + soname + ": cannot open shared object"},
         {"other class", File::OtherClass, broken + soname + ": wrong ELF class"},
         {"folder", File::Folder, broken + "@/path/" + soname + ": cannot read file data"},
@@ -155,7 +155,7 @@ void SdkLoaderTest::search_data()
             Result::NoCamera, line);
     }
     row("own folder, no library, a whole one behind it", none, File::NoLibrary, whole,
-        Result::NoCamera, "@/lib/quorvandel/" + soname + " is there and can not be used: ");
+        Result::NoCamera, "@/lib/quorvandel/" + soname + " is there and cannot be used: ");
 
     const QString lacks = QStringLiteral("%1 lacks the function CloseVELDIX");
     row("lacks a function", File::Lacking, none, none, Result::Failed, lacks.arg(soname));
@@ -164,7 +164,7 @@ void SdkLoaderTest::search_data()
     row("lacks a function, own folder", none, File::Lacking, none, Result::Failed,
         lacks.arg("@/lib/quorvandel/" + soname));
     row("absent", none, none, none, Result::Failed,
-        "the camera library can not be loaded: " + soname);
+        "the camera library cannot be loaded: " + soname);
 }
 
 namespace

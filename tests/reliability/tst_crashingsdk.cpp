@@ -23,7 +23,7 @@ void CrashingSdkTest::programStarts_data()
     QTest::addColumn<QByteArray>("complaint");
     QTest::addColumn<QByteArray>("start"); // the outcome
     for (const char *const way : {"abort", "segmentation fault", "exit", "hang"})
-        QTest::newRow(way) << way << QByteArray("is there and can not be used")
+        QTest::newRow(way) << way << QByteArray("is there and cannot be used")
                            << QByteArray("InitVELDIXSDK success");
     QTest::newRow("loads, without any function")
         << "" << QByteArray("lacks the function") << QByteArray("InitVELDIXResource: failed");

@@ -267,7 +267,7 @@ void SdkMatrixTest::frame()
     QTRY_VERIFY(sdk().fetchCount() > before + 3);
     QTest::mouseDClick(&w.child<QLabel>("label_showImg"), Qt::LeftButton, {}, QPoint(0, 0));
     moveControls(w);
-    const QRegularExpression refusal("can not be shown|MatToQImage");
+    const QRegularExpression refusal("cannot be shown|MatToQImage");
     QTRY_COMPARE(log.texts(QtCriticalMsg).filter(refusal).size(), usable ? 0 : 1);
     if (usable)
         QVERIFY(newPicture(w));

@@ -67,7 +67,7 @@ void UnusableLibraryTest::connectFindsNothing()
 {
     const LogRecorder log;
     SessionWindow window;
-    QCOMPARE(log.texts(QtCriticalMsg).filter("is there and can not be used").size(), 1);
+    QCOMPARE(log.texts(QtCriticalMsg).filter("is there and cannot be used").size(), 1);
     QCOMPARE(boxOfConnect(window), QString("Not Found VELDIX Quorvandel equipment!"));
     QVERIFY(!window.ownSession.camera.cameraConnected);
     window.close();
