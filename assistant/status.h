@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+// What does the assistant know at one moment, and what should it say?
+//
+// Pixels: x right, y down, (0, 0) the centre of the frame's top-left pixel. A plain value: the
+// guide makes one for every frame, the window draws it.
+#pragma once
+
+#include "recognition/mapping.h"
+#include "recognition/mounterror.h"
+#include "recognition/recognise.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace assistant
+{
+/// Where the user is; each stage ends by itself.
+enum class Stage {
+    Connect, ///< no camera yet
+    Sky,     ///< until the pole's sky is recognised
+    Axis,    ///< the RA axis is turned
+    Bolts    ///< the bolts are turned
+};
+
+/// What to say; the numbers that each carries are in `Advice`.
+enum class AdviceCode {
+    ConnectCamera,   ///< press Connect
+    NoCamera,        ///< no camera was found
+    CameraUnusable,  ///< the camera library cannot be used; `text`: why
+    CameraLost,      ///< no frame for `first` seconds; frames are awaited
+    CameraHangs,     ///< the camera library has not answered for `first` seconds
+    Searching,       ///< the first frames are being looked at
+    CoverOn,         ///< no light at all
+    ExposeLonger,    ///< `first` stars were found, too few
+    ExposeShorter,   ///< the sky is saturated
+    NoSky,           ///< the picture does not show the sky at night
+    Focus,           ///< `first`: the stars' width, pixels
+    HoldStill,       ///< stars are trailed: the mount moves or shakes
+    Clouds,          ///< stars were recognised before, now they are too few
+    NotThePole,      ///< `first` stars, but not those of the pole
+    PoleThatWay,     ///< the pole is `first` degrees outside, `second`: direction on the screen,
+                     ///< degrees, 0 up, positive clockwise
+    WrongHemisphere, ///< the site's latitude has the other sign than the sky that is seen
+    ClockUnsure,     ///< the computer's clock is not synchronised
+    ClockJumped,     ///< the clock was set by `first` seconds during the alignment
+    TurnAxis,        ///< turn the RA axis, either way; `first`: degrees turned so far
+    TurnFurther,     ///< `first`: degrees turned so far
+    StopTurning,     ///< enough: the axis is known to `first` arcseconds
+    Bumped,          ///< tripod or bolts were moved while the axis was turned; measured again
+    AxisSlipped,     ///< the camera moved against the axis; the axis is measured again
+    TurnBolts,       ///< `first`: total error, arcseconds
+    NearlyThere,     ///< below 1 arcminute
+    Aligned,         ///< below the goal
+    SiteMissing,     ///< without the site there are no altitude and azimuth
+    SiteTooFarNorth, ///< azimuth has no meaning within 1 degree of the Earth's pole
+    DiskFull,        ///< the recording stopped; `text`: the folder
+    RecordingFull    ///< the recording reached its limit
+};
+
+struct Advice {
+    AdviceCode code = AdviceCode::ConnectCamera;
+    double first = 0.0;
+    double second = 0.0;
+    std::string text;
+};
+
+/// The RA axis as far as it is known.
+struct AxisProgress {
+    std::optional<recognition::PixelPlace> place; ///< absent until it can be computed
+    recognition::Covariance covariance;           ///< pixels squared
+    double sigmaArcseconds = 0.0;
+    double turnedDegrees = 0.0; ///< greatest minus least angle of all sharp frames
+    std::size_t frames = 0;     ///< sharp frames that count
+    bool enough = false;
+};
+
+/// The error of the axis against the chosen pole.
+struct ErrorFigures {
+    recognition::Measured total; ///< on the sky, 0 or more
+    /// Absent without a site. Altitude: positive above the pole. Azimuth: positive east of it, as
+    /// the angle about the vertical that the bolt turns.
+    std::optional<recognition::Measured> altitude, azimuth;
+};
+
+struct Status {
+    std::uint64_t frame = 0;   ///< counts the frames of this connection, from 1
+    double utcSeconds = 0.0;   ///< middle of the exposure
+    int width = 0, height = 0; ///< of the frame
+    Stage stage = Stage::Connect;
+    std::vector<Advice> advice; ///< most important first; never empty
+    /// Of this frame; never null. Its status tells whether the sky is recognised.
+    std::shared_ptr<const recognition::Recognition> sky;
+    std::vector<recognition::DetectedStar> stars; ///< that sky->matched indexes
+    double fwhm = 0.0;                            ///< pixels; 0 without stars
+    /// The pole that is aligned on (true or refracted), and its covariance.
+    std::optional<recognition::PixelPlace> pole;
+    recognition::Covariance poleCovariance;
+    AxisProgress axis;
+    std::optional<ErrorFigures> error;      ///< absent until axis and pole are known
+    std::optional<ErrorFigures> firstError; ///< the first of the Bolts stage
+    double exposureMicroseconds = 0.0;
+    bool automaticExposure = true;
+};
+} // namespace assistant
