@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Is every text of the virtual mount present in every language, and is the right language chosen?
+#include "core/languages.h"
 #include "tests/support/catalogues.h"
 #include "virtualcamera/skyfile.h"
 #include "virtualmount/faulttexts.h"
-#include "virtualmount/languages.h"
 #include "virtualmount/toolkittexts.h"
 
 #include <QCoreApplication>
@@ -14,14 +14,11 @@
 #include <QTest>
 #include <QTranslator>
 
-using virtualmount::Language;
-using virtualmount::languages;
-
 namespace
 {
 QString sourceFile(const Language &language)
 {
-    const QString name = QFileInfo(language.catalogue).completeBaseName();
+    const QString name = QFileInfo(cataloguePath("mount", language)).completeBaseName();
     return QStringLiteral(PROJECT_SOURCE_DIR "/virtualmount/languages/%1.ts").arg(name);
 }
 
@@ -62,7 +59,8 @@ class MountCataloguesTest : public QObject
     Q_OBJECT
 
 private slots:
-    void init() { QVERIFY(virtualmount::installTranslator(languages.front())); }
+    void initTestCase() { Q_INIT_RESOURCE(mount_catalogues); }
+    void init() { QVERIFY(installTranslator("mount", languages.front())); }
     void isComplete_data() { forEachLanguage(); }
     void isComplete();
     void keepsPlaceholders_data() { forEachLanguage(); }
@@ -121,14 +119,16 @@ void MountCataloguesTest::isCompiledIn()
 {
     QFETCH(int, number);
     const Language &language = languages.at(std::size_t(number));
-    QVERIFY(virtualmount::installTranslator(language));
+    QVERIFY(installTranslator("mount", language));
     const auto messages = messagesOf(sourceFile(language));
     QVERIFY(!messages.isEmpty());
     for (const Message &m : messages)
         QCOMPARE(QCoreApplication::translate(m.context.toUtf8(), m.source.toUtf8()), m.translation);
     QTranslator translator;
-    QVERIFY(translator.load(language.catalogue));
-    for (const auto &text : virtualmount::toolkitTexts)
+    QVERIFY(translator.load(cataloguePath("mount", language)));
+    for (const ToolkitText &text : sharedToolkitTexts)
+        QVERIFY2(!translator.translate(text.context, text.text).isEmpty(), text.text);
+    for (const ToolkitText &text : virtualmount::toolkitTexts)
         QVERIFY2(!translator.translate(text.context, text.text).isEmpty(), text.text);
 }
 
@@ -147,10 +147,10 @@ void MountCataloguesTest::saysFaults()
         try {
             virtualsky::parse(text);
         } catch (const virtualsky::SkyFileError &error) {
-            QVERIFY(virtualmount::installTranslator(languages.front()));
+            QVERIFY(installTranslator("mount", languages.front()));
             const QString english = virtualmount::faultText(error);
             QCOMPARE(english, QString(error.what()));
-            QVERIFY(virtualmount::installTranslator(languages.at(std::size_t(number))));
+            QVERIFY(installTranslator("mount", languages.at(std::size_t(number))));
             const QString translated = virtualmount::faultText(error);
             const QString key = QString::fromStdString(error.key());
             QVERIFY2(translated.contains(key), qPrintable(translated));
@@ -182,7 +182,7 @@ void MountCataloguesTest::followsTheUsersLanguages()
 {
     QFETCH(QStringList, user);
     QFETCH(QString, code);
-    QCOMPARE(QString(virtualmount::bestLanguage(user).code), code);
+    QCOMPARE(QString(bestLanguage(user).code), code);
 }
 
 void MountCataloguesTest::followsTheOption_data()
@@ -230,7 +230,7 @@ void MountCataloguesTest::followsTheOption()
     QFETCH(QString, code);
     QFETCH(QString, north);
     QFETCH(QString, number);
-    QVERIFY(virtualmount::installRequestedLanguage(code));
+    QVERIFY(installRequestedLanguage("mount", code));
     QCOMPARE(QCoreApplication::translate("MountWindow", "North"), north);
     QCOMPARE(QLocale().toString(1.5, 'f', 1), number);
     QLocale::setDefault(QLocale::system());
@@ -238,11 +238,11 @@ void MountCataloguesTest::followsTheOption()
 
 void MountCataloguesTest::unknownOptionsAreRefused()
 {
-    QVERIFY(virtualmount::installTranslator(languages.at(5)));
+    QVERIFY(installTranslator("mount", languages.at(5)));
     for (const char *const code : {"XX", "german", "D", "de_DE"})
-        QVERIFY2(!virtualmount::installRequestedLanguage(code), code);
+        QVERIFY2(!installRequestedLanguage("mount", code), code);
     QCOMPARE(QCoreApplication::translate("MountWindow", "South"), QString("Süd"));
-    QVERIFY(virtualmount::installRequestedLanguage(QString())); // the tests' locale is C
+    QVERIFY(installRequestedLanguage("mount", QString())); // the tests' locale is C
     QCOMPARE(QCoreApplication::translate("MountWindow", "South"), QString("South"));
 }
 

@@ -275,7 +275,7 @@ void TestNotice::sentences()
 {
     QFETCH(int, number);
     QTranslator translator;
-    QVERIFY(translator.load(languages[std::size_t(number)].catalogue, "", "", ""));
+    QVERIFY(translator.load(cataloguePath("lan", languages[std::size_t(number)]), "", "", ""));
     QCoreApplication::installTranslator(&translator);
     QSet<QString> seen;
     for (const Notice &notice : allNotices()) {
