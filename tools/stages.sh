@@ -66,7 +66,7 @@ stage() {
   : >"$log"
   if [ -t 1 ]; then printf '%s ...' "$text"; else printf '%s ... (log: %s)\n' "$text" "$log"; fi
   # The command runs in the foreground, so that Ctrl+C reaches it.
-  show_progress "$text" "$log" $$ 2>/dev/null &
+  show_progress "$text" "$log" $$ &
   watcher=$!
   "$@" 3>&1 >"$log" 2>&1
   status=$?
