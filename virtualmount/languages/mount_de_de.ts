@@ -433,6 +433,13 @@ Strg+1 bis Strg+6 drehen die Achse, Esc verlässt ein Feld.</translation>
 <context>
     <name>SkyDocument</name>
     <message>
+        <source>another program holds it locked</source>
+        <translation>ein anderes Programm hält sie gesperrt</translation>
+    </message>
+</context>
+<context>
+    <name>SkyFault</name>
+    <message>
         <source>not an ordinary file</source>
         <translation>keine gewöhnliche Datei</translation>
     </message>
@@ -440,13 +447,6 @@ Strg+1 bis Strg+6 drehen die Achse, Esc verlässt ein Feld.</translation>
         <source>longer than 64 KiB</source>
         <translation>länger als 64&#xa0;KiB</translation>
     </message>
-    <message>
-        <source>another program holds it locked</source>
-        <translation>ein anderes Programm hält sie gesperrt</translation>
-    </message>
-</context>
-<context>
-    <name>SkyFault</name>
     <message>
         <source>the file is empty</source>
         <translation>die Datei ist leer</translation>
@@ -484,20 +484,20 @@ Strg+1 bis Strg+6 drehen die Achse, Esc verlässt ein Feld.</translation>
         <translation>muss zwischen %1 und %2 liegen</translation>
     </message>
     <message>
-        <source>must be true or false</source>
-        <translation>muss true oder false sein</translation>
+        <source>must be %1 or %2</source>
+        <translation>muss %1 oder %2 sein</translation>
     </message>
     <message>
-        <source>must be sky, black or saturated</source>
-        <translation>muss sky, black oder saturated sein</translation>
+        <source>must be %1, %2 or %3</source>
+        <translation>muss %1, %2 oder %3 sein</translation>
     </message>
     <message>
         <source>unknown operation: &quot;%1&quot;</source>
         <translation>nennt keine Operation: „%1“</translation>
     </message>
     <message>
-        <source>must be %1 or a date from 1973 to 2100 like %2</source>
-        <translation>muss %1 sein oder ein Datum von 1973 bis 2100 wie %2</translation>
+        <source>must be %1 or a date from %2 to %3 like %4</source>
+        <translation>muss %1 sein oder ein Datum von %2 bis %3 wie %4</translation>
     </message>
     <message>
         <source>must be a whole number</source>

@@ -433,6 +433,13 @@ Ctrl+1 a Ctrl+6 giran el eje; Esc sale de un campo.</translation>
 <context>
     <name>SkyDocument</name>
     <message>
+        <source>another program holds it locked</source>
+        <translation>otro programa lo tiene bloqueado</translation>
+    </message>
+</context>
+<context>
+    <name>SkyFault</name>
+    <message>
         <source>not an ordinary file</source>
         <translation>no es un archivo normal</translation>
     </message>
@@ -440,13 +447,6 @@ Ctrl+1 a Ctrl+6 giran el eje; Esc sale de un campo.</translation>
         <source>longer than 64 KiB</source>
         <translation>ocupa más de 64&#xa0;KiB</translation>
     </message>
-    <message>
-        <source>another program holds it locked</source>
-        <translation>otro programa lo tiene bloqueado</translation>
-    </message>
-</context>
-<context>
-    <name>SkyFault</name>
     <message>
         <source>the file is empty</source>
         <translation>el archivo está vacío</translation>
@@ -484,20 +484,20 @@ Ctrl+1 a Ctrl+6 giran el eje; Esc sale de un campo.</translation>
         <translation>debe estar entre %1 y %2</translation>
     </message>
     <message>
-        <source>must be true or false</source>
-        <translation>debe ser true o false</translation>
+        <source>must be %1 or %2</source>
+        <translation>debe ser %1 o %2</translation>
     </message>
     <message>
-        <source>must be sky, black or saturated</source>
-        <translation>debe ser sky, black o saturated</translation>
+        <source>must be %1, %2 or %3</source>
+        <translation>debe ser %1, %2 o %3</translation>
     </message>
     <message>
         <source>unknown operation: &quot;%1&quot;</source>
         <translation>no nombra ninguna operación: «%1»</translation>
     </message>
     <message>
-        <source>must be %1 or a date from 1973 to 2100 like %2</source>
-        <translation>debe ser %1 o una fecha de 1973 a 2100 como %2</translation>
+        <source>must be %1 or a date from %2 to %3 like %4</source>
+        <translation>debe ser %1 o una fecha de %2 a %3 como %4</translation>
     </message>
     <message>
         <source>must be a whole number</source>

@@ -433,6 +433,13 @@ Ctrl+1 à Ctrl+6 tournent l&apos;axe, Échap quitte un champ.</translation>
 <context>
     <name>SkyDocument</name>
     <message>
+        <source>another program holds it locked</source>
+        <translation>un autre programme le tient verrouillé</translation>
+    </message>
+</context>
+<context>
+    <name>SkyFault</name>
+    <message>
         <source>not an ordinary file</source>
         <translation>n&apos;est pas un fichier ordinaire</translation>
     </message>
@@ -440,13 +447,6 @@ Ctrl+1 à Ctrl+6 tournent l&apos;axe, Échap quitte un champ.</translation>
         <source>longer than 64 KiB</source>
         <translation>dépasse 64&#xa0;Kio</translation>
     </message>
-    <message>
-        <source>another program holds it locked</source>
-        <translation>un autre programme le tient verrouillé</translation>
-    </message>
-</context>
-<context>
-    <name>SkyFault</name>
     <message>
         <source>the file is empty</source>
         <translation>le fichier est vide</translation>
@@ -484,20 +484,20 @@ Ctrl+1 à Ctrl+6 tournent l&apos;axe, Échap quitte un champ.</translation>
         <translation>doit être compris entre %1 et %2</translation>
     </message>
     <message>
-        <source>must be true or false</source>
-        <translation>doit être true ou false</translation>
+        <source>must be %1 or %2</source>
+        <translation>doit être %1 ou %2</translation>
     </message>
     <message>
-        <source>must be sky, black or saturated</source>
-        <translation>doit être sky, black ou saturated</translation>
+        <source>must be %1, %2 or %3</source>
+        <translation>doit être %1, %2 ou %3</translation>
     </message>
     <message>
         <source>unknown operation: &quot;%1&quot;</source>
         <translation>ne nomme aucune opération&#xa0;: «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
-        <source>must be %1 or a date from 1973 to 2100 like %2</source>
-        <translation>doit être %1 ou une date de 1973 à 2100 comme %2</translation>
+        <source>must be %1 or a date from %2 to %3 like %4</source>
+        <translation>doit être %1 ou une date de %2 à %3 comme %4</translation>
     </message>
     <message>
         <source>must be a whole number</source>

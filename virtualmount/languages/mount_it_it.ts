@@ -433,6 +433,13 @@ Ctrl+1 … Ctrl+6 ruotano l&apos;asse, Esc esce da un campo.</translation>
 <context>
     <name>SkyDocument</name>
     <message>
+        <source>another program holds it locked</source>
+        <translation>un altro programma lo tiene bloccato</translation>
+    </message>
+</context>
+<context>
+    <name>SkyFault</name>
+    <message>
         <source>not an ordinary file</source>
         <translation>non è un file ordinario</translation>
     </message>
@@ -440,13 +447,6 @@ Ctrl+1 … Ctrl+6 ruotano l&apos;asse, Esc esce da un campo.</translation>
         <source>longer than 64 KiB</source>
         <translation>supera i 64&#xa0;KiB</translation>
     </message>
-    <message>
-        <source>another program holds it locked</source>
-        <translation>un altro programma lo tiene bloccato</translation>
-    </message>
-</context>
-<context>
-    <name>SkyFault</name>
     <message>
         <source>the file is empty</source>
         <translation>il file è vuoto</translation>
@@ -484,20 +484,20 @@ Ctrl+1 … Ctrl+6 ruotano l&apos;asse, Esc esce da un campo.</translation>
         <translation>deve essere compreso tra %1 e %2</translation>
     </message>
     <message>
-        <source>must be true or false</source>
-        <translation>deve essere true o false</translation>
+        <source>must be %1 or %2</source>
+        <translation>deve essere %1 o %2</translation>
     </message>
     <message>
-        <source>must be sky, black or saturated</source>
-        <translation>deve essere sky, black o saturated</translation>
+        <source>must be %1, %2 or %3</source>
+        <translation>deve essere %1, %2 o %3</translation>
     </message>
     <message>
         <source>unknown operation: &quot;%1&quot;</source>
         <translation>non indica alcuna operazione: «%1»</translation>
     </message>
     <message>
-        <source>must be %1 or a date from 1973 to 2100 like %2</source>
-        <translation>deve essere %1 o una data dal 1973 al 2100 come %2</translation>
+        <source>must be %1 or a date from %2 to %3 like %4</source>
+        <translation>deve essere %1 o una data dal %2 al %3 come %4</translation>
     </message>
     <message>
         <source>must be a whole number</source>

@@ -433,6 +433,13 @@ Ctrl+1 ～ Ctrl+6 で軸を回し、Esc で入力欄を離れます。</translat
 <context>
     <name>SkyDocument</name>
     <message>
+        <source>another program holds it locked</source>
+        <translation>別のプログラムがロックしています</translation>
+    </message>
+</context>
+<context>
+    <name>SkyFault</name>
+    <message>
         <source>not an ordinary file</source>
         <translation>通常のファイルではありません</translation>
     </message>
@@ -440,13 +447,6 @@ Ctrl+1 ～ Ctrl+6 で軸を回し、Esc で入力欄を離れます。</translat
         <source>longer than 64 KiB</source>
         <translation>64 KiB を超えています</translation>
     </message>
-    <message>
-        <source>another program holds it locked</source>
-        <translation>別のプログラムがロックしています</translation>
-    </message>
-</context>
-<context>
-    <name>SkyFault</name>
     <message>
         <source>the file is empty</source>
         <translation>ファイルが空です</translation>
@@ -484,20 +484,20 @@ Ctrl+1 ～ Ctrl+6 で軸を回し、Esc で入力欄を離れます。</translat
         <translation>%1 ～ %2 の範囲外です</translation>
     </message>
     <message>
-        <source>must be true or false</source>
-        <translation>true か false でなければなりません</translation>
+        <source>must be %1 or %2</source>
+        <translation>%1 か %2 でなければなりません</translation>
     </message>
     <message>
-        <source>must be sky, black or saturated</source>
-        <translation>sky、black、saturated のどれかでなければなりません</translation>
+        <source>must be %1, %2 or %3</source>
+        <translation>%1、%2、%3 のどれかでなければなりません</translation>
     </message>
     <message>
         <source>unknown operation: &quot;%1&quot;</source>
         <translation>そのような操作はありません:「%1」</translation>
     </message>
     <message>
-        <source>must be %1 or a date from 1973 to 2100 like %2</source>
-        <translation>%1 か、%2 のような 1973 ～ 2100 年の日付でなければなりません</translation>
+        <source>must be %1 or a date from %2 to %3 like %4</source>
+        <translation>%1 か、%4 のような %2 ～ %3 年の日付でなければなりません</translation>
     </message>
     <message>
         <source>must be a whole number</source>

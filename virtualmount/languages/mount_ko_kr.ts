@@ -433,6 +433,13 @@ Ctrl+1~Ctrl+6으로 축을 돌리고 Esc로 입력란에서 나옵니다.</trans
 <context>
     <name>SkyDocument</name>
     <message>
+        <source>another program holds it locked</source>
+        <translation>다른 프로그램이 잠그고 있습니다</translation>
+    </message>
+</context>
+<context>
+    <name>SkyFault</name>
+    <message>
         <source>not an ordinary file</source>
         <translation>일반 파일이 아닙니다</translation>
     </message>
@@ -440,13 +447,6 @@ Ctrl+1~Ctrl+6으로 축을 돌리고 Esc로 입력란에서 나옵니다.</trans
         <source>longer than 64 KiB</source>
         <translation>64 KiB보다 깁니다</translation>
     </message>
-    <message>
-        <source>another program holds it locked</source>
-        <translation>다른 프로그램이 잠그고 있습니다</translation>
-    </message>
-</context>
-<context>
-    <name>SkyFault</name>
     <message>
         <source>the file is empty</source>
         <translation>파일이 비어 있습니다</translation>
@@ -484,20 +484,20 @@ Ctrl+1~Ctrl+6으로 축을 돌리고 Esc로 입력란에서 나옵니다.</trans
         <translation>%1에서 %2 사이여야 합니다</translation>
     </message>
     <message>
-        <source>must be true or false</source>
-        <translation>true 또는 false여야 합니다</translation>
+        <source>must be %1 or %2</source>
+        <translation>%1 또는 %2여야 합니다</translation>
     </message>
     <message>
-        <source>must be sky, black or saturated</source>
-        <translation>sky, black, saturated 중 하나여야 합니다</translation>
+        <source>must be %1, %2 or %3</source>
+        <translation>%1, %2, %3 중 하나여야 합니다</translation>
     </message>
     <message>
         <source>unknown operation: &quot;%1&quot;</source>
         <translation>그런 동작은 없습니다: ‘%1’</translation>
     </message>
     <message>
-        <source>must be %1 or a date from 1973 to 2100 like %2</source>
-        <translation>%1이거나 %2 같은 1973~2100년의 날짜여야 합니다</translation>
+        <source>must be %1 or a date from %2 to %3 like %4</source>
+        <translation>%1이거나 %4 같은 %2~%3년의 날짜여야 합니다</translation>
     </message>
     <message>
         <source>must be a whole number</source>

@@ -433,6 +433,13 @@ Ctrl+1 a Ctrl+6 rodam o eixo; Esc sai de um campo.</translation>
 <context>
     <name>SkyDocument</name>
     <message>
+        <source>another program holds it locked</source>
+        <translation>outro programa mantém-no bloqueado</translation>
+    </message>
+</context>
+<context>
+    <name>SkyFault</name>
+    <message>
         <source>not an ordinary file</source>
         <translation>não é um ficheiro normal</translation>
     </message>
@@ -440,13 +447,6 @@ Ctrl+1 a Ctrl+6 rodam o eixo; Esc sai de um campo.</translation>
         <source>longer than 64 KiB</source>
         <translation>ocupa mais de 64&#xa0;KiB</translation>
     </message>
-    <message>
-        <source>another program holds it locked</source>
-        <translation>outro programa mantém-no bloqueado</translation>
-    </message>
-</context>
-<context>
-    <name>SkyFault</name>
     <message>
         <source>the file is empty</source>
         <translation>o ficheiro está vazio</translation>
@@ -484,20 +484,20 @@ Ctrl+1 a Ctrl+6 rodam o eixo; Esc sai de um campo.</translation>
         <translation>deve estar entre %1 e %2</translation>
     </message>
     <message>
-        <source>must be true or false</source>
-        <translation>deve ser true ou false</translation>
+        <source>must be %1 or %2</source>
+        <translation>deve ser %1 ou %2</translation>
     </message>
     <message>
-        <source>must be sky, black or saturated</source>
-        <translation>deve ser sky, black ou saturated</translation>
+        <source>must be %1, %2 or %3</source>
+        <translation>deve ser %1, %2 ou %3</translation>
     </message>
     <message>
         <source>unknown operation: &quot;%1&quot;</source>
         <translation>não indica nenhuma operação: «%1»</translation>
     </message>
     <message>
-        <source>must be %1 or a date from 1973 to 2100 like %2</source>
-        <translation>deve ser %1 ou uma data de 1973 a 2100 como %2</translation>
+        <source>must be %1 or a date from %2 to %3 like %4</source>
+        <translation>deve ser %1 ou uma data de %2 a %3 como %4</translation>
     </message>
     <message>
         <source>must be a whole number</source>

@@ -433,6 +433,13 @@ Ctrl+1 … Ctrl+6 поворачивают ось, Esc — выход из по�
 <context>
     <name>SkyDocument</name>
     <message>
+        <source>another program holds it locked</source>
+        <translation>другая программа держит его заблокированным</translation>
+    </message>
+</context>
+<context>
+    <name>SkyFault</name>
+    <message>
         <source>not an ordinary file</source>
         <translation>не обычный файл</translation>
     </message>
@@ -440,13 +447,6 @@ Ctrl+1 … Ctrl+6 поворачивают ось, Esc — выход из по�
         <source>longer than 64 KiB</source>
         <translation>больше 64&#xa0;КиБ</translation>
     </message>
-    <message>
-        <source>another program holds it locked</source>
-        <translation>другая программа держит его заблокированным</translation>
-    </message>
-</context>
-<context>
-    <name>SkyFault</name>
     <message>
         <source>the file is empty</source>
         <translation>файл пуст</translation>
@@ -484,20 +484,20 @@ Ctrl+1 … Ctrl+6 поворачивают ось, Esc — выход из по�
         <translation>должно быть от %1 до %2</translation>
     </message>
     <message>
-        <source>must be true or false</source>
-        <translation>должно быть true или false</translation>
+        <source>must be %1 or %2</source>
+        <translation>должно быть %1 или %2</translation>
     </message>
     <message>
-        <source>must be sky, black or saturated</source>
-        <translation>должно быть sky, black или saturated</translation>
+        <source>must be %1, %2 or %3</source>
+        <translation>должно быть %1, %2 или %3</translation>
     </message>
     <message>
         <source>unknown operation: &quot;%1&quot;</source>
         <translation>нет такой операции: «%1»</translation>
     </message>
     <message>
-        <source>must be %1 or a date from 1973 to 2100 like %2</source>
-        <translation>должно быть %1 или датой с 1973 по 2100 год вида %2</translation>
+        <source>must be %1 or a date from %2 to %3 like %4</source>
+        <translation>должно быть %1 или датой с %2 по %3 год вида %4</translation>
     </message>
     <message>
         <source>must be a whole number</source>

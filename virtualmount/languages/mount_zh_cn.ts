@@ -433,6 +433,13 @@ Ctrl+1 至 Ctrl+6 转动赤经轴，Esc 离开输入框。</translation>
 <context>
     <name>SkyDocument</name>
     <message>
+        <source>another program holds it locked</source>
+        <translation>另一个程序锁定了它</translation>
+    </message>
+</context>
+<context>
+    <name>SkyFault</name>
+    <message>
         <source>not an ordinary file</source>
         <translation>不是普通文件</translation>
     </message>
@@ -440,13 +447,6 @@ Ctrl+1 至 Ctrl+6 转动赤经轴，Esc 离开输入框。</translation>
         <source>longer than 64 KiB</source>
         <translation>超过 64 KiB</translation>
     </message>
-    <message>
-        <source>another program holds it locked</source>
-        <translation>另一个程序锁定了它</translation>
-    </message>
-</context>
-<context>
-    <name>SkyFault</name>
     <message>
         <source>the file is empty</source>
         <translation>文件是空的</translation>
@@ -484,20 +484,20 @@ Ctrl+1 至 Ctrl+6 转动赤经轴，Esc 离开输入框。</translation>
         <translation>必须在 %1 和 %2 之间</translation>
     </message>
     <message>
-        <source>must be true or false</source>
-        <translation>必须是 true 或 false</translation>
+        <source>must be %1 or %2</source>
+        <translation>必须是 %1 或 %2</translation>
     </message>
     <message>
-        <source>must be sky, black or saturated</source>
-        <translation>必须是 sky、black 或 saturated</translation>
+        <source>must be %1, %2 or %3</source>
+        <translation>必须是 %1、%2 或 %3</translation>
     </message>
     <message>
         <source>unknown operation: &quot;%1&quot;</source>
         <translation>没有这个操作：“%1”</translation>
     </message>
     <message>
-        <source>must be %1 or a date from 1973 to 2100 like %2</source>
-        <translation>必须是 %1，或 1973 至 2100 年的日期，如 %2</translation>
+        <source>must be %1 or a date from %2 to %3 like %4</source>
+        <translation>必须是 %1，或 %2 至 %3 年的日期，如 %4</translation>
     </message>
     <message>
         <source>must be a whole number</source>
