@@ -29,7 +29,7 @@ virtualsky::Point axisOf(const SkyState &state)
 }
 } // namespace
 
-class TestAxis : public QObject
+class AxisTest : public QObject
 {
     Q_OBJECT
 
@@ -46,7 +46,7 @@ private slots:
     void errorsOfTheWrongHemisphereAreNone();
 };
 
-void TestAxis::threeFrames_data()
+void AxisTest::threeFrames_data()
 {
     QTest::addColumn<bool>("south");
     QTest::addColumn<double>("date");
@@ -56,7 +56,7 @@ void TestAxis::threeFrames_data()
     QTest::newRow("south 2040") << true << november2040;
 }
 
-void TestAxis::threeFrames()
+void AxisTest::threeFrames()
 {
     QFETCH(bool, south);
     QFETCH(double, date);
@@ -83,7 +83,7 @@ void TestAxis::threeFrames()
     QVERIFY2(inside >= 9, qPrintable(QString::number(inside)));
 }
 
-void TestAxis::turnsAreSigned()
+void AxisTest::turnsAreSigned()
 {
     for (const bool south : {false, true}) {
         const SkyState state = skyOf(south, november2026);
@@ -96,7 +96,7 @@ void TestAxis::turnsAreSigned()
     }
 }
 
-void TestAxis::bumpedFrameIsNamed()
+void AxisTest::bumpedFrameIsNamed()
 {
     const SkyState state = skyOf(false, november2026);
     SkyState bumped = state;
@@ -109,7 +109,7 @@ void TestAxis::bumpedFrameIsNamed()
     QVERIFY(error(axis.place, axisOf(state)) < 2.0);
 }
 
-void TestAxis::aMoveForGoodIsNoticed()
+void AxisTest::aMoveForGoodIsNoticed()
 {
     const SkyState state = skyOf(true, november2026);
     SkyState moved = state;
@@ -120,7 +120,7 @@ void TestAxis::aMoveForGoodIsNoticed()
     QVERIFY(error(axis.place, axisOf(state)) < 2.0);
 }
 
-void TestAxis::threeFramesCannotNameTheBump()
+void AxisTest::threeFramesCannotNameTheBump()
 {
     const SkyState state = skyOf(false, november2026);
     SkyState bumped = state;
@@ -131,7 +131,7 @@ void TestAxis::threeFramesCannotNameTheBump()
     QVERIFY(QString::fromStdString(reason(axis)).contains("one more"));
 }
 
-void TestAxis::failuresHaveReasons()
+void AxisTest::failuresHaveReasons()
 {
     const SkyState state = skyOf(false, november2026);
     const Recognition first = turned(state, 0.0, 0.0, 1);
@@ -146,7 +146,7 @@ void TestAxis::failuresHaveReasons()
     QCOMPARE(two.turns[1], 0.0);
 }
 
-void TestAxis::mountErrorAgreesWithTheTruth_data()
+void AxisTest::mountErrorAgreesWithTheTruth_data()
 {
     QTest::addColumn<bool>("south");
     QTest::addColumn<double>("altitude"); // of the bolts, degrees
@@ -160,7 +160,7 @@ void TestAxis::mountErrorAgreesWithTheTruth_data()
     QTest::newRow("south through air") << true << -0.2 << 0.3 << true;
 }
 
-void TestAxis::mountErrorAgreesWithTheTruth()
+void AxisTest::mountErrorAgreesWithTheTruth()
 {
     QFETCH(bool, south);
     QFETCH(double, altitude);
@@ -200,7 +200,7 @@ void TestAxis::mountErrorAgreesWithTheTruth()
     QVERIFY2(std::abs(less - lift) < 5.0, qPrintable(QString::number(less)));
 }
 
-void TestAxis::errorsOfTheWrongHemisphereAreNone()
+void AxisTest::errorsOfTheWrongHemisphereAreNone()
 {
     const SkyState state = skyOf(false, november2026);
     const Recognition first = turned(state, 0.0, 0.0, 1);
@@ -214,5 +214,5 @@ void TestAxis::errorsOfTheWrongHemisphereAreNone()
     QVERIFY(!mountError(Recognition(), axis, options).has_value());
 }
 
-QTEST_GUILESS_MAIN(TestAxis)
+QTEST_GUILESS_MAIN(AxisTest)
 #include "tst_axis.moc"

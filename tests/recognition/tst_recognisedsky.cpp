@@ -15,7 +15,7 @@ using namespace recognition;
 using namespace skyframes;
 using virtualsky::SkyState;
 
-class TestRecognisedSky : public QObject
+class RecognisedSkyTest : public QObject
 {
     Q_OBJECT
 
@@ -29,7 +29,7 @@ private slots:
     void followerReportsClouds();
 };
 
-void TestRecognisedSky::poleAgreesWithTheTruth_data()
+void RecognisedSkyTest::poleAgreesWithTheTruth_data()
 {
     QTest::addColumn<bool>("south");
     QTest::addColumn<double>("date");
@@ -39,7 +39,7 @@ void TestRecognisedSky::poleAgreesWithTheTruth_data()
     QTest::newRow("south 2040") << true << november2040;
 }
 
-void TestRecognisedSky::poleAgreesWithTheTruth()
+void RecognisedSkyTest::poleAgreesWithTheTruth()
 {
     QFETCH(bool, south);
     QFETCH(double, date);
@@ -65,7 +65,7 @@ void TestRecognisedSky::poleAgreesWithTheTruth()
     QVERIFY2(inside >= 20, qPrintable(QString::number(inside))); // fewer by chance: 1 in 1000
 }
 
-void TestRecognisedSky::photograph_data()
+void RecognisedSkyTest::photograph_data()
 {
     QTest::addColumn<QString>("file");
     QTest::addColumn<double>("x"); // of the plate-solved pole, with aberration
@@ -75,7 +75,7 @@ void TestRecognisedSky::photograph_data()
     QTest::newRow("south") << "south_pole.png" << 764.32 << 333.89 << 0.6;
 }
 
-void TestRecognisedSky::photograph()
+void RecognisedSkyTest::photograph()
 {
     QFETCH(QString, file);
     QFETCH(double, x);
@@ -96,7 +96,7 @@ void TestRecognisedSky::photograph()
     QVERIFY2(off < allowed, qPrintable(QString::number(off)));
 }
 
-void TestRecognisedSky::followsDriftAndShifts()
+void RecognisedSkyTest::followsDriftAndShifts()
 {
     SkyState state = skyOf(false, november2026);
     Follower follower({});
@@ -117,7 +117,7 @@ void TestRecognisedSky::followsDriftAndShifts()
     }
 }
 
-void TestRecognisedSky::followerFindsALostField()
+void RecognisedSkyTest::followerFindsALostField()
 {
     SkyState state = skyOf(true, november2026);
     Follower follower({});
@@ -130,7 +130,7 @@ void TestRecognisedSky::followerFindsALostField()
     QVERIFY(error(found.pole, pole) < 3.0);
 }
 
-void TestRecognisedSky::followerReportsClouds()
+void RecognisedSkyTest::followerReportsClouds()
 {
     SkyState state = skyOf(false, november2026);
     Follower follower({});
@@ -146,5 +146,5 @@ void TestRecognisedSky::followerReportsClouds()
     QVERIFY(follower.followed());
 }
 
-QTEST_GUILESS_MAIN(TestRecognisedSky)
+QTEST_GUILESS_MAIN(RecognisedSkyTest)
 #include "tst_recognisedsky.moc"

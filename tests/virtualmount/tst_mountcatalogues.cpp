@@ -302,7 +302,7 @@ void MountCataloguesTest::followsTheOption()
     QFETCH(QString, north);
     QFETCH(QString, number);
     QVERIFY(installRequestedLanguage("mount", code));
-    QCOMPARE(QCoreApplication::translate("MountWindow", "North"), north);
+    QCOMPARE(QCoreApplication::translate("virtualmount::MountWindow", "North"), north);
     QCOMPARE(QLocale().toString(1.5, 'f', 1), number);
     QLocale::setDefault(QLocale::system());
 }
@@ -312,9 +312,9 @@ void MountCataloguesTest::unknownOptionsAreRefused()
     QVERIFY(installTranslator("mount", languages.at(5)));
     for (const char *const code : {"XX", "german", "D", "de_DE"})
         QVERIFY2(!installRequestedLanguage("mount", code), code);
-    QCOMPARE(QCoreApplication::translate("MountWindow", "South"), QString("Süd"));
+    QCOMPARE(QCoreApplication::translate("virtualmount::MountWindow", "South"), QString("Süd"));
     QVERIFY(installRequestedLanguage("mount", QString())); // the tests' locale is C
-    QCOMPARE(QCoreApplication::translate("MountWindow", "South"), QString("South"));
+    QCOMPARE(QCoreApplication::translate("virtualmount::MountWindow", "South"), QString("South"));
 }
 
 QTEST_GUILESS_MAIN(MountCataloguesTest)
