@@ -16,7 +16,8 @@ namespace
 {
 constexpr std::array<std::string_view, 3> pictureNames = {"sky", "black", "saturated"};
 
-using Fault = std::optional<std::string>;
+using Code = SkyFaultCode;
+using Fault = std::optional<SkyFault>;
 
 std::string numberText(double value)
 {
@@ -25,12 +26,12 @@ std::string numberText(double value)
     return {text.data(), end};
 }
 
-std::string outside(const SkyKey &key)
+SkyFault outside(const SkyKey &key)
 {
-    return "must lie between " + numberText(key.least) + " and " + numberText(key.most);
+    return {Code::OutOfRange, {numberText(key.least), numberText(key.most)}};
 }
 
-// Reads and writes the members of each type; a fault completes the sentence "key ...".
+// Reads and writes the members of each type.
 struct Reader {
     SkyState &state;
     const SkyKey &key;
@@ -42,7 +43,7 @@ struct Reader {
     Fault operator()(bool SkyState::*member) const
     {
         if (text != "true" && text != "false")
-            return "must be true or false";
+            return SkyFault(Code::NeitherOfTwo, {"true", "false"});
         state.*member = text == "true";
         return {};
     }
@@ -55,7 +56,7 @@ struct Reader {
             state.*member = static_cast<Picture>(i);
             return {};
         }
-        return "must be sky, black or saturated";
+        return SkyFault(Code::NoneOfThree, {pictureNames[0], pictureNames[1], pictureNames[2]});
     }
 
     Fault operator()(OperationSet SkyState::*member) const
@@ -70,7 +71,7 @@ struct Reader {
             while (i < operationNames.size() && operationNames[i] != name)
                 ++i;
             if (i == operationNames.size())
-                return "unknown operation: \"" + std::string(name) + '"';
+                return SkyFault(Code::UnknownOperation, {name});
             set.set(i);
         }
         state.*member = set;
@@ -85,9 +86,8 @@ struct Reader {
         }
         const std::optional<double> value = parseDate(text);
         if (!value)
-            return "must be " + std::string(date.none) + " or a date from " +
-                   std::to_string(firstYear) + " to " + std::to_string(lastYear) +
-                   " like 2026-11-20T20:00:00Z";
+            return SkyFault(Code::NoDate, {date.none, std::to_string(firstYear),
+                                           std::to_string(lastYear), "2026-11-20T20:00:00Z"});
         state.*date.member = value;
         return {};
     }
@@ -100,7 +100,7 @@ struct Reader {
         if (result.ec == std::errc::result_out_of_range)
             return outside(key);
         if (text.empty() || result.ec != std::errc() || result.ptr != end)
-            return std::is_integral_v<Number> ? "must be a whole number" : "must be a number";
+            return SkyFault(std::is_integral_v<Number> ? Code::NoWholeNumber : Code::NoNumber);
         const double asDouble = static_cast<double>(value);
         if (!(asDouble >= key.least && asDouble <= key.most))
             return outside(key);
@@ -181,11 +181,11 @@ const std::vector<SkyKey> &skyKeys()
     return *keys;
 }
 
-std::optional<std::string> setKey(SkyState &state, const SkyKey &key, std::string_view text)
+std::optional<SkyFault> setKey(SkyState &state, const SkyKey &key, std::string_view text)
 {
     const Fault fault = std::visit(Reader{state, key, text}, key.member);
     if (!fault && key.name == "channels" && state.channels == 2)
-        return "must be 1 or 3";
+        return SkyFault(Code::NeitherOneNorThree);
     return fault;
 }
 

@@ -14,6 +14,8 @@
 #include <QScreen>
 #include <cstdio>
 
+using namespace virtualmount;
+
 namespace
 {
 void describe(QCommandLineParser &options)
@@ -38,7 +40,7 @@ void printPlaces(MountWindow &window)
 {
     window.ensurePolished();
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-    puts(placesText(sharedScreen(screen, window.sizeHint(), windowFrame())).constData());
+    puts(geometriesText(sharedScreen(screen, window.sizeHint(), windowFrame())).constData());
 }
 } // namespace
 

@@ -115,10 +115,10 @@ void MountLanguagesTest::everyTextFits()
                    "bolt_altitude = 0.8\nbolt_azimuth = 9.5\n[weather]\nclouds = 1\nmoon = 1\n"
                    "[sensor]\nseeing = 118\n");
     ShownWindow shown(file.path());
-    MountWindow &window = shown.window;
+    virtualmount::MountWindow &window = shown.window;
     // A screen of 1366 x 768 with a panel.
-    const Places places =
-        sharedScreen(QRect(0, 0, 1366, 728), window.sizeHint(), QMargins(4, 36, 4, 4));
+    const virtualmount::WindowGeometries places = virtualmount::sharedScreen(
+        QRect(0, 0, 1366, 728), window.sizeHint(), QMargins(4, 36, 4, 4));
     QCOMPARE(window.size(), places.mount.size());
     QVERIFY2(places.program.width() >= 900, qPrintable(QString::number(window.width())));
     const auto lacks = [&] {
