@@ -38,6 +38,7 @@ int main(int argc, char *argv[])
             return std::fputs(usage, stdout) < 0 ? EXIT_FAILURE : EXIT_SUCCESS;
     prepareApplication();
     QApplication application(argc, argv);
+    QGuiApplication::setDesktopFileName(QStringLiteral("example.quorvandel.quorvandel"));
     // Without a log file, Qt's own output is kept.
     startProgram(application, QUORVANDEL_FILE_LOG ? logMessageHandler : nullptr);
     Session session;

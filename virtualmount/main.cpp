@@ -48,6 +48,7 @@ int main(int argc, char *argv[])
 {
     prepareApplication();
     QApplication application(argc, argv);
+    QGuiApplication::setDesktopFileName(QStringLiteral("example.quorvandel.mount"));
     QApplication::setApplicationName(QStringLiteral("quorvandel-mount"));
     QCommandLineParser options;
     describe(options);
