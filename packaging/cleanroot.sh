@@ -17,6 +17,7 @@ unpack_clean_root() {
   else
     tar -C "$root" -xf "$base" || return
   fi
+  chmod 755 "$root"
   mount -t proc proc "$root/proc" && cp /etc/resolv.conf "$root/etc/resolv.conf" &&
     mount --bind "$cache/archives" "$root/var/cache/apt/archives"
 }
