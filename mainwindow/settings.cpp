@@ -3,12 +3,18 @@
 #include "mainwindow/mainwindow.h"
 
 #include "camera/session.h"
+#include "core/savetrouble.h"
 #include "core/settingsfile.h"
+
+#include <QtDebug>
 
 bool MainWindow::loadSettings()
 {
     Settings settings;
-    if (!readSettings(settingsFilePath(), settings))
+    const QString path = settingsFilePath();
+    if (const QString trouble = troubleText(saveTrouble(path)); !trouble.isEmpty())
+        qWarning("the settings will not be saved in %s: %s", qPrintable(path), qPrintable(trouble));
+    if (!readSettings(path, settings))
         return false;
     applySettings(settings);
     return true;
