@@ -35,7 +35,7 @@ void MainWindow::applySettings(const Settings &settings)
     session.alignmentPoints.savedAxisCenter = QPointF(settings.axisX, settings.axisY);
 }
 
-void MainWindow::saveSettings() const
+Settings MainWindow::currentSettings() const
 {
     Settings settings;
     settings.styleName = styleName;
@@ -50,7 +50,19 @@ void MainWindow::saveSettings() const
     settings.P_unit = session.refraction.P_unit;
     settings.axisX = session.alignmentPoints.savedAxisCenter.x;
     settings.axisY = session.alignmentPoints.savedAxisCenter.y;
-    writeSettings(settingsFilePath(), settings);
+    return settings;
+}
+
+/// Called before each call into the camera library, which may not return.
+void MainWindow::noteSettings()
+{
+    session.latestSettings.note(currentSettings());
+}
+
+void MainWindow::saveSettings()
+{
+    noteSettings();
+    session.latestSettings.save(settingsFilePath());
 }
 
 /// Sets the name for the GUI and the mono flag for the capture thread.
