@@ -41,7 +41,7 @@ std::string format(const SkyState &state);
 bool writeAtomically(const std::string &name, std::string_view text);
 
 /// $QUORVANDEL_SKY, or quorvandel/sky.ini in $XDG_RUNTIME_DIR, or sky.ini in /tmp/quorvandel-UID,
-/// which is made. If that is not this user's alone, another one is used (see privatefolder.h), and a
-/// line on standard error says so.
+/// which is made. If that is not this user's alone, another one is used (see privatefolder.h), and
+/// a line on standard error says so.
 std::string skyFilePath();
 } // namespace virtualsky
