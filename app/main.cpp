@@ -4,6 +4,7 @@
 #include "app/startup.h"
 #include "app/terminationsignals.h"
 #include "camera/session.h"
+#include "core/settingsfile.h"
 #include "mainwindow/mainwindow.h"
 
 #include <QApplication>
@@ -15,6 +16,11 @@
 
 namespace
 {
+/// Milliseconds after a signal: for a camera library that does not return from its call, and for a
+/// save that is under way in a thread that does not respond.
+constexpr int closingPatience = 2000;
+constexpr int lastSavePatience = 500;
+
 /// The present date for `--angles-of-date`, as UTC since 1970.
 std::optional<double> dateOfAngles()
 {
@@ -42,8 +48,12 @@ int main(int argc, char *argv[])
     // Without a log file, Qt's own output is kept.
     startProgram(application, QUORVANDEL_FILE_LOG ? logMessageHandler : nullptr);
     Session session;
+    // Before the window, which calls the camera library as it is built.
+    TerminationSignals termination([&session, path = settingsFilePath()] {
+        session.latestSettings.save(path, lastSavePatience);
+    });
     MainWindow window(session, nullptr, dateOfAngles());
-    const TerminationSignals closing(window);
+    termination.closeWindow(window, [&window] { window.hurry(closingPatience); });
     if (QApplication::arguments().contains(QLatin1String("--maximized")))
         window.showMaximized();
     else

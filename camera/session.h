@@ -7,6 +7,7 @@
 #include "camera/framerate.h"
 #include "camera/latestframe.h"
 #include "camera/picturequeue.h"
+#include "core/latestsettings.h"
 #include "core/sharedstate.h"
 
 /// One camera, its frames and one alignment. Created at the start of the process and passed to all
@@ -23,4 +24,5 @@ struct Session {
     AlignmentPoints alignmentPoints;
     MonitorPositions monitorPositions;
     RefractionSettings refraction;
+    LatestSettings latestSettings; ///< for a thread that saves them in place of the GUI's
 };

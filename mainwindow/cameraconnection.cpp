@@ -66,6 +66,7 @@ void MainWindow::on_actionConnect_triggered()
 {
     if (!session.camera.sdkReady || cameraClosing.isUnderWay())
         return;
+    noteSettings();
     if (session.camera.cameraConnected)
         disconnectCamera();
     else
@@ -188,9 +189,11 @@ void MainWindow::disconnectCamera()
 /// Waits while a modal dialog is open, so that the wizard does not change behind it.
 void MainWindow::followClosing()
 {
-    if (cameraClosing.isUnderWay()) // otherwise it was completed when the window closed
-        showDisconnected(QApplication::activeModalWidget() ? CameraClosing::State::UnderWay
-                                                           : cameraClosing.poll(0));
+    if (!cameraClosing.isUnderWay()) // it was completed when the window closed
+        return;
+    noteSettings();
+    showDisconnected(QApplication::activeModalWidget() ? CameraClosing::State::UnderWay
+                                                       : cameraClosing.poll(0));
 }
 
 /// Updates the window after a check of the close operation.
@@ -219,7 +222,7 @@ void MainWindow::showDisconnected(CameraClosing::State state)
 /// time.
 int MainWindow::sdkCallTimeout() const
 {
-    return libraryHangs ? 0 : CameraHandle::sdkCallTimeout;
+    return libraryHangs ? 0 : closingPatience;
 }
 
 bool MainWindow::stopCaptureAndWait()

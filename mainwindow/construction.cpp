@@ -205,7 +205,10 @@ void MainWindow::startTimers()
     frameTimer->start();
     fpsTimer = makeTimer(this, 500);
     connect(fpsTimer, SIGNAL(timeout()), this, SLOT(updateFPS()));
-    connect(fpsTimer, &QTimer::timeout, this, [this] { showNotice(); });
+    connect(fpsTimer, &QTimer::timeout, this, [this] {
+        noteSettings();
+        showNotice();
+    });
     fpsTimer->start();
     angleTimer = makeTimer(this, 100);
     connect(angleTimer, SIGNAL(timeout()), this, SLOT(increaseAngleTimeout()));
@@ -298,6 +301,7 @@ void MainWindow::buildPlayer()
 
 void MainWindow::initialiseSdk()
 {
+    noteSettings();
     const bool ready = InitVELDIXResource() == 0;
     session.camera.sdkReady = ready;
     if (ready)

@@ -220,11 +220,13 @@ void SettingsMatrixTest::content_data()
                 << fileWith(keys[0], QByteArray(type) + "(\\0\\0\\0\\x0b\\0" + count + ")")
                 << defaults;
     // Written so that the bytes do not show it; the other keys are read.
-    const QByteArray list = "\\0\\0\\0\\x0b\\0\\x10\\0\\0\\0)";
+    // The toolkit reads "@Variant" in an old format, without the byte before the count.
+    const QByteArray list = "\\0\\0\\0\\x0b\\x7f\\xff\\xff\\xff)";
+    const QByteArray dated = "\\0\\0\\0\\x0b\\0\\x7f\\xff\\xff\\xff)";
     for (const QByteArray &hidden :
          {"@Variant(" + list, "@\\126ariant(" + list, "@Variant\\x28" + list,
           "\"@Var\"\"iant(\"" + list, "\\x40Variant(" + list, "a, @Variant(" + list,
-          "@Date\\x54ime(" + list})
+          "@Date\\x54ime(" + dated})
         QTest::addRow("between others: %s", hidden.constData())
             << "[ZOOM]\nfactor=0.5\n[MINE]\nlist=" + hidden + "\n[LANGUAGE]\nlang=" + hidden +
                    "\n[STYLE]\nstyle=Mono\n"
