@@ -16,8 +16,8 @@ void reportFields(int count);
 int reportFalseFrames(int first, int count);
 /// Medians of the thread's own time over `count` frames.
 void reportSpeeds(int count);
-/// Memory before, during and after `count` frames.
-void reportMemory(int count);
+/// Memory before, during and after `count` frames, each searched blind or followed.
+void reportMemory(int count, bool following);
 /// Writes `count` frames of one date as PNG files into a folder, with their truth as truth.csv.
 /// @return whether all were written
 bool writeFrames(const char *folder, int count);
