@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+// Was the computer's clock set while the alignment went on?
+#pragma once
+
+#include <optional>
+
+namespace assistant
+{
+/// A smaller step than this, seconds, is no cause for alarm: the axis needs its frames' times to a
+/// second or two.
+inline constexpr double noticedClockStep = 2.0;
+
+/// Compares the computer's clock with one that nobody sets, from frame to frame, so that a clock
+/// that is slowed down or sped up over hours does not count.
+class ClockWatch
+{
+public:
+    /// @return by how many seconds the clock was set since the last call; 0: not
+    double step(double utcSeconds, double steadySeconds);
+
+private:
+    std::optional<double> offset; // utc minus steady
+};
+
+/// Whether the kernel counts the computer's clock as synchronised; true where it cannot say.
+bool isClockSynchronised();
+} // namespace assistant
