@@ -4,7 +4,7 @@
 
 #include "assistant/autoexposure.h"
 #include "assistant/axistracker.h"
-#include "assistant/clockwatch.h"
+#include "assistant/clocks.h"
 #include "assistant/settings.h"
 #include "assistant/slipwatch.h"
 #include "assistant/status.h"

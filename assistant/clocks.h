@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-// Was the computer's clock set while the alignment went on?
+// What time is it, and was the computer's clock set while the alignment went on?
 #pragma once
 
+#include <functional>
 #include <optional>
 
 namespace assistant
@@ -21,6 +22,14 @@ public:
 private:
     std::optional<double> offset; // utc minus steady
 };
+
+/// Where times come from. Each may be called from any thread.
+struct Clocks {
+    std::function<double()> utc;        ///< the computer's clock, seconds since 1970
+    std::function<double()> steady;     ///< seconds of a clock that nobody sets
+    std::function<bool()> synchronised; ///< whether the computer's clock is known to be right
+};
+Clocks systemClocks();
 
 /// Whether the kernel counts the computer's clock as synchronised; true where it cannot say.
 bool isClockSynchronised();

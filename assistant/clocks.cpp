@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-// Steps of the clock, and the kernel's word on it.
-#include "assistant/clockwatch.h"
+// The clocks, steps of the computer's, and the kernel's word on it.
+#include "assistant/clocks.h"
 
+#include <chrono>
 #include <cmath>
 #include <sys/timex.h>
 
@@ -13,6 +14,20 @@ double ClockWatch::step(double utcSeconds, double steadySeconds)
     const double by = offset ? now - *offset : 0.0;
     offset = now;
     return std::abs(by) >= noticedClockStep ? by : 0.0;
+}
+
+Clocks systemClocks()
+{
+    using std::chrono::duration;
+    return {[] {
+                const auto now = std::chrono::system_clock::now().time_since_epoch();
+                return duration<double>(now).count();
+            },
+            [] {
+                const auto now = std::chrono::steady_clock::now().time_since_epoch();
+                return duration<double>(now).count();
+            },
+            isClockSynchronised};
 }
 
 bool isClockSynchronised()
