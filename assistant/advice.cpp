@@ -18,7 +18,7 @@ constexpr double nearlyThere = 60.0; // arcseconds
 
 Advice ofStars(const LostSky &frame)
 {
-    if (frame.stars >= plentyOfStars)
+    if (frame.stars >= (frame.hadSky ? plentyAfterTheSky : plentyOfStars))
         return {AdviceCode::NotThePole, double(frame.stars), 0.0, {}};
     if (frame.hadSky)
         return {AdviceCode::Clouds, double(frame.stars), 0.0, {}};
@@ -39,12 +39,13 @@ Advice adviceOf(const LostSky &frame)
         return {AdviceCode::NoSky, 0.0, 0.0, {}};
     case ExtractionStatus::OutOfFocus:
         return {AdviceCode::Focus, frame.fwhm, 0.0, {}};
-    case ExtractionStatus::Trailed:
-        return {AdviceCode::HoldStill, 0.0, 0.0, {}};
+    case ExtractionStatus::Trailed: // with few stars, what is drawn out is noise
     case ExtractionStatus::Ok:
     case ExtractionStatus::TooFewStars:
         break;
     }
+    if (frame.status == ExtractionStatus::Trailed && frame.stars >= recognition::leastStars)
+        return {AdviceCode::HoldStill, 0.0, 0.0, {}};
     if (!frame.hadSky && (frame.isFirst || frame.searching))
         return {AdviceCode::Searching, double(frame.stars), 0.0, {}};
     return ofStars(frame);

@@ -11,6 +11,8 @@ namespace assistant
 {
 /// So many stars without the pole's among them are another part of the sky, not too few.
 inline constexpr std::size_t plentyOfStars = 12;
+/// The same where the pole's stars were seen before: fewer are what a cloud and noise leave.
+inline constexpr std::size_t plentyAfterTheSky = 30;
 
 /// A frame that was not recognised.
 struct LostSky {

@@ -17,14 +17,17 @@ using recognition::ExtractionStatus;
 using recognition::Recognition;
 using recognition::RecognitionStatus;
 
-constexpr int framesOfTheSky = 3;        // recognised in a row end the first stage
-constexpr std::uint64_t firstFrames = 2; // that may still be exposed as before the connection
-constexpr double eventSeconds = 20.0;    // for which a bump or slip is reported
-constexpr double enoughSeconds = 4.0;    // for which the end of the turning is reported
-constexpr double clockSeconds = 60.0;    // for which a step of the clock is reported
-constexpr double longClockStep = 2.0 * 86400.0; // seconds: the stars' places changed visibly
-constexpr double longTrail = 1.5;               // length over width: the axis turned meanwhile
-constexpr double wideStars = 7.0;               // pixels: recognised, but worth focusing
+constexpr int framesOfTheSky = 3;         // recognised in a row end the first stage
+constexpr std::uint64_t firstFrames = 2;  // that may still be exposed as before the connection
+constexpr double eventSeconds = 20.0;     // for which a bump or slip is reported
+constexpr double searchInterval = 2.0;    // seconds between searches for more stars
+constexpr double enoughSeconds = 4.0;     // for which the end of the turning is reported
+constexpr double clockSeconds = 60.0;     // for which a step of the clock is reported
+constexpr double longClockStep = 20.0;    // seconds: refraction would put the stars elsewhere
+constexpr double longTrail = 1.5;         // length over width: the axis turned meanwhile
+constexpr std::size_t trustedStars = 8;   // of those followed
+constexpr double trustedResiduals = 0.35; // pixels
+constexpr double wideStars = 7.0;         // pixels: recognised, but worth focusing
 
 recognition::FollowerOptions followerOptions(std::optional<recognition::Observer> observer)
 {
@@ -113,8 +116,9 @@ void Guide::silence(const Observation &observation, Status &status)
         {AdviceCode::CameraLost, std::max(observation.steadySeconds - *lastFrame, 0.0), 0.0, {}});
 }
 
-/// What was measured before the clock was set is as good as before, once its times are those of the
-/// new clock; only over days would the stars' places change.
+/// After a small step what was measured is as good as before, once its times are those of the new
+/// clock. After a large one, frames from before and after it do not fit together; an axis that is
+/// known stays where it is in the picture, since its frames were all of one clock.
 void Guide::noteClock(const Observation &observation)
 {
     const double step = clock.step(observation.utcSeconds, observation.steadySeconds);
@@ -130,8 +134,17 @@ void Guide::noteClock(const Observation &observation)
     }
     follower.reset();
     slips.reset();
+    boltsMoved = true;
     if (stage == Stage::Axis)
         tracker.reset();
+}
+
+/// Windows about the expected stars catch some noise where there are no stars: a cloud is not to
+/// pass for the sky.
+bool Guide::isTrusted(const Recognition &found) const
+{
+    return !follower.followed() ||
+           (found.matched.size() >= trustedStars && found.rms <= trustedResiduals * found.scale);
 }
 
 void Guide::useObserver(recognition::Hemisphere hemisphere)
@@ -143,10 +156,24 @@ void Guide::useObserver(recognition::Hemisphere hemisphere)
     observing = observer.has_value();
 }
 
+/// The follower keeps to the stars that it found at first. After a longer exposure, or where the
+/// bolts moved the field, there are others.
+void Guide::searchForMore(const Observation &observation)
+{
+    const double now = observation.steadySeconds;
+    const bool exposedOtherwise = observation.exposureMicroseconds != searchedExposure;
+    if (!exposedOtherwise && (matchedLast >= enoughStars || now - searchedAt < searchInterval))
+        return;
+    follower.reset();
+    searchedExposure = observation.exposureMicroseconds;
+    searchedAt = now;
+}
+
 /// The sky is found without refraction first: only then is it known whether the site is on this
 /// hemisphere.
 void Guide::recognise(const Observation &observation, Status &status)
 {
+    searchForMore(observation);
     Recognition found = follower.follow(observation.frame, observation.utcSeconds);
     if (found.status == RecognitionStatus::Recognised) {
         const bool before = observing;
@@ -154,13 +181,18 @@ void Guide::recognise(const Observation &observation, Status &status)
         if (observing != before)
             found = follower.follow(observation.frame, observation.utcSeconds);
     }
+    lost = !follower.followed() ? follower.searched().status : ExtractionStatus::Ok;
+    if (found.status == RecognitionStatus::Recognised && !isTrusted(found)) {
+        found = Recognition();
+        found.extracted = follower.stars().size();
+        lost = ExtractionStatus::TooFewStars;
+    }
     status.stars = follower.stars();
     status.fwhm = medianWidth(status.stars);
     const bool recognised = found.status == RecognitionStatus::Recognised;
-    const ExtractionStatus searched =
-        follower.followed() ? ExtractionStatus::Ok : follower.searched().status;
     exposure.consider({observation.exposureMicroseconds, recognised,
-                       recognised ? found.matched.size() : status.stars.size(), searched});
+                       recognised ? found.matched.size() : status.stars.size(), lost});
+    matchedLast = found.matched.size();
     status.sky = std::make_shared<const Recognition>(std::move(found));
     if (const auto pole = poleOf(*status.sky, settings)) {
         status.pole = pole->place;
@@ -314,9 +346,8 @@ void Guide::advise(const Observation &observation, Status &status) const
 {
     if (status.sky->status != RecognitionStatus::Recognised) {
         const recognition::Extraction &searched = follower.searched();
-        status.advice.push_back(
-            adviceOf({searched.status, status.stars.size(), searched.fwhm, hadSky,
-                      frames <= firstFrames, exposure.wanted().has_value()}));
+        status.advice.push_back(adviceOf({lost, status.stars.size(), searched.fwhm, hadSky,
+                                          frames <= firstFrames, exposure.wanted().has_value()}));
         adviseEvents(observation.steadySeconds, status);
         adviseHints(observation, status);
         return;

@@ -47,6 +47,8 @@ private:
     void silence(const Observation &observation, Status &status);
     void noteClock(const Observation &observation);
     void recognise(const Observation &observation, Status &status);
+    void searchForMore(const Observation &observation);
+    bool isTrusted(const recognition::Recognition &found) const;
     void useObserver(recognition::Hemisphere hemisphere);
     void advance(const Observation &observation, Status &status);
     void searchSky(Status &status);
@@ -78,6 +80,10 @@ private:
     std::optional<Event> clockStep; ///< of the clock
     std::optional<ErrorFigures> firstError;
     std::uint64_t frames = 0;
+    recognition::ExtractionStatus lost = recognition::ExtractionStatus::Ok; ///< of the last frame
+    double searchedExposure = 0.0; ///< microseconds, of the last search of a whole frame
+    double searchedAt = 0.0;       ///< steady seconds
+    std::size_t matchedLast = 0;   ///< stars of the last frame
     int recognisedInARow = 0;
     bool hadSky = false;
     bool boltsMoved = false;         ///< since the axis was known
