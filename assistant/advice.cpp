@@ -18,13 +18,22 @@ constexpr double nearlyThere = 60.0; // arcseconds
 
 Advice ofStars(const LostSky &frame)
 {
-    if (frame.stars >= (frame.hadSky ? plentyAfterTheSky : plentyOfStars))
+    if (frame.stars >= plentyOfStars)
         return {AdviceCode::NotThePole, double(frame.stars), 0.0, {}};
     if (frame.hadSky)
         return {AdviceCode::Clouds, double(frame.stars), 0.0, {}};
     return {AdviceCode::ExposeLonger, double(frame.stars), 0.0, {}};
 }
 } // namespace
+
+std::size_t solidStars(const std::vector<recognition::DetectedStar> &stars)
+{
+    constexpr double leastRatio = 6.0;
+    return std::size_t(
+        std::count_if(stars.begin(), stars.end(), [](const recognition::DetectedStar &star) {
+            return star.snr >= leastRatio;
+        }));
+}
 
 Advice adviceOf(const LostSky &frame)
 {

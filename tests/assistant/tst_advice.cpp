@@ -39,8 +39,8 @@ void AdviceTest::lostSky_data()
     row("no sky", {ExtractionStatus::NoSky}, AdviceCode::NoSky);
     row("bad frame", {ExtractionStatus::BadFrame}, AdviceCode::NoSky);
     row("out of focus", {ExtractionStatus::OutOfFocus, 9, 12.5}, AdviceCode::Focus, 12.5);
-    row("trailed", {ExtractionStatus::Trailed, 9}, AdviceCode::HoldStill);
-    row("noise drawn out", {ExtractionStatus::Trailed, 4}, AdviceCode::ExposeLonger, 4.0);
+    row("trailed", {ExtractionStatus::Trailed, 6}, AdviceCode::HoldStill);
+    row("noise drawn out", {ExtractionStatus::Trailed, 5}, AdviceCode::ExposeLonger, 5.0);
     row("first frame", {ExtractionStatus::TooFewStars, 2, 0.0, false, true}, AdviceCode::Searching,
         2.0);
     row("exposure still changes", {ExtractionStatus::TooFewStars, 2, 0.0, false, false, true},
@@ -50,8 +50,8 @@ void AdviceTest::lostSky_data()
         4.0);
     row("unlike the pole's", {ExtractionStatus::Ok, 12}, AdviceCode::NotThePole, 12.0);
     row("hardly enough", {ExtractionStatus::Ok, 11}, AdviceCode::ExposeLonger, 11.0);
-    row("noise in a cloud", {ExtractionStatus::Ok, 29, 0.0, true}, AdviceCode::Clouds, 29.0);
-    row("moved away", {ExtractionStatus::Ok, 30, 0.0, true}, AdviceCode::NotThePole, 30.0);
+    row("left by a cloud", {ExtractionStatus::Ok, 11, 0.0, true}, AdviceCode::Clouds, 11.0);
+    row("moved away", {ExtractionStatus::Ok, 12, 0.0, true}, AdviceCode::NotThePole, 12.0);
 }
 
 void AdviceTest::lostSky()

@@ -19,6 +19,8 @@ private slots:
     void refractedPoleIsAnother();
     void withoutSiteOnlyTheTotal();
     void settingsMayChange();
+    void siteMayComeWhileTheAxisTurns();
+    void thinCloudLeavesFigures();
     void startAgainForgetsAll();
     void exposureAdjustsItself();
 };
@@ -181,6 +183,58 @@ void GuideTest::settingsMayChange()
     const auto status = nextFigure(mount);
     QVERIFY(status && status->stage == Stage::Bolts);
     QVERIFY(isTrue(*status, mount));
+}
+
+void GuideTest::siteMayComeWhileTheAxisTurns()
+{
+    const virtualsky::SkyState sky = plainNight();
+    Settings settings = settingsFor(sky);
+    const auto site = settings.site;
+    settings.site.reset();
+    PaintedMount mount(sky, settings);
+    nextThatSays(mount, AdviceCode::TurnAxis);
+    for (int i = 0; i < 12; ++i) {
+        virtualsky::SkyState turned = mount.sky();
+        turned.raAngle += 0.6;
+        mount.setSky(turned);
+        mount.next();
+    }
+    settings.site = site;
+    mount.guide().setSettings(settings);
+    QVERIFY(!says(mount.next(), AdviceCode::Bumped));
+    QVERIFY(turnAxisAsTold(mount));
+    const auto status = nextFigure(mount);
+    QVERIFY(status && isTrue(*status, mount));
+    const double first = status->firstError->total.arcseconds;
+    settings.language = QStringLiteral("DE"); // nothing that the sky depends on
+    mount.guide().setSettings(settings);
+    const Status after = mount.next();
+    QVERIFY(after.error.has_value());
+    QCOMPARE(after.firstError->total.arcseconds, first);
+}
+
+/// Eight to fourteen stars, that the whole frame's search may or may not recognise.
+void GuideTest::thinCloudLeavesFigures()
+{
+    const virtualsky::SkyState sky = plainNight();
+    PaintedMount mount(sky, settingsFor(sky));
+    QVERIFY(turnAxisAsTold(mount));
+    virtualsky::SkyState cloudy = mount.sky();
+    cloudy.clouds = 0.95;
+    mount.setSky(cloudy);
+    int figures = 0;
+    std::size_t most = 0;
+    constexpr int frames = 40;
+    for (int i = 0; i < frames; ++i) {
+        const Status status = mount.next();
+        if (!status.error)
+            continue;
+        ++figures;
+        most = std::max(most, status.sky->matched.size());
+        QVERIFY2(isTrue(status, mount), qPrintable(QString::number(i)));
+    }
+    QVERIFY2(figures > frames * 3 / 4, qPrintable(QString::number(figures)));
+    qInfo("at most %zu stars, %d figures of %d", most, figures, frames);
 }
 
 void GuideTest::startAgainForgetsAll()
