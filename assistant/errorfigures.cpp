@@ -87,6 +87,15 @@ std::optional<recognition::Observer> observerOf(const Settings &settings,
     return recognition::Observer{*settings.site, airOf(settings)};
 }
 
+bool isTrustworthy(const Recognition &followed)
+{
+    constexpr std::size_t leastMatched = 8;
+    constexpr double greatestResiduals = 0.35; // pixels
+    return followed.status == recognition::RecognitionStatus::Recognised &&
+           followed.matched.size() >= leastMatched &&
+           followed.rms <= greatestResiduals * followed.scale;
+}
+
 std::optional<PolePlace> poleOf(const Recognition &frame, const Settings &settings)
 {
     if (frame.status != recognition::RecognitionStatus::Recognised)

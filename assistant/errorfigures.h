@@ -20,6 +20,10 @@ astrometry::RefractionConstants airOf(const Settings &settings);
 std::optional<recognition::Observer> observerOf(const Settings &settings,
                                                 recognition::Hemisphere hemisphere);
 
+/// Whether a frame that was recognised by windows about the expected stars shows the sky: such
+/// windows catch some noise where there are no stars, and a cloud is not to pass for the sky.
+bool isTrustworthy(const recognition::Recognition &followed);
+
 /// The pole that is aligned on. Without an observer it is the one that the stars turn about.
 struct PolePlace {
     recognition::PixelPlace place;

@@ -21,14 +21,12 @@ constexpr int framesOfTheSky = 3;        // recognised in a row end the first st
 constexpr std::uint64_t firstFrames = 2; // that may still be exposed as before the connection
 constexpr double eventSeconds = 20.0;    // for which a bump or slip is reported
 const std::size_t mostFollowed = recognition::FollowerOptions().mostStars;
-constexpr double searchInterval = 2.0;    // seconds between searches for more stars
-constexpr double enoughSeconds = 4.0;     // for which the end of the turning is reported
-constexpr double clockSeconds = 60.0;     // for which a step of the clock is reported
-constexpr double longClockStep = 20.0;    // seconds: refraction would put the stars elsewhere
-constexpr double longTrail = 1.5;         // length over width: the axis turned meanwhile
-constexpr std::size_t trustedStars = 8;   // of those followed
-constexpr double trustedResiduals = 0.35; // pixels
-constexpr double wideStars = 7.0;         // pixels: recognised, but worth focusing
+constexpr double searchInterval = 2.0; // seconds between searches for more stars
+constexpr double enoughSeconds = 4.0;  // for which the end of the turning is reported
+constexpr double clockSeconds = 60.0;  // for which a step of the clock is reported
+constexpr double longClockStep = 20.0; // seconds: refraction would put the stars elsewhere
+constexpr double longTrail = 1.5;      // length over width: the axis turned meanwhile
+constexpr double wideStars = 7.0;      // pixels: recognised, but worth focusing
 
 recognition::FollowerOptions followerOptions(std::optional<recognition::Observer> observer)
 {
@@ -162,14 +160,6 @@ void Guide::forgetDirections()
         tracker.reset();
 }
 
-/// Windows about the expected stars catch some noise where there are no stars: a cloud is not to
-/// pass for the sky.
-bool Guide::isTrusted(const Recognition &found) const
-{
-    return !follower.followed() ||
-           (found.matched.size() >= trustedStars && found.rms <= trustedResiduals * found.scale);
-}
-
 void Guide::useObserver(recognition::Hemisphere hemisphere)
 {
     const auto observer = observerOf(settings, hemisphere);
@@ -214,7 +204,8 @@ void Guide::recognise(const Observation &observation, Status &status)
     }
     searchForMore(observation, found);
     lost = !follower.followed() ? follower.searched().status : ExtractionStatus::Ok;
-    if (found.status == RecognitionStatus::Recognised && !isTrusted(found)) {
+    if (found.status == RecognitionStatus::Recognised && follower.followed() &&
+        !isTrustworthy(found)) {
         found = Recognition();
         found.extracted = follower.stars().size();
         lost = ExtractionStatus::TooFewStars;

@@ -50,7 +50,6 @@ private:
     void noteClock(const Observation &observation);
     void recognise(const Observation &observation, Status &status);
     void searchForMore(const Observation &observation, recognition::Recognition &found);
-    bool isTrusted(const recognition::Recognition &found) const;
     void useObserver(recognition::Hemisphere hemisphere);
     void advance(const Observation &observation, Status &status);
     void searchSky(Status &status);

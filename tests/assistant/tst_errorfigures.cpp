@@ -20,6 +20,8 @@ private slots:
     void withoutSite();
     void claimNearThePole();
     void observerNeedsItsHemisphere();
+    void cloudsAreNotTrusted_data();
+    void cloudsAreNotTrusted();
     void steadyAtRest();
     void movementBeginsAgain();
     void historyIsBounded();
@@ -101,6 +103,32 @@ void ErrorFiguresTest::observerNeedsItsHemisphere()
     QVERIFY(observerOf(settings, recognition::Hemisphere::South).has_value());
     settings.pressure = 0.0;
     QCOMPARE(airOf(settings).a, 0.0);
+}
+
+void ErrorFiguresTest::cloudsAreNotTrusted_data()
+{
+    QTest::addColumn<int>("matched");
+    QTest::addColumn<double>("rms"); // arcseconds, at 30 a pixel
+    QTest::addColumn<bool>("trusted");
+    QTest::newRow("clear") << 30 << 2.5 << true;
+    QTest::newRow("few, sharp") << 8 << 10.4 << true;
+    QTest::newRow("too few") << 7 << 2.5 << false;
+    QTest::newRow("noise among them") << 12 << 10.6 << false;
+}
+
+void ErrorFiguresTest::cloudsAreNotTrusted()
+{
+    QFETCH(int, matched);
+    QFETCH(double, rms);
+    QFETCH(bool, trusted);
+    recognition::Recognition followed;
+    followed.status = recognition::RecognitionStatus::Recognised;
+    followed.scale = 30.0;
+    followed.rms = rms;
+    followed.matched.resize(std::size_t(matched));
+    QCOMPARE(isTrustworthy(followed), trusted);
+    followed.status = recognition::RecognitionStatus::NoMatch;
+    QVERIFY(!isTrustworthy(followed));
 }
 
 void ErrorFiguresTest::steadyAtRest()
