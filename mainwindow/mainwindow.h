@@ -5,6 +5,7 @@
 #include "camera/cameraclosing.h"
 #include "camera/camerahandle.h"
 #include "camera/capturethread.h"
+#include "camera/picturemaker.h"
 #include "geometry/templaterings.h"
 #include "mainwindow/alignmentprogress.h"
 #include "mainwindow/pagebutton.h"
@@ -32,7 +33,6 @@ class QTabWidget;
 class QTimer;
 enum class Section;
 struct NoticeFacts;
-struct Session;
 struct Settings;
 struct StarCatalogue;
 struct Style;
@@ -226,7 +226,7 @@ private:
     bool chooseCamera();
     bool openCamera();
     void configureCamera();
-    void readCameraParameters();
+    void showCameraParameters();
     void showConnected(bool connected);
     void showNotFound();
     int sdkCallTimeout() const;
@@ -331,5 +331,6 @@ private:
     QMediaPlayer *player = nullptr;
     CameraClosing cameraClosing{session};
     /// Declared last, so that it is stopped before any other member is destroyed.
+    std::unique_ptr<PictureMaker> pictureMaker; // outlives the thread
     std::unique_ptr<CaptureThread> captureThread;
 };
