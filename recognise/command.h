@@ -3,7 +3,7 @@
 #pragma once
 
 #include "recognise/commandline.h"
-#include "recognise/picturefile.h"
+#include "pictures/picturefile.h"
 #include "recognise/report.h"
 
 /// @param now UTC seconds since 1970, for pictures without a date of their own
