@@ -53,6 +53,8 @@ std::optional<SourceSettings> ChosenSource::chosen(const virtualsky::SkyState &s
 {
     SourceSettings settings;
     settings.pace = state.pace;
+    settings.stream = state.stream;
+    settings.soften = state.soften;
     settings.scale = state.scale;
     settings.mirrored = state.mirrored;
     if (wished) {
@@ -117,6 +119,11 @@ Behaviour ChosenSource::behaviour()
 std::string ChosenSource::serialNumber(unsigned camera)
 {
     return current()->serialNumber(camera);
+}
+
+void ChosenSource::pause()
+{
+    current()->pause();
 }
 
 unsigned ChosenSource::frame(const virtualsky::FrameRequest &request, std::uint8_t *out)

@@ -23,6 +23,7 @@ public:
 
     virtualsky::Behaviour behaviour() override;
     std::string serialNumber(unsigned camera) override;
+    void pause() override;
     unsigned frame(const virtualsky::FrameRequest &request, std::uint8_t *out) override;
 
 private:

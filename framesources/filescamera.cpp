@@ -16,7 +16,8 @@ constexpr auto scanPause = 1s; // between two looks for newer files
 
 NativeFrame frameOf(PictureFile &&file)
 {
-    return {std::move(file.pixels), file.mosaic, file.date};
+    const cv::Size size = file.pixels.size();
+    return {std::move(file.pixels), file.mosaic, 1, size, file.date};
 }
 } // namespace
 

@@ -25,8 +25,11 @@ double secondsNow()
 }
 } // namespace
 
-LensFinder::LensFinder(LensScale lensScale, Mirrored lensMirrored, Report reportLens)
-    : scale(lensScale), mirrored(lensMirrored), report(std::move(reportLens))
+LensFinder::LensFinder(const SourceSettings &settings, Report reportLens)
+    : scale(settings.scale),
+      mirrored(settings.mirrored),
+      soften(settings.soften),
+      report(std::move(reportLens))
 {
 }
 
@@ -37,7 +40,8 @@ bool LensFinder::isOpen() const
 
 void LensFinder::recognise(const NativeFrame &frame)
 {
-    const cv::Mat grey = pictures::greyOf(frame.pixels, frame.mosaic);
+    const cv::Mat plain = pictures::greyOf(frame.pixels, frame.mosaic);
+    const cv::Mat grey = soften ? softened(plain) : plain;
     recognition::RecognitionOptions options;
     options.utcSeconds = frame.date.value_or(secondsNow());
     options.leastScale = finestScale;
@@ -46,28 +50,33 @@ void LensFinder::recognise(const NativeFrame &frame)
         recognition::extractStars(grey).stars, grey.cols, grey.rows, options);
     if (sky.status != recognition::RecognitionStatus::Recognised)
         return;
-    found = Lens{sky.scale, sky.mirrored};
+    found = Lens{sky.scale / frame.binning, sky.mirrored};
     char text[100];
-    std::snprintf(text, sizeof text, "the stars show %.2f arcseconds a pixel, %s", sky.scale,
+    std::snprintf(text, sizeof text, "the stars show %.2f arcseconds a pixel, %s", found->scale,
                   sky.mirrored ? "mirrored" : "not mirrored");
     report(text);
 }
 
+double LensFinder::sensorScale() const
+{
+    if (scale.kind == LensScale::Kind::Given)
+        return scale.arcseconds;
+    return scale.kind == LensScale::Kind::Auto && found ? found->scale : 0.0;
+}
+
 Lens LensFinder::lensFor(const NativeFrame &frame)
 {
-    if (frame.pixels.size() != size)
+    const bool other = frame.sensor != sensor;
+    sensor = frame.sensor;
+    if (other)
         found.reset();
-    const bool first = frame.pixels.size() != size;
-    size = frame.pixels.size();
-    if (isOpen() && !found && (first || Clock::now() - tried > pause)) {
+    if (isSearching() && (other || Clock::now() - tried > pause)) {
         recognise(frame);
         tried = Clock::now();
     }
     Lens lens;
-    if (scale.kind == LensScale::Kind::Given)
-        lens.scale = scale.arcseconds;
-    else if (scale.kind == LensScale::Kind::Auto && found)
-        lens.scale = found->scale;
+    lens.soften = soften;
+    lens.scale = sensorScale() * frame.binning;
     lens.mirrored =
         mirrored == Mirrored::Auto ? found && found->mirrored : mirrored == Mirrored::True;
     return lens;

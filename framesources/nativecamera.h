@@ -13,8 +13,10 @@ namespace framesources
 using Report = std::function<void(const std::string &)>;
 
 struct NativeFrame {
-    cv::Mat pixels;             ///< 8 or 16 bit, one channel or three (blue green red)
-    bool mosaic = false;        ///< one channel of a Bayer sensor
+    cv::Mat pixels;      ///< 8 or 16 bit, one channel or three (blue green red)
+    bool mosaic = false; ///< one channel of a Bayer sensor
+    int binning = 1;     ///< sensor pixels that make one, each way
+    cv::Size sensor;     ///< all its pixels, of which these may be a part; other lenses differ
     std::optional<double> date; ///< middle of the exposure, UTC seconds since 1970
 };
 
@@ -22,6 +24,8 @@ struct NativeFrame {
 struct Wish {
     double exposureSeconds = 0.2;
     double gain = 50.0;  ///< 0 to 200
+    double scale = 0.0;  ///< arcseconds a pixel of the sensor; 0 = unknown
+    bool whole = false;  ///< the lens is still unknown: as much of the sky as there is
     bool wanted = false; ///< somebody fetches frames
 };
 

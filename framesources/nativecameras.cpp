@@ -22,7 +22,7 @@ std::unique_ptr<NativeCamera> makeNativeCamera(const SourceSettings &settings, c
     if (settings.address.source == Source::Sky)
         return nullptr;
 #if QUORVANDEL_INDI
-    return std::make_unique<IndiCamera>(settings.address, report);
+    return std::make_unique<IndiCamera>(settings.address, settings.stream, report);
 #else
     report("this program was built without INDI: install libindi-dev and build it again");
     return nullptr;

@@ -11,13 +11,16 @@ namespace framesources
 struct SourceSettings {
     virtualsky::CameraAddress address;
     virtualsky::Pace pace = virtualsky::Pace::Exposure;
+    bool stream = true;
+    bool soften = false;
     virtualsky::LensScale scale;
     virtualsky::Mirrored mirrored = virtualsky::Mirrored::False;
 
     bool operator==(const SourceSettings &o) const
     {
-        return address == o.address && pace == o.pace && scale.kind == o.scale.kind &&
-               scale.arcseconds == o.scale.arcseconds && mirrored == o.mirrored;
+        return address == o.address && pace == o.pace && stream == o.stream && soften == o.soften &&
+               scale.kind == o.scale.kind && scale.arcseconds == o.scale.arcseconds &&
+               mirrored == o.mirrored;
     }
     bool operator!=(const SourceSettings &o) const { return !(*this == o); }
 };

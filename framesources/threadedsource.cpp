@@ -53,10 +53,13 @@ struct ThreadedSource::Shared {
     void run(const SourceSettings &settings, const MakeCamera &makeCamera, const Report &report)
     {
         const std::unique_ptr<NativeCamera> camera = makeCamera();
-        LensFinder finder(settings.scale, settings.mirrored, report);
+        LensFinder finder(settings, report);
         while (!stop) {
             try {
-                const std::optional<NativeFrame> frame = camera->next(currentWish());
+                Wish now = currentWish();
+                now.scale = finder.sensorScale();
+                now.whole = finder.isSearching();
+                const std::optional<NativeFrame> frame = camera->next(now);
                 present.store(camera->isPresent(), std::memory_order_relaxed);
                 if (frame && !frame->pixels.empty())
                     deliver(prepared(*frame, finder.lensFor(*frame)));
@@ -113,6 +116,13 @@ virtualsky::Behaviour ThreadedSource::behaviour()
 std::string ThreadedSource::serialNumber(unsigned)
 {
     return serial;
+}
+
+void ThreadedSource::pause()
+{
+    const std::lock_guard<std::mutex> lock(shared->mutex);
+    shared->asked = Clock::now() - 2 * patience;
+    shared->latest.release();
 }
 
 unsigned ThreadedSource::frame(const virtualsky::FrameRequest &request, std::uint8_t *out)

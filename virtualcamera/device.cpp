@@ -126,6 +126,7 @@ bool Device::stopLive()
 {
     const std::lock_guard<std::mutex> lock(mutex);
     live = false;
+    source.pause();
     return true;
 }
 

@@ -39,6 +39,9 @@ public:
         return "V000" + std::to_string(camera + 1);
     }
 
+    /// No more frames are fetched for now.
+    virtual void pause() {}
+
     /// Fills `out` with 8-bit samples, rows without padding.
     /// @param out at least area.width * area.height * 3 bytes
     /// @return channels of the frame, 1 or 3; 0 = there is no new frame yet

@@ -234,6 +234,8 @@ const std::vector<SkyKey> &skyKeys()
         {"camera", "indi", TextMember{&S::indi, addressFault}},
         {"camera", "files", TextMember{&S::files, noFault}},
         {"camera", "pace", &S::pace},
+        {"camera", "stream", &S::stream},
+        {"camera", "soften", &S::soften},
         {"camera", "scale", &S::scale},
         {"camera", "mirrored", &S::mirrored},
         {"sensor", "seed", &S::seed, 0.0, 4294967295.0},

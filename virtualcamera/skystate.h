@@ -48,7 +48,9 @@ struct SkyState {
     std::string indi;  ///< HOST[:PORT]/DEVICE
     std::string files; ///< a file, a folder or a pattern
     Pace pace = Pace::Exposure;
-    LensScale scale; ///< of other sources than the sky
+    bool stream = true;  ///< INDI: the device's video, where it has one
+    bool soften = false; ///< spreads stars that are a single pixel
+    LensScale scale;     ///< of other sources than the sky
     Mirrored mirrored = Mirrored::False;
 
     std::uint32_t seed = 1;
