@@ -68,6 +68,19 @@ struct Shape {
     cv::Size size;
 };
 
+// Whether the unit's data are there in full: CFITSIO reads what is cut off as zeros.
+bool isComplete(OpenFits &fits, const Shape &shape, std::size_t bytes)
+{
+    LONGLONG begin = 0, end = 0;
+    fits_get_hduaddrll(fits.file, nullptr, &begin, &end, &fits.status);
+    int stored = 0, ignored = 0;
+    if (fits_is_compressed_image(fits.file, &ignored) == 0) { // the last block may be unfilled
+        fits_get_img_type(fits.file, &stored, &fits.status);
+        end = begin + LONGLONG(std::abs(stored) / 8) * shape.planes * shape.size.area();
+    }
+    return fits.status == 0 && end <= LONGLONG(bytes);
+}
+
 // Moves to the first picture; no planes = there is none.
 Shape findPicture(OpenFits &fits)
 {
@@ -184,6 +197,8 @@ PictureFile decodeFits(std::string &bytes)
         const Shape shape = fits.status == 0 ? findPicture(fits) : Shape();
         if (fits.status == 0 && shape.planes == 0)
             out.complaint = "It is a FITS file without a picture that can be used.";
+        else if (fits.status == 0 && !isComplete(fits, shape, bytes.size()))
+            fits.status = END_OF_FILE;
         else if (fits.status == 0)
             out.pixels = readPixels(fits, shape);
         if (fits.status != 0)

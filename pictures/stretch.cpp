@@ -12,6 +12,7 @@ namespace pictures
 namespace
 {
 constexpr double fullScale = 255.0;
+constexpr double leastSigma = 0.3; // of whole values without noise
 
 template <typename Value> std::vector<std::uint32_t> counts(const cv::Mat &grey)
 {
@@ -57,8 +58,7 @@ double softening(double top, double range, double slope)
 struct Curve {
     explicit Curve(const Levels &levels) : sky(levels.sky), top(levels.most - levels.sky)
     {
-        // Without noise, a thousandth of the range counts as sigma.
-        const double sigma = std::max({levels.sigma, top * 1e-3, 1e-3});
+        const double sigma = std::max(levels.sigma, leastSigma);
         slope = sigmaLevels / sigma;
         if (slope * top > fullScale - skyLevel)
             soft = softening(top, fullScale - skyLevel, slope);
