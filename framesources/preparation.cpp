@@ -29,9 +29,10 @@ cv::Mat prepared(const NativeFrame &frame, const Lens &lens)
         out = softened(out);
     if (out.depth() == CV_16U)
         out = pictures::stretched(out);
-    cv::Mat upright = out;
-    if (lens.mirrored)
-        cv::flip(out, upright, 1);
+    if (!lens.mirrored)
+        return pictures::centred(out, size);
+    cv::Mat upright; // `out` may be the camera's own frame
+    cv::flip(out, upright, 1);
     return pictures::centred(upright, size);
 }
 } // namespace framesources
