@@ -24,7 +24,7 @@ find_package_handle_standard_args(INDIClient
   VERSION_VAR INDIClient_VERSION)
 if(INDIClient_FOUND AND NOT TARGET INDI::client)
   find_package(Threads REQUIRED)
-  add_library(INDI::client INTERFACE IMPORTED)
+  add_library(INDI::client INTERFACE IMPORTED GLOBAL)
   target_include_directories(INDI::client SYSTEM INTERFACE
     ${INDIClient_INCLUDE_DIR} ${INDIClient_INCLUDE_DIR}/libindi)
   target_link_libraries(INDI::client INTERFACE ${INDIClient_LIBRARY} Threads::Threads)

@@ -268,7 +268,7 @@ std::optional<NativeFrame> IndiCamera::takeFrame(const Wish &wish)
         say(fault);
         return frame;
     }
-    frame->binning = readout.binning;
+    frame->binning = binningOf(readout, frame->pixels.size());
     frame->sensor = sensor.area() > 0 ? sensor : frame->pixels.size();
     return frame;
 }

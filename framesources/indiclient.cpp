@@ -46,7 +46,11 @@ class IndiClient::Listener : public INDI::BaseClient
 {
 public:
     explicit Listener(std::string deviceName) : device(std::move(deviceName)) {}
-    ~Listener() override { disconnectServer(); }
+    ~Listener() override
+    {
+        if (isServerConnected())
+            disconnectServer();
+    }
 
     void newProperty(INDI::Property property) override
     {

@@ -51,6 +51,18 @@ Readout planReadout(cv::Size sensor, int mostBinning, double scale, bool whole)
     return readout;
 }
 
+int binningOf(const Readout &readout, cv::Size frame)
+{
+    const auto fits = [](int sensor, int pixels, int binning) {
+        return std::abs(sensor / binning - pixels) <= 1;
+    };
+    for (const int binning : {readout.binning, 1, 2, 3, 4})
+        if (fits(readout.region.width, frame.width, binning) &&
+            fits(readout.region.height, frame.height, binning))
+            return binning;
+    return 1;
+}
+
 double deviceGain(double programGain, double least, double most)
 {
     return least + (most - least) * std::clamp(programGain / fullGain, 0.0, 1.0);

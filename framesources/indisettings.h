@@ -22,6 +22,9 @@ struct Readout {
 /// @param whole the whole sensor is wanted, so that its stars can be recognised
 Readout planReadout(cv::Size sensor, int mostBinning, double scale, bool whole);
 
+/// How often a frame that came is binned: drivers may refuse what they were asked for.
+int binningOf(const Readout &readout, cv::Size frame);
+
 /// A device's gain for the program's: 0 to 100 is its whole range, and more is as 100.
 double deviceGain(double programGain, double least, double most);
 
