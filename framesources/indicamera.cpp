@@ -14,6 +14,9 @@ constexpr auto slice = 50ms;
 constexpr double firstPause = 0.25, longestPause = 1.5; // seconds between two tries
 constexpr double appearPatience = 3.0;                  // seconds for the device's properties
 constexpr double connectPatience = 15.0;                // for the device to find its camera
+constexpr double definePatience = 2.0;                  // for what not every device has
+constexpr double readoutPatience = 1.5;                 // for a device to take region and binning
+constexpr int readoutTries = 3;                         // some refuse while they expose
 constexpr double silencePatience = 6.0;                 // beyond the exposure
 constexpr double longestStreamed = 2.0;                 // seconds of an exposure
 
@@ -99,7 +102,9 @@ void IndiCamera::awaitConnection()
 {
     client->waitForNews(slice);
     const bool on = client->isOn("CONNECTION", "CONNECT").value_or(false);
-    if (on && client->has("CCD1") &&
+    const bool complete =
+        client->has("CCD_INFO") && client->has("CCD_FRAME") && client->has("CCD_BINNING");
+    if (on && client->has("CCD1") && (complete || sinceStage() > definePatience) &&
         (client->has("CCD_EXPOSURE") || client->has("CCD_VIDEO_STREAM")))
         return setUp();
     const bool refused = !on && client->state("CONNECTION") == IndiState::Alert;
@@ -127,6 +132,7 @@ void IndiCamera::setUp()
     stageBegan = lastFrame = Clock::now();
     gain = -1.0;
     readout = {};
+    readoutsSent = 0;
     exposure = 0.0;
     present = true;
     say("connected");
@@ -161,10 +167,15 @@ void IndiCamera::applyReadout(const Wish &wish)
     sensor = cv::Size(int(width->value), int(height->value));
     const int most = binning ? int(std::clamp(binning->most, 1.0, 16.0)) : 1;
     const Readout wanted = planReadout(sensor, most, wish.scale, wish.whole);
-    if (wanted == readout)
+    if (wanted != readout)
+        readoutsSent = 0;
+    else if (!binning || int(binning->value) == wanted.binning || readoutsSent >= readoutTries ||
+             seconds(Clock::now() - readoutSent) < readoutPatience)
         return;
     stopFrames();
     readout = wanted;
+    readoutSent = Clock::now();
+    ++readoutsSent;
     if (binning)
         client->sendNumbers("CCD_BINNING", {{"HOR_BIN", double(readout.binning)},
                                             {"VER_BIN", double(readout.binning)}});

@@ -61,6 +61,8 @@ private:
     double gain = -1.0; // sent to the device, in the program's units
     cv::Size sensor;    // as the device says
     Readout readout;
+    Clock::time_point readoutSent;
+    int readoutsSent = 0;
     bool streaming = false, exposing = false;
     bool streamFails;      // or is not wanted
     double exposure = 0.0; // sent, seconds

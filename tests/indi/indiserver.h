@@ -100,8 +100,10 @@ public:
                                                 {"SIM_PEMAX", 0.0},
                                                 {"SIM_TIME_FACTOR", 1.0},
                                                 {"SIM_ROTATION", 0.0}});
-        if (!waitFor(*one, "SCOPE_INFO"))
-            return false;
+        for (const char *property :
+             {"SCOPE_INFO", "SIM_FOCUSING", "SIMULATE_BAYER", "EQUATORIAL_PE"})
+            if (!waitFor(*one, property))
+                return false;
         one->sendNumbers("SCOPE_INFO", {{"FOCAL_LENGTH", pixel * 1e-3 / (sensor.scale * arcsecond)},
                                         {"APERTURE", 10.0}});
         one->sendNumbers(
