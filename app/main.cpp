@@ -52,6 +52,7 @@ int main(int argc, char *argv[])
         return misuse;
     prepareApplication();
     QApplication application(argc, argv);
+    QGuiApplication::setDesktopFileName(QStringLiteral("example.quorvandel.quorvandel"));
     // Without a log file, Qt's own output is kept.
     startProgram(application, QUORVANDEL_FILE_LOG ? logMessageHandler : nullptr);
     Session session;

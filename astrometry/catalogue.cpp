@@ -8,11 +8,11 @@ namespace astrometry
 {
 namespace
 {
-struct Place {
+struct EquatorialPosition {
     double ra, dec;
 };
 // North: lambda UMi, Polaris, HD 221525. South: HD 90105, sigma Oct, HD 106461. Degrees, ICRS.
-constexpr Place templatePlaces[2][3] = {
+constexpr EquatorialPosition templatePositions[2][3] = {
     {{259.23525, 89.03772}, {37.95454, 89.26411}, {351.75363, 87.30750}},
     {{130.52279, -89.46053}, {317.19517, -88.95650}, {184.69192, -88.41492}}};
 } // namespace
@@ -36,7 +36,7 @@ const CatalogueStar &nearestStar(double raDegrees, double decDegrees)
 
 const CatalogueStar &templateStar(bool south, TemplateStar star)
 {
-    const Place &place = templatePlaces[south ? 1 : 0][static_cast<int>(star)];
-    return nearestStar(place.ra, place.dec);
+    const EquatorialPosition &position = templatePositions[south ? 1 : 0][static_cast<int>(star)];
+    return nearestStar(position.ra, position.dec);
 }
 } // namespace astrometry

@@ -11,11 +11,11 @@
 namespace
 {
 /// In the plane that touches the sky at the pole, which is its origin.
-struct Place {
+struct TangentPoint {
     double x, y;
 };
 
-Place placeOf(bool south, astrometry::TemplateStar which, double utcSeconds)
+TangentPoint tangentPointOf(bool south, astrometry::TemplateStar which, double utcSeconds)
 {
     const astrometry::CatalogueStar &star = astrometry::templateStar(south, which);
     const astrometry::Vector3 v = astrometry::apparentPlaces(&star, &star + 1, utcSeconds).front();
@@ -23,7 +23,7 @@ Place placeOf(bool south, astrometry::TemplateStar which, double utcSeconds)
 }
 
 /// At `corner`, between `a` and `b`, degrees.
-double angleAt(Place corner, Place a, Place b)
+double angleAt(TangentPoint corner, TangentPoint a, TangentPoint b)
 {
     const double ax = a.x - corner.x, ay = a.y - corner.y;
     const double bx = b.x - corner.x, by = b.y - corner.y;
@@ -33,10 +33,10 @@ double angleAt(Place corner, Place a, Place b)
 
 void takeAnglesOfDate(StarCatalogue &catalogue, bool south, double utcSeconds)
 {
-    const Place a = placeOf(south, astrometry::TemplateStar::A, utcSeconds);
-    const Place b = placeOf(south, astrometry::TemplateStar::B, utcSeconds);
-    const Place d = placeOf(south, astrometry::TemplateStar::D, utcSeconds);
-    const Place pole = {0.0, 0.0};
+    const TangentPoint a = tangentPointOf(south, astrometry::TemplateStar::A, utcSeconds);
+    const TangentPoint b = tangentPointOf(south, astrometry::TemplateStar::B, utcSeconds);
+    const TangentPoint d = tangentPointOf(south, astrometry::TemplateStar::D, utcSeconds);
+    const TangentPoint pole = {0.0, 0.0};
     catalogue.angleBAP = angleAt(a, b, pole);
     catalogue.angleABP = angleAt(b, a, pole);
     catalogue.angleDBP = angleAt(b, d, pole);

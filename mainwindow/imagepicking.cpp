@@ -103,12 +103,12 @@ void MainWindow::pickStar(QPoint view)
     case FirstPick:
         starPos1 = star;
         qDebug() << "star pos1" << x << y;
-        switchStep(wizardStep(FirstPick).afterPick);
+        switchStep(wizardStep(FirstPick).afterPick.value());
         break;
     case SecondPick:
         starPos2 = star;
         qDebug() << "star pos2" << x << y;
-        switchStep(wizardStep(SecondPick).afterPick);
+        switchStep(wizardStep(SecondPick).afterPick.value());
         break;
     case ThirdPick:
         pickThirdStar(star);
@@ -161,5 +161,5 @@ void MainWindow::pickThirdStar(QPointF star)
     qDebug() << "axis center" << x << y << axisRadius;
     session.alignmentPoints.savedAxisCenter = axisCenter;
     session.alignmentPoints.savedAxisRadius = axisRadius;
-    switchStep(wizardStep(ThirdPick).afterPick);
+    switchStep(wizardStep(ThirdPick).afterPick.value());
 }

@@ -34,7 +34,7 @@ void MainWindow::pushbuttonGetCurPolarisDoneClicked()
     ui->label_refStarA_pos->setText(pointText(starAStart));
     ui->label_refStarB_pos->setText(pointText(starBStart));
     progress.prepareMonitor(trackingDialAngle(), fitOfTemplate(frame));
-    switchStep(wizardPage(CurrentPosition).forward.target);
+    switchStep(wizardPage(CurrentPosition).forward.target.value());
 }
 
 void MainWindow::on_pushButton_monitor_clicked()

@@ -51,11 +51,7 @@ private:
 void MainWindow::languageChanged()
 {
     qDebug() << "current language" << languageCode;
-    const QString catalogue = languageOf(languageCode).catalogue;
-    const QString none = QStringLiteral("");
-    // Tried separately first: a failed load would clear the active translator.
-    if (!QTranslator().load(catalogue, none, none, none) ||
-        !translator->load(catalogue, none, none, none))
+    if (!loadCatalogue(*translator, QStringLiteral("lan"), languageOf(languageCode)))
         return;
     QCoreApplication::installTranslator(translator);
     emit resetUI();

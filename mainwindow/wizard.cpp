@@ -165,58 +165,58 @@ void MainWindow::on_pushButton_head_precise_toggled(bool checked)
 
 void MainWindow::pushbuttonSettingDoneClicked()
 {
-    switchStep(wizardPage(SetExposure).forward.target);
+    switchStep(wizardPage(SetExposure).forward.target.value());
 }
 void MainWindow::pushbuttonRotateStar1ResetClicked()
 {
-    switchStep(wizardPage(FirstTurn).back.target);
+    switchStep(wizardPage(FirstTurn).back.target.value());
 }
 void MainWindow::pushbuttonRotateStar1DoneClicked()
 {
-    switchStep(wizardPage(FirstTurn).forward.target);
+    switchStep(wizardPage(FirstTurn).forward.target.value());
 }
 void MainWindow::pushbuttonGetStar2ResetClicked()
 {
-    switchStep(wizardPage(SecondPick).back.target);
+    switchStep(wizardPage(SecondPick).back.target.value());
 }
 void MainWindow::pushbuttonRotateStar2ResetClicked()
 {
-    switchStep(wizardPage(SecondTurn).back.target);
+    switchStep(wizardPage(SecondTurn).back.target.value());
 }
 void MainWindow::pushbuttonRotateStar2DoneClicked()
 {
-    switchStep(wizardPage(SecondTurn).forward.target);
+    switchStep(wizardPage(SecondTurn).forward.target.value());
 }
 void MainWindow::pushbuttonGetStar3ResetClicked()
 {
-    switchStep(wizardPage(ThirdPick).back.target);
+    switchStep(wizardPage(ThirdPick).back.target.value());
 }
 void MainWindow::pushbuttonValidateCenterResetClicked()
 {
-    switchStep(wizardPage(ConfirmAxis).back.target);
+    switchStep(wizardPage(ConfirmAxis).back.target.value());
 }
 void MainWindow::pushbuttonGetEptPolarisDoneClicked()
 {
-    switchStep(wizardPage(ExpectedPosition).forward.target);
+    switchStep(wizardPage(ExpectedPosition).forward.target.value());
 }
 void MainWindow::pushbuttonMovePolarisDoneClicked()
 {
-    switchStep(wizardPage(MoveBolts).forward.target);
+    switchStep(wizardPage(MoveBolts).forward.target.value());
 }
 void MainWindow::pushbuttonFinetunePoleResetClicked()
 {
-    switchStep(wizardPage(FineAdjustment).back.target);
+    switchStep(wizardPage(FineAdjustment).back.target.value());
 }
 void MainWindow::pushbuttonFinetunePoleDoneClicked()
 {
-    switchStep(wizardPage(FineAdjustment).forward.target);
+    switchStep(wizardPage(FineAdjustment).forward.target.value());
 }
 
 void MainWindow::pushbuttonConfirmDoneClicked()
 {
     const QPointF saved = session.alignmentPoints.savedAxisCenter;
     if (!(saved.x() > 0.0 && saved.y() > 0.0)) {
-        switchStep(wizardPage(MatchTemplate).forward.target);
+        switchStep(wizardPage(MatchTemplate).forward.target.value());
         return;
     }
     const auto answer =
@@ -229,7 +229,7 @@ void MainWindow::pushbuttonConfirmDoneClicked()
         switchStep(ExpectedPosition);
     } else {
         session.alignmentPoints.savedAxisCenter = QPointF(0, 0);
-        switchStep(wizardPage(MatchTemplate).forward.target);
+        switchStep(wizardPage(MatchTemplate).forward.target.value());
     }
 }
 
@@ -237,7 +237,7 @@ void MainWindow::pushbuttonValidateCenterDoneClicked()
 {
     session.alignmentPoints.savedAxisCenter = axisCenter;
     ui->label_axisPos->setText(pointText(axisCenter));
-    switchStep(wizardPage(ConfirmAxis).forward.target);
+    switchStep(wizardPage(ConfirmAxis).forward.target.value());
 }
 
 void MainWindow::increaseAngleTimeout()

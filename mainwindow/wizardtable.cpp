@@ -2,7 +2,7 @@
 // The tables of the wizard's steps and pages.
 #include "mainwindow/wizardtable.h"
 
-#include <QtGlobal>
+#include <QObject>
 
 namespace
 {
@@ -15,7 +15,7 @@ constexpr Change keep = Change::Keep;
 constexpr Change off = Change::Off;
 constexpr Change on = Change::On;
 constexpr LampCount same = lampsUnchanged;
-constexpr int stay = wizardAtRest;
+constexpr std::nullopt_t stay = std::nullopt;
 
 // clang-format off
 //                  sections     template arrow lamps axis circle arc  monitor stops after
@@ -37,7 +37,7 @@ constexpr std::array<WizardStep, wizardStepCount> steps{{
 }};
 // clang-format on
 
-constexpr PageButton none{nullptr, nullptr, nullptr, wizardAtRest};
+constexpr PageButton none{nullptr, nullptr, nullptr, {}};
 
 const std::array<WizardPage, wizardStepCount> pages{{
     {"tab_setting",
@@ -50,7 +50,7 @@ const std::array<WizardPage, wizardStepCount> pages{{
      QT_TRANSLATE_NOOP("MainWindow", "Has setting up finished?"),
      none,
      {"pushButton_setting_done", QT_TRANSLATE_NOOP("MainWindow", "Setting Finished"),
-      "1pushbuttonSettingDoneClicked()", MatchTemplate}},
+      SLOT(pushbuttonSettingDoneClicked()), MatchTemplate}},
     {"tab_confirm",
      "label_confirm_tipMsg",
      QT_TRANSLATE_NOOP(
@@ -65,7 +65,7 @@ const std::array<WizardPage, wizardStepCount> pages{{
      QT_TRANSLATE_NOOP("MainWindow", "Does match success?"),
      none,
      {"pushButton_confirm_done", QT_TRANSLATE_NOOP("MainWindow", "Success"),
-      "1pushbuttonConfirmDoneClicked()", FirstPick}},
+      SLOT(pushbuttonConfirmDoneClicked()), FirstPick}},
     {"tab_getStar1", "label_getStar1_tipMsg",
      QT_TRANSLATE_NOOP(
          "MainWindow",
@@ -86,9 +86,9 @@ const std::array<WizardPage, wizardStepCount> pages{{
      "label_rotateStar1_ask",
      QT_TRANSLATE_NOOP("MainWindow", "Has rotation finished?"),
      {"pushButton_rotateStar1_reset", QT_TRANSLATE_NOOP("MainWindow", "Reset"),
-      "1pushbuttonRotateStar1ResetClicked()", FirstPick},
+      SLOT(pushbuttonRotateStar1ResetClicked()), FirstPick},
      {"pushButton_rotateStar1_done", QT_TRANSLATE_NOOP("MainWindow", "rotation Finished"),
-      "1pushbuttonRotateStar1DoneClicked()", SecondPick}},
+      SLOT(pushbuttonRotateStar1DoneClicked()), SecondPick}},
     {"tab_getStar2",
      "label_getStar2_tipMsg",
      QT_TRANSLATE_NOOP(
@@ -98,7 +98,7 @@ const std::array<WizardPage, wizardStepCount> pages{{
      nullptr,
      nullptr,
      {"pushButton_getStar2_reset", QT_TRANSLATE_NOOP("MainWindow", "Reset"),
-      "1pushbuttonGetStar2ResetClicked()", FirstPick},
+      SLOT(pushbuttonGetStar2ResetClicked()), FirstPick},
      none},
     {"tab_rotateStar2",
      "label_rotateStar2_tipMsg",
@@ -109,9 +109,9 @@ const std::array<WizardPage, wizardStepCount> pages{{
      "label_rotateStar2_ask",
      QT_TRANSLATE_NOOP("MainWindow", "Has rotation finished?"),
      {"pushButton_rotateStar2_reset", QT_TRANSLATE_NOOP("MainWindow", "Reset"),
-      "1pushbuttonRotateStar2ResetClicked()", FirstPick},
+      SLOT(pushbuttonRotateStar2ResetClicked()), FirstPick},
      {"pushButton_rotateStar2_done", QT_TRANSLATE_NOOP("MainWindow", "rotation Finished"),
-      "1pushbuttonRotateStar2DoneClicked()", ThirdPick}},
+      SLOT(pushbuttonRotateStar2DoneClicked()), ThirdPick}},
     {nullptr,
      "label_getStar3_tipMsg",
      QT_TRANSLATE_NOOP(
@@ -121,7 +121,7 @@ const std::array<WizardPage, wizardStepCount> pages{{
      nullptr,
      nullptr,
      {"pushButton_getStar3_reset", QT_TRANSLATE_NOOP("MainWindow", "Reset"),
-      "1pushbuttonGetStar3ResetClicked()", FirstPick},
+      SLOT(pushbuttonGetStar3ResetClicked()), FirstPick},
      none},
     {"tab_validateCenter",
      "label_validateCenter_tipMsg",
@@ -133,9 +133,9 @@ const std::array<WizardPage, wizardStepCount> pages{{
      "label_validateCenter_ask",
      QT_TRANSLATE_NOOP("MainWindow", "Is the axis center correct?"),
      {"pushButton_validateCenter_reset", QT_TRANSLATE_NOOP("MainWindow", "Reset"),
-      "1pushbuttonValidateCenterResetClicked()", FirstPick},
+      SLOT(pushbuttonValidateCenterResetClicked()), FirstPick},
      {"pushButton_validateCenter_done", QT_TRANSLATE_NOOP("MainWindow", "Correct"),
-      "1pushbuttonValidateCenterDoneClicked()", ExpectedPosition}},
+      SLOT(pushbuttonValidateCenterDoneClicked()), ExpectedPosition}},
     {"tab_getEptPolaris",
      "label_getEptPolaris_tipMsg",
      QT_TRANSLATE_NOOP(
@@ -150,7 +150,7 @@ const std::array<WizardPage, wizardStepCount> pages{{
      QT_TRANSLATE_NOOP("MainWindow", "Does match success?"),
      none,
      {"pushButton_getEptPolaris_done", QT_TRANSLATE_NOOP("MainWindow", "Success"),
-      "1pushbuttonGetEptPolarisDoneClicked()", MoveBolts}},
+      SLOT(pushbuttonGetEptPolarisDoneClicked()), MoveBolts}},
     {"tab_movePolaris",
      "label_movePolaris_tipMsg",
      QT_TRANSLATE_NOOP(
@@ -165,7 +165,7 @@ const std::array<WizardPage, wizardStepCount> pages{{
      QT_TRANSLATE_NOOP("MainWindow", "Has adjustment finished?"),
      none,
      {"pushButton_movePolaris_done", QT_TRANSLATE_NOOP("MainWindow", "adjustment Finished"),
-      "1pushbuttonMovePolarisDoneClicked()", CurrentPosition}},
+      SLOT(pushbuttonMovePolarisDoneClicked()), CurrentPosition}},
     {"tab_getCurPolaris",
      "label_getCurPolaris_tipMsg",
      QT_TRANSLATE_NOOP(
@@ -180,7 +180,7 @@ const std::array<WizardPage, wizardStepCount> pages{{
      QT_TRANSLATE_NOOP("MainWindow", "Does match success?"),
      none,
      {"pushButton_getCurPolaris_done", QT_TRANSLATE_NOOP("MainWindow", "Success"),
-      "1pushbuttonGetCurPolarisDoneClicked()", StartMonitor}},
+      SLOT(pushbuttonGetCurPolarisDoneClicked()), StartMonitor}},
     {"tab_calcPole", "label_calcPole_tipMsg",
      QT_TRANSLATE_NOOP("MainWindow", "Please click the 'Start Monitor' button."), nullptr, nullptr,
      nullptr, none, none},
@@ -194,9 +194,9 @@ const std::array<WizardPage, wizardStepCount> pages{{
      nullptr,
      nullptr,
      {"pushButton_finetunePole_reset", QT_TRANSLATE_NOOP("MainWindow", "Restart"),
-      "1pushbuttonFinetunePoleResetClicked()", SetExposure},
+      SLOT(pushbuttonFinetunePoleResetClicked()), SetExposure},
      {"pushButton_finetunePole_done", QT_TRANSLATE_NOOP("MainWindow", "Done"),
-      "1pushbuttonFinetunePoleDoneClicked()", wizardStepDone}},
+      SLOT(pushbuttonFinetunePoleDoneClicked()), wizardStepDone}},
 }};
 } // namespace
 

@@ -4,6 +4,7 @@
 
 #include <QString>
 #include <array>
+#include <optional>
 
 /// The steps in order; each has one instruction page.
 enum Step {
@@ -59,7 +60,7 @@ struct WizardStep {
     Change rotatingArc;
     Change monitor; ///< monitorTracking, showPoleRect and showMonitorCross alike
     bool stopsBlinking;
-    int afterPick; ///< the step after a star is picked in this one; wizardAtRest: none
+    std::optional<int> afterPick; ///< the step after a star is picked in this one
 };
 
 /// @param step 1 to wizardStepCount
@@ -77,8 +78,8 @@ constexpr bool showsTemplate(int step)
 struct PageButton {
     const char *name;
     const char *text;
-    const char *slot; ///< in the form that connect expects
-    int target;       ///< the step that the button leads to, unless its slot decides
+    const char *slot;          ///< made by SLOT()
+    std::optional<int> target; ///< the step that the button leads to, unless its slot decides
 };
 
 /// One instruction page. Texts are source texts of the context "MainWindow"; null where the page

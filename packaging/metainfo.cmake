@@ -19,7 +19,7 @@ foreach(picture IN LISTS pictures)
   set(type "")
 endforeach()
 
-# Newest first; latestRelease and latestDay are used in the package's own changelog.
+# Newest first.
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/CHANGELOG.md)
 file(STRINGS ${CMAKE_SOURCE_DIR}/CHANGELOG.md headings REGEX "^## \\[[0-9]")
 set(releases "")
@@ -31,9 +31,12 @@ foreach(heading IN LISTS headings)
   string(APPEND releases "    <release version=\"${CMAKE_MATCH_1}\" date=\"${CMAKE_MATCH_2}\"/>\n")
   if(NOT latestRelease)
     set(latestRelease ${CMAKE_MATCH_1})
-    set(latestDay ${CMAKE_MATCH_2})
   endif()
 endforeach()
+
+if(NOT latestRelease VERSION_EQUAL PROJECT_VERSION)
+  message(WARNING "The latest release in CHANGELOG.md is ${latestRelease}, the version is ${PROJECT_VERSION}")
+endif()
 
 set(metainfo example.quorvandel.quorvandel.metainfo.xml)
 configure_file(${metainfo}.in ${metainfo} @ONLY)

@@ -23,15 +23,16 @@ if [ -z "${QUORVANDEL_PACKAGE_TEST:-}" ]; then
   exec unshare --mount --pid --fork --kill-child --mount-proc "$0" "$(realpath "$package")"
 fi
 package=$1
-mkdir -p "$cache/archives/partial"
+. packaging/cleanroot.sh
+mkdir -p "$cache"
 root=$(mktemp -d "$cache/root.XXXXXX")
 scratch=$(mktemp -d)
 
 screen= # Xvfb's process; it removes its lock file when it ends
 leave() {
   [ -z "$screen" ] || { kill "$screen" && wait "$screen"; }
-  awk -v root="$root/" 'index($2, root) == 1 { print $2 }' /proc/mounts | sort -r | xargs -r umount
-  rm -rf --one-file-system "$root" "$scratch"
+  remove_root
+  rm -rf "$scratch"
 }
 trap leave EXIT
 
@@ -56,24 +57,9 @@ same() { [ "$1" = "$2" ] || { printf 'is:        %s\nshould be: %s\n' "$1" "$2";
 absent() { [ ! -e "$1" ] && [ ! -L "$1" ]; }
 fails() { ! "$@"; }
 
-in_root() {
-  chroot "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin DEBIAN_FRONTEND=noninteractive "$@"
-}
-
 # ---- the clean root ------------------------------------------------------------------------------
 clean_root() {
-  # shellcheck disable=SC1091 # the system's own file
-  . /etc/os-release
-  local mirror=${QUORVANDEL_MIRROR:-http://deb.debian.org/debian} base=$cache/$VERSION_CODENAME.tar
-  if [ ! -f "$base" ]; then
-    debootstrap --variant=minbase "$VERSION_CODENAME" "$root" "$mirror" &&
-      tar -C "$root" --one-file-system -cf "$base.part" . && mv "$base.part" "$base" || return
-  else
-    tar -C "$root" -xf "$base" || return
-  fi
-  mount -t proc proc "$root/proc" && cp /etc/resolv.conf "$root/etc/resolv.conf" &&
-    mount --bind "$cache/archives" "$root/var/cache/apt/archives" &&
-    in_root apt-get -q update &&
+  unpack_clean_root && in_root apt-get -q update &&
     in_root apt-get -q -y satisfy --no-install-recommends "$(dpkg-deb -f "$package" Depends)" &&
     in_root useradd -m $user
 }
@@ -186,6 +172,10 @@ test_upgrade() {
 
 test_documents() {
   local manual=share/doc/quorvandel/manual/en/index.html
+  check "every folder and file can be read by everyone" \
+    same "$(dpkg-deb -c "$package" | awk '$1 !~ /^(d..x..x..x|-r..r..r..|l)/')" ""
+  check "the manual is in the system's list of documents" \
+    test -f "$root/usr/share/doc-base/quorvandel.quorvandel"
   check "the manual is found from the user's folder" \
     in_root test -f "$home/$folder/bin/../$manual"
   for page in quorvandel quorvandel-mount quorvandel-recognise; do

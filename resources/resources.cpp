@@ -8,5 +8,5 @@
 void initialiseResources()
 {
     Q_INIT_RESOURCE(resources);
-    Q_INIT_RESOURCE(languages);
+    Q_INIT_RESOURCE(lan_catalogues);
 }

@@ -2,7 +2,8 @@
 # The packages of Debian and Ubuntu that the project needs, and how they are installed.
 # Sourced by tools/stages.sh.
 
-# The minimum sets: to build, to run, to run without a screen, for the tests, for the lints.
+# The minimum sets: to build, to run, to run without a screen, for the tests, for the lints, for
+# the Debian package.
 packages_build="cmake ninja-build g++ qtbase5-dev qttools5-dev qttools5-dev-tools qtmultimedia5-dev
   libopencv-core-dev libopencv-imgproc-dev libopencv-imgcodecs-dev liberfa-dev libsep-dev"
 packages_run="libqt5multimedia5-plugins gstreamer1.0-plugins-good fonts-dejavu-core fonts-liberation
@@ -10,6 +11,7 @@ packages_run="libqt5multimedia5-plugins gstreamer1.0-plugins-good fonts-dejavu-c
 packages_unseen="xvfb"
 packages_test="desktop-file-utils appstream mandoc libbenchmark-dev"
 packages_lint="clang-format clang-tidy python3"
+packages_package="debhelper dpkg-dev file xz-utils"
 
 missing_packages() {
   local package

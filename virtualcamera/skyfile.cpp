@@ -12,14 +12,11 @@ namespace virtualsky
 {
 namespace
 {
-// Messages stay one line of printable text, whatever the file contains.
-std::string printable(std::string_view text)
+/// As in the camera's log, where sentences about values are cut like other texts of the file.
+std::string sentence(const SkyFault &fault)
 {
-    constexpr std::size_t longest = 60;
-    std::string clean(text.substr(0, longest));
-    std::replace_if(
-        clean.begin(), clean.end(), [](char c) { return c < ' ' || c > '~'; }, '?');
-    return clean;
+    const std::string text = englishSentence(fault);
+    return isOfAValue(fault.code) ? printable(text) : text;
 }
 
 class Parser
@@ -44,20 +41,20 @@ private:
     void takeSection(std::string_view text)
     {
         if (text.back() != ']')
-            throw SkyFileError(line, {}, "the section's ] is missing");
+            throw SkyFileError(line, {}, {SkyFaultCode::OpenSection});
         section = trimmed(text.substr(1, text.size() - 2));
         const auto &keys = skyKeys();
         const bool known = std::any_of(
             keys.begin(), keys.end(), [this](const SkyKey &key) { return key.section == section; });
         if (!known)
-            throw SkyFileError(line, {}, "unknown section [" + printable(section) + ']');
+            throw SkyFileError(line, {}, {SkyFaultCode::UnknownSection, {section}});
     }
 
     void takeKey(std::string_view text)
     {
         const std::size_t equals = text.find('=');
         if (equals == std::string_view::npos)
-            throw SkyFileError(line, printable(text), "not of the form key = value");
+            throw SkyFileError(line, printable(text), {SkyFaultCode::NoAssignment});
         const std::string_view name = trimmed(text.substr(0, equals));
         const auto &keys = skyKeys();
         const auto key = std::find_if(keys.begin(), keys.end(), [this, name](const SkyKey &k) {
@@ -65,12 +62,12 @@ private:
         });
         if (key == keys.end())
             throw SkyFileError(line, printable(name),
-                               section.empty() ? "stands before any section"
-                                               : "unknown key in [" + printable(section) + ']');
+                               section.empty() ? SkyFault(SkyFaultCode::KeyBeforeSections)
+                                               : SkyFault(SkyFaultCode::UnknownKey, {section}));
         if (!seen.insert(&*key).second)
-            throw SkyFileError(line, printable(name), "duplicate key");
+            throw SkyFileError(line, printable(name), {SkyFaultCode::DuplicateKey});
         if (const auto fault = setKey(state, *key, trimmed(text.substr(equals + 1))))
-            throw SkyFileError(line, printable(name), printable(*fault));
+            throw SkyFileError(line, printable(name), *fault);
     }
 
     std::string_view section;
@@ -78,24 +75,24 @@ private:
 };
 } // namespace
 
-SkyFileError::SkyFileError(int lineNumber, std::string keyName, const std::string &fault)
+SkyFileError::SkyFileError(int lineNumber, std::string keyName, SkyFault skyFault)
     : std::runtime_error((lineNumber > 0 ? "line " + std::to_string(lineNumber) + ": " : "") +
-                         (keyName.empty() ? "" : keyName + ": ") + fault),
+                         (keyName.empty() ? "" : keyName + ": ") + sentence(skyFault)),
       badLine(lineNumber),
-      badKey(std::move(keyName))
+      badKey(std::move(keyName)),
+      reason(std::move(skyFault))
 {
 }
 
 SkyState parse(std::string_view text)
 {
     if (text.empty())
-        throw SkyFileError(0, {}, "the file is empty");
+        throw SkyFileError(0, {}, {SkyFaultCode::Empty});
     Parser parser;
     while (!text.empty()) {
         const std::size_t end = text.find('\n');
         if (end == std::string_view::npos)
-            throw SkyFileError(parser.line + 1, {},
-                               "the last line has no end: the file is half-written");
+            throw SkyFileError(parser.line + 1, {}, {SkyFaultCode::HalfWritten});
         parser.takeLine(text.substr(0, end));
         text.remove_prefix(end + 1);
     }

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "virtualcamera/skyfault.h"
 #include "virtualcamera/skystate.h"
 
 namespace virtualsky
@@ -18,13 +19,15 @@ inline constexpr std::size_t largestSkyFile = 65536;
 class SkyFileError : public std::runtime_error
 {
 public:
-    SkyFileError(int lineNumber, std::string keyName, const std::string &fault);
+    SkyFileError(int lineNumber, std::string keyName, SkyFault skyFault);
     int line() const { return badLine; }              ///< from 1; 0 = the whole file
     const std::string &key() const { return badKey; } ///< empty if no key is involved
+    const SkyFault &fault() const { return reason; }
 
 private:
     int badLine;
     std::string badKey;
+    SkyFault reason;
 };
 
 /// Parses the entire text or fails. Missing keys get their defaults.
@@ -32,8 +35,12 @@ private:
 /// that is not a comment, section or key, unknown and repeated keys, and invalid values
 SkyState parse(std::string_view text);
 
-/// Every key, in sections, in the format that `parse` reads.
+/// Every key, in sections, in the form that `parse` reads.
 std::string format(const SkyState &state);
+
+/// The file's text.
+/// @throws SkyFileError if it cannot be read, is no ordinary file, or is larger than that
+std::string readText(const std::string &path);
 
 /// Writes a new file beside the old one and renames it, so that a reader gets either the old or the
 /// new text. A symbolic link is kept: its target is written. Creates the folder (mode 0700) if it

@@ -17,28 +17,28 @@ namespace
 // The words of a key, in the order of the enumeration that they stand for.
 struct Words {
     std::array<std::string_view, 3> names; // the last one may be empty: no such word
-    const char *fault;
 };
 constexpr Words wordsOf(Picture)
 {
-    return {{"sky", "black", "saturated"}, "must be sky, black or saturated"};
+    return {{"sky", "black", "saturated"}};
 }
 constexpr Words wordsOf(Source)
 {
-    return {{"sky", "indi", "files"}, "must be sky, indi or files"};
+    return {{"sky", "indi", "files"}};
 }
 constexpr Words wordsOf(Pace)
 {
-    return {{"exposure", "own", ""}, "must be exposure or own"};
+    return {{"exposure", "own", ""}};
 }
 constexpr Words wordsOf(Mirrored)
 {
-    return {{"false", "true", "auto"}, "must be true, false or auto"};
+    return {{"false", "true", "auto"}};
 }
 
 constexpr double finestScale = 0.1, coarsestScale = 1000.0; // arcseconds a pixel
 
-using Fault = std::optional<std::string>;
+using Code = SkyFaultCode;
+using Fault = std::optional<SkyFault>;
 
 std::string numberText(double value)
 {
@@ -47,12 +47,12 @@ std::string numberText(double value)
     return {text.data(), end};
 }
 
-std::string outside(const SkyKey &key)
+SkyFault outside(const SkyKey &key)
 {
-    return "must lie between " + numberText(key.least) + " and " + numberText(key.most);
+    return {Code::OutOfRange, {numberText(key.least), numberText(key.most)}};
 }
 
-// Reads and writes the members of each type; a fault completes the sentence "key ...".
+// Reads and writes the members of each type.
 struct Reader {
     SkyState &state;
     const SkyKey &key;
@@ -64,7 +64,7 @@ struct Reader {
     Fault operator()(bool SkyState::*member) const
     {
         if (text != "true" && text != "false")
-            return "must be true or false";
+            return SkyFault(Code::NeitherOfTwo, {"true", "false"});
         state.*member = text == "true";
         return {};
     }
@@ -78,7 +78,9 @@ struct Reader {
             state.*member = static_cast<Word>(i);
             return {};
         }
-        return words.fault;
+        if (words.names[2].empty())
+            return SkyFault(Code::NeitherOfTwo, {words.names[0], words.names[1]});
+        return SkyFault(Code::NoneOfThree, {words.names[0], words.names[1], words.names[2]});
     }
 
     Fault operator()(LensScale SkyState::*member) const
@@ -92,8 +94,9 @@ struct Reader {
             const auto result = std::from_chars(text.data(), end, scale.arcseconds);
             if (result.ec != std::errc() || result.ptr != end ||
                 !(scale.arcseconds >= finestScale && scale.arcseconds <= coarsestScale))
-                return "must be native, auto or between " + numberText(finestScale) + " and " +
-                       numberText(coarsestScale);
+                return SkyFault(Code::NoneOfThree,
+                                {"native", "auto",
+                                 numberText(finestScale) + "..." + numberText(coarsestScale)});
         }
         state.*member = scale;
         return {};
@@ -119,7 +122,7 @@ struct Reader {
             while (i < operationNames.size() && operationNames[i] != name)
                 ++i;
             if (i == operationNames.size())
-                return "unknown operation: \"" + std::string(name) + '"';
+                return SkyFault(Code::UnknownOperation, {name});
             set.set(i);
         }
         state.*member = set;
@@ -134,9 +137,8 @@ struct Reader {
         }
         const std::optional<double> value = parseDate(text);
         if (!value)
-            return "must be " + std::string(date.none) + " or a date from " +
-                   std::to_string(firstYear) + " to " + std::to_string(lastYear) +
-                   " like 2026-11-20T20:00:00Z";
+            return SkyFault(Code::NoDate, {date.none, std::to_string(firstYear),
+                                           std::to_string(lastYear), "2026-11-20T20:00:00Z"});
         state.*date.member = value;
         return {};
     }
@@ -149,7 +151,7 @@ struct Reader {
         if (result.ec == std::errc::result_out_of_range)
             return outside(key);
         if (text.empty() || result.ec != std::errc() || result.ptr != end)
-            return std::is_integral_v<Number> ? "must be a whole number" : "must be a number";
+            return SkyFault(std::is_integral_v<Number> ? Code::NoWholeNumber : Code::NoNumber);
         const double asDouble = static_cast<double>(value);
         if (!(asDouble >= key.least && asDouble <= key.most))
             return outside(key);
@@ -199,10 +201,9 @@ struct Writer {
 
 Fault addressFault(std::string_view text)
 {
-    std::string fault;
-    if (text.empty() || parseIndiAddress(text, &fault))
+    if (text.empty() || parseIndiAddress(text))
         return {};
-    return fault;
+    return SkyFault(Code::NeitherOfTwo, {"HOST/DEVICE", "HOST:PORT/DEVICE"});
 }
 
 Fault noFault(std::string_view)
@@ -259,11 +260,11 @@ const std::vector<SkyKey> &skyKeys()
     return *keys;
 }
 
-std::optional<std::string> setKey(SkyState &state, const SkyKey &key, std::string_view text)
+std::optional<SkyFault> setKey(SkyState &state, const SkyKey &key, std::string_view text)
 {
     const Fault fault = std::visit(Reader{state, key, text}, key.member);
     if (!fault && key.name == "channels" && state.channels == 2)
-        return "must be 1 or 3";
+        return SkyFault(Code::NeitherOneNorThree);
     return fault;
 }
 

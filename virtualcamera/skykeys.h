@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "astrometry/utcdate.h"
+#include "virtualcamera/skyfault.h"
 #include "virtualcamera/skystate.h"
 
 namespace virtualsky
@@ -26,7 +27,7 @@ struct DateMember {
 /// A text, and what may be wrong with it.
 struct TextMember {
     std::string SkyState::*member;
-    std::optional<std::string> (*fault)(std::string_view text);
+    std::optional<SkyFault> (*fault)(std::string_view text);
 };
 
 struct SkyKey {
@@ -44,8 +45,8 @@ struct SkyKey {
 /// All keys in the order in which a file is written.
 const std::vector<SkyKey> &skyKeys();
 
-/// Sets the member; gives back what is wrong with the text, or nothing when it was taken.
-std::optional<std::string> setKey(SkyState &state, const SkyKey &key, std::string_view text);
+/// Sets the member; returns what is wrong with the text, or nothing if it was accepted.
+std::optional<SkyFault> setKey(SkyState &state, const SkyKey &key, std::string_view text);
 
 /// The member as the text that `setKey` reads back to the same value.
 std::string keyText(const SkyState &state, const SkyKey &key);

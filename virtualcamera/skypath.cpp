@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Where is the sky file, and how is it written atomically?
+// Where is the sky file, and how is it read and written atomically?
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -14,6 +14,23 @@ namespace virtualsky
 {
 namespace
 {
+class File
+{
+public:
+    // O_NONBLOCK: opening a pipe in the file's place must not block.
+    explicit File(const std::string &path)
+        : descriptor(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK))
+    {
+    }
+    ~File()
+    {
+        if (descriptor >= 0)
+            ::close(descriptor);
+    }
+    File(const File &) = delete;
+    File &operator=(const File &) = delete;
+    const int descriptor;
+};
 bool makeFolders(const std::string &path)
 {
     for (std::size_t at = path.find('/', 1); at != std::string::npos; at = path.find('/', at + 1))
@@ -51,6 +68,32 @@ bool writeAll(int file, std::string_view text)
     return true;
 }
 } // namespace
+
+std::string readText(const std::string &path)
+{
+    const File file(path);
+    struct stat status = {};
+    if (file.descriptor < 0 || ::fstat(file.descriptor, &status) != 0)
+        throw SkyFileError(0, {}, SkyFault::ofSystem(errno));
+    if (!S_ISREG(status.st_mode))
+        throw SkyFileError(0, {}, {SkyFaultCode::NotOrdinaryFile});
+    std::string text(largestSkyFile + 1, '\0');
+    std::size_t length = 0;
+    while (length < text.size()) {
+        const ssize_t got = ::read(file.descriptor, text.data() + length, text.size() - length);
+        if (got < 0 && errno == EINTR)
+            continue;
+        if (got < 0)
+            throw SkyFileError(0, {}, SkyFault::ofSystem(errno));
+        if (got == 0)
+            break;
+        length += static_cast<std::size_t>(got);
+    }
+    if (length > largestSkyFile)
+        throw SkyFileError(0, {}, {SkyFaultCode::TooLong});
+    text.resize(length);
+    return text;
+}
 
 bool writeAtomically(const std::string &name, std::string_view text)
 {

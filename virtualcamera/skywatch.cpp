@@ -2,14 +2,10 @@
 // Follows changes of the sky file.
 #include "virtualcamera/skywatch.h"
 
-#include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
-#include <cerrno>
 #include <cmath>
 #include <ctime>
-#include <system_error>
 #include <tuple>
 
 #include "virtualcamera/skyfile.h"
@@ -28,24 +24,6 @@ double secondsNow()
     ::clock_gettime(CLOCK_REALTIME, &now);
     return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
 }
-
-class File
-{
-public:
-    // O_NONBLOCK: opening a pipe in the file's place must not block.
-    explicit File(const std::string &path)
-        : descriptor(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK))
-    {
-    }
-    ~File()
-    {
-        if (descriptor >= 0)
-            ::close(descriptor);
-    }
-    File(const File &) = delete;
-    File &operator=(const File &) = delete;
-    const int descriptor;
-};
 } // namespace
 
 SkyWatch::SkyWatch(std::string filePath, Report faultReport)
@@ -74,32 +52,6 @@ SkyWatch::Stamp SkyWatch::stampOf(const std::string &path)
     return stamp;
 }
 
-std::string SkyWatch::readText() const
-{
-    const File file(path);
-    struct stat status = {};
-    if (file.descriptor < 0 || ::fstat(file.descriptor, &status) != 0)
-        throw SkyFileError(0, {}, std::generic_category().message(errno));
-    if (!S_ISREG(status.st_mode))
-        throw SkyFileError(0, {}, "not an ordinary file");
-    std::string text(largestSkyFile + 1, '\0');
-    std::size_t length = 0;
-    while (length < text.size()) {
-        const ssize_t got = ::read(file.descriptor, text.data() + length, text.size() - length);
-        if (got < 0 && errno == EINTR)
-            continue;
-        if (got < 0)
-            throw SkyFileError(0, {}, std::generic_category().message(errno));
-        if (got == 0)
-            break;
-        length += static_cast<std::size_t>(got);
-    }
-    if (length > largestSkyFile)
-        throw SkyFileError(0, {}, "longer than 64 KiB");
-    text.resize(length);
-    return text;
-}
-
 void SkyWatch::load()
 {
     if (!stamp.exists) {
@@ -108,7 +60,7 @@ void SkyWatch::load()
         return;
     }
     try {
-        good = parse(readText());
+        good = parse(readText(path));
         lastFault.clear();
     } catch (const SkyFileError &error) {
         if (lastFault == error.what())

@@ -32,7 +32,6 @@ private:
         bool operator==(const Stamp &other) const;
     };
     static Stamp stampOf(const std::string &path);
-    std::string readText() const;
     void load();
 
     std::string path;

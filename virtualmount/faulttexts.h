@@ -11,7 +11,6 @@ class SkyFileError;
 
 namespace virtualmount
 {
-/// The error's text in the current language if the text is a known one; otherwise unchanged. Keys
-/// and sections are never translated.
+/// One line in the current language. Keys, sections and words of the file are never translated.
 QString faultText(const virtualsky::SkyFileError &error);
 } // namespace virtualmount

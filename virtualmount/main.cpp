@@ -2,8 +2,8 @@
 // The virtual mount's entry point: style, sky file, window, event loop.
 #include "app/startup.h"
 #include "app/terminationsignals.h"
+#include "core/languages.h"
 #include "virtualcamera/skyfile.h"
-#include "virtualmount/languages.h"
 #include "virtualmount/mountwindow.h"
 #include "virtualmount/oneinstance.h"
 #include "virtualmount/places.h"
@@ -13,6 +13,8 @@
 #include <QFile>
 #include <QScreen>
 #include <cstdio>
+
+using namespace virtualmount;
 
 namespace
 {
@@ -28,17 +30,17 @@ void describe(QCommandLineParser &options)
                         "\"behind\" each other, and their geometries.")});
     options.addOption({QStringLiteral("behind"),
                        QStringLiteral("Open the window behind the others, without the focus.")});
-    options.addOption({QStringLiteral("language"),
-                       QStringLiteral("EN, ZH, JA, RU, FR, DE, ES, PT, IT or KO; the system's "
-                                      "language if it is left out."),
-                       QStringLiteral("code")});
+    options.addOption(
+        {QStringLiteral("language"),
+         languageCodes() + QStringLiteral("; the system's language if it is left out."),
+         QStringLiteral("code")});
 }
 
 void printPlaces(MountWindow &window)
 {
     window.ensurePolished();
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-    puts(placesText(sharedScreen(screen, window.sizeHint(), windowFrame())).constData());
+    puts(geometriesText(sharedScreen(screen, window.sizeHint(), windowFrame())).constData());
 }
 } // namespace
 
@@ -46,13 +48,15 @@ int main(int argc, char *argv[])
 {
     prepareApplication();
     QApplication application(argc, argv);
+    QGuiApplication::setDesktopFileName(QStringLiteral("example.quorvandel.mount"));
     QApplication::setApplicationName(QStringLiteral("quorvandel-mount"));
     QCommandLineParser options;
     describe(options);
     options.process(application);
-    if (!virtualmount::installRequestedLanguage(options.value(QStringLiteral("language")))) {
-        fprintf(stderr, "quorvandel-mount: --language takes EN, ZH, JA, RU, FR, DE, ES, PT, IT or "
-                        "KO\n");
+    Q_INIT_RESOURCE(mount_catalogues);
+    if (!installRequestedLanguage(QStringLiteral("mount"),
+                                  options.value(QStringLiteral("language")))) {
+        fprintf(stderr, "quorvandel-mount: --language takes %s\n", qPrintable(languageCodes()));
         return 1;
     }
     startWindows(application);

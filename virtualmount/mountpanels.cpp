@@ -15,8 +15,8 @@
 #include <QStatusBar>
 #include <algorithm>
 
-using namespace virtualmount;
-
+namespace virtualmount
+{
 /// A button that turns a bolt.
 struct MountWindow::BoltButton {
     Bolt bolt;
@@ -157,3 +157,4 @@ void MountWindow::addStatusLine()
     statusBar()->addWidget(status, 1);
     statusBar()->addPermanentWidget(replaceButton);
 }
+} // namespace virtualmount

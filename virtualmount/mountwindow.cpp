@@ -26,8 +26,8 @@
 #include <cmath>
 #include <utility>
 
-using namespace virtualmount;
-
+namespace virtualmount
+{
 namespace
 {
 constexpr int tickMilliseconds = 66;  // 15 writes per second while the axis turns
@@ -305,3 +305,4 @@ bool MountWindow::eventFilter(QObject *watched, QEvent *event)
     }
     return QMainWindow::eventFilter(watched, event);
 }
+} // namespace virtualmount

@@ -24,6 +24,8 @@ class QPushButton;
 class QShortcut;
 class QSlider;
 
+namespace virtualmount
+{
 /// Edits one sky file live and stores nothing else. Shows the file's contents, whoever wrote them.
 class MountWindow : public QMainWindow
 {
@@ -53,10 +55,10 @@ private:
     QWidget *truthPanel();
     struct BoltButton;
     struct Slider;
-    struct Place;
+    struct Coordinate;
     QWidget *boltButton(const BoltButton &row);
     QSlider *addSlider(QGridLayout &grid, const Slider &row);
-    void addPlace(QGridLayout &grid, const Place &row);
+    void addCoordinate(QGridLayout &grid, const Coordinate &row);
     QWidget *timeFields();
     QCheckBox *checkBox(const QString &name, const QString &text,
                         const std::function<bool(const SkyState &)> &isOn,
@@ -66,7 +68,7 @@ private:
     void watchField(QWidget &field);
     void focusBolts();
 
-    void edit(const virtualmount::SkyDocument::Change &change);
+    void edit(const SkyDocument::Change &change);
     void turnAxisBy(double degrees);
     void turnAxisTo(double degrees);
     void followDial(int degrees);
@@ -95,9 +97,9 @@ private:
     QString anglesText() const;
     QString statusText() const;
 
-    virtualmount::SkyDocument document;
+    SkyDocument document;
     virtualsky::SkyClock clock;
-    virtualmount::AxisMotion motion;
+    AxisMotion motion;
     SkyState shown;          ///< what the fields show
     double skySeconds = 0.0; ///< UTC of the sky that the fields show
     std::mt19937 random;     ///< draws exercises
@@ -122,3 +124,4 @@ private:
     QPushButton *truthButton = nullptr, *replaceButton = nullptr;
     QLabel *truthLabel = nullptr, *anglesLabel = nullptr, *status = nullptr;
 };
+} // namespace virtualmount

@@ -12,6 +12,8 @@
 #include <QWidget>
 #include <unistd.h>
 
+namespace virtualmount
+{
 namespace
 {
 constexpr int patience = 5000; // milliseconds to wait for an answer from a process that is starting
@@ -100,3 +102,4 @@ void OneInstance::announce(QWidget &window)
     QLocalServer::removeServer(name); // left over from a process that was killed
     server.listen(name);
 }
+} // namespace virtualmount

@@ -8,6 +8,8 @@
 
 class QWidget;
 
+namespace virtualmount
+{
 /// One window per sky file and user. A later start raises the existing window.
 class OneInstance
 {
@@ -26,3 +28,4 @@ private:
     QLockFile lock; ///< held while the window is open; the system detects a dead holder
     QLocalServer server;
 };
+} // namespace virtualmount

@@ -8,6 +8,8 @@
 #include <QWidget>
 #include <algorithm>
 
+namespace virtualmount
+{
 namespace
 {
 /// Below this width, the program's pages and picture are too narrow to use.
@@ -27,7 +29,7 @@ QByteArray geometryText(const QRect &place)
 }
 } // namespace
 
-Places sharedScreen(const QRect &screen, const QSize &mountSize, const QMargins &frame)
+WindowGeometries sharedScreen(const QRect &screen, const QSize &mountSize, const QMargins &frame)
 {
     const int across = frame.left() + frame.right();
     const QSize room = screen.size() - QSize(across, frame.top() + frame.bottom());
@@ -42,7 +44,7 @@ Places sharedScreen(const QRect &screen, const QSize &mountSize, const QMargins 
     return {true, QRect(screen.topLeft(), program), QRect(next, mount)};
 }
 
-QByteArray placesText(const Places &places)
+QByteArray geometriesText(const WindowGeometries &places)
 {
     return (places.beside ? "beside " : "behind ") + geometryText(places.program) + ' ' +
            geometryText(places.mount);
@@ -66,3 +68,4 @@ QMargins windowFrame()
     }
     return margins();
 }
+} // namespace virtualmount

@@ -25,11 +25,6 @@ using virtualsky::SkyState;
 
 constexpr int lockMilliseconds = 500; // a write takes a few milliseconds
 
-QString translated(const char *source)
-{
-    return QCoreApplication::translate("SkyDocument", source);
-}
-
 struct FileText {
     bool exists = false;
     std::string text;
@@ -38,21 +33,14 @@ struct FileText {
 
 FileText readFile(const QString &path)
 {
-    const QFileInfo info(path);
-    if (!info.exists())
+    if (!QFileInfo::exists(path))
         return {};
-    // Opening a pipe would block the window.
-    if (!info.isFile())
-        return {true, {}, translated(QT_TRANSLATE_NOOP("SkyDocument", "not an ordinary file"))};
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
+    try {
+        return {true, virtualsky::readText(QFile::encodeName(path).toStdString()), {}};
+    } catch (const virtualsky::SkyFileError &error) {
         // Removed or replaced in between: the next reload reports it.
-        return QFileInfo::exists(path) ? FileText{true, {}, file.errorString()} : FileText{};
+        return QFileInfo::exists(path) ? FileText{true, {}, faultText(error)} : FileText{};
     }
-    const QByteArray bytes = file.read(qint64(virtualsky::largestSkyFile) + 1);
-    if (bytes.size() > qint64(virtualsky::largestSkyFile))
-        return {true, {}, translated(QT_TRANSLATE_NOOP("SkyDocument", "longer than 64 KiB"))};
-    return {true, bytes.toStdString(), {}};
 }
 
 /// Held from reading to writing. If no lock file can be created, the file cannot be written either,
@@ -127,7 +115,7 @@ bool SkyDocument::write(const std::string &newText)
     try {
         const SkyState written = virtualsky::parse(newText);
         if (!virtualsky::writeAtomically(QFile::encodeName(path).toStdString(), newText))
-            throw virtualsky::SkyFileError(0, {}, qt_error_string(errno).toStdString());
+            throw virtualsky::SkyFileError(0, {}, virtualsky::SkyFault::ofSystem(errno));
         good = written;
     } catch (const virtualsky::SkyFileError &error) {
         lastWriteFault = faultText(error);
@@ -144,7 +132,7 @@ bool SkyDocument::mayWrite(bool locked)
     lastWriteFault.clear();
     if (!locked)
         lastWriteFault =
-            translated(QT_TRANSLATE_NOOP("SkyDocument", "another program holds it locked"));
+            QCoreApplication::translate("SkyDocument", "another program holds it locked");
     return locked;
 }
 

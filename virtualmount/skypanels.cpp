@@ -16,8 +16,8 @@
 #include <QSlider>
 #include <cmath>
 
-using namespace virtualmount;
-
+namespace virtualmount
+{
 /// A slider for a number of the state.
 struct MountWindow::Slider {
     double SkyState::*member;
@@ -29,7 +29,7 @@ struct MountWindow::Slider {
 };
 
 /// A coordinate of the site with its direction: north and east are positive.
-struct MountWindow::Place {
+struct MountWindow::Coordinate {
     double SkyState::*member;
     double most; ///< degrees
     const char *name, *label, *positive, *negative, *what, *whichSide;
@@ -47,7 +47,7 @@ QCheckBox *MountWindow::checkBox(const QString &name, const QString &text,
     return box;
 }
 
-void MountWindow::addPlace(QGridLayout &grid, const Place &row)
+void MountWindow::addCoordinate(QGridLayout &grid, const Coordinate &row)
 {
     auto *const box = new QDoubleSpinBox(this);
     nameWidget(*box, QLatin1String(row.name), tr(row.what));
@@ -107,7 +107,7 @@ QWidget *MountWindow::sitePanel()
 {
     auto *const panel = new QGroupBox(tr("Site and time (UTC)"), this);
     QGridLayout &grid = gridIn(*panel);
-    const Place places[] = {
+    const Coordinate coordinates[] = {
         {&SkyState::latitude, 90.0, "latitude", QT_TR_NOOP("&Latitude"), QT_TR_NOOP("North"),
          QT_TR_NOOP("South"), QT_TR_NOOP("Latitude in degrees"),
          QT_TR_NOOP("Latitude: north or south")},
@@ -115,8 +115,8 @@ QWidget *MountWindow::sitePanel()
          QT_TR_NOOP("West"), QT_TR_NOOP("Longitude in degrees"),
          QT_TR_NOOP("Longitude: east or west")},
     };
-    for (const Place &row : places)
-        addPlace(grid, row);
+    for (const Coordinate &row : coordinates)
+        addCoordinate(grid, row);
     auto *const label = new QLabel(tr("&Date"), panel);
     const int line = grid.rowCount();
     QWidget *const edit = timeFields();
@@ -213,3 +213,4 @@ QWidget *MountWindow::faultPanel()
     grid.addWidget(slow, 0, 1);
     return panel;
 }
+} // namespace virtualmount

@@ -29,14 +29,14 @@ public:
     void set(const SkyKey &key, const std::string &value)
     {
         const std::string assignment = std::string(key.name) + (value.empty() ? " =" : " = ");
-        const Place place = find(key);
-        if (place.isThere) {
-            std::string &line = lines[place.line];
+        const KeyLocation found = find(key);
+        if (found.isThere) {
+            std::string &line = lines[found.line];
             line = assignment + value + commentOf(line);
             return;
         }
-        const auto at = lines.begin() + static_cast<std::ptrdiff_t>(place.line);
-        if (place.hasSection)
+        const auto at = lines.begin() + static_cast<std::ptrdiff_t>(found.line);
+        if (found.hasSection)
             lines.insert(at, assignment + value);
         else
             lines.insert(at, {'[' + std::string(key.section) + ']', assignment + value});
@@ -51,7 +51,7 @@ public:
     }
 
 private:
-    struct Place {
+    struct KeyLocation {
         std::size_t line; // of the key, or where to insert it
         bool isThere = false;
         bool hasSection = false;
@@ -68,9 +68,9 @@ private:
         return at == line.npos ? std::string() : "  " + std::string(line.substr(at));
     }
 
-    Place find(const SkyKey &key) const
+    KeyLocation find(const SkyKey &key) const
     {
-        Place place = {lines.size()};
+        KeyLocation location = {lines.size()};
         std::string_view section;
         for (std::size_t i = 0; i < lines.size(); ++i) {
             const std::string_view line = withoutComment(lines[i]);
@@ -80,11 +80,11 @@ private:
                 section = trimmed(line.substr(1, line.size() - 2));
             if (section != key.section)
                 continue;
-            place = {i + 1, false, true};
+            location = {i + 1, false, true};
             if (trimmed(line.substr(0, line.find('='))) == key.name)
                 return {i, true, true};
         }
-        return place;
+        return location;
     }
 
     std::vector<std::string> lines;

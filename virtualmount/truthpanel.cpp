@@ -14,8 +14,8 @@
 #include <QShortcut>
 #include <algorithm>
 
-using namespace virtualmount;
-
+namespace virtualmount
+{
 QWidget *MountWindow::truthPanel()
 {
     auto *const panel = new QGroupBox(this);
@@ -115,3 +115,4 @@ QString MountWindow::hiddenTruthText() const
                                           "“New exercise” moves it away from the pole.")
                                      : tr("What is left of the error is hidden.");
 }
+} // namespace virtualmount

@@ -38,7 +38,7 @@ std::vector<Row> goldenRows()
 }
 } // namespace
 
-class TestApparentPlaces : public QObject
+class ApparentPlacesTest : public QObject
 {
     Q_OBJECT
 
@@ -54,7 +54,7 @@ private slots:
     void catalogueIsOfBothPoles();
 };
 
-void TestApparentPlaces::agreeWithAstropy_data()
+void ApparentPlacesTest::agreeWithAstropy_data()
 {
     QTest::addColumn<int>("row");
     const std::vector<Row> rows = goldenRows();
@@ -63,7 +63,7 @@ void TestApparentPlaces::agreeWithAstropy_data()
         QTest::newRow(rows[i].name.constData()) << int(i);
 }
 
-void TestApparentPlaces::agreeWithAstropy()
+void ApparentPlacesTest::agreeWithAstropy()
 {
     QFETCH(int, row);
     static const std::vector<Row> rows = goldenRows();
@@ -77,7 +77,7 @@ void TestApparentPlaces::agreeWithAstropy()
     QVERIFY2(error < toleranceArcseconds, qPrintable(QString::number(error)));
 }
 
-void TestApparentPlaces::equationOfOriginsAgreesWithAstropy_data()
+void ApparentPlacesTest::equationOfOriginsAgreesWithAstropy_data()
 {
     QTest::addColumn<double>("date");
     QTest::addColumn<double>("wanted");
@@ -87,7 +87,7 @@ void TestApparentPlaces::equationOfOriginsAgreesWithAstropy_data()
             QTest::newRow(row.name.constData()) << row.utcSeconds << row.cirsRa - row.equinoxRa;
 }
 
-void TestApparentPlaces::equationOfOriginsAgreesWithAstropy()
+void ApparentPlacesTest::equationOfOriginsAgreesWithAstropy()
 {
     QFETCH(double, date);
     QFETCH(double, wanted);
@@ -95,7 +95,7 @@ void TestApparentPlaces::equationOfOriginsAgreesWithAstropy()
     QVERIFY(std::abs(std::remainder(difference, 360.0)) * 3600.0 < 0.01);
 }
 
-void TestApparentPlaces::aSiteAddsTheDiurnalAberration_data()
+void ApparentPlacesTest::aSiteAddsTheDiurnalAberration_data()
 {
     QTest::addColumn<double>("latitude");
     QTest::addColumn<double>("most"); // arcseconds: 0.32 on the equator, by the cosine of latitude
@@ -106,7 +106,7 @@ void TestApparentPlaces::aSiteAddsTheDiurnalAberration_data()
     QTest::newRow("pole") << 90.0 << 0.005 << 0.0;
 }
 
-void TestApparentPlaces::aSiteAddsTheDiurnalAberration()
+void ApparentPlacesTest::aSiteAddsTheDiurnalAberration()
 {
     QFETCH(double, latitude);
     QFETCH(double, most);
@@ -119,7 +119,7 @@ void TestApparentPlaces::aSiteAddsTheDiurnalAberration()
     QVERIFY2(shift <= most && shift >= least, qPrintable(QString::number(shift)));
 }
 
-void TestApparentPlaces::earthTurnsOnceInASiderealDay()
+void ApparentPlacesTest::earthTurnsOnceInASiderealDay()
 {
     constexpr double siderealDay = 86164.0905 - 0.0084; // against the stars, not the equinox
     const double date = 1795204800.0;
@@ -127,7 +127,7 @@ void TestApparentPlaces::earthTurnsOnceInASiderealDay()
     QVERIFY(std::abs(std::remainder(turn, 2.0 * pi)) / arcsecond < 0.3);
 }
 
-void TestApparentPlaces::catalogueHasNames()
+void ApparentPlacesTest::catalogueHasNames()
 {
     QCOMPARE(QByteArray(templateStar(false, TemplateStar::B).name), QByteArray("alp UMi, Polaris"));
     QCOMPARE(templateStar(false, TemplateStar::B).hd, 8890);
@@ -135,7 +135,7 @@ void TestApparentPlaces::catalogueHasNames()
     QCOMPARE(templateStar(true, TemplateStar::B).hd, 177482);
 }
 
-void TestApparentPlaces::catalogueIsOfBothPoles()
+void ApparentPlacesTest::catalogueIsOfBothPoles()
 {
     int north = 0;
     int south = 0;
@@ -148,5 +148,5 @@ void TestApparentPlaces::catalogueIsOfBothPoles()
     QCOMPARE(south, 1352);
 }
 
-QTEST_GUILESS_MAIN(TestApparentPlaces)
+QTEST_GUILESS_MAIN(ApparentPlacesTest)
 #include "tst_apparentplaces.moc"

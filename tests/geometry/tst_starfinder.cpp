@@ -40,7 +40,7 @@ cv::Mat skyFrame(int left, int right, double noise, int type = CV_8UC1)
 }
 } // namespace
 
-class TestStarFinder : public QObject
+class StarFinderTest : public QObject
 {
     Q_OBJECT
 
@@ -55,7 +55,7 @@ private slots:
     void brightestInArea();
 };
 
-void TestStarFinder::findsStars_data()
+void StarFinderTest::findsStars_data()
 {
     QTest::addColumn<int>("left");
     QTest::addColumn<int>("right");
@@ -67,7 +67,7 @@ void TestStarFinder::findsStars_data()
     QTest::newRow("three channels") << 20 << 20 << 3.0 << int(CV_8UC3);
 }
 
-void TestStarFinder::findsStars()
+void StarFinderTest::findsStars()
 {
     QFETCH(int, left);
     QFETCH(int, right);
@@ -87,12 +87,12 @@ void TestStarFinder::findsStars()
     }
 }
 
-void TestStarFinder::emptySky_data()
+void StarFinderTest::emptySky_data()
 {
     findsStars_data();
 }
 
-void TestStarFinder::emptySky()
+void StarFinderTest::emptySky()
 {
     QFETCH(int, left);
     QFETCH(int, right);
@@ -102,7 +102,7 @@ void TestStarFinder::emptySky()
 }
 
 /// A hot pixel, and a bright cloud.
-void TestStarFinder::leavesOthersOut()
+void StarFinderTest::leavesOthersOut()
 {
     cv::Mat frame = skyFrame(20, 20, 2.0);
     frame.at<uchar>(60, 60) = 255;
@@ -110,7 +110,7 @@ void TestStarFinder::leavesOthersOut()
     QCOMPARE(int(findStars(frame).size()), 0);
 }
 
-void TestStarFinder::refusesFrames_data()
+void StarFinderTest::refusesFrames_data()
 {
     QTest::addColumn<int>("rows");
     QTest::addColumn<int>("columns");
@@ -122,7 +122,7 @@ void TestStarFinder::refusesFrames_data()
     QTest::newRow("four channels") << 300 << 300 << int(CV_8UC4);
 }
 
-void TestStarFinder::refusesFrames()
+void StarFinderTest::refusesFrames()
 {
     QFETCH(int, rows);
     QFETCH(int, columns);
@@ -138,7 +138,7 @@ void TestStarFinder::refusesFrames()
     }
 }
 
-void TestStarFinder::brightestInArea()
+void StarFinderTest::brightestInArea()
 {
     const std::vector<FieldStar> stars{{{10, 10}, 50}, {{12, 14}, 90}, {{40, 10}, 200}};
     QCOMPARE(brightestIn(stars, QRectF(0, 0, 30, 30)).value(), QPointF(12, 14));
@@ -148,5 +148,5 @@ void TestStarFinder::brightestInArea()
     QVERIFY(!isStarNear(stars, {none, none}, 5.0));
 }
 
-QTEST_GUILESS_MAIN(TestStarFinder)
+QTEST_GUILESS_MAIN(StarFinderTest)
 #include "tst_starfinder.moc"

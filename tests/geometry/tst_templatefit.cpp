@@ -76,7 +76,7 @@ const Rendered &halfASecond(bool south, double gain)
 }
 } // namespace
 
-class TestTemplateFit : public QObject
+class TemplateFitTest : public QObject
 {
     Q_OBJECT
 
@@ -97,13 +97,13 @@ private:
     static void hemispheres();
 };
 
-void TestTemplateFit::initTestCase()
+void TemplateFitTest::initTestCase()
 {
     initialiseResources();
     loadStarCatalogues(QDate(2024, 5, 23));
 }
 
-void TestTemplateFit::hemispheres()
+void TemplateFitTest::hemispheres()
 {
     QTest::addColumn<bool>("south");
     QTest::newRow("north") << false;
@@ -111,7 +111,7 @@ void TestTemplateFit::hemispheres()
 }
 
 /// Around every place of the table the picture has a closed ring of that radius.
-void TestTemplateFit::ringsAreThoseOfTheMask()
+void TemplateFitTest::ringsAreThoseOfTheMask()
 {
     QFETCH(bool, south);
     const QImage mask(south ? ":/images/south_mask.png" : ":/images/north_mask.png");
@@ -133,7 +133,7 @@ void TestTemplateFit::ringsAreThoseOfTheMask()
         }));
 }
 
-void TestTemplateFit::rightOne_data()
+void TemplateFitTest::rightOne_data()
 {
     QTest::addColumn<bool>("south");
     QTest::addColumn<double>("seconds");
@@ -149,7 +149,7 @@ void TestTemplateFit::rightOne_data()
 }
 
 /// Also with an error of a pixel or two and half a degree, as by a careful hand.
-void TestTemplateFit::rightOne()
+void TemplateFitTest::rightOne()
 {
     QFETCH(bool, south);
     QFETCH(double, seconds);
@@ -166,7 +166,7 @@ void TestTemplateFit::rightOne()
         }
 }
 
-void TestTemplateFit::wrongOne_data()
+void TemplateFitTest::wrongOne_data()
 {
     QTest::addColumn<bool>("south");
     QTest::addColumn<QPointF>("slip");
@@ -183,7 +183,7 @@ void TestTemplateFit::wrongOne_data()
     }
 }
 
-void TestTemplateFit::wrongOne()
+void TemplateFitTest::wrongOne()
 {
     QFETCH(bool, south);
     QFETCH(QPointF, slip);
@@ -195,7 +195,7 @@ void TestTemplateFit::wrongOne()
     }
 }
 
-void TestTemplateFit::nothingIsSaidOfFewStars_data()
+void TemplateFitTest::nothingIsSaidOfFewStars_data()
 {
     QTest::addColumn<double>("seconds");
     QTest::addColumn<double>("clouds");
@@ -203,7 +203,7 @@ void TestTemplateFit::nothingIsSaidOfFewStars_data()
     QTest::newRow("overcast") << 0.5 << 1.0;
 }
 
-void TestTemplateFit::nothingIsSaidOfFewStars()
+void TemplateFitTest::nothingIsSaidOfFewStars()
 {
     QFETCH(double, seconds);
     QFETCH(double, clouds);
@@ -217,7 +217,7 @@ void TestTemplateFit::nothingIsSaidOfFewStars()
 }
 
 /// Real pictures of the pole fields; stars A and B from plate solutions.
-void TestTemplateFit::photographs()
+void TemplateFitTest::photographs()
 {
     QFETCH(bool, south);
     const QString path = QStringLiteral(PROJECT_SOURCE_DIR "/../shared/photos/%1_pole.png")
@@ -238,5 +238,5 @@ void TestTemplateFit::photographs()
         QVERIFY2(isMisfit(fit({0, 0}, turn)), qPrintable(text(fit({0, 0}, turn))));
 }
 
-QTEST_GUILESS_MAIN(TestTemplateFit)
+QTEST_GUILESS_MAIN(TemplateFitTest)
 #include "tst_templatefit.moc"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Is every text present in every language, finished, with its placeholders, and really translated?
 #include "core/languages.h"
-#include "core/toolkittexts.h"
+#include "mainwindow/toolkittexts.h"
 #include "resources/resources.h"
 #include "tests/support/catalogues.h"
 
@@ -17,7 +17,7 @@ namespace
 {
 QString sourceFile(const Language &language)
 {
-    const QString name = QFileInfo(language.catalogue).completeBaseName();
+    const QString name = QFileInfo(cataloguePath("lan", language)).completeBaseName();
     return QStringLiteral(PROJECT_SOURCE_DIR "/resources/languages/%1.ts").arg(name);
 }
 
@@ -137,7 +137,7 @@ void CataloguesTest::isCompiledIn()
 {
     QFETCH(int, number);
     QTranslator translator;
-    QVERIFY(translator.load(languages.at(std::size_t(number)).catalogue));
+    QVERIFY(translator.load(cataloguePath("lan", languages.at(std::size_t(number)))));
     QVERIFY(!translator.isEmpty());
 }
 
@@ -145,7 +145,9 @@ void CataloguesTest::hasTheToolkitsTexts()
 {
     QFETCH(int, number);
     QTranslator translator;
-    QVERIFY(translator.load(languages.at(std::size_t(number)).catalogue));
+    QVERIFY(translator.load(cataloguePath("lan", languages.at(std::size_t(number)))));
+    for (const ToolkitText &text : sharedToolkitTexts)
+        QVERIFY2(!translator.translate(text.context, text.text).isEmpty(), text.text);
     for (const ToolkitText &text : toolkitTexts)
         QVERIFY2(!translator.translate(text.context, text.text).isEmpty(), text.text);
 }

@@ -24,11 +24,11 @@
 // The macros must be used in the global namespace.
 static void takeCataloguesAway()
 {
-    Q_CLEANUP_RESOURCE(languages);
+    Q_CLEANUP_RESOURCE(lan_catalogues);
 }
 static void bringCataloguesBack()
 {
-    Q_INIT_RESOURCE(languages);
+    Q_INIT_RESOURCE(lan_catalogues);
 }
 
 namespace
@@ -36,7 +36,7 @@ namespace
 QString in(const Language &language, const char *context, const char *text)
 {
     QTranslator translator;
-    const bool loaded = translator.load(language.catalogue);
+    const bool loaded = translator.load(cataloguePath("lan", language));
     return loaded ? translator.translate(context, text) : QString();
 }
 

@@ -164,7 +164,7 @@ void ToolkitTextsTest::areTranslated()
     left.erase(std::remove_if(left.begin(), left.end(), isShortcut), left.end());
     QCOMPARE(left.join("; "), QString());
     QTranslator catalogue;
-    QVERIFY(catalogue.load(languages.at(std::size_t(number)).catalogue));
+    QVERIFY(catalogue.load(cataloguePath("lan", languages.at(std::size_t(number)))));
     for (const auto &[context, text] : shownTexts)
         QVERIFY2(seen.contains(catalogue.translate(context, text)), text);
 }

@@ -45,7 +45,7 @@ QJsonObject objectOf(const PictureReport &report)
 }
 } // namespace
 
-class TestCommandLine : public QObject
+class CommandLineTest : public QObject
 {
     Q_OBJECT
 
@@ -72,7 +72,7 @@ private slots:
     void fieldsInJson();
 };
 
-void TestCommandLine::goodLines_data()
+void CommandLineTest::goodLines_data()
 {
     QTest::addColumn<QString>("line");
     QTest::addColumn<int>("images");
@@ -93,7 +93,7 @@ void TestCommandLine::goodLines_data()
     QTest::newRow("one scale") << "--scale 30.45 30.45 a" << 1 << 0 << 30.45 << false << "";
 }
 
-void TestCommandLine::goodLines()
+void CommandLineTest::goodLines()
 {
     QFETCH(QString, line);
     QFETCH(int, images);
@@ -113,7 +113,7 @@ void TestCommandLine::goodLines()
     QCOMPARE(QString::fromStdString(wishes.picture), picture);
 }
 
-void TestCommandLine::misuse_data()
+void CommandLineTest::misuse_data()
 {
     QTest::addColumn<QString>("line");
     QTest::addColumn<QByteArray>("word");
@@ -137,7 +137,7 @@ void TestCommandLine::misuse_data()
     row("two pictures to draw", "--picture o.png a.png b.png", "one IMAGE");
 }
 
-void TestCommandLine::misuse()
+void CommandLineTest::misuse()
 {
     QFETCH(QString, line);
     QFETCH(QByteArray, word);
@@ -146,7 +146,7 @@ void TestCommandLine::misuse()
     QVERIFY2(QByteArray::fromStdString(wishes.complaint).contains(word), wishes.complaint.c_str());
 }
 
-void TestCommandLine::isoDates_data()
+void CommandLineTest::isoDates_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<double>("seconds"); // -1: none
@@ -158,14 +158,14 @@ void TestCommandLine::isoDates_data()
     QTest::newRow("a tail") << "2026-11-20T20:00:00Zz" << -1.0;
 }
 
-void TestCommandLine::isoDates()
+void CommandLineTest::isoDates()
 {
     QFETCH(QString, text);
     QFETCH(double, seconds);
     QCOMPARE(parseIsoDate(text.toStdString()).value_or(-1.0), seconds);
 }
 
-void TestCommandLine::datesOfPictures_data()
+void CommandLineTest::datesOfPictures_data()
 {
     QTest::addColumn<double>("seconds"); // -1: none
     QFile file(folder + "dates.csv");
@@ -178,7 +178,7 @@ void TestCommandLine::datesOfPictures_data()
     }
 }
 
-void TestCommandLine::datesOfPictures()
+void CommandLineTest::datesOfPictures()
 {
     QFETCH(double, seconds);
     const QByteArray bytes = bytesOf(QTest::currentDataTag());
@@ -189,7 +189,7 @@ void TestCommandLine::datesOfPictures()
     QCOMPARE(picture.date.value_or(-1.0), seconds);
 }
 
-void TestCommandLine::localTimeWithoutOffset()
+void CommandLineTest::localTimeWithoutOffset()
 {
     qputenv("TZ", "EST5");
     tzset();
@@ -201,7 +201,7 @@ void TestCommandLine::localTimeWithoutOffset()
     QCOMPARE(local, 1418247015.0 + 5 * 3600);
 }
 
-void TestCommandLine::damagedFiles()
+void CommandLineTest::damagedFiles()
 {
     std::mt19937 random(3);
     for (const char *name :
@@ -220,7 +220,7 @@ void TestCommandLine::damagedFiles()
     }
 }
 
-void TestCommandLine::unreadableFiles_data()
+void CommandLineTest::unreadableFiles_data()
 {
     QTest::addColumn<QString>("path");
     QTest::newRow("absent") << folder + "absent.png";
@@ -231,7 +231,7 @@ void TestCommandLine::unreadableFiles_data()
     QTest::newRow("no name") << "";
 }
 
-void TestCommandLine::unreadableFiles()
+void CommandLineTest::unreadableFiles()
 {
     QFETCH(QString, path);
     const PictureFile picture = readPicture(path.toStdString());
@@ -239,7 +239,7 @@ void TestCommandLine::unreadableFiles()
     QVERIFY(!picture.complaint.empty());
 }
 
-void TestCommandLine::namesInJson_data()
+void CommandLineTest::namesInJson_data()
 {
     QTest::addColumn<QByteArray>("name");
     QTest::addColumn<QString>("written");
@@ -253,7 +253,7 @@ void TestCommandLine::namesInJson_data()
                                                    "\xef\xbf\xbd\xef\xbf\xbd");
 }
 
-void TestCommandLine::namesInJson()
+void CommandLineTest::namesInJson()
 {
     QFETCH(QByteArray, name);
     QFETCH(QString, written);
@@ -263,7 +263,7 @@ void TestCommandLine::namesInJson()
     QCOMPARE(objectOf(report)["file"].toString(), written);
 }
 
-void TestCommandLine::fieldsInJson()
+void CommandLineTest::fieldsInJson()
 {
     PictureReport report;
     report.file = "a.png";
@@ -297,5 +297,5 @@ void TestCommandLine::fieldsInJson()
     QCOMPARE(known["mirrored"], QJsonValue(true));
 }
 
-QTEST_GUILESS_MAIN(TestCommandLine)
+QTEST_GUILESS_MAIN(CommandLineTest)
 #include "tst_commandline.moc"

@@ -58,7 +58,7 @@ double distanceToTruth(const QJsonObject &found, const RandomSky &of)
 }
 } // namespace
 
-class TestRecogniseCommand : public QObject
+class RecogniseCommandTest : public QObject
 {
     Q_OBJECT
 
@@ -83,7 +83,7 @@ private:
     QString place(const QString &name) const { return scratch.filePath(name); }
 };
 
-void TestRecogniseCommand::initTestCase()
+void RecogniseCommandTest::initTestCase()
 {
     QVERIFY(scratch.isValid());
     SkyPainter painter;
@@ -104,7 +104,7 @@ void TestRecogniseCommand::initTestCase()
         cv::imwrite(place("black.png").toStdString(), cv::Mat(480, 640, CV_8UC1, cv::Scalar(0))));
 }
 
-void TestRecogniseCommand::formats_data()
+void RecogniseCommandTest::formats_data()
 {
     QTest::addColumn<bool>("south");
     QTest::addColumn<double>("most"); // arcseconds
@@ -114,7 +114,7 @@ void TestRecogniseCommand::formats_data()
     QTest::newRow("south.png") << true << 3.0;
 }
 
-void TestRecogniseCommand::formats()
+void RecogniseCommandTest::formats()
 {
     QFETCH(bool, south);
     QFETCH(double, most);
@@ -135,7 +135,7 @@ void TestRecogniseCommand::formats()
     QVERIFY(object["seconds"].toDouble() > 0.0);
 }
 
-void TestRecogniseCommand::sentences()
+void RecogniseCommandTest::sentences()
 {
     const Outcome found = run({"--date", date, place("north.png"), place("black.png")});
     QCOMPARE(found.status, 1);
@@ -146,7 +146,7 @@ void TestRecogniseCommand::sentences()
              lines[1].constData());
 }
 
-void TestRecogniseCommand::theDateMatters()
+void RecogniseCommandTest::theDateMatters()
 {
     const QJsonObject right = run({"--json", "--date", date, place("north.png")}).object();
     const QJsonObject today = run({"--json", place("north.png")}).object();
@@ -155,7 +155,7 @@ void TestRecogniseCommand::theDateMatters()
     QVERIFY(distanceToTruth(today, sky(false)) > 60.0);
 }
 
-void TestRecogniseCommand::scaleAndHemisphereNarrowTheSearch_data()
+void RecogniseCommandTest::scaleAndHemisphereNarrowTheSearch_data()
 {
     QTest::addColumn<QStringList>("options");
     QTest::addColumn<int>("status");
@@ -165,7 +165,7 @@ void TestRecogniseCommand::scaleAndHemisphereNarrowTheSearch_data()
     QTest::newRow("wrong pole") << QStringList{"--hemisphere", "south"} << 1;
 }
 
-void TestRecogniseCommand::scaleAndHemisphereNarrowTheSearch()
+void RecogniseCommandTest::scaleAndHemisphereNarrowTheSearch()
 {
     QFETCH(QStringList, options);
     QFETCH(int, status);
@@ -175,7 +175,7 @@ void TestRecogniseCommand::scaleAndHemisphereNarrowTheSearch()
     QCOMPARE(found.object()["recognised"], QJsonValue(status == 0));
 }
 
-void TestRecogniseCommand::oneBadPictureStopsNothing()
+void RecogniseCommandTest::oneBadPictureStopsNothing()
 {
     const QString absent = place("absent.png");
     const Outcome found =
@@ -190,7 +190,7 @@ void TestRecogniseCommand::oneBadPictureStopsNothing()
     QVERIFY(found.object(2)["reason"].toString().contains("black"));
 }
 
-void TestRecogniseCommand::statusOfMisuse()
+void RecogniseCommandTest::statusOfMisuse()
 {
     const Outcome found = run({"--frob"});
     QCOMPARE(found.status, 2);
@@ -198,7 +198,7 @@ void TestRecogniseCommand::statusOfMisuse()
     QVERIFY(found.errors.startsWith("quorvandel-recognise: There is no option --frob."));
 }
 
-void TestRecogniseCommand::helpNamesEveryOption()
+void RecogniseCommandTest::helpNamesEveryOption()
 {
     const Outcome found = run({"--help"});
     QCOMPARE(found.status, 0);
@@ -213,7 +213,7 @@ void TestRecogniseCommand::helpNamesEveryOption()
     QVERIFY(run({"--version"}).output.startsWith("quorvandel-recognise "));
 }
 
-void TestRecogniseCommand::pictureIsDrawn()
+void RecogniseCommandTest::pictureIsDrawn()
 {
     const QString drawn = place("drawn.png");
     const Outcome found = run({"--json", "--date", date, "--picture", drawn, place("north.png")});
@@ -235,7 +235,7 @@ void TestRecogniseCommand::pictureIsDrawn()
     QVERIFY2(green > 20 * object["matched"].toInt(), qPrintable(QString::number(green)));
 }
 
-void TestRecogniseCommand::pictureThatCannotBeWritten()
+void RecogniseCommandTest::pictureThatCannotBeWritten()
 {
     for (const char *name : {"absent/drawn.png", "drawn.unknown"}) {
         const Outcome found = run({"--date", date, "--picture", place(name), place("north.png")});
@@ -244,7 +244,7 @@ void TestRecogniseCommand::pictureThatCannotBeWritten()
     }
 }
 
-void TestRecogniseCommand::photographs_data()
+void RecogniseCommandTest::photographs_data()
 {
     QTest::addColumn<double>("x");
     QTest::addColumn<double>("y");
@@ -254,7 +254,7 @@ void TestRecogniseCommand::photographs_data()
     QTest::newRow("south") << 764.32 << 333.89 << 0.6;
 }
 
-void TestRecogniseCommand::photographs()
+void RecogniseCommandTest::photographs()
 {
     QFETCH(double, x);
     QFETCH(double, y);
@@ -271,5 +271,5 @@ void TestRecogniseCommand::photographs()
     QVERIFY2(off < most, qPrintable(QString::number(off)));
 }
 
-QTEST_GUILESS_MAIN(TestRecogniseCommand)
+QTEST_GUILESS_MAIN(RecogniseCommandTest)
 #include "tst_recognisecommand.moc"

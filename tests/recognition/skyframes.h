@@ -2,6 +2,8 @@
 // Frames of the virtual camera, what is recognised in them, and what is true.
 #pragma once
 
+#include <QTest>
+#include <cmath>
 #include <opencv2/core.hpp>
 
 #include "recognition/extraction.h"
@@ -58,5 +60,35 @@ inline double claimed(const recognition::PixelPlace &place, const recognition::C
 inline double error(const recognition::PixelPlace &place, const virtualsky::Point &truth)
 {
     return virtualsky::pixelScale * std::hypot(place.x - truth.x, place.y - truth.y);
+}
+
+/// How well the results of several frames agree with the truth.
+class Agreement
+{
+public:
+    void add(const recognition::PixelPlace &place, const recognition::Covariance &covariance,
+             const virtualsky::Point &truth)
+    {
+        squares += std::pow(error(place, truth), 2);
+        inside += claimed(place, covariance, truth) <= 4.0;
+        ++count;
+    }
+    double rms() const { return std::sqrt(squares / count); } ///< arcseconds
+    int withinTwoSigma() const { return inside; }
+
+private:
+    double squares = 0.0;
+    int inside = 0, count = 0;
+};
+
+/// Rows for both hemispheres and two dates.
+inline void addSkies()
+{
+    QTest::addColumn<bool>("south");
+    QTest::addColumn<double>("date");
+    QTest::newRow("north 2026") << false << november2026;
+    QTest::newRow("south 2026") << true << november2026;
+    QTest::newRow("north 2040") << false << november2040;
+    QTest::newRow("south 2040") << true << november2040;
 }
 } // namespace skyframes

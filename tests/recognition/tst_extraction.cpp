@@ -77,7 +77,7 @@ bool isBehindSatellite(const QString &name, const Golden &star)
 }
 } // namespace
 
-class TestExtraction : public QObject
+class ExtractionTest : public QObject
 {
     Q_OBJECT
 
@@ -99,7 +99,7 @@ private:
     void clearFrames();
 };
 
-void TestExtraction::clearFrames()
+void ExtractionTest::clearFrames()
 {
     QTest::addColumn<QString>("name");
     for (const char *name :
@@ -108,12 +108,12 @@ void TestExtraction::clearFrames()
         QTest::newRow(name) << name;
 }
 
-void TestExtraction::starsAreFound_data()
+void ExtractionTest::starsAreFound_data()
 {
     clearFrames();
 }
 
-void TestExtraction::starsAreFound()
+void ExtractionTest::starsAreFound()
 {
     QFETCH(QString, name);
     // The structure of clouds counts as noise.
@@ -149,12 +149,12 @@ void TestExtraction::starsAreFound()
         [](const DetectedStar &a, const DetectedStar &b) { return a.flux > b.flux; }));
 }
 
-void TestExtraction::placesAreAsExactAsTheNoiseAllows_data()
+void ExtractionTest::placesAreAsExactAsTheNoiseAllows_data()
 {
     clearFrames();
 }
 
-void TestExtraction::placesAreAsExactAsTheNoiseAllows()
+void ExtractionTest::placesAreAsExactAsTheNoiseAllows()
 {
     QFETCH(QString, name);
     const Extraction found = extractStars(frameOf(name));
@@ -175,7 +175,7 @@ void TestExtraction::placesAreAsExactAsTheNoiseAllows()
     QVERIFY2(ratio < 1.5, qPrintable(QStringLiteral("%1 times the bound").arg(ratio)));
 }
 
-void TestExtraction::brightnessAndWidth_data()
+void ExtractionTest::brightnessAndWidth_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<double>("fwhm");
@@ -188,7 +188,7 @@ void TestExtraction::brightnessAndWidth_data()
     QTest::newRow("16 bits") << "sixteenbits" << 2.5;
 }
 
-void TestExtraction::brightnessAndWidth()
+void ExtractionTest::brightnessAndWidth()
 {
     QFETCH(QString, name);
     QFETCH(double, fwhm);
@@ -215,7 +215,7 @@ void TestExtraction::brightnessAndWidth()
              qPrintable(QString::number(significance / compared)));
 }
 
-void TestExtraction::saturatedStarsAreMarked_data()
+void ExtractionTest::saturatedStarsAreMarked_data()
 {
     QTest::addColumn<QString>("name");
     QTest::newRow("8 bits") << "saturated";
@@ -223,7 +223,7 @@ void TestExtraction::saturatedStarsAreMarked_data()
     QTest::newRow("none is") << "narrow";
 }
 
-void TestExtraction::saturatedStarsAreMarked()
+void ExtractionTest::saturatedStarsAreMarked()
 {
     QFETCH(QString, name);
     const Extraction found = extractStars(frameOf(name));
@@ -240,7 +240,7 @@ void TestExtraction::saturatedStarsAreMarked()
     QVERIFY2((marked > 0) == (name != "narrow"), qPrintable(QString::number(marked)));
 }
 
-void TestExtraction::framesOfNoUse_data()
+void ExtractionTest::framesOfNoUse_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<ExtractionStatus>("status");
@@ -256,7 +256,7 @@ void TestExtraction::framesOfNoUse_data()
                               << QByteArray("does not look like the sky");
 }
 
-void TestExtraction::framesOfNoUse()
+void ExtractionTest::framesOfNoUse()
 {
     QFETCH(QString, name);
     QFETCH(ExtractionStatus, status);
@@ -271,7 +271,7 @@ void TestExtraction::framesOfNoUse()
         QVERIFY2(std::abs(found.fwhm - 16.0) < 1.6, qPrintable(QString::number(found.fwhm)));
 }
 
-void TestExtraction::oneStarIsMeasured_data()
+void ExtractionTest::oneStarIsMeasured_data()
 {
     QTest::addColumn<QString>("name");
     for (const char *name :
@@ -279,7 +279,7 @@ void TestExtraction::oneStarIsMeasured_data()
         QTest::newRow(name) << name;
 }
 
-void TestExtraction::oneStarIsMeasured()
+void ExtractionTest::oneStarIsMeasured()
 {
     QFETCH(QString, name);
     const cv::Mat frame = frameOf(name);
@@ -301,5 +301,5 @@ void TestExtraction::oneStarIsMeasured()
     QVERIFY2(ratio < 1.6, qPrintable(QStringLiteral("%1 times the bound").arg(ratio)));
 }
 
-QTEST_GUILESS_MAIN(TestExtraction)
+QTEST_GUILESS_MAIN(ExtractionTest)
 #include "tst_extraction.moc"

@@ -80,7 +80,7 @@ void fillAtRandom(cv::Mat &frame, std::mt19937 &random)
 }
 } // namespace
 
-class TestExtractionFrames : public QObject
+class ExtractionFramesTest : public QObject
 {
     Q_OBJECT
 
@@ -103,7 +103,7 @@ private slots:
     void randomFrames();
 };
 
-void TestExtractionFrames::framesThatCannotBeUsed_data()
+void ExtractionFramesTest::framesThatCannotBeUsed_data()
 {
     QTest::addColumn<cv::Mat>("frame");
     QTest::addColumn<ExtractionStatus>("status");
@@ -122,7 +122,7 @@ void TestExtractionFrames::framesThatCannotBeUsed_data()
         << cv::Mat(5000, 5000, CV_8UC1, cv::Scalar(1)) << ExtractionStatus::TooLarge;
 }
 
-void TestExtractionFrames::framesThatCannotBeUsed()
+void ExtractionFramesTest::framesThatCannotBeUsed()
 {
     QFETCH(cv::Mat, frame);
     QFETCH(ExtractionStatus, status);
@@ -133,7 +133,7 @@ void TestExtractionFrames::framesThatCannotBeUsed()
     QVERIFY(!measureStar(frame, 15, 15, 8));
 }
 
-void TestExtractionFrames::emptyPictures_data()
+void ExtractionFramesTest::emptyPictures_data()
 {
     QTest::addColumn<int>("type");
     QTest::addColumn<int>("value");
@@ -149,7 +149,7 @@ void TestExtractionFrames::emptyPictures_data()
     QTest::newRow("noise cut off at 0") << CV_8UC1 << 0 << 6 << ExtractionStatus::TooFewStars;
 }
 
-void TestExtractionFrames::emptyPictures()
+void ExtractionFramesTest::emptyPictures()
 {
     QFETCH(int, type);
     QFETCH(int, value);
@@ -163,7 +163,7 @@ void TestExtractionFrames::emptyPictures()
     QVERIFY(found.stars.size() < 6);
 }
 
-void TestExtractionFrames::brightSkyKeepsItsStars()
+void ExtractionFramesTest::brightSkyKeepsItsStars()
 {
     // A third of the sky's own pixels are at full scale.
     cv::Mat1w field = starField(640, 480);
@@ -175,7 +175,7 @@ void TestExtractionFrames::brightSkyKeepsItsStars()
     QVERIFY2(found.stars.size() > 150, qPrintable(QString::number(found.stars.size())));
 }
 
-void TestExtractionFrames::sizes_data()
+void ExtractionFramesTest::sizes_data()
 {
     QTest::addColumn<int>("width");
     QTest::addColumn<int>("height");
@@ -188,7 +188,7 @@ void TestExtractionFrames::sizes_data()
     QTest::newRow("24 megapixels") << 6000 << 4000;
 }
 
-void TestExtractionFrames::sizes()
+void ExtractionFramesTest::sizes()
 {
     QFETCH(int, width);
     QFETCH(int, height);
@@ -214,7 +214,7 @@ void TestExtractionFrames::sizes()
     QVERIFY(int(found.stars.size()) <= expected + 2 + expected / 200);
 }
 
-void TestExtractionFrames::paddedRowsMakeNoDifference()
+void ExtractionFramesTest::paddedRowsMakeNoDifference()
 {
     const cv::Mat1w frame = starField(400, 300);
     cv::Mat1w wide(340, 500, std::uint16_t(60000));
@@ -230,7 +230,7 @@ void TestExtractionFrames::paddedRowsMakeNoDifference()
     }
 }
 
-void TestExtractionFrames::channelsMakeNoDifference()
+void ExtractionFramesTest::channelsMakeNoDifference()
 {
     const cv::Mat1w frame = starField(400, 300);
     cv::Mat colour;
@@ -244,7 +244,7 @@ void TestExtractionFrames::channelsMakeNoDifference()
     }
 }
 
-void TestExtractionFrames::noMoreStarsThanWanted()
+void ExtractionFramesTest::noMoreStarsThanWanted()
 {
     ExtractionOptions options;
     options.mostStars = 12;
@@ -255,7 +255,7 @@ void TestExtractionFrames::noMoreStarsThanWanted()
         QVERIFY2(star.x > 700, qPrintable(QString::number(star.x)));
 }
 
-void TestExtractionFrames::starsAtTheEdgeAreLeftOut()
+void ExtractionFramesTest::starsAtTheEdgeAreLeftOut()
 {
     cv::Mat1w frame = starField(400, 300);
     const std::size_t before = extractStars(frame).stars.size();
@@ -265,7 +265,7 @@ void TestExtractionFrames::starsAtTheEdgeAreLeftOut()
     QCOMPARE(extractStars(frame).stars.size(), before);
 }
 
-void TestExtractionFrames::hotPixelsAreNoStars()
+void ExtractionFramesTest::hotPixelsAreNoStars()
 {
     cv::Mat1w frame = noisySky(1280, 960, 5);
     std::mt19937 random(11);
@@ -280,7 +280,7 @@ void TestExtractionFrames::hotPixelsAreNoStars()
     QVERIFY(!measureStar(lone, 30, 30, 10));
 }
 
-void TestExtractionFrames::measuringNeedsAStar_data()
+void ExtractionFramesTest::measuringNeedsAStar_data()
 {
     QTest::addColumn<double>("x");
     QTest::addColumn<double>("y");
@@ -300,7 +300,7 @@ void TestExtractionFrames::measuringNeedsAStar_data()
     QTest::newRow("at the edge") << 0.0 << 100.0 << 8 << false;
 }
 
-void TestExtractionFrames::measuringNeedsAStar()
+void ExtractionFramesTest::measuringNeedsAStar()
 {
     QFETCH(double, x);
     QFETCH(double, y);
@@ -315,7 +315,7 @@ void TestExtractionFrames::measuringNeedsAStar()
         QVERIFY(std::hypot(star->x - 60.3, star->y - 60.7) < 0.03);
 }
 
-void TestExtractionFrames::manyThreads()
+void ExtractionFramesTest::manyThreads()
 {
     const cv::Mat1w frame = starField(500, 400);
     const Extraction alone = extractStars(frame);
@@ -335,7 +335,7 @@ void TestExtractionFrames::manyThreads()
     }
 }
 
-void TestExtractionFrames::randomFrames()
+void ExtractionFramesTest::randomFrames()
 {
     constexpr int types[] = {CV_8UC1, CV_8UC3, CV_16UC1, CV_16UC3};
     std::mt19937 random(2026);
@@ -351,5 +351,5 @@ void TestExtractionFrames::randomFrames()
     }
 }
 
-QTEST_GUILESS_MAIN(TestExtractionFrames)
+QTEST_GUILESS_MAIN(ExtractionFramesTest)
 #include "tst_extractionframes.moc"

@@ -23,7 +23,7 @@ constexpr int firstSky = 5000, firstFalse = 50000; // others than the recorded o
 constexpr int enoughStars = 20;
 } // namespace
 
-class TestManySkies : public QObject
+class ManySkiesTest : public QObject
 {
     Q_OBJECT
 
@@ -34,7 +34,7 @@ private slots:
     void theCountIsThatOfTheSky();
 };
 
-void TestManySkies::everySkyIsRecognised()
+void ManySkiesTest::everySkyIsRecognised()
 {
     SkyPainter painter;
     int enough = 0, inside = 0;
@@ -64,14 +64,14 @@ void TestManySkies::everySkyIsRecognised()
              qPrintable(QStringLiteral("%1 of %2").arg(inside).arg(enough)));
 }
 
-void TestManySkies::nothingElseIs_data()
+void ManySkiesTest::nothingElseIs_data()
 {
     QTest::addColumn<int>("kind");
     for (int kind = 0; kind < falseKinds; ++kind)
         QTest::newRow(nameOf(FalseKind(kind)).c_str()) << kind;
 }
 
-void TestManySkies::nothingElseIs()
+void ManySkiesTest::nothingElseIs()
 {
     QFETCH(int, kind);
     for (int number = firstFalse + kind; number < firstFalse + falseFrames; number += falseKinds) {
@@ -89,7 +89,7 @@ void TestManySkies::nothingElseIs()
 }
 
 /// The count that the bars go by, against a clear sky's frame: most counted stars are found.
-void TestManySkies::theCountIsThatOfTheSky()
+void ManySkiesTest::theCountIsThatOfTheSky()
 {
     SkyPainter painter;
     const RandomSky sky = plainSky(1, false, 2026);
@@ -104,5 +104,5 @@ void TestManySkies::theCountIsThatOfTheSky()
              qPrintable(QStringLiteral("%1 found, %2 counted").arg(found).arg(counted)));
 }
 
-QTEST_GUILESS_MAIN(TestManySkies)
+QTEST_GUILESS_MAIN(ManySkiesTest)
 #include "tst_manyskies.moc"

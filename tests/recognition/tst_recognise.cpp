@@ -36,7 +36,7 @@ const Field &fieldNamed(const char *name)
 }
 } // namespace
 
-class TestRecognise : public QObject
+class RecogniseTest : public QObject
 {
     Q_OBJECT
 
@@ -58,7 +58,7 @@ private slots:
     void theAcceptedChanceIsHeeded();
 };
 
-void TestRecognise::blind_data()
+void RecogniseTest::blind_data()
 {
     QTest::addColumn<int>("field");
     QCOMPARE(goldenfields::all().size(), std::size_t(14));
@@ -66,7 +66,7 @@ void TestRecognise::blind_data()
         QTest::newRow(goldenfields::all()[i].name.constData()) << int(i);
 }
 
-void TestRecognise::blind()
+void RecogniseTest::blind()
 {
     QFETCH(int, field);
     const Field &golden = goldenfields::all()[std::size_t(field)];
@@ -88,12 +88,12 @@ void TestRecognise::blind()
     QCOMPARE(found.extracted, golden.stars.size());
 }
 
-void TestRecognise::starsAreNamedRightly_data()
+void RecogniseTest::starsAreNamedRightly_data()
 {
     blind_data();
 }
 
-void TestRecognise::starsAreNamedRightly()
+void RecogniseTest::starsAreNamedRightly()
 {
     QFETCH(int, field);
     const Field &golden = goldenfields::all()[std::size_t(field)];
@@ -108,12 +108,12 @@ void TestRecognise::starsAreNamedRightly()
     QVERIFY2(right >= 9 * real / 10, qPrintable(QStringLiteral("%1 of %2").arg(right).arg(real)));
 }
 
-void TestRecognise::mappingGoesBothWays_data()
+void RecogniseTest::mappingGoesBothWays_data()
 {
     blind_data();
 }
 
-void TestRecognise::mappingGoesBothWays()
+void RecogniseTest::mappingGoesBothWays()
 {
     QFETCH(int, field);
     const Field &golden = goldenfields::all()[std::size_t(field)];
@@ -127,7 +127,7 @@ void TestRecognise::mappingGoesBothWays()
         }
 }
 
-void TestRecognise::whatIsKnownIsHeeded_data()
+void RecogniseTest::whatIsKnownIsHeeded_data()
 {
     QTest::addColumn<QString>("field");
     QTest::addColumn<int>("hemisphere");
@@ -150,7 +150,7 @@ void TestRecognise::whatIsKnownIsHeeded_data()
     QTest::newRow("scale too small") << "finder north" << both << -1 << 2.0 << 30.0 << false;
 }
 
-void TestRecognise::whatIsKnownIsHeeded()
+void RecogniseTest::whatIsKnownIsHeeded()
 {
     QFETCH(QString, field);
     QFETCH(int, hemisphere);
@@ -172,7 +172,7 @@ void TestRecognise::whatIsKnownIsHeeded()
 
 // 200 fields with new centroid errors: as many errors inside the two-sigma ellipse as a sound claim
 // has there, 86 % if it were exact and more because it keeps a reserve.
-void TestRecognise::claimCoversTheError()
+void RecogniseTest::claimCoversTheError()
 {
     Field field = fieldNamed("finder north");
     const std::vector<DetectedStar> exact = field.stars;
@@ -200,7 +200,7 @@ void TestRecognise::claimCoversTheError()
 
 // At 40 degrees of latitude the air lifts the pole by 67 arcsec. The list knows no air, so that a
 // recognition that is told of air puts the Earth's pole below where the stars turn.
-void TestRecognise::refractionLiftsThePole()
+void RecogniseTest::refractionLiftsThePole()
 {
     const Field &field = fieldNamed("finder north");
     RecognitionOptions options = optionsOf(field);
@@ -214,7 +214,7 @@ void TestRecognise::refractionLiftsThePole()
     QVERIFY2(std::abs(shift - 67.0) < 3.0, qPrintable(QString::number(shift)));
 }
 
-void TestRecognise::failuresHaveReasons_data()
+void RecogniseTest::failuresHaveReasons_data()
 {
     QTest::addColumn<int>("stars");
     QTest::addColumn<int>("width");
@@ -237,7 +237,7 @@ void TestRecognise::failuresHaveReasons_data()
                              << invalid << "out of range";
 }
 
-void TestRecognise::failuresHaveReasons()
+void RecogniseTest::failuresHaveReasons()
 {
     QFETCH(int, stars);
     QFETCH(int, width);
@@ -258,7 +258,7 @@ void TestRecognise::failuresHaveReasons()
     QVERIFY2(QString::fromStdString(reason(result)).contains(advice), reason(result).c_str());
 }
 
-void TestRecognise::unusableStarsAreIgnored()
+void RecogniseTest::unusableStarsAreIgnored()
 {
     Field field = fieldNamed("finder south");
     const double nan = std::numeric_limits<double>::quiet_NaN();
@@ -279,7 +279,7 @@ void TestRecognise::unusableStarsAreIgnored()
 }
 
 // Stars without any error leave no residuals to judge weights by.
-void TestRecognise::exactPlacesAreNoTrouble()
+void RecogniseTest::exactPlacesAreNoTrouble()
 {
     const Field &field = fieldNamed("finder north");
     const Recognition first = recognised(field, optionsOf(field));
@@ -295,7 +295,7 @@ void TestRecognise::exactPlacesAreNoTrouble()
     QVERIFY(found.poleSigmaArcseconds > 0.1);
 }
 
-void TestRecognise::theAcceptedChanceIsHeeded()
+void RecogniseTest::theAcceptedChanceIsHeeded()
 {
     const Field &field = fieldNamed("few stars");
     RecognitionOptions options = optionsOf(field);
@@ -305,5 +305,5 @@ void TestRecognise::theAcceptedChanceIsHeeded()
     QVERIFY(recognised(field, options).status == RecognitionStatus::NoMatch);
 }
 
-QTEST_GUILESS_MAIN(TestRecognise)
+QTEST_GUILESS_MAIN(RecogniseTest)
 #include "tst_recognise.moc"

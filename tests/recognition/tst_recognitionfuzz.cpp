@@ -101,7 +101,7 @@ public:
 };
 } // namespace
 
-class TestRecognitionFuzz : public QObject
+class RecognitionFuzzTest : public QObject
 {
     Q_OBJECT
 
@@ -112,14 +112,14 @@ private slots:
     void spoiltListsOfTheSkyDoNoHarm();
 };
 
-void TestRecognitionFuzz::nothingIsRecognised_data()
+void RecognitionFuzzTest::nothingIsRecognised_data()
 {
     QTest::addColumn<unsigned>("seed");
     QTest::newRow("1") << 1U;
     QTest::newRow("2") << 2U;
 }
 
-void TestRecognitionFuzz::nothingIsRecognised()
+void RecognitionFuzzTest::nothingIsRecognised()
 {
     QFETCH(unsigned, seed);
     Lists lists(seed);
@@ -143,7 +143,7 @@ void TestRecognitionFuzz::nothingIsRecognised()
 
 // As many stars as real fields have, of the same brightnesses and spacing, from elsewhere: each
 // catalogue star of a hemisphere is given another star's right ascension.
-void TestRecognitionFuzz::skiesFarFromThePoleAreNotRecognised()
+void RecognitionFuzzTest::skiesFarFromThePoleAreNotRecognised()
 {
     Lists lists(3);
     const int n = listsToTry(40);
@@ -173,7 +173,7 @@ void TestRecognitionFuzz::skiesFarFromThePoleAreNotRecognised()
 }
 
 // Some values of a real field's stars are spoilt: it may be recognised, and then rightly.
-void TestRecognitionFuzz::spoiltListsOfTheSkyDoNoHarm()
+void RecognitionFuzzTest::spoiltListsOfTheSkyDoNoHarm()
 {
     Lists lists(4);
     const int n = listsToTry(80);
@@ -199,5 +199,5 @@ void TestRecognitionFuzz::spoiltListsOfTheSkyDoNoHarm()
     QVERIFY2(recognised > n / 2, qPrintable(QString::number(recognised)));
 }
 
-QTEST_GUILESS_MAIN(TestRecognitionFuzz)
+QTEST_GUILESS_MAIN(RecognitionFuzzTest)
 #include "tst_recognitionfuzz.moc"

@@ -73,5 +73,5 @@ public:
         if (!QTest::qWaitForWindowActive(&window, patience))
             qFatal("the window does not become active");
     }
-    MountWindow window;
+    virtualmount::MountWindow window;
 };

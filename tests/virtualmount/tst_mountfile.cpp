@@ -41,7 +41,7 @@ void MountFileTest::showsWhatIsThere()
                    "[sensor]\nseeing = 12\n[faults]\nunplugged = true\nslow = 5\n");
     const QByteArray text = file.text();
     const ShownWindow shown(file.path());
-    const MountWindow &window = shown.window;
+    const virtualmount::MountWindow &window = shown.window;
     QCOMPARE(named<QDoubleSpinBox>(window, "latitude").value(), 33.9);
     QCOMPARE(named<QComboBox>(window, "latitudeSide").currentText(), QString("South"));
     QCOMPARE(named<QDoubleSpinBox>(window, "longitude").value(), 18.4);

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 // Does the virtual mount's window show everything in every language, with room for every text?
 #include "app/stylesheet.h"
+#include "core/languages.h"
 #include "resources/resources.h"
 #include "tests/support/catalogues.h"
 #include "tests/support/textroom.h"
 #include "tests/support/toolkitwalk.h"
 #include "tests/virtualmount/mountwindowtest.h"
-#include "virtualmount/languages.h"
 #include "virtualmount/places.h"
 
 #include <QAbstractSpinBox>
@@ -17,8 +17,6 @@
 #include <QSlider>
 #include <QStyleOptionComboBox>
 #include <QStyleOptionGroupBox>
-
-using virtualmount::languages;
 
 namespace
 {
@@ -76,7 +74,7 @@ class MountLanguagesTest : public QObject
 
 private slots:
     void initTestCase();
-    void cleanupTestCase() { QVERIFY(virtualmount::installTranslator(languages.front())); }
+    void cleanupTestCase() { QVERIFY(installTranslator("mount", languages.front())); }
     void everyTextFits_data();
     void everyTextFits();
     void anAlignedStartFits_data() { everyTextFits_data(); }
@@ -96,6 +94,7 @@ private slots:
 void MountLanguagesTest::initTestCase()
 {
     initialiseResources();
+    Q_INIT_RESOURCE(mount_catalogues);
     applyStyleSheet(*qApp, QStringLiteral(":/qss/default.qss"));
     QVERIFY(!qApp->styleSheet().isEmpty());
 }
@@ -110,16 +109,16 @@ void MountLanguagesTest::everyTextFits_data()
 void MountLanguagesTest::everyTextFits()
 {
     QFETCH(int, number);
-    QVERIFY(virtualmount::installTranslator(languages.at(std::size_t(number))));
+    QVERIFY(installTranslator("mount", languages.at(std::size_t(number))));
     const SkyFileFixture file;
     file.writeText("[time]\ndate = 2028-12-28T20:08:58Z\n[mount]\nra_angle = -88.8\n"
                    "bolt_altitude = 0.8\nbolt_azimuth = 9.5\n[weather]\nclouds = 1\nmoon = 1\n"
                    "[sensor]\nseeing = 118\n");
     ShownWindow shown(file.path());
-    MountWindow &window = shown.window;
+    virtualmount::MountWindow &window = shown.window;
     // A screen of 1366 x 768 with a panel.
-    const Places places =
-        sharedScreen(QRect(0, 0, 1366, 728), window.sizeHint(), QMargins(4, 36, 4, 4));
+    const virtualmount::WindowGeometries places = virtualmount::sharedScreen(
+        QRect(0, 0, 1366, 728), window.sizeHint(), QMargins(4, 36, 4, 4));
     QCOMPARE(window.size(), places.mount.size());
     QVERIFY2(places.program.width() >= 900, qPrintable(QString::number(window.width())));
     const auto lacks = [&] {
@@ -146,7 +145,7 @@ void MountLanguagesTest::everyTextFits()
 void MountLanguagesTest::anAlignedStartFits()
 {
     QFETCH(int, number);
-    QVERIFY(virtualmount::installTranslator(languages.at(std::size_t(number))));
+    QVERIFY(installTranslator("mount", languages.at(std::size_t(number))));
     const SkyFileFixture usual;
     const ShownWindow other(usual.path());
     const SkyFileFixture file;
@@ -165,7 +164,7 @@ void MountLanguagesTest::anAlignedStartFits()
 void MountLanguagesTest::mnemonicsAreUnique()
 {
     QFETCH(int, number);
-    QVERIFY(virtualmount::installTranslator(languages.at(std::size_t(number))));
+    QVERIFY(installTranslator("mount", languages.at(std::size_t(number))));
     const SkyFileFixture file;
     const ShownWindow shown(file.path());
     QHash<QString, QString> users;
@@ -195,7 +194,7 @@ void MountLanguagesTest::nothingIsLeftInEnglish_data()
 void MountLanguagesTest::nothingIsLeftInEnglish()
 {
     QFETCH(int, number);
-    QVERIFY(virtualmount::installTranslator(languages.at(std::size_t(number))));
+    QVERIFY(installTranslator("mount", languages.at(std::size_t(number))));
     const SkyFileFixture file;
     file.writeText("[weather]\nclouds = 7\n");
     const ShownWindow shown(file.path());
@@ -215,7 +214,7 @@ void MountLanguagesTest::toolkitTextsAreTranslated()
 {
     QFETCH(int, number);
     LastTranslator last;
-    QVERIFY(virtualmount::installTranslator(languages.at(std::size_t(number))));
+    QVERIFY(installTranslator("mount", languages.at(std::size_t(number))));
     const SkyFileFixture file;
     ShownWindow shown(file.path());
     last.forget(); // English is in the sources, and has no catalogue
@@ -237,7 +236,7 @@ void MountLanguagesTest::toolkitTextsAreTranslated()
 
 void MountLanguagesTest::numbersFollowTheLanguage()
 {
-    QVERIFY(virtualmount::installRequestedLanguage("DE"));
+    QVERIFY(installRequestedLanguage("mount", "DE"));
     const SkyFileFixture file;
     file.writeText("[site]\nlatitude = 48.25\n[mount]\nra_angle = 7.5\ntracking = false\n");
     const ShownWindow shown(file.path());
@@ -255,7 +254,7 @@ void MountLanguagesTest::numbersFollowTheLanguage()
 
 void MountLanguagesTest::rowsHaveNamesForScreenReaders()
 {
-    QVERIFY(virtualmount::installTranslator(languages.front()));
+    QVERIFY(installTranslator("mount", languages.front()));
     const SkyFileFixture file;
     const ShownWindow shown(file.path());
     const auto name = [&](const char *field) {
@@ -291,7 +290,7 @@ void MountLanguagesTest::thePartsOfTheTruth()
     QFETCH(QString, code);
     QFETCH(QString, altitude);
     QFETCH(QString, azimuth);
-    QVERIFY(virtualmount::installTranslator(*virtualmount::languageOf(code)));
+    QVERIFY(installTranslator("mount", languageOf(code)));
     const SkyFileFixture file;
     const ShownWindow shown(file.path()); // 0.6 degrees up and 1 degree west
     clickOn(shown.window, "showTruth");

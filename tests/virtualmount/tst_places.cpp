@@ -4,6 +4,8 @@
 
 #include <QtTest>
 
+using namespace virtualmount;
+
 namespace
 {
 /// With its frame: the requested place is the frame's corner and the size inside the frame.
@@ -49,7 +51,7 @@ void PlacesTest::neitherLeavesTheScreen()
     QFETCH(QRect, screen);
     QFETCH(QMargins, frame);
     QFETCH(bool, beside);
-    const Places places = sharedScreen(screen, QSize(414, 644), frame);
+    const WindowGeometries places = sharedScreen(screen, QSize(414, 644), frame);
     QCOMPARE(places.beside, beside);
     const QRect program = outer(places.program, frame), mount = outer(places.mount, frame);
     QVERIFY(screen.contains(program));
@@ -64,7 +66,8 @@ void PlacesTest::neitherLeavesTheScreen()
 
 void PlacesTest::noMoreThanThePictureNeeds()
 {
-    const Places places = sharedScreen(QRect(0, 0, 3840, 2160), QSize(414, 644), QMargins());
+    const WindowGeometries places =
+        sharedScreen(QRect(0, 0, 3840, 2160), QSize(414, 644), QMargins());
     QCOMPARE(places.program, QRect(0, 0, 1620, 1040));
     QCOMPARE(places.mount.size(), QSize(414, 644));
 }
@@ -81,7 +84,7 @@ void PlacesTest::forScripts()
 {
     QFETCH(bool, beside);
     QFETCH(QByteArray, text);
-    QCOMPARE(placesText({beside, QRect(4, 30, 900, 700), QRect(950, 30, 414, 644)}), text);
+    QCOMPARE(geometriesText({beside, QRect(4, 30, 900, 700), QRect(950, 30, 414, 644)}), text);
 }
 
 QTEST_APPLESS_MAIN(PlacesTest)

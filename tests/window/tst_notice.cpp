@@ -62,7 +62,7 @@ QVector<Notice> allNotices()
 }
 } // namespace
 
-class TestNotice : public QObject
+class NoticeTest : public QObject
 {
     Q_OBJECT
 
@@ -82,7 +82,7 @@ private slots:
     void preparationIsForgotten();
 };
 
-void TestNotice::nothingWhileAllIsWell_data()
+void NoticeTest::nothingWhileAllIsWell_data()
 {
     QTest::addColumn<NoticeFacts>("facts");
     for (int step = 1; step <= wizardStepCount; ++step)
@@ -122,13 +122,13 @@ void TestNotice::nothingWhileAllIsWell_data()
     });
 }
 
-void TestNotice::nothingWhileAllIsWell()
+void NoticeTest::nothingWhileAllIsWell()
 {
     QFETCH(NoticeFacts, facts);
     QCOMPARE(noticeFor(facts), std::optional<Notice>());
 }
 
-void TestNotice::notices_data()
+void NoticeTest::notices_data()
 {
     QTest::addColumn<NoticeFacts>("facts");
     QTest::addColumn<std::optional<Notice>>("expected");
@@ -217,7 +217,7 @@ void TestNotice::notices_data()
         {Code::SettingsNotKept});
 }
 
-void TestNotice::notices()
+void NoticeTest::notices()
 {
     QFETCH(NoticeFacts, facts);
     QFETCH(std::optional<Notice>, expected);
@@ -225,7 +225,7 @@ void TestNotice::notices()
 }
 
 /// With everything wrong at first and one thing fixed after the other, they come in order.
-void TestNotice::theMostUrgentOne()
+void NoticeTest::theMostUrgentOne()
 {
     NoticeFacts f = with(FineAdjustment, [](auto &facts) {
         facts.secondsWithoutPicture = 9;
@@ -263,7 +263,7 @@ void TestNotice::theMostUrgentOne()
     QVERIFY(std::is_sorted(order.begin(), order.end()));
 }
 
-void TestNotice::sentences_data()
+void NoticeTest::sentences_data()
 {
     QTest::addColumn<int>("number");
     for (std::size_t i = 0; i < languages.size(); ++i)
@@ -271,11 +271,11 @@ void TestNotice::sentences_data()
 }
 
 /// In every language each notice is one sentence of its own, its numbers filled in.
-void TestNotice::sentences()
+void NoticeTest::sentences()
 {
     QFETCH(int, number);
     QTranslator translator;
-    QVERIFY(translator.load(languages[std::size_t(number)].catalogue, "", "", ""));
+    QVERIFY(translator.load(cataloguePath("lan", languages[std::size_t(number)]), "", "", ""));
     QCoreApplication::installTranslator(&translator);
     QSet<QString> seen;
     for (const Notice &notice : allNotices()) {
@@ -293,7 +293,7 @@ void TestNotice::sentences()
                  QString("The template does not fit: 4 of 28 rings hold a star."));
 }
 
-void TestNotice::turns_data()
+void NoticeTest::turns_data()
 {
     QTest::addColumn<double>("first");
     QTest::addColumn<double>("second");
@@ -306,7 +306,7 @@ void TestNotice::turns_data()
     QTest::newRow("across 360") << 170.0 << 170.0 << 20.0;
 }
 
-void TestNotice::turns()
+void NoticeTest::turns()
 {
     QFETCH(double, first);
     QFETCH(double, second);
@@ -321,7 +321,7 @@ void TestNotice::turns()
              QByteArray::number(turns.turnDegrees).constData());
 }
 
-void TestNotice::picksAreRemembered()
+void NoticeTest::picksAreRemembered()
 {
     AlignmentProgress progress;
     progress.enter(FirstPick);
@@ -346,7 +346,7 @@ void TestNotice::picksAreRemembered()
     QVERIFY(!progress.turns());
 }
 
-void TestNotice::poleStarIsAskedForAgain()
+void NoticeTest::poleStarIsAskedForAgain()
 {
     AlignmentProgress progress;
     progress.enter(MatchTemplate);
@@ -367,7 +367,7 @@ void TestNotice::poleStarIsAskedForAgain()
     }
 }
 
-void TestNotice::preparationIsForgotten()
+void NoticeTest::preparationIsForgotten()
 {
     AlignmentProgress progress;
     progress.enter(CurrentPosition);
@@ -382,5 +382,5 @@ void TestNotice::preparationIsForgotten()
     QVERIFY(!progress.monitorPrepared());
 }
 
-QTEST_GUILESS_MAIN(TestNotice)
+QTEST_GUILESS_MAIN(NoticeTest)
 #include "tst_notice.moc"

@@ -244,17 +244,17 @@ void WizardPagesTest::rows_data()
 {
     QTest::addColumn<int>("width");
     QTest::addColumn<QVector<QRect>>("places");
-    using Places = QVector<QRect>;
+    using Rects = QVector<QRect>;
     // A text and two buttons, 6 pixels apart.
     QTest::newRow("room to spare")
-        << 400 << Places{{88, 5, 100, 20}, {194, 0, 80, 30}, {280, 0, 120, 30}};
+        << 400 << Rects{{88, 5, 100, 20}, {194, 0, 80, 30}, {280, 0, 120, 30}};
     QTest::newRow("just one row") << 312
-                                  << Places{{0, 5, 100, 20}, {106, 0, 80, 30}, {192, 0, 120, 30}};
+                                  << Rects{{0, 5, 100, 20}, {106, 0, 80, 30}, {192, 0, 120, 30}};
     QTest::newRow("two rows") << 311
-                              << Places{{125, 5, 100, 20}, {231, 0, 80, 30}, {191, 36, 120, 30}};
+                              << Rects{{125, 5, 100, 20}, {231, 0, 80, 30}, {191, 36, 120, 30}};
     QTest::newRow("three rows") << 130
-                                << Places{{30, 0, 100, 20}, {50, 26, 80, 30}, {10, 62, 120, 30}};
-    QTest::newRow("too narrow") << 90 << Places{{0, 0, 90, 20}, {10, 26, 80, 30}, {0, 62, 90, 30}};
+                                << Rects{{30, 0, 100, 20}, {50, 26, 80, 30}, {10, 62, 120, 30}};
+    QTest::newRow("too narrow") << 90 << Rects{{0, 0, 90, 20}, {10, 26, 80, 30}, {0, 62, 90, 30}};
 }
 
 void WizardPagesTest::rows()

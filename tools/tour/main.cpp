@@ -96,7 +96,8 @@ void alignRoughly(Person &person)
 }
 
 /// Aligns for a viewer: enlarges the last steps, and keeps the result until a key is pressed.
-void alignWatched(Person &person, Knobs &knobs, MainWindow &window, MountWindow &mount)
+void alignWatched(Person &person, Knobs &knobs, MainWindow &window,
+                  virtualmount::MountWindow &mount)
 {
     const double before = knobs.poleError() / 60;
     printf("true error before: %.1f arcminutes\n", before);
@@ -141,11 +142,12 @@ std::unique_ptr<Album> albumFor(const QCommandLineParser &options, const QString
 
 /// Places both windows side by side, or the mount's behind on a small screen, and makes the picture
 /// small enough to fit.
-void placeSideBySide(MainWindow &window, MountWindow &mount, Person::Options &how)
+void placeSideBySide(MainWindow &window, virtualmount::MountWindow &mount, Person::Options &how)
 {
     mount.ensurePolished();
-    const Places places = sharedScreen(QGuiApplication::primaryScreen()->availableGeometry(),
-                                       mount.sizeHint(), windowFrame());
+    const virtualmount::WindowGeometries places =
+        virtualmount::sharedScreen(QGuiApplication::primaryScreen()->availableGeometry(),
+                                   mount.sizeHint(), virtualmount::windowFrame());
     window.resize(places.program.size());
     window.move(places.program.topLeft()); // of the frame
     mount.resize(places.mount.size());
@@ -183,9 +185,10 @@ void run(const QCommandLineParser &options)
     Session session;
     MainWindow window(session);
     window.resize(1280, 800);
-    std::unique_ptr<MountWindow> mount;
+    std::unique_ptr<virtualmount::MountWindow> mount;
     if (hasMount) {
-        mount = std::make_unique<MountWindow>(QFile::decodeName(virtualsky::skyFilePath().c_str()));
+        mount = std::make_unique<virtualmount::MountWindow>(
+            QFile::decodeName(virtualsky::skyFilePath().c_str()));
         placeSideBySide(window, *mount, how);
     }
     window.show();

@@ -5,15 +5,16 @@
 #include "tools/tour/knobs.h"
 
 #include <QImage>
+#include <QMainWindow>
 #include <QPointF>
 #include <QString>
 #include <functional>
 #include <random>
 #include <stdexcept>
+#include <string>
 
 class QAbstractButton;
 class QAction;
-class QMainWindow;
 class QMenu;
 class QSlider;
 struct Session;
@@ -76,11 +77,20 @@ public:
 private:
     enum class Mark { Pole, Axis };
 
-    template <typename Widget> Widget &widget(const char *name) const;
+    static constexpr int firstTurn = 55; ///< degrees of RA between the picks
+
+    template <typename Widget> Widget &widget(const char *name) const
+    {
+        auto *const found = window.findChild<Widget *>(name);
+        if (!found)
+            throw Stuck(std::string("the window has no ") + name);
+        return *found;
+    }
     void say(const QString &text);
     void show(const char *name);
-    void pause() const;
     void chooseZoom();
+    // personhands.cpp
+    void pause() const;
     void clickAction(QMenu &menu, QAction &action);
     void click(const char *button);
     void clickAnswering(const char *button);
@@ -92,10 +102,11 @@ private:
     void bringIntoView(QPoint view);
     void turnAxisTo(double degrees);
     void turnBoltsSmoothly(QPointF step, int parts);
+    void waitForFrames(int count) const;
+    // personeyes.cpp
     QPointF eye(QPointF place);
     bool staysClear(QPointF star) const;
     bool isPickable(QPointF (Knobs::*star)() const) const;
-    void waitForFrames(int count) const;
     QPointF read(const char *label) const;
     QImage shownPicture() const;
     QPointF markInPicture(Mark mark) const;

@@ -26,7 +26,7 @@ void addTourOptions(QCommandLineParser &options)
                        "the dialogs to <folder>.",
                        "folder"});
     options.addOption({"zoom", "100, 75 or 50 percent.", "percent", "75"});
-    options.addOption({"language", "EN, ZH, JA, RU, FR, DE, ES, PT, IT or KO.", "code", "EN"});
+    options.addOption({"language", languageCodes() + ".", "code", "EN"});
     options.addOption({"mono", "In the mono style."});
 }
 
@@ -37,9 +37,8 @@ QString tourOptionsFault(const QCommandLineParser &options)
     if (!QStringList{"100", "75", "50"}.contains(options.value("zoom")))
         return "--zoom takes 100, 75 or 50";
     const QString code = options.value("language");
-    if (std::none_of(languages.begin(), languages.end(),
-                     [&](const Language &language) { return code == language.code; }))
-        return "--language takes EN, ZH, JA, RU, FR, DE, ES, PT, IT or KO";
+    if (languageOf(code).code != code)
+        return "--language takes " + languageCodes();
     if (options.isSet("real-rate") && !options.isSet("fast"))
         return "--real-rate goes with --fast";
     return {};

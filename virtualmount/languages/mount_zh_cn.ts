@@ -2,7 +2,224 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en_US">
 <context>
-    <name>MountWindow</name>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>全选(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>增大(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>减小(&amp;D)</translation>
+    </message>
+</context>
+<context>
+    <name>QIODevice</name>
+    <message>
+        <source>Permission denied</source>
+        <translation>权限不足</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>打开的文件太多</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>没有这个文件或文件夹</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>设备上没有剩余空间</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>撤销(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>重做(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>剪切(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>粘贴(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>全选</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>上方向键</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>下方向键</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左方向键</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右方向键</translation>
+    </message>
+</context>
+<context>
+    <name>SkyDocument</name>
+    <message>
+        <source>another program holds it locked</source>
+        <translation>另一个程序锁定了它</translation>
+    </message>
+</context>
+<context>
+    <name>SkyFault</name>
+    <message>
+        <source>not an ordinary file</source>
+        <translation>不是普通文件</translation>
+    </message>
+    <message>
+        <source>longer than 64 KiB</source>
+        <translation>超过 64 KiB</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>文件是空的</translation>
+    </message>
+    <message>
+        <source>the last line has no end: the file is half-written</source>
+        <translation>最后一行没有结束，文件只写了一半</translation>
+    </message>
+    <message>
+        <source>the section&apos;s ] is missing</source>
+        <translation>节名缺少 ]</translation>
+    </message>
+    <message>
+        <source>unknown section [%1]</source>
+        <translation>未知的节 [%1]</translation>
+    </message>
+    <message>
+        <source>not of the form key = value</source>
+        <translation>不是“键 = 值”的形式</translation>
+    </message>
+    <message>
+        <source>stands before any section</source>
+        <translation>出现在第一个节之前</translation>
+    </message>
+    <message>
+        <source>unknown key in [%1]</source>
+        <translation>[%1] 中未知的键</translation>
+    </message>
+    <message>
+        <source>duplicate key</source>
+        <translation>出现了两次</translation>
+    </message>
+    <message>
+        <source>must lie between %1 and %2</source>
+        <translation>必须在 %1 和 %2 之间</translation>
+    </message>
+    <message>
+        <source>must be %1 or %2</source>
+        <translation>必须是 %1 或 %2</translation>
+    </message>
+    <message>
+        <source>must be %1, %2 or %3</source>
+        <translation>必须是 %1、%2 或 %3</translation>
+    </message>
+    <message>
+        <source>unknown operation: &quot;%1&quot;</source>
+        <translation>没有这个操作：“%1”</translation>
+    </message>
+    <message>
+        <source>must be %1 or a date from %2 to %3 like %4</source>
+        <translation>必须是 %1，或 %2 至 %3 年的日期，如 %4</translation>
+    </message>
+    <message>
+        <source>must be a whole number</source>
+        <translation>必须是整数</translation>
+    </message>
+    <message>
+        <source>must be a number</source>
+        <translation>必须是数字</translation>
+    </message>
+    <message>
+        <source>must be 1 or 3</source>
+        <translation>必须是 1 或 3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>第 %1 行：%2</translation>
+    </message>
+</context>
+<context>
+    <name>virtualmount</name>
+    <message>
+        <source>%1 too high</source>
+        <translation>偏高 %1</translation>
+    </message>
+    <message>
+        <source>%1 too low</source>
+        <translation>偏低 %1</translation>
+    </message>
+    <message>
+        <source>%1 too far east</source>
+        <translation>偏东 %1</translation>
+    </message>
+    <message>
+        <source>%1 too far west</source>
+        <translation>偏西 %1</translation>
+    </message>
+    <message>
+        <source>%1 up</source>
+        <translation>向上 %1</translation>
+    </message>
+    <message>
+        <source>%1 down</source>
+        <translation>向下 %1</translation>
+    </message>
+    <message>
+        <source>%1 east</source>
+        <translation>向东 %1</translation>
+    </message>
+    <message>
+        <source>%1 west</source>
+        <translation>向西 %1</translation>
+    </message>
+</context>
+<context>
+    <name>virtualmount::MountWindow</name>
     <message>
         <source>RA axis</source>
         <translation>赤经轴（RA）</translation>
@@ -336,223 +553,6 @@ Ctrl+1 至 Ctrl+6 转动赤经轴，Esc 离开输入框。</translation>
 “New exercise” moves it away from the pole.</source>
         <translation>赤道仪已经对准天极。
 “新练习”会让它偏离天极。</translation>
-    </message>
-</context>
-<context>
-    <name>QAbstractSpinBox</name>
-    <message>
-        <source>&amp;Select All</source>
-        <translation>全选(&amp;S)</translation>
-    </message>
-    <message>
-        <source>&amp;Step up</source>
-        <translation>增大(&amp;S)</translation>
-    </message>
-    <message>
-        <source>Step &amp;down</source>
-        <translation>减小(&amp;D)</translation>
-    </message>
-</context>
-<context>
-    <name>QIODevice</name>
-    <message>
-        <source>Permission denied</source>
-        <translation>权限不足</translation>
-    </message>
-    <message>
-        <source>Too many open files</source>
-        <translation>打开的文件太多</translation>
-    </message>
-    <message>
-        <source>No such file or directory</source>
-        <translation>没有这个文件或文件夹</translation>
-    </message>
-    <message>
-        <source>No space left on device</source>
-        <translation>设备上没有剩余空间</translation>
-    </message>
-</context>
-<context>
-    <name>QLineEdit</name>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>撤销(&amp;U)</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>重做(&amp;R)</translation>
-    </message>
-    <message>
-        <source>Cu&amp;t</source>
-        <translation>剪切(&amp;T)</translation>
-    </message>
-    <message>
-        <source>&amp;Copy</source>
-        <translation>复制(&amp;C)</translation>
-    </message>
-    <message>
-        <source>&amp;Paste</source>
-        <translation>粘贴(&amp;P)</translation>
-    </message>
-    <message>
-        <source>Delete</source>
-        <translation>删除</translation>
-    </message>
-    <message>
-        <source>Select All</source>
-        <translation>全选</translation>
-    </message>
-</context>
-<context>
-    <name>QShortcut</name>
-    <message>
-        <source>Ctrl</source>
-        <translation>Ctrl</translation>
-    </message>
-    <message>
-        <source>Shift</source>
-        <translation>Shift</translation>
-    </message>
-    <message>
-        <source>Up</source>
-        <translation>上方向键</translation>
-    </message>
-    <message>
-        <source>Down</source>
-        <translation>下方向键</translation>
-    </message>
-    <message>
-        <source>Left</source>
-        <translation>左方向键</translation>
-    </message>
-    <message>
-        <source>Right</source>
-        <translation>右方向键</translation>
-    </message>
-</context>
-<context>
-    <name>SkyDocument</name>
-    <message>
-        <source>not an ordinary file</source>
-        <translation>不是普通文件</translation>
-    </message>
-    <message>
-        <source>longer than 64 KiB</source>
-        <translation>超过 64 KiB</translation>
-    </message>
-    <message>
-        <source>another program holds it locked</source>
-        <translation>另一个程序锁定了它</translation>
-    </message>
-</context>
-<context>
-    <name>SkyFault</name>
-    <message>
-        <source>the file is empty</source>
-        <translation>文件是空的</translation>
-    </message>
-    <message>
-        <source>the last line has no end: the file is half-written</source>
-        <translation>最后一行没有结束，文件只写了一半</translation>
-    </message>
-    <message>
-        <source>the section&apos;s ] is missing</source>
-        <translation>节名缺少 ]</translation>
-    </message>
-    <message>
-        <source>unknown section [%1]</source>
-        <translation>未知的节 [%1]</translation>
-    </message>
-    <message>
-        <source>not of the form key = value</source>
-        <translation>不是“键 = 值”的形式</translation>
-    </message>
-    <message>
-        <source>stands before any section</source>
-        <translation>出现在第一个节之前</translation>
-    </message>
-    <message>
-        <source>unknown key in [%1]</source>
-        <translation>[%1] 中未知的键</translation>
-    </message>
-    <message>
-        <source>duplicate key</source>
-        <translation>出现了两次</translation>
-    </message>
-    <message>
-        <source>must lie between %1 and %2</source>
-        <translation>必须在 %1 和 %2 之间</translation>
-    </message>
-    <message>
-        <source>must be true or false</source>
-        <translation>必须是 true 或 false</translation>
-    </message>
-    <message>
-        <source>must be sky, black or saturated</source>
-        <translation>必须是 sky、black 或 saturated</translation>
-    </message>
-    <message>
-        <source>unknown operation: &quot;%1&quot;</source>
-        <translation>没有这个操作：“%1”</translation>
-    </message>
-    <message>
-        <source>must be %1 or a date from 1973 to 2100 like %2</source>
-        <translation>必须是 %1，或 1973 至 2100 年的日期，如 %2</translation>
-    </message>
-    <message>
-        <source>must be a whole number</source>
-        <translation>必须是整数</translation>
-    </message>
-    <message>
-        <source>must be a number</source>
-        <translation>必须是数字</translation>
-    </message>
-    <message>
-        <source>must be 1 or 3</source>
-        <translation>必须是 1 或 3</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1：%2</translation>
-    </message>
-    <message>
-        <source>line %1: %2</source>
-        <translation>第 %1 行：%2</translation>
-    </message>
-</context>
-<context>
-    <name>virtualmount</name>
-    <message>
-        <source>%1 too high</source>
-        <translation>偏高 %1</translation>
-    </message>
-    <message>
-        <source>%1 too low</source>
-        <translation>偏低 %1</translation>
-    </message>
-    <message>
-        <source>%1 too far east</source>
-        <translation>偏东 %1</translation>
-    </message>
-    <message>
-        <source>%1 too far west</source>
-        <translation>偏西 %1</translation>
-    </message>
-    <message>
-        <source>%1 up</source>
-        <translation>向上 %1</translation>
-    </message>
-    <message>
-        <source>%1 down</source>
-        <translation>向下 %1</translation>
-    </message>
-    <message>
-        <source>%1 east</source>
-        <translation>向东 %1</translation>
-    </message>
-    <message>
-        <source>%1 west</source>
-        <translation>向西 %1</translation>
     </message>
 </context>
 </TS>

@@ -2,7 +2,224 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru_RU" sourcelanguage="en_US">
 <context>
-    <name>MountWindow</name>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Выделить всё</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>Шаг ввер&amp;х</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>Шаг вни&amp;з</translation>
+    </message>
+</context>
+<context>
+    <name>QIODevice</name>
+    <message>
+        <source>Permission denied</source>
+        <translation>Доступ запрещён</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>Слишком много открытых файлов</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>Нет такого файла или папки</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>На устройстве не осталось места</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Отменить</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Повторить</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Вырезать</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Копировать</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>В&amp;ставить</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Выделить всё</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Стрелка вверх</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Стрелка вниз</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Стрелка влево</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Стрелка вправо</translation>
+    </message>
+</context>
+<context>
+    <name>SkyDocument</name>
+    <message>
+        <source>another program holds it locked</source>
+        <translation>другая программа держит его заблокированным</translation>
+    </message>
+</context>
+<context>
+    <name>SkyFault</name>
+    <message>
+        <source>not an ordinary file</source>
+        <translation>не обычный файл</translation>
+    </message>
+    <message>
+        <source>longer than 64 KiB</source>
+        <translation>больше 64&#xa0;КиБ</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>файл пуст</translation>
+    </message>
+    <message>
+        <source>the last line has no end: the file is half-written</source>
+        <translation>последняя строка не завершена: файл записан наполовину</translation>
+    </message>
+    <message>
+        <source>the section&apos;s ] is missing</source>
+        <translation>у раздела нет закрывающей ]</translation>
+    </message>
+    <message>
+        <source>unknown section [%1]</source>
+        <translation>неизвестный раздел [%1]</translation>
+    </message>
+    <message>
+        <source>not of the form key = value</source>
+        <translation>не в форме ключ = значение</translation>
+    </message>
+    <message>
+        <source>stands before any section</source>
+        <translation>стоит до первого раздела</translation>
+    </message>
+    <message>
+        <source>unknown key in [%1]</source>
+        <translation>неизвестный ключ в [%1]</translation>
+    </message>
+    <message>
+        <source>duplicate key</source>
+        <translation>встречается дважды</translation>
+    </message>
+    <message>
+        <source>must lie between %1 and %2</source>
+        <translation>должно быть от %1 до %2</translation>
+    </message>
+    <message>
+        <source>must be %1 or %2</source>
+        <translation>должно быть %1 или %2</translation>
+    </message>
+    <message>
+        <source>must be %1, %2 or %3</source>
+        <translation>должно быть %1, %2 или %3</translation>
+    </message>
+    <message>
+        <source>unknown operation: &quot;%1&quot;</source>
+        <translation>нет такой операции: «%1»</translation>
+    </message>
+    <message>
+        <source>must be %1 or a date from %2 to %3 like %4</source>
+        <translation>должно быть %1 или датой с %2 по %3 год вида %4</translation>
+    </message>
+    <message>
+        <source>must be a whole number</source>
+        <translation>должно быть целым числом</translation>
+    </message>
+    <message>
+        <source>must be a number</source>
+        <translation>должно быть числом</translation>
+    </message>
+    <message>
+        <source>must be 1 or 3</source>
+        <translation>должно быть 1 или 3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>строка %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>virtualmount</name>
+    <message>
+        <source>%1 too high</source>
+        <translation>на %1 выше</translation>
+    </message>
+    <message>
+        <source>%1 too low</source>
+        <translation>на %1 ниже</translation>
+    </message>
+    <message>
+        <source>%1 too far east</source>
+        <translation>на %1 восточнее</translation>
+    </message>
+    <message>
+        <source>%1 too far west</source>
+        <translation>на %1 западнее</translation>
+    </message>
+    <message>
+        <source>%1 up</source>
+        <translation>%1 вверх</translation>
+    </message>
+    <message>
+        <source>%1 down</source>
+        <translation>%1 вниз</translation>
+    </message>
+    <message>
+        <source>%1 east</source>
+        <translation>%1 вост.</translation>
+    </message>
+    <message>
+        <source>%1 west</source>
+        <translation>%1 зап.</translation>
+    </message>
+</context>
+<context>
+    <name>virtualmount::MountWindow</name>
     <message>
         <source>RA axis</source>
         <translation>Ось прямого восхождения (RA)</translation>
@@ -336,223 +553,6 @@ Ctrl+1 … Ctrl+6 поворачивают ось, Esc — выход из по�
 “New exercise” moves it away from the pole.</source>
         <translation>Монтировка уже выставлена по полюсу.
 «Новое упражнение» уводит её от полюса.</translation>
-    </message>
-</context>
-<context>
-    <name>QAbstractSpinBox</name>
-    <message>
-        <source>&amp;Select All</source>
-        <translation>&amp;Выделить всё</translation>
-    </message>
-    <message>
-        <source>&amp;Step up</source>
-        <translation>Шаг ввер&amp;х</translation>
-    </message>
-    <message>
-        <source>Step &amp;down</source>
-        <translation>Шаг вни&amp;з</translation>
-    </message>
-</context>
-<context>
-    <name>QIODevice</name>
-    <message>
-        <source>Permission denied</source>
-        <translation>Доступ запрещён</translation>
-    </message>
-    <message>
-        <source>Too many open files</source>
-        <translation>Слишком много открытых файлов</translation>
-    </message>
-    <message>
-        <source>No such file or directory</source>
-        <translation>Нет такого файла или папки</translation>
-    </message>
-    <message>
-        <source>No space left on device</source>
-        <translation>На устройстве не осталось места</translation>
-    </message>
-</context>
-<context>
-    <name>QLineEdit</name>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Отменить</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Повторить</translation>
-    </message>
-    <message>
-        <source>Cu&amp;t</source>
-        <translation>&amp;Вырезать</translation>
-    </message>
-    <message>
-        <source>&amp;Copy</source>
-        <translation>&amp;Копировать</translation>
-    </message>
-    <message>
-        <source>&amp;Paste</source>
-        <translation>В&amp;ставить</translation>
-    </message>
-    <message>
-        <source>Delete</source>
-        <translation>Удалить</translation>
-    </message>
-    <message>
-        <source>Select All</source>
-        <translation>Выделить всё</translation>
-    </message>
-</context>
-<context>
-    <name>QShortcut</name>
-    <message>
-        <source>Ctrl</source>
-        <translation>Ctrl</translation>
-    </message>
-    <message>
-        <source>Shift</source>
-        <translation>Shift</translation>
-    </message>
-    <message>
-        <source>Up</source>
-        <translation>Стрелка вверх</translation>
-    </message>
-    <message>
-        <source>Down</source>
-        <translation>Стрелка вниз</translation>
-    </message>
-    <message>
-        <source>Left</source>
-        <translation>Стрелка влево</translation>
-    </message>
-    <message>
-        <source>Right</source>
-        <translation>Стрелка вправо</translation>
-    </message>
-</context>
-<context>
-    <name>SkyDocument</name>
-    <message>
-        <source>not an ordinary file</source>
-        <translation>не обычный файл</translation>
-    </message>
-    <message>
-        <source>longer than 64 KiB</source>
-        <translation>больше 64&#xa0;КиБ</translation>
-    </message>
-    <message>
-        <source>another program holds it locked</source>
-        <translation>другая программа держит его заблокированным</translation>
-    </message>
-</context>
-<context>
-    <name>SkyFault</name>
-    <message>
-        <source>the file is empty</source>
-        <translation>файл пуст</translation>
-    </message>
-    <message>
-        <source>the last line has no end: the file is half-written</source>
-        <translation>последняя строка не завершена: файл записан наполовину</translation>
-    </message>
-    <message>
-        <source>the section&apos;s ] is missing</source>
-        <translation>у раздела нет закрывающей ]</translation>
-    </message>
-    <message>
-        <source>unknown section [%1]</source>
-        <translation>неизвестный раздел [%1]</translation>
-    </message>
-    <message>
-        <source>not of the form key = value</source>
-        <translation>не в форме ключ = значение</translation>
-    </message>
-    <message>
-        <source>stands before any section</source>
-        <translation>стоит до первого раздела</translation>
-    </message>
-    <message>
-        <source>unknown key in [%1]</source>
-        <translation>неизвестный ключ в [%1]</translation>
-    </message>
-    <message>
-        <source>duplicate key</source>
-        <translation>встречается дважды</translation>
-    </message>
-    <message>
-        <source>must lie between %1 and %2</source>
-        <translation>должно быть от %1 до %2</translation>
-    </message>
-    <message>
-        <source>must be true or false</source>
-        <translation>должно быть true или false</translation>
-    </message>
-    <message>
-        <source>must be sky, black or saturated</source>
-        <translation>должно быть sky, black или saturated</translation>
-    </message>
-    <message>
-        <source>unknown operation: &quot;%1&quot;</source>
-        <translation>нет такой операции: «%1»</translation>
-    </message>
-    <message>
-        <source>must be %1 or a date from 1973 to 2100 like %2</source>
-        <translation>должно быть %1 или датой с 1973 по 2100 год вида %2</translation>
-    </message>
-    <message>
-        <source>must be a whole number</source>
-        <translation>должно быть целым числом</translation>
-    </message>
-    <message>
-        <source>must be a number</source>
-        <translation>должно быть числом</translation>
-    </message>
-    <message>
-        <source>must be 1 or 3</source>
-        <translation>должно быть 1 или 3</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>line %1: %2</source>
-        <translation>строка %1: %2</translation>
-    </message>
-</context>
-<context>
-    <name>virtualmount</name>
-    <message>
-        <source>%1 too high</source>
-        <translation>на %1 выше</translation>
-    </message>
-    <message>
-        <source>%1 too low</source>
-        <translation>на %1 ниже</translation>
-    </message>
-    <message>
-        <source>%1 too far east</source>
-        <translation>на %1 восточнее</translation>
-    </message>
-    <message>
-        <source>%1 too far west</source>
-        <translation>на %1 западнее</translation>
-    </message>
-    <message>
-        <source>%1 up</source>
-        <translation>%1 вверх</translation>
-    </message>
-    <message>
-        <source>%1 down</source>
-        <translation>%1 вниз</translation>
-    </message>
-    <message>
-        <source>%1 east</source>
-        <translation>%1 вост.</translation>
-    </message>
-    <message>
-        <source>%1 west</source>
-        <translation>%1 зап.</translation>
     </message>
 </context>
 </TS>

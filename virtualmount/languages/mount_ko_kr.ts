@@ -2,7 +2,224 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko_KR" sourcelanguage="en_US">
 <context>
-    <name>MountWindow</name>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>모두 선택(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>늘리기(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>줄이기(&amp;D)</translation>
+    </message>
+</context>
+<context>
+    <name>QIODevice</name>
+    <message>
+        <source>Permission denied</source>
+        <translation>권한이 없습니다</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>열린 파일이 너무 많습니다</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>그런 파일이나 폴더가 없습니다</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>장치에 남은 공간이 없습니다</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>실행 취소(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>다시 실행(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>잘라내기(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>복사(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>붙여넣기(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>삭제</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>모두 선택</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>위쪽 화살표</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>아래쪽 화살표</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>왼쪽 화살표</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>오른쪽 화살표</translation>
+    </message>
+</context>
+<context>
+    <name>SkyDocument</name>
+    <message>
+        <source>another program holds it locked</source>
+        <translation>다른 프로그램이 잠그고 있습니다</translation>
+    </message>
+</context>
+<context>
+    <name>SkyFault</name>
+    <message>
+        <source>not an ordinary file</source>
+        <translation>일반 파일이 아닙니다</translation>
+    </message>
+    <message>
+        <source>longer than 64 KiB</source>
+        <translation>64 KiB보다 깁니다</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>파일이 비어 있습니다</translation>
+    </message>
+    <message>
+        <source>the last line has no end: the file is half-written</source>
+        <translation>마지막 줄이 끝나지 않았습니다(파일이 쓰다 만 상태입니다)</translation>
+    </message>
+    <message>
+        <source>the section&apos;s ] is missing</source>
+        <translation>섹션의 ]가 없습니다</translation>
+    </message>
+    <message>
+        <source>unknown section [%1]</source>
+        <translation>알 수 없는 섹션 [%1]</translation>
+    </message>
+    <message>
+        <source>not of the form key = value</source>
+        <translation>‘키 = 값’ 형식이 아닙니다</translation>
+    </message>
+    <message>
+        <source>stands before any section</source>
+        <translation>첫 섹션보다 앞에 있습니다</translation>
+    </message>
+    <message>
+        <source>unknown key in [%1]</source>
+        <translation>[%1]에 알 수 없는 키가 있습니다</translation>
+    </message>
+    <message>
+        <source>duplicate key</source>
+        <translation>두 번 나옵니다</translation>
+    </message>
+    <message>
+        <source>must lie between %1 and %2</source>
+        <translation>%1에서 %2 사이여야 합니다</translation>
+    </message>
+    <message>
+        <source>must be %1 or %2</source>
+        <translation>%1 또는 %2여야 합니다</translation>
+    </message>
+    <message>
+        <source>must be %1, %2 or %3</source>
+        <translation>%1, %2, %3 중 하나여야 합니다</translation>
+    </message>
+    <message>
+        <source>unknown operation: &quot;%1&quot;</source>
+        <translation>그런 동작은 없습니다: ‘%1’</translation>
+    </message>
+    <message>
+        <source>must be %1 or a date from %2 to %3 like %4</source>
+        <translation>%1이거나 %4 같은 %2~%3년의 날짜여야 합니다</translation>
+    </message>
+    <message>
+        <source>must be a whole number</source>
+        <translation>정수여야 합니다</translation>
+    </message>
+    <message>
+        <source>must be a number</source>
+        <translation>숫자여야 합니다</translation>
+    </message>
+    <message>
+        <source>must be 1 or 3</source>
+        <translation>1 또는 3이어야 합니다</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>%1행: %2</translation>
+    </message>
+</context>
+<context>
+    <name>virtualmount</name>
+    <message>
+        <source>%1 too high</source>
+        <translation>위로 %1</translation>
+    </message>
+    <message>
+        <source>%1 too low</source>
+        <translation>아래로 %1</translation>
+    </message>
+    <message>
+        <source>%1 too far east</source>
+        <translation>동쪽으로 %1</translation>
+    </message>
+    <message>
+        <source>%1 too far west</source>
+        <translation>서쪽으로 %1</translation>
+    </message>
+    <message>
+        <source>%1 up</source>
+        <translation>위로 %1</translation>
+    </message>
+    <message>
+        <source>%1 down</source>
+        <translation>아래로 %1</translation>
+    </message>
+    <message>
+        <source>%1 east</source>
+        <translation>동쪽 %1</translation>
+    </message>
+    <message>
+        <source>%1 west</source>
+        <translation>서쪽 %1</translation>
+    </message>
+</context>
+<context>
+    <name>virtualmount::MountWindow</name>
     <message>
         <source>RA axis</source>
         <translation>적경축(RA)</translation>
@@ -336,223 +553,6 @@ Ctrl+1~Ctrl+6으로 축을 돌리고 Esc로 입력란에서 나옵니다.</trans
 “New exercise” moves it away from the pole.</source>
         <translation>적도의의 극축이 이미 맞춰져 있습니다.
 ‘새 연습’을 누르면 극에서 벗어납니다.</translation>
-    </message>
-</context>
-<context>
-    <name>QAbstractSpinBox</name>
-    <message>
-        <source>&amp;Select All</source>
-        <translation>모두 선택(&amp;S)</translation>
-    </message>
-    <message>
-        <source>&amp;Step up</source>
-        <translation>늘리기(&amp;S)</translation>
-    </message>
-    <message>
-        <source>Step &amp;down</source>
-        <translation>줄이기(&amp;D)</translation>
-    </message>
-</context>
-<context>
-    <name>QIODevice</name>
-    <message>
-        <source>Permission denied</source>
-        <translation>권한이 없습니다</translation>
-    </message>
-    <message>
-        <source>Too many open files</source>
-        <translation>열린 파일이 너무 많습니다</translation>
-    </message>
-    <message>
-        <source>No such file or directory</source>
-        <translation>그런 파일이나 폴더가 없습니다</translation>
-    </message>
-    <message>
-        <source>No space left on device</source>
-        <translation>장치에 남은 공간이 없습니다</translation>
-    </message>
-</context>
-<context>
-    <name>QLineEdit</name>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>실행 취소(&amp;U)</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>다시 실행(&amp;R)</translation>
-    </message>
-    <message>
-        <source>Cu&amp;t</source>
-        <translation>잘라내기(&amp;T)</translation>
-    </message>
-    <message>
-        <source>&amp;Copy</source>
-        <translation>복사(&amp;C)</translation>
-    </message>
-    <message>
-        <source>&amp;Paste</source>
-        <translation>붙여넣기(&amp;P)</translation>
-    </message>
-    <message>
-        <source>Delete</source>
-        <translation>삭제</translation>
-    </message>
-    <message>
-        <source>Select All</source>
-        <translation>모두 선택</translation>
-    </message>
-</context>
-<context>
-    <name>QShortcut</name>
-    <message>
-        <source>Ctrl</source>
-        <translation>Ctrl</translation>
-    </message>
-    <message>
-        <source>Shift</source>
-        <translation>Shift</translation>
-    </message>
-    <message>
-        <source>Up</source>
-        <translation>위쪽 화살표</translation>
-    </message>
-    <message>
-        <source>Down</source>
-        <translation>아래쪽 화살표</translation>
-    </message>
-    <message>
-        <source>Left</source>
-        <translation>왼쪽 화살표</translation>
-    </message>
-    <message>
-        <source>Right</source>
-        <translation>오른쪽 화살표</translation>
-    </message>
-</context>
-<context>
-    <name>SkyDocument</name>
-    <message>
-        <source>not an ordinary file</source>
-        <translation>일반 파일이 아닙니다</translation>
-    </message>
-    <message>
-        <source>longer than 64 KiB</source>
-        <translation>64 KiB보다 깁니다</translation>
-    </message>
-    <message>
-        <source>another program holds it locked</source>
-        <translation>다른 프로그램이 잠그고 있습니다</translation>
-    </message>
-</context>
-<context>
-    <name>SkyFault</name>
-    <message>
-        <source>the file is empty</source>
-        <translation>파일이 비어 있습니다</translation>
-    </message>
-    <message>
-        <source>the last line has no end: the file is half-written</source>
-        <translation>마지막 줄이 끝나지 않았습니다(파일이 쓰다 만 상태입니다)</translation>
-    </message>
-    <message>
-        <source>the section&apos;s ] is missing</source>
-        <translation>섹션의 ]가 없습니다</translation>
-    </message>
-    <message>
-        <source>unknown section [%1]</source>
-        <translation>알 수 없는 섹션 [%1]</translation>
-    </message>
-    <message>
-        <source>not of the form key = value</source>
-        <translation>‘키 = 값’ 형식이 아닙니다</translation>
-    </message>
-    <message>
-        <source>stands before any section</source>
-        <translation>첫 섹션보다 앞에 있습니다</translation>
-    </message>
-    <message>
-        <source>unknown key in [%1]</source>
-        <translation>[%1]에 알 수 없는 키가 있습니다</translation>
-    </message>
-    <message>
-        <source>duplicate key</source>
-        <translation>두 번 나옵니다</translation>
-    </message>
-    <message>
-        <source>must lie between %1 and %2</source>
-        <translation>%1에서 %2 사이여야 합니다</translation>
-    </message>
-    <message>
-        <source>must be true or false</source>
-        <translation>true 또는 false여야 합니다</translation>
-    </message>
-    <message>
-        <source>must be sky, black or saturated</source>
-        <translation>sky, black, saturated 중 하나여야 합니다</translation>
-    </message>
-    <message>
-        <source>unknown operation: &quot;%1&quot;</source>
-        <translation>그런 동작은 없습니다: ‘%1’</translation>
-    </message>
-    <message>
-        <source>must be %1 or a date from 1973 to 2100 like %2</source>
-        <translation>%1이거나 %2 같은 1973~2100년의 날짜여야 합니다</translation>
-    </message>
-    <message>
-        <source>must be a whole number</source>
-        <translation>정수여야 합니다</translation>
-    </message>
-    <message>
-        <source>must be a number</source>
-        <translation>숫자여야 합니다</translation>
-    </message>
-    <message>
-        <source>must be 1 or 3</source>
-        <translation>1 또는 3이어야 합니다</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>line %1: %2</source>
-        <translation>%1행: %2</translation>
-    </message>
-</context>
-<context>
-    <name>virtualmount</name>
-    <message>
-        <source>%1 too high</source>
-        <translation>위로 %1</translation>
-    </message>
-    <message>
-        <source>%1 too low</source>
-        <translation>아래로 %1</translation>
-    </message>
-    <message>
-        <source>%1 too far east</source>
-        <translation>동쪽으로 %1</translation>
-    </message>
-    <message>
-        <source>%1 too far west</source>
-        <translation>서쪽으로 %1</translation>
-    </message>
-    <message>
-        <source>%1 up</source>
-        <translation>위로 %1</translation>
-    </message>
-    <message>
-        <source>%1 down</source>
-        <translation>아래로 %1</translation>
-    </message>
-    <message>
-        <source>%1 east</source>
-        <translation>동쪽 %1</translation>
-    </message>
-    <message>
-        <source>%1 west</source>
-        <translation>서쪽 %1</translation>
     </message>
 </context>
 </TS>

@@ -2,7 +2,224 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en_US">
 <context>
-    <name>MountWindow</name>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Alles auswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>&amp;Schritt nach oben</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>Schritt nach &amp;unten</translation>
+    </message>
+</context>
+<context>
+    <name>QIODevice</name>
+    <message>
+        <source>Permission denied</source>
+        <translation>Zugriff verweigert</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>Zu viele offene Dateien</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>Datei oder Verzeichnis nicht gefunden</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>Kein Platz mehr auf dem Datenträger</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Ausschneiden</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles auswählen</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Strg</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Umschalt</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Pfeil auf</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Pfeil ab</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Pfeil links</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Pfeil rechts</translation>
+    </message>
+</context>
+<context>
+    <name>SkyDocument</name>
+    <message>
+        <source>another program holds it locked</source>
+        <translation>ein anderes Programm hält sie gesperrt</translation>
+    </message>
+</context>
+<context>
+    <name>SkyFault</name>
+    <message>
+        <source>not an ordinary file</source>
+        <translation>keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>longer than 64 KiB</source>
+        <translation>länger als 64&#xa0;KiB</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>die Datei ist leer</translation>
+    </message>
+    <message>
+        <source>the last line has no end: the file is half-written</source>
+        <translation>die letzte Zeile hat kein Ende, die Datei ist nur halb geschrieben</translation>
+    </message>
+    <message>
+        <source>the section&apos;s ] is missing</source>
+        <translation>die schließende Klammer ] des Abschnitts fehlt</translation>
+    </message>
+    <message>
+        <source>unknown section [%1]</source>
+        <translation>unbekannter Abschnitt [%1]</translation>
+    </message>
+    <message>
+        <source>not of the form key = value</source>
+        <translation>nicht in der Form Schlüssel = Wert</translation>
+    </message>
+    <message>
+        <source>stands before any section</source>
+        <translation>steht vor dem ersten Abschnitt</translation>
+    </message>
+    <message>
+        <source>unknown key in [%1]</source>
+        <translation>unbekannter Schlüssel in [%1]</translation>
+    </message>
+    <message>
+        <source>duplicate key</source>
+        <translation>steht zweimal da</translation>
+    </message>
+    <message>
+        <source>must lie between %1 and %2</source>
+        <translation>muss zwischen %1 und %2 liegen</translation>
+    </message>
+    <message>
+        <source>must be %1 or %2</source>
+        <translation>muss %1 oder %2 sein</translation>
+    </message>
+    <message>
+        <source>must be %1, %2 or %3</source>
+        <translation>muss %1, %2 oder %3 sein</translation>
+    </message>
+    <message>
+        <source>unknown operation: &quot;%1&quot;</source>
+        <translation>nennt keine Operation: „%1“</translation>
+    </message>
+    <message>
+        <source>must be %1 or a date from %2 to %3 like %4</source>
+        <translation>muss %1 sein oder ein Datum von %2 bis %3 wie %4</translation>
+    </message>
+    <message>
+        <source>must be a whole number</source>
+        <translation>muss eine ganze Zahl sein</translation>
+    </message>
+    <message>
+        <source>must be a number</source>
+        <translation>muss eine Zahl sein</translation>
+    </message>
+    <message>
+        <source>must be 1 or 3</source>
+        <translation>muss 1 oder 3 sein</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>virtualmount</name>
+    <message>
+        <source>%1 too high</source>
+        <translation>%1 zu hoch</translation>
+    </message>
+    <message>
+        <source>%1 too low</source>
+        <translation>%1 zu tief</translation>
+    </message>
+    <message>
+        <source>%1 too far east</source>
+        <translation>%1 zu weit östlich</translation>
+    </message>
+    <message>
+        <source>%1 too far west</source>
+        <translation>%1 zu weit westlich</translation>
+    </message>
+    <message>
+        <source>%1 up</source>
+        <translation>%1 höher</translation>
+    </message>
+    <message>
+        <source>%1 down</source>
+        <translation>%1 tiefer</translation>
+    </message>
+    <message>
+        <source>%1 east</source>
+        <translation>%1 Ost</translation>
+    </message>
+    <message>
+        <source>%1 west</source>
+        <translation>%1 West</translation>
+    </message>
+</context>
+<context>
+    <name>virtualmount::MountWindow</name>
     <message>
         <source>RA axis</source>
         <translation>RA-Achse</translation>
@@ -336,223 +553,6 @@ Strg+1 bis Strg+6 drehen die Achse, Esc verlässt ein Feld.</translation>
 “New exercise” moves it away from the pole.</source>
         <translation>Die Montierung ist schon auf den Pol ausgerichtet.
 „Neue Übung“ rückt sie vom Pol weg.</translation>
-    </message>
-</context>
-<context>
-    <name>QAbstractSpinBox</name>
-    <message>
-        <source>&amp;Select All</source>
-        <translation>&amp;Alles auswählen</translation>
-    </message>
-    <message>
-        <source>&amp;Step up</source>
-        <translation>&amp;Schritt nach oben</translation>
-    </message>
-    <message>
-        <source>Step &amp;down</source>
-        <translation>Schritt nach &amp;unten</translation>
-    </message>
-</context>
-<context>
-    <name>QIODevice</name>
-    <message>
-        <source>Permission denied</source>
-        <translation>Zugriff verweigert</translation>
-    </message>
-    <message>
-        <source>Too many open files</source>
-        <translation>Zu viele offene Dateien</translation>
-    </message>
-    <message>
-        <source>No such file or directory</source>
-        <translation>Datei oder Verzeichnis nicht gefunden</translation>
-    </message>
-    <message>
-        <source>No space left on device</source>
-        <translation>Kein Platz mehr auf dem Datenträger</translation>
-    </message>
-</context>
-<context>
-    <name>QLineEdit</name>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Rückgängig</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Wiederholen</translation>
-    </message>
-    <message>
-        <source>Cu&amp;t</source>
-        <translation>&amp;Ausschneiden</translation>
-    </message>
-    <message>
-        <source>&amp;Copy</source>
-        <translation>&amp;Kopieren</translation>
-    </message>
-    <message>
-        <source>&amp;Paste</source>
-        <translation>&amp;Einfügen</translation>
-    </message>
-    <message>
-        <source>Delete</source>
-        <translation>Löschen</translation>
-    </message>
-    <message>
-        <source>Select All</source>
-        <translation>Alles auswählen</translation>
-    </message>
-</context>
-<context>
-    <name>QShortcut</name>
-    <message>
-        <source>Ctrl</source>
-        <translation>Strg</translation>
-    </message>
-    <message>
-        <source>Shift</source>
-        <translation>Umschalt</translation>
-    </message>
-    <message>
-        <source>Up</source>
-        <translation>Pfeil auf</translation>
-    </message>
-    <message>
-        <source>Down</source>
-        <translation>Pfeil ab</translation>
-    </message>
-    <message>
-        <source>Left</source>
-        <translation>Pfeil links</translation>
-    </message>
-    <message>
-        <source>Right</source>
-        <translation>Pfeil rechts</translation>
-    </message>
-</context>
-<context>
-    <name>SkyDocument</name>
-    <message>
-        <source>not an ordinary file</source>
-        <translation>keine gewöhnliche Datei</translation>
-    </message>
-    <message>
-        <source>longer than 64 KiB</source>
-        <translation>länger als 64&#xa0;KiB</translation>
-    </message>
-    <message>
-        <source>another program holds it locked</source>
-        <translation>ein anderes Programm hält sie gesperrt</translation>
-    </message>
-</context>
-<context>
-    <name>SkyFault</name>
-    <message>
-        <source>the file is empty</source>
-        <translation>die Datei ist leer</translation>
-    </message>
-    <message>
-        <source>the last line has no end: the file is half-written</source>
-        <translation>die letzte Zeile hat kein Ende, die Datei ist nur halb geschrieben</translation>
-    </message>
-    <message>
-        <source>the section&apos;s ] is missing</source>
-        <translation>die schließende Klammer ] des Abschnitts fehlt</translation>
-    </message>
-    <message>
-        <source>unknown section [%1]</source>
-        <translation>unbekannter Abschnitt [%1]</translation>
-    </message>
-    <message>
-        <source>not of the form key = value</source>
-        <translation>nicht in der Form Schlüssel = Wert</translation>
-    </message>
-    <message>
-        <source>stands before any section</source>
-        <translation>steht vor dem ersten Abschnitt</translation>
-    </message>
-    <message>
-        <source>unknown key in [%1]</source>
-        <translation>unbekannter Schlüssel in [%1]</translation>
-    </message>
-    <message>
-        <source>duplicate key</source>
-        <translation>steht zweimal da</translation>
-    </message>
-    <message>
-        <source>must lie between %1 and %2</source>
-        <translation>muss zwischen %1 und %2 liegen</translation>
-    </message>
-    <message>
-        <source>must be true or false</source>
-        <translation>muss true oder false sein</translation>
-    </message>
-    <message>
-        <source>must be sky, black or saturated</source>
-        <translation>muss sky, black oder saturated sein</translation>
-    </message>
-    <message>
-        <source>unknown operation: &quot;%1&quot;</source>
-        <translation>nennt keine Operation: „%1“</translation>
-    </message>
-    <message>
-        <source>must be %1 or a date from 1973 to 2100 like %2</source>
-        <translation>muss %1 sein oder ein Datum von 1973 bis 2100 wie %2</translation>
-    </message>
-    <message>
-        <source>must be a whole number</source>
-        <translation>muss eine ganze Zahl sein</translation>
-    </message>
-    <message>
-        <source>must be a number</source>
-        <translation>muss eine Zahl sein</translation>
-    </message>
-    <message>
-        <source>must be 1 or 3</source>
-        <translation>muss 1 oder 3 sein</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>line %1: %2</source>
-        <translation>Zeile %1: %2</translation>
-    </message>
-</context>
-<context>
-    <name>virtualmount</name>
-    <message>
-        <source>%1 too high</source>
-        <translation>%1 zu hoch</translation>
-    </message>
-    <message>
-        <source>%1 too low</source>
-        <translation>%1 zu tief</translation>
-    </message>
-    <message>
-        <source>%1 too far east</source>
-        <translation>%1 zu weit östlich</translation>
-    </message>
-    <message>
-        <source>%1 too far west</source>
-        <translation>%1 zu weit westlich</translation>
-    </message>
-    <message>
-        <source>%1 up</source>
-        <translation>%1 höher</translation>
-    </message>
-    <message>
-        <source>%1 down</source>
-        <translation>%1 tiefer</translation>
-    </message>
-    <message>
-        <source>%1 east</source>
-        <translation>%1 Ost</translation>
-    </message>
-    <message>
-        <source>%1 west</source>
-        <translation>%1 West</translation>
     </message>
 </context>
 </TS>

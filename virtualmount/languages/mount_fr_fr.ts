@@ -2,7 +2,224 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr_FR" sourcelanguage="en_US">
 <context>
-    <name>MountWindow</name>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>&amp;Augmenter</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>&amp;Diminuer</translation>
+    </message>
+</context>
+<context>
+    <name>QIODevice</name>
+    <message>
+        <source>Permission denied</source>
+        <translation>Accès refusé</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>Trop de fichiers ouverts</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>Fichier ou dossier introuvable</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>Plus d&apos;espace libre sur le périphérique</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Co&amp;uper</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>C&amp;oller</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tout sélectionner</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Maj</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Flèche haut</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Flèche bas</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Flèche gauche</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Flèche droite</translation>
+    </message>
+</context>
+<context>
+    <name>SkyDocument</name>
+    <message>
+        <source>another program holds it locked</source>
+        <translation>un autre programme le tient verrouillé</translation>
+    </message>
+</context>
+<context>
+    <name>SkyFault</name>
+    <message>
+        <source>not an ordinary file</source>
+        <translation>n&apos;est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>longer than 64 KiB</source>
+        <translation>dépasse 64&#xa0;Kio</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>le fichier est vide</translation>
+    </message>
+    <message>
+        <source>the last line has no end: the file is half-written</source>
+        <translation>la dernière ligne n&apos;a pas de fin, le fichier n&apos;est écrit qu&apos;à moitié</translation>
+    </message>
+    <message>
+        <source>the section&apos;s ] is missing</source>
+        <translation>il manque le ] de la section</translation>
+    </message>
+    <message>
+        <source>unknown section [%1]</source>
+        <translation>section inconnue [%1]</translation>
+    </message>
+    <message>
+        <source>not of the form key = value</source>
+        <translation>n&apos;est pas de la forme clé = valeur</translation>
+    </message>
+    <message>
+        <source>stands before any section</source>
+        <translation>se trouve avant toute section</translation>
+    </message>
+    <message>
+        <source>unknown key in [%1]</source>
+        <translation>clé inconnue dans [%1]</translation>
+    </message>
+    <message>
+        <source>duplicate key</source>
+        <translation>s&apos;y trouve deux fois</translation>
+    </message>
+    <message>
+        <source>must lie between %1 and %2</source>
+        <translation>doit être compris entre %1 et %2</translation>
+    </message>
+    <message>
+        <source>must be %1 or %2</source>
+        <translation>doit être %1 ou %2</translation>
+    </message>
+    <message>
+        <source>must be %1, %2 or %3</source>
+        <translation>doit être %1, %2 ou %3</translation>
+    </message>
+    <message>
+        <source>unknown operation: &quot;%1&quot;</source>
+        <translation>ne nomme aucune opération&#xa0;: «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>must be %1 or a date from %2 to %3 like %4</source>
+        <translation>doit être %1 ou une date de %2 à %3 comme %4</translation>
+    </message>
+    <message>
+        <source>must be a whole number</source>
+        <translation>doit être un nombre entier</translation>
+    </message>
+    <message>
+        <source>must be a number</source>
+        <translation>doit être un nombre</translation>
+    </message>
+    <message>
+        <source>must be 1 or 3</source>
+        <translation>doit être 1 ou 3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>ligne %1&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>virtualmount</name>
+    <message>
+        <source>%1 too high</source>
+        <translation>%1 trop haut</translation>
+    </message>
+    <message>
+        <source>%1 too low</source>
+        <translation>%1 trop bas</translation>
+    </message>
+    <message>
+        <source>%1 too far east</source>
+        <translation>%1 trop à l&apos;est</translation>
+    </message>
+    <message>
+        <source>%1 too far west</source>
+        <translation>%1 trop à l&apos;ouest</translation>
+    </message>
+    <message>
+        <source>%1 up</source>
+        <translation>%1 haut</translation>
+    </message>
+    <message>
+        <source>%1 down</source>
+        <translation>%1 bas</translation>
+    </message>
+    <message>
+        <source>%1 east</source>
+        <translation>%1 est</translation>
+    </message>
+    <message>
+        <source>%1 west</source>
+        <translation>%1 ouest</translation>
+    </message>
+</context>
+<context>
+    <name>virtualmount::MountWindow</name>
     <message>
         <source>RA axis</source>
         <translation>Axe d&apos;ascension droite (AD)</translation>
@@ -336,223 +553,6 @@ Ctrl+1 à Ctrl+6 tournent l&apos;axe, Échap quitte un champ.</translation>
 “New exercise” moves it away from the pole.</source>
         <translation>La monture est déjà alignée.
 «&#xa0;Nouvel exercice&#xa0;» l&apos;écarte du pôle.</translation>
-    </message>
-</context>
-<context>
-    <name>QAbstractSpinBox</name>
-    <message>
-        <source>&amp;Select All</source>
-        <translation>&amp;Tout sélectionner</translation>
-    </message>
-    <message>
-        <source>&amp;Step up</source>
-        <translation>&amp;Augmenter</translation>
-    </message>
-    <message>
-        <source>Step &amp;down</source>
-        <translation>&amp;Diminuer</translation>
-    </message>
-</context>
-<context>
-    <name>QIODevice</name>
-    <message>
-        <source>Permission denied</source>
-        <translation>Accès refusé</translation>
-    </message>
-    <message>
-        <source>Too many open files</source>
-        <translation>Trop de fichiers ouverts</translation>
-    </message>
-    <message>
-        <source>No such file or directory</source>
-        <translation>Fichier ou dossier introuvable</translation>
-    </message>
-    <message>
-        <source>No space left on device</source>
-        <translation>Plus d&apos;espace libre sur le périphérique</translation>
-    </message>
-</context>
-<context>
-    <name>QLineEdit</name>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Annuler</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Rétablir</translation>
-    </message>
-    <message>
-        <source>Cu&amp;t</source>
-        <translation>Co&amp;uper</translation>
-    </message>
-    <message>
-        <source>&amp;Copy</source>
-        <translation>&amp;Copier</translation>
-    </message>
-    <message>
-        <source>&amp;Paste</source>
-        <translation>C&amp;oller</translation>
-    </message>
-    <message>
-        <source>Delete</source>
-        <translation>Supprimer</translation>
-    </message>
-    <message>
-        <source>Select All</source>
-        <translation>Tout sélectionner</translation>
-    </message>
-</context>
-<context>
-    <name>QShortcut</name>
-    <message>
-        <source>Ctrl</source>
-        <translation>Ctrl</translation>
-    </message>
-    <message>
-        <source>Shift</source>
-        <translation>Maj</translation>
-    </message>
-    <message>
-        <source>Up</source>
-        <translation>Flèche haut</translation>
-    </message>
-    <message>
-        <source>Down</source>
-        <translation>Flèche bas</translation>
-    </message>
-    <message>
-        <source>Left</source>
-        <translation>Flèche gauche</translation>
-    </message>
-    <message>
-        <source>Right</source>
-        <translation>Flèche droite</translation>
-    </message>
-</context>
-<context>
-    <name>SkyDocument</name>
-    <message>
-        <source>not an ordinary file</source>
-        <translation>n&apos;est pas un fichier ordinaire</translation>
-    </message>
-    <message>
-        <source>longer than 64 KiB</source>
-        <translation>dépasse 64&#xa0;Kio</translation>
-    </message>
-    <message>
-        <source>another program holds it locked</source>
-        <translation>un autre programme le tient verrouillé</translation>
-    </message>
-</context>
-<context>
-    <name>SkyFault</name>
-    <message>
-        <source>the file is empty</source>
-        <translation>le fichier est vide</translation>
-    </message>
-    <message>
-        <source>the last line has no end: the file is half-written</source>
-        <translation>la dernière ligne n&apos;a pas de fin, le fichier n&apos;est écrit qu&apos;à moitié</translation>
-    </message>
-    <message>
-        <source>the section&apos;s ] is missing</source>
-        <translation>il manque le ] de la section</translation>
-    </message>
-    <message>
-        <source>unknown section [%1]</source>
-        <translation>section inconnue [%1]</translation>
-    </message>
-    <message>
-        <source>not of the form key = value</source>
-        <translation>n&apos;est pas de la forme clé = valeur</translation>
-    </message>
-    <message>
-        <source>stands before any section</source>
-        <translation>se trouve avant toute section</translation>
-    </message>
-    <message>
-        <source>unknown key in [%1]</source>
-        <translation>clé inconnue dans [%1]</translation>
-    </message>
-    <message>
-        <source>duplicate key</source>
-        <translation>s&apos;y trouve deux fois</translation>
-    </message>
-    <message>
-        <source>must lie between %1 and %2</source>
-        <translation>doit être compris entre %1 et %2</translation>
-    </message>
-    <message>
-        <source>must be true or false</source>
-        <translation>doit être true ou false</translation>
-    </message>
-    <message>
-        <source>must be sky, black or saturated</source>
-        <translation>doit être sky, black ou saturated</translation>
-    </message>
-    <message>
-        <source>unknown operation: &quot;%1&quot;</source>
-        <translation>ne nomme aucune opération&#xa0;: «&#xa0;%1&#xa0;»</translation>
-    </message>
-    <message>
-        <source>must be %1 or a date from 1973 to 2100 like %2</source>
-        <translation>doit être %1 ou une date de 1973 à 2100 comme %2</translation>
-    </message>
-    <message>
-        <source>must be a whole number</source>
-        <translation>doit être un nombre entier</translation>
-    </message>
-    <message>
-        <source>must be a number</source>
-        <translation>doit être un nombre</translation>
-    </message>
-    <message>
-        <source>must be 1 or 3</source>
-        <translation>doit être 1 ou 3</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1&#xa0;: %2</translation>
-    </message>
-    <message>
-        <source>line %1: %2</source>
-        <translation>ligne %1&#xa0;: %2</translation>
-    </message>
-</context>
-<context>
-    <name>virtualmount</name>
-    <message>
-        <source>%1 too high</source>
-        <translation>%1 trop haut</translation>
-    </message>
-    <message>
-        <source>%1 too low</source>
-        <translation>%1 trop bas</translation>
-    </message>
-    <message>
-        <source>%1 too far east</source>
-        <translation>%1 trop à l&apos;est</translation>
-    </message>
-    <message>
-        <source>%1 too far west</source>
-        <translation>%1 trop à l&apos;ouest</translation>
-    </message>
-    <message>
-        <source>%1 up</source>
-        <translation>%1 haut</translation>
-    </message>
-    <message>
-        <source>%1 down</source>
-        <translation>%1 bas</translation>
-    </message>
-    <message>
-        <source>%1 east</source>
-        <translation>%1 est</translation>
-    </message>
-    <message>
-        <source>%1 west</source>
-        <translation>%1 ouest</translation>
     </message>
 </context>
 </TS>

@@ -2,7 +2,224 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja_JP" sourcelanguage="en_US">
 <context>
-    <name>MountWindow</name>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>すべて選択(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>増やす(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>減らす(&amp;D)</translation>
+    </message>
+</context>
+<context>
+    <name>QIODevice</name>
+    <message>
+        <source>Permission denied</source>
+        <translation>アクセス権がありません</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>開いているファイルが多すぎます</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>そのようなファイルやフォルダーはありません</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>デバイスに空き領域がありません</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>やり直す(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>切り取り(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>貼り付け(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>すべて選択</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>上矢印</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>下矢印</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左矢印</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右矢印</translation>
+    </message>
+</context>
+<context>
+    <name>SkyDocument</name>
+    <message>
+        <source>another program holds it locked</source>
+        <translation>別のプログラムがロックしています</translation>
+    </message>
+</context>
+<context>
+    <name>SkyFault</name>
+    <message>
+        <source>not an ordinary file</source>
+        <translation>通常のファイルではありません</translation>
+    </message>
+    <message>
+        <source>longer than 64 KiB</source>
+        <translation>64 KiB を超えています</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>ファイルが空です</translation>
+    </message>
+    <message>
+        <source>the last line has no end: the file is half-written</source>
+        <translation>最後の行が終わっていません（ファイルが書きかけです）</translation>
+    </message>
+    <message>
+        <source>the section&apos;s ] is missing</source>
+        <translation>セクション名の ] がありません</translation>
+    </message>
+    <message>
+        <source>unknown section [%1]</source>
+        <translation>不明なセクション [%1]</translation>
+    </message>
+    <message>
+        <source>not of the form key = value</source>
+        <translation>「キー = 値」の形ではありません</translation>
+    </message>
+    <message>
+        <source>stands before any section</source>
+        <translation>最初のセクションより前にあります</translation>
+    </message>
+    <message>
+        <source>unknown key in [%1]</source>
+        <translation>[%1] に不明なキーがあります</translation>
+    </message>
+    <message>
+        <source>duplicate key</source>
+        <translation>2 回書かれています</translation>
+    </message>
+    <message>
+        <source>must lie between %1 and %2</source>
+        <translation>%1 ～ %2 の範囲外です</translation>
+    </message>
+    <message>
+        <source>must be %1 or %2</source>
+        <translation>%1 か %2 でなければなりません</translation>
+    </message>
+    <message>
+        <source>must be %1, %2 or %3</source>
+        <translation>%1、%2、%3 のどれかでなければなりません</translation>
+    </message>
+    <message>
+        <source>unknown operation: &quot;%1&quot;</source>
+        <translation>そのような操作はありません:「%1」</translation>
+    </message>
+    <message>
+        <source>must be %1 or a date from %2 to %3 like %4</source>
+        <translation>%1 か、%4 のような %2 ～ %3 年の日付でなければなりません</translation>
+    </message>
+    <message>
+        <source>must be a whole number</source>
+        <translation>整数でなければなりません</translation>
+    </message>
+    <message>
+        <source>must be a number</source>
+        <translation>数値でなければなりません</translation>
+    </message>
+    <message>
+        <source>must be 1 or 3</source>
+        <translation>1 か 3 でなければなりません</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>%1 行目: %2</translation>
+    </message>
+</context>
+<context>
+    <name>virtualmount</name>
+    <message>
+        <source>%1 too high</source>
+        <translation>上に %1</translation>
+    </message>
+    <message>
+        <source>%1 too low</source>
+        <translation>下に %1</translation>
+    </message>
+    <message>
+        <source>%1 too far east</source>
+        <translation>東に %1</translation>
+    </message>
+    <message>
+        <source>%1 too far west</source>
+        <translation>西に %1</translation>
+    </message>
+    <message>
+        <source>%1 up</source>
+        <translation>上へ %1</translation>
+    </message>
+    <message>
+        <source>%1 down</source>
+        <translation>下へ %1</translation>
+    </message>
+    <message>
+        <source>%1 east</source>
+        <translation>東へ %1</translation>
+    </message>
+    <message>
+        <source>%1 west</source>
+        <translation>西へ %1</translation>
+    </message>
+</context>
+<context>
+    <name>virtualmount::MountWindow</name>
     <message>
         <source>RA axis</source>
         <translation>赤経軸（RA）</translation>
@@ -336,223 +553,6 @@ Ctrl+1 ～ Ctrl+6 で軸を回し、Esc で入力欄を離れます。</translat
 “New exercise” moves it away from the pole.</source>
         <translation>赤道儀の極軸はすでに合っています。
 「新しい練習」で極からずらせます。</translation>
-    </message>
-</context>
-<context>
-    <name>QAbstractSpinBox</name>
-    <message>
-        <source>&amp;Select All</source>
-        <translation>すべて選択(&amp;S)</translation>
-    </message>
-    <message>
-        <source>&amp;Step up</source>
-        <translation>増やす(&amp;S)</translation>
-    </message>
-    <message>
-        <source>Step &amp;down</source>
-        <translation>減らす(&amp;D)</translation>
-    </message>
-</context>
-<context>
-    <name>QIODevice</name>
-    <message>
-        <source>Permission denied</source>
-        <translation>アクセス権がありません</translation>
-    </message>
-    <message>
-        <source>Too many open files</source>
-        <translation>開いているファイルが多すぎます</translation>
-    </message>
-    <message>
-        <source>No such file or directory</source>
-        <translation>そのようなファイルやフォルダーはありません</translation>
-    </message>
-    <message>
-        <source>No space left on device</source>
-        <translation>デバイスに空き領域がありません</translation>
-    </message>
-</context>
-<context>
-    <name>QLineEdit</name>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>元に戻す(&amp;U)</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>やり直す(&amp;R)</translation>
-    </message>
-    <message>
-        <source>Cu&amp;t</source>
-        <translation>切り取り(&amp;T)</translation>
-    </message>
-    <message>
-        <source>&amp;Copy</source>
-        <translation>コピー(&amp;C)</translation>
-    </message>
-    <message>
-        <source>&amp;Paste</source>
-        <translation>貼り付け(&amp;P)</translation>
-    </message>
-    <message>
-        <source>Delete</source>
-        <translation>削除</translation>
-    </message>
-    <message>
-        <source>Select All</source>
-        <translation>すべて選択</translation>
-    </message>
-</context>
-<context>
-    <name>QShortcut</name>
-    <message>
-        <source>Ctrl</source>
-        <translation>Ctrl</translation>
-    </message>
-    <message>
-        <source>Shift</source>
-        <translation>Shift</translation>
-    </message>
-    <message>
-        <source>Up</source>
-        <translation>上矢印</translation>
-    </message>
-    <message>
-        <source>Down</source>
-        <translation>下矢印</translation>
-    </message>
-    <message>
-        <source>Left</source>
-        <translation>左矢印</translation>
-    </message>
-    <message>
-        <source>Right</source>
-        <translation>右矢印</translation>
-    </message>
-</context>
-<context>
-    <name>SkyDocument</name>
-    <message>
-        <source>not an ordinary file</source>
-        <translation>通常のファイルではありません</translation>
-    </message>
-    <message>
-        <source>longer than 64 KiB</source>
-        <translation>64 KiB を超えています</translation>
-    </message>
-    <message>
-        <source>another program holds it locked</source>
-        <translation>別のプログラムがロックしています</translation>
-    </message>
-</context>
-<context>
-    <name>SkyFault</name>
-    <message>
-        <source>the file is empty</source>
-        <translation>ファイルが空です</translation>
-    </message>
-    <message>
-        <source>the last line has no end: the file is half-written</source>
-        <translation>最後の行が終わっていません（ファイルが書きかけです）</translation>
-    </message>
-    <message>
-        <source>the section&apos;s ] is missing</source>
-        <translation>セクション名の ] がありません</translation>
-    </message>
-    <message>
-        <source>unknown section [%1]</source>
-        <translation>不明なセクション [%1]</translation>
-    </message>
-    <message>
-        <source>not of the form key = value</source>
-        <translation>「キー = 値」の形ではありません</translation>
-    </message>
-    <message>
-        <source>stands before any section</source>
-        <translation>最初のセクションより前にあります</translation>
-    </message>
-    <message>
-        <source>unknown key in [%1]</source>
-        <translation>[%1] に不明なキーがあります</translation>
-    </message>
-    <message>
-        <source>duplicate key</source>
-        <translation>2 回書かれています</translation>
-    </message>
-    <message>
-        <source>must lie between %1 and %2</source>
-        <translation>%1 ～ %2 の範囲外です</translation>
-    </message>
-    <message>
-        <source>must be true or false</source>
-        <translation>true か false でなければなりません</translation>
-    </message>
-    <message>
-        <source>must be sky, black or saturated</source>
-        <translation>sky、black、saturated のどれかでなければなりません</translation>
-    </message>
-    <message>
-        <source>unknown operation: &quot;%1&quot;</source>
-        <translation>そのような操作はありません:「%1」</translation>
-    </message>
-    <message>
-        <source>must be %1 or a date from 1973 to 2100 like %2</source>
-        <translation>%1 か、%2 のような 1973 ～ 2100 年の日付でなければなりません</translation>
-    </message>
-    <message>
-        <source>must be a whole number</source>
-        <translation>整数でなければなりません</translation>
-    </message>
-    <message>
-        <source>must be a number</source>
-        <translation>数値でなければなりません</translation>
-    </message>
-    <message>
-        <source>must be 1 or 3</source>
-        <translation>1 か 3 でなければなりません</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>line %1: %2</source>
-        <translation>%1 行目: %2</translation>
-    </message>
-</context>
-<context>
-    <name>virtualmount</name>
-    <message>
-        <source>%1 too high</source>
-        <translation>上に %1</translation>
-    </message>
-    <message>
-        <source>%1 too low</source>
-        <translation>下に %1</translation>
-    </message>
-    <message>
-        <source>%1 too far east</source>
-        <translation>東に %1</translation>
-    </message>
-    <message>
-        <source>%1 too far west</source>
-        <translation>西に %1</translation>
-    </message>
-    <message>
-        <source>%1 up</source>
-        <translation>上へ %1</translation>
-    </message>
-    <message>
-        <source>%1 down</source>
-        <translation>下へ %1</translation>
-    </message>
-    <message>
-        <source>%1 east</source>
-        <translation>東へ %1</translation>
-    </message>
-    <message>
-        <source>%1 west</source>
-        <translation>西へ %1</translation>
     </message>
 </context>
 </TS>

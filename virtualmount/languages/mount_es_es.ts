@@ -2,7 +2,224 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es_ES" sourcelanguage="en_US">
 <context>
-    <name>MountWindow</name>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Seleccionar todo</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>&amp;Aumentar</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>&amp;Disminuir</translation>
+    </message>
+</context>
+<context>
+    <name>QIODevice</name>
+    <message>
+        <source>Permission denied</source>
+        <translation>Permiso denegado</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>Demasiados archivos abiertos</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>No existe el archivo o la carpeta</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>No queda espacio en el dispositivo</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Cor&amp;tar</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Pegar</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleccionar todo</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Mayús</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Flecha arriba</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Flecha abajo</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Flecha izquierda</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Flecha derecha</translation>
+    </message>
+</context>
+<context>
+    <name>SkyDocument</name>
+    <message>
+        <source>another program holds it locked</source>
+        <translation>otro programa lo tiene bloqueado</translation>
+    </message>
+</context>
+<context>
+    <name>SkyFault</name>
+    <message>
+        <source>not an ordinary file</source>
+        <translation>no es un archivo normal</translation>
+    </message>
+    <message>
+        <source>longer than 64 KiB</source>
+        <translation>ocupa más de 64&#xa0;KiB</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>el archivo está vacío</translation>
+    </message>
+    <message>
+        <source>the last line has no end: the file is half-written</source>
+        <translation>la última línea no tiene final, el archivo está escrito a medias</translation>
+    </message>
+    <message>
+        <source>the section&apos;s ] is missing</source>
+        <translation>falta el ] de la sección</translation>
+    </message>
+    <message>
+        <source>unknown section [%1]</source>
+        <translation>sección desconocida [%1]</translation>
+    </message>
+    <message>
+        <source>not of the form key = value</source>
+        <translation>no tiene la forma clave = valor</translation>
+    </message>
+    <message>
+        <source>stands before any section</source>
+        <translation>está antes de la primera sección</translation>
+    </message>
+    <message>
+        <source>unknown key in [%1]</source>
+        <translation>clave desconocida en [%1]</translation>
+    </message>
+    <message>
+        <source>duplicate key</source>
+        <translation>aparece dos veces</translation>
+    </message>
+    <message>
+        <source>must lie between %1 and %2</source>
+        <translation>debe estar entre %1 y %2</translation>
+    </message>
+    <message>
+        <source>must be %1 or %2</source>
+        <translation>debe ser %1 o %2</translation>
+    </message>
+    <message>
+        <source>must be %1, %2 or %3</source>
+        <translation>debe ser %1, %2 o %3</translation>
+    </message>
+    <message>
+        <source>unknown operation: &quot;%1&quot;</source>
+        <translation>no nombra ninguna operación: «%1»</translation>
+    </message>
+    <message>
+        <source>must be %1 or a date from %2 to %3 like %4</source>
+        <translation>debe ser %1 o una fecha de %2 a %3 como %4</translation>
+    </message>
+    <message>
+        <source>must be a whole number</source>
+        <translation>debe ser un número entero</translation>
+    </message>
+    <message>
+        <source>must be a number</source>
+        <translation>debe ser un número</translation>
+    </message>
+    <message>
+        <source>must be 1 or 3</source>
+        <translation>debe ser 1 o 3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>línea %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>virtualmount</name>
+    <message>
+        <source>%1 too high</source>
+        <translation>%1 por encima</translation>
+    </message>
+    <message>
+        <source>%1 too low</source>
+        <translation>%1 por debajo</translation>
+    </message>
+    <message>
+        <source>%1 too far east</source>
+        <translation>%1 al este</translation>
+    </message>
+    <message>
+        <source>%1 too far west</source>
+        <translation>%1 al oeste</translation>
+    </message>
+    <message>
+        <source>%1 up</source>
+        <translation>%1 arriba</translation>
+    </message>
+    <message>
+        <source>%1 down</source>
+        <translation>%1 abajo</translation>
+    </message>
+    <message>
+        <source>%1 east</source>
+        <translation>%1 este</translation>
+    </message>
+    <message>
+        <source>%1 west</source>
+        <translation>%1 oeste</translation>
+    </message>
+</context>
+<context>
+    <name>virtualmount::MountWindow</name>
     <message>
         <source>RA axis</source>
         <translation>Eje de AR</translation>
@@ -336,223 +553,6 @@ Ctrl+1 a Ctrl+6 giran el eje; Esc sale de un campo.</translation>
 “New exercise” moves it away from the pole.</source>
         <translation>La montura ya está alineada.
 «Nuevo ejercicio» la aparta del polo.</translation>
-    </message>
-</context>
-<context>
-    <name>QAbstractSpinBox</name>
-    <message>
-        <source>&amp;Select All</source>
-        <translation>&amp;Seleccionar todo</translation>
-    </message>
-    <message>
-        <source>&amp;Step up</source>
-        <translation>&amp;Aumentar</translation>
-    </message>
-    <message>
-        <source>Step &amp;down</source>
-        <translation>&amp;Disminuir</translation>
-    </message>
-</context>
-<context>
-    <name>QIODevice</name>
-    <message>
-        <source>Permission denied</source>
-        <translation>Permiso denegado</translation>
-    </message>
-    <message>
-        <source>Too many open files</source>
-        <translation>Demasiados archivos abiertos</translation>
-    </message>
-    <message>
-        <source>No such file or directory</source>
-        <translation>No existe el archivo o la carpeta</translation>
-    </message>
-    <message>
-        <source>No space left on device</source>
-        <translation>No queda espacio en el dispositivo</translation>
-    </message>
-</context>
-<context>
-    <name>QLineEdit</name>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Deshacer</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Rehacer</translation>
-    </message>
-    <message>
-        <source>Cu&amp;t</source>
-        <translation>Cor&amp;tar</translation>
-    </message>
-    <message>
-        <source>&amp;Copy</source>
-        <translation>&amp;Copiar</translation>
-    </message>
-    <message>
-        <source>&amp;Paste</source>
-        <translation>&amp;Pegar</translation>
-    </message>
-    <message>
-        <source>Delete</source>
-        <translation>Eliminar</translation>
-    </message>
-    <message>
-        <source>Select All</source>
-        <translation>Seleccionar todo</translation>
-    </message>
-</context>
-<context>
-    <name>QShortcut</name>
-    <message>
-        <source>Ctrl</source>
-        <translation>Ctrl</translation>
-    </message>
-    <message>
-        <source>Shift</source>
-        <translation>Mayús</translation>
-    </message>
-    <message>
-        <source>Up</source>
-        <translation>Flecha arriba</translation>
-    </message>
-    <message>
-        <source>Down</source>
-        <translation>Flecha abajo</translation>
-    </message>
-    <message>
-        <source>Left</source>
-        <translation>Flecha izquierda</translation>
-    </message>
-    <message>
-        <source>Right</source>
-        <translation>Flecha derecha</translation>
-    </message>
-</context>
-<context>
-    <name>SkyDocument</name>
-    <message>
-        <source>not an ordinary file</source>
-        <translation>no es un archivo normal</translation>
-    </message>
-    <message>
-        <source>longer than 64 KiB</source>
-        <translation>ocupa más de 64&#xa0;KiB</translation>
-    </message>
-    <message>
-        <source>another program holds it locked</source>
-        <translation>otro programa lo tiene bloqueado</translation>
-    </message>
-</context>
-<context>
-    <name>SkyFault</name>
-    <message>
-        <source>the file is empty</source>
-        <translation>el archivo está vacío</translation>
-    </message>
-    <message>
-        <source>the last line has no end: the file is half-written</source>
-        <translation>la última línea no tiene final, el archivo está escrito a medias</translation>
-    </message>
-    <message>
-        <source>the section&apos;s ] is missing</source>
-        <translation>falta el ] de la sección</translation>
-    </message>
-    <message>
-        <source>unknown section [%1]</source>
-        <translation>sección desconocida [%1]</translation>
-    </message>
-    <message>
-        <source>not of the form key = value</source>
-        <translation>no tiene la forma clave = valor</translation>
-    </message>
-    <message>
-        <source>stands before any section</source>
-        <translation>está antes de la primera sección</translation>
-    </message>
-    <message>
-        <source>unknown key in [%1]</source>
-        <translation>clave desconocida en [%1]</translation>
-    </message>
-    <message>
-        <source>duplicate key</source>
-        <translation>aparece dos veces</translation>
-    </message>
-    <message>
-        <source>must lie between %1 and %2</source>
-        <translation>debe estar entre %1 y %2</translation>
-    </message>
-    <message>
-        <source>must be true or false</source>
-        <translation>debe ser true o false</translation>
-    </message>
-    <message>
-        <source>must be sky, black or saturated</source>
-        <translation>debe ser sky, black o saturated</translation>
-    </message>
-    <message>
-        <source>unknown operation: &quot;%1&quot;</source>
-        <translation>no nombra ninguna operación: «%1»</translation>
-    </message>
-    <message>
-        <source>must be %1 or a date from 1973 to 2100 like %2</source>
-        <translation>debe ser %1 o una fecha de 1973 a 2100 como %2</translation>
-    </message>
-    <message>
-        <source>must be a whole number</source>
-        <translation>debe ser un número entero</translation>
-    </message>
-    <message>
-        <source>must be a number</source>
-        <translation>debe ser un número</translation>
-    </message>
-    <message>
-        <source>must be 1 or 3</source>
-        <translation>debe ser 1 o 3</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>line %1: %2</source>
-        <translation>línea %1: %2</translation>
-    </message>
-</context>
-<context>
-    <name>virtualmount</name>
-    <message>
-        <source>%1 too high</source>
-        <translation>%1 por encima</translation>
-    </message>
-    <message>
-        <source>%1 too low</source>
-        <translation>%1 por debajo</translation>
-    </message>
-    <message>
-        <source>%1 too far east</source>
-        <translation>%1 al este</translation>
-    </message>
-    <message>
-        <source>%1 too far west</source>
-        <translation>%1 al oeste</translation>
-    </message>
-    <message>
-        <source>%1 up</source>
-        <translation>%1 arriba</translation>
-    </message>
-    <message>
-        <source>%1 down</source>
-        <translation>%1 abajo</translation>
-    </message>
-    <message>
-        <source>%1 east</source>
-        <translation>%1 este</translation>
-    </message>
-    <message>
-        <source>%1 west</source>
-        <translation>%1 oeste</translation>
     </message>
 </context>
 </TS>

@@ -2,7 +2,224 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it_IT" sourcelanguage="en_US">
 <context>
-    <name>MountWindow</name>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Seleziona tutto</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>&amp;Aumenta</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>&amp;Diminuisci</translation>
+    </message>
+</context>
+<context>
+    <name>QIODevice</name>
+    <message>
+        <source>Permission denied</source>
+        <translation>Permesso negato</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>Troppi file aperti</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>File o cartella inesistente</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>Spazio esaurito sul dispositivo</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annulla</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Ripeti</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Taglia</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copia</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Incolla</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Elimina</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleziona tutto</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Maiusc</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Freccia su</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Freccia giù</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Freccia sinistra</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Freccia destra</translation>
+    </message>
+</context>
+<context>
+    <name>SkyDocument</name>
+    <message>
+        <source>another program holds it locked</source>
+        <translation>un altro programma lo tiene bloccato</translation>
+    </message>
+</context>
+<context>
+    <name>SkyFault</name>
+    <message>
+        <source>not an ordinary file</source>
+        <translation>non è un file ordinario</translation>
+    </message>
+    <message>
+        <source>longer than 64 KiB</source>
+        <translation>supera i 64&#xa0;KiB</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>il file è vuoto</translation>
+    </message>
+    <message>
+        <source>the last line has no end: the file is half-written</source>
+        <translation>l&apos;ultima riga non ha fine, il file è scritto a metà</translation>
+    </message>
+    <message>
+        <source>the section&apos;s ] is missing</source>
+        <translation>manca la ] della sezione</translation>
+    </message>
+    <message>
+        <source>unknown section [%1]</source>
+        <translation>sezione sconosciuta [%1]</translation>
+    </message>
+    <message>
+        <source>not of the form key = value</source>
+        <translation>non è nella forma chiave = valore</translation>
+    </message>
+    <message>
+        <source>stands before any section</source>
+        <translation>si trova prima di ogni sezione</translation>
+    </message>
+    <message>
+        <source>unknown key in [%1]</source>
+        <translation>chiave sconosciuta in [%1]</translation>
+    </message>
+    <message>
+        <source>duplicate key</source>
+        <translation>compare due volte</translation>
+    </message>
+    <message>
+        <source>must lie between %1 and %2</source>
+        <translation>deve essere compreso tra %1 e %2</translation>
+    </message>
+    <message>
+        <source>must be %1 or %2</source>
+        <translation>deve essere %1 o %2</translation>
+    </message>
+    <message>
+        <source>must be %1, %2 or %3</source>
+        <translation>deve essere %1, %2 o %3</translation>
+    </message>
+    <message>
+        <source>unknown operation: &quot;%1&quot;</source>
+        <translation>non indica alcuna operazione: «%1»</translation>
+    </message>
+    <message>
+        <source>must be %1 or a date from %2 to %3 like %4</source>
+        <translation>deve essere %1 o una data dal %2 al %3 come %4</translation>
+    </message>
+    <message>
+        <source>must be a whole number</source>
+        <translation>deve essere un numero intero</translation>
+    </message>
+    <message>
+        <source>must be a number</source>
+        <translation>deve essere un numero</translation>
+    </message>
+    <message>
+        <source>must be 1 or 3</source>
+        <translation>deve essere 1 o 3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>riga %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>virtualmount</name>
+    <message>
+        <source>%1 too high</source>
+        <translation>%1 troppo in alto</translation>
+    </message>
+    <message>
+        <source>%1 too low</source>
+        <translation>%1 troppo in basso</translation>
+    </message>
+    <message>
+        <source>%1 too far east</source>
+        <translation>%1 troppo a est</translation>
+    </message>
+    <message>
+        <source>%1 too far west</source>
+        <translation>%1 troppo a ovest</translation>
+    </message>
+    <message>
+        <source>%1 up</source>
+        <translation>%1 su</translation>
+    </message>
+    <message>
+        <source>%1 down</source>
+        <translation>%1 giù</translation>
+    </message>
+    <message>
+        <source>%1 east</source>
+        <translation>%1 est</translation>
+    </message>
+    <message>
+        <source>%1 west</source>
+        <translation>%1 ovest</translation>
+    </message>
+</context>
+<context>
+    <name>virtualmount::MountWindow</name>
     <message>
         <source>RA axis</source>
         <translation>Asse di AR</translation>
@@ -336,223 +553,6 @@ Ctrl+1 … Ctrl+6 ruotano l&apos;asse, Esc esce da un campo.</translation>
 “New exercise” moves it away from the pole.</source>
         <translation>La montatura è già allineata.
 «Nuovo esercizio» la allontana dal polo.</translation>
-    </message>
-</context>
-<context>
-    <name>QAbstractSpinBox</name>
-    <message>
-        <source>&amp;Select All</source>
-        <translation>&amp;Seleziona tutto</translation>
-    </message>
-    <message>
-        <source>&amp;Step up</source>
-        <translation>&amp;Aumenta</translation>
-    </message>
-    <message>
-        <source>Step &amp;down</source>
-        <translation>&amp;Diminuisci</translation>
-    </message>
-</context>
-<context>
-    <name>QIODevice</name>
-    <message>
-        <source>Permission denied</source>
-        <translation>Permesso negato</translation>
-    </message>
-    <message>
-        <source>Too many open files</source>
-        <translation>Troppi file aperti</translation>
-    </message>
-    <message>
-        <source>No such file or directory</source>
-        <translation>File o cartella inesistente</translation>
-    </message>
-    <message>
-        <source>No space left on device</source>
-        <translation>Spazio esaurito sul dispositivo</translation>
-    </message>
-</context>
-<context>
-    <name>QLineEdit</name>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Annulla</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Ripeti</translation>
-    </message>
-    <message>
-        <source>Cu&amp;t</source>
-        <translation>&amp;Taglia</translation>
-    </message>
-    <message>
-        <source>&amp;Copy</source>
-        <translation>&amp;Copia</translation>
-    </message>
-    <message>
-        <source>&amp;Paste</source>
-        <translation>&amp;Incolla</translation>
-    </message>
-    <message>
-        <source>Delete</source>
-        <translation>Elimina</translation>
-    </message>
-    <message>
-        <source>Select All</source>
-        <translation>Seleziona tutto</translation>
-    </message>
-</context>
-<context>
-    <name>QShortcut</name>
-    <message>
-        <source>Ctrl</source>
-        <translation>Ctrl</translation>
-    </message>
-    <message>
-        <source>Shift</source>
-        <translation>Maiusc</translation>
-    </message>
-    <message>
-        <source>Up</source>
-        <translation>Freccia su</translation>
-    </message>
-    <message>
-        <source>Down</source>
-        <translation>Freccia giù</translation>
-    </message>
-    <message>
-        <source>Left</source>
-        <translation>Freccia sinistra</translation>
-    </message>
-    <message>
-        <source>Right</source>
-        <translation>Freccia destra</translation>
-    </message>
-</context>
-<context>
-    <name>SkyDocument</name>
-    <message>
-        <source>not an ordinary file</source>
-        <translation>non è un file ordinario</translation>
-    </message>
-    <message>
-        <source>longer than 64 KiB</source>
-        <translation>supera i 64&#xa0;KiB</translation>
-    </message>
-    <message>
-        <source>another program holds it locked</source>
-        <translation>un altro programma lo tiene bloccato</translation>
-    </message>
-</context>
-<context>
-    <name>SkyFault</name>
-    <message>
-        <source>the file is empty</source>
-        <translation>il file è vuoto</translation>
-    </message>
-    <message>
-        <source>the last line has no end: the file is half-written</source>
-        <translation>l&apos;ultima riga non ha fine, il file è scritto a metà</translation>
-    </message>
-    <message>
-        <source>the section&apos;s ] is missing</source>
-        <translation>manca la ] della sezione</translation>
-    </message>
-    <message>
-        <source>unknown section [%1]</source>
-        <translation>sezione sconosciuta [%1]</translation>
-    </message>
-    <message>
-        <source>not of the form key = value</source>
-        <translation>non è nella forma chiave = valore</translation>
-    </message>
-    <message>
-        <source>stands before any section</source>
-        <translation>si trova prima di ogni sezione</translation>
-    </message>
-    <message>
-        <source>unknown key in [%1]</source>
-        <translation>chiave sconosciuta in [%1]</translation>
-    </message>
-    <message>
-        <source>duplicate key</source>
-        <translation>compare due volte</translation>
-    </message>
-    <message>
-        <source>must lie between %1 and %2</source>
-        <translation>deve essere compreso tra %1 e %2</translation>
-    </message>
-    <message>
-        <source>must be true or false</source>
-        <translation>deve essere true o false</translation>
-    </message>
-    <message>
-        <source>must be sky, black or saturated</source>
-        <translation>deve essere sky, black o saturated</translation>
-    </message>
-    <message>
-        <source>unknown operation: &quot;%1&quot;</source>
-        <translation>non indica alcuna operazione: «%1»</translation>
-    </message>
-    <message>
-        <source>must be %1 or a date from 1973 to 2100 like %2</source>
-        <translation>deve essere %1 o una data dal 1973 al 2100 come %2</translation>
-    </message>
-    <message>
-        <source>must be a whole number</source>
-        <translation>deve essere un numero intero</translation>
-    </message>
-    <message>
-        <source>must be a number</source>
-        <translation>deve essere un numero</translation>
-    </message>
-    <message>
-        <source>must be 1 or 3</source>
-        <translation>deve essere 1 o 3</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>line %1: %2</source>
-        <translation>riga %1: %2</translation>
-    </message>
-</context>
-<context>
-    <name>virtualmount</name>
-    <message>
-        <source>%1 too high</source>
-        <translation>%1 troppo in alto</translation>
-    </message>
-    <message>
-        <source>%1 too low</source>
-        <translation>%1 troppo in basso</translation>
-    </message>
-    <message>
-        <source>%1 too far east</source>
-        <translation>%1 troppo a est</translation>
-    </message>
-    <message>
-        <source>%1 too far west</source>
-        <translation>%1 troppo a ovest</translation>
-    </message>
-    <message>
-        <source>%1 up</source>
-        <translation>%1 su</translation>
-    </message>
-    <message>
-        <source>%1 down</source>
-        <translation>%1 giù</translation>
-    </message>
-    <message>
-        <source>%1 east</source>
-        <translation>%1 est</translation>
-    </message>
-    <message>
-        <source>%1 west</source>
-        <translation>%1 ovest</translation>
     </message>
 </context>
 </TS>

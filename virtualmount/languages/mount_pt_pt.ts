@@ -2,7 +2,224 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt_PT" sourcelanguage="en_US">
 <context>
-    <name>MountWindow</name>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Selecionar tudo</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>&amp;Aumentar</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>&amp;Diminuir</translation>
+    </message>
+</context>
+<context>
+    <name>QIODevice</name>
+    <message>
+        <source>Permission denied</source>
+        <translation>Permissão negada</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>Demasiados ficheiros abertos</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>O ficheiro ou a pasta não existe</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>Sem espaço livre no dispositivo</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Anular</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Refazer</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Cor&amp;tar</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>Co&amp;lar</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Selecionar tudo</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Seta para cima</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Seta para baixo</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Seta para a esquerda</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Seta para a direita</translation>
+    </message>
+</context>
+<context>
+    <name>SkyDocument</name>
+    <message>
+        <source>another program holds it locked</source>
+        <translation>outro programa mantém-no bloqueado</translation>
+    </message>
+</context>
+<context>
+    <name>SkyFault</name>
+    <message>
+        <source>not an ordinary file</source>
+        <translation>não é um ficheiro normal</translation>
+    </message>
+    <message>
+        <source>longer than 64 KiB</source>
+        <translation>ocupa mais de 64&#xa0;KiB</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>o ficheiro está vazio</translation>
+    </message>
+    <message>
+        <source>the last line has no end: the file is half-written</source>
+        <translation>a última linha não tem fim, o ficheiro está escrito a meio</translation>
+    </message>
+    <message>
+        <source>the section&apos;s ] is missing</source>
+        <translation>falta o ] da secção</translation>
+    </message>
+    <message>
+        <source>unknown section [%1]</source>
+        <translation>secção desconhecida [%1]</translation>
+    </message>
+    <message>
+        <source>not of the form key = value</source>
+        <translation>não tem a forma chave = valor</translation>
+    </message>
+    <message>
+        <source>stands before any section</source>
+        <translation>está antes da primeira secção</translation>
+    </message>
+    <message>
+        <source>unknown key in [%1]</source>
+        <translation>chave desconhecida em [%1]</translation>
+    </message>
+    <message>
+        <source>duplicate key</source>
+        <translation>aparece duas vezes</translation>
+    </message>
+    <message>
+        <source>must lie between %1 and %2</source>
+        <translation>deve estar entre %1 e %2</translation>
+    </message>
+    <message>
+        <source>must be %1 or %2</source>
+        <translation>deve ser %1 ou %2</translation>
+    </message>
+    <message>
+        <source>must be %1, %2 or %3</source>
+        <translation>deve ser %1, %2 ou %3</translation>
+    </message>
+    <message>
+        <source>unknown operation: &quot;%1&quot;</source>
+        <translation>não indica nenhuma operação: «%1»</translation>
+    </message>
+    <message>
+        <source>must be %1 or a date from %2 to %3 like %4</source>
+        <translation>deve ser %1 ou uma data de %2 a %3 como %4</translation>
+    </message>
+    <message>
+        <source>must be a whole number</source>
+        <translation>deve ser um número inteiro</translation>
+    </message>
+    <message>
+        <source>must be a number</source>
+        <translation>deve ser um número</translation>
+    </message>
+    <message>
+        <source>must be 1 or 3</source>
+        <translation>deve ser 1 ou 3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation>linha %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>virtualmount</name>
+    <message>
+        <source>%1 too high</source>
+        <translation>%1 demasiado alto</translation>
+    </message>
+    <message>
+        <source>%1 too low</source>
+        <translation>%1 demasiado baixo</translation>
+    </message>
+    <message>
+        <source>%1 too far east</source>
+        <translation>%1 demasiado a leste</translation>
+    </message>
+    <message>
+        <source>%1 too far west</source>
+        <translation>%1 demasiado a oeste</translation>
+    </message>
+    <message>
+        <source>%1 up</source>
+        <translation>%1 acima</translation>
+    </message>
+    <message>
+        <source>%1 down</source>
+        <translation>%1 abaixo</translation>
+    </message>
+    <message>
+        <source>%1 east</source>
+        <translation>%1 leste</translation>
+    </message>
+    <message>
+        <source>%1 west</source>
+        <translation>%1 oeste</translation>
+    </message>
+</context>
+<context>
+    <name>virtualmount::MountWindow</name>
     <message>
         <source>RA axis</source>
         <translation>Eixo de AR</translation>
@@ -336,223 +553,6 @@ Ctrl+1 a Ctrl+6 rodam o eixo; Esc sai de um campo.</translation>
 “New exercise” moves it away from the pole.</source>
         <translation>A montagem já está alinhada.
 “Novo exercício” afasta-a do polo.</translation>
-    </message>
-</context>
-<context>
-    <name>QAbstractSpinBox</name>
-    <message>
-        <source>&amp;Select All</source>
-        <translation>&amp;Selecionar tudo</translation>
-    </message>
-    <message>
-        <source>&amp;Step up</source>
-        <translation>&amp;Aumentar</translation>
-    </message>
-    <message>
-        <source>Step &amp;down</source>
-        <translation>&amp;Diminuir</translation>
-    </message>
-</context>
-<context>
-    <name>QIODevice</name>
-    <message>
-        <source>Permission denied</source>
-        <translation>Permissão negada</translation>
-    </message>
-    <message>
-        <source>Too many open files</source>
-        <translation>Demasiados ficheiros abertos</translation>
-    </message>
-    <message>
-        <source>No such file or directory</source>
-        <translation>O ficheiro ou a pasta não existe</translation>
-    </message>
-    <message>
-        <source>No space left on device</source>
-        <translation>Sem espaço livre no dispositivo</translation>
-    </message>
-</context>
-<context>
-    <name>QLineEdit</name>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Anular</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Refazer</translation>
-    </message>
-    <message>
-        <source>Cu&amp;t</source>
-        <translation>Cor&amp;tar</translation>
-    </message>
-    <message>
-        <source>&amp;Copy</source>
-        <translation>&amp;Copiar</translation>
-    </message>
-    <message>
-        <source>&amp;Paste</source>
-        <translation>Co&amp;lar</translation>
-    </message>
-    <message>
-        <source>Delete</source>
-        <translation>Eliminar</translation>
-    </message>
-    <message>
-        <source>Select All</source>
-        <translation>Selecionar tudo</translation>
-    </message>
-</context>
-<context>
-    <name>QShortcut</name>
-    <message>
-        <source>Ctrl</source>
-        <translation>Ctrl</translation>
-    </message>
-    <message>
-        <source>Shift</source>
-        <translation>Shift</translation>
-    </message>
-    <message>
-        <source>Up</source>
-        <translation>Seta para cima</translation>
-    </message>
-    <message>
-        <source>Down</source>
-        <translation>Seta para baixo</translation>
-    </message>
-    <message>
-        <source>Left</source>
-        <translation>Seta para a esquerda</translation>
-    </message>
-    <message>
-        <source>Right</source>
-        <translation>Seta para a direita</translation>
-    </message>
-</context>
-<context>
-    <name>SkyDocument</name>
-    <message>
-        <source>not an ordinary file</source>
-        <translation>não é um ficheiro normal</translation>
-    </message>
-    <message>
-        <source>longer than 64 KiB</source>
-        <translation>ocupa mais de 64&#xa0;KiB</translation>
-    </message>
-    <message>
-        <source>another program holds it locked</source>
-        <translation>outro programa mantém-no bloqueado</translation>
-    </message>
-</context>
-<context>
-    <name>SkyFault</name>
-    <message>
-        <source>the file is empty</source>
-        <translation>o ficheiro está vazio</translation>
-    </message>
-    <message>
-        <source>the last line has no end: the file is half-written</source>
-        <translation>a última linha não tem fim, o ficheiro está escrito a meio</translation>
-    </message>
-    <message>
-        <source>the section&apos;s ] is missing</source>
-        <translation>falta o ] da secção</translation>
-    </message>
-    <message>
-        <source>unknown section [%1]</source>
-        <translation>secção desconhecida [%1]</translation>
-    </message>
-    <message>
-        <source>not of the form key = value</source>
-        <translation>não tem a forma chave = valor</translation>
-    </message>
-    <message>
-        <source>stands before any section</source>
-        <translation>está antes da primeira secção</translation>
-    </message>
-    <message>
-        <source>unknown key in [%1]</source>
-        <translation>chave desconhecida em [%1]</translation>
-    </message>
-    <message>
-        <source>duplicate key</source>
-        <translation>aparece duas vezes</translation>
-    </message>
-    <message>
-        <source>must lie between %1 and %2</source>
-        <translation>deve estar entre %1 e %2</translation>
-    </message>
-    <message>
-        <source>must be true or false</source>
-        <translation>deve ser true ou false</translation>
-    </message>
-    <message>
-        <source>must be sky, black or saturated</source>
-        <translation>deve ser sky, black ou saturated</translation>
-    </message>
-    <message>
-        <source>unknown operation: &quot;%1&quot;</source>
-        <translation>não indica nenhuma operação: «%1»</translation>
-    </message>
-    <message>
-        <source>must be %1 or a date from 1973 to 2100 like %2</source>
-        <translation>deve ser %1 ou uma data de 1973 a 2100 como %2</translation>
-    </message>
-    <message>
-        <source>must be a whole number</source>
-        <translation>deve ser um número inteiro</translation>
-    </message>
-    <message>
-        <source>must be a number</source>
-        <translation>deve ser um número</translation>
-    </message>
-    <message>
-        <source>must be 1 or 3</source>
-        <translation>deve ser 1 ou 3</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>line %1: %2</source>
-        <translation>linha %1: %2</translation>
-    </message>
-</context>
-<context>
-    <name>virtualmount</name>
-    <message>
-        <source>%1 too high</source>
-        <translation>%1 demasiado alto</translation>
-    </message>
-    <message>
-        <source>%1 too low</source>
-        <translation>%1 demasiado baixo</translation>
-    </message>
-    <message>
-        <source>%1 too far east</source>
-        <translation>%1 demasiado a leste</translation>
-    </message>
-    <message>
-        <source>%1 too far west</source>
-        <translation>%1 demasiado a oeste</translation>
-    </message>
-    <message>
-        <source>%1 up</source>
-        <translation>%1 acima</translation>
-    </message>
-    <message>
-        <source>%1 down</source>
-        <translation>%1 abaixo</translation>
-    </message>
-    <message>
-        <source>%1 east</source>
-        <translation>%1 leste</translation>
-    </message>
-    <message>
-        <source>%1 west</source>
-        <translation>%1 oeste</translation>
     </message>
 </context>
 </TS>
