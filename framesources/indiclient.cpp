@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <condition_variable>
+#include <csignal>
 #include <cstdlib>
 #include <mutex>
 
@@ -33,6 +34,16 @@ IndiState stateOf(IPState state)
         break;
     }
     return IndiState::Idle;
+}
+
+// INDI writes to its socket without MSG_NOSIGNAL: a server that is gone would end the program. Its
+// thread takes the mask from ours.
+void blockBrokenPipe()
+{
+    sigset_t brokenPipe;
+    sigemptyset(&brokenPipe);
+    sigaddset(&brokenPipe, SIGPIPE);
+    pthread_sigmask(SIG_BLOCK, &brokenPipe, nullptr);
 }
 
 std::string text(const char *raw)
@@ -178,6 +189,7 @@ IndiClient::~IndiClient() = default;
 
 bool IndiClient::connectServer()
 {
+    blockBrokenPipe();
     return listener->connectServer();
 }
 

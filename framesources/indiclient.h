@@ -26,7 +26,8 @@ struct IndiBlob {
 
 /// One connection to a server, by INDI's own client library. What the server says is kept as plain
 /// values under a lock of its own, so that INDI's thread and ours never share its objects. One
-/// thread uses the members; a call that sends may wait for the network.
+/// thread uses the members; a call that sends may wait for the network. That thread's SIGPIPE is
+/// blocked from `connectServer` on.
 class IndiClient
 {
 public:
