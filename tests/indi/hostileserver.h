@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <arpa/inet.h>
 #include <atomic>
+#include <chrono>
 #include <netinet/in.h>
 #include <poll.h>
 #include <sys/socket.h>
@@ -17,9 +18,15 @@
 class HostileServer
 {
 public:
-    HostileServer(QByteArray harmSent, QByteArray goodSent)
+    /// @param width, height of the sensor, pixels
+    /// @param pauseBetween two good frames, milliseconds
+    HostileServer(QByteArray harmSent, QByteArray goodSent, int width = 40, int height = 24,
+                  int pauseBetween = 50)
         : harm(std::move(harmSent)),
           good(std::move(goodSent)),
+          sensorWidth(QByteArray::number(width)),
+          sensorHeight(QByteArray::number(height)),
+          pause(pauseBetween),
           listener(::socket(AF_INET, SOCK_STREAM, 0))
     {
         sockaddr_in address = {};
@@ -53,11 +60,11 @@ public:
     }
 
 private:
-    static QByteArray definitions()
+    QByteArray definitions() const
     {
         const QByteArray head = " device='Camera' label='' group='' state='Ok' perm='rw' "
                                 "timeout='60'";
-        const auto number = [](const char *name, const char *value) {
+        const auto number = [](const char *name, const QByteArray &value) {
             return QByteArray("<defNumber name='") + name +
                    "' label='' format='%g' min='0' max='5000' step='1'>" + value + "</defNumber>";
         };
@@ -67,13 +74,13 @@ private:
                "<defNumberVector name='CCD_EXPOSURE'" +
                head + ">" + number("CCD_EXPOSURE_VALUE", "1") +
                "</defNumberVector>\n<defNumberVector name='CCD_INFO'" + head + ">" +
-               number("CCD_MAX_X", "40") + number("CCD_MAX_Y", "24") +
+               number("CCD_MAX_X", sensorWidth) + number("CCD_MAX_Y", sensorHeight) +
                "</defNumberVector>\n<defNumberVector name='CCD_BINNING'" + head + ">" +
                number("HOR_BIN", "1") + number("VER_BIN", "1") +
                "</defNumberVector>\n<defNumberVector name='CCD_FRAME'" + head + ">" +
-               number("X", "0") + number("Y", "0") + number("WIDTH", "40") +
-               number("HEIGHT", "24") + "</defNumberVector>\n<defBLOBVector name='CCD1'" + head +
-               "><defBLOB name='CCD1' label=''/></defBLOBVector>\n";
+               number("X", "0") + number("Y", "0") + number("WIDTH", sensorWidth) +
+               number("HEIGHT", sensorHeight) + "</defNumberVector>\n<defBLOBVector name='CCD1'" +
+               head + "><defBLOB name='CCD1' label=''/></defBLOBVector>\n";
     }
 
     static bool send(int client, const QByteArray &bytes)
@@ -105,10 +112,12 @@ private:
         char asked[4096]; // what the client says is read, but does not matter
         if (::read(client, asked, sizeof asked) <= 0 || !send(client, definitions()))
             return;
+        using Clock = std::chrono::steady_clock;
         bool done = false;
+        Clock::time_point sent = Clock::now();
         while (!stop) {
             pollfd wait = {client, POLLIN, 0};
-            if (::poll(&wait, 1, 50) > 0) {
+            if (::poll(&wait, 1, 5) > 0) {
                 if (::read(client, asked, sizeof asked) <= 0)
                     return;
                 if (!done && QByteArray(asked).contains("CCD_EXPOSURE")) { // it wants frames
@@ -117,12 +126,16 @@ private:
                         return;
                 }
             }
-            if (done && !send(client, good))
+            if (!done || Clock::now() - sent < std::chrono::milliseconds(pause))
+                continue;
+            sent = Clock::now();
+            if (!send(client, good))
                 return;
         }
     }
 
-    const QByteArray harm, good;
+    const QByteArray harm, good, sensorWidth, sensorHeight;
+    const int pause; // milliseconds
     const int listener;
     quint16 ownPort = 0;
     std::atomic<bool> stop{false};
