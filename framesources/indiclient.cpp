@@ -160,18 +160,21 @@ private:
             for (const auto &element : *property.getSwitch())
                 switches[{name, text(element.getName())}] = element.getState() == ISS_ON;
         else if (property.getType() == INDI_BLOB && !isNew)
-            for (const auto &element : *property.getBLOB())
+            for (auto &element : *property.getBLOB())
                 takeBlob(element);
     }
 
-    void takeBlob(const INDI::WidgetView<IBLOB> &element)
+    void takeBlob(INDI::WidgetView<IBLOB> &element)
     {
+        // INDI never frees a device's last BLOB. It allocates by realloc, so that null is as good.
+        const std::unique_ptr<void, decltype(&std::free)> owned(element.getBlob(), &std::free);
+        element.setBlob(nullptr);
         const int stored = element.getBlobLen(), said = element.getSize();
-        if (!element.getBlob() || stored <= 0 || std::size_t(stored) > mostBlobBytes)
+        if (!owned || stored <= 0 || std::size_t(stored) > mostBlobBytes)
             return;
         // `said` is the sender's word; it may be shorter, never longer, than what came.
         const int length = said > 0 ? std::min(stored, said) : stored;
-        const char *const bytes = static_cast<const char *>(element.getBlob());
+        const char *const bytes = static_cast<const char *>(owned.get());
         blob = IndiBlob{std::string(bytes, bytes + length), text(element.getFormat())};
     }
 
