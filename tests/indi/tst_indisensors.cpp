@@ -79,6 +79,7 @@ private slots:
     void initTestCase();
     void recognisedAtTheProgramsScale_data();
     void recognisedAtTheProgramsScale();
+    void poleIsWhereTheDriverPutIt();
     void exposureAndGainReachTheDevice();
     void streamComes();
 
@@ -136,8 +137,33 @@ void IndiSensorsTest::recognisedAtTheProgramsScale()
              qPrintable(source.lines().join("\n")));
     const double error = templateError(sky, frame);
     QVERIFY2(error < 1.0, qPrintable(QString("%1 at scale %2").arg(error).arg(sky.scale)));
+    qInfo("the template is off by %.2f pixels", error);
     QVERIFY(!sky.mirrored);
     QVERIFY2(source.slowest < 100, qPrintable(QString::number(source.slowest)));
+}
+
+// The driver takes its declination as that of date: the pole of date is 0.7 degrees from the
+// middle.
+void IndiSensorsTest::poleIsWhereTheDriverPutIt()
+{
+    QVERIFY(server.set({}));
+    framesources::SourceSettings settings;
+    settings.stream = false;
+    settings.soften = true;
+    IndiSource source(server.port, simulatedCamera, settings);
+    const double degree = std::acos(-1.0) / 180.0;
+    const double expected = std::tan(0.7 * degree) / std::tan(30.45 / 3600.0 * degree);
+    double found = 0.0;
+    QElapsedTimer waiting; // the first frames may be older than the settings
+    waiting.start();
+    while (waiting.elapsed() < 60000 && std::abs(found - expected) >= 1.0) {
+        const recognition::Recognition sky = recognised(source.frame());
+        if (sky.status == recognition::RecognitionStatus::Recognised)
+            found = std::hypot(sky.pole.x - 639.5, sky.pole.y - 479.5);
+    }
+    QVERIFY2(std::abs(found - expected) < 1.0,
+             qPrintable(QString("%1 pixels, expected %2").arg(found).arg(expected)));
+    qInfo("the pole is %.2f pixels from the middle, put at %.2f", found, expected);
 }
 
 void IndiSensorsTest::exposureAndGainReachTheDevice()
