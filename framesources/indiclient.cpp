@@ -61,11 +61,19 @@ public:
     {
         if (isServerConnected())
             disconnectServer();
+        // INDI's devices and properties own each other and would never be freed.
+        const std::lock_guard<std::mutex> lock(mutex);
+        for (INDI::Property &property : defined)
+            property.setBaseDevice(INDI::BaseDevice());
     }
 
     void newProperty(INDI::Property property) override
     {
-        guarded([&] { take(property, true); });
+        guarded([&] {
+            if (defined.size() < mostElements)
+                defined.push_back(property);
+            take(property, true);
+        });
     }
     void updateProperty(INDI::Property property) override
     {
@@ -119,6 +127,7 @@ public:
     std::map<std::pair<std::string, std::string>, IndiNumber> numbers;
     std::map<std::pair<std::string, std::string>, bool> switches;
     std::optional<IndiBlob> blob;
+    std::vector<INDI::Property> defined;
 
 private:
     template <typename Work> void guarded(Work work) noexcept
