@@ -3,6 +3,7 @@
 #include "app/logging.h"
 #include "app/startup.h"
 #include "app/terminationsignals.h"
+#include "camera/cameraoption.h"
 #include "camera/session.h"
 #include "core/settingsfile.h"
 #include "mainwindow/mainwindow.h"
@@ -30,18 +31,31 @@ std::optional<double> dateOfAngles()
 }
 
 constexpr char usage[] =
-    "usage: quorvandel [--maximized] [--angles-of-date] [--help]\n"
+    "usage: quorvandel [--camera ADDRESS] [--maximized] [--angles-of-date] [--help]\n";
+constexpr char options[] =
     "  --maximized       fill the screen from the start\n"
     "  --angles-of-date  compute the template stars' angles for the present date,\n"
     "                    instead of using the built-in table\n"
     "  --help            print this and exit\n";
+
+int printHelp()
+{
+    const bool printed = std::fputs(usage, stdout) >= 0 &&
+                         std::fputs(cameraOptionHelp, stdout) >= 0 &&
+                         std::fputs(options, stdout) >= 0;
+    return printed ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+constexpr int misuse = 2; // exit status for a bad option
 } // namespace
 
 int main(int argc, char *argv[])
 {
     for (int i = 1; i < argc; ++i)
         if (std::strcmp(argv[i], "--help") == 0)
-            return std::fputs(usage, stdout) < 0 ? EXIT_FAILURE : EXIT_SUCCESS;
+            return printHelp();
+    if (!takeCameraOption(argc, argv))
+        return misuse;
     prepareApplication();
     QApplication application(argc, argv);
     QGuiApplication::setDesktopFileName(QStringLiteral("example.quorvandel.quorvandel"));

@@ -5,6 +5,7 @@
 #include "camera/loaderfolders.h"
 #include "camera/loadprobe.h"
 #include "core/relaxed.h"
+#include "virtualcamera/cameraaddress.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -174,11 +175,15 @@ Outcome loadFrom(const QString &name, QString &reason)
 }
 
 /// Loads the first library that exists. A user who has the maker's library does not want to see
-/// pictures from another one.
+/// pictures from another one, unless the shipped library's camera was asked for.
 Outcome load()
 {
     QStringList reasons;
-    for (const QString &name : librariesToTry(QCoreApplication::applicationDirPath())) {
+    const bool shippedAlone = !qEnvironmentVariableIsEmpty(virtualsky::cameraVariable);
+    QStringList names = librariesToTry(QCoreApplication::applicationDirPath());
+    if (shippedAlone)
+        names.removeFirst();
+    for (const QString &name : names) {
         QString reason;
         const Outcome outcome = loadFrom(name, reason);
         if (outcome != Outcome::Absent)

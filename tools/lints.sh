@@ -26,7 +26,7 @@ licence_lint() {
 
 tidy_lint() {
   run-clang-tidy -quiet -j 2 -p build/asan \
-    "^$PWD/(app|assistant|astrometry|camera|core|dialogs|geometry|mainwindow|recognise|recognition|resources|virtualcamera|virtualmount|widgets)/[^/]*\.cpp\$"
+    "^$PWD/(app|assistant|astrometry|camera|cameracommand|cameralibrary|core|dialogs|framesources|geometry|mainwindow|pictures|recognise|recognition|resources|virtualcamera|virtualmount|widgets)/[^/]*\.cpp\$"
 }
 
 # texts_of CATALOGUE: the contexts and source texts in it.

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
-// Decoding by OpenCV, of bytes that are read once.
-#include "recognise/picturefile.h"
+// Decoding by OpenCV and CFITSIO, of bytes that are read once.
+#include "pictures/picturefile.h"
 
-#include "recognise/exifdate.h"
+#include "pictures/exifdate.h"
+#include "pictures/fitsfile.h"
 
 #include <cerrno>
 #include <cstring>
 #include <fstream>
 #include <opencv2/imgcodecs.hpp>
+#include <sys/stat.h>
 
 namespace
 {
@@ -16,6 +18,12 @@ constexpr std::streamoff mostBytes = std::streamoff(1) << 29; // 24 megapixels o
 std::string readFile(const std::string &path, std::string &complaint)
 {
     errno = 0;
+    struct stat status = {};
+    // Opening a pipe would wait for its writer.
+    if (::stat(path.c_str(), &status) == 0 && !S_ISREG(status.st_mode)) {
+        complaint = "It is not an ordinary file.";
+        return {};
+    }
     std::ifstream file(path, std::ios::binary | std::ios::ate);
     const std::streamoff size = file ? std::streamoff(file.tellg()) : -1;
     std::string bytes;
@@ -32,12 +40,11 @@ std::string readFile(const std::string &path, std::string &complaint)
 }
 } // namespace
 
-PictureFile readPicture(const std::string &path)
+PictureFile decodePicture(std::string &bytes)
 {
+    if (pictures::isFits(bytes))
+        return pictures::decodeFits(bytes);
     PictureFile out;
-    std::string bytes = readFile(path, out.complaint);
-    if (!out.complaint.empty())
-        return out;
     constexpr int flags = cv::IMREAD_ANYDEPTH | cv::IMREAD_ANYCOLOR | cv::IMREAD_IGNORE_ORIENTATION;
     try {
         if (!bytes.empty())
@@ -46,8 +53,15 @@ PictureFile readPicture(const std::string &path)
         out.pixels.release(); // too large a picture, or a damaged one
     }
     if (out.pixels.empty())
-        out.complaint = "It is not a PNG, JPEG or TIFF picture that can be read.";
+        out.complaint = "It is not a PNG, JPEG, TIFF or FITS picture that can be read.";
     else
         out.date = dateOfPicture(bytes);
     return out;
+}
+
+PictureFile readPicture(const std::string &path)
+{
+    PictureFile out;
+    std::string bytes = readFile(path, out.complaint);
+    return out.complaint.empty() ? decodePicture(bytes) : out;
 }

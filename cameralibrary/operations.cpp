@@ -2,12 +2,13 @@
 // The sixteen operations of the camera library's binary interface, and nothing else.
 #include <cstdint>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <string>
 
+#include "cameralibrary/chosensource.h"
 #include "virtualcamera/library.h"
 #include "virtualcamera/skyfile.h"
-#include "virtualcamera/skysource.h"
 
 #define VELDIX_OPERATION extern "C" __attribute__((visibility("default")))
 
@@ -30,8 +31,11 @@ void reportFault(const std::string &text)
 // Never destroyed: a thread may still fetch frames during process exit.
 Library &library()
 {
-    static Library *const instance =
-        new Library(*new virtualsky::SkySource(virtualsky::skyFilePath(), reportFault));
+    static Library *const instance = [] {
+        const char *const wish = std::getenv(virtualsky::cameraVariable);
+        return new Library(
+            *new ChosenSource(virtualsky::skyFilePath(), wish ? wish : "", reportFault));
+    }();
     return *instance;
 }
 

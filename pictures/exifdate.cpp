@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // A reader of the TIFF structure that all three formats keep their dates in; every access is within
 // the file.
-#include "recognise/exifdate.h"
+#include "pictures/exifdate.h"
 
 #include <cstdint>
 #include <cstdio>
