@@ -40,7 +40,7 @@ private:
 virtualsky::Truth truthOf(const RandomSky &sky);
 
 /// How many catalogue stars in the frame are more than so many sigma above the noise, with
-/// the best weighting and the noise of sensor, sky and star. From the catalogue and the sky's own numbers,
-/// not from any frame. Flux above full scale does not count. Two stars within a star's width
-/// count as one.
+/// the best weighting and the noise of sensor, sky and star. From the catalogue and the sky's own
+/// numbers, not from any frame. Flux above full scale does not count. Two stars within a star's
+/// width count as one.
 int starsAbove(const RandomSky &sky, double sigmas);
