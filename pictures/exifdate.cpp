@@ -35,7 +35,7 @@ public:
     /// The text of an entry, without the 0 at its end; empty if there is none.
     std::string text(std::size_t directory, unsigned tag) const
     {
-        constexpr std::size_t inline4 = 4; // shorter values stand in the entry itself
+        constexpr std::size_t inline4 = 4; // shorter values are in the entry itself
         const std::size_t entry = find(directory, tag, asciiType);
         if (entry == 0)
             return {};

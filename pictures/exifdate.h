@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// When was a picture taken, by what its file says of itself?
+// When was a picture taken, according to its file?
 #pragma once
 
 #include <optional>

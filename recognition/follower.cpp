@@ -15,7 +15,7 @@ namespace recognition
 {
 namespace
 {
-constexpr std::size_t guides = 5;      // stars that tell the field's shift
+constexpr std::size_t guides = 5;      // stars that give the field's shift
 constexpr double foundPart = 0.5;      // of the stars looked for: fewer and the field is lost
 constexpr double scaleChange = 0.01;   // relative; more is not the same lens
 constexpr double knownScale = 0.05;    // relative, for searching again

@@ -15,12 +15,12 @@ struct FollowerOptions {
     /// As for `recognise`; utcSeconds is replaced by each frame's own time.
     RecognitionOptions recognition;
     int windowRadius = 6;       ///< pixels about a star's expected place, 4 to 64
-    int searchRadius = 24;      ///< pixels, for the brightest ones, that tell how the field moved
+    int searchRadius = 24;      ///< pixels, for the brightest ones, which show how the field moved
     std::size_t mostStars = 30; ///< measured in a frame, at least leastStars
 };
 
 /// Looks only at windows about the stars of the last frame, as long as they are found there;
-/// otherwise the whole frame is searched, blind but for the scale, mirroring and hemisphere that
+/// otherwise the whole frame is searched, blind except for the scale, mirroring and hemisphere that
 /// were found before. Between frames the field may shift by `searchRadius`, and turn by as much as
 /// leaves its stars in their windows: half a degree. Not for two threads at a time.
 class Follower

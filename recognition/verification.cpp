@@ -193,7 +193,7 @@ Verifier::Nearest Verifier::nearest(const Prediction &prediction) const
     return best;
 }
 
-// How many catalogue stars can lie in the frame: at least as many as do, for the density's sake.
+// How many catalogue stars can be in the frame: for the density, at least as many as there are.
 std::size_t Verifier::expectedStars() const
 {
     const Vector3 &forward = given.pose.cameraFromSky.rows[2];
@@ -204,7 +204,7 @@ std::size_t Verifier::expectedStars() const
     return static_cast<std::size_t>(n);
 }
 
-// The odds of one more star; where it is likelier a catalogue star than not, it is taken for it.
+// The odds of one more star; if it is more likely a catalogue star than not, it counts as that one.
 double Verifier::addStar(std::size_t i, double expected, std::vector<Pair> &pairs)
 {
     const Prediction prediction = predict(i);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The camera library as a whole: which cameras exist, and which are open?
+// The complete camera library: which cameras exist, and which are open?
 #pragma once
 
 #include <cstdint>

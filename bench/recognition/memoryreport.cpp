@@ -45,7 +45,7 @@ void reportMemory(int count, bool following)
     std::vector<cv::Mat> frames;
     std::vector<RandomSky> skies;
     for (int i = 0; i < differentFrames; ++i) {
-        skies.push_back(plainSky(std::uint64_t(400000 + i), i % 2 == 1, 2026));
+        skies.push_back(plainSky(std::uint64_t(400000) + std::uint64_t(i), i % 2 == 1, 2026));
         frames.push_back(painter.frameOf(skies.back()));
     }
     malloc_trim(0);

@@ -14,6 +14,8 @@ class MountPanelsTest : public QObject
 private slots:
     void initTestCase();
     void titlesAreAboveTheFirstRow();
+    void nothingOverlaps();
+    void theDialIsAboveItsAngle();
 };
 
 void MountPanelsTest::initTestCase()
@@ -55,6 +57,35 @@ void MountPanelsTest::titlesAreAboveTheFirstRow()
                          qPrintable(panel->title() + ": " + widget->objectName()));
     }
     QVERIFY2(titles >= 4, qPrintable(QString::number(titles)));
+}
+
+void MountPanelsTest::nothingOverlaps()
+{
+    const SkyFileFixture file;
+    const ShownWindow shown(file.path());
+    int compared = 0;
+    for (const auto *const panel : shown.window.findChildren<QGroupBox *>()) {
+        const auto widgets = panel->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+        for (const auto *const a : widgets)
+            for (const auto *const b : widgets) {
+                if (a == b || !a->isVisible() || !b->isVisible())
+                    continue;
+                ++compared;
+                QVERIFY2(!a->geometry().intersects(b->geometry()),
+                         qPrintable(a->objectName() + " and " + b->objectName()));
+            }
+    }
+    QVERIFY2(compared > 100, qPrintable(QString::number(compared)));
+}
+
+void MountPanelsTest::theDialIsAboveItsAngle()
+{
+    const SkyFileFixture file;
+    const ShownWindow shown(file.path());
+    const QRect dial = named<QWidget>(shown.window, "dial").geometry();
+    const QRect angle = named<QWidget>(shown.window, "angle").geometry();
+    QVERIFY(dial.bottom() < angle.top());
+    QVERIFY(dial.left() < angle.right() && angle.left() < dial.right());
 }
 
 QTEST_MAIN(MountPanelsTest)

@@ -344,6 +344,8 @@ void NoticeTest::picksAreRemembered()
     progress.pick(SecondPick, {103, 104}, false);
     QCOMPARE(progress.movedPixels().value(), 5.0);
     QCOMPARE(progress.emptyPick(), 2);
+    progress.fitAxis({0, 0}); // two picks make no circle
+    QVERIFY(!progress.turns());
     progress.enter(ThirdPick);
     progress.pick(ThirdPick, {103, 105}, true);
     QCOMPARE(progress.movedPixels().value(), 1.0);
