@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+// What does the window need of the camera and its guide?
+#pragma once
+
+#include "assistant/settings.h"
+#include "assistant/status.h"
+
+#include <QImage>
+#include <QString>
+#include <optional>
+#include <vector>
+
+namespace assistantwindow
+{
+struct CameraEntry {
+    QString id;
+    QString name;
+};
+
+/// The latest frame with what is known at it. Without a camera the picture is null.
+struct Snapshot {
+    assistant::Status status;
+    QImage picture;
+    double gain = 0.0;
+};
+
+struct Range {
+    double least = 0.0, greatest = 0.0;
+};
+
+/// Error before and after, as it stands when the report is asked for.
+struct ReportFigures {
+    std::optional<assistant::ErrorFigures> before, after;
+    double seconds = 0.0;                ///< from connecting to the latest measurement
+    double driftArcsecondsPerHour = 0.0; ///< in declination, at the equator, at most
+    double rotationArcsecondsPerHour = 0.0; ///< of the field
+};
+
+/// All calls come from the GUI thread and return at once.
+class Instrument
+{
+public:
+    virtual ~Instrument() = default;
+
+    virtual std::vector<CameraEntry> cameras() = 0;
+    virtual void connectCamera(const QString &id) = 0; ///< empty: the first one
+    virtual void disconnectCamera() = 0;
+    virtual bool isConnected() const = 0; ///< or connecting
+    virtual Range exposureRange() const = 0; ///< microseconds
+    virtual void setExposure(double microseconds) = 0; ///< turns the automatic off
+    virtual void setAutomaticExposure(bool on) = 0;
+    virtual void startAgain() = 0;
+    virtual void apply(const assistant::Settings &settings) = 0;
+    virtual Snapshot latest() = 0;
+    virtual std::optional<ReportFigures> report() = 0; ///< nothing before there is an error
+    /// Writes the report with its history. \return an empty text, or why it failed
+    virtual QString saveCsv(const QString &file) = 0;
+};
+} // namespace assistantwindow

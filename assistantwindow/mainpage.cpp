@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: MIT
+// Shows a display on the main page.
+#include "assistantwindow/mainpage.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QSlider>
+#include <QStackedWidget>
+#include <QStyle>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <cmath>
+
+namespace assistantwindow
+{
+namespace
+{
+constexpr int sliderSteps = 1000;
+
+/// Text and properties of one of the three error labels.
+void showFigure(QLabel &label, const Figure &figure)
+{
+    label.setText(figure.text);
+    label.setProperty("arcseconds",
+                      figure.arcseconds ? QVariant(*figure.arcseconds) : QVariant());
+    label.setProperty("sigma",
+                      figure.sigmaArcseconds ? QVariant(*figure.sigmaArcseconds) : QVariant());
+}
+
+void setMood(QLabel &label, AdviceMood mood)
+{
+    const char *const moods[] = {"calm", "warning", "good"};
+    const QString name = QLatin1String(moods[int(mood)]);
+    if (label.property("mood").toString() == name)
+        return;
+    label.setProperty("mood", name);
+    label.style()->unpolish(&label);
+    label.style()->polish(&label);
+}
+
+void setTextOnce(QLabel &label, const QString &text)
+{
+    if (label.text() != text)
+        label.setText(text);
+}
+} // namespace
+
+int sliderOf(double microseconds, Range range)
+{
+    if (!(range.least > 0.0) || !(range.greatest > range.least) || !(microseconds > 0.0))
+        return 0;
+    const double share =
+        std::log(microseconds / range.least) / std::log(range.greatest / range.least);
+    return int(std::lround(std::clamp(share, 0.0, 1.0) * sliderSteps));
+}
+
+double exposureOf(int position, Range range)
+{
+    if (!(range.least > 0.0) || !(range.greatest > range.least))
+        return 0.0;
+    return range.least * std::pow(range.greatest / range.least, double(position) / sliderSteps);
+}
+
+void MainPage::show(const Display &display, const Snapshot &snapshot, bool isConnected,
+                    const std::vector<ErrorAt> &history, const assistant::Settings &settings)
+{
+    setTextOnce(*stage, display.stageText);
+    setTextOnce(*advice, display.advice);
+    setMood(*advice, display.mood);
+    bars->show(display.stage, display.mood == AdviceMood::Good &&
+                                  display.stage == assistant::Stage::Bolts);
+    connectButton->setText(isConnected ? tr("Disconnect") : tr("Connect"));
+    startAgainButton->setEnabled(isConnected);
+    panels->setCurrentIndex(int(display.stage));
+    picture->show(snapshot);
+    picture->setCaption(display.hint);
+    setTextOnce(*stars, display.stars);
+    setTextOnce(*focus, display.focus);
+    showFigures(display);
+    boltRows->setVisible(settings.site.has_value());
+    noSiteBox->setVisible(!settings.site.has_value());
+    plot->show(history, settings.goalArcseconds);
+    const bool hasReport = !history.empty();
+    reportButton->setEnabled(hasReport);
+}
+
+void MainPage::showFigures(const Display &display)
+{
+    showFigure(*total, display.total);
+    showFigure(*altitude, display.altitude);
+    showFigure(*azimuth, display.azimuth);
+    setTextOnce(*altitudeSigma, display.altitude.sigma);
+    setTextOnce(*azimuthSigma, display.azimuth.sigma);
+    setTextOnce(*altitudeWay, wayText(display.ways.altitude));
+    setTextOnce(*azimuthWay, wayText(display.ways.azimuth));
+    altitudeArrow->show(display.ways.altitude, display.altitudeArrow);
+    azimuthArrow->show(display.ways.azimuth, display.azimuthArrow);
+    setTextOnce(*uncertainty, display.uncertainty);
+    QHBoxLayout *const host =
+        uncertaintyHosts[display.stage == assistant::Stage::Axis ? 0 : 1];
+    if (host->indexOf(uncertainty) < 0)
+        host->insertWidget(1, uncertainty);
+    turn->setText(display.axisTurn);
+    turn->show(display.axisShare, display.axisEnough);
+}
+
+void MainPage::showCameras(const std::vector<CameraEntry> &cameras, const QString &chosen)
+{
+    camera->setVisible(cameras.size() > 1);
+    cameraName->setVisible(cameras.size() > 1);
+    const QSignalBlocker quiet(camera);
+    const QString before = chosenCamera().isEmpty() ? chosen : chosenCamera();
+    camera->clear();
+    for (const CameraEntry &entry : cameras)
+        camera->addItem(entry.name, entry.id);
+    camera->setCurrentIndex(std::max(0, camera->findData(before)));
+}
+
+QString MainPage::chosenCamera() const
+{
+    return camera->currentData().toString();
+}
+
+void MainPage::showExposure(const Snapshot &snapshot, Range range)
+{
+    exposureRange = range;
+    const double now = snapshot.status.exposureMicroseconds;
+    const QSignalBlocker quiet(exposure), quietBox(automaticExposure);
+    if (!exposure->isSliderDown())
+        exposure->setValue(sliderOf(now, range));
+    setTextOnce(*exposureValue, exposureText(now, locale()));
+    automaticExposure->setChecked(snapshot.status.automaticExposure);
+}
+
+void MainPage::hostSite(QWidget *sitePanel)
+{
+    siteHost->insertWidget(0, sitePanel);
+    sitePanel->show();
+}
+
+void MainPage::setTheme(const Theme &theme)
+{
+    picture->setTheme(theme);
+    turn->setTheme(theme);
+    plot->setTheme(theme);
+    bars->setTheme(theme);
+    altitudeArrow->setTheme(theme);
+    azimuthArrow->setTheme(theme);
+    largeViewButton->setIcon(glyphIcon(Glyph::Expand, theme));
+    settingsButton->setIcon(glyphIcon(Glyph::Settings, theme));
+    reportButton->setIcon(glyphIcon(Glyph::Report, theme));
+}
+} // namespace assistantwindow
