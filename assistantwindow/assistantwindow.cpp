@@ -21,6 +21,7 @@ namespace assistantwindow
 namespace
 {
 constexpr int refreshMilliseconds = 20;
+constexpr QSize leastSize(800, 440);
 } // namespace
 
 AssistantWindow::AssistantWindow(Instrument &theInstrument, const assistant::Settings &given,
@@ -36,6 +37,8 @@ AssistantWindow::AssistantWindow(Instrument &theInstrument, const assistant::Set
          {static_cast<QWidget *>(mainPage), static_cast<QWidget *>(largePage),
           static_cast<QWidget *>(settingsPage), static_cast<QWidget *>(reportPage)})
         addWidget(page);
+    // Said here: a hidden page's wrapped texts would ask for more height than they need when shown.
+    setMinimumSize(leastSize);
     sitePanel->show(settings.site);
     settingsPage->show(settings);
     reportPage->setFolder(

@@ -46,7 +46,7 @@ void TurnRing::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const double side = std::min(width(), height()) - 16.0;
+    const double side = std::min(width(), height()) * 0.9 - 8.0;
     const QRectF circle(width() / 2.0 - side / 2.0, height() / 2.0 - side / 2.0, side, side);
     const double thick = std::max(8.0, side * 0.07);
     painter.setPen(QPen(colours->control, thick));
@@ -143,15 +143,13 @@ void ErrorPlot::paintLines(QPainter &painter, const QRectF &area) const
     QFont small = font();
     small.setPixelSize(12);
     painter.setFont(small);
-    for (const double line : {3600.0, 60.0, 20.0, 1.0}) {
-        if (line == 20.0 && area.height() < 70.0)
-            continue;
+    for (const double line : {3600.0, 60.0, 1.0}) {
         painter.setPen(QPen(colours->grid, 1.0));
         painter.drawLine(QPointF(area.left(), yOf(line)), QPointF(area.right(), yOf(line)));
         painter.setPen(colours->quiet);
         const QString text = line >= 3600.0 ? QStringLiteral("1°")
                              : line >= 60.0 ? QStringLiteral("1′")
-                                            : QString::number(line) + QStringLiteral("″");
+                                            : QStringLiteral("1″");
         painter.drawText(QRectF(0, yOf(line) - 8.0, area.left() - 5.0, 16.0),
                          Qt::AlignRight | Qt::AlignVCenter, text);
     }

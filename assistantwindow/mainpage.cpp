@@ -29,15 +29,20 @@ void showFigure(QLabel &label, const Figure &figure)
                       figure.sigmaArcseconds ? QVariant(*figure.sigmaArcseconds) : QVariant());
 }
 
+/// A property that the style sheet looks at.
+void setLook(QWidget &widget, const char *property, const QVariant &value)
+{
+    if (widget.property(property) == value)
+        return;
+    widget.setProperty(property, value);
+    widget.style()->unpolish(&widget);
+    widget.style()->polish(&widget);
+}
+
 void setMood(QLabel &label, AdviceMood mood)
 {
     const char *const moods[] = {"calm", "warning", "good"};
-    const QString name = QLatin1String(moods[int(mood)]);
-    if (label.property("mood").toString() == name)
-        return;
-    label.setProperty("mood", name);
-    label.style()->unpolish(&label);
-    label.style()->polish(&label);
+    setLook(label, "mood", QLatin1String(moods[int(mood)]));
 }
 
 void setTextOnce(QLabel &label, const QString &text)
@@ -72,6 +77,7 @@ void MainPage::show(const Display &display, const Snapshot &snapshot, bool isCon
     bars->show(display.stage, display.mood == AdviceMood::Good &&
                                   display.stage == assistant::Stage::Bolts);
     connectButton->setText(isConnected ? tr("Disconnect") : tr("Connect"));
+    setLook(*connectButton, "main", !isConnected);
     startAgainButton->setEnabled(isConnected);
     panels->setCurrentIndex(int(display.stage));
     picture->show(snapshot);
@@ -95,6 +101,8 @@ void MainPage::showFigures(const Display &display)
     setTextOnce(*azimuthSigma, display.azimuth.sigma);
     setTextOnce(*altitudeWay, wayText(display.ways.altitude));
     setTextOnce(*azimuthWay, wayText(display.ways.azimuth));
+    setLook(*altitudeWay, "good", display.ways.altitude == Way::Stay);
+    setLook(*azimuthWay, "good", display.ways.azimuth == Way::Stay);
     altitudeArrow->show(display.ways.altitude, display.altitudeArrow);
     azimuthArrow->show(display.ways.azimuth, display.azimuthArrow);
     setTextOnce(*uncertainty, display.uncertainty);
@@ -104,6 +112,29 @@ void MainPage::showFigures(const Display &display)
         host->insertWidget(1, uncertainty);
     turn->setText(display.axisTurn);
     turn->show(display.axisShare, display.axisEnough);
+}
+
+int panelWidth(QSize page)
+{
+    // Beside a picture of four by three that is as high as the page leaves it.
+    const int pictureHeight = page.height() - 180;
+    return std::clamp(page.width() - 24 - pictureHeight * 4 / 3, 330, 560);
+}
+
+bool isRoomy(QSize page)
+{
+    return page.width() >= 1200 && page.height() >= 680;
+}
+
+void MainPage::resizeEvent(QResizeEvent *)
+{
+    panels->setFixedWidth(panelWidth(size()));
+    const int arrow = isRoomy(size()) ? 104 : 60;
+    altitudeArrow->setFixedSize(arrow, arrow);
+    azimuthArrow->setFixedSize(arrow, arrow);
+    for (QLabel *const label : {advice, total, altitude, azimuth, altitudeWay, azimuthWay, stars,
+                                focus, uncertainty, altitudeSigma, azimuthSigma})
+        setLook(*label, "roomy", isRoomy(size()));
 }
 
 void MainPage::showCameras(const std::vector<CameraEntry> &cameras, const QString &chosen)

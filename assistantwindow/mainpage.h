@@ -45,6 +45,9 @@ public:
     QComboBox *camera;
     std::function<void(double)> exposureMoved; ///< microseconds
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     void buildHeader(QVBoxLayout &column);
     void buildExposure(QVBoxLayout &column);
@@ -72,6 +75,10 @@ private:
     Range exposureRange;
 };
 
+/// How wide the panel beside the picture is on a page of this size, pixels.
+int panelWidth(QSize page);
+/// Whether figures can be larger than on the smallest screen.
+bool isRoomy(QSize page);
 /// Exposure slider: positions 0 to 1000, evenly in the logarithm.
 int sliderOf(double microseconds, Range range);
 double exposureOf(int position, Range range);

@@ -2,6 +2,8 @@
 // Draws the marks, from the background to the foreground.
 #include "assistantwindow/marks.h"
 
+#include "assistantwindow/starlabel.h"
+
 #include <QPainter>
 #include <QPainterPath>
 #include <cmath>
@@ -12,7 +14,8 @@ namespace
 {
 constexpr double pi = 3.14159265358979323846;
 constexpr double leastEllipse = 4.0; // widget pixels, so that it is visible
-constexpr std::size_t mostNames = 9;
+constexpr std::size_t mostNames = 8;
+constexpr std::size_t mostRings = 40; // the brightest stars; the others have a dot
 
 struct Canvas {
     QPainter &painter;
@@ -84,28 +87,50 @@ QFont nameFont(const QPainter &painter)
     return font;
 }
 
-void paintStars(const Canvas &c, const std::vector<QRectF> &taken)
+/// Stars with a name of their own come before those with a number, then the brightest.
+void paintNames(const Canvas &c, const std::vector<QPointF> &places, std::vector<QRectF> taken)
 {
     c.painter.setFont(nameFont(c.painter));
     const QFontMetricsF metrics(c.painter.font());
     std::vector<QRectF> boxes;
     std::vector<QString> names;
-    c.painter.setBrush(Qt::NoBrush);
-    c.painter.setPen(QPen(c.theme.star, 1.3));
+    for (const bool isNumber : {false, true})
+        for (std::size_t i = 0; i < places.size(); ++i) {
+            const QString name = starLabel(
+                recognition::starName(c.status.sky->matched[i].catalogue));
+            if (name.isEmpty() || name.startsWith(QLatin1String("HD ")) != isNumber)
+                continue;
+            names.push_back(name);
+            boxes.emplace_back(places[i] + QPointF(9.0, -metrics.height() / 2.0),
+                               QSizeF(metrics.horizontalAdvance(name) + 2.0, metrics.height()));
+        }
+    for (const QPointF &place : places)
+        taken.emplace_back(place - QPointF(6, 6), QSizeF(12, 12));
+    c.painter.setPen(c.theme.star);
+    for (const std::size_t i : thinned(boxes, taken, c.bounds, mostNames))
+        c.painter.drawText(boxes[i], Qt::AlignVCenter | Qt::AlignLeft, names[i]);
+}
+
+void paintStars(const Canvas &c, const std::vector<QRectF> &taken)
+{
+    std::vector<QPointF> ringed;
     for (const recognition::MatchedStar &match : c.status.sky->matched) {
         if (match.detected >= c.status.stars.size())
             continue;
         const auto &star = c.status.stars[match.detected];
         const QPointF at = c.view.place(star.x, star.y);
-        c.painter.drawEllipse(at, 6.5, 6.5);
-        const QString name = QString::fromStdString(recognition::starName(match.catalogue));
-        names.push_back(name);
-        boxes.emplace_back(at + QPointF(9.0, -metrics.height() / 2.0),
-                           QSizeF(metrics.horizontalAdvance(name) + 2.0, metrics.height()));
+        if (ringed.size() < mostRings) {
+            c.painter.setBrush(Qt::NoBrush);
+            c.painter.setPen(QPen(c.theme.star, 1.3));
+            c.painter.drawEllipse(at, 6.0, 6.0);
+            ringed.push_back(at);
+        } else {
+            c.painter.setPen(Qt::NoPen);
+            c.painter.setBrush(withAlpha(c.theme.star, 110));
+            c.painter.drawEllipse(at, 1.6, 1.6);
+        }
     }
-    c.painter.setPen(c.theme.star);
-    for (const std::size_t i : thinned(boxes, taken, c.bounds, mostNames))
-        c.painter.drawText(boxes[i], Qt::AlignVCenter | Qt::AlignLeft, names[i]);
+    paintNames(c, ringed, taken);
 }
 
 std::vector<QRectF> paintRings(const Canvas &c, const QPointF &pole)

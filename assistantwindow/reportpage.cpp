@@ -29,6 +29,7 @@ ReportPage::ReportPage(QWidget *parent)
     outcome->setWordWrap(true);
     outcome->setMinimumHeight(40);
     title->setProperty("stage", true);
+    card->setObjectName(QStringLiteral("reportCard"));
     auto *const head = new QHBoxLayout;
     head->addWidget(backButton);
     head->addWidget(title);

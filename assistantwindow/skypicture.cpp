@@ -3,6 +3,7 @@
 #include "assistantwindow/skypicture.h"
 
 #include "assistantwindow/marks.h"
+#include "assistantwindow/starlabel.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -17,6 +18,10 @@ SkyPicture::SkyPicture(QWidget *parent) : QLabel(parent), colours(&theme(false))
 
 void SkyPicture::show(const Snapshot &snapshot)
 {
+    if (snapshot.status.frame != brightFrame || bright.isNull() || snapshot.picture.isNull()) {
+        bright = brightened(snapshot.picture);
+        brightFrame = snapshot.status.frame;
+    }
     shown = snapshot;
     const auto &error = shown.status.error;
     const bool canZoom = error && shown.status.pole && shown.status.sky &&
@@ -73,7 +78,7 @@ void SkyPicture::paintEvent(QPaintEvent *)
         const QRectF source((visible.topLeft() - target.topLeft()) / view.scale,
                             visible.size() / view.scale);
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawImage(visible, shown.picture, source);
+        painter.drawImage(visible, bright, source);
         paintMarks(painter, shown.status, view, QRectF(rect()), *colours);
     } else {
         paintNoPicture(painter, QRectF(rect()), *colours);

@@ -34,6 +34,8 @@ private:
     void paintCaption(QPainter &painter) const;
 
     Snapshot shown;
+    QImage bright; ///< of the frame `brightFrame`
+    std::uint64_t brightFrame = 0;
     QString caption;
     const Theme *colours;
     int level = 0;

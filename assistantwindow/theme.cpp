@@ -17,10 +17,10 @@ constexpr QRgb redOf(int value)
 
 const Theme dark{0xff12100e, 0xff1b1815, 0xff25201b, 0xff312a23, 0xff4a3f34, 0xffece3d7,
                  0xffb8ab9b, 0xff7d7367, 0xff936639, 0xffe0a35f, 0xffffffff, 0xff7cc47f,
-                 0xfff0b450, 0xff7fd0ff, 0xffffa04a, 0xffa9c47f, 0xff4d5a63};
+                 0xfff0b450, 0xff7fd0ff, 0xffffa04a, 0xffa9c47f, 0xff5d6c76};
 const Theme red{redOf(0),   redOf(10),  redOf(22),  redOf(44), redOf(74),  redOf(215),
-                redOf(150), redOf(90),  redOf(120), redOf(190), redOf(255), redOf(235),
-                redOf(255), redOf(255), redOf(200), redOf(140), redOf(66)};
+                redOf(170), redOf(105),  redOf(120), redOf(190), redOf(255), redOf(235),
+                redOf(255), redOf(255), redOf(200), redOf(165), redOf(90)};
 } // namespace
 
 const Theme &theme(bool isRed)
