@@ -18,6 +18,7 @@ namespace
 /// is loaded. Written once by InitVELDIXResource, before the capture thread starts; then only read.
 template <auto *operation> decltype(operation) function = nullptr;
 bool loaded = false;
+QString fault; ///< why no library is loaded
 
 template <auto *operation> void set(void *address)
 {
@@ -59,6 +60,7 @@ bool resolveAll(void *library, const QString &libraryName)
         addresses[i] = dlsym(library, symbols[i].name);
         if (addresses[i])
             continue;
+        fault = QStringLiteral("%1 lacks the function %2").arg(libraryName, symbols[i].name);
         qCritical("%s lacks the function %s", qPrintable(libraryName), symbols[i].name);
         complete = false;
     }
@@ -114,6 +116,7 @@ enum class Outcome {
 
 void logUnusable(const QByteArray &files, const QString &reason)
 {
+    fault = QFile::decodeName(files) + QStringLiteral(": ") + reason;
     qCritical("%s is there and cannot be used: %s; no other camera library is tried",
               files.constData(), qPrintable(reason));
 }
@@ -154,7 +157,8 @@ Outcome load()
             return outcome;
         reasons.append(reason);
     }
-    qCritical("the camera library cannot be loaded: %s", qPrintable(reasons.join("; ")));
+    fault = reasons.join(QStringLiteral("; "));
+    qCritical("the camera library cannot be loaded: %s", qPrintable(fault));
     return Outcome::Absent;
 }
 } // namespace
@@ -181,6 +185,11 @@ std::uint32_t InitVELDIXResource()
         loaded = outcome == Outcome::Loaded;
     }
     return call(function<InitVELDIXResource>, veldixError);
+}
+
+QString libraryFault()
+{
+    return loaded ? QString() : fault;
 }
 
 std::int32_t ScanVELDIX()

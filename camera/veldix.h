@@ -30,6 +30,9 @@ constexpr int maxIdSize = 256;
 /// lacks a function or cannot be loaded is reported in a critical log line. One that exists but
 /// cannot be loaded counts as a library without cameras: the result is 0.
 std::uint32_t InitVELDIXResource();
+/// Why the library cannot be used, for a person; empty if it can. For the thread that called
+/// InitVELDIXResource.
+QString libraryFault();
 /// Number of cameras; 0 or negative = none.
 std::int32_t ScanVELDIX();
 /// 0 = `id` holds the NUL-terminated ID of camera `index`, at most veldixIdSize bytes.

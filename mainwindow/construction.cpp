@@ -184,7 +184,8 @@ void MainWindow::buildDialogs()
     trackingDialog = new PoleTrackingDialog(this);
     favoriteDialog = new FavoriteDialog(this);
     translator = new QTranslator(this);
-    captureThread = std::make_unique<CaptureThread>(session);
+    pictureMaker = std::make_unique<PictureMaker>(session);
+    captureThread = std::make_unique<CaptureThread>(session, *pictureMaker);
 }
 
 void MainWindow::connectSignals()

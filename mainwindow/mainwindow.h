@@ -4,6 +4,7 @@
 
 #include "camera/cameraclosing.h"
 #include "camera/capturethread.h"
+#include "camera/picturemaker.h"
 #include "geometry/templaterings.h"
 #include "mainwindow/alignmentprogress.h"
 #include "mainwindow/pagebutton.h"
@@ -31,7 +32,6 @@ class QTabWidget;
 class QTimer;
 enum class Section;
 struct NoticeFacts;
-struct Session;
 struct Settings;
 struct StarCatalogue;
 struct Style;
@@ -220,7 +220,7 @@ private:
     bool chooseCamera();
     bool openCamera();
     void configureCamera();
-    void readCameraParameters();
+    void showCameraParameters();
     void showConnected(bool connected);
     void showNotFound();
     int sdkCallTimeout() const;
@@ -324,5 +324,6 @@ private:
     QMediaPlayer *player = nullptr;
     CameraClosing cameraClosing{session};
     /// Declared last, so that it is stopped before any other member is destroyed.
+    std::unique_ptr<PictureMaker> pictureMaker; // outlives the thread
     std::unique_ptr<CaptureThread> captureThread;
 };

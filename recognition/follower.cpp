@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace recognition
 {
@@ -171,7 +172,8 @@ Recognition Follower::blind(const cv::Mat &frame, double utcSeconds)
         narrow.leastScale = std::max(options.leastScale, last->scale * (1.0 - knownScale));
         narrow.greatestScale = std::min(options.greatestScale, last->scale * (1.0 + knownScale));
     }
-    measured = std::move(extraction.stars);
+    measured = std::exchange(extraction.stars, {});
+    wholeFrame = std::move(extraction);
     Recognition result = recognise(measured, frame.cols, frame.rows, narrow);
     if (result.status == RecognitionStatus::Recognised)
         enrol(result);

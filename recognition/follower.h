@@ -2,6 +2,7 @@
 // Where is the pole in the next frame of a live picture?
 #pragma once
 
+#include "recognition/extraction.h"
 #include "recognition/recognise.h"
 
 #include <opencv2/core.hpp>
@@ -33,6 +34,8 @@ public:
 
     /// The stars that the last frame's recognition rests on.
     const std::vector<DetectedStar> &stars() const { return measured; }
+    /// What the last search of a whole frame found, without its stars: those are in `stars()`.
+    const Extraction &searched() const { return wholeFrame; }
     /// Whether the last frame was recognised by windows alone.
     bool followed() const { return byWindows; }
     /// Forgets everything; the next frame is searched blind.
@@ -68,6 +71,7 @@ private:
     std::vector<astrometry::Vector3> rosterPlaces;
     double enrolled = 0.0;
     std::vector<DetectedStar> measured;
+    Extraction wholeFrame;
     bool byWindows = false;
 };
 } // namespace recognition

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+// What does the command line ask of the assistant?
+#pragma once
+
+#include "assistant/settings.h"
+
+#include <QStringList>
+
+namespace assistantapp
+{
+struct Options {
+    bool connects = false;  ///< connect at once
+    bool helps = false;     ///< print the usage and exit
+    std::optional<astrometry::Site> site;
+    QString language;       ///< a code; empty: as in the settings
+    QString fault;          ///< why the command line cannot be used; empty: it can
+};
+
+/// @param arguments without the program's name
+Options parse(const QStringList &arguments);
+
+/// "51.48,-0.01": degrees, north and east positive; nothing if it is anything else or out of range.
+std::optional<astrometry::Site> siteOf(const QString &text);
+
+QString usage();
+} // namespace assistantapp
