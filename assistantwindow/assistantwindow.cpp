@@ -13,6 +13,7 @@
 #include <QComboBox>
 #include <QEvent>
 #include <QPushButton>
+#include <QScreen>
 #include <QShortcut>
 #include <QStandardPaths>
 
@@ -21,7 +22,7 @@ namespace assistantwindow
 namespace
 {
 constexpr int refreshMilliseconds = 20;
-constexpr QSize leastSize(800, 440);
+constexpr QSize leastSize(800, 440), usualSize(1180, 740);
 } // namespace
 
 AssistantWindow::AssistantWindow(Instrument &theInstrument, const assistant::Settings &given,
@@ -39,6 +40,7 @@ AssistantWindow::AssistantWindow(Instrument &theInstrument, const assistant::Set
         addWidget(page);
     // Said here: a hidden page's wrapped texts would ask for more height than they need when shown.
     setMinimumSize(leastSize);
+    resize(usualSize.boundedTo(QGuiApplication::primaryScreen()->availableSize()));
     sitePanel->show(settings.site);
     settingsPage->show(settings);
     reportPage->setFolder(

@@ -149,7 +149,7 @@ QWidget *SettingsPage::polePage()
     pressureName = new QLabel;
     temperatureName = new QLabel;
     pressure = new BigSpin(QStringLiteral("doubleSpinBox_pressure"), {10.0, 1.0});
-    pressure->field().setRange(300.0, 1100.0);
+    pressure->field().setRange(0.0, 1100.0);
     pressure->field().setDecimals(0);
     temperature = new BigSpin(QStringLiteral("doubleSpinBox_temperature"), {5.0, 1.0});
     temperature->field().setRange(-50.0, 50.0);

@@ -37,7 +37,7 @@ assistant::Settings loadedSettings()
         settings.site = site;
     if (file.value(QStringLiteral("pole")).toString() == QLatin1String("refracted"))
         settings.target = recognition::PoleTarget::Refracted;
-    settings.pressure = number(file, "pressure", 300.0, 1100.0, settings.pressure);
+    settings.pressure = number(file, "pressure", 0.0, 1100.0, settings.pressure);
     settings.temperature = number(file, "temperature", -50.0, 50.0, settings.temperature);
     settings.language = file.value(QStringLiteral("language")).toString();
     settings.redTheme = file.value(QStringLiteral("red")).toBool();
