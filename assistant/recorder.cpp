@@ -52,6 +52,9 @@ QByteArray headerOf(const cv::Mat &frame, double utcSeconds, double exposureSeco
         header += card("BSCALE", "1");
     }
     const std::string date = astrometry::formatDate(utcSeconds);
+    const std::string start = astrometry::formatDate(utcSeconds - 0.5 * exposureSeconds);
+    header += card("DATE-OBS", "'" + QByteArray::fromStdString(start).chopped(1) + "'",
+                   "start of the exposure");
     header += card("DATE-AVG", "'" + QByteArray::fromStdString(date).chopped(1) + "'",
                    "middle of the exposure");
     header += card("TIMESYS", "'UTC     '");

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What error remains after alignments from random starts?
+#include "bench/assistant/librarymount.h"
 #include "bench/assistant/person.h"
 #include "bench/assistant/reports.h"
 #include "bench/assistant/start.h"
@@ -8,7 +9,20 @@
 #include <cstdio>
 #include <vector>
 
-void reportStarts(int count)
+namespace
+{
+AlignmentResult align(const virtualsky::SkyState &sky, bool onLibrary)
+{
+    if (onLibrary) {
+        LibraryMount mount(sky, settingsFor(sky));
+        return alignAsTold(mount);
+    }
+    PaintedMount mount(sky, settingsFor(sky));
+    return alignAsTold(mount);
+}
+} // namespace
+
+void reportStarts(int count, bool onLibrary)
 {
     std::printf("| start | true error | shown | sigma | inside | seconds | of bolts |\n"
                 "|---|---|---|---|---|---|---|\n");
@@ -16,8 +30,7 @@ void reportStarts(int count)
     int inside = 0;
     for (int i = 0; i < count; ++i) {
         const virtualsky::SkyState sky = startingSky(std::uint64_t(i));
-        PaintedMount mount(sky, settingsFor(sky));
-        const AlignmentResult result = alignAsTold(mount);
+        const AlignmentResult result = align(sky, onLibrary);
         if (!result.finished) {
             std::printf("| %d | %s |\n", i, result.whyNot.c_str());
             continue;
