@@ -2,14 +2,16 @@
 // The assistant's entry point: options, settings, session, window, event loop.
 #include "app/startup.h"
 #include "app/terminationsignals.h"
+#include "assistant/settingsstore.h"
 #include "assistantapp/options.h"
 #include "assistantwindow/assistantwindow.h"
 #include "assistantwindow/sessioninstrument.h"
-#include "assistantwindow/settingsstore.h"
 #include "core/languages.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QIcon>
+#include <QStandardPaths>
 #include <cstdio>
 #include <cstdlib>
 
@@ -24,14 +26,36 @@ namespace
 {
 constexpr int closingPatience = 12000; // milliseconds
 
+/// What the user entered in quorvandel, which keeps its settings beside its executable: in the
+/// user's data folder, or, when it is started from where it was built, beside this one.
+assistant::KnownSite siteOfTheOtherProgram()
+{
+    const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    for (const QString &folder :
+         {data + QStringLiteral("/quorvandel/bin"), QCoreApplication::applicationDirPath()}) {
+        const QString file = folder + QStringLiteral("/Quorvandel.ini");
+        if (QFileInfo(file).isFile())
+            return assistant::siteOfWizard(file);
+    }
+    return {};
+}
+
+/// Where the recorded frames go unless the user chooses.
+void chooseFolder(assistant::Settings &settings)
+{
+    if (settings.recordingFolder.isEmpty())
+        settings.recordingFolder =
+            QStandardPaths::writableLocation(QStandardPaths::PicturesLocation) +
+            QStringLiteral("/quorvandel");
+}
+
 /// The language of the option, else of the settings, else of the system.
 void chooseLanguage(const assistantapp::Options &options, assistant::Settings &settings)
 {
     if (!options.language.isEmpty())
         settings.language = options.language;
     if (!findLanguage(settings.language))
-        settings.language =
-            QLatin1String(bestLanguage(QLocale::system().uiLanguages()).code);
+        settings.language = QLatin1String(bestLanguage(QLocale::system().uiLanguages()).code);
     installRequestedLanguage(QStringLiteral("assistant"), settings.language);
 }
 } // namespace
@@ -41,25 +65,30 @@ int main(int argc, char *argv[])
     prepareApplication();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("quorvandel-assistant"));
-    const assistantapp::Options options =
-        assistantapp::parse(QApplication::arguments().mid(1));
+    const assistantapp::Options options = assistantapp::parse(QApplication::arguments().mid(1));
     if (options.helps)
-        return std::fputs(qPrintable(assistantapp::usage()), stdout) < 0 ? EXIT_FAILURE : EXIT_SUCCESS;
+        return std::fputs(qPrintable(assistantapp::usage()), stdout) < 0 ? EXIT_FAILURE
+                                                                         : EXIT_SUCCESS;
     if (!options.fault.isEmpty()) {
         std::fprintf(stderr, "quorvandel-assistant: %s\n", qPrintable(options.fault));
         return EXIT_FAILURE;
     }
     initialiseAssistantResources();
-    assistant::Settings settings = assistantwindow::loadedSettings();
+    assistant::Settings settings = assistant::loadSettings(assistant::settingsPath());
     if (options.site)
         settings.site = options.site;
     chooseLanguage(options, settings);
+    chooseFolder(settings);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/assistant/assistant.png")));
     assistantwindow::SessionInstrument instrument(settings);
     int status = 0;
     {
-        assistantwindow::AssistantWindow window(instrument, settings,
-                                                assistantwindow::keepSettings);
+        assistantwindow::AssistantWindow window(
+            instrument, settings, [](const assistant::Settings &changed) {
+                assistant::saveSettings(assistant::settingsPath(), changed);
+            });
+        if (!settings.site)
+            window.suggestSite(siteOfTheOtherProgram());
         const TerminationSignals closing(window);
         window.show();
         if (options.connects)

@@ -2,25 +2,11 @@
 // Reads the command line.
 #include "assistantapp/options.h"
 
+#include "assistant/settingsstore.h"
 #include "core/languages.h"
 
 namespace assistantapp
 {
-std::optional<astrometry::Site> siteOf(const QString &text)
-{
-    const QStringList parts = text.split(QLatin1Char(','));
-    if (parts.size() != 2)
-        return {};
-    bool isFirst = false, isSecond = false;
-    const astrometry::Site site{parts[0].trimmed().toDouble(&isFirst),
-                                parts[1].trimmed().toDouble(&isSecond)};
-    const bool inRange = site.latitude >= -90.0 && site.latitude <= 90.0 &&
-                         site.longitude >= -180.0 && site.longitude <= 180.0;
-    if (!isFirst || !isSecond || !inRange)
-        return {};
-    return site;
-}
-
 Options parse(const QStringList &arguments)
 {
     Options options;
@@ -37,7 +23,7 @@ Options parse(const QStringList &arguments)
         } else if (name == QLatin1String("--connect")) {
             options.connects = true;
         } else if (name == QLatin1String("--site")) {
-            options.site = siteOf(value());
+            options.site = assistant::parseSite(value());
             if (!options.site)
                 options.fault = QStringLiteral("--site takes LATITUDE,LONGITUDE in degrees, north "
                                                "and east positive");
@@ -56,13 +42,12 @@ Options parse(const QStringList &arguments)
 
 QString usage()
 {
-    return QStringLiteral(
-               "usage: quorvandel-assistant [--connect] [--site LATITUDE,LONGITUDE]\n"
-               "                            [--language CODE] [--help]\n"
-               "  --connect        connect to the camera at once\n"
-               "  --site LAT,LON   the site in degrees, north and east positive\n"
-               "  --language CODE  %1\n"
-               "  --help           print this and exit\n")
+    return QStringLiteral("usage: quorvandel-assistant [--connect] [--site LATITUDE,LONGITUDE]\n"
+                          "                            [--language CODE] [--help]\n"
+                          "  --connect        connect to the camera at once\n"
+                          "  --site LAT,LON   the site in degrees, north and east positive\n"
+                          "  --language CODE  %1\n"
+                          "  --help           print this and exit\n")
         .arg(languageCodes());
 }
 } // namespace assistantapp

@@ -9,18 +9,15 @@
 namespace assistantapp
 {
 struct Options {
-    bool connects = false;  ///< connect at once
-    bool helps = false;     ///< print the usage and exit
+    bool connects = false; ///< connect at once
+    bool helps = false;    ///< print the usage and exit
     std::optional<astrometry::Site> site;
-    QString language;       ///< a code; empty: as in the settings
-    QString fault;          ///< why the command line cannot be used; empty: it can
+    QString language; ///< a code; empty: as in the settings
+    QString fault;    ///< why the command line cannot be used; empty: it can
 };
 
 /// @param arguments without the program's name
 Options parse(const QStringList &arguments);
-
-/// "51.48,-0.01": degrees, north and east positive; nothing if it is anything else or out of range.
-std::optional<astrometry::Site> siteOf(const QString &text);
 
 QString usage();
 } // namespace assistantapp

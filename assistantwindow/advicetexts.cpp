@@ -119,8 +119,7 @@ QString adviceText(const assistant::Advice &advice, bool hasBolts, const QLocale
     const Row &row = rowOf(advice.code);
     const char *source = row.text;
     if (advice.code == AdviceCode::TurnBolts && !hasBolts)
-        source =
-            QT_TRANSLATE_NOOP("Advice", "Turn the bolts until the arrow is gone: %1 to go.");
+        source = QT_TRANSLATE_NOOP("Advice", "Turn the bolts until the arrow is gone: %1 to go.");
     const QString sentence = QCoreApplication::translate("Advice", source);
     if (row.number == Number::None)
         return sentence;

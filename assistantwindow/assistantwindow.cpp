@@ -28,9 +28,14 @@ constexpr QSize leastSize(800, 440), usualSize(1180, 740);
 AssistantWindow::AssistantWindow(Instrument &theInstrument, const assistant::Settings &given,
                                  std::function<void(const assistant::Settings &)> keeper,
                                  QWidget *parent)
-    : QStackedWidget(parent), instrument(theInstrument), settings(given), keep(std::move(keeper)),
-      mainPage(new MainPage), largePage(new LargePage),
-      settingsPage(new SettingsPage(Sounds::canSpeak())), reportPage(new ReportPage),
+    : QStackedWidget(parent),
+      instrument(theInstrument),
+      settings(given),
+      keep(std::move(keeper)),
+      mainPage(new MainPage),
+      largePage(new LargePage),
+      settingsPage(new SettingsPage(Sounds::canSpeak())),
+      reportPage(new ReportPage),
       sitePanel(new SitePanel)
 {
     setObjectName(QStringLiteral("assistantWindow"));
@@ -43,8 +48,7 @@ AssistantWindow::AssistantWindow(Instrument &theInstrument, const assistant::Set
     resize(usualSize.boundedTo(QGuiApplication::primaryScreen()->availableSize()));
     sitePanel->show(settings.site);
     settingsPage->show(settings);
-    reportPage->setFolder(
-        QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    reportPage->setFolder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
     instrument.apply(settings);
     applyTheme();
     retranslate();
@@ -89,7 +93,6 @@ void AssistantWindow::connectButtons()
     sitePanel->changed = [this](const std::optional<astrometry::Site> &site) {
         change([&site](assistant::Settings &s) { s.site = site; });
     };
-    reportPage->saveCsv = [this](const QString &file) { return instrument.saveCsv(file); };
 }
 
 void AssistantWindow::addShortcuts()
@@ -111,6 +114,12 @@ void AssistantWindow::connectCamera()
     instrument.connectCamera(chosen.isEmpty() ? settings.cameraId : chosen);
     if (!chosen.isEmpty() && chosen != settings.cameraId)
         change([&chosen](assistant::Settings &s) { s.cameraId = chosen; });
+}
+
+void AssistantWindow::suggestSite(const assistant::KnownSite &site)
+{
+    if (!settings.site)
+        sitePanel->suggest(site);
 }
 
 void AssistantWindow::toggleConnection()
@@ -139,7 +148,7 @@ void AssistantWindow::refresh()
         history.clear();
     wasConnected = isConnected;
     if (status.frame != lastFrame && status.error)
-        appendError(history, {status.utcSeconds, status.error->total.arcseconds}, plotMinutes);
+        history.add(status, status.utcSeconds);
     lastFrame = status.frame;
     const Display display = displayOf(status, settings, locale());
     mainPage->show(display, snapshot, isConnected, history, settings);
@@ -147,7 +156,7 @@ void AssistantWindow::refresh()
     if (currentWidget() == largePage)
         largePage->show(display);
     if (currentWidget() == reportPage)
-        reportPage->show(instrument.report().value_or(ReportFigures()));
+        reportPage->show(instrument.report().value_or(assistant::Report()));
     sound(snapshot);
 }
 
@@ -156,8 +165,7 @@ void AssistantWindow::sound(const Snapshot &snapshot)
     const auto &error = snapshot.status.error;
     sounds.setPulses(settings.sound ? pulsesFor(error, settings.goalArcseconds) : Pulses());
     if (settings.speech && settings.site)
-        sounds.say(spokenPhrase(error, settings.site->latitude, settings.goalArcseconds),
-                   locale());
+        sounds.say(spokenPhrase(error, settings.site->latitude, settings.goalArcseconds), locale());
 }
 
 void AssistantWindow::openLarge()

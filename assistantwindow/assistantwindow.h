@@ -2,6 +2,7 @@
 // The assistant's window: which page is open, and what is done at each frame?
 #pragma once
 
+#include "assistant/settingsstore.h"
 #include "assistantwindow/indicators.h"
 #include "assistantwindow/instrument.h"
 #include "assistantwindow/redlight.h"
@@ -29,6 +30,8 @@ public:
     ~AssistantWindow() override;
 
     void connectCamera();
+    /// Shows what is known of a site that is not set.
+    void suggestSite(const assistant::KnownSite &site);
     const assistant::Settings &currentSettings() const { return settings; }
     /// Takes the latest frame; the timer does so every 20 ms.
     void refresh();
@@ -63,7 +66,7 @@ private:
     RedLight redLight;
     Sounds sounds;
     QTimer timer;
-    std::vector<ErrorAt> history;
+    assistant::History history;
     std::uint64_t lastFrame = 0;
     bool wasConnected = false;
     bool fullBefore = false; ///< the window filled the screen before the large view

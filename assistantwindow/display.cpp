@@ -39,8 +39,7 @@ void addArrows(Display &display, const assistant::Status &status,
 {
     const double latitude = settings.site ? settings.site->latitude : 0.0;
     display.ways = boltWays(status.error, latitude, settings.goalArcseconds);
-    const auto hemisphere =
-        status.sky ? status.sky->hemisphere : recognition::Hemisphere::North;
+    const auto hemisphere = status.sky ? status.sky->hemisphere : recognition::Hemisphere::North;
     display.altitudeArrow = arrowDegrees(display.ways.altitude, hemisphere);
     display.azimuthArrow = arrowDegrees(display.ways.azimuth, hemisphere);
     if (status.error && status.pole && status.axis.place) {
@@ -77,8 +76,8 @@ Display displayOf(const assistant::Status &status, const assistant::Settings &se
     display.mood = moodOf(first.code);
     if (status.advice.size() > 1)
         display.hint = adviceText(status.advice[1], display.hasBolts, locale);
-    const bool isTurned = status.stage == assistant::Stage::Axis ||
-                          status.stage == assistant::Stage::Bolts;
+    const bool isTurned =
+        status.stage == assistant::Stage::Axis || status.stage == assistant::Stage::Bolts;
     display.axisTurn = isTurned ? degreesText(status.axis.turnedDegrees, locale) : dash();
     display.axisShare = std::clamp(status.axis.turnedDegrees / enoughTurn, 0.0, 1.0);
     display.axisEnough = status.axis.enough;

@@ -106,25 +106,14 @@ double plotHeight(double arcseconds)
     return std::log(held / lowest) / std::log(highest / lowest);
 }
 
-void appendError(std::vector<ErrorAt> &history, const ErrorAt &next, double minutes)
-{
-    if (!std::isfinite(next.arcseconds) || !std::isfinite(next.seconds))
-        return;
-    history.push_back(next);
-    const auto isOld = [&](const ErrorAt &e) {
-        return e.seconds < next.seconds - 60.0 * minutes || e.seconds > next.seconds;
-    };
-    history.erase(std::remove_if(history.begin(), history.end(), isOld), history.end());
-}
-
 ErrorPlot::ErrorPlot(QWidget *parent) : QWidget(parent), colours(&theme(false))
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
-void ErrorPlot::show(const std::vector<ErrorAt> &newHistory, double goalArcseconds)
+void ErrorPlot::show(const std::deque<assistant::History::Point> &points, double goalArcseconds)
 {
-    history = newHistory;
+    history = points;
     goal = goalArcseconds;
     update();
 }
@@ -167,9 +156,12 @@ void ErrorPlot::paintEvent(QPaintEvent *)
         return;
     const double newest = history.back().seconds;
     QPolygonF line;
-    for (const ErrorAt &e : history)
-        line.append({area.right() - (newest - e.seconds) / (60.0 * plotMinutes) * area.width(),
-                     area.bottom() - plotHeight(e.arcseconds) * area.height()});
+    for (const auto &point : history) {
+        const double age = newest - point.seconds;
+        if (age <= plotSeconds)
+            line.append({area.right() - age / plotSeconds * area.width(),
+                         area.bottom() - plotHeight(point.total) * area.height()});
+    }
     painter.setPen(roundPen(colours->lit, 2.0));
     painter.drawPolyline(line);
     painter.setBrush(colours->lit);

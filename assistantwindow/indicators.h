@@ -3,6 +3,7 @@
 // the stages.
 #pragma once
 
+#include "assistant/history.h"
 #include "assistantwindow/display.h"
 #include "assistantwindow/theme.h"
 
@@ -46,26 +47,17 @@ private:
     const Theme *colours;
 };
 
-/// One value of the history.
-struct ErrorAt {
-    double seconds;    ///< of any steady or UTC clock
-    double arcseconds; ///< total
-};
-
 /// Where an error lies in the plot: 0 at its lower border (1″), 1 at its upper one (10 degrees).
 double plotHeight(double arcseconds);
 
-/// Drops what is older than `minutes` before the newest; a value that is not finite is ignored.
-void appendError(std::vector<ErrorAt> &history, const ErrorAt &next, double minutes);
-
-inline constexpr double plotMinutes = 5.0;
+inline constexpr double plotSeconds = 300.0;
 
 /// The error over the last minutes, in the logarithm.
 class ErrorPlot : public QWidget
 {
 public:
     explicit ErrorPlot(QWidget *parent = nullptr);
-    void show(const std::vector<ErrorAt> &history, double goalArcseconds);
+    void show(const std::deque<assistant::History::Point> &points, double goalArcseconds);
     void setTheme(const Theme &theme);
     QSize minimumSizeHint() const override { return {120, 56}; }
 
@@ -75,7 +67,7 @@ protected:
 private:
     void paintLines(QPainter &painter, const QRectF &area) const;
 
-    std::vector<ErrorAt> history;
+    std::deque<assistant::History::Point> history;
     double goal = 20.0;
     const Theme *colours;
 };

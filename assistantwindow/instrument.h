@@ -2,6 +2,7 @@
 // What does the window need of the camera and its guide?
 #pragma once
 
+#include "assistant/report.h"
 #include "assistant/settings.h"
 #include "assistant/status.h"
 
@@ -28,14 +29,6 @@ struct Range {
     double least = 0.0, greatest = 0.0;
 };
 
-/// Error before and after, as it stands when the report is asked for.
-struct ReportFigures {
-    std::optional<assistant::ErrorFigures> before, after;
-    double seconds = 0.0;                ///< from connecting to the latest measurement
-    double driftArcsecondsPerHour = 0.0; ///< in declination, at the equator, at most
-    double rotationArcsecondsPerHour = 0.0; ///< of the field
-};
-
 /// All calls come from the GUI thread and return at once.
 class Instrument
 {
@@ -45,15 +38,13 @@ public:
     virtual std::vector<CameraEntry> cameras() = 0;
     virtual void connectCamera(const QString &id) = 0; ///< empty: the first one
     virtual void disconnectCamera() = 0;
-    virtual bool isConnected() const = 0; ///< or connecting
-    virtual Range exposureRange() const = 0; ///< microseconds
+    virtual bool isConnected() const = 0;              ///< or connecting
+    virtual Range exposureRange() const = 0;           ///< microseconds
     virtual void setExposure(double microseconds) = 0; ///< turns the automatic off
     virtual void setAutomaticExposure(bool on) = 0;
     virtual void startAgain() = 0;
     virtual void apply(const assistant::Settings &settings) = 0;
     virtual Snapshot latest() = 0;
-    virtual std::optional<ReportFigures> report() = 0; ///< nothing before there is an error
-    /// Writes the report with its history. \return an empty text, or why it failed
-    virtual QString saveCsv(const QString &file) = 0;
+    virtual std::optional<assistant::Report> report() = 0; ///< nothing before there is an error
 };
 } // namespace assistantwindow

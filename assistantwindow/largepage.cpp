@@ -34,9 +34,9 @@ void paintTick(QPainter &painter, const QRectF &box, const QColor &colour)
     const double side = std::min(box.width(), box.height());
     painter.setPen(QPen(colour, side * 0.12, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     const QPointF c = box.center();
-    painter.drawPolyline(QPolygonF({c + QPointF(-side * 0.32, side * 0.02),
-                                    c + QPointF(-side * 0.08, side * 0.28),
-                                    c + QPointF(side * 0.34, -side * 0.26)}));
+    painter.drawPolyline(
+        QPolygonF({c + QPointF(-side * 0.32, side * 0.02), c + QPointF(-side * 0.08, side * 0.28),
+                   c + QPointF(side * 0.34, -side * 0.26)}));
 }
 } // namespace
 
@@ -54,7 +54,9 @@ LargeContent largeContent(const Display &display)
         content.rows.push_back(boltOf(display.ways.azimuth, display.azimuthArrow, display.azimuth));
     } else if (display.stage == assistant::Stage::Bolts && display.total.arcseconds) {
         content.rows.push_back({display.pictureArrow ? Way::Up : Way::Unknown,
-                                display.pictureArrow.value_or(0.0), true, display.total.text,
+                                display.pictureArrow.value_or(0.0),
+                                true,
+                                display.total.text,
                                 {}});
     }
     return content;
@@ -118,8 +120,7 @@ void LargePage::paintAdvice(QPainter &painter, const QRectF &area, int most) con
     const int flags = Qt::AlignCenter | Qt::TextWordWrap;
     for (int size = most; size >= 14; --size) {
         sentence.setPixelSize(size);
-        const QRectF needed =
-            QFontMetricsF(sentence).boundingRect(area, flags, content.advice);
+        const QRectF needed = QFontMetricsF(sentence).boundingRect(area, flags, content.advice);
         if (needed.height() <= area.height() && needed.width() <= area.width())
             break;
     }
@@ -150,8 +151,7 @@ void LargePage::paintRow(QPainter &painter, const LargeRow &row, const QRectF &a
         if (hasWord) {
             QFont word = font();
             word.setBold(true);
-            word.setPixelSize(
-                std::min(28, fittedPixelSize({row.word}, word, side, 28.0)));
+            word.setPixelSize(std::min(28, fittedPixelSize({row.word}, word, side, 28.0)));
             painter.setFont(word);
             painter.setPen(colour);
             painter.drawText(QRectF(area.left(), box.bottom(), side, 34.0), Qt::AlignCenter,
@@ -189,9 +189,10 @@ void LargePage::paintEvent(QPaintEvent *)
     }
     // The button's corner stays free.
     const double right = inside.right() - 60.0;
-    const double arrow = hasArrow ? std::min(rowHeight, (right - inside.left()) * 0.25) + margin : 0;
-    const int size = fittedPixelSize(numbers, font(), right - inside.left() - arrow,
-                                     rowHeight * 0.72);
+    const double arrow =
+        hasArrow ? std::min(rowHeight, (right - inside.left()) * 0.25) + margin : 0;
+    const int size =
+        fittedPixelSize(numbers, font(), right - inside.left() - arrow, rowHeight * 0.72);
     for (std::size_t i = 0; i < content.rows.size(); ++i)
         paintRow(painter, content.rows[i],
                  QRectF(inside.left(), inside.top() + double(i) * rowHeight, right - inside.left(),

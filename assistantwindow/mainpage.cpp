@@ -23,8 +23,7 @@ constexpr int sliderSteps = 1000;
 void showFigure(QLabel &label, const Figure &figure)
 {
     label.setText(figure.text);
-    label.setProperty("arcseconds",
-                      figure.arcseconds ? QVariant(*figure.arcseconds) : QVariant());
+    label.setProperty("arcseconds", figure.arcseconds ? QVariant(*figure.arcseconds) : QVariant());
     label.setProperty("sigma",
                       figure.sigmaArcseconds ? QVariant(*figure.sigmaArcseconds) : QVariant());
 }
@@ -69,13 +68,13 @@ double exposureOf(int position, Range range)
 }
 
 void MainPage::show(const Display &display, const Snapshot &snapshot, bool isConnected,
-                    const std::vector<ErrorAt> &history, const assistant::Settings &settings)
+                    const assistant::History &history, const assistant::Settings &settings)
 {
     setTextOnce(*stage, display.stageText);
     setTextOnce(*advice, display.advice);
     setMood(*advice, display.mood);
-    bars->show(display.stage, display.mood == AdviceMood::Good &&
-                                  display.stage == assistant::Stage::Bolts);
+    bars->show(display.stage,
+               display.mood == AdviceMood::Good && display.stage == assistant::Stage::Bolts);
     connectButton->setText(isConnected ? tr("Disconnect") : tr("Connect"));
     setLook(*connectButton, "main", !isConnected);
     startAgainButton->setEnabled(isConnected);
@@ -87,8 +86,8 @@ void MainPage::show(const Display &display, const Snapshot &snapshot, bool isCon
     showFigures(display);
     boltRows->setVisible(settings.site.has_value());
     noSiteBox->setVisible(!settings.site.has_value());
-    plot->show(history, settings.goalArcseconds);
-    const bool hasReport = !history.empty();
+    plot->show(history.points(), settings.goalArcseconds);
+    const bool hasReport = !history.points().empty();
     reportButton->setEnabled(hasReport);
 }
 
@@ -106,8 +105,7 @@ void MainPage::showFigures(const Display &display)
     altitudeArrow->show(display.ways.altitude, display.altitudeArrow);
     azimuthArrow->show(display.ways.azimuth, display.azimuthArrow);
     setTextOnce(*uncertainty, display.uncertainty);
-    QHBoxLayout *const host =
-        uncertaintyHosts[display.stage == assistant::Stage::Axis ? 0 : 1];
+    QHBoxLayout *const host = uncertaintyHosts[display.stage == assistant::Stage::Axis ? 0 : 1];
     if (host->indexOf(uncertainty) < 0)
         host->insertWidget(1, uncertainty);
     turn->setText(display.axisTurn);

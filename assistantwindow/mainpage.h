@@ -29,7 +29,7 @@ public:
     explicit MainPage(QWidget *parent = nullptr);
 
     void show(const Display &display, const Snapshot &snapshot, bool isConnected,
-              const std::vector<ErrorAt> &history, const assistant::Settings &settings);
+              const assistant::History &history, const assistant::Settings &settings);
     void showCameras(const std::vector<CameraEntry> &cameras, const QString &chosen);
     void showExposure(const Snapshot &snapshot, Range range);
     void setTheme(const Theme &theme);

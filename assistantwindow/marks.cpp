@@ -61,9 +61,9 @@ void paintGrid(const Canvas &c)
         bool drawing = false;
         for (int i = 0; i <= 72; ++i) {
             const double a = i * 5.0 * pi / 180.0;
-            const auto pixel = c.status.sky->mapping.pixelOf(
-                {std::sin(distance) * std::cos(a), std::sin(distance) * std::sin(a),
-                 up * std::cos(distance)});
+            const auto pixel = c.status.sky->mapping.pixelOf({std::sin(distance) * std::cos(a),
+                                                              std::sin(distance) * std::sin(a),
+                                                              up * std::cos(distance)});
             if (!pixel || std::abs(pixel->x) > 1e5 || std::abs(pixel->y) > 1e5) {
                 drawing = false;
                 continue;
@@ -96,8 +96,8 @@ void paintNames(const Canvas &c, const std::vector<QPointF> &places, std::vector
     std::vector<QString> names;
     for (const bool isNumber : {false, true})
         for (std::size_t i = 0; i < places.size(); ++i) {
-            const QString name = starLabel(
-                recognition::starName(c.status.sky->matched[i].catalogue));
+            const QString name =
+                starLabel(recognition::starName(c.status.sky->matched[i].catalogue));
             if (name.isEmpty() || name.startsWith(QLatin1String("HD ")) != isNumber)
                 continue;
             names.push_back(name);

@@ -23,11 +23,6 @@ QString measuredText(const std::optional<recognition::Measured> &measured, const
            uncertaintyText(measured->sigma, locale);
 }
 
-QString totalText(const std::optional<assistant::ErrorFigures> &error, const QLocale &locale)
-{
-    return error ? measuredText(error->total, locale) : dash();
-}
-
 QString perHour(double arcseconds, const QLocale &locale)
 {
     const QString size = angleText(arcseconds, locale);
@@ -36,27 +31,26 @@ QString perHour(double arcseconds, const QLocale &locale)
 
 } // namespace
 
-std::vector<ReportRow> reportRows(const ReportFigures &report, const QLocale &locale)
+std::vector<ReportRow> reportRows(const assistant::Report &report, const QLocale &locale)
 {
-    const auto part = [&](std::optional<recognition::Measured> assistant::ErrorFigures::*member) {
-        return report.after ? measuredText((*report.after).*member, locale) : dash();
-    };
+    const assistant::Drift drift = assistant::driftOf(report.after.total.arcseconds);
     return {
-        {text(QT_TRANSLATE_NOOP("Report", "Error before")), totalText(report.before, locale)},
-        {text(QT_TRANSLATE_NOOP("Report", "Error now")), totalText(report.after, locale)},
+        {text(QT_TRANSLATE_NOOP("Report", "Error before")),
+         measuredText(report.before.total, locale)},
+        {text(QT_TRANSLATE_NOOP("Report", "Error now")), measuredText(report.after.total, locale)},
         {text(QT_TRANSLATE_NOOP("Report", "in altitude")),
-         part(&assistant::ErrorFigures::altitude)},
+         measuredText(report.after.altitude, locale)},
         {text(QT_TRANSLATE_NOOP("Report", "in azimuth")),
-         part(&assistant::ErrorFigures::azimuth)},
+         measuredText(report.after.azimuth, locale)},
         {text(QT_TRANSLATE_NOOP("Report", "Time taken")), durationText(report.seconds)},
         {text(QT_TRANSLATE_NOOP("Report", "Drift in declination, at the equator, at most")),
-         report.after ? perHour(report.driftArcsecondsPerHour, locale) : dash()},
+         perHour(drift.declination, locale)},
         {text(QT_TRANSLATE_NOOP("Report", "Field rotation, at the equator, at most")),
-         report.after ? perHour(report.rotationArcsecondsPerHour, locale) : dash()},
+         perHour(drift.rotation, locale)},
     };
 }
 
-void paintReport(QPainter &painter, const QRectF &area, const ReportFigures &report,
+void paintReport(QPainter &painter, const QRectF &area, const assistant::Report &report,
                  const QLocale &locale, const Theme &theme)
 {
     const std::vector<ReportRow> rows = reportRows(report, locale);
@@ -84,7 +78,7 @@ void paintReport(QPainter &painter, const QRectF &area, const ReportFigures &rep
     }
 }
 
-QImage reportPicture(const ReportFigures &report, const QLocale &locale)
+QImage reportPicture(const assistant::Report &report, const QLocale &locale)
 {
     QImage picture(1000, 640, QImage::Format_RGB32);
     const Theme &colours = theme(false);

@@ -16,13 +16,13 @@ struct ReportRow {
     QString name, value;
 };
 
-/// Error before and after, time, and what remains; a dash for what is not known.
-std::vector<ReportRow> reportRows(const ReportFigures &report, const QLocale &locale);
+/// Error before and after, time, and what remains; a dash for altitude and azimuth without a site.
+std::vector<ReportRow> reportRows(const assistant::Report &report, const QLocale &locale);
 
 /// Draws title and rows into `area`.
-void paintReport(QPainter &painter, const QRectF &area, const ReportFigures &report,
+void paintReport(QPainter &painter, const QRectF &area, const assistant::Report &report,
                  const QLocale &locale, const Theme &theme);
 
 /// The same as a picture of its own, 1000 x 640 pixels.
-QImage reportPicture(const ReportFigures &report, const QLocale &locale);
+QImage reportPicture(const assistant::Report &report, const QLocale &locale);
 } // namespace assistantwindow

@@ -4,6 +4,7 @@
 
 #include "assistantwindow/touch.h"
 
+#include <QBuffer>
 #include <QDateTime>
 #include <QDir>
 #include <QLineEdit>
@@ -15,9 +16,16 @@
 namespace assistantwindow
 {
 ReportPage::ReportPage(QWidget *parent)
-    : QWidget(parent), backButton(new QPushButton(this)), card(new QWidget(this)),
-      title(new QLabel), folderName(new QLabel), outcome(new QLabel), folder(new QLineEdit),
-      png(new QPushButton), csv(new QPushButton), colours(&theme(false))
+    : QWidget(parent),
+      backButton(new QPushButton(this)),
+      card(new QWidget(this)),
+      title(new QLabel),
+      folderName(new QLabel),
+      outcome(new QLabel),
+      folder(new QLineEdit),
+      png(new QPushButton),
+      csv(new QPushButton),
+      colours(&theme(false))
 {
     setObjectName(QStringLiteral("reportPage"));
     backButton->setObjectName(QStringLiteral("pushButton_reportBack"));
@@ -48,15 +56,14 @@ ReportPage::ReportPage(QWidget *parent)
     column->addWidget(card, 1);
     column->addWidget(outcome);
     column->addLayout(row);
-    connect(png, &QPushButton::clicked, this, [this] { savePng(); });
+    connect(png, &QPushButton::clicked, this, [this] { save(QStringLiteral("png"), pngOf()); });
     connect(csv, &QPushButton::clicked, this, [this] {
-        const QString file = fileFor(QStringLiteral("csv"));
-        saved(file, !file.isEmpty() && saveCsv ? saveCsv(file) : tr("The folder cannot be made."));
+        save(QStringLiteral("csv"), QByteArray::fromStdString(assistant::csvOf(figures)));
     });
     retranslate();
 }
 
-void ReportPage::show(const ReportFigures &report)
+void ReportPage::show(const assistant::Report &report)
 {
     figures = report;
     update();
@@ -77,14 +84,23 @@ QString ReportPage::fileFor(const QString &ending)
     return place.filePath(QStringLiteral("polar-alignment-%1.%2").arg(moment, ending));
 }
 
-void ReportPage::savePng()
+QByteArray ReportPage::pngOf() const
 {
-    const QString file = fileFor(QStringLiteral("png"));
+    QByteArray bytes;
+    QBuffer out(&bytes);
+    out.open(QIODevice::WriteOnly);
+    reportPicture(figures, locale()).save(&out, "PNG");
+    return bytes;
+}
+
+void ReportPage::save(const QString &ending, const QByteArray &content)
+{
+    const QString file = fileFor(ending);
     if (file.isEmpty())
         return saved(file, tr("The folder cannot be made."));
     QSaveFile out(file);
-    const bool isWritten = out.open(QIODevice::WriteOnly) &&
-                           reportPicture(figures, locale()).save(&out, "PNG") && out.commit();
+    const bool isWritten =
+        out.open(QIODevice::WriteOnly) && out.write(content) == content.size() && out.commit();
     saved(file, isWritten ? QString() : out.errorString());
 }
 

@@ -20,13 +20,12 @@ class ReportPage : public QWidget
 
 public:
     explicit ReportPage(QWidget *parent = nullptr);
-    void show(const ReportFigures &report);
+    void show(const assistant::Report &report);
     void setTheme(const Theme &theme);
     void retranslate();
     void setFolder(const QString &folder);
 
     QPushButton *backButton;
-    std::function<QString(const QString &file)> saveCsv; ///< why it failed; empty: saved
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -34,14 +33,15 @@ protected:
 private:
     /// A new name in the folder, which is created; empty if that fails.
     QString fileFor(const QString &ending);
-    void savePng();
+    void save(const QString &ending, const QByteArray &content);
+    QByteArray pngOf() const;
     void saved(const QString &file, const QString &failure);
 
     QWidget *card;
     QLabel *title, *folderName, *outcome;
     QLineEdit *folder;
     QPushButton *png, *csv;
-    ReportFigures figures;
+    assistant::Report figures;
     const Theme *colours;
 };
 } // namespace assistantwindow

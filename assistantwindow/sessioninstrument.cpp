@@ -1,35 +1,15 @@
 // SPDX-License-Identifier: MIT
-// Passes the window's wishes to the session, and keeps the history for the report.
+// Passes the window's wishes to the session, and remembers what the report needs.
 #include "assistantwindow/sessioninstrument.h"
 
-#include <QCoreApplication>
-#include <QDateTime>
-#include <QSaveFile>
 #include <algorithm>
 
 namespace assistantwindow
 {
-namespace
+SessionInstrument::SessionInstrument(const assistant::Settings &settings)
+    : session(settings), inUse(settings)
 {
-constexpr std::size_t mostEntries = 8 * 3600; // one a second
-/// Of the sky, radians an hour: 2 pi in a sidereal day.
-constexpr double skyTurn = 2.0 * 3.14159265358979323846 / 23.9344696;
-
-QByteArray partText(const std::optional<recognition::Measured> &part)
-{
-    if (!part)
-        return ",";
-    return QByteArray::number(part->arcseconds, 'f', 2) + ',' +
-           QByteArray::number(part->sigma, 'f', 2);
 }
-} // namespace
-
-double driftPerHour(double totalArcseconds)
-{
-    return totalArcseconds * skyTurn;
-}
-
-SessionInstrument::SessionInstrument(const assistant::Settings &settings) : session(settings) {}
 
 std::vector<CameraEntry> SessionInstrument::cameras()
 {
@@ -42,7 +22,6 @@ std::vector<CameraEntry> SessionInstrument::cameras()
 
 void SessionInstrument::connectCamera(const QString &id)
 {
-    entries.clear();
     beganAt.reset();
     last.reset();
     session.connectCamera(id.toStdString());
@@ -75,7 +54,6 @@ void SessionInstrument::setAutomaticExposure(bool on)
 
 void SessionInstrument::startAgain()
 {
-    entries.clear();
     beganAt.reset();
     last.reset();
     session.startAgain();
@@ -83,6 +61,7 @@ void SessionInstrument::startAgain()
 
 void SessionInstrument::apply(const assistant::Settings &settings)
 {
+    inUse = settings;
     session.setSettings(settings);
 }
 
@@ -99,41 +78,21 @@ void SessionInstrument::remember(const assistant::Status &status)
         beganAt = status.utcSeconds;
     if (!status.error)
         return;
-    const bool isNew = entries.empty() || status.utcSeconds >= entries.back().utcSeconds + 1.0;
-    if (isNew && entries.size() < mostEntries)
-        entries.push_back({status.utcSeconds, *status.error});
     last = status;
 }
 
-std::optional<ReportFigures> SessionInstrument::report()
+std::optional<assistant::Report> SessionInstrument::report()
 {
     if (!last)
         return {};
-    ReportFigures figures;
-    figures.before = last->firstError ? last->firstError : last->error;
-    figures.after = last->error;
-    figures.seconds = std::max(0.0, last->utcSeconds - beganAt.value_or(last->utcSeconds));
-    figures.driftArcsecondsPerHour = driftPerHour(last->error->total.arcseconds);
-    figures.rotationArcsecondsPerHour = figures.driftArcsecondsPerHour;
-    return figures;
-}
-
-QString SessionInstrument::saveCsv(const QString &file)
-{
-    QSaveFile out(file);
-    if (!out.open(QIODevice::WriteOnly))
-        return out.errorString();
-    out.write("utc,total_arcsec,total_sigma,altitude_arcsec,altitude_sigma,azimuth_arcsec,"
-              "azimuth_sigma\n");
-    for (const Entry &entry : entries) {
-        const qint64 milliseconds = qint64(entry.utcSeconds * 1000.0);
-        out.write(QDateTime::fromMSecsSinceEpoch(milliseconds, Qt::UTC)
-                      .toString(Qt::ISODateWithMs)
-                      .toLatin1() +
-                  ',' + partText(entry.error.total) + ',' + partText(entry.error.altitude) + ',' +
-                  partText(entry.error.azimuth) + '\n');
-    }
-    return out.commit() ? QString() : out.errorString();
+    assistant::Report made;
+    made.utcSeconds = last->utcSeconds;
+    made.site = inUse.site;
+    made.target = inUse.target;
+    made.before = last->firstError ? *last->firstError : *last->error;
+    made.after = *last->error;
+    made.seconds = std::max(0.0, last->utcSeconds - beganAt.value_or(last->utcSeconds));
+    return made;
 }
 
 bool SessionInstrument::close(int milliseconds)

@@ -22,8 +22,7 @@ public:
     void startAgain() override;
     void apply(const assistant::Settings &settings) override;
     Snapshot latest() override;
-    std::optional<ReportFigures> report() override;
-    QString saveCsv(const QString &file) override;
+    std::optional<assistant::Report> report() override;
 
     /// Ends the session's threads; false if the camera library does not return in time.
     bool close(int milliseconds);
@@ -32,16 +31,8 @@ private:
     void remember(const assistant::Status &status);
 
     assistant::AssistantSession session;
-    struct Entry {
-        double utcSeconds;
-        assistant::ErrorFigures error;
-    };
-    std::vector<Entry> entries;        ///< at most one a second, for the table
-    std::optional<double> beganAt;     ///< utc of the first frame since connecting
+    assistant::Settings inUse;
+    std::optional<double> beganAt;         ///< utc of the first frame since connecting
     std::optional<assistant::Status> last; ///< the last one with an error
 };
-
-/// How fast a star at the equator drifts in declination, and how fast its field turns, at most, for
-/// an axis that misses the pole by so much: arcseconds an hour.
-double driftPerHour(double totalArcseconds);
 } // namespace assistantwindow

@@ -31,9 +31,13 @@ QVBoxLayout *pageColumn(QWidget &page)
 } // namespace
 
 SettingsPage::SettingsPage(bool speaks, QWidget *parent)
-    : QWidget(parent), backButton(new QPushButton(this)), canSpeak(speaks),
-      sections(new QButtonGroup(this)), languages(new QButtonGroup(this)),
-      pages(new QStackedWidget), title(new QLabel)
+    : QWidget(parent),
+      backButton(new QPushButton(this)),
+      canSpeak(speaks),
+      sections(new QButtonGroup(this)),
+      languages(new QButtonGroup(this)),
+      pages(new QStackedWidget),
+      title(new QLabel)
 {
     setObjectName(QStringLiteral("settingsPage"));
     backButton->setObjectName(QStringLiteral("pushButton_settingsBack"));
@@ -142,8 +146,7 @@ QWidget *SettingsPage::polePage()
 {
     auto *const page = new QFrame;
     QVBoxLayout *const column = pageColumn(*page);
-    truePole =
-        poleChoice("radioButton_truePole", recognition::PoleTarget::True, trueWhy, *column);
+    truePole = poleChoice("radioButton_truePole", recognition::PoleTarget::True, trueWhy, *column);
     refractedPole = poleChoice("radioButton_refractedPole", recognition::PoleTarget::Refracted,
                                refractedWhy, *column);
     pressureName = new QLabel;
@@ -156,8 +159,9 @@ QWidget *SettingsPage::polePage()
     temperature->field().setDecimals(0);
     number(*pressure, &assistant::Settings::pressure);
     number(*temperature, &assistant::Settings::temperature);
-    for (QWidget *const widget : {static_cast<QWidget *>(pressureName), static_cast<QWidget *>(pressure),
-                                  static_cast<QWidget *>(temperatureName), static_cast<QWidget *>(temperature)})
+    for (QWidget *const widget :
+         {static_cast<QWidget *>(pressureName), static_cast<QWidget *>(pressure),
+          static_cast<QWidget *>(temperatureName), static_cast<QWidget *>(temperature)})
         column->addWidget(widget);
     column->addStretch(1);
     return page;
@@ -207,7 +211,8 @@ QWidget *SettingsPage::recordingPage()
     limit->field().setDecimals(0);
     number(*limit, &assistant::Settings::recordingLimitMegabytes);
     for (QWidget *const widget :
-         {static_cast<QWidget *>(folderName), static_cast<QWidget *>(folder), static_cast<QWidget *>(limitName), static_cast<QWidget *>(limit)})
+         {static_cast<QWidget *>(folderName), static_cast<QWidget *>(folder),
+          static_cast<QWidget *>(limitName), static_cast<QWidget *>(limit)})
         column->addWidget(widget);
     column->addStretch(1);
     return page;
@@ -222,8 +227,7 @@ QWidget *SettingsPage::languagePage()
     int index = 0;
     for (const LanguageName &language : languageNames) {
         auto *const button = new QPushButton(QString::fromUtf8(language.name));
-        button->setObjectName(QStringLiteral("pushButton_language") +
-                              QLatin1String(language.code));
+        button->setObjectName(QStringLiteral("pushButton_language") + QLatin1String(language.code));
         button->setCheckable(true);
         button->setProperty("section", true);
         button->setMinimumSize(150, 52);

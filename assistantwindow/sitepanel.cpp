@@ -33,9 +33,12 @@ QString text(const char *source)
 } // namespace
 
 SitePanel::SitePanel(QWidget *parent)
-    : QWidget(parent), latitude(new BigSpin(QStringLiteral("doubleSpinBox_latitude"), {1.0, 0.1})),
+    : QWidget(parent),
+      latitude(new BigSpin(QStringLiteral("doubleSpinBox_latitude"), {1.0, 0.1})),
       longitude(new BigSpin(QStringLiteral("doubleSpinBox_longitude"), {1.0, 0.1})),
-      latitudeName(new QLabel), longitudeName(new QLabel), use(new QLabel)
+      latitudeName(new QLabel),
+      longitudeName(new QLabel),
+      use(new QLabel)
 {
     setObjectName(QStringLiteral("sitePanel"));
     setUp(latitude->field(), 90.0);
@@ -46,10 +49,10 @@ SitePanel::SitePanel(QWidget *parent)
     auto *const column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(4);
-    for (QWidget *const widget : {static_cast<QWidget *>(use), static_cast<QWidget *>(latitudeName),
-                                  static_cast<QWidget *>(latitude),
-                                  static_cast<QWidget *>(longitudeName),
-                                  static_cast<QWidget *>(longitude)})
+    for (QWidget *const widget :
+         {static_cast<QWidget *>(use), static_cast<QWidget *>(latitudeName),
+          static_cast<QWidget *>(latitude), static_cast<QWidget *>(longitudeName),
+          static_cast<QWidget *>(longitude)})
         column->addWidget(widget);
     for (QDoubleSpinBox *const field : {&latitude->field(), &longitude->field()})
         connect(field, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, [this] {
@@ -64,6 +67,14 @@ void SitePanel::show(const std::optional<astrometry::Site> &shown)
     const QSignalBlocker first(&latitude->field()), second(&longitude->field());
     latitude->field().setValue(shown ? shown->latitude : latitude->field().minimum());
     longitude->field().setValue(shown ? shown->longitude : longitude->field().minimum());
+}
+
+void SitePanel::suggest(const assistant::KnownSite &site)
+{
+    if (site.latitude)
+        latitude->field().setValue(*site.latitude);
+    if (site.longitude)
+        longitude->field().setValue(*site.longitude);
 }
 
 std::optional<astrometry::Site> SitePanel::site() const

@@ -2,7 +2,7 @@
 // The fields of the site: latitude and longitude, or nothing yet.
 #pragma once
 
-#include "assistant/settings.h"
+#include "assistant/settingsstore.h"
 #include "assistantwindow/touch.h"
 
 #include <functional>
@@ -18,6 +18,8 @@ class SitePanel : public QWidget
 public:
     explicit SitePanel(QWidget *parent = nullptr);
     void show(const std::optional<astrometry::Site> &site);
+    /// Fills the fields that are known.
+    void suggest(const assistant::KnownSite &site);
     void retranslate();
     std::optional<astrometry::Site> site() const;
 

@@ -72,8 +72,7 @@ void SkyPicture::paintEvent(QPaintEvent *)
     painter.fillRect(rect(), colours->well);
     if (!shown.picture.isNull()) {
         const View view = currentView();
-        const QRectF target(view.place(-0.5, -0.5),
-                            QSizeF(shown.picture.size()) * view.scale);
+        const QRectF target(view.place(-0.5, -0.5), QSizeF(shown.picture.size()) * view.scale);
         const QRectF visible = target & QRectF(rect());
         const QRectF source((visible.topLeft() - target.topLeft()) / view.scale,
                             visible.size() / view.scale);

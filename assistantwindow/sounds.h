@@ -20,7 +20,7 @@ public:
     explicit Sounds(QObject *parent = nullptr);
     ~Sounds() override;
 
-    static bool canSpeak(); ///< built with speech, and an engine is installed
+    static bool canSpeak();               ///< built with speech, and an engine is installed
     void setPulses(const Pulses &pulses); ///< Silent stops
     /// Said at most every four seconds; an empty phrase is not said.
     void say(const QString &phrase, const QLocale &locale);

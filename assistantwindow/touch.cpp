@@ -41,9 +41,10 @@ QPushButton *BigSpin::stepButton(const QString &text, double step)
     button->setAutoRepeat(true);
     connect(button, &QPushButton::clicked, spin, [this, step] {
         // A field without a number yet begins at 0.
-        const bool isEmpty = !spin->specialValueText().isEmpty() && spin->value() <= spin->minimum();
-        const double least = spin->specialValueText().isEmpty() ? spin->minimum()
-                                                                : -spin->maximum();
+        const bool isEmpty =
+            !spin->specialValueText().isEmpty() && spin->value() <= spin->minimum();
+        const double least =
+            spin->specialValueText().isEmpty() ? spin->minimum() : -spin->maximum();
         spin->setValue(isEmpty ? 0.0 : std::max(least, spin->value() + step));
     });
     button->setProperty("stepText", (step > 0 ? QStringLiteral("+") : QStringLiteral("−")) +
@@ -56,7 +57,8 @@ void BigSpin::setName(const QString &name)
 {
     spin->setAccessibleName(name);
     for (QPushButton *const button : qAsConst(buttons))
-        button->setAccessibleName(name + QLatin1Char(' ') + button->property("stepText").toString());
+        button->setAccessibleName(name + QLatin1Char(' ') +
+                                  button->property("stepText").toString());
 }
 
 namespace

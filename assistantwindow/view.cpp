@@ -23,8 +23,8 @@ View wholeView(QSize frame, QSize widget)
 {
     if (frame.isEmpty() || widget.isEmpty())
         return {};
-    const double scale = std::min(double(widget.width()) / frame.width(),
-                                  double(widget.height()) / frame.height());
+    const double scale =
+        std::min(double(widget.width()) / frame.width(), double(widget.height()) / frame.height());
     const QPointF corner((widget.width() - scale * frame.width()) / 2.0,
                          (widget.height() - scale * frame.height()) / 2.0);
     return {scale, corner + QPointF(0.5, 0.5) * scale};
@@ -84,10 +84,10 @@ EdgeArrow arrowInDirection(double degrees, const QRectF &bounds)
 {
     const QPointF along(std::sin(degrees * degree), -std::cos(degrees * degree));
     const double far = 1e9;
-    const double across = std::abs(along.x()) > 1e-9 ? bounds.width() / 2.0 / std::abs(along.x())
-                                                     : far;
-    const double down = std::abs(along.y()) > 1e-9 ? bounds.height() / 2.0 / std::abs(along.y())
-                                                   : far;
+    const double across =
+        std::abs(along.x()) > 1e-9 ? bounds.width() / 2.0 / std::abs(along.x()) : far;
+    const double down =
+        std::abs(along.y()) > 1e-9 ? bounds.height() / 2.0 / std::abs(along.y()) : far;
     return {bounds.center() + along * std::min(across, down), degrees};
 }
 

@@ -77,7 +77,7 @@ class MadeInstrument : public assistantwindow::Instrument
 public:
     assistantwindow::Snapshot snapshot;
     std::vector<assistantwindow::CameraEntry> entries;
-    std::optional<assistantwindow::ReportFigures> figures;
+    std::optional<assistant::Report> figures;
     bool connected = false;
     QStringList calls;
 
@@ -109,7 +109,6 @@ public:
     void startAgain() override { calls.append(QStringLiteral("start again")); }
     void apply(const assistant::Settings &) override {}
     assistantwindow::Snapshot latest() override { return snapshot; }
-    std::optional<assistantwindow::ReportFigures> report() override { return figures; }
-    QString saveCsv(const QString &) override { return QStringLiteral("No space left."); }
+    std::optional<assistant::Report> report() override { return figures; }
 };
 } // namespace madestatus

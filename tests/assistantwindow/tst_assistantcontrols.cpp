@@ -5,8 +5,8 @@
 #include "tests/support/textroom.h"
 
 #include <QAbstractSlider>
-#include <QButtonGroup>
 #include <QAbstractSpinBox>
+#include <QButtonGroup>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -156,7 +156,7 @@ void AssistantControlsTest::redThemeHasOnlyRed()
     const QImage image = screenImage(*shown.window);
     QCOMPARE(shown.window->size(), smallScreen);
     QCOMPARE(image.size(), smallScreen);
-        QVERIFY(isLit(image));
+    QVERIFY(isLit(image));
     QCOMPARE(coloured(image), 0);
 }
 

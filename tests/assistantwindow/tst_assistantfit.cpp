@@ -48,8 +48,8 @@ void AssistantFitTest::fits()
     madestatus::MadeInstrument instrument;
     scenes::fill(instrument, shown);
     const bool red = qEnvironmentVariableIsSet("QUORVANDEL_RED");
-    assistantwindow::AssistantWindow window(
-        instrument, scenes::settingsOf(shown, red, language), [](const auto &) {});
+    assistantwindow::AssistantWindow window(instrument, scenes::settingsOf(shown, red, language),
+                                            [](const auto &) {});
     window.resize(size);
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
