@@ -229,8 +229,8 @@ void AssistantWindow::change(const std::function<void(assistant::Settings &)> &h
 void AssistantWindow::applyTheme()
 {
     const Theme &colours = theme(settings.redTheme);
-    QApplication::setPalette(themePalette(colours));
-    qApp->setStyleSheet(themeSheet(colours));
+    setPalette(themePalette(colours));
+    setStyleSheet(themeSheet(colours));
     mainPage->setTheme(colours);
     largePage->setTheme(colours);
     settingsPage->setTheme(colours);

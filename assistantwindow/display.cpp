@@ -60,6 +60,28 @@ void addSky(Display &display, const assistant::Status &status, const QLocale &lo
     display.focus = QCoreApplication::translate("Display", "Width of the stars: %1 pixels")
                         .arg(locale.toString(status.fwhm, 'f', 1));
 }
+void addAdvice(Display &display, std::vector<assistant::Advice> advice, const QLocale &locale)
+{
+    using assistant::AdviceCode;
+    const auto has = [&advice](AdviceCode code) {
+        return std::any_of(advice.begin(), advice.end(),
+                           [code](const assistant::Advice &a) { return a.code == code; });
+    };
+    display.aligned = has(AdviceCode::Aligned);
+    // Once the bolts have led near the pole, nobody need hear that the axis is known.
+    if (display.aligned || has(AdviceCode::NearlyThere))
+        advice.erase(std::remove_if(advice.begin(), advice.end(),
+                                    [](const assistant::Advice &a) {
+                                        return a.code == AdviceCode::StopTurning;
+                                    }),
+                     advice.end());
+    if (advice.empty())
+        advice.emplace_back();
+    display.advice = adviceText(advice[0], display.hasBolts, locale);
+    display.mood = moodOf(advice[0].code);
+    if (advice.size() > 1)
+        display.hint = adviceText(advice[1], display.hasBolts, locale);
+}
 } // namespace
 
 Display displayOf(const assistant::Status &status, const assistant::Settings &settings,
@@ -71,11 +93,7 @@ Display displayOf(const assistant::Status &status, const assistant::Settings &se
     addFigures(display, status, locale);
     addArrows(display, status, settings);
     addSky(display, status, locale);
-    const assistant::Advice first = status.advice.empty() ? assistant::Advice() : status.advice[0];
-    display.advice = adviceText(first, display.hasBolts, locale);
-    display.mood = moodOf(first.code);
-    if (status.advice.size() > 1)
-        display.hint = adviceText(status.advice[1], display.hasBolts, locale);
+    addAdvice(display, status.advice, locale);
     const bool isTurned =
         status.stage == assistant::Stage::Axis || status.stage == assistant::Stage::Bolts;
     display.axisTurn = isTurned ? degreesText(status.axis.turnedDegrees, locale) : dash();

@@ -25,6 +25,7 @@ struct Display {
     QString uncertainty; ///< of the axis while it is turned, then of the total error
     BoltWays ways;
     double altitudeArrow = 0.0, azimuthArrow = 0.0; ///< degrees, 0 up, positive clockwise
+    bool aligned = false;                           ///< the guide says so
     bool hasBolts = false;                          ///< altitude and azimuth are known
     /// From the axis to the pole in the picture, degrees, 0 up, positive clockwise: where the
     /// bolts must move the axis.

@@ -73,8 +73,7 @@ void MainPage::show(const Display &display, const Snapshot &snapshot, bool isCon
     setTextOnce(*stage, display.stageText);
     setTextOnce(*advice, display.advice);
     setMood(*advice, display.mood);
-    bars->show(display.stage,
-               display.mood == AdviceMood::Good && display.stage == assistant::Stage::Bolts);
+    bars->show(display.stage, display.aligned);
     connectButton->setText(isConnected ? tr("Disconnect") : tr("Connect"));
     setLook(*connectButton, "main", !isConnected);
     startAgainButton->setEnabled(isConnected);

@@ -239,7 +239,7 @@ inline void openPage(const QWidget &window, const char *buttons)
     for (const QString &name : names) {
         auto *const button = window.findChild<QAbstractButton *>(name);
         QVERIFY2(button, qPrintable(name));
-        QTest::mouseClick(button, Qt::LeftButton);
+        QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, {14, button->height() / 2});
     }
 }
 } // namespace scenes

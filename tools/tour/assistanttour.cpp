@@ -5,6 +5,7 @@
 #include "assistantwindow/assistantwindow.h"
 #include "assistantwindow/sessioninstrument.h"
 #include "core/languages.h"
+#include "resources/resources.h"
 #include "tools/tour/album.h"
 #include "tools/tour/assistanthands.h"
 #include "tools/tour/caption.h"
@@ -90,6 +91,9 @@ void run(const QCommandLineParser &options)
         if (!fast) {
             mount =
                 std::make_unique<MountWindow>(QFile::decodeName(virtualsky::skyFilePath().c_str()));
+            QFile sheet(":/qss/default.qss");
+            if (sheet.open(QIODevice::ReadOnly))
+                mount->setStyleSheet(QString::fromUtf8(sheet.readAll()));
             placeSideBySide(window, *mount);
         }
         window.show();
@@ -140,7 +144,7 @@ int main(int argc, char *argv[])
     // Keeps the user's own practice sky unchanged.
     const QTemporaryDir ownSky;
     qputenv("QUORVANDEL_SKY", QFile::encodeName(ownSky.filePath("sky.ini")));
-    startWindows(application);
+    initialiseResources();
     initialiseAssistantResources();
     if (!installRequestedLanguage("assistant", options.value("language"))) {
         fprintf(stderr, "--language takes %s\n", qPrintable(languageCodes()));
