@@ -21,6 +21,9 @@ The library of the camera's maker is needed for a real camera. A virtual
 camera and a virtual mount are included, so that all of it can be practised
 indoors.
 .
+The assistant, quorvandel-assistant, needs no star to be picked: connect, turn
+the axis, turn the bolts until two numbers are small.
+.
 The command quorvandel-recognise finds the pole in pictures by their stars.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)

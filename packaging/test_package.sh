@@ -188,7 +188,7 @@ test_documents() {
   local manual=share/doc/quorvandel/manual/en/index.html
   check "the manual is found from the user's folder" \
     in_root test -f "$home/$folder/bin/../$manual"
-  for page in quorvandel quorvandel-mount quorvandel-recognise; do
+  for page in quorvandel quorvandel-assistant quorvandel-mount quorvandel-recognise; do
     check "the man page of $page is there" test -f "$root/usr/share/man/man1/$page.1.gz"
   done
 }

@@ -15,7 +15,7 @@
 namespace
 {
 const QList<int> iconSizes{16, 22, 24, 32, 48, 64, 128, 256};
-const QStringList programs{"quorvandel", "quorvandel-mount"};
+const QStringList programs{"quorvandel", "quorvandel-assistant", "quorvandel-mount"};
 const QString metainfoName =
     QStringLiteral(DATADIR "/metainfo/example.quorvandel.quorvandel.metainfo.xml");
 
@@ -34,6 +34,7 @@ QString iconName(int size, const QString &program)
 QStringList expectedFiles()
 {
     QStringList files{BINDIR "/quorvandel",
+                      BINDIR "/quorvandel-assistant",
                       BINDIR "/quorvandel-mount",
                       BINDIR "/quorvandel-recognise",
                       LIBDIR "/quorvandel/libveldix.so.20",
@@ -159,7 +160,8 @@ private slots:
     {
         QTest::addColumn<QString>("name");
         for (const char *name :
-             {BINDIR "/quorvandel", BINDIR "/quorvandel-mount", BINDIR "/quorvandel-recognise",
+             {BINDIR "/quorvandel", BINDIR "/quorvandel-assistant", BINDIR "/quorvandel-mount",
+              BINDIR "/quorvandel-recognise",
               LIBEXECDIR "/quorvandel/bin/quorvandel"})
             QTest::newRow(name) << QString(name);
     }

@@ -95,7 +95,7 @@ void AssistantHands::turnAxis()
         knobs.turnRaAxisTo(start + turned);
         waitFor([&] { return isKnown() || text(QStringLiteral("label_axisTurn")) != before; },
                 axisPatience, "the turn of the axis does not show");
-        if (turned > 14.0 && turned - options.axisStep <= 14.0)
+        if (turned > 7.0 && turned - options.axisStep <= 7.0 && !isKnown())
             arrive(QStringLiteral("axis"));
         pause();
     }
