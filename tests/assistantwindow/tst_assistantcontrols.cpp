@@ -114,6 +114,11 @@ private slots:
     void redThemeHasOnlyRed();
     void listAndToolTipAreRed();
     void normalThemeHasOtherColours();
+    void largeViewCanBeReadFromFar_data();
+    void largeViewCanBeReadFromFar();
+    void largeViewOpensByKeyAndTap();
+    void keyboardAloneOperatesTheWindow();
+    void exposureSliderTurnsTheAutomaticOff();
 };
 
 void AssistantControlsTest::fingerCanHitEveryControl()
@@ -189,6 +194,91 @@ void AssistantControlsTest::normalThemeHasOtherColours()
 {
     const Shown shown(0);
     QVERIFY(coloured(screenImage(*shown.window)) > 1000);
+}
+
+void AssistantControlsTest::largeViewCanBeReadFromFar_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("numbers");
+    QTest::newRow("two bolts") << "large" << 2;
+    QTest::newRow("no site") << "largenosite" << 1;
+    QTest::newRow("axis") << "largeaxis" << 1;
+}
+
+void AssistantControlsTest::largeViewCanBeReadFromFar()
+{
+    QFETCH(QString, name);
+    QFETCH(int, numbers);
+    int scene = 0;
+    while (scenes::all()[std::size_t(scene)].name != name)
+        ++scene;
+    const Shown shown(scene);
+    const QImage image = screenImage(*shown.window);
+    const QRgb ink = assistantwindow::theme(false).text.rgb();
+    // The rows of pixels in which there is ink right of the arrows, and the sentence below.
+    std::vector<int> heights;
+    int run = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        bool isInk = false;
+        for (int x = 250; x < 730; ++x)
+            isInk = isInk || image.pixel(x, y) == ink;
+        run = isInk ? run + 1 : 0;
+        if (run == 1)
+            heights.push_back(0);
+        if (isInk)
+            heights.back() = run;
+    }
+    QVERIFY(int(heights.size()) >= numbers);
+    for (int i = 0; i < numbers; ++i)
+        QVERIFY2(heights[std::size_t(i)] >= smallScreen.height() / 5,
+                 qPrintable(QString::number(heights[std::size_t(i)])));
+}
+
+void AssistantControlsTest::largeViewOpensByKeyAndTap()
+{
+    const Shown shown(4);
+    assistantwindow::AssistantWindow &window = *shown.window;
+    auto *const large = window.findChild<QWidget *>("largePage");
+    auto *const picture = window.findChild<QLabel *>("label_picture");
+    QTest::keyClick(&window, Qt::Key_F11);
+    QVERIFY(large->isVisible() && window.isFullScreen());
+    QTest::keyClick(&window, Qt::Key_Escape);
+    QVERIFY(!large->isVisible() && !window.isFullScreen());
+    QTest::mouseClick(picture, Qt::LeftButton);
+    QVERIFY(large->isVisible() && window.isFullScreen());
+    QTest::mouseClick(large, Qt::LeftButton, {}, {200, 200});
+    QVERIFY(!large->isVisible() && !window.isFullScreen());
+}
+
+void AssistantControlsTest::keyboardAloneOperatesTheWindow()
+{
+    Shown shown(0);
+    QWidget &window = *shown.window;
+    QTest::keyClick(&window, Qt::Key_F2);
+    QCOMPARE(shown.instrument.calls, QStringList{"connect 1"});
+    QTest::keyClick(&window, Qt::Key_F5);
+    QCOMPARE(shown.instrument.calls.last(), QStringLiteral("start again"));
+    QTest::keyClick(&window, Qt::Key_F10);
+    QVERIFY(window.findChild<QWidget *>("settingsPage")->isVisible());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    QVERIFY(window.findChild<QWidget *>("mainPage")->isVisible());
+    QTest::keyClick(&window, Qt::Key_F2);
+    QCOMPARE(shown.instrument.calls.last(), QStringLiteral("disconnect"));
+}
+
+void AssistantControlsTest::exposureSliderTurnsTheAutomaticOff()
+{
+    Shown shown(2);
+    auto *const slider = shown.window->findChild<QAbstractSlider *>("slider_exposure");
+    auto *const automatic =
+        shown.window->findChild<QAbstractButton *>("checkBox_automaticExposure");
+    QVERIFY(automatic->isChecked());
+    slider->setFocus();
+    QTest::keyClick(slider, Qt::Key_Left);
+    QVERIFY(!automatic->isChecked());
+    QVERIFY(shown.instrument.snapshot.status.exposureMicroseconds < 500000.0);
+    QTest::mouseClick(automatic, Qt::LeftButton, {}, {14, automatic->height() / 2});
+    QVERIFY(shown.instrument.calls.contains("automatic 1"));
 }
 
 QTEST_MAIN(AssistantControlsTest)

@@ -21,7 +21,7 @@ using assistant::AdviceCode;
 
 namespace
 {
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+constexpr double noNumber = std::numeric_limits<double>::quiet_NaN();
 constexpr double infinity = std::numeric_limits<double>::infinity();
 const QLocale english(QLocale::English), german(QLocale::German);
 
@@ -106,7 +106,7 @@ void AssistantTablesTest::angle_data()
     QTest::newRow("rounded up to a degree") << 3599.7 << english << "1°00′";
     QTest::newRow("degrees") << 4320.0 << english << "1°12′";
     QTest::newRow("degrees round their minutes") << 7190.0 << english << "2°00′";
-    QTest::newRow("not a number") << nan << english << "—";
+    QTest::newRow("not a number") << noNumber << english << "—";
     QTest::newRow("infinite") << infinity << english << "—";
 }
 
@@ -120,7 +120,7 @@ void AssistantTablesTest::angle()
 void AssistantTablesTest::smallTexts()
 {
     QCOMPARE(uncertaintyText(3.14, english), QStringLiteral("± 3.1″"));
-    QCOMPARE(uncertaintyText(nan, english), dash());
+    QCOMPARE(uncertaintyText(noNumber, english), dash());
     QCOMPARE(degreesText(22.6, english), QStringLiteral("23°"));
     QCOMPARE(exposureText(250000.0, english), QStringLiteral("250 ms"));
     QCOMPARE(exposureText(2500000.0, german), QStringLiteral("2,5 s"));
@@ -176,7 +176,7 @@ void AssistantTablesTest::ways_data()
     row("altitude just beyond it", 15, 0, 0, Way::Down, Way::Stay);
     row("azimuth shrinks on the sky", 0, 25, 60, Way::Stay, Way::Stay);
     row("azimuth counts at the equator", 0, 25, 0, Way::Stay, Way::West);
-    row("no number", nan, infinity, 40, Way::Unknown, Way::Unknown);
+    row("no number", noNumber, infinity, 40, Way::Unknown, Way::Unknown);
 }
 
 void AssistantTablesTest::ways()
@@ -224,7 +224,7 @@ void AssistantTablesTest::pulses_data()
     QTest::newRow("just above the goal") << 20.001 << pulse << 120;
     QTest::newRow("goal") << 20.0 << steady << 0;
     QTest::newRow("below") << 3.0 << steady << 0;
-    QTest::newRow("no number") << nan << int(Pulses::Kind::Silent) << 0;
+    QTest::newRow("no number") << noNumber << int(Pulses::Kind::Silent) << 0;
 }
 
 void AssistantTablesTest::pulses()
@@ -282,7 +282,7 @@ void AssistantTablesTest::zoom_data()
     QTest::newRow("one step back") << 2 << 25.0 << 1;
     QTest::newRow("all at once") << 0 << 5.0 << 2;
     QTest::newRow("all the way back") << 2 << 500.0 << 0;
-    QTest::newRow("no number") << 2 << nan << 0;
+    QTest::newRow("no number") << 2 << noNumber << 0;
 }
 
 void AssistantTablesTest::zoom()
@@ -477,7 +477,7 @@ void AssistantTablesTest::displayOfAnInvalidNumberIsADash()
     const Display none = displayOf(status, {}, english);
     QCOMPARE(none.total.text, dash());
     QVERIFY(!none.total.arcseconds && !none.hasBolts);
-    status.error = figures(nan, 100.0, infinity);
+    status.error = figures(noNumber, 100.0, infinity);
     const Display invalid = displayOf(status, {}, english);
     QCOMPARE(invalid.total.text, dash());
     QVERIFY(!invalid.total.arcseconds && !invalid.total.sigmaArcseconds);

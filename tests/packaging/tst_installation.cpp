@@ -161,8 +161,7 @@ private slots:
         QTest::addColumn<QString>("name");
         for (const char *name :
              {BINDIR "/quorvandel", BINDIR "/quorvandel-assistant", BINDIR "/quorvandel-mount",
-              BINDIR "/quorvandel-recognise",
-              LIBEXECDIR "/quorvandel/bin/quorvandel"})
+              BINDIR "/quorvandel-recognise", LIBEXECDIR "/quorvandel/bin/quorvandel"})
             QTest::newRow(name) << QString(name);
     }
 
