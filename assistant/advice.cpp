@@ -26,6 +26,15 @@ Advice ofStars(const LostSky &frame)
 }
 } // namespace
 
+std::size_t solidStars(const std::vector<recognition::DetectedStar> &stars)
+{
+    constexpr double leastRatio = 6.0;
+    return std::size_t(
+        std::count_if(stars.begin(), stars.end(), [](const recognition::DetectedStar &star) {
+            return star.snr >= leastRatio;
+        }));
+}
+
 Advice adviceOf(const LostSky &frame)
 {
     switch (frame.status) {
@@ -39,12 +48,13 @@ Advice adviceOf(const LostSky &frame)
         return {AdviceCode::NoSky, 0.0, 0.0, {}};
     case ExtractionStatus::OutOfFocus:
         return {AdviceCode::Focus, frame.fwhm, 0.0, {}};
-    case ExtractionStatus::Trailed:
-        return {AdviceCode::HoldStill, 0.0, 0.0, {}};
+    case ExtractionStatus::Trailed: // with few stars, what is drawn out is noise
     case ExtractionStatus::Ok:
     case ExtractionStatus::TooFewStars:
         break;
     }
+    if (frame.status == ExtractionStatus::Trailed && frame.stars >= recognition::leastStars)
+        return {AdviceCode::HoldStill, 0.0, 0.0, {}};
     if (!frame.hadSky && (frame.isFirst || frame.searching))
         return {AdviceCode::Searching, double(frame.stars), 0.0, {}};
     return ofStars(frame);

@@ -76,6 +76,7 @@ bool isInterruption(const CameraLink &link)
 AssistantSession::AssistantSession(const Settings &settings, Clocks given)
     : clocks(std::move(given)), guide(settings), inUse(settings)
 {
+    recorder.use(settings);
     shown.status = emptyStatus(Stage::Sky);
     thread = std::thread([this] { run(); });
 }

@@ -20,17 +20,30 @@ using recognition::RecognitionStatus;
 constexpr int framesOfTheSky = 3;        // recognised in a row end the first stage
 constexpr std::uint64_t firstFrames = 2; // that may still be exposed as before the connection
 constexpr double eventSeconds = 20.0;    // for which a bump or slip is reported
-constexpr double enoughSeconds = 4.0;    // for which the end of the turning is reported
-constexpr double clockSeconds = 60.0;    // for which a step of the clock is reported
-constexpr double longClockStep = 2.0 * 86400.0; // seconds: the stars' places changed visibly
-constexpr double longTrail = 1.5;               // length over width: the axis turned meanwhile
-constexpr double wideStars = 7.0;               // pixels: recognised, but worth focusing
+const std::size_t mostFollowed = recognition::FollowerOptions().mostStars;
+constexpr double searchInterval = 2.0;    // seconds between searches for more stars
+constexpr double enoughSeconds = 4.0;     // for which the end of the turning is reported
+constexpr double clockSeconds = 60.0;     // for which a step of the clock is reported
+constexpr double longClockStep = 20.0;    // seconds: refraction would put the stars elsewhere
+constexpr double longTrail = 1.5;         // length over width: the axis turned meanwhile
+constexpr std::size_t trustedStars = 8;   // of those followed
+constexpr double trustedResiduals = 0.35; // pixels
+constexpr double wideStars = 7.0;         // pixels: recognised, but worth focusing
 
 recognition::FollowerOptions followerOptions(std::optional<recognition::Observer> observer)
 {
     recognition::FollowerOptions options;
     options.recognition.observer = observer;
     return options;
+}
+
+/// Whether the stars' places are refracted otherwise.
+bool seesOtherwise(const Settings &a, const Settings &b)
+{
+    const bool sameSite = a.site.has_value() == b.site.has_value() &&
+                          (!a.site || (a.site->latitude == b.site->latitude &&
+                                       a.site->longitude == b.site->longitude));
+    return !sameSite || a.pressure != b.pressure || a.temperature != b.temperature;
 }
 
 double medianWidth(const std::vector<recognition::DetectedStar> &stars)
@@ -51,11 +64,18 @@ Guide::Guide(const Settings &given) : settings(given), follower(followerOptions(
 
 void Guide::setSettings(const Settings &given)
 {
+    const bool otherSky = seesOtherwise(settings, given);
+    const bool otherFigures = otherSky || settings.target != given.target;
     settings = given;
+    if (otherFigures) {
+        steady.reset();
+        firstError.reset();
+    }
+    if (!otherSky)
+        return;
     follower = recognition::Follower(followerOptions(std::nullopt));
-    observing = false;
-    steady.reset();
-    firstError.reset();
+    observerInUse.reset();
+    forgetDirections();
 }
 
 void Guide::startAgain()
@@ -113,8 +133,8 @@ void Guide::silence(const Observation &observation, Status &status)
         {AdviceCode::CameraLost, std::max(observation.steadySeconds - *lastFrame, 0.0), 0.0, {}});
 }
 
-/// What was measured before the clock was set is as good as before, once its times are those of the
-/// new clock; only over days would the stars' places change.
+/// After a small step what was measured is as good as before, once its times are those of the new
+/// clock. After a large one, frames from before and after it do not fit together.
 void Guide::noteClock(const Observation &observation)
 {
     const double step = clock.step(observation.utcSeconds, observation.steadySeconds);
@@ -129,18 +149,56 @@ void Guide::noteClock(const Observation &observation)
         return;
     }
     follower.reset();
+    forgetDirections();
+}
+
+/// Frames from now on show other directions than those before. An axis that is known stays where it
+/// is in the picture, since its frames agreed with each other.
+void Guide::forgetDirections()
+{
     slips.reset();
+    boltsMoved = true;
     if (stage == Stage::Axis)
         tracker.reset();
+}
+
+/// Windows about the expected stars catch some noise where there are no stars: a cloud is not to
+/// pass for the sky.
+bool Guide::isTrusted(const Recognition &found) const
+{
+    return !follower.followed() ||
+           (found.matched.size() >= trustedStars && found.rms <= trustedResiduals * found.scale);
 }
 
 void Guide::useObserver(recognition::Hemisphere hemisphere)
 {
     const auto observer = observerOf(settings, hemisphere);
-    if (observer.has_value() == observing)
+    if (observer.has_value() == observerInUse.has_value())
         return;
     follower = recognition::Follower(followerOptions(observer));
-    observing = observer.has_value();
+    observerInUse = observer;
+}
+
+/// The follower keeps to the stars that it found at first. After a longer exposure, or where the
+/// bolts moved the field, there are others: the whole frame is searched, and what it gives is taken
+/// if it is more.
+void Guide::searchForMore(const Observation &observation, Recognition &found)
+{
+    const double now = observation.steadySeconds;
+    const bool exposedOtherwise = observation.exposureMicroseconds != searchedExposure;
+    if (!follower.followed() || found.matched.size() >= mostFollowed ||
+        (!exposedOtherwise &&
+         (found.matched.size() >= enoughStars || now - searchedAt < searchInterval)))
+        return;
+    searchedExposure = observation.exposureMicroseconds;
+    searchedAt = now;
+    recognition::Follower fresh(followerOptions(observerInUse));
+    Recognition searched = fresh.follow(observation.frame, observation.utcSeconds);
+    if (searched.status != RecognitionStatus::Recognised ||
+        searched.matched.size() <= found.matched.size())
+        return;
+    follower = std::move(fresh);
+    found = std::move(searched);
 }
 
 /// The sky is found without refraction first: only then is it known whether the site is on this
@@ -149,18 +207,23 @@ void Guide::recognise(const Observation &observation, Status &status)
 {
     Recognition found = follower.follow(observation.frame, observation.utcSeconds);
     if (found.status == RecognitionStatus::Recognised) {
-        const bool before = observing;
+        const bool before = observerInUse.has_value();
         useObserver(found.hemisphere);
-        if (observing != before)
+        if (observerInUse.has_value() != before)
             found = follower.follow(observation.frame, observation.utcSeconds);
+    }
+    searchForMore(observation, found);
+    lost = !follower.followed() ? follower.searched().status : ExtractionStatus::Ok;
+    if (found.status == RecognitionStatus::Recognised && !isTrusted(found)) {
+        found = Recognition();
+        found.extracted = follower.stars().size();
+        lost = ExtractionStatus::TooFewStars;
     }
     status.stars = follower.stars();
     status.fwhm = medianWidth(status.stars);
     const bool recognised = found.status == RecognitionStatus::Recognised;
-    const ExtractionStatus searched =
-        follower.followed() ? ExtractionStatus::Ok : follower.searched().status;
     exposure.consider({observation.exposureMicroseconds, recognised,
-                       recognised ? found.matched.size() : status.stars.size(), searched});
+                       recognised ? found.matched.size() : solidStars(status.stars), lost});
     status.sky = std::make_shared<const Recognition>(std::move(found));
     if (const auto pole = poleOf(*status.sky, settings)) {
         status.pole = pole->place;
@@ -314,15 +377,14 @@ void Guide::advise(const Observation &observation, Status &status) const
 {
     if (status.sky->status != RecognitionStatus::Recognised) {
         const recognition::Extraction &searched = follower.searched();
-        status.advice.push_back(
-            adviceOf({searched.status, status.stars.size(), searched.fwhm, hadSky,
-                      frames <= firstFrames, exposure.wanted().has_value()}));
+        status.advice.push_back(adviceOf({lost, solidStars(status.stars), searched.fwhm, hadSky,
+                                          frames <= firstFrames, exposure.wanted().has_value()}));
         adviseEvents(observation.steadySeconds, status);
         adviseHints(observation, status);
         return;
     }
     adviseEvents(observation.steadySeconds, status);
-    if (settings.site && !observing)
+    if (settings.site && !observerInUse)
         status.advice.push_back({AdviceCode::WrongHemisphere, 0.0, 0.0, {}});
     adviseStage(status);
     adviseHints(observation, status);

@@ -32,7 +32,8 @@ class Guide
 public:
     explicit Guide(const Settings &settings);
 
-    /// Another site, target or air: the sky is recognised again, the axis is kept.
+    /// With another site or air the sky is recognised again; an axis that is known is kept, one
+    /// that is being measured is begun again.
     void setSettings(const Settings &settings);
     /// From the first stage on.
     void startAgain();
@@ -45,8 +46,11 @@ public:
 
 private:
     void silence(const Observation &observation, Status &status);
+    void forgetDirections();
     void noteClock(const Observation &observation);
     void recognise(const Observation &observation, Status &status);
+    void searchForMore(const Observation &observation, recognition::Recognition &found);
+    bool isTrusted(const recognition::Recognition &found) const;
     void useObserver(recognition::Hemisphere hemisphere);
     void advance(const Observation &observation, Status &status);
     void searchSky(Status &status);
@@ -67,7 +71,7 @@ private:
 
     Settings settings;
     recognition::Follower follower;
-    bool observing = false; ///< the follower has an observer
+    std::optional<recognition::Observer> observerInUse; ///< by the follower
     Stage stage = Stage::Sky;
     AxisTracker tracker;
     SlipWatch slips;
@@ -78,6 +82,9 @@ private:
     std::optional<Event> clockStep; ///< of the clock
     std::optional<ErrorFigures> firstError;
     std::uint64_t frames = 0;
+    recognition::ExtractionStatus lost = recognition::ExtractionStatus::Ok; ///< of the last frame
+    double searchedExposure = 0.0; ///< microseconds, of the last search of a whole frame
+    double searchedAt = 0.0;       ///< steady seconds
     int recognisedInARow = 0;
     bool hadSky = false;
     bool boltsMoved = false;         ///< since the axis was known

@@ -41,7 +41,7 @@ void writeSky(const virtualsky::SkyState &sky)
 }
 
 LibraryMount::LibraryMount(const virtualsky::SkyState &start, const assistant::Settings &settings)
-    : state(start)
+    : state(start), date(*start.date)
 {
     if (state.tracking && !state.trackingSince)
         state.trackingSince = state.date;
@@ -56,7 +56,7 @@ LibraryMount::LibraryMount(const virtualsky::SkyState &start, const assistant::S
 
 double LibraryMount::utc() const
 {
-    return *state.date + seconds();
+    return date + seconds();
 }
 
 double LibraryMount::seconds() const

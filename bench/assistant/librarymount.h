@@ -33,6 +33,7 @@ private:
     double utc() const;
 
     virtualsky::SkyState state;
+    const double date; ///< of the sky when it began; other threads read it
     double began = 0.0; ///< steady seconds
     Relaxed<double> clockError;
     std::uint64_t seen = 0;

@@ -5,9 +5,9 @@
 
 #include "geometry/starcatalogue.h"
 #include "resources/resources.h"
-#include "tests/support/picturemakerprobe.h"
 #include "tests/support/logrecorder.h"
 #include "tests/support/mainwindowprobe.h"
+#include "tests/support/picturemakerprobe.h"
 #include "tests/support/sessionwindow.h"
 
 #include <QGraphicsDropShadowEffect>
