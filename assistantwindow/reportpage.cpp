@@ -71,13 +71,16 @@ void ReportPage::show(const assistant::Report &report)
 
 void ReportPage::setFolder(const QString &path)
 {
-    folder->setText(path);
+    const QString home = QDir::homePath() + QLatin1Char('/');
+    folder->setText(path.startsWith(home) ? QStringLiteral("~/") + path.mid(home.size()) : path);
 }
 
 QString ReportPage::fileFor(const QString &ending)
 {
-    const QDir place(folder->text());
-    if (folder->text().isEmpty() || !QDir().mkpath(place.absolutePath()))
+    const QString typed = folder->text();
+    const bool isOfHome = typed.startsWith(QLatin1String("~/"));
+    const QDir place(isOfHome ? QDir::homePath() + typed.mid(1) : typed);
+    if (typed.isEmpty() || !QDir().mkpath(place.absolutePath()))
         return {};
     const QString moment =
         QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd-HHmmss"));

@@ -23,6 +23,7 @@ public:
     void show(const assistant::Report &report);
     void setTheme(const Theme &theme);
     void retranslate();
+    /// "~/" stands for the home folder, in the field too.
     void setFolder(const QString &folder);
 
     QPushButton *backButton;

@@ -186,6 +186,10 @@ void AssistantAlignmentTest::reportIsSavedAndKeptWhenItCannotBe()
     const QStringList tables = saved.entryList({"*.csv"});
     QCOMPARE(pictures.size(), 1);
     QCOMPARE(tables.size(), 1);
+    folder.setText("~/reports of tonight");
+    desk.hands->click("pushButton_saveCsv");
+    QCOMPARE(QDir(QDir::homePath() + "/reports of tonight").entryList({"*.csv"}).size(), 1);
+    QVERIFY(QDir(QDir::homePath() + "/reports of tonight").removeRecursively());
     QCOMPARE(QImage(saved.filePath(pictures[0])).size(), QSize(1000, 640));
     QFile table(saved.filePath(tables[0]));
     QVERIFY(table.open(QIODevice::ReadOnly));
