@@ -53,7 +53,8 @@ AssistantWindow::AssistantWindow(Instrument &theInstrument, const assistant::Set
     applyTheme();
     retranslate();
     placeSite();
-    showCameras();
+    mainPage->showCameras({}, settings.cameraId);
+    instrument.findCameras();
     connectButtons();
     addShortcuts();
     refresh();
@@ -126,9 +127,8 @@ void AssistantWindow::toggleConnection()
 {
     if (instrument.isConnected()) {
         instrument.disconnectCamera();
-        showCameras();
+        instrument.findCameras();
     } else {
-        showCameras();
         connectCamera();
     }
     refresh();
@@ -136,7 +136,14 @@ void AssistantWindow::toggleConnection()
 
 void AssistantWindow::showCameras()
 {
-    mainPage->showCameras(instrument.cameras(), settings.cameraId);
+    const std::vector<CameraEntry> found = instrument.cameras();
+    QStringList ids;
+    for (const CameraEntry &entry : found)
+        ids.append(entry.id);
+    if (ids == shownCameras)
+        return;
+    shownCameras = ids;
+    mainPage->showCameras(found, settings.cameraId);
 }
 
 void AssistantWindow::refresh()
@@ -144,6 +151,8 @@ void AssistantWindow::refresh()
     const Snapshot snapshot = instrument.latest();
     const bool isConnected = instrument.isConnected();
     const assistant::Status &status = snapshot.status;
+    if (!isConnected)
+        showCameras();
     if (isConnected && !wasConnected)
         history.clear();
     wasConnected = isConnected;

@@ -66,6 +66,7 @@ private:
     RedLight redLight;
     Sounds sounds;
     QTimer timer;
+    QStringList shownCameras; ///< their IDs
     assistant::History history;
     std::uint64_t lastFrame = 0;
     bool wasConnected = false;

@@ -35,7 +35,8 @@ class Instrument
 public:
     virtual ~Instrument() = default;
 
-    virtual std::vector<CameraEntry> cameras() = 0;
+    virtual void findCameras() = 0;                    ///< looks for them again
+    virtual std::vector<CameraEntry> cameras() = 0;    ///< that were found so far
     virtual void connectCamera(const QString &id) = 0; ///< empty: the first one
     virtual void disconnectCamera() = 0;
     virtual bool isConnected() const = 0;              ///< or connecting

@@ -11,9 +11,13 @@ SessionInstrument::SessionInstrument(const assistant::Settings &settings)
 {
 }
 
-std::vector<CameraEntry> SessionInstrument::cameras()
+void SessionInstrument::findCameras()
 {
     session.findCameras();
+}
+
+std::vector<CameraEntry> SessionInstrument::cameras()
+{
     std::vector<CameraEntry> entriesFound;
     for (const std::string &id : session.link().cameras)
         entriesFound.push_back({QString::fromStdString(id), QString::fromStdString(id)});

@@ -12,6 +12,7 @@ class SessionInstrument : public Instrument
 public:
     explicit SessionInstrument(const assistant::Settings &settings);
 
+    void findCameras() override;
     std::vector<CameraEntry> cameras() override;
     void connectCamera(const QString &id) override;
     void disconnectCamera() override;

@@ -81,6 +81,7 @@ public:
     bool connected = false;
     QStringList calls;
 
+    void findCameras() override { calls.append(QStringLiteral("find")); }
     std::vector<assistantwindow::CameraEntry> cameras() override { return entries; }
     void connectCamera(const QString &id) override
     {
