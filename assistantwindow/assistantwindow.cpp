@@ -22,6 +22,7 @@ namespace assistantwindow
 namespace
 {
 constexpr int refreshMilliseconds = 20;
+constexpr unsigned ticksBetweenLooks = 12;
 constexpr QSize leastSize(800, 440), usualSize(1180, 740);
 } // namespace
 
@@ -58,7 +59,12 @@ AssistantWindow::AssistantWindow(Instrument &theInstrument, const assistant::Set
     connectButtons();
     addShortcuts();
     refresh();
-    connect(&timer, &QTimer::timeout, this, [this] { refresh(); });
+    connect(&timer, &QTimer::timeout, this, [this] {
+        // What concerns the camera alone changes without a frame.
+        const bool isDue = ++ticks % ticksBetweenLooks == 0;
+        if (isDue || instrument.latest().number != lastNumber)
+            refresh();
+    });
     timer.start(refreshMilliseconds);
     mainPage->connectButton->setFocus();
 }
@@ -159,6 +165,7 @@ void AssistantWindow::refresh()
     if (status.frame != lastFrame && status.error)
         history.add(status, status.utcSeconds);
     lastFrame = status.frame;
+    lastNumber = snapshot.number;
     const Display display = displayOf(status, settings, locale());
     mainPage->show(display, snapshot, isConnected, history, settings);
     mainPage->showExposure(snapshot, instrument.exposureRange());

@@ -33,7 +33,7 @@ public:
     /// Shows what is known of a site that is not set.
     void suggestSite(const assistant::KnownSite &site);
     const assistant::Settings &currentSettings() const { return settings; }
-    /// Takes the latest frame; the timer does so every 20 ms.
+    /// Takes the latest frame; the timer looks every 20 ms whether there is one.
     void refresh();
 
 protected:
@@ -68,7 +68,8 @@ private:
     QTimer timer;
     QStringList shownCameras; ///< their IDs
     assistant::History history;
-    std::uint64_t lastFrame = 0;
+    std::uint64_t lastFrame = 0, lastNumber = 0;
+    unsigned ticks = 0; ///< of the timer
     bool wasConnected = false;
     bool fullBefore = false; ///< the window filled the screen before the large view
 };

@@ -23,6 +23,7 @@ struct Snapshot {
     assistant::Status status;
     QImage picture;
     double gain = 0.0;
+    std::uint64_t number = 0; ///< another one whenever anything changed
 };
 
 struct Range {

@@ -73,7 +73,7 @@ Snapshot SessionInstrument::latest()
 {
     assistant::Snapshot now = session.latest();
     remember(now.status);
-    return {std::move(now.status), std::move(now.picture), session.link().gain};
+    return {std::move(now.status), std::move(now.picture), session.link().gain, now.number};
 }
 
 void SessionInstrument::remember(const assistant::Status &status)
