@@ -20,6 +20,7 @@ struct Application {
     QString id;
 };
 const QList<Application> applications{{"quorvandel", "example.quorvandel.quorvandel"},
+                                      {"quorvandel-assistant", "example.quorvandel.assistant"},
                                       {"quorvandel-mount", "example.quorvandel.mount"}};
 const QString metainfoName =
     QStringLiteral(DATADIR "/metainfo/example.quorvandel.quorvandel.metainfo.xml");
@@ -45,6 +46,7 @@ QStringList expectedFiles()
 {
     QStringList files{BINDIR "/quorvandel",
                       BINDIR "/quorvandel-camera",
+                      BINDIR "/quorvandel-assistant",
                       BINDIR "/quorvandel-mount",
                       BINDIR "/quorvandel-recognise",
                       LIBDIR "/quorvandel/libveldix.so.20",
@@ -189,8 +191,9 @@ private slots:
     {
         QTest::addColumn<QString>("name");
         for (const char *name :
-             {BINDIR "/quorvandel", BINDIR "/quorvandel-mount", BINDIR "/quorvandel-recognise",
-              BINDIR "/quorvandel-camera", LIBEXECDIR "/quorvandel/bin/quorvandel"})
+             {BINDIR "/quorvandel", BINDIR "/quorvandel-assistant", BINDIR "/quorvandel-camera",
+              BINDIR "/quorvandel-mount", BINDIR "/quorvandel-recognise",
+              LIBEXECDIR "/quorvandel/bin/quorvandel"})
             QTest::newRow(name) << QString(name);
     }
 
