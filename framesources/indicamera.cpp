@@ -127,7 +127,7 @@ void IndiCamera::setUp()
     for (const auto &[property, element] : switches)
         if (!client->isOn(property, element).value_or(true))
             client->sendSwitch(property, element);
-    client->askForBlobs("CCD1");
+    client->askForPictures();
     stage = Stage::Ready;
     stageBegan = lastFrame = Clock::now();
     gain = -1.0;

@@ -19,7 +19,8 @@ namespace framesources
 namespace
 {
 constexpr std::size_t mostBlobBytes = std::size_t(1) << 28; // a frame of 64 megapixels is less
-constexpr std::size_t mostElements = 5000;                  // of a device that means harm
+constexpr char pictureProperty[] = "CCD1";
+constexpr std::size_t mostElements = 5000; // of a device that means harm
 
 IndiState stateOf(IPState state)
 {
@@ -202,6 +203,9 @@ IndiClient::~IndiClient() = default;
 bool IndiClient::connectServer()
 {
     blockBrokenPipe();
+    // INDI's thread searches the list of modes: it must not grow any more once there is one.
+    if (!device.empty())
+        listener->setBLOBMode(B_NEVER, device.c_str(), pictureProperty);
     return listener->connectServer();
 }
 
@@ -280,9 +284,9 @@ std::optional<IndiBlob> IndiClient::takeBlob()
     return std::exchange(listener->blob, std::nullopt);
 }
 
-void IndiClient::askForBlobs(const std::string &property)
+void IndiClient::askForPictures()
 {
-    listener->setBLOBMode(B_ALSO, device.c_str(), property.c_str());
+    listener->setBLOBMode(B_ALSO, device.c_str(), pictureProperty);
 }
 
 void IndiClient::sendNumbers(const std::string &property, const Values &values)

@@ -61,7 +61,8 @@ public:
 
     /// The latest picture that was not taken yet.
     std::optional<IndiBlob> takeBlob();
-    void askForBlobs(const std::string &property);
+    /// From now on the server sends the pictures of the first sensor.
+    void askForPictures();
 
     using Values = std::vector<std::pair<std::string, double>>;
     void sendNumbers(const std::string &property, const Values &values);

@@ -79,6 +79,12 @@ public:
     /// Points the camera at the pole.
     bool set(const SimulatedSensor &sensor) const
     {
+        // A device that has just connected may lose what it is sent: everything is sent twice.
+        return setOnce(sensor) && setOnce(sensor);
+    }
+
+    bool setOnce(const SimulatedSensor &sensor) const
+    {
         const auto one = client();
         if (!one)
             return false;
