@@ -3,7 +3,9 @@
 #include "app/logging.h"
 #include "app/startup.h"
 #include "app/terminationsignals.h"
+#include "camera/cameraoption.h"
 #include "camera/session.h"
+#include "core/settingsfile.h"
 #include "mainwindow/mainwindow.h"
 
 #include <QApplication>
@@ -15,6 +17,11 @@
 
 namespace
 {
+/// Milliseconds after a signal: for a camera library that does not return from its call, and for a
+/// save that is under way in a thread that does not respond.
+constexpr int closingPatience = 2000;
+constexpr int lastSavePatience = 500;
+
 /// The present date for `--angles-of-date`, as UTC since 1970.
 std::optional<double> dateOfAngles()
 {
@@ -24,26 +31,43 @@ std::optional<double> dateOfAngles()
 }
 
 constexpr char usage[] =
-    "usage: quorvandel [--maximized] [--angles-of-date] [--help]\n"
+    "usage: quorvandel [--camera ADDRESS] [--maximized] [--angles-of-date] [--help]\n";
+constexpr char options[] =
     "  --maximized       fill the screen from the start\n"
     "  --angles-of-date  compute the template stars' angles for the present date,\n"
     "                    instead of using the built-in table\n"
     "  --help            print this and exit\n";
+
+int printHelp()
+{
+    const bool printed = std::fputs(usage, stdout) >= 0 &&
+                         std::fputs(cameraOptionHelp, stdout) >= 0 &&
+                         std::fputs(options, stdout) >= 0;
+    return printed ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+constexpr int misuse = 2; // exit status for a bad option
 } // namespace
 
 int main(int argc, char *argv[])
 {
     for (int i = 1; i < argc; ++i)
         if (std::strcmp(argv[i], "--help") == 0)
-            return std::fputs(usage, stdout) < 0 ? EXIT_FAILURE : EXIT_SUCCESS;
+            return printHelp();
+    if (!takeCameraOption(argc, argv))
+        return misuse;
     prepareApplication();
     QApplication application(argc, argv);
     QGuiApplication::setDesktopFileName(QStringLiteral("example.quorvandel.quorvandel"));
     // Without a log file, Qt's own output is kept.
     startProgram(application, QUORVANDEL_FILE_LOG ? logMessageHandler : nullptr);
     Session session;
+    // Before the window, which calls the camera library as it is built.
+    TerminationSignals termination([&session, path = settingsFilePath()] {
+        session.latestSettings.save(path, lastSavePatience);
+    });
     MainWindow window(session, nullptr, dateOfAngles());
-    const TerminationSignals closing(window);
+    termination.closeWindow(window, [&window] { window.hurry(closingPatience); });
     if (QApplication::arguments().contains(QLatin1String("--maximized")))
         window.showMaximized();
     else

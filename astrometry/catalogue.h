@@ -33,7 +33,7 @@ CatalogueView catalogue();
 
 enum class TemplateStar { A, B, D };
 
-/// The catalogue star that stands in the template of a hemisphere.
+/// The catalogue star in the template of a hemisphere.
 const CatalogueStar &templateStar(bool south, TemplateStar star);
 
 /// The catalogue star nearest to a place (degrees, ICRS), by the angle between them.

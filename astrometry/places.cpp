@@ -72,7 +72,7 @@ std::vector<Vector3> apparentPlaces(const CatalogueStar *first, const CatalogueS
     const JulianDate tt = terrestrialTime(utcSeconds);
     eraASTROM astrom;
     double origins = 0.0;
-    // Barycentric time is taken as terrestrial time: they differ by 2 ms at most.
+    // Terrestrial time is used for barycentric time: they differ by 2 ms at most.
     eraApci13(tt.day, tt.fraction, &astrom, &origins);
     return placesOf(first, last, astrom);
 }

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-// Where does a star stand at a time, for the Earth's centre or for a site?
+// Where is a star at a time, for the Earth's centre or for a site?
 //
 // Frames: CIRS is the celestial intermediate frame of date: z is the true pole of date, x the
 // celestial intermediate origin on the true equator; horizon vectors are (east, north, up). Times
-// are UTC seconds since 1970; UT1 is taken as UTC (up to 0.9 s, 14 arcsec of turn about the pole),
+// are UTC seconds since 1970; UTC is used for UT1 (up to 0.9 s, 14 arcsec of turn about the pole),
 // polar motion as zero (0.5 arcsec). Precession and nutation are IAU 2006/2000A.
 // Reference: ERFA, after SOFA; IERS Conventions (2010), chapter 5.
 #pragma once
@@ -34,7 +34,7 @@ std::vector<Vector3> apparentPlaces(const CatalogueStar *first, const CatalogueS
 /// this.
 double equationOfOrigins(double utcSeconds);
 
-/// The Earth rotation angle, radians, 0 to 2 pi: how far CIRS lies ahead of the Greenwich meridian.
+/// The Earth rotation angle, radians, 0 to 2 pi: how far CIRS is ahead of the Greenwich meridian.
 double earthRotationAngle(double utcSeconds);
 
 /// Turns CIRS vectors into horizon vectors, without refraction. Earth rotation angle and site

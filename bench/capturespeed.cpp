@@ -3,27 +3,43 @@
 #include "bench/plainforms.h"
 #include "bench/skyframe.h"
 #include "camera/capturethread.h"
+#include "camera/picturemaker.h"
 #include "camera/session.h"
 
 #include <algorithm>
 #include <benchmark/benchmark.h>
 #include <opencv2/imgproc.hpp>
 
+/// Reaches the picture maker's own work.
+class PictureMakerProbe
+{
+public:
+    static void followStars(PictureMaker &maker, const cv::Mat &frame)
+    {
+        maker.followStars(frame, false);
+    }
+    static const FrameMatrices &matrices(const PictureMaker &maker) { return maker.matrices; }
+};
+
 /// Runs the capture thread's work on the calling thread.
 class CaptureThreadProbe
 {
 public:
-    explicit CaptureThreadProbe(Session &session) : thread(session) {}
+    explicit CaptureThreadProbe(Session &session) : maker(session), thread(session, maker) {}
     /// Processes one frame, with a grey frame of `size` in the fetch buffer.
     void handleFrame(cv::Size size)
     {
         thread.fetched = {std::uint32_t(size.width), std::uint32_t(size.height), 8, 1};
         thread.handleFrame();
     }
-    void followStars() { thread.followStars(); }
-    const cv::Mat &magnifierCrop() const { return thread.matrices.magnifierCrop; }
+    void followStars() { PictureMakerProbe::followStars(maker, thread.rawFrame); }
+    const cv::Mat &magnifierCrop() const
+    {
+        return PictureMakerProbe::matrices(maker).magnifierCrop;
+    }
 
 private:
+    PictureMaker maker;
     CaptureThread thread;
 };
 

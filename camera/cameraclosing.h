@@ -2,12 +2,12 @@
 // How is a camera closed if its library may not return from a call?
 #pragma once
 
+#include "camera/session.h"
+
 #include <QElapsedTimer>
 #include <QThread>
 #include <cstdint>
 #include <memory>
-
-struct Session;
 
 /// How long to wait for the capture thread's call before the live mode is stopped during that call,
 /// milliseconds. Some libraries return from a request for a frame only then.
@@ -17,7 +17,7 @@ constexpr int stopTimeout = 400;
 /// run in between. Calls the library only while the capture thread is not in a call, with one
 /// exception: after stopTimeout a separate thread stops the live mode anyway, since the capture
 /// thread's call may be waiting for that. The camera is closed when both calls have returned. For
-/// the GUI thread.
+/// the thread that opened the camera.
 class CameraClosing
 {
 public:
@@ -30,7 +30,7 @@ public:
     };
 
     /// @param shared must outlive this object
-    explicit CameraClosing(Session &shared) : session(shared) {}
+    explicit CameraClosing(CameraSession &shared) : session(shared) {}
     ~CameraClosing();
 
     /// Starts closing, unless it is already in progress.
@@ -49,7 +49,7 @@ private:
     bool closeHandle();
     State end(State last);
 
-    Session &session;
+    CameraSession &session;
     State state = State::Idle;
     int patience = 0;
     QElapsedTimer since;

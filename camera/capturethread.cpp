@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: MIT
-// The capture loop: fetch a frame, measure the rate, convert, track stars, draw the marks, queue.
+// The capture loop: fetch a frame, measure the rate, hand it on.
 #include "camera/capturethread.h"
 
-#include "camera/monitor.h"
-#include "camera/overlay.h"
+#include "camera/frameconsumer.h"
+#include "camera/frames.h"
 #include "camera/session.h"
 #include "camera/veldix.h"
 #include "core/locker.h"
 
 #include <QtDebug>
-#include <opencv2/imgproc.hpp>
 
 namespace
 {
@@ -18,12 +17,8 @@ constexpr unsigned long retryMicroseconds = 10000;
 
 } // namespace
 
-CaptureThread::CaptureThread(Session &shared, QObject *parent)
-    : QThread(parent),
-      session(shared),
-      frameImage(std::make_unique<QImage>(int(frameWidthDefault), int(frameHeightDefault),
-                                          QImage::Format_RGB888)),
-      magnifierImage(std::make_unique<QImage>(cropSide, cropSide, QImage::Format_RGB888))
+CaptureThread::CaptureThread(CameraSession &shared, FrameConsumer &frameConsumer, QObject *parent)
+    : QThread(parent), session(shared), consumer(frameConsumer)
 {
 }
 
@@ -130,34 +125,9 @@ bool CaptureThread::acceptFrame()
     return true;
 }
 
-void CaptureThread::followStars()
-{
-    const ReferenceStars stars = trackReferenceStars(rawFrame, session.monitorPositions);
-    cropAroundStarB(rawFrame, stars.a, stars.b, session.overlayFlags.monoStyle, matrices);
-    magnifierImage = MatToQImage(&matrices.magnifierCrop);
-    // Before the picture is queued: the window updates its read-outs when it arrives.
-    updatePole(stars, session.refraction, session.alignmentPoints, session.monitorPositions);
-    if (magnifierImage)
-        session.magnifierQueue.append(*magnifierImage, stopRequested);
-}
-
-/// False if the fetched frame could not be shown.
+/// False if the fetched frame could not be used.
 bool CaptureThread::handleFrame()
 {
     session.frameRate.frameCame(stopRequested);
-    if (!acceptFrame())
-        return false;
-    if (rawFrame.channels() == 3)
-        rawFrame.copyTo(matrices.colourFrame);
-    else
-        cv::cvtColor(rawFrame, matrices.colourFrame, cv::COLOR_GRAY2BGR);
-    if (session.overlayFlags.monitorTracking)
-        followStars();
-    frameImage = MatToQImage(&matrices.colourFrame);
-    if (!frameImage)
-        return false;
-    paintOverlay(*frameImage, currentMarks(session.overlayFlags, session.alignmentPoints,
-                                           session.monitorPositions));
-    session.frameQueue.append(*frameImage, stopRequested);
-    return true;
+    return acceptFrame() && consumer.handle(rawFrame, stopRequested);
 }

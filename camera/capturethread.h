@@ -1,27 +1,25 @@
 // SPDX-License-Identifier: MIT
-// How do frames get from the camera into the two picture queues?
+// How do frames get from the camera to their consumer?
 #pragma once
 
 #include "camera/frameformat.h"
-#include "camera/frames.h"
 #include "core/relaxed.h"
 
-#include <QImage>
 #include <QThread>
 #include <climits>
-#include <memory>
+#include <opencv2/core.hpp>
 #include <optional>
 
-struct Session;
+class FrameConsumer;
+struct CameraSession;
 
-/// Fetches frames while a camera is connected, draws the marks into them, tracks the reference
-/// stars in monitor mode, and queues the pictures. It never waits for the GUI: if a queue is full,
-/// the picture is dropped. The GUI thread stops the live mode.
+/// Fetches frames while a camera is connected and hands them to the consumer. The thread that
+/// opened the camera stops the live mode.
 class CaptureThread : public QThread
 {
 public:
-    /// @param shared must outlive the thread
-    explicit CaptureThread(Session &shared, QObject *parent = nullptr);
+    /// @param shared, frameConsumer must outlive the thread
+    CaptureThread(CameraSession &shared, FrameConsumer &frameConsumer, QObject *parent = nullptr);
     /// Asks the loop to stop and waits for its current pass to end.
     ~CaptureThread() override;
 
@@ -46,14 +44,11 @@ private:
     bool handleFrame();
     bool acceptFrame();
     void refuseFrame();
-    void followStars();
 
-    Session &session;
+    CameraSession &session;
+    FrameConsumer &consumer;
     Relaxed<bool> stopRequested;
-    FrameMatrices matrices;
-    cv::Mat rawFrame;                       ///< header over the latest complete frame
-    FrameFormat fetched;                    ///< format of the frame in the fetch buffer
-    std::optional<FrameFormat> refused;     ///< the last format that could not be shown
-    std::unique_ptr<QImage> frameImage;     ///< the latest display picture
-    std::unique_ptr<QImage> magnifierImage; ///< the latest picture of the magnified star
+    cv::Mat rawFrame;                   ///< header over the latest complete frame
+    FrameFormat fetched;                ///< format of the frame in the fetch buffer
+    std::optional<FrameFormat> refused; ///< the last format that could not be shown
 };

@@ -4,13 +4,17 @@
 
 #include "camera/loaderfolders.h"
 #include "camera/loadprobe.h"
+#include "core/relaxed.h"
+#include "virtualcamera/cameraaddress.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QtDebug>
+#include <algorithm>
 #include <array>
+#include <cxxabi.h>
 #include <dlfcn.h>
-#include <type_traits>
+#include <exception>
 
 namespace
 {
@@ -18,6 +22,7 @@ namespace
 /// is loaded. Written once by InitVELDIXResource, before the capture thread starts; then only read.
 template <auto *operation> decltype(operation) function = nullptr;
 bool loaded = false;
+QString fault; ///< why no library is loaded
 
 template <auto *operation> void set(void *address)
 {
@@ -59,6 +64,7 @@ bool resolveAll(void *library, const QString &libraryName)
         addresses[i] = dlsym(library, symbols[i].name);
         if (addresses[i])
             continue;
+        fault = QStringLiteral("%1 lacks the function %2").arg(libraryName, symbols[i].name);
         qCritical("%s lacks the function %s", qPrintable(libraryName), symbols[i].name);
         complete = false;
     }
@@ -67,12 +73,37 @@ bool resolveAll(void *library, const QString &libraryName)
     return complete;
 }
 
-/// The result of the library's function, or `failed` if no library is loaded.
-template <typename Result, typename... Parameters>
-Result call(Result (*called)(Parameters...), std::common_type_t<Result> failed,
-            std::common_type_t<Parameters>... parameters)
+/// Whether the operation's latest call threw: a camera that throws for every frame fills no log.
+template <auto *operation> Relaxed<bool> threw;
+
+template <auto *operation> void logThrown(const char *what)
 {
-    return called ? called(parameters...) : failed;
+    if (threw<operation>)
+        return;
+    threw<operation> = true;
+    const auto symbol = std::find_if(symbols.begin(), symbols.end(),
+                                     [](const Symbol &s) { return s.set == set<operation>; });
+    qCritical("%s threw an exception: %s", symbol->name, what ? what : "");
+}
+
+/// The result of the library's function; `failed` if no library is loaded or the function throws.
+template <auto *operation, typename Result, typename... Arguments>
+Result call(Result failed, Arguments... arguments)
+{
+    if (!function<operation>)
+        return failed;
+    try {
+        const Result result = function<operation>(arguments...);
+        threw<operation> = false;
+        return result;
+    } catch (const std::exception &exception) {
+        logThrown<operation>(exception.what());
+    } catch (const abi::__forced_unwind &) { // the thread is being cancelled
+        throw;
+    } catch (...) {
+        logThrown<operation>("not a std::exception");
+    }
+    return failed;
 }
 
 /// The loader's message about its last failure.
@@ -114,6 +145,7 @@ enum class Outcome {
 
 void logUnusable(const QByteArray &files, const QString &reason)
 {
+    fault = QFile::decodeName(files) + QStringLiteral(": ") + reason;
     qCritical("%s is there and cannot be used: %s; no other camera library is tried",
               files.constData(), qPrintable(reason));
 }
@@ -143,18 +175,23 @@ Outcome loadFrom(const QString &name, QString &reason)
 }
 
 /// Loads the first library that exists. A user who has the maker's library does not want to see
-/// pictures from another one.
+/// pictures from another one, unless the shipped library's camera was asked for.
 Outcome load()
 {
     QStringList reasons;
-    for (const QString &name : librariesToTry(QCoreApplication::applicationDirPath())) {
+    const bool shippedAlone = !qEnvironmentVariableIsEmpty(virtualsky::cameraVariable);
+    QStringList names = librariesToTry(QCoreApplication::applicationDirPath());
+    if (shippedAlone)
+        names.removeFirst();
+    for (const QString &name : names) {
         QString reason;
         const Outcome outcome = loadFrom(name, reason);
         if (outcome != Outcome::Absent)
             return outcome;
         reasons.append(reason);
     }
-    qCritical("the camera library cannot be loaded: %s", qPrintable(reasons.join("; ")));
+    fault = reasons.join(QStringLiteral("; "));
+    qCritical("the camera library cannot be loaded: %s", qPrintable(fault));
     return Outcome::Absent;
 }
 } // namespace
@@ -180,83 +217,87 @@ std::uint32_t InitVELDIXResource()
             return 0;
         loaded = outcome == Outcome::Loaded;
     }
-    return call(function<InitVELDIXResource>, veldixError);
+    return call<InitVELDIXResource>(veldixError);
+}
+
+QString libraryFault()
+{
+    return loaded ? QString() : fault;
 }
 
 std::int32_t ScanVELDIX()
 {
-    return call(function<ScanVELDIX>, 0);
+    return call<ScanVELDIX>(std::int32_t(0));
 }
 
 std::uint32_t GetVELDIXId(std::int32_t index, char *id)
 {
-    return call(function<GetVELDIXId>, veldixError, index, id);
+    return call<GetVELDIXId>(veldixError, index, id);
 }
 
 void *OpenVELDIX(const char *id)
 {
-    return call(function<OpenVELDIX>, nullptr, id);
+    return call<OpenVELDIX>(static_cast<void *>(nullptr), id);
 }
 
 std::uint32_t SetVELDIXReadMode(void *handle, std::uint32_t mode)
 {
-    return call(function<SetVELDIXReadMode>, veldixError, handle, mode);
+    return call<SetVELDIXReadMode>(veldixError, handle, mode);
 }
 
 std::uint32_t SetVELDIXStreamMode(void *handle, std::uint8_t mode)
 {
-    return call(function<SetVELDIXStreamMode>, veldixError, handle, mode);
+    return call<SetVELDIXStreamMode>(veldixError, handle, mode);
 }
 
 std::uint32_t InitVELDIX(void *handle)
 {
-    return call(function<InitVELDIX>, veldixError, handle);
+    return call<InitVELDIX>(veldixError, handle);
 }
 
 std::uint32_t SetVELDIXBitsMode(void *handle, std::uint32_t bits)
 {
-    return call(function<SetVELDIXBitsMode>, veldixError, handle, bits);
+    return call<SetVELDIXBitsMode>(veldixError, handle, bits);
 }
 
 std::uint32_t SetVELDIXBinMode(void *handle, std::uint32_t x, std::uint32_t y)
 {
-    return call(function<SetVELDIXBinMode>, veldixError, handle, x, y);
+    return call<SetVELDIXBinMode>(veldixError, handle, x, y);
 }
 
 std::uint32_t SetVELDIXResolution(void *handle, std::uint32_t x, std::uint32_t y,
                                   std::uint32_t width, std::uint32_t height)
 {
-    return call(function<SetVELDIXResolution>, veldixError, handle, x, y, width, height);
+    return call<SetVELDIXResolution>(veldixError, handle, x, y, width, height);
 }
 
 double GetVELDIXParam(void *handle, std::int32_t control)
 {
-    return call(function<GetVELDIXParam>, 0.0, handle, control);
+    return call<GetVELDIXParam>(0.0, handle, control);
 }
 
 std::uint32_t SetVELDIXParam(void *handle, std::int32_t control, double value)
 {
-    return call(function<SetVELDIXParam>, veldixError, handle, control, value);
+    return call<SetVELDIXParam>(veldixError, handle, control, value);
 }
 
 std::uint32_t BeginVELDIXLive(void *handle)
 {
-    return call(function<BeginVELDIXLive>, veldixError, handle);
+    return call<BeginVELDIXLive>(veldixError, handle);
 }
 
 std::uint32_t GetVELDIXLiveFrame(void *handle, std::uint32_t *width, std::uint32_t *height,
                                  std::uint32_t *bpp, std::uint32_t *channels, std::uint8_t *buffer)
 {
-    return call(function<GetVELDIXLiveFrame>, veldixError, handle, width, height, bpp, channels,
-                buffer);
+    return call<GetVELDIXLiveFrame>(veldixError, handle, width, height, bpp, channels, buffer);
 }
 
 std::uint32_t StopVELDIXLive(void *handle)
 {
-    return call(function<StopVELDIXLive>, veldixError, handle);
+    return call<StopVELDIXLive>(veldixError, handle);
 }
 
 std::uint32_t CloseVELDIX(void *handle)
 {
-    return call(function<CloseVELDIX>, veldixError, handle);
+    return call<CloseVELDIX>(veldixError, handle);
 }

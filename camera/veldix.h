@@ -24,12 +24,16 @@ constexpr int maxIdSize = 256;
 
 // The sixteen operations of the Camera SDK, each forwarded to the library that InitVELDIXResource
 // loaded. All may be called from any thread. Before a successful InitVELDIXResource they fail and
-// return veldixError, no camera, a null handle or 0.
+// return veldixError, no camera, a null handle or 0. So does an operation that throws an exception,
+// which is logged; once for a series of calls that all throw.
 
 /// Loads the library (see librariesToTry) and initialises it; 0 = ready. A library that is missing,
 /// lacks a function or cannot be loaded is reported in a critical log line. One that exists but
 /// cannot be loaded counts as a library without cameras: the result is 0.
 std::uint32_t InitVELDIXResource();
+/// Why the library cannot be used, for a person; empty if it can. For the thread that called
+/// InitVELDIXResource.
+QString libraryFault();
 /// Number of cameras; 0 or negative = none.
 std::int32_t ScanVELDIX();
 /// 0 = `id` holds the NUL-terminated ID of camera `index`, at most veldixIdSize bytes.

@@ -3,6 +3,7 @@
 #include "core/settingsfile.h"
 
 #include "core/iniscanner.h"
+#include "core/savetrouble.h"
 #include "core/settingsplace.h"
 
 #include <QCoreApplication>
@@ -10,10 +11,12 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSettings>
+#include <QTemporaryFile>
 #include <QVariant>
 #include <QtDebug>
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <optional>
 #include <variant>
 
@@ -86,15 +89,6 @@ Texts textsIn(QFile &file)
     return texts;
 }
 
-/// QSettings locks the file with a lock file beside it. An empty lock file was left by a process
-/// that was killed between creating and filling it; QSettings would wait half a minute for it.
-void removeEmptyLock(const QString &path)
-{
-    const QFileInfo lock(path + QStringLiteral(".lock"));
-    if (lock.isFile() && lock.size() == 0)
-        QFile::remove(lock.filePath());
-}
-
 QString decimalText(double value)
 {
     return QString::number(value, 'g', 6);
@@ -137,14 +131,48 @@ struct Put {
     void operator()(bool Settings::*member) const { file.setValue(entry.key, settings.*member); }
 };
 
-void putAll(const QString &path, const Settings &settings)
+/// The last section of a scratch file, to recognise one that was cut: QSettings does not notice if
+/// its last write fails. It sorts sections by their names.
+QString endKey()
 {
-    QSettings file(path, QSettings::IniFormat);
+    return QString(4, QChar(0xFFFF)) + QStringLiteral("/complete");
+}
+constexpr auto endText = "\n[%UFFFF%UFFFF%UFFFF%UFFFF]\ncomplete=true\n";
+
+/// Puts our keys into the file at `place`, in the toolkit's format, and marks its end.
+bool putAll(const QString &place, const Settings &settings)
+{
+    QSettings file(place, QSettings::IniFormat);
     for (const Entry &entry : entries) {
         file.beginGroup(entry.group);
         std::visit(Put{file, entry, settings}, entry.member);
         file.endGroup();
     }
+    file.setValue(endKey(), true);
+    file.sync();
+    return file.status() != QSettings::AccessError; // a format error is the old text's
+}
+
+/// The text of a settings file, made from the old one's in a scratch file whose name nobody knows:
+/// QSettings waits, without a limit, for a lock file beside the file that it writes.
+std::optional<QByteArray> textWith(const Settings &settings, const QString &scratchTemplate,
+                                   const QByteArray &old, QString &reason)
+{
+    QTemporaryFile scratch(scratchTemplate);
+    if (!scratch.open() || scratch.write(old) != old.size() || !scratch.flush()) {
+        reason = scratch.errorString();
+        return {};
+    }
+    if (!putAll(scratch.fileName(), settings)) {
+        reason = QStringLiteral("the toolkit cannot write it");
+        return {};
+    }
+    QFile made(scratch.fileName()); // QSettings has replaced it
+    const QByteArray text = made.open(QIODevice::ReadOnly) ? made.readAll() : QByteArray();
+    if (text.endsWith(endText))
+        return text.chopped(int(std::strlen(endText)));
+    reason = QStringLiteral("there is no room for all of it");
+    return {};
 }
 } // namespace
 
@@ -152,13 +180,6 @@ QString settingsFilePath()
 {
     return QDir::toNativeSeparators(QCoreApplication::applicationDirPath() +
                                     QStringLiteral("/Quorvandel.ini"));
-}
-
-bool canWriteSettings(const QString &path)
-{
-    const QFileInfo file(path);
-    return QFileInfo(file.absolutePath()).isWritable() &&
-           (!file.exists() || (file.isFile() && file.isWritable()));
 }
 
 bool readSettings(const QString &path, Settings &settings)
@@ -171,8 +192,11 @@ bool readSettings(const QString &path, Settings &settings)
         return true;
     }
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly)) {
+        qWarning("the settings file %s is not read: %s", qPrintable(path),
+                 qPrintable(file.errorString()));
         return true;
+    }
     const Texts texts = textsIn(file);
     for (std::size_t i = 0; i < texts.size(); ++i)
         if (texts[i])
@@ -180,12 +204,23 @@ bool readSettings(const QString &path, Settings &settings)
     return true;
 }
 
-void writeSettings(const QString &path, const Settings &settings)
+bool writeSettings(const QString &path, const Settings &settings)
 {
-    if (!isFileOrNothing(path))
-        return;
-    removeEmptyLock(path);
-    const auto write = [&settings](const QString &place) { putAll(place, settings); };
-    if (makeReadyToSave(path, write))
-        write(path);
+    const SaveTrouble trouble = saveTrouble(path);
+    QString reason = troubleText(trouble);
+    // A disk without room for all of it may still have room for this.
+    if (trouble == SaveTrouble::None || trouble == SaveTrouble::DiskFull) {
+        const QFileInfo named(path);
+        const QString scratch = (named.isSymLink() ? named.symLinkTarget() : path) + ".XXXXXX";
+        const auto newText = [&](const QByteArray &old, QString &why) {
+            return textWith(settings, scratch, old, why);
+        };
+        QString failure;
+        if (replaceKeeping(path, newText, failure))
+            return true;
+        if (reason.isEmpty())
+            reason = failure;
+    }
+    qWarning("the settings are not saved in %s: %s", qPrintable(path), qPrintable(reason));
+    return false;
 }

@@ -24,20 +24,17 @@ struct Settings {
 /// "Quorvandel.ini" in the folder of the executable, with native separators.
 QString settingsFilePath();
 
-/// Whether this user can write the settings to `path`: the folder and, if it exists, the file are
-/// writable.
-bool canWriteSettings(const QString &path);
-
 /// Reads `path` into `settings`. A missing key gives its default, a text that is not a number gives
 /// 0, and one that is not a truth value gives false. A value that is a serialised Qt object counts
-/// as missing, and a path that is not a regular file gives the defaults; both are logged as
-/// warnings. Returns false, with `settings` unchanged, if nothing exists at `path`. A large file
-/// needs no more memory than a small one.
+/// as missing, and a path that is not a regular file, or cannot be read, gives the defaults; all
+/// are logged as warnings. Returns false, with `settings` unchanged, if nothing exists at `path`. A
+/// large file needs no more memory than a small one.
 bool readSettings(const QString &path, Settings &settings);
 
-/// Writes every key to `path`; numbers with 6 significant digits. Other keys are kept. A file that
-/// cannot be written is left unchanged, without a message; so is anything that is not a regular
-/// file. The file is replaced atomically: if the process is killed, either the old or the new file
-/// is complete. Content that cannot be read, and a file that is too large, are first kept beside it
-/// (see settingsplace.h), with a warning in the log.
-void writeSettings(const QString &path, const Settings &settings);
+/// Writes every key to `path`; numbers with 6 significant digits. Other keys are kept. The file is
+/// replaced atomically: if the process is killed, either the old or the new file is complete. No
+/// lock is taken: of two programs that save at the same time, the later one's file remains. Content
+/// that cannot be read, and a file that is too large, are first kept beside it (see
+/// settingsplace.h), with a warning in the log. False, with a warning that says why, if the file
+/// cannot be written or is not a regular file: it is left unchanged.
+bool writeSettings(const QString &path, const Settings &settings);

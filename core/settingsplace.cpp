@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Checks the settings file before it is saved, and backs up what would be lost.
+// Replaces the settings file by a new one, and backs up what would be lost.
 #include "core/settingsplace.h"
 
 #include "core/iniscanner.h"
@@ -8,15 +8,12 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
-#include <QTemporaryFile>
 #include <QtDebug>
 #include <algorithm>
 
 namespace
 {
 constexpr auto byteOrderMark = "\xEF\xBB\xBF";
-/// The INI writer expands one byte to four at most.
-constexpr qint64 largestThatCannotOutgrow = largestSettingsFile / 8;
 
 /// Whether there are lines that are neither a section nor a key; the INI writer drops them.
 bool hasLinesToLose(QByteArray bytes)
@@ -50,18 +47,6 @@ QByteArray withoutObjects(QByteArray &bytes, bool &hadAny)
     return kept;
 }
 
-/// Whether `write` makes the file exceed the limit, tried on a copy; true if that is not possible.
-bool outgrowsLimit(const QByteArray &bytes, const std::function<void(const QString &)> &write)
-{
-    if (bytes.size() <= largestThatCannotOutgrow)
-        return false;
-    QTemporaryFile copy;
-    if (!copy.open() || copy.write(bytes) != bytes.size() || !copy.flush())
-        return true;
-    write(copy.fileName());
-    return QFileInfo(copy.fileName()).size() > largestSettingsFile;
-}
-
 /// An unused file name beside `path`.
 QString freeNameBeside(const QString &path)
 {
@@ -71,24 +56,54 @@ QString freeNameBeside(const QString &path)
     return name;
 }
 
-using Keep = bool (*)(const QString &from, const QString &to);
-
-bool keepAside(const QString &path, Keep keep)
-{
-    if (!QFile(path).open(QIODevice::Append))
-        return false;
-    const QString name = freeNameBeside(path);
-    if (!keep(path, name))
-        return false;
-    qWarning("what was not read of the settings file is kept in %s", qPrintable(name));
-    return true;
-}
-
-/// Atomic: either the old or the new file is complete.
-bool replaceFile(const QString &path, const QByteArray &bytes)
+/// Atomic: either the old or the new file is complete. QSaveFile::commit() alone would replace the
+/// old file by a truncated one if its last write fails.
+bool replaceFile(const QString &path, const QByteArray &bytes, QString &reason)
 {
     QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() &&
+        file.commit())
+        return true;
+    reason = file.errorString();
+    return false;
+}
+
+/// How much of the old file the new one does not have.
+enum class Loss { Nothing, Part, All };
+
+/// What is to be done with the old file, and the new one's text.
+struct Plan {
+    Loss loss = Loss::Nothing;
+    QByteArray text;
+};
+
+/// Null if no new text can be made.
+std::optional<Plan> planFor(const QString &path, const MakeText &newText, QString &reason)
+{
+    Plan plan;
+    QByteArray bytes;
+    bool hadObjects = false;
+    if (QFileInfo(path).size() > largestSettingsFile) {
+        plan.loss = Loss::All;
+    } else if (QFile file(path); file.exists()) {
+        if (!file.open(QIODevice::ReadOnly)) {
+            reason = file.errorString();
+            return {};
+        }
+        bytes = file.read(largestSettingsFile);
+    }
+    const QByteArray kept = withoutObjects(bytes, hadObjects);
+    if (plan.loss == Loss::Nothing && (hadObjects || hasLinesToLose(bytes)))
+        plan.loss = Loss::Part;
+    std::optional<QByteArray> text = newText(hadObjects ? kept : bytes, reason);
+    if (text && text->size() > largestSettingsFile) { // the writer's escapes expand bytes
+        plan.loss = Loss::All;
+        text = newText({}, reason);
+    }
+    if (!text)
+        return {};
+    plan.text = *text;
+    return plan;
 }
 } // namespace
 
@@ -98,20 +113,25 @@ bool isFileOrNothing(const QString &path)
     return !info.exists() || info.isFile();
 }
 
-bool makeReadyToSave(const QString &path, const std::function<void(const QString &)> &write)
+bool replaceKeeping(const QString &path, const MakeText &newText, QString &reason)
 {
-    if (QFileInfo(path).size() > largestSettingsFile)
-        return keepAside(path, QFile::rename);
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return true;
-    QByteArray bytes = file.read(largestSettingsFile);
-    file.close();
-    bool hadObjects = false;
-    const QByteArray kept = withoutObjects(bytes, hadObjects);
-    if (outgrowsLimit(hadObjects ? kept : bytes, write))
-        return keepAside(path, QFile::rename);
-    if (!hadObjects && !hasLinesToLose(bytes))
-        return true;
-    return keepAside(path, QFile::copy) && (!hadObjects || replaceFile(path, kept));
+    const std::optional<Plan> plan = planFor(path, newText, reason);
+    if (!plan)
+        return false;
+    const bool moves = plan->loss == Loss::All;
+    const QString aside = plan->loss == Loss::Nothing ? QString() : freeNameBeside(path);
+    if (!aside.isEmpty() && !(moves ? QFile::rename(path, aside) : QFile::copy(path, aside))) {
+        reason = QStringLiteral("its content cannot be kept in %1").arg(aside);
+        return false;
+    }
+    if (!replaceFile(path, plan->text, reason)) {
+        if (moves)
+            QFile::rename(aside, path);
+        else if (!aside.isEmpty())
+            QFile::remove(aside);
+        return false;
+    }
+    if (!aside.isEmpty())
+        qWarning("what was not read of the settings file is kept in %s", qPrintable(aside));
+    return true;
 }

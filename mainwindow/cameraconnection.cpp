@@ -2,6 +2,7 @@
 // How is the camera found, opened, set up and closed?
 #include "mainwindow/mainwindow.h"
 
+#include "camera/cameraopening.h"
 #include "camera/session.h"
 #include "core/saturate.h"
 #include "mainwindow/wizardtable.h"
@@ -14,42 +15,11 @@
 #include <QTimer>
 #include <QtDebug>
 #include <algorithm>
-#include <array>
-#include <cstring>
 
 namespace
 {
-constexpr auto modelName = "QUORVANDEL";
-/// More cameras than can be connected. If a library reports more, the other IDs are not read.
-constexpr std::int32_t maxCameras = 1024;
-
 /// Milliseconds between two looks at a closing that takes its time.
 constexpr int pollInterval = 20;
-
-/// The model in an ID of the form model-serial; empty for an ID without '-'.
-QString modelOf(const char *id)
-{
-    const QString text = QString::fromLatin1(id);
-    const int dash = text.lastIndexOf('-');
-    return dash < 0 ? QString() : text.left(dash);
-}
-
-/// The ID of camera `index` into `id`; false if the library has none, or one too long to be given
-/// back as it is. The library is given far more room than its IDs need.
-bool readId(int index, char (&id)[maxIdSize])
-{
-    std::array<char, 16384> buffer{};
-    if (GetVELDIXId(index, buffer.data()) != 0)
-        return false;
-    buffer.back() = '\0';
-    const std::size_t length = std::strlen(buffer.data());
-    if (length >= sizeof id) {
-        qCritical("camera %d is left out: its ID of %zu characters is too long", index, length);
-        return false;
-    }
-    std::copy_n(buffer.begin(), length + 1, std::begin(id));
-    return true;
-}
 
 /// Sets a slider and the edit box beside it without emitting signals: a value that was just read
 /// must not be written back to the camera.
@@ -66,6 +36,7 @@ void MainWindow::on_actionConnect_triggered()
 {
     if (!session.camera.sdkReady || cameraClosing.isUnderWay())
         return;
+    noteSettings();
     if (session.camera.cameraConnected)
         disconnectCamera();
     else
@@ -100,68 +71,46 @@ void MainWindow::showNotFound()
 /// Stores the ID of the first camera of our model in cameraId; false if there is none.
 bool MainWindow::chooseCamera()
 {
-    const std::int32_t count = std::min(ScanVELDIX(), maxCameras);
-    for (std::int32_t index = 0; index < count; ++index)
-        if (readId(index, session.camera.cameraId) && modelOf(session.camera.cameraId) == modelName)
-            return true;
-    return false;
+    const std::vector<std::string> found = findCameras(1);
+    if (found.empty())
+        return false;
+    qstrncpy(session.camera.cameraId, found.front().c_str(), sizeof session.camera.cameraId);
+    return true;
 }
 
 /// Opens and initialises the chosen camera. If a step after opening fails, the camera stays open.
 bool MainWindow::openCamera()
 {
-    void *const handle = OpenVELDIX(session.camera.cameraId);
-    session.handle.set(handle);
-    if (!handle) {
-        qCritical("OpenVELDIX failure!");
-        session.camera.cameraConnected = false;
+    switch (::openCamera(session)) {
+    case OpeningResult::Opened:
+        return true;
+    case OpeningResult::NoHandle:
         QMessageBox::critical(this, tr("Error"),
                               tr("Can not connect Quorvandel as OpenVELDIX error!"),
                               QMessageBox::Ok);
-        return false;
-    }
-    if (SetVELDIXReadMode(handle, 0) == veldixError)
-        qCritical("SetVELDIXReadMode 0 Failure");
-    if (SetVELDIXStreamMode(handle, static_cast<std::uint8_t>(session.camera.streamMode)) != 0) {
-        qCritical("SetVELDIXStreamMode 1 Failure");
-        return false;
-    }
-    if (InitVELDIX(handle) != 0) {
-        qCritical("InitVELDIX failure!");
-        session.camera.cameraConnected = false;
+        break;
+    case OpeningResult::StreamModeRefused:
+        break;
+    case OpeningResult::NotInitialised:
         QMessageBox::critical(this, tr("Error"),
                               tr("Can not connect Quorvandel as InitVELDIX error!"),
                               QMessageBox::Ok);
-        return false;
+        break;
     }
-    return true;
+    return false;
 }
 
-/// Sets frame format and transfer; a setting that the camera refuses stays unchanged.
+/// Sets frame format and transfer, and shows what the camera is set to.
 void MainWindow::configureCamera()
 {
-    void *const handle = session.handle.get();
-    const CameraState &s = session.camera;
-    if (SetVELDIXBitsMode(handle, s.bits) == 0)
-        qDebug() << "SetVELDIXBitsMode" << s.bits;
-    if (SetVELDIXBinMode(handle, s.binX, s.binY) == 0)
-        qDebug() << "SetVELDIXBinMode" << s.binX << s.binY;
-    if (SetVELDIXResolution(handle, s.roiX, s.roiY, s.roiWidth, s.roiHeight) == 0)
-        qDebug() << "SetVELDIXResolution" << s.roiX << s.roiY << s.roiWidth << s.roiHeight;
-    readCameraParameters();
-    if (SetVELDIXParam(handle, CONTROL_USBTRAFFIC, s.usbTraffic) == 0)
-        qDebug() << "SetVELDIXParam CONTROL_USBTRAFFIC" << s.usbTraffic;
-    if (SetVELDIXParam(handle, CONTROL_SPEED, s.speed) == 0)
-        qDebug() << "SetVELDIXParam CONTROL_SPEED" << s.speed;
+    ::configureCamera(session);
+    showCameraParameters();
 }
 
-void MainWindow::readCameraParameters()
+void MainWindow::showCameraParameters()
 {
-    void *const handle = session.handle.get();
-    session.camera.exposure = GetVELDIXParam(handle, CONTROL_EXPOSURE);
     showParameter(*ui->sliderExpose, *ui->lineEditExpose,
                   saturatingInt(session.camera.exposure) / 1000);
-    session.camera.gain = GetVELDIXParam(handle, CONTROL_GAIN);
     showParameter(*ui->sliderGain, *ui->lineEditGain, saturatingInt(session.camera.gain));
 }
 
@@ -188,9 +137,11 @@ void MainWindow::disconnectCamera()
 /// Waits while a modal dialog is open, so that the wizard does not change behind it.
 void MainWindow::followClosing()
 {
-    if (cameraClosing.isUnderWay()) // otherwise it was completed when the window closed
-        showDisconnected(QApplication::activeModalWidget() ? CameraClosing::State::UnderWay
-                                                           : cameraClosing.poll(0));
+    if (!cameraClosing.isUnderWay()) // it was completed when the window closed
+        return;
+    noteSettings();
+    showDisconnected(QApplication::activeModalWidget() ? CameraClosing::State::UnderWay
+                                                       : cameraClosing.poll(0));
 }
 
 /// Updates the window after a check of the close operation.
@@ -219,7 +170,7 @@ void MainWindow::showDisconnected(CameraClosing::State state)
 /// time.
 int MainWindow::sdkCallTimeout() const
 {
-    return libraryHangs ? 0 : CameraHandle::sdkCallTimeout;
+    return libraryHangs ? 0 : closingPatience;
 }
 
 bool MainWindow::stopCaptureAndWait()

@@ -74,6 +74,7 @@ void MainWindow::parameterSliderMoved(const Parameter &parameter, int value)
 {
     parameter.value = value * parameter.perSliderUnit;
     parameter.edit.setText(QString::number(value));
+    noteSettings();
     SetVELDIXParam(session.handle.get(), parameter.control, parameter.value);
 }
 
@@ -88,6 +89,7 @@ void MainWindow::parameterTyped(const Parameter &parameter)
         parameter.slider.setValue(kept);
     }
     parameter.value = kept * parameter.perSliderUnit;
+    noteSettings();
     SetVELDIXParam(session.handle.get(), parameter.control, parameter.value);
 }
 

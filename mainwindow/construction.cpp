@@ -184,7 +184,8 @@ void MainWindow::buildDialogs()
     trackingDialog = new PoleTrackingDialog(this);
     favoriteDialog = new FavoriteDialog(this);
     translator = new QTranslator(this);
-    captureThread = std::make_unique<CaptureThread>(session);
+    pictureMaker = std::make_unique<PictureMaker>(session);
+    captureThread = std::make_unique<CaptureThread>(session, *pictureMaker);
 }
 
 void MainWindow::connectSignals()
@@ -205,7 +206,10 @@ void MainWindow::startTimers()
     frameTimer->start();
     fpsTimer = makeTimer(this, 500);
     connect(fpsTimer, SIGNAL(timeout()), this, SLOT(updateFPS()));
-    connect(fpsTimer, &QTimer::timeout, this, [this] { showNotice(); });
+    connect(fpsTimer, &QTimer::timeout, this, [this] {
+        noteSettings();
+        showNotice();
+    });
     fpsTimer->start();
     angleTimer = makeTimer(this, 100);
     connect(angleTimer, SIGNAL(timeout()), this, SLOT(increaseAngleTimeout()));
@@ -298,6 +302,7 @@ void MainWindow::buildPlayer()
 
 void MainWindow::initialiseSdk()
 {
+    noteSettings();
     const bool ready = InitVELDIXResource() == 0;
     session.camera.sdkReady = ready;
     if (ready)

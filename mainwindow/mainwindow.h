@@ -3,7 +3,9 @@
 #pragma once
 
 #include "camera/cameraclosing.h"
+#include "camera/camerahandle.h"
 #include "camera/capturethread.h"
+#include "camera/picturemaker.h"
 #include "geometry/templaterings.h"
 #include "mainwindow/alignmentprogress.h"
 #include "mainwindow/pagebutton.h"
@@ -31,7 +33,6 @@ class QTabWidget;
 class QTimer;
 enum class Section;
 struct NoticeFacts;
-struct Session;
 struct Settings;
 struct StarCatalogue;
 struct Style;
@@ -67,6 +68,9 @@ public:
     /// Asks the capture thread to stop and waits for it. False if the camera library does not
     /// return from a call; the window must not be destroyed then.
     bool stopCaptureAndWait();
+    /// From now on, closing waits at most that many milliseconds for a call of the camera library
+    /// in another thread.
+    void hurry(int milliseconds) { closingPatience = milliseconds; }
     /// The wizard's step, 1 to 13; 1 after construction.
     int step() const { return currentStep; }
 
@@ -210,7 +214,9 @@ private:
 
     // settings.cpp
     bool loadSettings();
-    void saveSettings() const;
+    Settings currentSettings() const;
+    void noteSettings();
+    void saveSettings();
     void applySettings(const Settings &settings);
     void setStyleName(const QString &name);
 
@@ -220,7 +226,7 @@ private:
     bool chooseCamera();
     bool openCamera();
     void configureCamera();
-    void readCameraParameters();
+    void showCameraParameters();
     void showConnected(bool connected);
     void showNotFound();
     int sdkCallTimeout() const;
@@ -296,7 +302,8 @@ private:
     /// Is scrolled to the middle of the view with the next picture, frame pixels.
     std::optional<QPointF> placeWithNextPicture;
     bool libraryHangs = false; ///< a call did not return during the last close operation
-    ButtonPress buttonPress;   ///< last press of a page's button
+    int closingPatience = CameraHandle::sdkCallTimeout; ///< milliseconds
+    ButtonPress buttonPress;                            ///< last press of a page's button
     AlignmentProgress progress;
     QElapsedTimer sinceLastPicture; ///< or since the camera was connected
 
@@ -324,5 +331,6 @@ private:
     QMediaPlayer *player = nullptr;
     CameraClosing cameraClosing{session};
     /// Declared last, so that it is stopped before any other member is destroyed.
+    std::unique_ptr<PictureMaker> pictureMaker; // outlives the thread
     std::unique_ptr<CaptureThread> captureThread;
 };

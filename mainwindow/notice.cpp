@@ -142,7 +142,19 @@ Found ringUnderMagnifier(const NoticeFacts &f)
 
 Found settingsNotKept(const NoticeFacts &f)
 {
-    return when(!f.settingsKept, NoticeCode::SettingsNotKept);
+    switch (f.saveTrouble) {
+    case SaveTrouble::None:
+        return {};
+    case SaveTrouble::FolderNotWritable:
+        return Notice{NoticeCode::SettingsNotKept};
+    case SaveTrouble::FileNotAccessible:
+        return Notice{NoticeCode::SettingsFileNotAccessible};
+    case SaveTrouble::NotAFile:
+        return Notice{NoticeCode::SettingsPlaceTaken};
+    case SaveTrouble::DiskFull:
+        return Notice{NoticeCode::SettingsDiskFull};
+    }
+    return {};
 }
 
 /// In order of urgency.
@@ -210,6 +222,14 @@ const char *sourceText(NoticeCode code)
         return QT_TRANSLATE_NOOP("Notice", "The tracking dial still stands at %1°: reset it.");
     case NoticeCode::RingUnderMagnifier:
         return QT_TRANSLATE_NOOP("Notice", "The ring lies under the magnifier.");
+    case NoticeCode::SettingsFileNotAccessible:
+        return QT_TRANSLATE_NOOP("Notice",
+                                 "Settings will not be kept: their file cannot be written.");
+    case NoticeCode::SettingsPlaceTaken:
+        return QT_TRANSLATE_NOOP("Notice",
+                                 "Settings will not be kept: Quorvandel.ini is not a file.");
+    case NoticeCode::SettingsDiskFull:
+        return QT_TRANSLATE_NOOP("Notice", "Settings will not be kept: the disk is full.");
     case NoticeCode::SettingsNotKept:
         return QT_TRANSLATE_NOOP("Notice",
                                  "Settings will not be kept: their folder cannot be written.");

@@ -2,6 +2,7 @@
 // What is the most important thing that the user must be told now?
 #pragma once
 
+#include "core/savetrouble.h"
 #include "geometry/templaterings.h"
 
 #include <QString>
@@ -28,7 +29,10 @@ enum class NoticeCode {
     AxisTurnedLittle, ///< degrees
     DialNotReset,     ///< degrees
     RingUnderMagnifier,
-    SettingsNotKept,
+    SettingsFileNotAccessible,
+    SettingsPlaceTaken, ///< by something that is not a file
+    SettingsDiskFull,
+    SettingsNotKept, ///< their folder cannot be written
 };
 
 struct Notice {
@@ -49,7 +53,7 @@ struct NoticeFacts {
     bool pageShown = false;           ///< an instruction page is visible
     double secondsWithoutPicture = 0; ///< since the last one, or since connecting
     float zoomFactor = 1.0F;
-    bool settingsKept = true; ///< the settings file is writable
+    SaveTrouble saveTrouble = SaveTrouble::None; ///< of the settings file
 
     // The alignment
     int step = 0;

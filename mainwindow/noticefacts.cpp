@@ -67,7 +67,7 @@ NoticeFacts MainWindow::noticeFacts() const
     facts.pageShown = !tipTabs->isHidden();
     facts.secondsWithoutPicture = double(sinceLastPicture.elapsed()) / 1000.0;
     facts.zoomFactor = zoomFactor;
-    facts.settingsKept = canWriteSettings(settingsFilePath());
+    facts.saveTrouble = saveTrouble(settingsFilePath());
     facts.step = currentStep;
     facts.monitoring = session.overlayFlags.monitorTracking;
     facts.hasAxis = session.alignmentPoints.savedAxisCenter.load() != QPointF(0, 0);

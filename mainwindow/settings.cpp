@@ -3,12 +3,18 @@
 #include "mainwindow/mainwindow.h"
 
 #include "camera/session.h"
+#include "core/savetrouble.h"
 #include "core/settingsfile.h"
+
+#include <QtDebug>
 
 bool MainWindow::loadSettings()
 {
     Settings settings;
-    if (!readSettings(settingsFilePath(), settings))
+    const QString path = settingsFilePath();
+    if (const QString trouble = troubleText(saveTrouble(path)); !trouble.isEmpty())
+        qWarning("the settings will not be saved in %s: %s", qPrintable(path), qPrintable(trouble));
+    if (!readSettings(path, settings))
         return false;
     applySettings(settings);
     return true;
@@ -29,7 +35,7 @@ void MainWindow::applySettings(const Settings &settings)
     session.alignmentPoints.savedAxisCenter = QPointF(settings.axisX, settings.axisY);
 }
 
-void MainWindow::saveSettings() const
+Settings MainWindow::currentSettings() const
 {
     Settings settings;
     settings.styleName = styleName;
@@ -44,7 +50,19 @@ void MainWindow::saveSettings() const
     settings.P_unit = session.refraction.P_unit;
     settings.axisX = session.alignmentPoints.savedAxisCenter.x;
     settings.axisY = session.alignmentPoints.savedAxisCenter.y;
-    writeSettings(settingsFilePath(), settings);
+    return settings;
+}
+
+/// Called before each call into the camera library, which may not return.
+void MainWindow::noteSettings()
+{
+    session.latestSettings.note(currentSettings());
+}
+
+void MainWindow::saveSettings()
+{
+    noteSettings();
+    session.latestSettings.save(settingsFilePath());
 }
 
 /// Sets the name for the GUI and the mono flag for the capture thread.

@@ -178,7 +178,7 @@ test_documents() {
     test -f "$root/usr/share/doc-base/quorvandel.quorvandel"
   check "the manual is found from the user's folder" \
     in_root test -f "$home/$folder/bin/../$manual"
-  for page in quorvandel quorvandel-mount quorvandel-recognise; do
+  for page in quorvandel quorvandel-assistant quorvandel-camera quorvandel-mount quorvandel-recognise; do
     check "the man page of $page is there" test -f "$root/usr/share/man/man1/$page.1.gz"
   done
 }

@@ -9,8 +9,8 @@
 
 const char *const helpText =
     "Usage: quorvandel-recognise [OPTION]... IMAGE...\n"
-    "Recognises the stars round a celestial pole in pictures (PNG, JPEG, TIFF) and says where the\n"
-    "pole lies in them.\n"
+    "Recognises the stars round a celestial pole in pictures (PNG, JPEG, TIFF, FITS) and says\n"
+    "where the pole lies in them.\n"
     "\n"
     "  --date ISO          when the pictures were taken, UTC, such as 2026-11-20T20:00:00Z;\n"
     "                      without it each picture's own date, or now\n"

@@ -44,7 +44,7 @@ void line(cv::Mat &picture, PixelPlace from, PixelPlace to, const Pen &pen)
              cv::LINE_AA, shift);
 }
 
-/// The value below which a part of the pixels lies; of a sample.
+/// The value below which a part of the pixels is; estimated from a sample.
 double quantile(const cv::Mat &pixels, double part)
 {
     constexpr int step = 7;

@@ -14,7 +14,7 @@ namespace
 {
 constexpr double scaleDifference = 0.02;    // relative, between frames of one camera
 constexpr double agreementSigmas = 4.0;     // of a frame's own error
-constexpr double agreementArcseconds = 1.5; // that are never taken for a bump
+constexpr double agreementArcseconds = 1.5; // that never count as a bump
 
 using Frames = std::vector<const Recognition *>;
 
@@ -34,7 +34,7 @@ double wrapped(double degrees)
     return degrees - 360.0 * std::round(degrees / 360.0);
 }
 
-// The greatest difference between the turns, which may lie on either side of the first one.
+// The greatest difference between the turns, on either side of the first one.
 double spanOf(const std::vector<double> &turns)
 {
     const auto [least, greatest] = std::minmax_element(turns.begin(), turns.end());
@@ -102,7 +102,7 @@ struct Consensus {
 };
 
 // All frames if they agree, else the largest set that does. Two frames agree on some axis whatever
-// happened: it takes a third to tell who moved, and more frames in agreement than out of it.
+// happened: a third frame shows which one moved; most frames must agree.
 std::optional<Consensus> consensusOf(const Turns &turns)
 {
     Indices all(turns.views.size());

@@ -23,7 +23,7 @@ enum class AxisStatus {
 
 struct Axis {
     AxisStatus status = AxisStatus::TooFewFrames;
-    PixelPlace place = {0.0, 0.0}; ///< pixels; it may lie outside the frame
+    PixelPlace place = {0.0, 0.0}; ///< pixels; possibly outside the frame
     Covariance covariance;         ///< pixels squared
     double sigmaArcseconds = 0.0;  ///< root of the mean of the two variances, on the sky
     /// Of the frames' turns, degrees: greatest minus least.

@@ -146,7 +146,7 @@ public:
         if (pixels.size() > largestRegion)
             return std::nullopt;
         const double area = double(pixels.size()), centre = 0.5 * (bin - 1);
-        // A Gaussian's half height lies at 1.177 sigma; the smoothing widens it.
+        // A Gaussian's half height is at 1.177 sigma; the smoothing widens it.
         const double variance = area / (3.141592653589793 * 1.3863) - kernelSigma * kernelSigma;
         return Candidate{sumX / area * bin + centre, sumY / area * bin + centre,
                          std::sqrt(std::max(variance, 0.5)) * bin, double(image(peak))};

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Where in a picture of noise of one sigma stands something that may be a star?
+// Which peaks of a picture with unit noise may be stars?
 #pragma once
 
 #include <opencv2/core.hpp>
@@ -23,7 +23,7 @@ struct Detection {
     double noiseScale = 1.0; ///< the smoothed noise over that of independent pixels, at least 1
 };
 
-/// Replaces pixels that stand alone, as no star does, by the mean of their neighbours.
+/// Replaces isolated pixels, which no star makes, by the mean of their neighbours.
 /// @param normalised background 0, noise 1
 void removeHotPixels(cv::Mat1f &normalised);
 

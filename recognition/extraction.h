@@ -26,7 +26,7 @@ enum class ExtractionStatus {
     SaturatedSky, ///< the background is near full scale, and the stars are too few or have no shape
     NoSky,        ///< structure everywhere: not the sky at night
     OutOfFocus,   ///< `fwhm` above `ExtractionOptions::widestFwhm`
-    Trailed,      ///< most stars are drawn out, `elongation` times as long as wide
+    Trailed,      ///< most stars are elongated, `elongation` times as long as wide
     TooFewStars   ///< fewer than `ExtractionOptions::leastStars`
 };
 

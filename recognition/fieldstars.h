@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Which catalogue stars can a frame show, and where in its plane do they stand as light arrives?
+// Which catalogue stars can a frame show, and what are their apparent places in its plane?
 #pragma once
 
 #include "astrometry/vector3.h"

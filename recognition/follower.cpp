@@ -9,12 +9,13 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace recognition
 {
 namespace
 {
-constexpr std::size_t guides = 5;      // stars that tell the field's shift
+constexpr std::size_t guides = 5;      // stars that give the field's shift
 constexpr double foundPart = 0.5;      // of the stars looked for: fewer and the field is lost
 constexpr double scaleChange = 0.01;   // relative; more is not the same lens
 constexpr double knownScale = 0.05;    // relative, for searching again
@@ -171,7 +172,8 @@ Recognition Follower::blind(const cv::Mat &frame, double utcSeconds)
         narrow.leastScale = std::max(options.leastScale, last->scale * (1.0 - knownScale));
         narrow.greatestScale = std::min(options.greatestScale, last->scale * (1.0 + knownScale));
     }
-    measured = std::move(extraction.stars);
+    measured = std::exchange(extraction.stars, {});
+    wholeFrame = std::move(extraction);
     Recognition result = recognise(measured, frame.cols, frame.rows, narrow);
     if (result.status == RecognitionStatus::Recognised)
         enrol(result);

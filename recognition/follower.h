@@ -2,6 +2,7 @@
 // Where is the pole in the next frame of a live picture?
 #pragma once
 
+#include "recognition/extraction.h"
 #include "recognition/recognise.h"
 
 #include <opencv2/core.hpp>
@@ -14,12 +15,12 @@ struct FollowerOptions {
     /// As for `recognise`; utcSeconds is replaced by each frame's own time.
     RecognitionOptions recognition;
     int windowRadius = 6;       ///< pixels about a star's expected place, 4 to 64
-    int searchRadius = 24;      ///< pixels, for the brightest ones, that tell how the field moved
+    int searchRadius = 24;      ///< pixels, for the brightest ones, which show how the field moved
     std::size_t mostStars = 30; ///< measured in a frame, at least leastStars
 };
 
 /// Looks only at windows about the stars of the last frame, as long as they are found there;
-/// otherwise the whole frame is searched, blind but for the scale, mirroring and hemisphere that
+/// otherwise the whole frame is searched, blind except for the scale, mirroring and hemisphere that
 /// were found before. Between frames the field may shift by `searchRadius`, and turn by as much as
 /// leaves its stars in their windows: half a degree. Not for two threads at a time.
 class Follower
@@ -33,6 +34,8 @@ public:
 
     /// The stars that the last frame's recognition rests on.
     const std::vector<DetectedStar> &stars() const { return measured; }
+    /// What the last search of a whole frame found, without its stars: those are in `stars()`.
+    const Extraction &searched() const { return wholeFrame; }
     /// Whether the last frame was recognised by windows alone.
     bool followed() const { return byWindows; }
     /// Forgets everything; the next frame is searched blind.
@@ -68,6 +71,7 @@ private:
     std::vector<astrometry::Vector3> rosterPlaces;
     double enrolled = 0.0;
     std::vector<DetectedStar> measured;
+    Extraction wholeFrame;
     bool byWindows = false;
 };
 } // namespace recognition

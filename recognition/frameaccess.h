@@ -28,6 +28,6 @@ struct Window {
     float brightest = 0.0f; ///< of any single channel
 };
 
-/// The pixels within `radius` of a place, cut off at the frame's edge; empty when it lies outside.
+/// The pixels within `radius` of a place, cut off at the frame's edge; empty if it is outside.
 Window readWindow(const cv::Mat &frame, double x, double y, int radius);
 } // namespace recognition

@@ -23,7 +23,7 @@ constexpr int plateauPixels = 5;       // an unsaturated top has four equal valu
 constexpr double plateauHeight = 20.0; // times the noise
 constexpr double brightPeak = 12.0;    // times the smoothed noise: has a width of its own
 constexpr double sureSnr = 10.0;       // shapes of fainter ones are too uncertain
-constexpr std::size_t sureStars = 5;   // that tell the frame's width
+constexpr std::size_t sureStars = 5;   // that give the frame's width
 constexpr double faintestSigma = 2.2;  // pixels of the searched picture, without that width
 
 // The brightest unsaturated stars; where there are hardly any, the faintest of all: the more a star
@@ -127,7 +127,7 @@ std::optional<MeasuredStar> FrameStars::measure(const Candidate &candidate, cons
     const double u = (candidate.x + 0.5) / bin - 0.5, v = (candidate.y + 0.5) / bin - 0.5;
     // A pixel's noise is `bin` times that of a binned one.
     const double noise = double(background.noiseAt(u, v)) * bin;
-    // Raw values of a flat top stay equal: the background is taken off as one level.
+    // Raw values of a flat top stay equal: one level is subtracted for the background.
     window.values -= background.levelAt(u, v);
     replaceHotPixels(window.values, float(noise));
     const std::optional<Moments> moments =

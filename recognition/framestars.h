@@ -38,7 +38,7 @@ public:
     /// Whether the width is that of bright stars, not of what the noise makes of faint ones.
     bool isWidthSure() const { return frameSigma > 0.0; }
     /// Leaves out what is too narrow, too wide or too long beside the frame's other stars and what
-    /// stands within another one; brightest first.
+    /// is within another one; brightest first.
     void sift();
 
 private:

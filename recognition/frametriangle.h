@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Which shape on the sky has a triangle of pixels, for a range of scales?
 //
-// A pinhole camera shows triangles off its centre drawn out, the more the wider its field. So the
+// A pinhole camera stretches triangles that are off its centre, more so in a wider field. So the
 // shape depends on the scale: the scales are cut into ranges within which it does not change much.
 #pragma once
 
@@ -25,7 +25,7 @@ struct ScaleRange {
 /// @param farthest of the triangle's corners from the frame's centre, pixels
 std::vector<ScaleRange> scaleRanges(double farthest, double leastScale, double greatestScale);
 
-/// A triangle of the frame, its stars in the order of the sides that they lie opposite to, longest
+/// A triangle of the frame, its stars in the order of the sides opposite them, longest
 /// first.
 struct FrameTriangle {
     std::array<std::size_t, 3> stars;

@@ -46,7 +46,7 @@ public:
     {
         Vector3 axis = apply(horizon, frame.mapping.skyOf(pixel));
         // What a pixel of the axis shows comes from below it: the light was lifted on its way.
-        // Recognised with an observer, the mapping has been told of that.
+        // With an observer the mapping includes that already.
         if (options.air && !frame.observed)
             axis = astrometry::refracted(axis, *options.air);
         const double up = dot(axis, pole.up);

@@ -37,7 +37,7 @@ struct MountError {
 
 /// @param frame one of those that gave the axis, or a later one of the same camera, with the
 /// mount's bolts as they are now; its `utcSeconds` and the observer it was recognised with count
-/// @param axis where the axis lies in the camera's picture
+/// @param axis the axis in the camera's picture
 /// @return nothing unless frame and axis were found and the site's latitude is on the frame's
 /// hemisphere, within 90 degrees
 std::optional<MountError> mountError(const Recognition &frame, const Axis &axis,

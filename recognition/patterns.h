@@ -14,8 +14,8 @@
 
 namespace recognition
 {
-/// Sides as chords of the unit sphere. The stars are in the order of the sides that they lie
-/// opposite to, longest first.
+/// Sides as chords of the unit sphere. The stars are in the order of the sides
+/// opposite them, longest first.
 struct Pattern {
     std::array<std::uint16_t, 3> stars; ///< of PoleStars
     bool positive;                      ///< the triple product of the three directions

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Which catalogue stars stand near a direction of one hemisphere?
+// Which catalogue stars are near a direction of one hemisphere?
 //
 // Directions are unit vectors of the ICRS, as from the solar system's barycentre: patterns are
 // compared here, where apparent places differ by a rotation and by less than 4 arcsec in 10
@@ -32,7 +32,7 @@ public:
     /// Places at a date by proper motion, in the order of brightness.
     std::vector<astrometry::Vector3> placesAt(double utcSeconds) const;
 
-    /// Calls visit(star) for all stars that may lie within `radius` (radians, up to 0.3) of a
+    /// Calls visit(star) for all stars that may be within `radius` (radians, up to 0.3) of a
     /// direction, and for some others nearby. Dates between 1900 and 2200.
     template <typename Visitor>
     void visitNear(const astrometry::Vector3 &direction, double radius, Visitor visit) const;

@@ -10,7 +10,7 @@
 
 namespace recognition
 {
-/// One star: where it was measured and where it stands.
+/// One star: its measured and its true place.
 struct FitPoint {
     std::complex<double> pixel; ///< in units of the mapping
     std::complex<double> plane; ///< radians

@@ -27,7 +27,7 @@ struct Pose {
     std::optional<CentredPixel> pixelOf(const astrometry::Vector3 &sky) const;
 };
 
-/// The pose from a triangle of pixels and the directions that they are taken for.
+/// The pose from a triangle of pixels and the directions that they are assumed to show.
 /// @param longest chord of the unit sphere between the stars 1 and 2, the triangle's longest side
 /// @param tolerance greatest relative difference between the triangles' sides
 /// @return nothing if the triangles differ by more, seen through any pinhole camera

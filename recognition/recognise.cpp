@@ -34,7 +34,7 @@ bool isFinite(const DetectedStar &star)
     return std::isfinite(star.x) && std::isfinite(star.y);
 }
 
-// The frame's own stars, and where each stood in the list that was given.
+// The frame's own stars, and the index of each in the given list.
 struct UsableStars {
     std::vector<DetectedStar> stars;
     std::vector<std::size_t> given;

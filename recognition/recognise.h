@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Which stars of the pole's sky are these, and where does the pole of date lie among them?
+// Which stars of the pole's sky are these, and where among them is the pole of date?
 //
 // Pixels: x right, y down, (0, 0) the centre of the top-left pixel. Sky directions are unit vectors
 // of the celestial intermediate frame of date (z the true pole of date, see astrometry/places.h).
@@ -53,7 +53,7 @@ struct MatchedStar {
     double residual;       ///< arcseconds between the detected star and that place
 };
 
-/// Everything behind `status` is set only where it is Recognised, but for `extracted`.
+/// Except for `extracted`, what follows `status` is set only if it is Recognised.
 struct Recognition {
     RecognitionStatus status = RecognitionStatus::NoMatch;
     std::size_t extracted = 0; ///< how many stars were given
@@ -63,7 +63,7 @@ struct Recognition {
     int width = 0;           ///< pixels of the frame
     int height = 0;
     SkyMapping mapping;
-    /// The true pole of date; it may lie outside the frame. Without an observer it is the point
+    /// The true pole of date; it may be outside the frame. Without an observer it is the point
     /// that the stars as they show turn about, which refraction lifts above the Earth's axis.
     PixelPlace pole = {0.0, 0.0};
     Covariance poleCovariance;        ///< pixels squared
@@ -76,7 +76,7 @@ struct Recognition {
     std::vector<MatchedStar> matched; ///< brightest first
 };
 
-/// Recognises the stars of one frame, blind or with what the options tell.
+/// Recognises the stars of one frame, blind or with what the options give.
 /// @param stars brightest first, as `extractStars` gives them; places that are not finite are
 /// ignored @param width, height pixels of the frame
 /// Thread-safe. The first call builds the index of a hemisphere (some ten milliseconds, once).

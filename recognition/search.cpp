@@ -7,6 +7,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <unordered_set>
 
 namespace recognition
 {
@@ -44,6 +46,7 @@ public:
     std::optional<SearchResult> found;
 
 private:
+    bool isNew(const std::array<std::size_t, 3> &stars);
     bool tryTriangle(const std::array<std::size_t, 3> &stars);
     bool tryPattern(const FrameTriangle &triangle, const Sky &sky, const Pattern &pattern,
                     double tolerance);
@@ -51,6 +54,7 @@ private:
     const FrameStars &frame;
     const RecognitionOptions &options;
     std::vector<Sky> skies;
+    std::unordered_set<std::uint64_t> tried; // parts of the frame share stars
     double tries = 0.0;
 };
 
@@ -135,12 +139,20 @@ bool Search::tryTriangle(const std::array<std::size_t, 3> &stars)
     return false;
 }
 
+bool Search::isNew(const std::array<std::size_t, 3> &stars)
+{
+    return tried
+        .insert((std::uint64_t{stars[0]} << 42) | (std::uint64_t{stars[1]} << 21) | stars[2])
+        .second;
+}
+
 bool Search::tryTriangles(const std::vector<std::size_t> &stars)
 {
     for (std::size_t c = 2; c < stars.size(); ++c)
         for (std::size_t b = 1; b < c; ++b)
             for (std::size_t a = 0; a < b; ++a) {
-                if (tryTriangle({stars[a], stars[b], stars[c]}))
+                const std::array<std::size_t, 3> triangle = {stars[a], stars[b], stars[c]};
+                if (isNew(triangle) && tryTriangle(triangle))
                     return true;
             }
     return false;

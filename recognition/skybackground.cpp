@@ -25,7 +25,7 @@ constexpr int leastTile = 16;    // pixels
 constexpr int filterTiles = 3;   // a median of 3 x 3 tiles against bright stars
 constexpr double filterLimit = 0.0;
 constexpr float clipSigmas = 2.5f;
-constexpr float cutOffDepth = 2.0f; // times the noise: among a thousand pixels one lies deeper
+constexpr float cutOffDepth = 2.0f; // times the noise: one pixel in a thousand is lower
 
 int tilesAlong(int pixels)
 {
@@ -343,7 +343,8 @@ void SkyBackground::normaliseRow(float *row, int y, int width) const
     };
     int x = 0;
     for (int i = 0; i + 1 < level.cols && x < width; ++i) {
-        // Node i lies half a tile before tile i begins, the ring's first one half a tile outside.
+        // Node i is half a tile before the start of tile i, the ring's first one half a tile
+        // outside.
         const double place = (i - 0.5) * tileWidth - 0.5;
         const int end = i + 2 == level.cols
                             ? width

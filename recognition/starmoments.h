@@ -11,7 +11,7 @@ namespace recognition
 struct Moments {
     double x, y;
     double flux;        ///< as of a Gaussian star of this width
-    double weightSigma; ///< of the weight that they were taken with
+    double weightSigma; ///< of the weight that was used
     double variance;    ///< mean of the two axes, with the pixel's own 1/12; may be below 0
     double elongation;  ///< length over width, 1 to 10
 };

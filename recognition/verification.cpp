@@ -13,9 +13,10 @@ namespace
 using astrometry::Vector3;
 using Complex = std::complex<double>;
 
-constexpr std::size_t mostStars = 80;     // of the frame, that odds are computed from
-constexpr double distractors = 0.55;      // part of the frame's stars that need be in no catalogue
-constexpr double lensDistortion = 0.0015; // pixels a pixel of distance from the known stars
+constexpr std::size_t mostStars = 80; // of the frame, that odds are computed from
+constexpr double distractors = 0.55;  // part of the frame's stars that need be in no catalogue
+const double logOfStray = std::log(distractors); // odds of a star that is in no catalogue
+constexpr double lensDistortion = 0.0015;        // pixels a pixel of distance from the known stars
 constexpr double searchSigmas = 3.5;
 constexpr double hopeless = -7.0;      // of the logarithm of the odds: given up
 constexpr std::size_t trialStars = 18; // by which the odds must have risen
@@ -53,23 +54,29 @@ public:
         bw += weight * std::conj(w) * residual;
         b += weight * residual;
     }
+    /// After two stars or more, and again after each one.
+    void solve()
+    {
+        inverse = 1.0 / (nww * n - std::norm(nw));
+        alpha = (n * bw - std::conj(nw) * b) * inverse;
+        beta = (nww * b - nw * bw) * inverse;
+    }
     Complex predicted(Complex w) const
     {
-        const double d = determinant();
-        const Complex alpha = (n * bw - std::conj(nw) * b) / d;
-        const Complex beta = (nww * b - nw * bw) / d;
-        return alpha * w + beta;
+        return {alpha.real() * w.real() - alpha.imag() * w.imag() + beta.real(),
+                alpha.real() * w.imag() + alpha.imag() * w.real() + beta.imag()};
     }
     double variance(Complex w) const
     {
-        return (n * std::norm(w) + nww - 2.0 * std::real(nw * std::conj(w))) / determinant();
+        const double across = nw.real() * w.real() + nw.imag() * w.imag();
+        return (n * std::norm(w) + nww - 2.0 * across) * inverse;
     }
 
 private:
-    double determinant() const { return nww * n - std::norm(nw); }
-
     double nww = 0.0, n = 0.0;
     Complex nw = 0.0, bw = 0.0, b = 0.0;
+    Complex alpha = 0.0, beta = 0.0;
+    double inverse = 0.0; // of the determinant
 };
 
 Complex toComplex(CentredPixel p)
@@ -133,6 +140,7 @@ Verifier::Verifier(const Hypothesis &hypothesis, const FrameStars &frameStars,
         const Complex residual = where ? pixel - toComplex(*where) : Complex(0.0);
         correction.add(pixel / frame.radius(), residual, ownVariance(pixel));
     }
+    correction.solve();
 }
 
 bool Verifier::ofTriangle(std::size_t star) const
@@ -160,8 +168,10 @@ Verifier::Nearest Verifier::nearest(const Prediction &prediction) const
     const double sigma = std::sqrt(prediction.variance);
     const Vector3 direction = given.pose.skyOf({prediction.pixel.real(), prediction.pixel.imag()});
     const double reach = searchSigmas * sigma;
-    stars.visitNear(direction, reach / given.pose.focalLength, [&](std::size_t i) {
-        if (i >= brightest)
+    const double angle = reach / given.pose.focalLength;
+    stars.visitNear(direction, angle, [&](std::size_t i) {
+        if (i >= brightest || std::abs(places[i].x - direction.x) > angle ||
+            std::abs(places[i].y - direction.y) > angle)
             return;
         const auto where = given.pose.pixelOf(places[i]);
         if (!where)
@@ -183,7 +193,7 @@ Verifier::Nearest Verifier::nearest(const Prediction &prediction) const
     return best;
 }
 
-// How many catalogue stars can lie in the frame: at least as many as do, for the density's sake.
+// How many catalogue stars can be in the frame: for the density, at least as many as there are.
 std::size_t Verifier::expectedStars() const
 {
     const Vector3 &forward = given.pose.cameraFromSky.rows[2];
@@ -194,11 +204,13 @@ std::size_t Verifier::expectedStars() const
     return static_cast<std::size_t>(n);
 }
 
-// The odds of one more star; where it is likelier a catalogue star than not, it is taken for it.
+// The odds of one more star; if it is more likely a catalogue star than not, it counts as that one.
 double Verifier::addStar(std::size_t i, double expected, std::vector<Pair> &pairs)
 {
     const Prediction prediction = predict(i);
     const Nearest found = nearest(prediction);
+    if (found.sum == 0.0)
+        return logOfStray;
     const double atRandom = frame.randomDensity(i);
     const double stray = distractors * atRandom;
     if ((1.0 - distractors) * found.density / expected > stray) {
@@ -208,6 +220,7 @@ double Verifier::addStar(std::size_t i, double expected, std::vector<Pair> &pair
         const Complex pixel = toComplex(frame.at(i, given.mirrored));
         correction.add(pixel / frame.radius(), found.residual + (pixel - prediction.pixel),
                        ownVariance(pixel));
+        correction.solve();
     }
     return std::log((stray + (1.0 - distractors) * found.sum / expected) / atRandom);
 }

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // How much likelier are a frame's stars under a pose than by chance?
 //
-// The stars are taken one after the other, brightest first. Each one's place is predicted by the
+// The stars are added one after the other, brightest first. Each one's place is predicted by the
 // pose and by those before it; the odds are the product of the predicted densities over the density
-// of stars that lie at random. By chance their expectation is 1, so odds of K or more come up with
+// of stars at random places. By chance their expectation is 1, so odds of K or more occur with
 // a probability of 1 / K at most (Markov's inequality), whatever the frame.
 #pragma once
 
@@ -25,12 +25,12 @@ public:
     FrameStars(std::vector<CentredPixel> stars, int width, int height, double centroidError);
 
     std::size_t size() const { return stars.size(); }
-    /// @param mirrored gives the place in a frame that is taken for mirrored
+    /// @param mirrored gives the place in a frame that is assumed to be mirrored
     CentredPixel at(std::size_t i, bool mirrored) const
     {
         return {mirrored ? -stars[i].x : stars[i].x, stars[i].y};
     }
-    /// Stars a pixel of area where star i lies: half spread evenly, half as they were found, so
+    /// Stars a pixel of area around star i: half spread evenly, half as they were found, so
     /// that crowds make no odds.
     double randomDensity(std::size_t i) const { return densities[i]; }
 
@@ -61,7 +61,7 @@ struct Hypothesis {
     std::array<Pair, 3> triangle;
 };
 
-/// Poses that the first stars speak against are given up early, with low odds.
+/// A pose that the first stars contradict is given up early, with low odds.
 /// @param places of all stars, in the order of PoleStars
 Verification verify(const Hypothesis &hypothesis, const FrameStars &frame, const PoleStars &stars,
                     const std::vector<astrometry::Vector3> &places);

@@ -8,7 +8,8 @@ cd "$(dirname "$0")/.." || exit 1
 
 build=${1:-build/release}
 if [ $# -eq 0 ]; then configured release || exit 1; fi
-stage "Building the tour" cmake --build "$build" --target quorvandel-tour veldix || exit 1
+stage "Building the tour" cmake --build "$build" --target quorvandel-tour quorvandel-assistant-tour \
+  veldix || exit 1
 
 images=docs/images
 scratch=$(mktemp -d)
@@ -69,10 +70,25 @@ make_recognised() {
     optipng -quiet -o2 "$images/recognised.png"
 }
 
+# The assistant's tour. Its sky is that of tonight, so its pictures differ from run to run.
+make_assistant() { # make_assistant FOLDER OPTION...
+  local folder=$1
+  shift
+  rm -rf "${images:?}/$folder"
+  QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 HOME="$scratch" XDG_RUNTIME_DIR="$scratch" \
+    XDG_CONFIG_HOME="$scratch" \
+    LD_LIBRARY_PATH="$PWD/$build/lib/quorvandel${LD_LIBRARY_PATH:+:$LD_LIBRARY_PATH}" \
+    "$build/tour/quorvandel-assistant-tour" --fast --pictures "$images/$folder" "$@" &&
+    rm -f "$images/$folder"/{connect,sky,near,aligned,night,pole}.png &&
+    shrink "$images/$folder"/*.png
+}
+
 mkdir -p "$images"
 stage "Pictures of the north" make_set north || exit 1
 stage "Pictures of the south" make_set south --south || exit 1
 stage "Pictures in Chinese" make_set zh --language ZH || exit 1
+stage "Pictures of the assistant" make_assistant assistant || exit 1
+stage "Pictures of the assistant in Chinese" make_assistant assistant-zh --language ZH || exit 1
 stage "Animated picture" make_animation || exit 1
 stage "Recognised picture" make_recognised || exit 1
 echo "$images holds $(du -sk "$images" | cut -f1) KB."

@@ -5,11 +5,12 @@
 # The minimum sets: to build, to run, to run without a screen, for the tests, for the lints, for
 # the Debian package.
 packages_build="cmake ninja-build g++ qtbase5-dev qttools5-dev qttools5-dev-tools qtmultimedia5-dev
-  libopencv-core-dev libopencv-imgproc-dev libopencv-imgcodecs-dev liberfa-dev libsep-dev"
+  libopencv-core-dev libopencv-imgproc-dev libopencv-imgcodecs-dev liberfa-dev libsep-dev
+  libcfitsio-dev libindi-dev"
 packages_run="libqt5multimedia5-plugins gstreamer1.0-plugins-good fonts-dejavu-core fonts-liberation
   fonts-noto-cjk xdg-utils"
 packages_unseen="xvfb"
-packages_test="desktop-file-utils appstream mandoc libbenchmark-dev"
+packages_test="desktop-file-utils appstream mandoc libbenchmark-dev indi-bin"
 packages_lint="clang-format clang-tidy python3"
 packages_package="debhelper dpkg-dev file xz-utils"
 

@@ -57,6 +57,15 @@ failures_in() {
     left > 0 { print; left-- }'
 }
 
+# core_dumps FOLDER: a line for each core dump below the folder, with the program that left it.
+core_dumps() {
+  find "$1" -type f \( -name core -o -name 'core.[0-9]*' \) -size +0 -printf '%p\n' 2>/dev/null | sort |
+    while read -r dump; do
+      printf 'core dump: %s%s\n' "$dump" \
+        "$(file -b "$dump" 2>/dev/null | sed -nE "s/.*, from '([^']*)'.*/ of \1/p")"
+    done
+}
+
 # explain_failures REPORT DETAILS: the name of each failed test and the reasons, at most 40 lines;
 # the end of its output if there are no reasons or the test did not finish.
 explain_failures() {

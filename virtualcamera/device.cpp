@@ -126,6 +126,7 @@ bool Device::stopLive()
 {
     const std::lock_guard<std::mutex> lock(mutex);
     live = false;
+    source.pause();
     return true;
 }
 
@@ -138,9 +139,11 @@ bool Device::takeFrame(FrameShape &shape, std::uint8_t *buffer)
     clock.setPeriod(period(behaviour.slowSeconds));
     if (!clock.take(steadySeconds()) && !behaviour.unthrottled)
         return false;
-    ++frameNumber;
     const unsigned channels =
-        source.frame({area, {exposureSeconds(), values[Gain], frameNumber}}, buffer);
+        source.frame({area, {exposureSeconds(), values[Gain], frameNumber + 1}}, buffer);
+    if (channels == 0)
+        return false;
+    ++frameNumber;
     shape = {static_cast<std::uint32_t>(area.width), static_cast<std::uint32_t>(area.height), 8,
              channels};
     return true;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include "virtualcamera/frame.h"
 #include "virtualcamera/operationnames.h"
@@ -15,7 +16,7 @@ struct Behaviour {
     unsigned cameras = 1;     ///< 0 to 2
     bool unplugged = false;   ///< no frames, and no camera is found
     double slowSeconds = 0.0; ///< added to the time of every frame
-    bool unthrottled = false; ///< a frame on every call
+    bool unthrottled = false; ///< the source alone decides when a frame is there
 };
 
 struct FrameRequest {
@@ -32,9 +33,18 @@ public:
 
     virtual Behaviour behaviour() = 0;
 
+    /// What follows "QUORVANDEL-" in a camera's ID: letters, digits and underscores, at most 26.
+    virtual std::string serialNumber(unsigned camera)
+    {
+        return "V000" + std::to_string(camera + 1);
+    }
+
+    /// No more frames are fetched for now.
+    virtual void pause() {}
+
     /// Fills `out` with 8-bit samples, rows without padding.
     /// @param out at least area.width * area.height * 3 bytes
-    /// @return channels of the frame, 1 or 3
+    /// @return channels of the frame, 1 or 3; 0 = there is no new frame yet
     virtual unsigned frame(const FrameRequest &request, std::uint8_t *out) = 0;
 };
 } // namespace virtualsky

@@ -4,13 +4,10 @@
 
 namespace virtualsky
 {
-namespace
+std::string Library::idOf(unsigned index)
 {
-std::string idOf(unsigned index)
-{
-    return "QUORVANDEL-V000" + std::to_string(index + 1);
+    return "QUORVANDEL-" + source.serialNumber(index);
 }
-} // namespace
 
 bool Library::fails(Operation operation)
 {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The camera library as a whole: which cameras exist, and which are open?
+// The complete camera library: which cameras exist, and which are open?
 #pragma once
 
 #include <cstdint>
@@ -24,7 +24,7 @@ public:
     bool initResource();
     /// 0 before `initResource` and while the camera is unplugged.
     unsigned cameraCount();
-    /// "QUORVANDEL-V0001" and so on; empty for an index without a camera.
+    /// "QUORVANDEL-V0001" and so on, by the source; empty for an index without a camera.
     std::string cameraId(std::int32_t index);
 
     /// Returns a handle that was never used before, or 0 if there is no such camera. A camera may
@@ -35,6 +35,7 @@ public:
     bool close(std::uintptr_t handle);
 
 private:
+    std::string idOf(unsigned index);
     std::uintptr_t add();
 
     FrameSource &source;

@@ -30,7 +30,7 @@ public:
     PlaceInPicture(const SkyState &state, double utcSeconds);
     /// @param cirs unit vector in the celestial intermediate frame of date
     std::optional<Point> ofCirs(const Vector3 &cirs) const;
-    /// @param horizon (east, north, up), taken as it is, without refraction
+    /// @param horizon (east, north, up), used as given, without refraction
     std::optional<Point> ofHorizon(const Vector3 &horizon) const;
 
 private:

@@ -47,6 +47,8 @@ std::string readText(const std::string &path);
 /// is missing. False = failed, see errno.
 bool writeAtomically(const std::string &name, std::string_view text);
 
-/// $QUORVANDEL_SKY, or quorvandel/sky.ini in $XDG_RUNTIME_DIR or in /tmp/quorvandel-UID.
+/// $QUORVANDEL_SKY, or quorvandel/sky.ini in $XDG_RUNTIME_DIR, or sky.ini in /tmp/quorvandel-UID,
+/// which is made. If that is not this user's alone, another one is used (see privatefolder.h), and
+/// a line on standard error says so.
 std::string skyFilePath();
 } // namespace virtualsky

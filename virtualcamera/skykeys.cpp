@@ -14,7 +14,28 @@ namespace virtualsky
 {
 namespace
 {
-constexpr std::array<std::string_view, 3> pictureNames = {"sky", "black", "saturated"};
+// The words of a key, in the order of the enumeration that they stand for.
+struct Words {
+    std::array<std::string_view, 3> names; // the last one may be empty: no such word
+};
+constexpr Words wordsOf(Picture)
+{
+    return {{"sky", "black", "saturated"}};
+}
+constexpr Words wordsOf(Source)
+{
+    return {{"sky", "indi", "files"}};
+}
+constexpr Words wordsOf(Pace)
+{
+    return {{"exposure", "own", ""}};
+}
+constexpr Words wordsOf(Mirrored)
+{
+    return {{"false", "true", "auto"}};
+}
+
+constexpr double finestScale = 0.1, coarsestScale = 1000.0; // arcseconds a pixel
 
 using Code = SkyFaultCode;
 using Fault = std::optional<SkyFault>;
@@ -48,15 +69,45 @@ struct Reader {
         return {};
     }
 
-    Fault operator()(Picture SkyState::*member) const
+    template <typename Word> Fault operator()(Word SkyState::*member) const
     {
-        for (std::size_t i = 0; i < pictureNames.size(); ++i) {
-            if (text != pictureNames[i])
+        constexpr Words words = wordsOf(Word());
+        for (std::size_t i = 0; i < words.names.size(); ++i) {
+            if (text.empty() || text != words.names[i])
                 continue;
-            state.*member = static_cast<Picture>(i);
+            state.*member = static_cast<Word>(i);
             return {};
         }
-        return SkyFault(Code::NoneOfThree, {pictureNames[0], pictureNames[1], pictureNames[2]});
+        if (words.names[2].empty())
+            return SkyFault(Code::NeitherOfTwo, {words.names[0], words.names[1]});
+        return SkyFault(Code::NoneOfThree, {words.names[0], words.names[1], words.names[2]});
+    }
+
+    Fault operator()(LensScale SkyState::*member) const
+    {
+        LensScale scale;
+        if (text == "auto") {
+            scale.kind = LensScale::Kind::Auto;
+        } else if (text != "native") {
+            scale.kind = LensScale::Kind::Given;
+            const char *const end = text.data() + text.size();
+            const auto result = std::from_chars(text.data(), end, scale.arcseconds);
+            if (result.ec != std::errc() || result.ptr != end ||
+                !(scale.arcseconds >= finestScale && scale.arcseconds <= coarsestScale))
+                return SkyFault(Code::NoneOfThree,
+                                {"native", "auto",
+                                 numberText(finestScale) + "..." + numberText(coarsestScale)});
+        }
+        state.*member = scale;
+        return {};
+    }
+
+    Fault operator()(const TextMember &entry) const
+    {
+        if (Fault fault = entry.fault(text))
+            return fault;
+        state.*entry.member = text;
+        return {};
     }
 
     Fault operator()(OperationSet SkyState::*member) const
@@ -121,10 +172,18 @@ struct Writer {
     {
         return state.*member ? "true" : "false";
     }
-    std::string operator()(Picture SkyState::*member) const
+    template <typename Word> std::string operator()(Word SkyState::*member) const
     {
-        return std::string(pictureNames[static_cast<std::size_t>(state.*member)]);
+        return std::string(wordsOf(Word()).names[static_cast<std::size_t>(state.*member)]);
     }
+    std::string operator()(LensScale SkyState::*member) const
+    {
+        const LensScale &scale = state.*member;
+        if (scale.kind == LensScale::Kind::Given)
+            return numberText(scale.arcseconds);
+        return scale.kind == LensScale::Kind::Auto ? "auto" : "native";
+    }
+    std::string operator()(const TextMember &entry) const { return state.*entry.member; }
     std::string operator()(OperationSet SkyState::*member) const
     {
         std::string text;
@@ -139,6 +198,18 @@ struct Writer {
         return value ? formatDate(*value) : std::string(date.none);
     }
 };
+
+Fault addressFault(std::string_view text)
+{
+    if (text.empty() || parseIndiAddress(text))
+        return {};
+    return SkyFault(Code::NeitherOfTwo, {"HOST/DEVICE", "HOST:PORT/DEVICE"});
+}
+
+Fault noFault(std::string_view)
+{
+    return {};
+}
 } // namespace
 
 const std::vector<SkyKey> &skyKeys()
@@ -160,6 +231,14 @@ const std::vector<SkyKey> &skyKeys()
         {"camera", "channels", &S::channels, 1.0, 3.0},
         {"camera", "unthrottled", &S::unthrottled},
         {"camera", "label", &S::label},
+        {"camera", "source", &S::source},
+        {"camera", "indi", TextMember{&S::indi, addressFault}},
+        {"camera", "files", TextMember{&S::files, noFault}},
+        {"camera", "pace", &S::pace},
+        {"camera", "stream", &S::stream},
+        {"camera", "soften", &S::soften},
+        {"camera", "scale", &S::scale},
+        {"camera", "mirrored", &S::mirrored},
         {"sensor", "seed", &S::seed, 0.0, 4294967295.0},
         {"sensor", "noise", &S::noise},
         {"sensor", "hot_pixels", &S::hotPixels, 0.0, 1000.0},

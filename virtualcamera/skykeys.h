@@ -24,11 +24,19 @@ struct DateMember {
     std::string_view none;
 };
 
+/// A text, and what may be wrong with it.
+struct TextMember {
+    std::string SkyState::*member;
+    std::optional<SkyFault> (*fault)(std::string_view text);
+};
+
 struct SkyKey {
     std::string_view section;
     std::string_view name;
     std::variant<double SkyState::*, unsigned SkyState::*, bool SkyState::*,
-                 OperationSet SkyState::*, Picture SkyState::*, DateMember>
+                 OperationSet SkyState::*, Picture SkyState::*, Source SkyState::*,
+                 Pace SkyState::*, Mirrored SkyState::*, LensScale SkyState::*, TextMember,
+                 DateMember>
         member;
     double least = 0.0; ///< of numbers, included
     double most = 0.0;  ///< of numbers, included

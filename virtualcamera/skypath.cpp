@@ -7,7 +7,9 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <mutex>
 
+#include "virtualcamera/privatefolder.h"
 #include "virtualcamera/skyfile.h"
 
 namespace virtualsky
@@ -67,6 +69,23 @@ bool writeAll(int file, std::string_view text)
     }
     return true;
 }
+// The folder in /tmp, where anybody may have put one. What is said is said once in a process.
+std::string sharedPlace()
+{
+    const std::string name = "quorvandel-" + std::to_string(::geteuid());
+    const std::string folder = privateFolder("/tmp", name);
+    if (folder == "/tmp/" + name)
+        return folder;
+    static std::once_flag once;
+    std::call_once(once, [&] {
+        std::fprintf(
+            stderr,
+            "virtual sky: /tmp/%s is not a folder of this user alone (mode 0700, no link): "
+            "%s is used\n",
+            name.c_str(), folder.empty() ? "no sky file" : folder.c_str());
+    });
+    return folder.empty() ? "/dev/null" : folder; // nothing can be below it
+}
 } // namespace
 
 std::string readText(const std::string &path)
@@ -125,6 +144,6 @@ std::string skyFilePath()
     // Relative paths in the variable must be ignored (XDG base directories).
     if (const std::string folder = variable("XDG_RUNTIME_DIR"); !folder.empty() && folder[0] == '/')
         return folder + "/quorvandel/sky.ini";
-    return "/tmp/quorvandel-" + std::to_string(::getuid()) + "/sky.ini";
+    return sharedPlace() + "/sky.ini";
 }
 } // namespace virtualsky

@@ -20,6 +20,12 @@ Behaviour SkySource::behaviour()
     return {state.fail, state.cameras, state.unplugged, state.slow, state.unthrottled};
 }
 
+SkyState SkySource::settings()
+{
+    const std::lock_guard<std::mutex> lock(mutex);
+    return watch.current();
+}
+
 unsigned SkySource::frame(const FrameRequest &request, std::uint8_t *out)
 {
     const std::lock_guard<std::mutex> lock(mutex);

@@ -20,6 +20,8 @@ public:
     SkySource(const std::string &path, SkyWatch::Report report);
 
     Behaviour behaviour() override;
+    /// The sky file's latest valid settings.
+    SkyState settings();
     unsigned frame(const FrameRequest &request, std::uint8_t *out) override;
 
 private:

@@ -4,12 +4,23 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 
+#include "virtualcamera/cameraaddress.h"
 #include "virtualcamera/operationnames.h"
 
 namespace virtualsky
 {
 enum class Picture { Sky, Black, Saturated };
+enum class Pace { Exposure, Own };         ///< of files: the exposure's, or that of their own dates
+enum class Mirrored { False, True, Auto }; ///< of a lens: whether the picture is
+
+/// The scale of a lens that shows another one than the program's 30.45 arcseconds a pixel.
+struct LensScale {
+    enum class Kind { Native, Auto, Given };
+    Kind kind = Kind::Native;  ///< Native: frames are not resampled, only binned
+    double arcseconds = 30.45; ///< a pixel of the sensor, if Given
+};
 
 /// Dates are seconds since 1970-01-01T00:00:00 UTC, without leap seconds.
 /// The file's keys, ranges and meanings are in docs/virtual-camera.md.
@@ -32,6 +43,15 @@ struct SkyState {
     unsigned channels = 1;
     bool unthrottled = false; ///< a new frame on every call
     bool label = true;        ///< draws "virtual sky" into every picture
+
+    Source source = Source::Sky;
+    std::string indi;  ///< HOST[:PORT]/DEVICE
+    std::string files; ///< a file, a folder or a pattern
+    Pace pace = Pace::Exposure;
+    bool stream = true;  ///< INDI: the device's video, where it has one
+    bool soften = false; ///< spreads stars that are a single pixel
+    LensScale scale;     ///< of other sources than the sky
+    Mirrored mirrored = Mirrored::False;
 
     std::uint32_t seed = 1;
     bool noise = true;

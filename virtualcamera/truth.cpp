@@ -18,7 +18,7 @@ std::optional<Point> starPlace(const PlaceInPicture &where, const SkyState &stat
     return where.ofCirs(apparentPlaces(&star, &star + 1, siteOf(state), utcSeconds).front());
 }
 
-// The axis' displacement on the sky, split along the pole's vertical and across it, with the whole
+// The axis' displacement on the sky, split along the pole's vertical and across it, with the total
 // angle kept: at one degree this differs from either plain difference by less than an arcsecond.
 void measureErrors(const SkyState &state, Truth &result)
 {

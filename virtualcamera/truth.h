@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Where do the axis, the pole and the template stars really lie in the picture?
+// Where in the picture are the axis, the pole and the template stars really?
 #pragma once
 
 #include <optional>
@@ -10,7 +10,7 @@
 namespace virtualsky
 {
 /// Pixels: integer coordinates are pixel centres, x right, y down, of the full sensor. A place is
-/// absent when it lies 80 degrees or more from the picture's centre. Errors in arcseconds.
+/// absent if it is 80 degrees or more from the picture's centre. Errors in arcseconds.
 struct Truth {
     std::optional<Point> axis; ///< the RA axis; never refracted
     /// The true pole of date as geometry has it: what the axis has to meet. Not refracted.

@@ -44,7 +44,7 @@ void reportAxes(int count)
         std::vector<double> errors;
         int lost = 0, inside = 0;
         for (int i = 0; i < count; ++i) {
-            const RandomSky sky = plainSky(std::uint64_t(200000 + i), south, 2026);
+            const RandomSky sky = plainSky(std::uint64_t(200000) + std::uint64_t(i), south, 2026);
             const recognition::Axis axis = recognition::axisOfTurns(framesOf(sky, painter));
             if (axis.status != recognition::AxisStatus::Found) {
                 ++lost;

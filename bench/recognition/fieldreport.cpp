@@ -42,7 +42,7 @@ public:
     }
     double normal() { return std::normal_distribution<double>()(random); }
 
-    // A camera that looks within `farthestCentre` of either pole, turned anyhow.
+    // A camera that looks within `farthestCentre` of either pole, with any roll.
     Camera camera(double scaleArcseconds)
     {
         const double sign = between(0.0, 1.0) < 0.5 ? -1.0 : 1.0;

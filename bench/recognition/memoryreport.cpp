@@ -3,6 +3,7 @@
 #include "bench/recognition/randomsky.h"
 #include "bench/recognition/reports.h"
 #include "recognition/extraction.h"
+#include "recognition/follower.h"
 #include "recognition/recognise.h"
 
 #include <cstdio>
@@ -36,27 +37,32 @@ void resetPeak()
 }
 } // namespace
 
-void reportMemory(int count)
+void reportMemory(int count, bool following)
 {
-    constexpr int differentFrames = 16;
+    // A follower meets a frame again, so that it follows; the others are searched blind.
+    const int differentFrames = following ? 1 : 16;
     SkyPainter painter;
     std::vector<cv::Mat> frames;
     std::vector<RandomSky> skies;
     for (int i = 0; i < differentFrames; ++i) {
-        skies.push_back(plainSky(std::uint64_t(400000 + i), i % 2 == 1, 2026));
+        skies.push_back(plainSky(std::uint64_t(400000) + std::uint64_t(i), i % 2 == 1, 2026));
         frames.push_back(painter.frameOf(skies.back()));
     }
     malloc_trim(0);
     const double before = statusMegabytes("VmRSS");
     resetPeak();
     double early = 0.0;
+    recognition::Follower follower({});
     for (int i = 0; i < count; ++i) {
         const std::size_t which = std::size_t(i % differentFrames);
         recognition::RecognitionOptions options;
         options.utcSeconds = *skies[which].state.date;
         const cv::Mat &frame = frames[which];
-        recognition::recognise(recognition::extractStars(frame).stars, frame.cols, frame.rows,
-                               options);
+        if (following)
+            follower.follow(frame, options.utcSeconds + 0.5 * i);
+        else
+            recognition::recognise(recognition::extractStars(frame).stars, frame.cols, frame.rows,
+                                   options);
         if (i == std::min(count - 1, 4 * differentFrames))
             early = statusMegabytes("VmRSS");
     }

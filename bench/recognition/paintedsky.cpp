@@ -38,7 +38,7 @@ View viewOf(const PaintedSky &picture)
     const auto mix = [](const Vector3 &a, double p, const Vector3 &b, double q) {
         return Vector3{a.x * p + b.x * q, a.y * p + b.y * q, a.z * p + b.z * q};
     };
-    // Seen from inside the sphere east lies left of north.
+    // Seen from inside the sphere, east is left of north.
     const double mirror = picture.mirrored ? 1.0 : -1.0;
     return {mix(east, mirror * std::cos(turn), north, mirror * std::sin(turn)),
             mix(east, std::sin(turn), north, -std::cos(turn)), forward,

@@ -14,10 +14,10 @@ struct PaintedSky {
     double roll = 0.0;      ///< degrees
     bool mirrored = false;
     double fwhm = 2.5;      ///< pixels
-    double faintest = 11.0; ///< magnitude that stands out of the noise by 5 sigma
+    double faintest = 11.0; ///< magnitude that is 5 sigma above the noise
     unsigned seed = 1;
 };
 
 /// 8 bit, one channel: background 20, noise 3, gnomonic projection.
-/// @param pole where the true pole lies, pixels, if not null
+/// @param pole the true pole, pixels, if not null
 cv::Mat paintSky(const PaintedSky &sky, cv::Point2d *pole = nullptr);

@@ -22,7 +22,7 @@ PoleErrors polesOf(bool south, int year, int count)
     PoleErrors out;
     SkyPainter painter;
     for (int i = 0; i < count; ++i) {
-        const RandomSky sky = plainSky(std::uint64_t(100000 + i), south, year);
+        const RandomSky sky = plainSky(std::uint64_t(100000) + std::uint64_t(i), south, year);
         const cv::Mat frame = painter.frameOf(sky);
         recognition::RecognitionOptions options;
         options.utcSeconds = *sky.state.date;

@@ -31,7 +31,7 @@ double startOfYear(int year)
     return double(QDateTime(QDate(year, 1, 1), QTime(0, 0), Qt::UTC).toSecsSinceEpoch());
 }
 
-/// Site, mount and camera's place: what has nothing to do with light.
+/// Site, mount and camera's place: everything except light.
 virtualsky::SkyState mountAtRandom(Draw &draw, bool south, double date)
 {
     virtualsky::SkyState state;
@@ -42,7 +42,7 @@ virtualsky::SkyState mountAtRandom(Draw &draw, bool south, double date)
     const double bolt = 4.0 * std::sqrt(draw.between(0.0, 1.0)), way = draw.between(0.0, 2.0 * pi);
     state.boltAltitude = bolt * std::cos(way);
     state.boltAzimuth =
-        bolt * std::sin(way) / std::cos(state.latitude * pi / 180.0); // about the vertical
+        bolt * std::sin(way) / std::cos(state.latitude * pi / 180.0); // at the horizon
     const double off = 4.0 * 3600.0 / virtualsky::pixelScale * std::sqrt(draw.between(0.0, 1.0));
     const double where = draw.between(0.0, 2.0 * pi);
     state.axisX = off * std::cos(where);
@@ -54,12 +54,12 @@ virtualsky::SkyState mountAtRandom(Draw &draw, bool south, double date)
 }
 
 struct Light {
-    double noise;    ///< one sigma of a pixel of the channels' mean, values
-    double values;   ///< of the channels' mean an electron
+    double noise;    ///< sigma of one pixel of the mean of the channels, values
+    double values;   ///< of the mean of the channels, per electron
     double headroom; ///< values from the sky to full scale
 };
 
-/// Of a star's flux, what is left below full scale.
+/// The part of a star's flux that is below full scale.
 double unclipped(double flux, double sigma, double headroom)
 {
     const double area = 2.0 * pi * sigma * sigma, peak = flux / area;

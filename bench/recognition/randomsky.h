@@ -11,7 +11,7 @@
 #include "virtualcamera/truth.h"
 
 struct RandomSky {
-    virtualsky::SkyState state; ///< its date is set and stands still
+    virtualsky::SkyState state; ///< its date is set and fixed
     double seconds = 0.5;
     double gain = 50.0;
     std::uint64_t number = 1; ///< draws the frame's noise
@@ -39,8 +39,8 @@ private:
 
 virtualsky::Truth truthOf(const RandomSky &sky);
 
-/// How many catalogue stars stand out of the frame by more than so many sigma: of the best
-/// weighting, with the noise of sensor, sky and star. From the catalogue and the sky's own numbers,
-/// not from any frame. What lies above full scale does not count. Two stars within a star's width
-/// count as one.
+/// How many catalogue stars in the frame are more than so many sigma above the noise, with
+/// the best weighting and the noise of sensor, sky and star. From the catalogue and the sky's own
+/// numbers, not from any frame. Flux above full scale does not count. Two stars within a star's
+/// width count as one.
 int starsAbove(const RandomSky &sky, double sigmas);

@@ -13,6 +13,8 @@ int main(int argc, char *argv[])
     const int first = argc > 3 ? std::atoi(argv[3]) : 0;
     if (what == "skies")
         reportSkies(first, count > 0 ? count : 2000);
+    else if (what == "sparse")
+        reportSparseSkies(first, count > 0 ? count : 100);
     else if (what == "poles")
         reportPoles(count > 0 ? count : 400);
     else if (what == "axes")
@@ -24,14 +26,16 @@ int main(int argc, char *argv[])
     else if (what == "speed")
         reportSpeeds(count > 0 ? count : 100);
     else if (what == "memory")
-        reportMemory(count > 0 ? count : 100000);
+        reportMemory(count > 0 ? count : 100000, false);
+    else if (what == "following")
+        reportMemory(count > 0 ? count : 100000, true);
     else if (what == "frames" && argc > 3)
         return writeFrames(argv[3], count > 0 ? count : 10) ? 0 : 1;
     else {
-        std::fprintf(
-            stderr,
-            "usage: recognitionreport skies|poles|axes|fields|false|speed|memory [COUNT [FIRST]]\n"
-            "       recognitionreport frames COUNT FOLDER\n");
+        std::fprintf(stderr,
+                     "usage: recognitionreport skies|sparse|poles|axes|fields|false|speed|memory|"
+                     "following [COUNT [FIRST]]\n"
+                     "       recognitionreport frames COUNT FOLDER\n");
         return 2;
     }
     return 0;

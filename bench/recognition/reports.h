@@ -4,6 +4,8 @@
 
 /// One CSV line for each of `count` skies from number `first`: the sky and what was found.
 void reportSkies(int first, int count);
+/// The same for `count` of those skies that show 12 to 19 stars above 5 sigma.
+void reportSparseSkies(int first, int count);
 /// The pole's error and the claimed ellipse, `count` skies for each pole and year.
 void reportPoles(int count);
 /// The axis from three frames 30 degrees apart, `count` nights for each pole.
@@ -14,8 +16,8 @@ void reportFields(int count);
 int reportFalseFrames(int first, int count);
 /// Medians of the thread's own time over `count` frames.
 void reportSpeeds(int count);
-/// Memory before, during and after `count` frames.
-void reportMemory(int count);
+/// Memory before, during and after `count` frames, each searched blind or followed.
+void reportMemory(int count, bool following);
 /// Writes `count` frames of one date as PNG files into a folder, with their truth as truth.csv.
 /// @return whether all were written
 bool writeFrames(const char *folder, int count);

@@ -24,36 +24,60 @@ void printSky(const RandomSky &sky)
                 state.moon, state.fwhm, state.seeing, state.skyMagnitude, state.hotPixels,
                 state.channels);
 }
-} // namespace
 
-void reportSkies(int first, int count)
+void printHeader()
 {
     std::printf("number,date,latitude,longitude,bolt_altitude,bolt_azimuth,axis_x,axis_y,roll,"
                 "ra_angle,seconds,gain,clouds,moon,fwhm,seeing,sky_magnitude,hot_pixels,channels,"
                 "above,extracted,recognised,matched,error_arcsec,squared_sigmas,extraction_ms,"
                 "matching_ms\n");
+}
+
+void reportSky(int number, const RandomSky &sky, SkyPainter &painter)
+{
+    const cv::Mat frame = painter.frameOf(sky);
+    recognition::RecognitionOptions options;
+    options.utcSeconds = *sky.state.date;
+    const double start = threadMilliseconds();
+    const recognition::Extraction stars = recognition::extractStars(frame);
+    const double extracted = threadMilliseconds();
+    const recognition::Recognition found =
+        recognition::recognise(stars.stars, frame.cols, frame.rows, options);
+    const double end = threadMilliseconds();
+    const virtualsky::Point pole = truthOf(sky).pole.value_or(virtualsky::Point{-1e4, -1e4});
+    const double dx = found.pole.x - pole.x, dy = found.pole.y - pole.y;
+    const bool recognised = found.status == recognition::RecognitionStatus::Recognised;
+    std::printf("%d,", number);
+    printSky(sky);
+    std::printf("%d,%zu,%d,%zu,%.3f,%.3f,%.3f,%.3f\n", starsAbove(sky, 5.0), stars.stars.size(),
+                recognised, found.matched.size(),
+                recognised ? std::hypot(dx, dy) * virtualsky::pixelScale : -1.0,
+                recognised ? squaredSigmas(dx, dy, found.poleCovariance) : -1.0, extracted - start,
+                end - extracted);
+}
+} // namespace
+
+void reportSkies(int first, int count)
+{
+    printHeader();
     SkyPainter painter;
-    for (int number = first; number < first + count; ++number) {
+    for (int number = first; number < first + count; ++number)
+        reportSky(number, randomSky(std::uint64_t(number)), painter);
+}
+
+void reportSparseSkies(int first, int count)
+{
+    constexpr int least = 12;
+    constexpr int most = 19;
+    printHeader();
+    SkyPainter painter;
+    for (int number = first; count > 0; ++number) {
         const RandomSky sky = randomSky(std::uint64_t(number));
-        const cv::Mat frame = painter.frameOf(sky);
-        recognition::RecognitionOptions options;
-        options.utcSeconds = *sky.state.date;
-        const double start = threadMilliseconds();
-        const recognition::Extraction stars = recognition::extractStars(frame);
-        const double extracted = threadMilliseconds();
-        const recognition::Recognition found =
-            recognition::recognise(stars.stars, frame.cols, frame.rows, options);
-        const double end = threadMilliseconds();
-        const virtualsky::Point pole = truthOf(sky).pole.value_or(virtualsky::Point{-1e4, -1e4});
-        const double dx = found.pole.x - pole.x, dy = found.pole.y - pole.y;
-        const bool recognised = found.status == recognition::RecognitionStatus::Recognised;
-        std::printf("%d,", number);
-        printSky(sky);
-        std::printf("%d,%zu,%d,%zu,%.3f,%.3f,%.3f,%.3f\n", starsAbove(sky, 5.0), stars.stars.size(),
-                    recognised, found.matched.size(),
-                    recognised ? std::hypot(dx, dy) * virtualsky::pixelScale : -1.0,
-                    recognised ? squaredSigmas(dx, dy, found.poleCovariance) : -1.0,
-                    extracted - start, end - extracted);
+        const int above = starsAbove(sky, 5.0);
+        if (above < least || above > most)
+            continue;
+        reportSky(number, sky, painter);
+        --count;
     }
 }
 

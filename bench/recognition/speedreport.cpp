@@ -117,7 +117,8 @@ void reportSpeeds(int count)
     measureFrame(plainSky(299999, false, 2026), painter, warm);
     measureFrame(plainSky(299999, true, 2026), painter, warm);
     for (int i = 0; i < count; ++i)
-        measureFrame(plainSky(std::uint64_t(300000 + i), i % 2 == 1, 2026), painter, times);
+        measureFrame(plainSky(std::uint64_t(300000) + std::uint64_t(i), i % 2 == 1, 2026), painter,
+                     times);
     std::printf("| one thread, its own processor time | runs | median | 95 of 100 | bar |\n"
                 "|---|---|---|---|---|\n");
     print("extraction alone, 1280 x 960", times.extraction, 0.0);

@@ -16,7 +16,7 @@ double median(const std::vector<double> &values);
 /// Root mean square; 0 of nothing.
 double rms(const std::vector<double> &values);
 
-/// The ellipse that 95.45 of 100 errors of a normal distribution in two dimensions lie in: its
+/// The ellipse that 95.45 of 100 errors of a normal distribution in two dimensions are in: its
 /// squared radius.
 inline constexpr double twoSigmaEllipse = 6.18;
 

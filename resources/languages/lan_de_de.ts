@@ -656,6 +656,18 @@
         <translation>Der rotierende Kreis liegt unter der Lupe.</translation>
     </message>
     <message>
+        <source>Settings will not be kept: their file cannot be written.</source>
+        <translation>Einstellungen gehen verloren: Datei nicht beschreibbar.</translation>
+    </message>
+    <message>
+        <source>Settings will not be kept: Quorvandel.ini is not a file.</source>
+        <translation>Einstellungen gehen verloren: Quorvandel.ini ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>Settings will not be kept: the disk is full.</source>
+        <translation>Einstellungen gehen verloren: Datenträger voll.</translation>
+    </message>
+    <message>
         <source>Settings will not be kept: their folder cannot be written.</source>
         <translation>Einstellungen gehen verloren: Ordner nicht beschreibbar.</translation>
     </message>

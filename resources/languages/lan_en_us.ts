@@ -656,6 +656,18 @@
         <translation>The ring lies under the magnifier.</translation>
     </message>
     <message>
+        <source>Settings will not be kept: their file cannot be written.</source>
+        <translation>Settings will not be kept: their file cannot be written.</translation>
+    </message>
+    <message>
+        <source>Settings will not be kept: Quorvandel.ini is not a file.</source>
+        <translation>Settings will not be kept: Quorvandel.ini is not a file.</translation>
+    </message>
+    <message>
+        <source>Settings will not be kept: the disk is full.</source>
+        <translation>Settings will not be kept: the disk is full.</translation>
+    </message>
+    <message>
         <source>Settings will not be kept: their folder cannot be written.</source>
         <translation>Settings will not be kept: their folder cannot be written.</translation>
     </message>

@@ -656,6 +656,18 @@
         <translation>El círculo giratorio queda bajo la lupa.</translation>
     </message>
     <message>
+        <source>Settings will not be kept: their file cannot be written.</source>
+        <translation>Los ajustes no se guardarán: no se puede escribir en su archivo.</translation>
+    </message>
+    <message>
+        <source>Settings will not be kept: Quorvandel.ini is not a file.</source>
+        <translation>Los ajustes no se guardarán: Quorvandel.ini no es un archivo.</translation>
+    </message>
+    <message>
+        <source>Settings will not be kept: the disk is full.</source>
+        <translation>Los ajustes no se guardarán: el disco está lleno.</translation>
+    </message>
+    <message>
         <source>Settings will not be kept: their folder cannot be written.</source>
         <translation>Los ajustes no se guardarán: no se puede escribir en su carpeta.</translation>
     </message>

@@ -656,6 +656,18 @@
         <translation>Le cercle tournant est sous la loupe.</translation>
     </message>
     <message>
+        <source>Settings will not be kept: their file cannot be written.</source>
+        <translation>Réglages non conservés : fichier protégé en écriture.</translation>
+    </message>
+    <message>
+        <source>Settings will not be kept: Quorvandel.ini is not a file.</source>
+        <translation>Réglages non conservés : Quorvandel.ini n&apos;est pas un fichier.</translation>
+    </message>
+    <message>
+        <source>Settings will not be kept: the disk is full.</source>
+        <translation>Réglages non conservés : disque plein.</translation>
+    </message>
+    <message>
         <source>Settings will not be kept: their folder cannot be written.</source>
         <translation>Réglages non conservés : dossier protégé en écriture.</translation>
     </message>

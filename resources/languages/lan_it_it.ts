@@ -656,6 +656,18 @@
         <translation>Il cerchio rotante è sotto la lente.</translation>
     </message>
     <message>
+        <source>Settings will not be kept: their file cannot be written.</source>
+        <translation>Impostazioni non salvate: il file non è scrivibile.</translation>
+    </message>
+    <message>
+        <source>Settings will not be kept: Quorvandel.ini is not a file.</source>
+        <translation>Impostazioni non salvate: Quorvandel.ini non è un file.</translation>
+    </message>
+    <message>
+        <source>Settings will not be kept: the disk is full.</source>
+        <translation>Impostazioni non salvate: il disco è pieno.</translation>
+    </message>
+    <message>
         <source>Settings will not be kept: their folder cannot be written.</source>
         <translation>Impostazioni non salvate: la cartella non è scrivibile.</translation>
     </message>

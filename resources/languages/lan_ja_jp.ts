@@ -656,6 +656,18 @@
         <translation>回転する円が拡大鏡の下にあります。</translation>
     </message>
     <message>
+        <source>Settings will not be kept: their file cannot be written.</source>
+        <translation>設定は保存されません：ファイルに書き込めません。</translation>
+    </message>
+    <message>
+        <source>Settings will not be kept: Quorvandel.ini is not a file.</source>
+        <translation>設定は保存されません：Quorvandel.ini がファイルではありません。</translation>
+    </message>
+    <message>
+        <source>Settings will not be kept: the disk is full.</source>
+        <translation>設定は保存されません：ディスクがいっぱいです。</translation>
+    </message>
+    <message>
         <source>Settings will not be kept: their folder cannot be written.</source>
         <translation>設定は保存されません：フォルダーに書き込めません。</translation>
     </message>

@@ -656,6 +656,18 @@
         <translation>회전하는 원이 돋보기 아래에 있습니다.</translation>
     </message>
     <message>
+        <source>Settings will not be kept: their file cannot be written.</source>
+        <translation>설정이 저장되지 않습니다: 파일에 쓸 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Settings will not be kept: Quorvandel.ini is not a file.</source>
+        <translation>설정이 저장되지 않습니다: Quorvandel.ini가 파일이 아닙니다.</translation>
+    </message>
+    <message>
+        <source>Settings will not be kept: the disk is full.</source>
+        <translation>설정이 저장되지 않습니다: 디스크가 가득 찼습니다.</translation>
+    </message>
+    <message>
         <source>Settings will not be kept: their folder cannot be written.</source>
         <translation>설정이 저장되지 않습니다: 폴더에 쓸 수 없습니다.</translation>
     </message>

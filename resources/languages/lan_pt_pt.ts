@@ -656,6 +656,18 @@
         <translation>O círculo rotativo está sob a lupa.</translation>
     </message>
     <message>
+        <source>Settings will not be kept: their file cannot be written.</source>
+        <translation>As definições não serão guardadas: ficheiro sem escrita.</translation>
+    </message>
+    <message>
+        <source>Settings will not be kept: Quorvandel.ini is not a file.</source>
+        <translation>As definições não serão guardadas: Quorvandel.ini não é ficheiro.</translation>
+    </message>
+    <message>
+        <source>Settings will not be kept: the disk is full.</source>
+        <translation>As definições não serão guardadas: disco cheio.</translation>
+    </message>
+    <message>
         <source>Settings will not be kept: their folder cannot be written.</source>
         <translation>As definições não serão guardadas: pasta sem escrita.</translation>
     </message>

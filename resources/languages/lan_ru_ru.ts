@@ -656,6 +656,18 @@
         <translation>Вращающийся круг закрыт лупой.</translation>
     </message>
     <message>
+        <source>Settings will not be kept: their file cannot be written.</source>
+        <translation>Настройки не сохранятся: нет записи в их файл.</translation>
+    </message>
+    <message>
+        <source>Settings will not be kept: Quorvandel.ini is not a file.</source>
+        <translation>Настройки не сохранятся: Quorvandel.ini не файл.</translation>
+    </message>
+    <message>
+        <source>Settings will not be kept: the disk is full.</source>
+        <translation>Настройки не сохранятся: диск заполнен.</translation>
+    </message>
+    <message>
         <source>Settings will not be kept: their folder cannot be written.</source>
         <translation>Настройки не сохранятся: нет записи в их папку.</translation>
     </message>

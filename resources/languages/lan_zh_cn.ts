@@ -656,6 +656,18 @@
         <translation>旋转的圆圈在放大镜下面。</translation>
     </message>
     <message>
+        <source>Settings will not be kept: their file cannot be written.</source>
+        <translation>设置不会保存：无法写入设置文件。</translation>
+    </message>
+    <message>
+        <source>Settings will not be kept: Quorvandel.ini is not a file.</source>
+        <translation>设置不会保存：Quorvandel.ini 不是文件。</translation>
+    </message>
+    <message>
+        <source>Settings will not be kept: the disk is full.</source>
+        <translation>设置不会保存：磁盘已满。</translation>
+    </message>
+    <message>
         <source>Settings will not be kept: their folder cannot be written.</source>
         <translation>设置不会保存：无法写入所在文件夹。</translation>
     </message>

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "camera/capturethread.h"
+#include "camera/picturemaker.h"
 #include "camera/session.h"
 #include "tests/camera/recordingcamera.h"
 #include "tests/support/logrecorder.h"
@@ -39,12 +40,14 @@ private slots:
         showFrame(starFrame({{640, 480}}));
         sdk().clearCalls();
         log = std::make_unique<LogRecorder>();
-        thread = std::make_unique<CaptureThread>(*session);
+        maker = std::make_unique<PictureMaker>(*session);
+        thread = std::make_unique<CaptureThread>(*session, *maker);
     }
     void cleanup()
     {
         sdk().releaseFetches();
         thread.reset();
+        maker.reset();
         log.reset();
         session.reset();
         QCOMPARE(sdkViolations(), QStringList());
@@ -64,6 +67,7 @@ protected:
     }
 
     std::unique_ptr<Session> session;
+    std::unique_ptr<PictureMaker> maker; // outlives the thread
     std::unique_ptr<CaptureThread> thread;
     std::unique_ptr<LogRecorder> log;
 };

@@ -39,6 +39,7 @@ void FrameRateTest::rate_data()
     QTest::newRow("longest") << Int::max() << 0 << 0;
     QTest::newRow("clock set back by 1") << -1 << -1000 << 0;
     QTest::newRow("clock set back by 3") << -3 << -333 << -3;
+    QTest::newRow("clock set back by two seconds") << -2000 << 0 << -5;
     QTest::newRow("clock set back furthest") << Int::min() << 0 << 0;
     QTest::newRow("same millisecond saturates") << 0 << Int::max() << Int::min();
 }

@@ -2,7 +2,7 @@
 // Does the capture loop enlarge the followed star in the display's style, and in the same memory
 // for every frame?
 #include "tests/camera/capturetest.h"
-#include "tests/support/capturethreadprobe.h"
+#include "tests/support/picturemakerprobe.h"
 
 #include <utility>
 
@@ -59,7 +59,7 @@ void MonitorThreadTest::matricesAreReused_data()
 void MonitorThreadTest::matricesAreReused()
 {
     QFETCH(int, channels);
-    const FrameMatrices &matrices = CaptureThreadProbe(*thread).matrices();
+    const FrameMatrices &matrices = PictureMakerProbe(*maker).matrices();
     const FrameMatrices first = matrices;
     const std::pair<const cv::Mat &, const cv::Mat &> pairs[] = {
         {first.colourFrame, matrices.colourFrame},

@@ -87,6 +87,8 @@ private slots:
     void folders();
     void search_data();
     void search();
+    void chosenCameraLoadsTheShippedLibrary_data();
+    void chosenCameraLoadsTheShippedLibrary();
     void anotherFolderOfThePath();
     void configuredFolders();
 };
@@ -170,12 +172,13 @@ void SdkLoaderTest::search_data()
 namespace
 {
 /// What the probe prints in a folder of its own, with `path` as the loader's path.
-QStringList linesOfProbe(const QString &root, const QString &path)
+QStringList linesOfProbe(const QString &root, const QString &path, const QString &camera = {})
 {
     QProcess probe;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("LD_LIBRARY_PATH", path);
     environment.insert("CRASHING_SDK", "abort");
+    environment.insert("QUORVANDEL_CAMERA", camera);
     probe.setProcessEnvironment(environment);
     probe.start(root + "/bin/sdkprobe", QStringList());
     if (!probe.waitForFinished() || probe.exitStatus() != QProcess::NormalExit ||
@@ -221,6 +224,31 @@ void SdkLoaderTest::search()
         QVERIFY2(critical.value(0).startsWith("critical " + text.replace("@", root)),
                  qPrintable(critical.join('\n')));
     }
+}
+
+void SdkLoaderTest::chosenCameraLoadsTheShippedLibrary_data()
+{
+    QTest::addColumn<File>("onPath");
+    QTest::newRow("the maker's is there") << File::Whole;
+    QTest::newRow("the maker's lacks a function") << File::Lacking;
+    QTest::newRow("the maker's crashes") << File::Crashing;
+    QTest::newRow("no other") << File::None;
+}
+
+void SdkLoaderTest::chosenCameraLoadsTheShippedLibrary()
+{
+    QFETCH(File, onPath);
+    const QTemporaryDir temporary;
+    const QString root = QDir(temporary.path()).canonicalPath();
+    QVERIFY(QDir(root).mkpath("bin") && QDir(root).mkpath("path"));
+    QVERIFY(QFile::copy(PROBE, root + "/bin/sdkprobe"));
+    QVERIFY(put(onPath, root + "/path"));
+    QVERIFY(put(File::Whole, root + "/lib/quorvandel"));
+    const QStringList lines = linesOfProbe(root, root + "/path", "sky");
+    QStringList loaded = lines.filter(QRegularExpression("^loaded "));
+    loaded.removeDuplicates();
+    QCOMPARE(loaded, QStringList("loaded " + root + "/lib/quorvandel/" + soname));
+    QVERIFY2(lines.contains("cameras 1"), qPrintable(lines.join('\n')));
 }
 
 /// Like the loader: a library for another processor does not hide one in a later folder.

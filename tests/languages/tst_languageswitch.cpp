@@ -9,6 +9,8 @@
 #include "tests/support/sessionwindow.h"
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QDial>
 #include <QDialog>
 #include <QDoubleSpinBox>

@@ -20,6 +20,7 @@ struct Application {
     QString id;
 };
 const QList<Application> applications{{"quorvandel", "example.quorvandel.quorvandel"},
+                                      {"quorvandel-assistant", "example.quorvandel.assistant"},
                                       {"quorvandel-mount", "example.quorvandel.mount"}};
 const QString metainfoName =
     QStringLiteral(DATADIR "/metainfo/example.quorvandel.quorvandel.metainfo.xml");
@@ -44,12 +45,16 @@ QString entryName(const Application &application)
 QStringList expectedFiles()
 {
     QStringList files{BINDIR "/quorvandel",
+                      BINDIR "/quorvandel-camera",
+                      BINDIR "/quorvandel-assistant",
                       BINDIR "/quorvandel-mount",
                       BINDIR "/quorvandel-recognise",
                       LIBDIR "/quorvandel/libveldix.so.20",
+                      LIBDIR "/quorvandel/quorvandel-framesources.so",
                       LIBEXECDIR "/quorvandel/bin/quorvandel",
                       LIBEXECDIR "/quorvandel/lib",
                       LIBEXECDIR "/quorvandel/share",
+                      MANDIR "/man1/quorvandel-camera.1",
                       MANDIR "/man1/quorvandel-recognise.1",
                       metainfoName};
     for (const Application &application : applications) {
@@ -58,7 +63,7 @@ QStringList expectedFiles()
         for (const int size : iconSizes)
             files << iconName(size, application.id);
     }
-    for (const char *name : {"LICENSE", "CHANGELOG.md", "installing.md", "real-camera.md",
+    for (const char *name : {"LICENSE", "CHANGELOG.md", "installing.md", "your-camera.md",
                              "recognition.md", "virtual-camera.md"})
         files << QStringLiteral(DOCDIR "/") + name;
     files.sort();
@@ -186,7 +191,8 @@ private slots:
     {
         QTest::addColumn<QString>("name");
         for (const char *name :
-             {BINDIR "/quorvandel", BINDIR "/quorvandel-mount", BINDIR "/quorvandel-recognise",
+             {BINDIR "/quorvandel", BINDIR "/quorvandel-assistant", BINDIR "/quorvandel-camera",
+              BINDIR "/quorvandel-mount", BINDIR "/quorvandel-recognise",
               LIBEXECDIR "/quorvandel/bin/quorvandel"})
             QTest::newRow(name) << QString(name);
     }
@@ -241,9 +247,10 @@ private slots:
                 << "mandoc"
                 << QStringList{"-Tlint", "-Wwarning", installed(page.arg(application.program))};
         }
-        QTest::newRow("man page of quorvandel-recognise")
-            << "mandoc"
-            << QStringList{"-Tlint", "-Wwarning", installed(page.arg("quorvandel-recognise"))};
+        for (const QString &command :
+             {QStringLiteral("quorvandel-recognise"), QStringLiteral("quorvandel-camera")})
+            QTest::newRow(qPrintable("man page of " + command))
+                << "mandoc" << QStringList{"-Tlint", "-Wwarning", installed(page.arg(command))};
         QTest::newRow("metainfo") << "appstreamcli"
                                   << QStringList{"validate", "--no-net", installed(metainfoName)};
     }

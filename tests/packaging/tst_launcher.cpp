@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Does the launcher start the user's copy of the program, keep it current, and cope without a copy?
+#include "tests/support/ordinaryuser.h"
+
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
@@ -9,6 +11,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <memory>
+#include <sched.h>
+#include <sys/mount.h>
 #include <sys/stat.h>
 #include <vector>
 
@@ -34,6 +38,8 @@ QByteArray read(const QString &path)
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(cannot be read)");
 }
+
+const auto everything = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
 
 ino_t inodeOf(const QString &path)
 {
@@ -95,7 +101,24 @@ private:
         return {lines, QString::fromUtf8(process.readAllStandardError()), process.exitCode()};
     }
 
-    Outcome runAtHome() const { return run({"HOME=" + home}); }
+    /// @param ordinary as OrdinaryUser, if the tests run as root
+    Outcome runAtHome(bool ordinary = false) const
+    {
+        if (!ordinary || geteuid() != 0)
+            return run({"HOME=" + home});
+        const QString user = QString::number(OrdinaryUser::number);
+        return run({"HOME=" + home}, {"--reuid", user, "--clear-groups", launcher},
+                   QStringLiteral("/usr/bin/setpriv"));
+    }
+
+    /// Gives the user's folder to OrdinaryUser and lets that user reach it.
+    void giveAway() const
+    {
+        QFile::setPermissions(scratch->path(), QFile::Permissions(0x7755));
+        if (geteuid() == 0)
+            QVERIFY(QProcess::execute("chown",
+                                      {"-R", QString::number(OrdinaryUser::number), home}) == 0);
+    }
 
 private slots:
     void init()
@@ -235,6 +258,72 @@ private slots:
         const auto all = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
         QCOMPARE(QDir(folder + "/bin").entryList(all), QStringList{"quorvandel"});
         QCOMPARE(QDir(folder).entryList(all, QDir::Name), (QStringList{"bin", "lib", "share"}));
+    }
+
+    void saysThatSettingsAreNotKeptFor_data()
+    {
+        QTest::addColumn<QString>("command"); // run in the folder of the copy
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("a folder in the file's place") << "mkdir Quorvandel.ini"
+                                                      << "Quorvandel.ini is not a file\n";
+        QTest::newRow("a pipe in the file's place") << "mkfifo Quorvandel.ini"
+                                                    << "Quorvandel.ini is not a file\n";
+        QTest::newRow("a read-only file") << "echo a=b >Quorvandel.ini; chmod 444 Quorvandel.ini"
+                                          << "Quorvandel.ini cannot be read and written\n";
+        QTest::newRow("a file that cannot be read")
+            << "echo a=b >Quorvandel.ini; chmod 200 Quorvandel.ini"
+            << "Quorvandel.ini cannot be read and written\n";
+        QTest::newRow("a folder that cannot be written") << "chmod 555 ."
+                                                         << "Permission denied\n";
+        if (geteuid() == 0)
+            QTest::newRow("a file of another user")
+                << "echo a=b >Quorvandel.ini; chown 0:0 Quorvandel.ini; chmod 644 Quorvandel.ini"
+                << "Quorvandel.ini cannot be read and written\n";
+    }
+
+    /// The copy is there and current, and is started all the same.
+    void saysThatSettingsAreNotKeptFor()
+    {
+        QFETCH(QString, command);
+        QFETCH(QString, reason);
+        QCOMPARE(runAtHome().errors, QString());
+        giveAway();
+        QProcess arrange;
+        arrange.setWorkingDirectory(folder + "/bin");
+        arrange.start("/bin/sh", {"-c", command});
+        QVERIFY(arrange.waitForFinished(20000) && arrange.exitCode() == 0);
+        const QStringList before = QDir(folder + "/bin").entryList(everything);
+        const Outcome outcome = runAtHome(true);
+        QCOMPARE(outcome.lines, QStringList{copy});
+        QCOMPARE(outcome.status, stubStatus);
+        QVERIFY2(outcome.errors.startsWith(refusal) && outcome.errors.endsWith(reason),
+                 qPrintable(outcome.errors));
+        QCOMPARE(outcome.errors.count('\n'), 1);
+        QCOMPARE(QDir(folder + "/bin").entryList(everything), before);
+    }
+
+    void saysThatTheDiskIsFull()
+    {
+        QVERIFY(QDir().mkpath(home));
+        const QByteArray disk = home.toLocal8Bit();
+        if (unshare(CLONE_NEWNS) != 0 ||
+            mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
+            mount("tmpfs", disk, "tmpfs", 0, "size=256k") != 0)
+            QSKIP("only root may mount a small disk");
+        const Outcome roomy = runAtHome();
+        QFile filler(home + "/filler");
+        QVERIFY(filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+        while (filler.write(QByteArray(1024, 'x')) > 0)
+            continue;
+        filler.close();
+        const Outcome full = runAtHome();
+        const QStringList left = QDir(folder + "/bin").entryList(everything);
+        umount2(disk, MNT_DETACH);
+        QCOMPARE(roomy.errors, QString());
+        QCOMPARE(full.lines, QStringList{copy});
+        QVERIFY2(full.errors.startsWith(refusal) && full.errors.contains("No space left"),
+                 qPrintable(full.errors));
+        QCOMPARE(left, QStringList{"quorvandel"});
     }
 
     void startsTheInstalledOneWhere_data()

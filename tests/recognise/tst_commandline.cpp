@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Are options, dates of pictures and JSON what they should be?
+#include "pictures/exifdate.h"
+#include "pictures/picturefile.h"
 #include "recognise/commandline.h"
-#include "recognise/exifdate.h"
-#include "recognise/picturefile.h"
 #include "recognise/report.h"
 
 #include <QFile>

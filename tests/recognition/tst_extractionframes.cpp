@@ -56,28 +56,6 @@ bool isSane(const Extraction &found, const cv::Mat &frame)
     });
 }
 
-/// One of eight kinds of content that no sky has.
-void fillAtRandom(cv::Mat &frame, std::mt19937 &random)
-{
-    cv::RNG numbers(random());
-    const double full = frame.depth() == CV_8U ? 255 : 65535;
-    const double middle = numbers.uniform(0.0, full), spread = numbers.uniform(0.0, full);
-    frame = cv::Scalar::all(middle);
-    const int kind = numbers.uniform(0, 4);
-    if (kind == 1)
-        numbers.fill(frame, cv::RNG::UNIFORM, 0, full + 1);
-    if (kind >= 2)
-        numbers.fill(frame, cv::RNG::NORMAL, middle, spread * (kind == 2 ? 0.02 : 0.2));
-    for (int i = numbers.uniform(0, 40); i > 0; --i) {
-        const int w = numbers.uniform(1, frame.cols), h = numbers.uniform(1, frame.rows);
-        const cv::Rect area =
-            cv::Rect(numbers.uniform(0, frame.cols), numbers.uniform(0, frame.rows),
-                     numbers.uniform(0, 3) == 0 ? w : 1 + w / 60,
-                     numbers.uniform(0, 3) == 0 ? h : 1 + h / 60) &
-            cv::Rect(0, 0, frame.cols, frame.rows);
-        frame(area) = cv::Scalar::all(numbers.uniform(0.0, full));
-    }
-}
 } // namespace
 
 class ExtractionFramesTest : public QObject
@@ -100,7 +78,6 @@ private slots:
     void measuringNeedsAStar_data();
     void measuringNeedsAStar();
     void manyThreads();
-    void randomFrames();
 };
 
 void ExtractionFramesTest::framesThatCannotBeUsed_data()
@@ -332,22 +309,6 @@ void ExtractionFramesTest::manyThreads()
         QCOMPARE(one.stars.size(), alone.stars.size());
         for (std::size_t i = 0; i < alone.stars.size(); ++i)
             QCOMPARE(one.stars[i].x, alone.stars[i].x);
-    }
-}
-
-void ExtractionFramesTest::randomFrames()
-{
-    constexpr int types[] = {CV_8UC1, CV_8UC3, CV_16UC1, CV_16UC3};
-    std::mt19937 random(2026);
-    for (int i = 0; i < 400; ++i) {
-        cv::Mat whole(32 + int(random() % 200), 32 + int(random() % 300), types[random() % 4]);
-        fillAtRandom(whole, random);
-        const cv::Rect inner(0, 0, std::max(32, whole.cols - int(random() % 9)), whole.rows);
-        const cv::Mat frame = whole(inner);
-        QVERIFY(isSane(extractStars(frame), frame));
-        const double x = double(random() % 400) - 50, y = double(random() % 300) - 50;
-        const auto star = measureStar(frame, x, y, int(random() % 70));
-        QVERIFY(!star || (star->x >= 0 && star->x <= frame.cols - 1 && star->snr >= 5.0));
     }
 }
 

@@ -62,7 +62,8 @@ public:
                 y = 0.5 * height + i * step * std::sin(angle);
             } else if (kind == 2) { // on a grid, as windows are
                 x = (i % 8) * step;
-                y = (i / 8) * step;
+                const int row = i / 8;
+                y = row * step;
             } else if (kind == 3) { // in a crowd
                 x = 0.4 * width + between(0.0, 60.0);
                 y = 0.4 * height + between(0.0, 60.0);

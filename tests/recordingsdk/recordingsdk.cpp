@@ -209,12 +209,20 @@ private:
             ++camera->callsInside;
         ++observed[operation];
         lock.unlock();
-        observer();
-        lock.lock();
-        --observed[operation];
-        if (camera)
-            --camera->callsInside;
-        changed.notify_all();
+        const auto end = [&] {
+            lock.lock();
+            --observed[operation];
+            if (camera)
+                --camera->callsInside;
+            changed.notify_all();
+        };
+        try {
+            observer();
+        } catch (...) { // the test's, for the program
+            end();
+            throw;
+        }
+        end();
     }
 
     mutable std::mutex mutex;

@@ -36,9 +36,9 @@ public:
     virtual std::vector<std::string> violations() const = 0;
 
     /// From now on, `observer` runs inside every call of `operation`, on the caller's thread,
-    /// before the answer is chosen: it may inspect the state, tell the library how to answer, or
-    /// wait. An empty one ends that. Returns once the earlier observer has returned; must not be
-    /// called by an observer.
+    /// before the answer is chosen: it may inspect the state, tell the library how to answer, wait,
+    /// or throw, which ends the call. An empty one ends that. Returns once the earlier observer has
+    /// returned; must not be called by an observer.
     virtual void observe(const std::string &operation, std::function<void()> observer) = 0;
     /// The status that `operation` returns from now on; OpenVELDIX returns null for anything but 0.
     virtual void setStatus(const std::string &operation, std::uint32_t status) = 0;

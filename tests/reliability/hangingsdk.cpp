@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A camera library whose call for a frame never returns, and which presses Connect like a user.
+// A camera library of which one operation never returns: the one that the environment names, or the
+// call for a frame. It changes a setting, then presses Connect and Disconnect like a user.
 #include <QAction>
 #include <QApplication>
 #include <QTimer>
@@ -7,89 +8,143 @@
 #include <QtDebug>
 #include <chrono>
 #include <cstdint>
+#include <cstdlib>
 #include <cstring>
+#include <mutex>
 #include <thread>
 
 #define EXPORTED extern "C" __attribute__((visibility("default")))
 
 namespace
 {
-void pressConnect()
+QAction *actionOfWindow(const char *name)
 {
     for (QWidget *const widget : QApplication::topLevelWidgets())
-        if (auto *const connectAction = widget->findChild<QAction *>("actionConnect"))
-            connectAction->trigger();
+        if (auto *const action = widget->findChild<QAction *>(name))
+            return action;
+    return nullptr;
+}
+
+void pressConnect()
+{
+    if (QAction *const action = actionOfWindow("actionConnect"))
+        action->trigger();
+}
+
+bool isSet(const char *variable, const char *value)
+{
+    const char *const text = std::getenv(variable);
+    return text && std::strcmp(text, value) == 0;
+}
+
+/// Never returns if this is the operation that hangs.
+void enter(const char *operation)
+{
+    const char *const hanging = std::getenv("HANGING_SDK");
+    if (std::strcmp(hanging ? hanging : "GetVELDIXLiveFrame", operation) != 0)
+        return;
+    qDebug("the library hangs");
+    for (;;)
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+}
+
+/// What the user does while the camera is live.
+void actWhileLive()
+{
+    if (isSet("HANGING_SDK_THEN", "Disconnect"))
+        QMetaObject::invokeMethod(qApp, pressConnect, Qt::QueuedConnection);
+    qDebug("the camera is live");
 }
 } // namespace
 
 EXPORTED std::uint32_t InitVELDIXResource()
 {
-    QTimer::singleShot(0, qApp, pressConnect); // once the window exists
+    enter("InitVELDIXResource");
+    QTimer::singleShot(0, qApp, [] { // once the window exists
+        if (QAction *const mono = actionOfWindow("actionMono_Style"))
+            mono->setChecked(true);
+        pressConnect();
+    });
     return 0;
 }
 EXPORTED std::int32_t ScanVELDIX()
 {
+    enter("ScanVELDIX");
     return 1;
 }
 EXPORTED std::uint32_t GetVELDIXId(std::int32_t, char *id)
 {
+    enter("GetVELDIXId");
     std::strcpy(id, "QUORVANDEL-0001");
     return 0;
 }
 EXPORTED void *OpenVELDIX(const char *)
 {
+    enter("OpenVELDIX");
     static int camera;
     return &camera;
 }
 EXPORTED std::uint32_t SetVELDIXReadMode(void *, std::uint32_t)
 {
+    enter("SetVELDIXReadMode");
     return 0;
 }
 EXPORTED std::uint32_t SetVELDIXStreamMode(void *, std::uint8_t)
 {
+    enter("SetVELDIXStreamMode");
     return 0;
 }
 EXPORTED std::uint32_t InitVELDIX(void *)
 {
+    enter("InitVELDIX");
     return 0;
 }
 EXPORTED std::uint32_t SetVELDIXBitsMode(void *, std::uint32_t)
 {
+    enter("SetVELDIXBitsMode");
     return 0;
 }
 EXPORTED std::uint32_t SetVELDIXBinMode(void *, std::uint32_t, std::uint32_t)
 {
+    enter("SetVELDIXBinMode");
     return 0;
 }
 EXPORTED std::uint32_t SetVELDIXResolution(void *, std::uint32_t, std::uint32_t, std::uint32_t,
                                            std::uint32_t)
 {
+    enter("SetVELDIXResolution");
     return 0;
 }
 EXPORTED double GetVELDIXParam(void *, std::int32_t)
 {
+    enter("GetVELDIXParam");
     return 1;
 }
 EXPORTED std::uint32_t SetVELDIXParam(void *, std::int32_t, double)
 {
+    enter("SetVELDIXParam");
     return 0;
 }
 EXPORTED std::uint32_t BeginVELDIXLive(void *)
 {
+    enter("BeginVELDIXLive");
     return 0;
 }
 EXPORTED std::uint32_t GetVELDIXLiveFrame(void *, std::uint32_t *, std::uint32_t *, std::uint32_t *,
                                           std::uint32_t *, std::uint8_t *)
 {
-    qDebug("the library hangs");
-    for (;;)
-        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    enter("GetVELDIXLiveFrame");
+    static std::once_flag first;
+    std::call_once(first, actWhileLive);
+    return 1; // no new frame
 }
 EXPORTED std::uint32_t StopVELDIXLive(void *)
 {
+    enter("StopVELDIXLive");
     return 0;
 }
 EXPORTED std::uint32_t CloseVELDIX(void *)
 {
+    enter("CloseVELDIX");
     return 0;
 }

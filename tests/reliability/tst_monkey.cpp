@@ -16,6 +16,7 @@
 #include <QElapsedTimer>
 #include <QLineEdit>
 #include <QMap>
+#include <QMessageBox>
 #include <QtTest>
 #include <cstdio>
 #include <random>

@@ -3,6 +3,7 @@
 // point, and connect again afterwards?
 #include "tests/reliability/sdkwindow.h"
 #include "tests/support/logrecorder.h"
+#include "tests/support/pairwise.h"
 
 #include <QLabel>
 #include <QRegularExpression>
@@ -71,11 +72,11 @@ QList<Fault> allFaults()
     faults.append({"GetVELDIXId", sdkError, 0, 0, "ffffffff"});
     for (const std::int32_t count :
          {0, -1, std::numeric_limits<int>::min(), 5, std::numeric_limits<int>::max()})
-        faults.append({"ScanVELDIX", 0, count, 0, QString::number(count)});
+        faults.append({"ScanVELDIX", 0, count, 0, "the count " + QString::number(count)});
     for (const double value :
          {-1.0, 0.0, 1e300, -1e300, double(sdkError), std::numeric_limits<double>::infinity(),
           std::numeric_limits<double>::quiet_NaN()})
-        faults.append({"GetVELDIXParam", 0, 0, value, QString::number(value)});
+        faults.append({"GetVELDIXParam", 0, 0, value, "the value " + QString::number(value)});
     return faults;
 }
 
@@ -138,15 +139,27 @@ private:
                      const Outcome &outcome);
 };
 
+/// Every two of operation, fault and moment.
 void SdkMatrixTest::failure_data()
 {
     QTest::addColumn<Fault>("fault");
     QTest::addColumn<Moment>("moment");
+    struct Row {
+        Fault fault;
+        Moment moment;
+        const char *name;
+    };
+    std::vector<Row> rows;
+    std::vector<QStringList> pairs;
     for (const Fault &fault : allFaults())
-        for (const auto &[moment, name] : moments)
-            QTest::addRow("%s gives %s %s", qPrintable(fault.operation), qPrintable(fault.name),
-                          name)
-                << fault << moment;
+        for (const auto &[moment, name] : moments) {
+            rows.push_back({fault, moment, name});
+            pairs.push_back(pairsOf({fault.operation, fault.name, name}));
+        }
+    for (const std::size_t i : coveringRows(pairs))
+        QTest::addRow("%s gives %s %s", qPrintable(rows[i].fault.operation),
+                      qPrintable(rows[i].fault.name), rows[i].name)
+            << rows[i].fault << rows[i].moment;
 }
 
 void SdkMatrixTest::compareWith(const CameraWindow &w, const LogRecorder &log,
@@ -218,6 +231,32 @@ void SdkMatrixTest::failure()
     QVERIFY(worksAgain(*w));
 }
 
+namespace
+{
+QString frameName(const std::array<uint, 4> &frame)
+{
+    return QString("%1 x %2, %3 channels, %4 bits")
+        .arg(frame[0])
+        .arg(frame[1])
+        .arg(frame[2])
+        .arg(frame[3]);
+}
+
+/// What is strange about a frame: frames of one kind are treated alike.
+QString kindOf(const std::array<uint, 4> &frame)
+{
+    const auto [width, height, channels, bits] = frame;
+    if (width == 0 || height == 0)
+        return "empty";
+    if (channels != 1 && channels != 3)
+        return "channels";
+    if (quint64(width) * height * channels > bufferSize)
+        return "too large";
+    return bits == 8 ? "size" : "bits";
+}
+} // namespace
+
+/// Every frame, and every kind of them in every step.
 void SdkMatrixTest::frame_data()
 {
     QTest::addColumn<uint>("width");
@@ -237,11 +276,23 @@ void SdkMatrixTest::frame_data()
         {1, 3686400, 1, 8},    {1228800, 1, 3, 8},
         {40000, 90, 1, 8},     {65536, 65536, 1, 8},
         {0x80000000, 2, 1, 8}, {sdkError, sdkError, sdkError, sdkError}};
-    for (const auto &[width, height, channels, bits] : frames)
-        for (const int step : {1, 2, 9, 10, 13})
-            QTest::addRow("%u x %u, %u channels, %u bits, in step %d", width, height, channels,
-                          bits, step)
-                << width << height << channels << bits << step;
+    struct Row {
+        std::array<uint, 4> frame;
+        int step;
+    };
+    std::vector<Row> rows;
+    std::vector<QStringList> needed;
+    for (const auto &frame : frames)
+        for (const int step : {1, 2, 9, 10, 13}) {
+            rows.push_back({frame, step});
+            needed.push_back(pairsOf({kindOf(frame), QString::number(step)}) +
+                             QStringList(frameName(frame)));
+        }
+    for (const std::size_t i : coveringRows(needed)) {
+        const auto &[width, height, channels, bits] = rows[i].frame;
+        QTest::addRow("%s, in step %d", qPrintable(frameName(rows[i].frame)), rows[i].step)
+            << width << height << channels << bits << rows[i].step;
+    }
 }
 
 /// Good frames, then strange ones, then good ones again; mouse and controls work meanwhile.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Does a window open and work, whatever is in the settings file's place?
 #include "tests/reliability/settingsplace.h"
+#include "tests/reliability/settingsrows.h"
 #include "tests/support/reachablecopy.h"
 #include "tests/support/sessionwindow.h"
 #include "tests/window/windowtest.h"
@@ -13,35 +14,17 @@
 
 #include <QDir>
 #include <QElapsedTimer>
-#include <QSettings>
 #include <QSlider>
 #include <algorithm>
 #include <cmath>
 #include <functional>
-#include <random>
 #include <sys/stat.h>
 #include <unistd.h>
 
+using namespace settingsrows;
+
 namespace
 {
-/// The twelve values in the order of the file; numbers with the six digits that are stored.
-const QStringList keys{"STYLE/style",
-                       "LANGUAGE/lang",
-                       "REGION/region",
-                       "ZOOM/factor",
-                       "ASTRONOMICAL_REFRACTION/latitude",
-                       "ASTRONOMICAL_REFRACTION/longitude",
-                       "ASTRONOMICAL_REFRACTION/P",
-                       "ASTRONOMICAL_REFRACTION/T",
-                       "ASTRONOMICAL_REFRACTION/enabledCorrect",
-                       "ASTRONOMICAL_REFRACTION/P_unit",
-                       "AXIS_CENTER/x",
-                       "AXIS_CENTER/y"};
-const QStringList defaults{"Color", "EN", "North", "1",   "39.9", "116.3",
-                           "101",   "10", "false", "kPa", "0",    "0"};
-const QStringList numbers{keys[3], keys[4], keys[5], keys[6], keys[7], keys[10], keys[11]};
-const QStringList texts{keys[0], keys[1], keys[2], keys[9]};
-
 QStringList inForce(SessionWindow &window)
 {
     const MainWindowProbe probe(window);
@@ -58,28 +41,6 @@ QStringList inForce(SessionWindow &window)
             window.ownSession.refraction.P_unit,
             number(window.ownSession.alignmentPoints.savedAxisCenter.x),
             number(window.ownSession.alignmentPoints.savedAxisCenter.y)};
-}
-
-QStringList stored(const QString &path)
-{
-    const QSettings file(path, QSettings::IniFormat);
-    QStringList values;
-    for (const QString &key : keys)
-        values.append(file.value(key).toString());
-    return values;
-}
-
-QStringList with(const QString &key, const QString &value)
-{
-    QStringList values = defaults;
-    values[keys.indexOf(key)] = value;
-    return values;
-}
-
-QByteArray fileWith(const QString &key, const QByteArray &value)
-{
-    return '[' + key.section('/', 0, 0).toLatin1() + "]\n" + key.section('/', 1).toLatin1() + '=' +
-           value + '\n';
 }
 
 /// The value in effect: the refraction dialog's boxes, which show two decimals, limit four of the
@@ -145,101 +106,27 @@ void SettingsMatrixTest::initTestCase()
     QVERIFY(givePlaceAway());
 }
 
+/// Every value of every key, each in one of the windows, whose file has a value for every key.
 void SettingsMatrixTest::content_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QStringList>("expected");
-    const struct {
-        const char *text, *number;
-    } numberRows[] = {{"north", "0"},      {"", "0"},       {"nan", "nan"},    {"inf", "inf"},
-                      {"-inf", "-inf"},    {"1e39", "inf"}, {"-1e39", "-inf"}, {"1e400", "inf"},
-                      {"-1", "-1"},        {"0", "0"},      {"1e9", "1e+09"},  {"-1e9", "-1e+09"},
-                      {"1e-30", "1e-30"},  {"1,5", "0"},    {"0x10", "0"},     {"\"0.5\"", "0.5"},
-                      {"  0.75  ", "0.75"}};
-    for (const QString &key : numbers)
-        for (const auto &row : numberRows)
-            QTest::addRow("%s = '%s'", qPrintable(key), row.text)
-                << fileWith(key, row.text) << with(key, throughBox(key, row.number));
-    const QByteArray longText(100000, 'x');
-    const struct {
-        const char *name;
-        QByteArray text;
-        QString value;
-    } textRows[] = {{"nonsense", "nonsense", "nonsense"},
-                    {"empty", "", ""},
-                    {"a number", "1e9", "1e9"},
-                    {"a list", "a, b", ""},
-                    {"with its quotation open", "\"Mono", "Mono\n"},
-                    {"escapes", "\\x4d\\0\\n", QString("M") + QChar(0) + '\n'},
-                    {"100,000 letters", longText, QString(longText)}};
-    for (const QString &key : texts)
-        for (const auto &row : textRows)
-            QTest::addRow("%s: %s", qPrintable(key), row.name)
-                << fileWith(key, row.text)
-                << with(key, key == keys[2] ? QString("South") : row.value); // all but "North"
-    const struct {
-        const char *text, *truth;
-    } truthRows[] = {{"true", "true"},   {"TRUE", "true"},   {"1", "true"},
-                     {"0", "false"},     {"false", "false"}, {"", "false"},
-                     {"maybe", "false"}, {"nan", "false"},   {"a, b", "false"}};
-    for (const auto &row : truthRows)
-        QTest::addRow("%s = '%s'", qPrintable(keys[8]), row.text)
-            << fileWith(keys[8], row.text) << with(keys[8], row.truth);
-
-    QTest::newRow("empty file") << QByteArray("") << defaults;
-    QTest::newRow("no line end") << QByteArray("[STYLE]\nstyle=Mono") << with(keys[0], "Mono");
-    QTest::newRow("group twice") << QByteArray("[ZOOM]\nfactor=0.5\n[STYLE]\nstyle=Mono\n"
-                                               "[ZOOM]\nfactor=0.75\n[STYLE]\n")
-                                 << [] {
-                                        QStringList values = with(keys[3], "0.75");
-                                        values[0] = "Mono";
-                                        return values;
-                                    }();
-    QTest::newRow("key twice") << QByteArray("[ZOOM]\nfactor=0.5\nfactor=0.75\n")
-                               << with(keys[3], "0.75");
-    QTest::newRow("another case") << QByteArray("[style]\nSTYLE=Mono\n[Zoom]\nFactor=0.5\n")
-                                  << defaults;
-    QTest::newRow("CR LF") << QByteArray("[STYLE]\r\nstyle=Mono\r\n") << with(keys[0], "Mono");
-    QTest::newRow("CR alone") << QByteArray("[STYLE]\rstyle=Mono\r") << with(keys[0], "Mono");
-    QTest::newRow("byte order mark")
-        << QByteArray("\xEF\xBB\xBF[STYLE]\nstyle=Mono\n") << with(keys[0], "Mono");
-    const QString utf16 = "[STYLE]\nstyle=Mono\n";
-    QTest::newRow("UTF-16") << "\xFF\xFE" +
-                                   QByteArray(reinterpret_cast<const char *>(utf16.utf16()),
-                                              utf16.size() * 2)
-                            << defaults;
-    QTest::newRow("group without its end")
-        << QByteArray("[STYLE\nstyle=Mono\n") << with(keys[0], "Mono");
-    QTest::newRow("keys without a group") << QByteArray("style=Mono\nfactor=0.5\n") << defaults;
-    QTest::newRow("comments alone") << QByteArray("; nothing\n# here\n") << defaults;
-    QTest::newRow("a million line ends") << QByteArray(1000000, '\n') << defaults;
-    // A list that claims 2^28 or more entries, without any bytes for them.
-    for (const char *const count : {"\\x10\\0\\0\\0", "\\x7f\\xff\\xff\\xff"})
-        for (const char *const type : {"@Variant", "@DateTime"})
-            QTest::addRow("%s with a list of %s entries", type, count)
-                << fileWith(keys[0], QByteArray(type) + "(\\0\\0\\0\\x0b\\0" + count + ")")
-                << defaults;
-    // Written so that the bytes do not show it; the other keys are read.
-    const QByteArray list = "\\0\\0\\0\\x0b\\0\\x10\\0\\0\\0)";
-    for (const QByteArray &hidden :
-         {"@Variant(" + list, "@\\126ariant(" + list, "@Variant\\x28" + list,
-          "\"@Var\"\"iant(\"" + list, "\\x40Variant(" + list, "a, @Variant(" + list,
-          "@Date\\x54ime(" + list})
-        QTest::addRow("between others: %s", hidden.constData())
-            << "[ZOOM]\nfactor=0.5\n[MINE]\nlist=" + hidden + "\n[LANGUAGE]\nlang=" + hidden +
-                   "\n[STYLE]\nstyle=Mono\n"
-            << [&] {
-                   QStringList values = with(keys[3], "0.5");
-                   values[0] = "Mono";
-                   if (hidden.startsWith("a, ")) // a list is not a text
-                       values[1] = "";
-                   return values;
-               }();
-    for (const char *const typed : {"@Size(1 2)", "@Rect(1 2 3 4)", "@Invalid()"})
-        QTest::newRow(typed) << fileWith(keys[0], typed) << defaults;
-    QTest::newRow("@ByteArray") << fileWith(keys[0], "@ByteArray(Mono)") << with(keys[0], "Mono");
-    QTest::newRow("@@") << fileWith(keys[0], "@@Variant(x)") << with(keys[0], "@Variant(x)");
-    QTest::newRow("@ alone") << fileWith(keys[0], "@home") << with(keys[0], "@home");
+    for (int window = 0; window < int(numberValues().size()); ++window) {
+        QByteArray bytes, open; // an open quotation goes on to the file's end
+        QStringList expected;
+        for (const QString &key : keys) {
+            const int place = expected.size();
+            const auto &values = valuesOf(key);
+            const Value &value =
+                values[std::size_t(window + 5 * place + place / 8) % values.size()];
+            (value.bytes.startsWith("\"M") ? open : bytes) += fileWith(key, value.bytes);
+            // All but "North" is the other hemisphere.
+            expected << (key == keys[2] ? QString("South") : throughBox(key, value.read));
+        }
+        bytes += open;
+        QTest::addRow("window %d", window) << bytes << expected;
+    }
+    QTest::newRow("empty file") << QByteArray() << defaults;
 }
 
 void SettingsMatrixTest::content()
@@ -378,27 +265,12 @@ void SettingsMatrixTest::hugeFile()
     QVERIFY(QFileInfo(keptAside().constFirst()).size() >= 25'000'000);
 }
 
-/// Seeded: the same rows in every run.
 void SettingsMatrixTest::rubbish_data()
 {
     QTest::addColumn<QByteArray>("bytes");
-    std::mt19937 random(20240523);
-    const auto byte = [&] { return char(random() & 0xFF); };
-    for (int row = 0; row < 20; ++row) {
-        QByteArray bytes;
-        for (int i = 0; i < 1 << (row / 2); ++i)
-            bytes.append(byte());
-        QTest::addRow("random bytes %d", row) << bytes;
-    }
-    QByteArray whole;
-    for (int i = 0; i < keys.size(); ++i)
-        whole += fileWith(keys[i], defaults[i].toLatin1());
-    for (int row = 0; row < 40; ++row) {
-        QByteArray bytes = whole;
-        for (int change = 0; change <= row; ++change)
-            bytes[int(random() % unsigned(bytes.size()))] = byte();
-        QTest::addRow("damaged in %d places", row + 1) << bytes;
-    }
+    const std::vector<Rubbish> rows = settingsrows::rubbish();
+    for (std::size_t i = 9; i < rows.size(); i += 10)
+        QTest::newRow(rows[i].name) << rows[i].bytes;
 }
 
 void SettingsMatrixTest::rubbish()

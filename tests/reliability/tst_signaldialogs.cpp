@@ -8,6 +8,7 @@
 
 #include <QFileDialog>
 #include <QMenu>
+#include <QMessageBox>
 #include <QtTest>
 #include <csignal>
 #include <functional>

@@ -75,6 +75,7 @@ private slots:
     void ignoredSignalsStayIgnored();
     void otherSignalsStay();
     void endsThoughTheCameraLibraryHangs();
+    void helpIsPrinted();
 };
 
 void SignalsTest::initTestCase()
@@ -162,6 +163,16 @@ void SignalsTest::endsThoughTheCameraLibraryHangs()
     QCOMPARE(program.process.exitCode(), 0);
     const QSettings file(settingsPath(), QSettings::IniFormat);
     QCOMPARE(file.allKeys().size(), 12);
+}
+
+void SignalsTest::helpIsPrinted()
+{
+    QProcess program;
+    program.start(PROGRAM_FILE, {"--help"});
+    QVERIFY(program.waitForFinished(patience));
+    QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(program.exitCode(), 0);
+    QVERIFY(program.readAllStandardOutput().contains("--angles-of-date"));
 }
 
 QTEST_GUILESS_MAIN(SignalsTest)

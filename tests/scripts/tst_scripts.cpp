@@ -73,6 +73,7 @@ private slots:
     void reasons();
     void noNoise();
     void skippedRows();
+    void coreDumps();
     void waitsForALock_data();
     void waitsForALock();
     void doesNotWaitForEver();
@@ -206,6 +207,20 @@ void ScriptsTest::skippedRows()
 {
     QCOMPARE(bash("skipped_rows failing/Testing/Temporary/LastTest.log").text,
              QString("SKIP   : B::second(a row) no tool for it\n"));
+}
+
+/// Those of crashed tests, wherever they ran; nothing else of a similar name.
+void ScriptsTest::coreDumps()
+{
+    QVERIFY(QDir(path("crashed")).mkpath("window/core"));
+    QVERIFY(QDir(path("crashed")).mkpath("bin"));
+    write("crashed/window/core/core", "a dump");
+    write("crashed/bin/core.4711", "a dump");
+    write("crashed/bin/core.cpp.o", "an object");
+    write("crashed/bin/core.1", ""); // it was not written
+    const Outcome outcome = bash("core_dumps crashed");
+    QCOMPARE(outcome.text, QString("core dump: crashed/bin/core.4711\n"
+                                   "core dump: crashed/window/core/core\n"));
 }
 
 void ScriptsTest::waitsForALock_data()

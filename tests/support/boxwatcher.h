@@ -2,9 +2,11 @@
 // Which message boxes come up, what do they say, and how are they answered?
 #pragma once
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QMainWindow>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTimer>
 #include <QtTest>
 #include <functional>

@@ -34,7 +34,8 @@ inline QList<Message> messagesOf(const QString &path)
             messages.last().source = xml.readElementText();
         } else if (xml.name() == QLatin1String("translation")) {
             messages.last().state = xml.attributes().value("type").toString();
-            messages.last().translation = xml.readElementText();
+            messages.last().translation =
+                xml.readElementText(QXmlStreamReader::IncludeChildElements);
         }
     }
     return messages;

@@ -35,6 +35,7 @@ public:
     const QImage &blankImage() const { return window.blankImage; }
     const QImage &displayImage() const { return window.displayImage; }
     const CaptureThread &captureThread() const { return *window.captureThread; }
+    const PictureMaker &pictureMaker() const { return *window.pictureMaker; }
 
 private:
     MainWindow &window;

@@ -46,6 +46,12 @@ void SkyFileTest::everyKeyIsTaken_data()
         {"time.date", "2024-05-23T12:00:00Z"},
         {"mount.tracking_since", "2024-05-23T12:00:00.250Z"},
         {"camera.channels", "3"},
+        {"camera.source", "indi"},
+        {"camera.indi", "localhost:7625/CCD Simulator"},
+        {"camera.files", "/tmp/*.fits"},
+        {"camera.pace", "own"},
+        {"camera.scale", "6.25"},
+        {"camera.mirrored", "auto"},
         {"faults.fail", "InitVELDIX, GetVELDIXLiveFrame"},
         {"faults.cameras", "2"},
         {"faults.picture", "saturated"}};

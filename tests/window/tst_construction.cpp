@@ -5,9 +5,9 @@
 
 #include "geometry/starcatalogue.h"
 #include "resources/resources.h"
-#include "tests/support/capturethreadprobe.h"
 #include "tests/support/logrecorder.h"
 #include "tests/support/mainwindowprobe.h"
+#include "tests/support/picturemakerprobe.h"
 #include "tests/support/sessionwindow.h"
 
 #include <QGraphicsDropShadowEffect>
@@ -67,7 +67,7 @@ void ConstructionTest::sharedValues()
                mat.depth() == CV_8U;
     };
     const FrameMatrices &matrices =
-        CaptureThreadProbe(MainWindowProbe(window).captureThread()).matrices();
+        PictureMakerProbe(MainWindowProbe(window).pictureMaker()).matrices();
     QVERIFY(matches(matrices.colourFrame, 1280, 960, 3));
     QVERIFY(matches(matrices.enlargedGrey, 6400, 4800, 1));
     QVERIFY(matches(matrices.enlargedColour, 6400, 4800, 3));

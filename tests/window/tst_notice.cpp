@@ -211,10 +211,23 @@ void NoticeTest::notices_data()
     row("ring", with(MoveBolts, [](auto &f) { f.ringUnderMagnifier = true; }),
         {Code::RingUnderMagnifier});
     NoticeFacts rest;
-    rest.settingsKept = false;
-    row("settings, at rest", rest, {Code::SettingsNotKept});
-    row("settings", with(MatchTemplate, [](auto &f) { f.settingsKept = false; }),
-        {Code::SettingsNotKept});
+    const struct {
+        const char *name;
+        SaveTrouble trouble;
+        Code code;
+    } troubles[] = {
+        {"folder", SaveTrouble::FolderNotWritable, Code::SettingsNotKept},
+        {"file", SaveTrouble::FileNotAccessible, Code::SettingsFileNotAccessible},
+        {"something else", SaveTrouble::NotAFile, Code::SettingsPlaceTaken},
+        {"full disk", SaveTrouble::DiskFull, Code::SettingsDiskFull},
+    };
+    for (const auto &[name, trouble, code] : troubles) {
+        rest.saveTrouble = trouble;
+        QTest::addRow("settings, %s, at rest", name) << rest << std::optional(Notice{code});
+        NoticeFacts connected = wellIn(MatchTemplate);
+        connected.saveTrouble = trouble;
+        QTest::addRow("settings, %s", name) << connected << std::optional(Notice{code});
+    }
 }
 
 void NoticeTest::notices()
@@ -234,7 +247,7 @@ void NoticeTest::theMostUrgentOne()
         facts.fit = facts.fitAtStart = bad;
         facts.starAFound = facts.starBFound = false;
         facts.turnDegrees = 2;
-        facts.settingsKept = false;
+        facts.saveTrouble = SaveTrouble::FolderNotWritable;
         facts.connected = false;
     });
     QVector<int> order;
@@ -331,6 +344,8 @@ void NoticeTest::picksAreRemembered()
     progress.pick(SecondPick, {103, 104}, false);
     QCOMPARE(progress.movedPixels().value(), 5.0);
     QCOMPARE(progress.emptyPick(), 2);
+    progress.fitAxis({0, 0}); // two picks make no circle
+    QVERIFY(!progress.turns());
     progress.enter(ThirdPick);
     progress.pick(ThirdPick, {103, 105}, true);
     QCOMPARE(progress.movedPixels().value(), 1.0);

@@ -3,9 +3,12 @@
 #include "tests/support/logrecorder.h"
 #include "tests/support/mainwindowprobe.h"
 #include "tests/window/templatewindow.h"
+#include "widgets/magnifierwidget.h"
 
 #include <QAction>
 #include <QRadioButton>
+#include <QScrollArea>
+#include <QScrollBar>
 
 class TemplateControlsTest : public QObject
 {
@@ -25,6 +28,8 @@ private slots:
     void zoomMovesThePickedTemplate_data();
     void zoomMovesThePickedTemplate();
     void zoomInOtherStepsShowsTheFlatTemplate();
+    void zoomAfterAFactorOfNothing_data();
+    void zoomAfterAFactorOfNothing();
     void hemisphere();
     void hemisphereByTheSettings_data();
     void hemisphereByTheSettings();
@@ -251,6 +256,35 @@ void TemplateControlsTest::zoomInOtherStepsShowsTheFlatTemplate()
     w.trigger("action50");
     QCOMPARE(w.label.geometry(), QRect(star / 2 - QPoint(200, 200), QSize(400, 400)));
     QVERIFY(!w.label.isVisible());
+}
+
+void TemplateControlsTest::zoomAfterAFactorOfNothing_data()
+{
+    QTest::addColumn<QByteArray>("stored");
+    for (const char *const factor : {"0", "-1", "nan"})
+        QTest::newRow(factor) << QByteArray(factor);
+}
+
+/// There is no place in view to keep, and none is made up.
+void TemplateControlsTest::zoomAfterAFactorOfNothing()
+{
+    QFETCH(QByteArray, stored);
+    const CameraWindow w("[ZOOM]\nfactor=" + stored + '\n');
+    showFrame(starFrame({star}));
+    w.connectCamera();
+    sdk().setFramesLeft(-1);
+    const int fetches = sdk().fetchCount();
+    QTRY_VERIFY(sdk().fetchCount() > fetches + 5); // the first picture has been shown, with no size
+    QTest::qWait(60);
+    const QScrollArea &area = w.child<QScrollArea>("scrollArea_showImg");
+    const auto &magnifier = *w.window->findChild<MagnifierWidget *>();
+    const QPoint centre = magnifier.magnifiedCentre();
+    w.trigger("action75"); // 100 percent is ticked
+    QCOMPARE(magnifier.magnifiedCentre(), centre);
+    QTRY_COMPARE(w.child<QLabel>("label_showImg").pixmap(Qt::ReturnByValue).size(),
+                 QSize(960, 720));
+    QCOMPARE(area.horizontalScrollBar()->value(), 0);
+    QCOMPARE(area.verticalScrollBar()->value(), 0);
 }
 
 void TemplateControlsTest::hemisphere()

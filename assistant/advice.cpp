@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+// The decisions behind the advice.
+#include "assistant/advice.h"
+
+#include "astrometry/vector3.h"
+#include "recognition/axis.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace assistant
+{
+namespace
+{
+using recognition::ExtractionStatus;
+
+constexpr double nearlyThere = 60.0; // arcseconds
+
+Advice ofStars(const LostSky &frame)
+{
+    if (frame.stars >= plentyOfStars)
+        return {AdviceCode::NotThePole, double(frame.stars), 0.0, {}};
+    if (frame.hadSky)
+        return {AdviceCode::Clouds, double(frame.stars), 0.0, {}};
+    return {AdviceCode::ExposeLonger, double(frame.stars), 0.0, {}};
+}
+} // namespace
+
+std::size_t solidStars(const std::vector<recognition::DetectedStar> &stars)
+{
+    constexpr double leastRatio = 6.0;
+    return std::size_t(
+        std::count_if(stars.begin(), stars.end(), [](const recognition::DetectedStar &star) {
+            return star.snr >= leastRatio;
+        }));
+}
+
+Advice adviceOf(const LostSky &frame)
+{
+    switch (frame.status) {
+    case ExtractionStatus::Black:
+        return {AdviceCode::CoverOn, 0.0, 0.0, {}};
+    case ExtractionStatus::SaturatedSky:
+        return {AdviceCode::ExposeShorter, 0.0, 0.0, {}};
+    case ExtractionStatus::BadFrame:
+    case ExtractionStatus::TooLarge:
+    case ExtractionStatus::NoSky:
+        return {AdviceCode::NoSky, 0.0, 0.0, {}};
+    case ExtractionStatus::OutOfFocus:
+        return {AdviceCode::Focus, frame.fwhm, 0.0, {}};
+    case ExtractionStatus::Trailed: // with few stars, what is drawn out is noise
+    case ExtractionStatus::Ok:
+    case ExtractionStatus::TooFewStars:
+        break;
+    }
+    if (frame.status == ExtractionStatus::Trailed && frame.stars >= recognition::leastStars)
+        return {AdviceCode::HoldStill, 0.0, 0.0, {}};
+    if (!frame.hadSky && (frame.isFirst || frame.searching))
+        return {AdviceCode::Searching, double(frame.stars), 0.0, {}};
+    return ofStars(frame);
+}
+
+std::optional<Advice> adviceOnPole(recognition::PixelPlace pole, int width, int height,
+                                   double scale)
+{
+    const double outsideX = std::max({-0.5 - pole.x, pole.x - (width - 0.5), 0.0});
+    const double outsideY = std::max({-0.5 - pole.y, pole.y - (height - 0.5), 0.0});
+    if (outsideX <= 0.0 && outsideY <= 0.0)
+        return std::nullopt;
+    const double right = pole.x - (width - 1) / 2.0;
+    const double down = pole.y - (height - 1) / 2.0;
+    return Advice{AdviceCode::PoleThatWay,
+                  std::hypot(outsideX, outsideY) * scale / 3600.0,
+                  std::atan2(right, -down) / astrometry::degree,
+                  {}};
+}
+
+Advice adviceOnAxis(const AxisProgress &axis)
+{
+    if (axis.enough)
+        return {AdviceCode::StopTurning, axis.sigmaArcseconds, 0.0, {}};
+    constexpr double begun = 1.0; // degrees
+    return {axis.turnedDegrees < begun ? AdviceCode::TurnAxis : AdviceCode::TurnFurther,
+            axis.turnedDegrees,
+            0.0,
+            {}};
+}
+
+Advice adviceOnBolts(const ErrorFigures &error, double goal)
+{
+    const double total = error.total.arcseconds;
+    if (total < goal)
+        return {AdviceCode::Aligned, total, 0.0, {}};
+    return {total < nearlyThere ? AdviceCode::NearlyThere : AdviceCode::TurnBolts, total, 0.0, {}};
+}
+} // namespace assistant

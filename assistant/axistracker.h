@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+// Where does the RA axis lie in the picture, from the frames seen so far, and was anything bumped?
+#pragma once
+
+#include "recognition/axis.h"
+#include "recognition/recognise.h"
+
+#include <optional>
+#include <vector>
+
+namespace assistant
+{
+/// With so much turn the axis is known well enough in any case, degrees.
+inline constexpr double enoughTurn = 30.0;
+/// An axis known so well is enough, arcseconds, after `recognition::leastTurn`.
+inline constexpr double enoughSigma = 5.0;
+/// A third place of the axis so far from two others, degrees, tells whether they agree.
+inline constexpr double checkingTurn = 5.0;
+
+/// Keeps one frame for each step of the axis' angle, of one degree at first and coarser as they
+/// become many, so that a night needs no more memory than a minute. Not for two threads at a time.
+class AxisTracker
+{
+public:
+    static constexpr std::size_t mostKept = 40;
+
+    enum class Event {
+        None,
+        Bumped,     ///< tripod, bolts or camera moved: what does not fit was forgotten
+        OtherCamera ///< size, mirroring, hemisphere or scale changed: all was forgotten
+    };
+
+    /// Takes a recognised frame.
+    Event add(const recognition::Recognition &frame);
+    /// Whether `add` would keep the frame as the first of its angle: only such a frame must be
+    /// sharp.
+    bool isNewAngle(const recognition::Recognition &frame) const;
+    void reset();
+    /// The clock was set: what was kept gets the new time.
+    void shiftClock(double seconds);
+
+    /// Status Found, or why it is not known.
+    const recognition::Axis &axis() const { return known; }
+    double turnedDegrees() const;
+    std::size_t frames() const { return counted; }
+    bool isEnough() const;
+    /// Arcseconds between the direction that the axis' pixel shows in this frame and the one that
+    /// it showed while the axis was measured; nothing before the axis is known.
+    std::optional<double> departure(const recognition::Recognition &frame) const;
+    /// What `departure` may be if nothing moved, arcseconds.
+    double allowedDeparture(const recognition::Recognition &frame) const;
+
+private:
+    struct Kept {
+        recognition::Recognition frame;
+        double turn; ///< degrees since the first frame
+    };
+
+    double turnOf(const recognition::Recognition &frame) const;
+    bool isOtherCamera(const recognition::Recognition &frame) const;
+    bool jumped(const recognition::Recognition &frame, double turn) const;
+    bool hasAngle(double turn) const;
+    void keep(const recognition::Recognition &frame, double turn);
+    void thin();
+    Event solve();
+    Event startFrom(const recognition::Recognition &frame, Event event);
+    void updateDirection();
+
+    std::vector<Kept> kept;
+    std::optional<recognition::Recognition> previous;
+    double previousTurn = 0.0;
+    double leastTurn = 0.0, greatestTurn = 0.0;
+    double step = 1.0; ///< degrees
+    std::size_t counted = 0;
+    int departures = 0; ///< in a row
+    recognition::Axis known;
+    double directionX = 0.0, directionY = 0.0; ///< of the axis, across the Earth's axis
+};
+} // namespace assistant

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+// What time is it, and was the computer's clock set while the alignment went on?
+#pragma once
+
+#include <functional>
+#include <optional>
+
+namespace assistant
+{
+/// A smaller step than this, seconds, is no cause for alarm: the axis needs its frames' times to a
+/// second or two.
+inline constexpr double noticedClockStep = 2.0;
+
+/// Compares the computer's clock with one that nobody sets, from frame to frame, so that a clock
+/// that is slowed down or sped up over hours does not count.
+class ClockWatch
+{
+public:
+    /// @return by how many seconds the clock was set since the last call; 0: not
+    double step(double utcSeconds, double steadySeconds);
+
+private:
+    std::optional<double> offset; // utc minus steady
+};
+
+/// Where times come from. Each may be called from any thread.
+struct Clocks {
+    std::function<double()> utc;        ///< the computer's clock, seconds since 1970
+    std::function<double()> steady;     ///< seconds of a clock that nobody sets
+    std::function<bool()> synchronised; ///< whether the computer's clock is known to be right
+};
+Clocks systemClocks();
+
+/// Whether the kernel counts the computer's clock as synchronised; true where it cannot say.
+bool isClockSynchronised();
+} // namespace assistant

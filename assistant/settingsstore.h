@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+// What does the assistant remember from one run to the next, and how is it stored?
+#pragma once
+
+#include "assistant/settings.h"
+
+#include <QString>
+#include <optional>
+
+namespace assistant
+{
+/// `quorvandel-assistant.ini` in the user's configuration folder.
+QString settingsPath();
+
+/// Reads what is valid: a missing file or key, a value that is no number or out of range gives the
+/// default. Never constructs objects from the file's texts; needs no more memory for a large file.
+Settings loadSettings(const QString &path);
+
+/// Replaces the file in one step, with its folder if need be; false if it cannot be written.
+bool saveSettings(const QString &path, const Settings &settings);
+
+/// What is known of the site.
+struct KnownSite {
+    std::optional<double> latitude, longitude; ///< degrees, north and east positive
+};
+
+/// From the wizard's settings file. Its defaults are no site that anybody entered; the sign of the
+/// latitude follows the region.
+KnownSite siteOfWizard(const QString &wizardSettings);
+
+/// "LATITUDE,LONGITUDE" in degrees with decimal points, north and east positive; nothing for
+/// anything else.
+std::optional<astrometry::Site> parseSite(const QString &text);
+} // namespace assistant

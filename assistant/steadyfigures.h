@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+// How does the live error become steady without lagging behind the bolts?
+#pragma once
+
+#include "assistant/errorfigures.h"
+
+#include <cstddef>
+#include <deque>
+
+namespace assistant
+{
+/// The mean over the last frames as long as the axis stays where it is: at most `most` frames of at
+/// most `longest` seconds. A frame that differs from the mean by more than its own error allows
+/// begins again. The claim shrinks with the root of the frames' number, but of no more than
+/// `independent` of them and to no less than `floor`, since the stars' pixels, and with them a part
+/// of the errors, are the same in all frames.
+class SteadyFigures
+{
+public:
+    static constexpr std::size_t most = 10;
+    static constexpr double longest = 3.0; // seconds
+    static constexpr std::size_t independent = 4;
+    static constexpr double floor = 0.2; ///< arcseconds, each direction
+
+    FrameError add(const FrameError &error, double steadySeconds);
+    void reset() { recent.clear(); }
+
+private:
+    struct Sample {
+        FrameError error;
+        double seconds;
+    };
+    bool hasMoved(const FrameError &error) const;
+    FrameError mean() const;
+
+    std::deque<Sample> recent;
+};
+} // namespace assistant

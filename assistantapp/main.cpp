@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: MIT
+// The assistant's entry point: options, settings, session, window, event loop.
+#include "app/startup.h"
+#include "app/terminationsignals.h"
+#include "assistant/settingsstore.h"
+#include "assistantapp/options.h"
+#include "assistantwindow/assistantwindow.h"
+#include "assistantwindow/sessioninstrument.h"
+#include "camera/cameraoption.h"
+#include "core/languages.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QIcon>
+#include <QStandardPaths>
+#include <cstdio>
+#include <cstdlib>
+
+// Q_INIT_RESOURCE must be used in the global namespace.
+static void initialiseAssistantResources()
+{
+    Q_INIT_RESOURCE(assistantwindow);
+    Q_INIT_RESOURCE(assistant_catalogues);
+}
+
+namespace
+{
+constexpr int closingPatience = 12000; // milliseconds
+constexpr int misuse = 2;              // exit status for a bad option
+
+/// What the user entered in quorvandel, which keeps its settings beside its executable: in the
+/// user's data folder, or, when it is started from where it was built, beside this one.
+assistant::KnownSite siteOfTheOtherProgram()
+{
+    const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    for (const QString &folder :
+         {data + QStringLiteral("/quorvandel/bin"), QCoreApplication::applicationDirPath()}) {
+        const QString file = folder + QStringLiteral("/Quorvandel.ini");
+        if (QFileInfo(file).isFile())
+            return assistant::siteOfWizard(file);
+    }
+    return {};
+}
+
+/// Where the recorded frames go unless the user chooses.
+void chooseFolder(assistant::Settings &settings)
+{
+    if (settings.recordingFolder.isEmpty())
+        settings.recordingFolder =
+            QStandardPaths::writableLocation(QStandardPaths::PicturesLocation) +
+            QStringLiteral("/quorvandel");
+}
+
+/// The language of the option, else of the settings, else of the system.
+void chooseLanguage(const assistantapp::Options &options, assistant::Settings &settings)
+{
+    if (!options.language.isEmpty())
+        settings.language = options.language;
+    if (!findLanguage(settings.language))
+        settings.language = QLatin1String(bestLanguage(QLocale::system().uiLanguages()).code);
+    installRequestedLanguage(QStringLiteral("assistant"), settings.language);
+}
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    if (!takeCameraOption(argc, argv))
+        return misuse;
+    prepareApplication();
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("quorvandel-assistant"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("example.quorvandel.assistant"));
+    const assistantapp::Options options = assistantapp::parse(QApplication::arguments().mid(1));
+    if (options.helps)
+        return std::fputs(qPrintable(assistantapp::usage()), stdout) < 0 ? EXIT_FAILURE
+                                                                         : EXIT_SUCCESS;
+    if (!options.fault.isEmpty()) {
+        std::fprintf(stderr, "quorvandel-assistant: %s\n", qPrintable(options.fault));
+        return misuse;
+    }
+    initialiseAssistantResources();
+    assistant::Settings settings = assistant::loadSettings(assistant::settingsPath());
+    if (options.site)
+        settings.site = options.site;
+    chooseLanguage(options, settings);
+    chooseFolder(settings);
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/assistant/assistant.png")));
+    assistantwindow::SessionInstrument instrument(settings);
+    int status = 0;
+    {
+        assistantwindow::AssistantWindow window(
+            instrument, settings, [](const assistant::Settings &changed) {
+                assistant::saveSettings(assistant::settingsPath(), changed);
+            });
+        if (!settings.site)
+            window.suggestSite(siteOfTheOtherProgram());
+        const TerminationSignals closing(window);
+        if (options.maximized)
+            window.showMaximized();
+        else
+            window.show();
+        if (options.connects)
+            window.connectCamera();
+        status = QApplication::exec();
+    }
+    // A thread that hangs in a library can neither be ended nor outlive its objects.
+    if (!instrument.close(closingPatience))
+        std::_Exit(status);
+    return status;
+}

@@ -1,0 +1,285 @@
+// SPDX-License-Identifier: MIT
+// Connects the pages with the instrument and the settings.
+#include "assistantwindow/assistantwindow.h"
+
+#include "assistantwindow/largepage.h"
+#include "assistantwindow/mainpage.h"
+#include "assistantwindow/reportpage.h"
+#include "assistantwindow/settingspage.h"
+#include "core/languages.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QEvent>
+#include <QPushButton>
+#include <QScreen>
+#include <QShortcut>
+#include <QStandardPaths>
+
+namespace assistantwindow
+{
+namespace
+{
+constexpr int refreshMilliseconds = 20;
+constexpr unsigned ticksBetweenLooks = 12;
+constexpr QSize leastSize(800, 440), usualSize(1180, 740);
+} // namespace
+
+AssistantWindow::AssistantWindow(Instrument &theInstrument, const assistant::Settings &given,
+                                 std::function<void(const assistant::Settings &)> keeper,
+                                 QWidget *parent)
+    : QStackedWidget(parent),
+      instrument(theInstrument),
+      settings(given),
+      keep(std::move(keeper)),
+      mainPage(new MainPage),
+      largePage(new LargePage),
+      settingsPage(new SettingsPage(Sounds::canSpeak())),
+      reportPage(new ReportPage),
+      sitePanel(new SitePanel)
+{
+    setObjectName(QStringLiteral("assistantWindow"));
+    for (QWidget *const page :
+         {static_cast<QWidget *>(mainPage), static_cast<QWidget *>(largePage),
+          static_cast<QWidget *>(settingsPage), static_cast<QWidget *>(reportPage)})
+        addWidget(page);
+    // Said here: a hidden page's wrapped texts would ask for more height than they need when shown.
+    setMinimumSize(leastSize);
+    resize(usualSize.boundedTo(QGuiApplication::primaryScreen()->availableSize()));
+    sitePanel->show(settings.site);
+    settingsPage->show(settings);
+    reportPage->setFolder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    instrument.apply(settings);
+    applyTheme();
+    retranslate();
+    placeSite();
+    mainPage->showCameras({}, settings.cameraId);
+    instrument.findCameras();
+    connectButtons();
+    addShortcuts();
+    refresh();
+    connect(&timer, &QTimer::timeout, this, [this] {
+        // What concerns the camera alone changes without a frame.
+        const bool isDue = ++ticks % ticksBetweenLooks == 0;
+        if (isDue || instrument.latest().number != lastNumber)
+            refresh();
+    });
+    timer.start(refreshMilliseconds);
+    mainPage->connectButton->setFocus();
+}
+
+AssistantWindow::~AssistantWindow() = default;
+
+void AssistantWindow::connectButtons()
+{
+    const auto on = [this](QPushButton *button, void (AssistantWindow::*slot)()) {
+        connect(button, &QPushButton::clicked, this, [this, slot] { (this->*slot)(); });
+    };
+    on(mainPage->connectButton, &AssistantWindow::toggleConnection);
+    on(mainPage->largeViewButton, &AssistantWindow::openLarge);
+    on(mainPage->settingsButton, &AssistantWindow::openSettings);
+    on(mainPage->siteButton, &AssistantWindow::openSettings);
+    on(mainPage->reportButton, &AssistantWindow::openReport);
+    on(largePage->backButton, &AssistantWindow::openMain);
+    on(settingsPage->backButton, &AssistantWindow::openMain);
+    on(reportPage->backButton, &AssistantWindow::openMain);
+    connect(mainPage->startAgainButton, &QPushButton::clicked, this, [this] {
+        history.clear();
+        instrument.startAgain();
+    });
+    mainPage->picture->tapped = [this] { openLarge(); };
+    largePage->tapped = [this] { openMain(); };
+    connect(mainPage->automaticExposure, &QCheckBox::toggled, this,
+            [this](bool isOn) { instrument.setAutomaticExposure(isOn); });
+    mainPage->exposureMoved = [this](double microseconds) {
+        instrument.setExposure(microseconds);
+        mainPage->automaticExposure->setChecked(false);
+    };
+    settingsPage->edit = [this](const auto &how) { change(how); };
+    sitePanel->changed = [this](const std::optional<astrometry::Site> &site) {
+        change([&site](assistant::Settings &s) { s.site = site; });
+    };
+}
+
+void AssistantWindow::addShortcuts()
+{
+    const auto add = [this](const QKeySequence &key, const std::function<void()> &action) {
+        connect(new QShortcut(key, this), &QShortcut::activated, this, action);
+    };
+    add(Qt::Key_F2, [this] { mainPage->connectButton->click(); });
+    add(Qt::Key_F5, [this] { mainPage->startAgainButton->click(); });
+    add(Qt::Key_F9, [this] { mainPage->reportButton->click(); });
+    add(Qt::Key_F10, [this] { openSettings(); });
+    add(Qt::Key_F11, [this] { currentWidget() == largePage ? openMain() : openLarge(); });
+    add(Qt::Key_Escape, [this] { openMain(); });
+}
+
+void AssistantWindow::connectCamera()
+{
+    const QString chosen = mainPage->chosenCamera();
+    instrument.connectCamera(chosen.isEmpty() ? settings.cameraId : chosen);
+    if (!chosen.isEmpty() && chosen != settings.cameraId)
+        change([&chosen](assistant::Settings &s) { s.cameraId = chosen; });
+}
+
+void AssistantWindow::suggestSite(const assistant::KnownSite &site)
+{
+    if (!settings.site)
+        sitePanel->suggest(site);
+}
+
+void AssistantWindow::toggleConnection()
+{
+    if (instrument.isConnected()) {
+        instrument.disconnectCamera();
+        instrument.findCameras();
+    } else {
+        connectCamera();
+    }
+    refresh();
+}
+
+void AssistantWindow::showCameras()
+{
+    const std::vector<CameraEntry> found = instrument.cameras();
+    QStringList ids;
+    for (const CameraEntry &entry : found)
+        ids.append(entry.id);
+    if (ids == shownCameras)
+        return;
+    shownCameras = ids;
+    mainPage->showCameras(found, settings.cameraId);
+}
+
+void AssistantWindow::refresh()
+{
+    const Snapshot snapshot = instrument.latest();
+    const bool isConnected = instrument.isConnected();
+    const assistant::Status &status = snapshot.status;
+    if (!isConnected)
+        showCameras();
+    if (isConnected && !wasConnected)
+        history.clear();
+    wasConnected = isConnected;
+    if (status.frame != lastFrame && status.error)
+        history.add(status, status.utcSeconds);
+    lastFrame = status.frame;
+    lastNumber = snapshot.number;
+    const Display display = displayOf(status, settings, locale());
+    mainPage->show(display, snapshot, isConnected, history, settings);
+    mainPage->showExposure(snapshot, instrument.exposureRange());
+    if (currentWidget() == largePage)
+        largePage->show(display);
+    if (currentWidget() == reportPage)
+        reportPage->show(instrument.report().value_or(assistant::Report()));
+    sound(snapshot);
+}
+
+void AssistantWindow::sound(const Snapshot &snapshot)
+{
+    const auto &error = snapshot.status.error;
+    sounds.setPulses(settings.sound ? pulsesFor(error, settings.goalArcseconds) : Pulses());
+    if (settings.speech && settings.site)
+        sounds.say(spokenPhrase(error, settings.site->latitude, settings.goalArcseconds), locale());
+}
+
+void AssistantWindow::openLarge()
+{
+    if (currentWidget() == largePage)
+        return;
+    fullBefore = isFullScreen();
+    setCurrentWidget(largePage);
+    setWindowState(windowState() | Qt::WindowFullScreen);
+    largePage->backButton->setFocus();
+    refresh();
+}
+
+void AssistantWindow::openMain()
+{
+    if (currentWidget() == mainPage)
+        return;
+    const bool wasLarge = currentWidget() == largePage;
+    setCurrentWidget(mainPage);
+    if (wasLarge && !fullBefore)
+        setWindowState(windowState() & ~Qt::WindowFullScreen);
+    placeSite();
+    (wasLarge ? mainPage->largeViewButton : mainPage->connectButton)->setFocus();
+    refresh();
+}
+
+void AssistantWindow::openSettings()
+{
+    settingsPage->hostSite(sitePanel);
+    settingsPage->open(SettingsPage::Site);
+    setCurrentWidget(settingsPage);
+    settingsPage->backButton->setFocus();
+}
+
+void AssistantWindow::openReport()
+{
+    setCurrentWidget(reportPage);
+    reportPage->backButton->setFocus();
+    refresh();
+}
+
+void AssistantWindow::placeSite()
+{
+    if (currentWidget() != settingsPage)
+        mainPage->hostSite(sitePanel);
+}
+
+void AssistantWindow::change(const std::function<void(assistant::Settings &)> &how)
+{
+    const assistant::Settings before = settings;
+    how(settings);
+    keep(settings);
+    instrument.apply(settings);
+    if (settings.redTheme != before.redTheme)
+        applyTheme();
+    if (settings.language != before.language)
+        applyLanguage();
+    refresh();
+}
+
+void AssistantWindow::applyTheme()
+{
+    const Theme &colours = theme(settings.redTheme);
+    setPalette(themePalette(colours));
+    setStyleSheet(themeSheet(colours));
+    mainPage->setTheme(colours);
+    largePage->setTheme(colours);
+    settingsPage->setTheme(colours);
+    reportPage->setTheme(colours);
+    redLight.setOn(settings.redTheme);
+}
+
+void AssistantWindow::applyLanguage()
+{
+    const Language *const language = findLanguage(settings.language);
+    if (!language)
+        return;
+    QLocale::setDefault(QLocale(QLatin1String(language->locale)));
+    setLocale(QLocale());
+    installTranslator(QStringLiteral("assistant"), *language);
+    retranslate();
+}
+
+void AssistantWindow::changeEvent(QEvent *event)
+{
+    QStackedWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+}
+
+void AssistantWindow::retranslate()
+{
+    //: The window's title
+    setWindowTitle(QCoreApplication::translate("AssistantWindow", "Quorvandel Assistant"));
+    mainPage->retranslate();
+    largePage->retranslate();
+    settingsPage->retranslate();
+    reportPage->retranslate();
+    sitePanel->retranslate();
+}
+} // namespace assistantwindow

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+// What does the window show of one status?
+#pragma once
+
+#include "assistant/settings.h"
+#include "assistantwindow/advicetexts.h"
+#include "assistantwindow/bolts.h"
+#include "assistantwindow/figures.h"
+
+namespace assistantwindow
+{
+/// A figure as text, and as the dynamic properties of its label.
+struct Figure {
+    QString text;  ///< a dash if there is no valid number
+    QString sigma; ///< "± 3″"; empty if there is none
+    std::optional<double> arcseconds, sigmaArcseconds;
+};
+
+struct Display {
+    assistant::Stage stage = assistant::Stage::Connect;
+    QString stageText, advice;
+    QString hint; ///< the second advice; empty if there is none
+    AdviceMood mood = AdviceMood::Calm;
+    Figure total, altitude, azimuth;
+    QString uncertainty; ///< of the axis while it is turned, then of the total error
+    BoltWays ways;
+    double altitudeArrow = 0.0, azimuthArrow = 0.0; ///< degrees, 0 up, positive clockwise
+    bool aligned = false;                           ///< the guide says so
+    bool hasBolts = false;                          ///< altitude and azimuth are known
+    /// From the axis to the pole in the picture, degrees, 0 up, positive clockwise: where the
+    /// bolts must move the axis.
+    std::optional<double> pictureArrow;
+    QString axisTurn;
+    double axisShare = 0.0; ///< of the turn that is enough, 0 to 1
+    bool axisEnough = false;
+    QString stars; ///< "21 of 34 stars recognised"; empty if none
+    QString focus; ///< the stars' width; empty without stars
+};
+
+/// The turn of the axis that is enough, degrees.
+inline constexpr double enoughTurn = 30.0;
+
+Display displayOf(const assistant::Status &status, const assistant::Settings &settings,
+                  const QLocale &locale);
+} // namespace assistantwindow

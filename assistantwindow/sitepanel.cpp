@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+// Builds the fields of the site, and reads them.
+#include "assistantwindow/sitepanel.h"
+
+#include <QCoreApplication>
+#include <QGridLayout>
+#include <QLabel>
+#include <QSignalBlocker>
+
+namespace assistantwindow
+{
+namespace
+{
+void setUp(QDoubleSpinBox &field, double most)
+{
+    field.setDecimals(4);
+    field.setRange(-most - 1.0, most);
+    field.setSpecialValueText(QStringLiteral("—"));
+    field.setSuffix(QStringLiteral("°"));
+    field.setValue(field.minimum());
+    field.setKeyboardTracking(false);
+}
+
+bool isMissing(const QDoubleSpinBox &field)
+{
+    return field.value() < field.minimum() + 1.0;
+}
+
+QString text(const char *source)
+{
+    return QCoreApplication::translate("SitePanel", source);
+}
+} // namespace
+
+SitePanel::SitePanel(QWidget *parent)
+    : QWidget(parent),
+      latitude(new BigSpin(QStringLiteral("doubleSpinBox_latitude"), {1.0, 0.1})),
+      longitude(new BigSpin(QStringLiteral("doubleSpinBox_longitude"), {1.0, 0.1})),
+      latitudeName(new QLabel),
+      longitudeName(new QLabel),
+      use(new QLabel)
+{
+    setObjectName(QStringLiteral("sitePanel"));
+    setUp(latitude->field(), 90.0);
+    setUp(longitude->field(), 180.0);
+    use->setObjectName(QStringLiteral("label_siteUse"));
+    use->setWordWrap(true);
+    use->setProperty("quiet", true);
+    auto *const column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(4);
+    for (QWidget *const widget :
+         {static_cast<QWidget *>(use), static_cast<QWidget *>(latitudeName),
+          static_cast<QWidget *>(latitude), static_cast<QWidget *>(longitudeName),
+          static_cast<QWidget *>(longitude)})
+        column->addWidget(widget);
+    for (QDoubleSpinBox *const field : {&latitude->field(), &longitude->field()})
+        connect(field, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, [this] {
+            if (changed)
+                changed(site());
+        });
+    retranslate();
+}
+
+void SitePanel::show(const std::optional<astrometry::Site> &shown)
+{
+    const QSignalBlocker first(&latitude->field()), second(&longitude->field());
+    latitude->field().setValue(shown ? shown->latitude : latitude->field().minimum());
+    longitude->field().setValue(shown ? shown->longitude : longitude->field().minimum());
+}
+
+void SitePanel::suggest(const assistant::KnownSite &site)
+{
+    if (site.latitude)
+        latitude->field().setValue(*site.latitude);
+    if (site.longitude)
+        longitude->field().setValue(*site.longitude);
+}
+
+std::optional<astrometry::Site> SitePanel::site() const
+{
+    if (isMissing(latitude->field()) || isMissing(longitude->field()))
+        return {};
+    return astrometry::Site{latitude->field().value(), longitude->field().value()};
+}
+
+void SitePanel::retranslate()
+{
+    latitudeName->setText(text(QT_TRANSLATE_NOOP("SitePanel", "Latitude, north positive")));
+    longitudeName->setText(text(QT_TRANSLATE_NOOP("SitePanel", "Longitude, east positive")));
+    latitude->setName(latitudeName->text());
+    longitude->setName(longitudeName->text());
+    use->setText(text(QT_TRANSLATE_NOOP(
+        "SitePanel", "With the site, the assistant says which way each bolt must go.")));
+}
+} // namespace assistantwindow

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+// Which part of the frame is shown, and where does a pixel of it come to lie?
+#pragma once
+
+#include "recognition/mapping.h"
+
+#include <QPointF>
+#include <QRectF>
+#include <QSize>
+#include <QStringList>
+#include <optional>
+#include <vector>
+
+namespace assistantwindow
+{
+/// Frame pixels to widget pixels. A frame's (0, 0) is the centre of a pixel, so its picture begins
+/// half a pixel before it.
+struct View {
+    double scale = 1.0; ///< widget pixels a frame pixel
+    QPointF origin;     ///< where the frame's (0, 0) lies in the widget
+
+    QPointF place(double x, double y) const { return origin + QPointF(x, y) * scale; }
+    QPointF place(const recognition::PixelPlace &p) const { return place(p.x, p.y); }
+};
+
+/// The whole frame, as large as fits, in the middle.
+View wholeView(QSize frame, QSize widget);
+
+/// `centre` (frame pixels) in the middle of the widget, `radius` frame pixels to its nearer border.
+View closeView(QPointF centre, double radius, QSize widget);
+
+/// How close the view is: 0 the whole frame, 1 from 1′ down, 2 from 15″ down. It opens only at
+/// errors well above, so noise does not make it flicker.
+int zoomLevel(int now, const std::optional<double> &totalArcseconds);
+
+/// What is visible around the pole, arcseconds from the middle to the nearer border; 0 for the
+/// whole frame.
+double zoomRadius(int level);
+
+/// An ellipse for a covariance: half axes of `sigmas` standard deviations, frame pixels, and the
+/// direction of the longer one, degrees, 0 right, positive clockwise on the screen.
+struct Ellipse {
+    double longer = 0.0, shorter = 0.0, degrees = 0.0;
+};
+Ellipse ellipseOf(const recognition::Covariance &covariance, double sigmas);
+
+/// Which of these boxes, most important first, can be drawn without overlapping each other or
+/// `taken`, and inside `bounds`; at most `most` of them.
+std::vector<std::size_t> thinned(const std::vector<QRectF> &boxes, const std::vector<QRectF> &taken,
+                                 const QRectF &bounds, std::size_t most);
+
+/// Where a ray from the middle of `bounds` towards `target` leaves it; nothing if the target is
+/// inside.
+struct EdgeArrow {
+    QPointF tip;
+    double degrees; ///< 0 up, positive clockwise
+};
+std::optional<EdgeArrow> arrowToOutside(const QPointF &target, const QRectF &bounds);
+/// The same for a direction, as `assistant::Advice` gives it.
+EdgeArrow arrowInDirection(double degrees, const QRectF &bounds);
+} // namespace assistantwindow

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+// How exactly, how fast and how steadily does the assistant align?
+#include "bench/assistant/reports.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+namespace
+{
+constexpr char usage[] = "usage: assistantreport starts|library|night|speed [NUMBER]\n"
+                         "  starts [COUNT]   alignments from random starts, painted (20)\n"
+                         "  library [COUNT]  the same on the camera library, in real time (20)\n"
+                         "  night [HOURS]    bolts at rest (8)\n"
+                         "  speed [FRAMES]   frame to status (300)\n";
+}
+
+int main(int argc, char *argv[])
+{
+    const auto is = [&](const char *name) { return argc > 1 && std::strcmp(argv[1], name) == 0; };
+    const int given = argc > 2 ? std::atoi(argv[2]) : 0;
+    const auto number = [given](int byDefault) { return given > 0 ? given : byDefault; };
+    if (is("starts"))
+        reportStarts(number(20), false);
+    else if (is("library"))
+        reportStarts(number(20), true);
+    else if (is("night"))
+        reportNight(number(8));
+    else if (is("speed"))
+        reportSpeed(number(300));
+    else
+        return std::fputs(usage, stderr), EXIT_FAILURE;
+    return EXIT_SUCCESS;
+}

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+// The lens by a frame's stars, and its values into the sky file.
+#include <algorithm>
+#include <cstdio>
+#include <ctime>
+#include <fstream>
+#include <iterator>
+
+#include "cameracommand/actions.h"
+#include "cameracommand/grabbing.h"
+#include "cameracommand/skyvalues.h"
+#include "framesources/preparation.h"
+#include "pictures/grey.h"
+#include "recognition/extraction.h"
+#include "recognition/recognise.h"
+#include "virtualcamera/skyfile.h"
+
+namespace
+{
+constexpr int tries = 5; // frames, until the stars of one are recognised
+
+struct Checked {
+    recognition::Extraction extraction;
+    recognition::Recognition sky;
+    int binning = 1;
+};
+
+Checked checked(const framesources::NativeFrame &frame, const CameraCommandLine &wishes,
+                bool soften)
+{
+    cv::Mat grey = pictures::greyOf(frame.pixels, frame.mosaic);
+    if (soften)
+        grey = framesources::softened(grey);
+    recognition::RecognitionOptions options;
+    options.utcSeconds = wishes.date.value_or(frame.date.value_or(double(std::time(nullptr))));
+    options.leastScale = 0.5;
+    options.greatestScale = 200.0;
+    Checked out;
+    out.binning = frame.binning;
+    out.extraction = recognition::extractStars(grey);
+    out.sky = recognition::recognise(out.extraction.stars, grey.cols, grey.rows, options);
+    return out;
+}
+
+void print(const Checked &found)
+{
+    const recognition::Recognition &sky = found.sky;
+    std::printf("scale: %.3f arcseconds a pixel%s\n", sky.scale / found.binning,
+                found.binning > 1 ? " of the sensor, unbinned" : "");
+    std::printf("mirrored: %s\n", sky.mirrored ? "true" : "false");
+    std::printf("roll: %.1f degrees\n", sky.rollDegrees);
+    std::printf("hemisphere: %s\n",
+                sky.hemisphere == recognition::Hemisphere::North ? "north" : "south");
+    std::printf("pole: %.1f, %.1f\n", sky.pole.x, sky.pole.y);
+    std::printf("stars: %zu found, %zu recognised\n", found.extraction.stars.size(),
+                sky.matched.size());
+    std::printf("focus: stars are %.1f pixels wide\n", found.extraction.fwhm);
+}
+
+int writeValues(const Checked &found)
+{
+    const std::string path = virtualsky::skyFilePath();
+    std::ifstream file(path, std::ios::binary);
+    std::string text(std::istreambuf_iterator<char>(file), {});
+    char scale[32];
+    std::snprintf(scale, sizeof scale, "%.3f", found.sky.scale / found.binning);
+    text = withSkyValue(text, "camera", "scale", scale);
+    text = withSkyValue(text, "camera", "mirrored", found.sky.mirrored ? "true" : "false");
+    try {
+        virtualsky::parse(text);
+    } catch (const virtualsky::SkyFileError &error) {
+        complain(path + ": " + error.what() + "; nothing is written");
+        return failed;
+    }
+    if (!virtualsky::writeAtomically(path, text)) {
+        complain(path + ": it cannot be written");
+        return failed;
+    }
+    std::printf("scale and mirrored are written into %s\n", path.c_str());
+    return succeeded;
+}
+} // namespace
+
+int checkLens(const CameraCommandLine &wishes)
+{
+    const auto source = chosenSource(wishes);
+    const auto camera = openCamera(wishes);
+    Checked found;
+    for (int time = 0; camera && time < tries; ++time) {
+        const auto frame = awaitFrame(*camera, wishes);
+        if (!frame)
+            return failed;
+        found = checked(*frame, wishes, source && source->soften);
+        if (found.sky.status == recognition::RecognitionStatus::Recognised)
+            break;
+    }
+    if (!camera)
+        return failed;
+    if (found.sky.status != recognition::RecognitionStatus::Recognised) {
+        const std::string frame = recognition::reasonOf(found.extraction);
+        std::printf("not recognised: %s\n",
+                    (frame.empty() ? recognition::reason(found.sky) : frame).c_str());
+        return failed;
+    }
+    print(found);
+    return wishes.write ? writeValues(found) : succeeded;
+}

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+// Frames into files: grab and record.
+#include <cstdio>
+#include <ctime>
+#include <opencv2/imgcodecs.hpp>
+#include <sys/stat.h>
+
+#include "cameracommand/actions.h"
+#include "cameracommand/grabbing.h"
+#include "pictures/fitsfile.h"
+#include "pictures/grey.h"
+
+namespace
+{
+bool endsIn(const std::string &path, const std::string &suffix)
+{
+    return path.size() > suffix.size() &&
+           path.compare(path.size() - suffix.size(), suffix.size(), suffix) == 0;
+}
+
+bool isFitsName(const std::string &path)
+{
+    return endsIn(path, ".fits") || endsIn(path, ".fit");
+}
+
+/// An empty text = it is written.
+std::string write(const std::string &path, const framesources::NativeFrame &frame, double exposure)
+{
+    if (isFitsName(path))
+        return pictures::writeFits(path, pictures::greyOf(frame.pixels, frame.mosaic),
+                                   frame.date ? *frame.date : double(std::time(nullptr)), exposure);
+    try {
+        if (cv::imwrite(path, frame.pixels))
+            return {};
+    } catch (const std::exception &) { // no format that it knows
+    }
+    return "it cannot be written";
+}
+} // namespace
+
+int grabFrame(const CameraCommandLine &wishes)
+{
+    if (!isFitsName(wishes.target) && !endsIn(wishes.target, ".png")) {
+        complain("the file's name must end in .png, .fits or .fit");
+        return misused;
+    }
+    const auto camera = openCamera(wishes);
+    const auto frame = camera ? awaitFrame(*camera, wishes) : std::nullopt;
+    if (!frame)
+        return failed;
+    if (const std::string fault = write(wishes.target, *frame, wishes.exposureSeconds);
+        !fault.empty()) {
+        complain(wishes.target + ": " + fault);
+        return failed;
+    }
+    std::printf("%s: %d x %d pixels, %d bits\n", wishes.target.c_str(), frame->pixels.cols,
+                frame->pixels.rows, frame->pixels.depth() == CV_8U ? 8 : 16);
+    return succeeded;
+}
+
+int recordFrames(const CameraCommandLine &wishes)
+{
+    ::mkdir(wishes.target.c_str(), 0777);
+    struct stat status = {};
+    if (::stat(wishes.target.c_str(), &status) != 0 || !S_ISDIR(status.st_mode)) {
+        complain(wishes.target + ": it is no folder and cannot be made one");
+        return failed;
+    }
+    const auto camera = openCamera(wishes);
+    for (int number = 1; number <= wishes.frames; ++number) {
+        const auto frame = camera ? awaitFrame(*camera, wishes) : std::nullopt;
+        if (!frame)
+            return failed;
+        char name[32];
+        std::snprintf(name, sizeof name, "/frame-%06d.fits", number);
+        const std::string path = wishes.target + name;
+        if (const std::string fault = write(path, *frame, wishes.exposureSeconds); !fault.empty()) {
+            complain(path + ": " + fault);
+            return failed;
+        }
+    }
+    std::printf("%d frames are in %s\n", wishes.frames, wishes.target.c_str());
+    return succeeded;
+}

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+// Opens the chosen camera and waits for frames.
+#include "cameracommand/grabbing.h"
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <dlfcn.h>
+
+#include "cameracommand/operationscamera.h"
+#include "framesources/nativecameras.h"
+#include "virtualcamera/skyfile.h"
+#include "virtualcamera/skywatch.h"
+
+namespace
+{
+using framesources::SourceSettings;
+using virtualsky::Source;
+
+/// Whether the loader finds a library of the maker's name, which the program prefers.
+bool makersLibraryIsThere()
+{
+    void *const library = ::dlopen("libveldix.so.20", RTLD_LAZY | RTLD_LOCAL);
+    if (library)
+        ::dlclose(library);
+    return library != nullptr;
+}
+} // namespace
+
+void complain(const std::string &text)
+{
+    std::fprintf(stderr, "quorvandel-camera: %s\n", text.c_str());
+}
+
+std::optional<SourceSettings> chosenSource(const CameraCommandLine &wishes)
+{
+    virtualsky::SkyWatch watch(virtualsky::skyFilePath(), complain);
+    const virtualsky::SkyState &sky = watch.current();
+    SourceSettings settings;
+    settings.pace = sky.pace;
+    settings.stream = sky.stream;
+    settings.soften = sky.soften;
+    const char *const variable = std::getenv(virtualsky::cameraVariable);
+    std::optional<virtualsky::CameraAddress> address = wishes.camera;
+    if (!address && variable)
+        address = virtualsky::parseCameraAddress(variable);
+    if (!address && makersLibraryIsThere())
+        return std::nullopt;
+    if (!address && sky.source == Source::Indi)
+        address = virtualsky::parseIndiAddress(sky.indi);
+    if (!address && sky.source == Source::Files) {
+        address.emplace();
+        address->source = Source::Files;
+        address->pattern = sky.files;
+    }
+    if (!address || address->source == Source::Sky)
+        return std::nullopt;
+    settings.address = *address;
+    return settings;
+}
+
+std::unique_ptr<framesources::NativeCamera> openCamera(const CameraCommandLine &wishes)
+{
+    std::unique_ptr<framesources::NativeCamera> camera;
+    if (const auto source = chosenSource(wishes)) {
+        camera = makeNativeCamera(*source, complain);
+    } else {
+        if (wishes.camera)
+            ::setenv(virtualsky::cameraVariable, addressText(*wishes.camera).c_str(), 1);
+        camera = std::make_unique<OperationsCamera>(complain);
+        if (!camera->isPresent())
+            camera.reset();
+    }
+    return camera;
+}
+
+std::optional<framesources::NativeFrame> awaitFrame(framesources::NativeCamera &camera,
+                                                    const CameraCommandLine &wishes)
+{
+    using Clock = std::chrono::steady_clock;
+    const std::chrono::duration<double> patience(30.0 + 2.0 * wishes.exposureSeconds);
+    framesources::Wish wish;
+    wish.exposureSeconds = wishes.exposureSeconds;
+    wish.gain = wishes.gain;
+    wish.whole = true;
+    wish.wanted = true;
+    const Clock::time_point begin = Clock::now();
+    while (Clock::now() - begin < patience)
+        if (auto frame = camera.next(wish))
+            return frame;
+    complain("no frame came");
+    return std::nullopt;
+}

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+// The command quorvandel-camera: its arguments, and its exit status.
+#include <QCoreApplication>
+#include <cstdio>
+#include <opencv2/core/utils/logger.hpp>
+
+#include "cameracommand/actions.h"
+
+int main(int argc, char *argv[])
+{
+    cv::utils::logging::setLogLevel(cv::utils::logging::LOG_LEVEL_SILENT);
+    const CameraCommandLine wishes = parseCameraCommandLine({argv + 1, argv + argc});
+    QCoreApplication application(argc, argv); // tells where the shipped library is
+    using Wish = CameraCommandLine::Wish;
+    switch (wishes.wish) {
+    case Wish::List:
+        return listCameras(wishes);
+    case Wish::Grab:
+        return grabFrame(wishes);
+    case Wish::Record:
+        return recordFrames(wishes);
+    case Wish::Check:
+        return checkLens(wishes);
+    case Wish::Help:
+        return std::fputs(cameraCommandHelp, stdout) < 0 ? failed : succeeded;
+    case Wish::Version:
+        std::puts("quorvandel-camera " QUORVANDEL_VERSION);
+        return succeeded;
+    case Wish::Misuse:
+        break;
+    }
+    std::fprintf(stderr, "quorvandel-camera: %s\nquorvandel-camera --help lists the options.\n",
+                 wishes.complaint.c_str());
+    return misused;
+}

@@ -1,0 +1,327 @@
+// SPDX-License-Identifier: MIT
+// The stages from a lost server to frames.
+#include "framesources/indicamera.h"
+
+#include <algorithm>
+#include <thread>
+
+namespace framesources
+{
+namespace
+{
+using namespace std::chrono_literals;
+constexpr auto slice = 50ms;
+constexpr double firstPause = 0.25, longestPause = 1.5; // seconds between two tries
+constexpr double appearPatience = 3.0;                  // seconds for the device's properties
+constexpr double connectPatience = 15.0;                // for the device to find its camera
+constexpr double definePatience = 2.0;                  // for what not every device has
+constexpr double readoutPatience = 1.5;                 // for a device to take region and binning
+constexpr int readoutTries = 3;                         // some refuse while they expose
+constexpr double silencePatience = 6.0;                 // beyond the exposure
+constexpr double longestStreamed = 2.0;                 // seconds of an exposure
+
+double seconds(std::chrono::steady_clock::duration span)
+{
+    return std::chrono::duration<double>(span).count();
+}
+
+std::string listOf(const std::vector<std::string> &names)
+{
+    std::string list;
+    for (const std::string &name : names)
+        list += (list.empty() ? "" : ", ") + name;
+    return list.empty() ? "none" : list;
+}
+} // namespace
+
+IndiCamera::IndiCamera(virtualsky::CameraAddress cameraAddress, bool useStream, Report reportLine)
+    : address(std::move(cameraAddress)),
+      report(std::move(reportLine)),
+      retryAt(Clock::now()),
+      streamFails(!useStream)
+{
+}
+
+/// Each line once, until another one.
+void IndiCamera::say(const std::string &line)
+{
+    if (line == lastSaid)
+        return;
+    lastSaid = line;
+    report(line);
+}
+
+double IndiCamera::sinceStage() const
+{
+    return seconds(Clock::now() - stageBegan);
+}
+
+void IndiCamera::lose(const std::string &reason)
+{
+    client.reset();
+    present = false;
+    stage = Stage::Lost;
+    streaming = exposing = false;
+    pause = std::clamp(pause * 2.0, firstPause, longestPause);
+    retryAt = Clock::now() + std::chrono::milliseconds(int(pause * 1000.0));
+    say(reason + "; trying again");
+}
+
+void IndiCamera::connect()
+{
+    if (Clock::now() < retryAt) {
+        std::this_thread::sleep_for(slice);
+        return;
+    }
+    client = std::make_unique<IndiClient>(address.host, address.port, address.device);
+    stageBegan = Clock::now();
+    if (!client->connectServer())
+        return lose("there is no INDI server at " + address.host + ", port " +
+                    std::to_string(address.port));
+    removals = 0;
+    stage = Stage::Appearing;
+}
+
+void IndiCamera::awaitDevice()
+{
+    client->waitForNews(slice);
+    if (client->has("CONNECTION")) {
+        stage = Stage::Connecting;
+        stageBegan = Clock::now();
+        if (!client->isOn("CONNECTION", "CONNECT").value_or(false))
+            client->sendSwitch("CONNECTION", "CONNECT");
+        return;
+    }
+    if (sinceStage() > appearPatience)
+        lose(client->devices().empty() ? std::string("the INDI server does not answer")
+                                       : "the INDI server has no device of this name; it has: " +
+                                             listOf(client->devices()));
+}
+
+void IndiCamera::awaitConnection()
+{
+    client->waitForNews(slice);
+    const bool on = client->isOn("CONNECTION", "CONNECT").value_or(false);
+    const bool complete =
+        client->has("CCD_INFO") && client->has("CCD_FRAME") && client->has("CCD_BINNING");
+    if (on && client->has("CCD1") && (complete || sinceStage() > definePatience) &&
+        (client->has("CCD_EXPOSURE") || client->has("CCD_VIDEO_STREAM")))
+        return setUp();
+    const bool refused = !on && client->state("CONNECTION") == IndiState::Alert;
+    if (!refused && sinceStage() < connectPatience)
+        return;
+    const std::string message = client->takeMessage();
+    lose((on ? "the device is no camera" : "the device does not connect") +
+         (message.empty() ? "" : ": " + message));
+}
+
+void IndiCamera::setUp()
+{
+    // Those that a device has; what it is not asked for stays as its owner set it.
+    static constexpr std::pair<const char *, const char *> switches[] = {
+        {"CCD_VIDEO_STREAM", "STREAM_OFF"}, // left on by a program that is gone
+        {"UPLOAD_MODE", "UPLOAD_CLIENT"},
+        {"CCD_TRANSFER_FORMAT", "FORMAT_FITS"},
+        {"CCD_COMPRESSION", "INDI_DISABLED"},
+        {"CCD_FRAME_TYPE", "FRAME_LIGHT"}};
+    for (const auto &[property, element] : switches)
+        if (!client->isOn(property, element).value_or(true))
+            client->sendSwitch(property, element);
+    client->askForPictures();
+    stage = Stage::Ready;
+    stageBegan = lastFrame = Clock::now();
+    gain = -1.0;
+    readout = {};
+    readoutsSent = 0;
+    exposure = 0.0;
+    present = true;
+    say("connected");
+}
+
+void IndiCamera::applyGain(double wanted)
+{
+    if (wanted == gain)
+        return;
+    gain = wanted;
+    static constexpr std::pair<const char *, const char *> places[] = {{"CCD_GAIN", "GAIN"},
+                                                                       {"CCD_CONTROLS", "Gain"}};
+    for (const auto &[property, element] : places)
+        if (const auto limits = client->number(property, element); limits) {
+            if (limits->most > limits->least)
+                client->sendNumbers(property,
+                                    {{element, deviceGain(gain, limits->least, limits->most)}});
+            return;
+        }
+}
+
+/// Region and binning; only where the device lets both be set.
+void IndiCamera::applyReadout(const Wish &wish)
+{
+    const auto width = client->number("CCD_INFO", "CCD_MAX_X");
+    const auto height = client->number("CCD_INFO", "CCD_MAX_Y");
+    const auto binning = client->number("CCD_BINNING", "HOR_BIN");
+    constexpr double longest = 100000.0; // pixels
+    if (!width || !height || !client->has("CCD_FRAME") || !(width->value >= 1.0) ||
+        !(height->value >= 1.0) || width->value > longest || height->value > longest)
+        return;
+    sensor = cv::Size(int(width->value), int(height->value));
+    const int most = binning ? int(std::clamp(binning->most, 1.0, 16.0)) : 1;
+    const Readout wanted = planReadout(sensor, most, wish.scale, wish.whole);
+    if (wanted != readout)
+        readoutsSent = 0;
+    else if (!binning || int(binning->value) == wanted.binning || readoutsSent >= readoutTries ||
+             seconds(Clock::now() - readoutSent) < readoutPatience)
+        return;
+    stopFrames();
+    readout = wanted;
+    readoutSent = Clock::now();
+    ++readoutsSent;
+    if (binning)
+        client->sendNumbers("CCD_BINNING", {{"HOR_BIN", double(readout.binning)},
+                                            {"VER_BIN", double(readout.binning)}});
+    client->sendNumbers("CCD_FRAME", {{"X", double(readout.region.x)},
+                                      {"Y", double(readout.region.y)},
+                                      {"WIDTH", double(readout.region.width)},
+                                      {"HEIGHT", double(readout.region.height)}});
+}
+
+void IndiCamera::startStream(double wanted)
+{
+    if (const auto limits = client->number("STREAMING_EXPOSURE", "STREAMING_EXPOSURE_VALUE")) {
+        const auto divisor = client->number("STREAMING_EXPOSURE", "STREAMING_DIVISOR_VALUE");
+        IndiClient::Values values = {
+            {"STREAMING_EXPOSURE_VALUE", withinLimits(wanted, limits->least, limits->most)}};
+        if (divisor)
+            values.emplace_back("STREAMING_DIVISOR_VALUE", 1.0);
+        client->sendNumbers("STREAMING_EXPOSURE", values);
+    }
+    client->sendSwitch("CCD_VIDEO_STREAM", "STREAM_ON");
+    streaming = true;
+}
+
+void IndiCamera::startExposure(double wanted)
+{
+    const auto limits = client->number("CCD_EXPOSURE", "CCD_EXPOSURE_VALUE");
+    if (!limits)
+        return;
+    client->sendNumbers("CCD_EXPOSURE", {{"CCD_EXPOSURE_VALUE",
+                                          withinLimits(wanted, limits->least, limits->most)}});
+    exposing = true;
+}
+
+void IndiCamera::startFrames(const Wish &wish)
+{
+    const bool canStream = client->has("CCD_VIDEO_STREAM") && !streamFails;
+    const bool canExpose = client->has("CCD_EXPOSURE");
+    const bool stream = canStream && (!canExpose || wish.exposureSeconds <= longestStreamed);
+    if (streaming && stream && wish.exposureSeconds == exposure)
+        return;
+    if (streaming)
+        stopFrames();
+    if (exposing)
+        return;
+    exposure = wish.exposureSeconds;
+    lastFrame = Clock::now();
+    if (stream)
+        startStream(exposure);
+    else
+        startExposure(exposure);
+}
+
+void IndiCamera::stopFrames()
+{
+    if (streaming)
+        client->sendSwitch("CCD_VIDEO_STREAM", "STREAM_OFF");
+    if (exposing && client->has("CCD_ABORT_EXPOSURE"))
+        client->sendSwitch("CCD_ABORT_EXPOSURE", "ABORT");
+    streaming = exposing = false;
+}
+
+/// No frame for too long: a stream that does not begin gives way to single exposures, else the
+/// connection counts as lost.
+void IndiCamera::checkSilence()
+{
+    if (seconds(Clock::now() - lastFrame) < exposure + silencePatience)
+        return;
+    if (streaming && !streamFails && client->has("CCD_EXPOSURE") && client->isConnected()) {
+        say("the video stream has no frames; single exposures are used");
+        stopFrames();
+        streamFails = true;
+        lastFrame = Clock::now();
+        return;
+    }
+    lose("no frames come");
+}
+
+std::optional<NativeFrame> IndiCamera::takeFrame(const Wish &wish)
+{
+    std::optional<IndiBlob> blob = client->takeBlob();
+    if (!blob)
+        return std::nullopt;
+    lastFrame = Clock::now();
+    pause = 0.0;
+    if (exposing) { // the next exposure runs while this one is decoded
+        exposing = false;
+        startFrames(wish);
+    }
+    const auto width = client->number("CCD_STREAM_FRAME", "WIDTH");
+    const auto height = client->number("CCD_STREAM_FRAME", "HEIGHT");
+    StreamShape shape;
+    if (width && height && width->value >= 1.0 && width->value < 65536.0 && height->value >= 1.0 &&
+        height->value < 65536.0)
+        shape.size = cv::Size(int(width->value), int(height->value));
+    else
+        shape.size = readout.region.size() / readout.binning;
+    shape.mosaic = client->has("CCD_CFA");
+    std::string fault;
+    std::optional<NativeFrame> frame = decodeBlob(*blob, shape, fault);
+    if (!frame) {
+        say(fault);
+        return frame;
+    }
+    frame->binning = binningOf(readout, frame->pixels.size());
+    frame->sensor = sensor.area() > 0 ? sensor : frame->pixels.size();
+    return frame;
+}
+
+std::optional<NativeFrame> IndiCamera::work(const Wish &wish)
+{
+    if (!wish.wanted) {
+        stopFrames();
+        lastFrame = Clock::now();
+        client->takeBlob();
+        client->waitForNews(slice);
+        return std::nullopt;
+    }
+    applyGain(wish.gain);
+    applyReadout(wish);
+    startFrames(wish);
+    client->waitForNews(slice);
+    std::optional<NativeFrame> frame = takeFrame(wish);
+    if (!frame)
+        checkSilence();
+    return frame;
+}
+
+std::optional<NativeFrame> IndiCamera::next(const Wish &wish)
+{
+    if (client && !client->isConnected())
+        lose("the connection to the INDI server is lost");
+    else if (client && client->removals() != removals)
+        lose("the INDI server has taken the device back");
+    switch (stage) {
+    case Stage::Lost:
+        connect();
+        break;
+    case Stage::Appearing:
+        awaitDevice();
+        break;
+    case Stage::Connecting:
+        awaitConnection();
+        break;
+    case Stage::Ready:
+        return work(wish);
+    }
+    return std::nullopt;
+}
+} // namespace framesources

@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: MIT
+// Which advice follows from what a frame, the axis and the error say?
+#include "assistant/advice.h"
+
+#include <QtTest>
+
+using namespace assistant;
+using recognition::ExtractionStatus;
+
+Q_DECLARE_METATYPE(LostSky)
+Q_DECLARE_METATYPE(AdviceCode)
+
+class AdviceTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void lostSky_data();
+    void lostSky();
+    void poleOutside_data();
+    void poleOutside();
+    void axis_data();
+    void axis();
+    void bolts_data();
+    void bolts();
+};
+
+void AdviceTest::lostSky_data()
+{
+    QTest::addColumn<LostSky>("frame");
+    QTest::addColumn<AdviceCode>("code");
+    QTest::addColumn<double>("first");
+    const auto row = [](const char *name, LostSky frame, AdviceCode code, double first = 0.0) {
+        QTest::newRow(name) << frame << code << first;
+    };
+    row("black", {ExtractionStatus::Black, 0, 0.0, false, true, true}, AdviceCode::CoverOn);
+    row("black after the sky", {ExtractionStatus::Black, 0, 0.0, true}, AdviceCode::CoverOn);
+    row("saturated", {ExtractionStatus::SaturatedSky, 3}, AdviceCode::ExposeShorter);
+    row("no sky", {ExtractionStatus::NoSky}, AdviceCode::NoSky);
+    row("bad frame", {ExtractionStatus::BadFrame}, AdviceCode::NoSky);
+    row("out of focus", {ExtractionStatus::OutOfFocus, 9, 12.5}, AdviceCode::Focus, 12.5);
+    row("trailed", {ExtractionStatus::Trailed, 6}, AdviceCode::HoldStill);
+    row("noise drawn out", {ExtractionStatus::Trailed, 5}, AdviceCode::ExposeLonger, 5.0);
+    row("first frame", {ExtractionStatus::TooFewStars, 2, 0.0, false, true}, AdviceCode::Searching,
+        2.0);
+    row("exposure still changes", {ExtractionStatus::TooFewStars, 2, 0.0, false, false, true},
+        AdviceCode::Searching, 2.0);
+    row("few", {ExtractionStatus::TooFewStars, 4}, AdviceCode::ExposeLonger, 4.0);
+    row("few after the sky", {ExtractionStatus::TooFewStars, 4, 0.0, true}, AdviceCode::Clouds,
+        4.0);
+    row("unlike the pole's", {ExtractionStatus::Ok, 12}, AdviceCode::NotThePole, 12.0);
+    row("hardly enough", {ExtractionStatus::Ok, 11}, AdviceCode::ExposeLonger, 11.0);
+    row("left by a cloud", {ExtractionStatus::Ok, 11, 0.0, true}, AdviceCode::Clouds, 11.0);
+    row("moved away", {ExtractionStatus::Ok, 12, 0.0, true}, AdviceCode::NotThePole, 12.0);
+}
+
+void AdviceTest::lostSky()
+{
+    QFETCH(LostSky, frame);
+    QFETCH(AdviceCode, code);
+    QFETCH(double, first);
+    const Advice advice = adviceOf(frame);
+    QCOMPARE(int(advice.code), int(code));
+    QCOMPARE(advice.first, first);
+}
+
+void AdviceTest::poleOutside_data()
+{
+    QTest::addColumn<double>("x");
+    QTest::addColumn<double>("y");
+    QTest::addColumn<double>("degrees"); // 0: inside
+    QTest::addColumn<double>("direction");
+    QTest::newRow("centre") << 639.5 << 479.5 << 0.0 << 0.0;
+    QTest::newRow("corner pixel") << 1279.4 << 959.4 << 0.0 << 0.0;
+    QTest::newRow("above") << 639.5 << -120.5 << 1.0 << 0.0;
+    QTest::newRow("right") << 1399.5 << 479.5 << 1.0 << 90.0;
+    QTest::newRow("below") << 639.5 << 1199.5 << 2.0 << 180.0;
+    QTest::newRow("left") << -240.5 << 479.5 << 2.0 << -90.0;
+    QTest::newRow("above right") << 1359.5 << -240.5 << std::hypot(80.0, 240.0) / 120.0 << 45.0;
+}
+
+void AdviceTest::poleOutside()
+{
+    QFETCH(double, x);
+    QFETCH(double, y);
+    QFETCH(double, degrees);
+    QFETCH(double, direction);
+    const auto advice = adviceOnPole({x, y}, 1280, 960, 30.0); // 120 pixels a degree
+    QCOMPARE(advice.has_value(), degrees > 0.0);
+    if (!advice)
+        return;
+    QVERIFY(advice->code == AdviceCode::PoleThatWay);
+    QCOMPARE(advice->first, degrees);
+    QCOMPARE(advice->second, direction);
+}
+
+void AdviceTest::axis_data()
+{
+    QTest::addColumn<double>("turned");
+    QTest::addColumn<bool>("enough");
+    QTest::addColumn<AdviceCode>("code");
+    QTest::newRow("not begun") << 0.2 << false << AdviceCode::TurnAxis;
+    QTest::newRow("under way") << 7.5 << false << AdviceCode::TurnFurther;
+    QTest::newRow("far, unchecked") << 45.0 << false << AdviceCode::TurnFurther;
+    QTest::newRow("enough") << 30.0 << true << AdviceCode::StopTurning;
+}
+
+void AdviceTest::axis()
+{
+    QFETCH(double, turned);
+    QFETCH(bool, enough);
+    QFETCH(AdviceCode, code);
+    AxisProgress progress;
+    progress.turnedDegrees = turned;
+    progress.enough = enough;
+    QCOMPARE(int(adviceOnAxis(progress).code), int(code));
+}
+
+void AdviceTest::bolts_data()
+{
+    QTest::addColumn<double>("total");
+    QTest::addColumn<AdviceCode>("code");
+    QTest::newRow("far") << 3600.0 << AdviceCode::TurnBolts;
+    QTest::newRow("an arcminute") << 60.0 << AdviceCode::TurnBolts;
+    QTest::newRow("near") << 59.9 << AdviceCode::NearlyThere;
+    QTest::newRow("the goal itself") << 20.0 << AdviceCode::NearlyThere;
+    QTest::newRow("aligned") << 19.9 << AdviceCode::Aligned;
+}
+
+void AdviceTest::bolts()
+{
+    QFETCH(double, total);
+    QFETCH(AdviceCode, code);
+    ErrorFigures figures;
+    figures.total.arcseconds = total;
+    const Advice advice = adviceOnBolts(figures, 20.0);
+    QCOMPARE(int(advice.code), int(code));
+    QCOMPARE(advice.first, total);
+}
+
+QTEST_GUILESS_MAIN(AdviceTest)
+#include "tst_advice.moc"

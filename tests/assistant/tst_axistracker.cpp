@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+// Does the tracker keep a bounded choice of frames, and find bumps and slips?
+#include "assistant/axistracker.h"
+#include "assistant/slipwatch.h"
+#include "tests/assistant/guidetest.h"
+
+#include "recognition/recognise.h"
+
+using namespace assistant;
+using recognition::Recognition;
+
+namespace
+{
+/// Recognitions of a painted mount, as the guide's.
+class Eye
+{
+public:
+    explicit Eye(const virtualsky::SkyState &sky) : mount(sky, settingsFor(sky)) { mount.next(); }
+
+    Recognition lookAt(double raAngle, double altitude = 0.3, double axisX = 40.0)
+    {
+        virtualsky::SkyState sky = mount.sky();
+        sky.raAngle = raAngle;
+        sky.boltAltitude = altitude;
+        sky.axisX = axisX;
+        mount.setSky(sky);
+        return *mount.next().sky;
+    }
+    virtualsky::Point axis() const { return *mount.truth().axis; }
+
+    PaintedMount mount;
+};
+} // namespace
+
+class AxisTrackerTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void manyFramesAreFewKept();
+    void turnsAddUp();
+    void departureTellsMovedBolts();
+    void slipNeedsATurn_data();
+    void slipNeedsATurn();
+};
+
+void AxisTrackerTest::manyFramesAreFewKept()
+{
+    Eye eye(plainNight());
+    AxisTracker tracker;
+    for (int degree = 0; degree <= 90; ++degree)
+        QVERIFY(tracker.add(eye.lookAt(degree)) == AxisTracker::Event::None);
+    QCOMPARE(tracker.frames(), std::size_t(91));
+    QVERIFY(std::abs(tracker.turnedDegrees() - 90.0) < 3.0);
+    const auto off =
+        std::hypot(tracker.axis().place.x - eye.axis().x, tracker.axis().place.y - eye.axis().y);
+    QVERIFY2(off * virtualsky::pixelScale < 1.5, qPrintable(QString::number(off)));
+    QVERIFY(tracker.axis().turns.size() <= AxisTracker::mostKept);
+    QVERIFY(!tracker.isNewAngle(eye.lookAt(45.0)));
+    QVERIFY(tracker.isNewAngle(eye.lookAt(100.0)));
+}
+
+void AxisTrackerTest::turnsAddUp()
+{
+    Eye eye(plainNight(true));
+    AxisTracker tracker;
+    for (const double angle : {0.0, 8.0, 4.0, -3.0, -9.0})
+        tracker.add(eye.lookAt(angle));
+    QVERIFY(std::abs(tracker.turnedDegrees() - 17.0) < 0.1);
+    QVERIFY(tracker.isEnough());
+}
+
+void AxisTrackerTest::departureTellsMovedBolts()
+{
+    Eye eye(plainNight());
+    AxisTracker tracker;
+    QVERIFY(!tracker.departure(eye.lookAt(0.0)).has_value());
+    for (int angle = 0; angle <= 20; angle += 2)
+        tracker.add(eye.lookAt(angle));
+    const Recognition still = eye.lookAt(25.0);
+    QVERIFY(*tracker.departure(still) <= tracker.allowedDeparture(still));
+    const Recognition moved = eye.lookAt(25.0, 0.3 + 30.0 / 3600.0);
+    QVERIFY(std::abs(*tracker.departure(moved) - 30.0) < 4.0);
+    QVERIFY(*tracker.departure(moved) > tracker.allowedDeparture(moved));
+    tracker.shiftClock(3600.0); // the kept frames' sky is an hour on
+    QVERIFY(*tracker.departure(still) > tracker.allowedDeparture(still));
+}
+
+void AxisTrackerTest::slipNeedsATurn_data()
+{
+    QTest::addColumn<double>("slip"); // pixels
+    QTest::addColumn<double>("turn"); // degrees
+    QTest::addColumn<bool>("moving"); // the bolts, before the turn
+    QTest::addColumn<bool>("noticed");
+    QTest::newRow("nothing") << 0.0 << 20.0 << false << false;
+    QTest::newRow("bolts before the turn") << 0.0 << 20.0 << true << false;
+    QTest::newRow("slip, no turn") << 10.0 << 2.0 << false << false;
+    QTest::newRow("slip") << 10.0 << 15.0 << false << true;
+    QTest::newRow("slip after bolts") << 10.0 << 15.0 << true << true;
+    QTest::newRow("a small slip") << 2.0 << 20.0 << false << true;
+}
+
+void AxisTrackerTest::slipNeedsATurn()
+{
+    QFETCH(double, slip);
+    QFETCH(double, turn);
+    QFETCH(bool, moving);
+    QFETCH(bool, noticed);
+    Eye eye(plainNight());
+    AxisTracker tracker;
+    for (int angle = 0; angle <= 20; angle += 2)
+        tracker.add(eye.lookAt(angle));
+    QVERIFY(tracker.axis().status == recognition::AxisStatus::Found);
+    SlipWatch watch;
+    double altitude = 0.3;
+    for (int i = 0; moving && i < 10; ++i)
+        QVERIFY(!watch.hasSlipped(eye.lookAt(20.0, altitude -= 0.02), tracker.axis()));
+    bool said = false;
+    for (double angle = 20.0; angle <= 20.0 + turn; angle += 1.0)
+        said = said || watch.hasSlipped(eye.lookAt(angle, altitude, 40.0 + slip), tracker.axis());
+    QCOMPARE(said, noticed);
+}
+
+QTEST_GUILESS_MAIN(AxisTrackerTest)
+#include "tst_axistracker.moc"

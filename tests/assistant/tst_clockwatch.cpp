@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+// Is a clock that is set noticed, and one that only drifts not?
+#include "assistant/clocks.h"
+
+#include <QtTest>
+#include <cmath>
+#include <ctime>
+
+using namespace assistant;
+
+class ClockWatchTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void steps_data();
+    void steps();
+    void driftIsNoStep();
+    void systemClocksRun();
+};
+
+void ClockWatchTest::steps_data()
+{
+    QTest::addColumn<double>("by");
+    QTest::addColumn<double>("reported");
+    QTest::newRow("none") << 0.0 << 0.0;
+    QTest::newRow("one second") << 1.0 << 0.0;
+    QTest::newRow("three seconds back") << -3.0 << -3.0;
+    QTest::newRow("a day") << 86400.0 << 86400.0;
+}
+
+void ClockWatchTest::steps()
+{
+    QFETCH(double, by);
+    QFETCH(double, reported);
+    ClockWatch watch;
+    QCOMPARE(watch.step(1000.0, 5.0), 0.0);
+    QCOMPARE(watch.step(1001.0, 6.0), 0.0);
+    QCOMPARE(watch.step(1002.0 + by, 7.0), reported);
+    QCOMPARE(watch.step(1003.0 + by, 8.0), 0.0); // reported once
+}
+
+/// Slewing by 500 parts in a million, as long as eight hours.
+void ClockWatchTest::driftIsNoStep()
+{
+    ClockWatch watch;
+    for (double steady = 0.0; steady < 8.0 * 3600.0; steady += 10.0)
+        QCOMPARE(watch.step(1e9 + steady * 1.0005, steady), 0.0);
+}
+
+void ClockWatchTest::systemClocksRun()
+{
+    const Clocks clocks = systemClocks();
+    QVERIFY(std::abs(clocks.utc() - double(std::time(nullptr))) < 5.0);
+    const double before = clocks.steady();
+    QTest::qSleep(20);
+    const double passed = clocks.steady() - before;
+    QVERIFY(passed >= 0.02 && passed < 5.0);
+    QCOMPARE(clocks.synchronised(), isClockSynchronised());
+}
+
+QTEST_GUILESS_MAIN(ClockWatchTest)
+#include "tst_clockwatch.moc"

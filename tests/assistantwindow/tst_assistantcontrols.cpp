@@ -1,0 +1,302 @@
+// SPDX-License-Identifier: MIT
+// Can every control be used with a finger alone and with the keyboard alone, and is the red theme
+// red in every pixel?
+#include "tests/assistantwindow/scenes.h"
+#include "tests/support/textroom.h"
+
+#include <QAbstractSlider>
+#include <QAbstractSpinBox>
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScreen>
+#include <QSet>
+#include <QToolTip>
+
+// Q_INIT_RESOURCE must be used in the global namespace.
+static void initialiseResources()
+{
+    Q_INIT_RESOURCE(assistantwindow);
+}
+
+namespace
+{
+constexpr QSize smallScreen(800, 480);
+constexpr int finger = 40; // pixels
+
+bool isControl(const QWidget &widget)
+{
+    if (qobject_cast<const QLineEdit *>(&widget) &&
+        qobject_cast<const QAbstractSpinBox *>(widget.parentWidget()))
+        return false; // part of the field
+    return qobject_cast<const QAbstractButton *>(&widget) ||
+           qobject_cast<const QAbstractSpinBox *>(&widget) ||
+           qobject_cast<const QAbstractSlider *>(&widget) ||
+           qobject_cast<const QComboBox *>(&widget) || qobject_cast<const QLineEdit *>(&widget);
+}
+
+QList<QWidget *> controlsOf(const QWidget &window)
+{
+    QList<QWidget *> controls;
+    for (QWidget *const widget : window.findChildren<QWidget *>())
+        if (widget->isVisible() && widget->window() == &window && isControl(*widget))
+            controls.append(widget);
+    return controls;
+}
+
+/// How many pixels are not purely red.
+int coloured(const QImage &image)
+{
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            count += qGreen(image.pixel(x, y)) != 0 || qBlue(image.pixel(x, y)) != 0 ? 1 : 0;
+    return count;
+}
+
+bool isLit(const QImage &image)
+{
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (qRed(image.pixel(x, y)) > 100)
+                return true;
+    return false;
+}
+
+/// What the screen shows, with every window on it.
+QImage screenImage(const QWidget &window)
+{
+    settle();
+    return window.screen()->grabWindow(window.winId()).toImage();
+}
+
+void forEachScene()
+{
+    QTest::addColumn<int>("scene");
+    for (int i = 0; i < int(scenes::all().size()); ++i)
+        QTest::newRow(scenes::all()[std::size_t(i)].name) << i;
+}
+
+struct Shown {
+    madestatus::MadeInstrument instrument;
+    std::unique_ptr<assistantwindow::AssistantWindow> window;
+
+    explicit Shown(int number, bool red = false)
+    {
+        const scenes::Scene &scene = scenes::all()[std::size_t(number)];
+        scenes::fill(instrument, scene);
+        window = std::make_unique<assistantwindow::AssistantWindow>(
+            instrument, scenes::settingsOf(scene, red, "EN"), [](const auto &) {});
+        window->resize(smallScreen);
+        window->show();
+        QApplication::setActiveWindow(window.get());
+        scenes::addHistory(*window, instrument);
+        scenes::openPage(*window, scene.button);
+        window->showNormal();
+        window->resize(smallScreen);
+        settle();
+    }
+};
+} // namespace
+
+class AssistantControlsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { initialiseResources(); }
+    void fingerCanHitEveryControl_data() { forEachScene(); }
+    void fingerCanHitEveryControl();
+    void tabReachesEveryControl_data() { forEachScene(); }
+    void tabReachesEveryControl();
+    void redThemeHasOnlyRed_data() { forEachScene(); }
+    void redThemeHasOnlyRed();
+    void listAndToolTipAreRed();
+    void normalThemeHasOtherColours();
+    void largeViewCanBeReadFromFar_data();
+    void largeViewCanBeReadFromFar();
+    void largeViewOpensByKeyAndTap();
+    void keyboardAloneOperatesTheWindow();
+    void exposureSliderTurnsTheAutomaticOff();
+    void camerasAreListedWhereThereIsAChoice();
+};
+
+void AssistantControlsTest::fingerCanHitEveryControl()
+{
+    QFETCH(int, scene);
+    const Shown shown(scene);
+    const QList<QWidget *> controls = controlsOf(*shown.window);
+    QVERIFY(!controls.isEmpty());
+    for (const QWidget *const control : controls)
+        QVERIFY2(control->width() >= finger && control->height() >= finger,
+                 qPrintable(QStringLiteral("%1: %2 x %3")
+                                .arg(control->objectName())
+                                .arg(control->width())
+                                .arg(control->height())));
+}
+
+void AssistantControlsTest::tabReachesEveryControl()
+{
+    QFETCH(int, scene);
+    const Shown shown(scene);
+    QSet<QWidget *> reached;
+    for (int i = 0; i < 120; ++i) {
+        QVERIFY(QApplication::focusWidget());
+        reached.insert(QApplication::focusWidget());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    for (QWidget *const control : controlsOf(*shown.window)) {
+        // Of the exclusive buttons, the arrow keys reach the others.
+        const auto *const button = qobject_cast<QAbstractButton *>(control);
+        if (control->isEnabled() && !(button && button->isCheckable() && button->autoExclusive()) &&
+            !(button && button->group()))
+            QVERIFY2(reached.contains(control), qPrintable(control->objectName()));
+    }
+}
+
+void AssistantControlsTest::redThemeHasOnlyRed()
+{
+    QFETCH(int, scene);
+    const Shown shown(scene, true);
+    const QImage image = screenImage(*shown.window);
+    QCOMPARE(shown.window->size(), smallScreen);
+    QCOMPARE(image.size(), smallScreen);
+    QVERIFY(isLit(image));
+    QCOMPARE(coloured(image), 0);
+}
+
+void AssistantControlsTest::listAndToolTipAreRed()
+{
+    const Shown shown(0, true);
+    auto *const camera = shown.window->findChild<QComboBox *>("comboBox_camera");
+    QVERIFY(camera && camera->isVisible());
+    camera->showPopup();
+    QTRY_VERIFY(QApplication::activePopupWidget());
+    QWidget &list = *QApplication::activePopupWidget();
+    const QImage image = screenImage(list);
+    QVERIFY(isLit(image));
+    QCOMPARE(coloured(image), 0);
+    camera->hidePopup();
+    auto *const settings = shown.window->findChild<QAbstractButton *>("pushButton_settings");
+    QToolTip::showText(settings->mapToGlobal(settings->rect().center()), settings->toolTip(),
+                       settings);
+    QWidget *tip = nullptr;
+    for (QWidget *const window : QApplication::topLevelWidgets())
+        if (window->inherits("QTipLabel") && window->isVisible())
+            tip = window;
+    QVERIFY(tip);
+    const QImage text = tip->grab().toImage(); // it may close at any time
+    QVERIFY(isLit(text));
+    QCOMPARE(coloured(text), 0);
+}
+
+void AssistantControlsTest::normalThemeHasOtherColours()
+{
+    const Shown shown(0);
+    QVERIFY(coloured(screenImage(*shown.window)) > 1000);
+}
+
+void AssistantControlsTest::largeViewCanBeReadFromFar_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("numbers");
+    QTest::newRow("two bolts") << "large" << 2;
+    QTest::newRow("no site") << "largenosite" << 1;
+    QTest::newRow("axis") << "largeaxis" << 1;
+}
+
+void AssistantControlsTest::largeViewCanBeReadFromFar()
+{
+    QFETCH(QString, name);
+    QFETCH(int, numbers);
+    int scene = 0;
+    while (scenes::all()[std::size_t(scene)].name != name)
+        ++scene;
+    const Shown shown(scene);
+    const QImage image = screenImage(*shown.window);
+    const QRgb ink = assistantwindow::theme(false).text.rgb();
+    // The rows of pixels in which there is ink right of the arrows, and the sentence below.
+    std::vector<int> heights;
+    int run = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        bool isInk = false;
+        for (int x = 250; x < 730; ++x)
+            isInk = isInk || image.pixel(x, y) == ink;
+        run = isInk ? run + 1 : 0;
+        if (run == 1)
+            heights.push_back(0);
+        if (isInk)
+            heights.back() = run;
+    }
+    QVERIFY(int(heights.size()) >= numbers);
+    for (int i = 0; i < numbers; ++i)
+        QVERIFY2(heights[std::size_t(i)] >= smallScreen.height() / 5,
+                 qPrintable(QString::number(heights[std::size_t(i)])));
+}
+
+void AssistantControlsTest::largeViewOpensByKeyAndTap()
+{
+    const Shown shown(4);
+    assistantwindow::AssistantWindow &window = *shown.window;
+    auto *const large = window.findChild<QWidget *>("largePage");
+    auto *const picture = window.findChild<QLabel *>("label_picture");
+    QTest::keyClick(&window, Qt::Key_F11);
+    QVERIFY(large->isVisible() && window.isFullScreen());
+    QTest::keyClick(&window, Qt::Key_Escape);
+    QVERIFY(!large->isVisible() && !window.isFullScreen());
+    QTest::mouseClick(picture, Qt::LeftButton);
+    QVERIFY(large->isVisible() && window.isFullScreen());
+    QTest::mouseClick(large, Qt::LeftButton, {}, {200, 200});
+    QVERIFY(!large->isVisible() && !window.isFullScreen());
+}
+
+void AssistantControlsTest::keyboardAloneOperatesTheWindow()
+{
+    Shown shown(0);
+    QWidget &window = *shown.window;
+    QTest::keyClick(&window, Qt::Key_F2);
+    QCOMPARE(shown.instrument.calls, (QStringList{"find", "connect 1"}));
+    QTest::keyClick(&window, Qt::Key_F5);
+    QCOMPARE(shown.instrument.calls.last(), QStringLiteral("start again"));
+    QTest::keyClick(&window, Qt::Key_F10);
+    QVERIFY(window.findChild<QWidget *>("settingsPage")->isVisible());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    QVERIFY(window.findChild<QWidget *>("mainPage")->isVisible());
+    QTest::keyClick(&window, Qt::Key_F2);
+    QVERIFY(shown.instrument.calls.contains("disconnect"));
+}
+
+void AssistantControlsTest::exposureSliderTurnsTheAutomaticOff()
+{
+    Shown shown(2);
+    auto *const slider = shown.window->findChild<QAbstractSlider *>("slider_exposure");
+    auto *const automatic =
+        shown.window->findChild<QAbstractButton *>("checkBox_automaticExposure");
+    QVERIFY(automatic->isChecked());
+    slider->setFocus();
+    QTest::keyClick(slider, Qt::Key_Left);
+    QVERIFY(!automatic->isChecked());
+    QVERIFY(shown.instrument.snapshot.status.exposureMicroseconds < 500000.0);
+    QTest::mouseClick(automatic, Qt::LeftButton, {}, {14, automatic->height() / 2});
+    QVERIFY(shown.instrument.calls.contains("automatic 1"));
+}
+
+void AssistantControlsTest::camerasAreListedWhereThereIsAChoice()
+{
+    Shown shown(0);
+    auto *const camera = shown.window->findChild<QComboBox *>("comboBox_camera");
+    QVERIFY(camera->isVisible());
+    camera->setFocus();
+    QTest::keyClick(camera, Qt::Key_Down);
+    QTest::keyClick(shown.window.get(), Qt::Key_F2);
+    QCOMPARE(shown.instrument.calls.last(), QStringLiteral("connect 2"));
+    QCOMPARE(shown.window->currentSettings().cameraId, QStringLiteral("2"));
+    QTest::keyClick(shown.window.get(), Qt::Key_F2);
+    shown.instrument.entries.pop_back();
+    shown.window->refresh();
+    QVERIFY(!camera->isVisible());
+}
+
+QTEST_MAIN(AssistantControlsTest)
+#include "tst_assistantcontrols.moc"

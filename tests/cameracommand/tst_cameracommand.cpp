@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: MIT
+// Does the finished command grab, record and check, from the virtual sky and from files, with the
+// exit statuses that its man page gives?
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
+#include <opencv2/imgcodecs.hpp>
+#include <opencv2/imgproc.hpp>
+
+#include "pictures/picturefile.h"
+#include "virtualcamera/skyfile.h"
+
+namespace
+{
+struct Result {
+    int status = -1;
+    QString output, errors;
+};
+} // namespace
+
+class CameraCommandTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void grabsTheSky_data();
+    void grabsTheSky();
+    void checkOfTheSky();
+    void checkWritesTheLens();
+    void checkFailsWithoutStars();
+    void recordsFrames();
+    void badCommands_data();
+    void badCommands();
+    void listNamesWhatIsMissing();
+
+private:
+    Result run(const QStringList &arguments, const char *program = CAMERA_PROGRAM)
+    {
+        QProcess process;
+        process.start(program, arguments);
+        process.waitForFinished(120000);
+        return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+                QString::fromLocal8Bit(process.readAllStandardOutput()),
+                QString::fromLocal8Bit(process.readAllStandardError())};
+    }
+    QString path(const QString &name) const { return folder->filePath(name); }
+
+    std::unique_ptr<QTemporaryDir> folder;
+};
+
+void CameraCommandTest::init()
+{
+    folder = std::make_unique<QTemporaryDir>();
+    qputenv("QUORVANDEL_SKY", path("sky.ini").toUtf8());
+    qunsetenv("QUORVANDEL_CAMERA");
+    QVERIFY(
+        virtualsky::writeAtomically(path("sky.ini").toStdString(), "# mine\n[time]\ndate = now\n"));
+}
+
+void CameraCommandTest::grabsTheSky_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("PNG") << "sky.png";
+    QTest::newRow("FITS") << "sky.fits";
+    QTest::newRow("FITS, short suffix") << "sky.fit";
+}
+
+void CameraCommandTest::grabsTheSky()
+{
+    QFETCH(QString, name);
+    const Result grabbed =
+        run({"--camera", "sky", "--exposure", "500", "--gain", "60", "grab", path(name)});
+    QVERIFY2(grabbed.status == 0, qPrintable(grabbed.errors));
+    const PictureFile picture = readPicture(path(name).toStdString());
+    QCOMPARE(picture.pixels.size(), cv::Size(1280, 960));
+    if (name != "sky.png")
+        QVERIFY(std::abs(picture.date.value_or(0.0) - double(time(nullptr))) < 600.0);
+    const Result recognised = run({path(name)}, RECOGNISE_PROGRAM);
+    QVERIFY2(recognised.status == 0, qPrintable(recognised.output));
+}
+
+void CameraCommandTest::checkOfTheSky()
+{
+    const Result checked = run({"--camera", "sky", "--exposure", "500", "--gain", "60", "check"});
+    QVERIFY2(checked.status == 0, qPrintable(checked.output + checked.errors));
+    const QRegularExpression scale(
+        "scale: (30\\.[45]\\d\\d) arcseconds a pixel\nmirrored: false\n");
+    QVERIFY2(scale.match(checked.output).hasMatch(), qPrintable(checked.output));
+    for (const char *line : {"roll: ", "stars: ", "focus: "})
+        QVERIFY2(checked.output.contains(line), line);
+}
+
+void CameraCommandTest::checkWritesTheLens()
+{
+    const QString grabbed = path("grabbed.png"), shown = path("mirrored.png");
+    QCOMPARE(run({"--camera", "sky", "--exposure", "500", "--gain", "60", "grab", grabbed}).status,
+             0);
+    cv::Mat picture = cv::imread(grabbed.toStdString(), cv::IMREAD_GRAYSCALE);
+    cv::resize(picture, picture, cv::Size(), 1.5, 1.5, cv::INTER_CUBIC);
+    cv::flip(picture, picture, 1);
+    QVERIFY(cv::imwrite(shown.toStdString(), picture));
+    QTest::qWait(400); // files younger than that may still be being written
+    const Result checked = run({"--camera", "files:" + shown, "check", "--write"});
+    QVERIFY2(checked.status == 0, qPrintable(checked.output + checked.errors));
+    QFile file(path("sky.ini"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray text = file.readAll();
+    QVERIFY2(text.startsWith("# mine\n[time]\ndate = now\n"), text.constData());
+    const virtualsky::SkyState sky = virtualsky::parse(text.toStdString());
+    QVERIFY(std::abs(sky.scale.arcseconds - 30.45 / 1.5) < 0.05);
+    QCOMPARE(sky.mirrored, virtualsky::Mirrored::True);
+}
+
+void CameraCommandTest::checkFailsWithoutStars()
+{
+    QVERIFY(cv::imwrite(path("dark.png").toStdString(), cv::Mat(480, 640, CV_8UC1, cv::Scalar(9))));
+    QTest::qWait(400);
+    const Result checked = run({"--camera", "files:" + path("dark.png"), "check", "--write"});
+    QCOMPARE(checked.status, 1);
+    QVERIFY2(checked.output.startsWith("not recognised: "), qPrintable(checked.output));
+    QFile file(path("sky.ini"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray("# mine\n[time]\ndate = now\n"));
+}
+
+void CameraCommandTest::recordsFrames()
+{
+    const Result recorded =
+        run({"--camera", "sky", "--exposure", "20", "record", path("night"), "--frames", "3"});
+    QVERIFY2(recorded.status == 0, qPrintable(recorded.errors));
+    const QStringList files = QDir(path("night")).entryList(QDir::Files);
+    QCOMPARE(files, QStringList({"frame-000001.fits", "frame-000002.fits", "frame-000003.fits"}));
+    for (const QString &name : files)
+        QCOMPARE(readPicture(path("night/" + name).toStdString()).complaint, std::string());
+}
+
+void CameraCommandTest::badCommands_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("status");
+    QTest::newRow("misuse") << QStringList{"--what"} << 2;
+    QTest::newRow("suffix") << QStringList{"--camera", "sky", "grab", "a.gif"} << 2;
+    QTest::newRow("address") << QStringList{"--camera", "webcam", "check"} << 2;
+    QTest::newRow("host") << QStringList{"list", "a b"} << 2;
+    QTest::newRow("no folder to write to")
+        << QStringList{"--camera", "sky", "grab", "/nowhere/a.png"} << 1;
+    QTest::newRow("no folder to record to")
+        << QStringList{"--camera", "sky", "record", "/dev/null/x"} << 1;
+    QTest::newRow("help") << QStringList{"--help"} << 0;
+    QTest::newRow("version") << QStringList{"--version"} << 0;
+}
+
+void CameraCommandTest::badCommands()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(int, status);
+    const Result result = run(arguments);
+    QCOMPARE(result.status, status);
+    QCOMPARE(result.errors.isEmpty(), status == 0);
+    QVERIFY(status == 0 || result.errors.contains("quorvandel-camera: "));
+}
+
+void CameraCommandTest::listNamesWhatIsMissing()
+{
+    const Result listed = run({"list", "127.0.0.1:1"});
+    QCOMPARE(listed.status, 1);
+    QVERIFY2(listed.output.contains("maker's library: "), qPrintable(listed.output));
+    QVERIFY2(listed.output.contains("INDI on 127.0.0.1:1: "), qPrintable(listed.output));
+}
+
+QTEST_GUILESS_MAIN(CameraCommandTest)
+#include "tst_cameracommand.moc"

@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+// Is a camera's frame, of any kind, made into the frame that the program expects?
+#include <QFile>
+#include <QtTest>
+#include <opencv2/imgcodecs.hpp>
+
+#include "framesources/preparation.h"
+
+using framesources::Lens;
+using framesources::NativeFrame;
+using framesources::prepared;
+
+namespace
+{
+NativeFrame frameOf(const cv::Mat &pixels)
+{
+    NativeFrame frame;
+    frame.pixels = pixels;
+    return frame;
+}
+} // namespace
+
+class PreparationTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void everyKind_data();
+    void everyKind();
+    void photographsStay_data();
+    void photographsStay();
+    void mirroredIsTurnedBack();
+    void softened();
+};
+
+void PreparationTest::everyKind_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<int>("width");
+    QTest::addColumn<int>("height");
+    for (const int type : {CV_8UC1, CV_16UC1, CV_8UC3, CV_16UC3})
+        for (const auto &size : {qMakePair(1280, 960), qMakePair(640, 480), qMakePair(4144, 2822)})
+            QTest::newRow(
+                qPrintable(QString("%1, %2 x %3").arg(type).arg(size.first).arg(size.second)))
+                << type << size.first << size.second;
+}
+
+void PreparationTest::everyKind()
+{
+    QFETCH(int, type);
+    QFETCH(int, width);
+    QFETCH(int, height);
+    cv::Mat pixels(height, width, type, cv::Scalar::all(20));
+    pixels(cv::Rect(width / 2 - 8, height / 2 - 8, 16, 16)).setTo(cv::Scalar::all(200));
+    for (const double scale : {0.0, 6.0, 60.0}) {
+        const cv::Mat out = prepared(frameOf(pixels), Lens{scale, false, false});
+        QCOMPARE(out.type(), CV_8UC1);
+        QCOMPARE(out.size(), cv::Size(1280, 960));
+        QVERIFY(out.at<uchar>(480, 640) > out.at<uchar>(300, 400) + 50);
+    }
+}
+
+void PreparationTest::photographsStay_data()
+{
+    QTest::addColumn<QString>("hemisphere");
+    QTest::newRow("north") << QStringLiteral("north");
+    QTest::newRow("south") << QStringLiteral("south");
+}
+
+void PreparationTest::photographsStay()
+{
+    QFETCH(QString, hemisphere);
+    const QString path =
+        QStringLiteral(PROJECT_SOURCE_DIR "/../shared/photos/%1_pole.png").arg(hemisphere);
+    if (!QFile::exists(path))
+        QSKIP("the photographs are not there");
+    const cv::Mat photograph = cv::imread(path.toStdString(), cv::IMREAD_GRAYSCALE);
+    QCOMPARE(cv::norm(prepared(frameOf(photograph), Lens()), photograph, cv::NORM_INF), 0.0);
+}
+
+void PreparationTest::mirroredIsTurnedBack()
+{
+    cv::Mat pixels(960, 1280, CV_8UC1, cv::Scalar(0));
+    pixels.at<uchar>(100, 200) = 255;
+    const cv::Mat out = prepared(frameOf(pixels), Lens{0.0, true, false});
+    QCOMPARE(int(out.at<uchar>(100, 1279 - 200)), 255);
+    QCOMPARE(int(pixels.at<uchar>(100, 200)), 255); // the camera's own frame stays
+}
+
+void PreparationTest::softened()
+{
+    cv::Mat pixels(960, 1280, CV_8UC1, cv::Scalar(0));
+    pixels.at<uchar>(100, 200) = 160;
+    const cv::Mat out = prepared(frameOf(pixels), Lens{0.0, false, true});
+    QCOMPARE(int(out.at<uchar>(100, 200)), 40);
+    QCOMPARE(int(out.at<uchar>(100, 201)), 20);
+    QCOMPARE(int(out.at<uchar>(99, 199)), 10);
+}
+
+QTEST_GUILESS_MAIN(PreparationTest)
+#include "tst_preparation.moc"

@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: MIT
+// A network between client and server that breaks after a number of bytes.
+#pragma once
+
+#include <QTcpServer>
+#include <arpa/inet.h>
+#include <atomic>
+#include <netinet/in.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <thread>
+#include <unistd.h>
+#include <vector>
+
+/// Passes one connection after the other on to a port of this machine, on a thread of its own.
+class CuttingProxy
+{
+public:
+    explicit CuttingProxy(quint16 target)
+        : targetPort(target), listener(::socket(AF_INET, SOCK_STREAM, 0))
+    {
+        sockaddr_in address = loopback(0);
+        ::bind(listener, reinterpret_cast<sockaddr *>(&address), sizeof address);
+        ::listen(listener, 8);
+        socklen_t size = sizeof address;
+        ::getsockname(listener, reinterpret_cast<sockaddr *>(&address), &size);
+        ownPort = ntohs(address.sin_port);
+        thread = std::thread([this] { run(); });
+    }
+    ~CuttingProxy()
+    {
+        stop = true;
+        thread.join();
+        ::close(listener);
+    }
+    CuttingProxy(const CuttingProxy &) = delete;
+    CuttingProxy &operator=(const CuttingProxy &) = delete;
+
+    quint16 port() const { return ownPort; }
+    /// From the server, from now on; then nothing is let through until `heal`.
+    void cutAfter(int bytes) { left = bytes; }
+    bool isCut() const { return left == 0; }
+    void heal() { left = -1; }
+
+private:
+    static sockaddr_in loopback(quint16 port)
+    {
+        sockaddr_in address = {};
+        address.sin_family = AF_INET;
+        address.sin_port = htons(port);
+        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        return address;
+    }
+
+    static bool isReadable(int socket, int milliseconds)
+    {
+        pollfd wait = {socket, POLLIN, 0};
+        return ::poll(&wait, 1, milliseconds) > 0;
+    }
+
+    void run()
+    {
+        while (!stop) {
+            if (!isReadable(listener, 20))
+                continue;
+            const int client = ::accept(listener, nullptr, nullptr);
+            const int server = ::socket(AF_INET, SOCK_STREAM, 0);
+            sockaddr_in address = loopback(targetPort);
+            if (left != 0 &&
+                ::connect(server, reinterpret_cast<sockaddr *>(&address), sizeof address) == 0)
+                pass(client, server);
+            ::close(client);
+            ::close(server);
+        }
+    }
+
+    void pass(int client, int server)
+    {
+        while (!stop && left != 0) {
+            pollfd both[2] = {{client, POLLIN, 0}, {server, POLLIN, 0}};
+            if (::poll(both, 2, 20) <= 0)
+                continue;
+            if (both[0].revents != 0 && !move(client, server, false))
+                return;
+            if (both[1].revents != 0 && !move(server, client, true))
+                return;
+        }
+    }
+
+    bool move(int from, int to, bool counted)
+    {
+        char bytes[65536];
+        std::size_t most = sizeof bytes;
+        const int allowed = left;
+        if (counted && allowed >= 0)
+            most = std::min(most, std::size_t(allowed));
+        ssize_t got = most > 0 ? ::read(from, bytes, most) : 0;
+        if (got <= 0)
+            return false;
+        for (ssize_t sent = 0; sent < got;) {
+            const ssize_t now = ::send(to, bytes + sent, std::size_t(got - sent), MSG_NOSIGNAL);
+            if (now <= 0)
+                return false;
+            sent += now;
+        }
+        if (counted && allowed >= 0) {
+            int expected = allowed;
+            left.compare_exchange_strong(expected, allowed - int(got));
+        }
+        return true;
+    }
+
+    const quint16 targetPort;
+    const int listener;
+    quint16 ownPort = 0;
+    std::atomic<int> left{-1}; // bytes; -1 = no end
+    std::atomic<bool> stop{false};
+    std::thread thread;
+};

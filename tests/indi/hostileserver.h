@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+// A server that speaks INDI for one camera and then sends whatever the test says.
+#pragma once
+
+#include <QByteArray>
+#include <algorithm>
+#include <arpa/inet.h>
+#include <atomic>
+#include <chrono>
+#include <netinet/in.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <thread>
+#include <unistd.h>
+
+/// Defines a connected camera to each client, then sends the harm, to the first one alone, and a
+/// good frame every 50 milliseconds.
+class HostileServer
+{
+public:
+    /// @param width, height of the sensor, pixels
+    /// @param pauseBetween two good frames, milliseconds
+    HostileServer(QByteArray harmSent, QByteArray goodSent, int width = 40, int height = 24,
+                  int pauseBetween = 50)
+        : harm(std::move(harmSent)),
+          good(std::move(goodSent)),
+          sensorWidth(QByteArray::number(width)),
+          sensorHeight(QByteArray::number(height)),
+          pause(pauseBetween),
+          listener(::socket(AF_INET, SOCK_STREAM, 0))
+    {
+        sockaddr_in address = {};
+        address.sin_family = AF_INET;
+        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        ::bind(listener, reinterpret_cast<sockaddr *>(&address), sizeof address);
+        ::listen(listener, 8);
+        socklen_t size = sizeof address;
+        ::getsockname(listener, reinterpret_cast<sockaddr *>(&address), &size);
+        ownPort = ntohs(address.sin_port);
+        thread = std::thread([this] { run(); });
+    }
+    ~HostileServer()
+    {
+        stop = true;
+        thread.join();
+        ::close(listener);
+    }
+    HostileServer(const HostileServer &) = delete;
+    HostileServer &operator=(const HostileServer &) = delete;
+
+    quint16 port() const { return ownPort; }
+    int harmsDone() const { return harms; }
+
+    static QByteArray blob(const QByteArray &format, const QByteArray &size,
+                           const QByteArray &content)
+    {
+        return "<setBLOBVector device='Camera' name='CCD1' state='Ok' timeout='60'>"
+               "<oneBLOB name='CCD1' size='" +
+               size + "' format='" + format + "'>" + content + "</oneBLOB></setBLOBVector>\n";
+    }
+
+private:
+    QByteArray definitions() const
+    {
+        const QByteArray head = " device='Camera' label='' group='' state='Ok' perm='rw' "
+                                "timeout='60'";
+        const auto number = [](const char *name, const QByteArray &value) {
+            return QByteArray("<defNumber name='") + name +
+                   "' label='' format='%g' min='0' max='5000' step='1'>" + value + "</defNumber>";
+        };
+        return "<defSwitchVector name='CONNECTION' rule='OneOfMany'" + head +
+               "><defSwitch name='CONNECT' label=''>On</defSwitch>"
+               "<defSwitch name='DISCONNECT' label=''>Off</defSwitch></defSwitchVector>\n"
+               "<defNumberVector name='CCD_EXPOSURE'" +
+               head + ">" + number("CCD_EXPOSURE_VALUE", "1") +
+               "</defNumberVector>\n<defNumberVector name='CCD_INFO'" + head + ">" +
+               number("CCD_MAX_X", sensorWidth) + number("CCD_MAX_Y", sensorHeight) +
+               "</defNumberVector>\n<defNumberVector name='CCD_BINNING'" + head + ">" +
+               number("HOR_BIN", "1") + number("VER_BIN", "1") +
+               "</defNumberVector>\n<defNumberVector name='CCD_FRAME'" + head + ">" +
+               number("X", "0") + number("Y", "0") + number("WIDTH", sensorWidth) +
+               number("HEIGHT", sensorHeight) + "</defNumberVector>\n<defBLOBVector name='CCD1'" +
+               head + "><defBLOB name='CCD1' label=''/></defBLOBVector>\n";
+    }
+
+    static bool send(int client, const QByteArray &bytes)
+    {
+        for (int sent = 0; sent < bytes.size();) {
+            const ssize_t now = ::send(client, bytes.constData() + sent,
+                                       std::size_t(bytes.size() - sent), MSG_NOSIGNAL);
+            if (now <= 0)
+                return false;
+            sent += int(now);
+        }
+        return true;
+    }
+
+    void run()
+    {
+        while (!stop) {
+            pollfd wait = {listener, POLLIN, 0};
+            if (::poll(&wait, 1, 20) <= 0)
+                continue;
+            const int client = ::accept(listener, nullptr, nullptr);
+            serve(client);
+            ::close(client);
+        }
+    }
+
+    void serve(int client)
+    {
+        char asked[4096]; // what the client says is read, but does not matter
+        if (::read(client, asked, sizeof asked) <= 0 || !send(client, definitions()))
+            return;
+        using Clock = std::chrono::steady_clock;
+        bool done = false;
+        Clock::time_point sent = Clock::now();
+        while (!stop) {
+            pollfd wait = {client, POLLIN, 0};
+            if (::poll(&wait, 1, 5) > 0) {
+                if (::read(client, asked, sizeof asked) <= 0)
+                    return;
+                if (!done && QByteArray(asked).contains("CCD_EXPOSURE")) { // it wants frames
+                    done = true;
+                    if (harms++ == 0 && !send(client, harm))
+                        return;
+                }
+            }
+            if (!done || Clock::now() - sent < std::chrono::milliseconds(pause))
+                continue;
+            sent = Clock::now();
+            if (!send(client, good))
+                return;
+        }
+    }
+
+    const QByteArray harm, good, sensorWidth, sensorHeight;
+    const int pause; // milliseconds
+    const int listener;
+    quint16 ownPort = 0;
+    std::atomic<bool> stop{false};
+    std::atomic<int> harms{0};
+    std::thread thread;
+};

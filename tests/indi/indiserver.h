@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: MIT
+// INDI's own server with its simulated camera, on a free port of this machine.
+#pragma once
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTcpServer>
+#include <QTemporaryDir>
+#include <QtTest>
+#include <csignal>
+#include <memory>
+
+#include "framesources/indiclient.h"
+
+constexpr char simulatedCamera[] = "CCD Simulator";
+
+/// The lens and the sensor of the simulated camera.
+struct SimulatedSensor {
+    int width = 1280, height = 960;
+    double scale = 30.45; ///< arcseconds a pixel
+    bool bayer = false;
+};
+
+class IndiServer
+{
+public:
+    static bool isInstalled()
+    {
+        return !QStandardPaths::findExecutable("indiserver").isEmpty() &&
+               !QStandardPaths::findExecutable("indi_simulator_ccd").isEmpty();
+    }
+
+    static quint16 freePort()
+    {
+        QTcpServer probe;
+        probe.listen(QHostAddress::LocalHost, 0);
+        return probe.serverPort();
+    }
+
+    explicit IndiServer(quint16 serverPort = freePort()) : port(serverPort) {}
+    ~IndiServer() { end(); }
+
+    /// True once the camera is there.
+    bool start(const QStringList &drivers = {"indi_simulator_ccd"})
+    {
+        process = std::make_unique<QProcess>();
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("PATH", GSC_FOLDER ":" + environment.value("PATH"));
+        environment.insert("HOME", home.path()); // the drivers keep their settings there
+        process->setProcessEnvironment(environment);
+        process->setStandardOutputFile(QProcess::nullDevice());
+        process->setStandardErrorFile(QProcess::nullDevice());
+        process->start("indiserver",
+                       QStringList{"-p", QString::number(port), "-u", home.filePath("socket")} +
+                           drivers);
+        return process->waitForStarted() && bool(client());
+    }
+
+    /// A client that knows the camera; null if it does not appear.
+    std::unique_ptr<framesources::IndiClient> client(const char *device = simulatedCamera) const
+    {
+        QElapsedTimer waiting;
+        waiting.start();
+        while (waiting.elapsed() < 20000) {
+            auto one = std::make_unique<framesources::IndiClient>("127.0.0.1", port, device);
+            if (one->connectServer())
+                for (int i = 0; i < 40; ++i) {
+                    one->waitForNews(std::chrono::milliseconds(50));
+                    if (one->has("CONNECTION"))
+                        return one;
+                }
+            QTest::qSleep(50);
+        }
+        return nullptr;
+    }
+
+    /// Points the camera at the pole.
+    bool set(const SimulatedSensor &sensor) const
+    {
+        // A device that has just connected may lose what it is sent: everything is sent twice.
+        return setOnce(sensor) && setOnce(sensor);
+    }
+
+    bool setOnce(const SimulatedSensor &sensor) const
+    {
+        const auto one = client();
+        if (!one)
+            return false;
+        one->sendSwitch("CONNECTION", "CONNECT");
+        constexpr double pixel = 3.75, arcsecond = 4.84813681109536e-6; // micrometres, radians
+        one->sendNumbers("SIMULATOR_SETTINGS", {{"SIM_XRES", double(sensor.width)},
+                                                {"SIM_YRES", double(sensor.height)},
+                                                {"SIM_XSIZE", pixel},
+                                                {"SIM_YSIZE", pixel},
+                                                {"SIM_MAXVAL", 65000.0},
+                                                {"SIM_SATURATION", 1.0},
+                                                {"SIM_LIMITINGMAG", 17.0},
+                                                {"SIM_NOISE", 10.0},
+                                                {"SIM_SKYGLOW", 19.5},
+                                                {"SIM_OAGOFFSET", 0.0},
+                                                {"SIM_POLAR", 0.0},
+                                                {"SIM_POLARDRIFT", 0.0},
+                                                {"SIM_PEPERIOD", 0.0},
+                                                {"SIM_PEMAX", 0.0},
+                                                {"SIM_TIME_FACTOR", 1.0},
+                                                {"SIM_ROTATION", 0.0}});
+        for (const char *property :
+             {"SCOPE_INFO", "SIM_FOCUSING", "SIMULATE_BAYER", "EQUATORIAL_PE"})
+            if (!waitFor(*one, property))
+                return false;
+        one->sendNumbers("SCOPE_INFO", {{"FOCAL_LENGTH", pixel * 1e-3 / (sensor.scale * arcsecond)},
+                                        {"APERTURE", 10.0}});
+        one->sendNumbers(
+            "SIM_FOCUSING",
+            {{"SIM_FOCUS_POSITION", 36700.0}, {"SIM_FOCUS_MAX", 100000.0}, {"SIM_SEEING", 60.0}});
+        one->sendSwitch("SIMULATE_BAYER", sensor.bayer ? "INDI_ENABLED" : "INDI_DISABLED");
+        one->sendNumbers("EQUATORIAL_PE", {{"RA_PE", 3.0}, {"DEC_PE", 89.3}});
+        for (int i = 0; i < 20; ++i)
+            one->waitForNews(std::chrono::milliseconds(50));
+        return true;
+    }
+
+    static bool waitFor(framesources::IndiClient &one, const char *property)
+    {
+        for (int i = 0; i < 200 && !one.has(property); ++i)
+            one.waitForNews(std::chrono::milliseconds(50));
+        return one.has(property);
+    }
+
+    void signal(int number) const { ::kill(pid_t(process->processId()), number); }
+
+    /// Sends it to every driver.
+    void signalDrivers(int number) const
+    {
+        const qint64 id = process->processId();
+        QFile children(QString("/proc/%1/task/%1/children").arg(id));
+        if (children.open(QIODevice::ReadOnly))
+            for (const QByteArray &child : children.readAll().split(' '))
+                if (const int driver = child.trimmed().toInt(); driver > 0)
+                    ::kill(driver, number);
+    }
+
+    void end()
+    {
+        if (!process || process->state() == QProcess::NotRunning)
+            return;
+        signal(SIGCONT);
+        process->kill(); // its drivers end with it
+        process->waitForFinished();
+    }
+
+    const quint16 port;
+
+private:
+    const QTemporaryDir home;
+    std::unique_ptr<QProcess> process;
+};

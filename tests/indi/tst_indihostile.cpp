@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+// Does a server that sends garbage do no harm, and do good frames after it come through?
+#include <QtTest>
+#include <random>
+
+#include "tests/indi/hostileserver.h"
+#include "tests/indi/indisource.h"
+
+namespace
+{
+QByteArray golden()
+{
+    QFile file(QStringLiteral(PROJECT_SOURCE_DIR "/tests/pictures/golden/uint16.fits"));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QByteArray number(qint64 value)
+{
+    return QByteArray::number(value);
+}
+
+QByteArray blobOf(const QByteArray &format, const QByteArray &bytes)
+{
+    return HostileServer::blob(format, number(bytes.size()), bytes.toBase64());
+}
+
+QByteArray randomBytes(int count, unsigned seed)
+{
+    std::mt19937 random(seed);
+    QByteArray bytes(count, '\0');
+    for (char &byte : bytes)
+        byte = char(random());
+    return bytes;
+}
+} // namespace
+
+class IndiHostileTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void goodFramesComeThrough_data();
+    void goodFramesComeThrough();
+};
+
+void IndiHostileTest::goodFramesComeThrough_data()
+{
+    QTest::addColumn<QByteArray>("harm");
+    const QByteArray fits = golden();
+    const auto row = [](const char *name, const QByteArray &harm) { QTest::newRow(name) << harm; };
+    row("nothing", "");
+    for (const char *format : {".fits", ".fits.z", ".stream", ".stream.z", ".stream_jpg", ".jpg",
+                               ".z", "", "no format", ".fits.fz"})
+        for (const int length : {0, 1, 3000})
+            row(qPrintable(QString("random %1 of %2 bytes").arg(format).arg(length)),
+                blobOf(format, randomBytes(length, 5)));
+    for (const char *size : {"0", "-1", "1", "2147483647", "-2147483648", "99999999999", "x", ""})
+        for (const char *format : {".fits", ".fits.z", ".stream"})
+            row(qPrintable(QString("said size \"%1\", %2").arg(size, format)),
+                HostileServer::blob(format, size, fits.toBase64()));
+    row("no base64", HostileServer::blob(".fits", "3000", QByteArray(4000, '*')));
+    row("base64 cut",
+        HostileServer::blob(".fits", number(fits.size()), fits.toBase64().left(3001)));
+    row("base64 signs inside", HostileServer::blob(".fits", "3000", QByteArray(4000, '=')));
+    row("header alone", blobOf(".fits", fits.left(2880)));
+    row("huge FITS", blobOf(".fits", QByteArray(fits).replace("NAXIS1  =                   40",
+                                                              "NAXIS1  =           2000000000")));
+    row("unknown device", QByteArray(blobOf(".fits", fits)).replace("'Camera'", "'Other'"));
+    row("unknown property", QByteArray(blobOf(".fits", fits)).replace("'CCD1'", "'CCD9'"));
+    row("no element", "<setBLOBVector device='Camera' name='CCD1'></setBLOBVector>\n");
+    row("no attributes", "<setBLOBVector><oneBLOB>AAAA</oneBLOB></setBLOBVector>\n");
+    row("numbers that are none",
+        "<setNumberVector device='Camera' name='CCD_INFO'><oneNumber name='CCD_MAX_X'>nan"
+        "</oneNumber><oneNumber name='CCD_MAX_Y'>1e999</oneNumber></setNumberVector>\n");
+    row("negative sensor",
+        "<setNumberVector device='Camera' name='CCD_INFO'><oneNumber name='CCD_MAX_X'>-5"
+        "</oneNumber><oneNumber name='CCD_MAX_Y'>-1e300</oneNumber></setNumberVector>\n");
+    row("device taken back", "<delProperty device='Camera'/>\n");
+    row("property taken back", "<delProperty device='Camera' name='CCD1'/>\n");
+    row("no XML", randomBytes(5000, 9));
+    row("wrong end", "<setBLOBVector device='Camera' name='CCD1'></other>\n");
+    row("many elements", QByteArray("<a>").repeated(500) + QByteArray("</a>").repeated(500) + '\n');
+    row("other messages", "<message device='Camera' message='" + QByteArray(5000, 'm') + "'/>\n");
+}
+
+void IndiHostileTest::goodFramesComeThrough()
+{
+    QFETCH(QByteArray, harm);
+    HostileServer server(harm, blobOf(".fits", golden()));
+    IndiSource source(server.port(), "Camera");
+    source.exposure = 0.05;
+    for (int i = 0; i < 3; ++i) {
+        const cv::Mat frame = source.frame(25000);
+        QVERIFY2(!frame.empty(), qPrintable(source.lines().join("\n")));
+    }
+    QVERIFY(server.harmsDone() > 0);
+    QVERIFY2(source.slowest < 100, qPrintable(QString::number(source.slowest)));
+}
+
+QTEST_GUILESS_MAIN(IndiHostileTest)
+#include "tst_indihostile.moc"

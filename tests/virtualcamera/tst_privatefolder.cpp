@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: MIT
+// Is a folder in a public place used only if it is this user's alone?
+#include "virtualcamera/privatefolder.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QtTest>
+#include <functional>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using virtualsky::privateFolder;
+using Arrange = std::function<void(const QByteArray &usual)>;
+Q_DECLARE_METATYPE(Arrange)
+
+namespace
+{
+constexpr auto name = "quorvandel-7";
+
+void makeFolder(const QByteArray &path, mode_t mode)
+{
+    if (mkdir(path, 0700) != 0 || chmod(path, mode) != 0)
+        qFatal("the folder cannot be made");
+}
+
+bool isOwn0700(const QString &path)
+{
+    struct stat found = {};
+    return lstat(path.toLocal8Bit(), &found) == 0 && S_ISDIR(found.st_mode) &&
+           found.st_uid == geteuid() && (found.st_mode & 0777) == 0700;
+}
+} // namespace
+
+class PrivateFolderTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void folder_data();
+    void folder();
+    void lookalikes();
+    void nowhere();
+};
+
+void PrivateFolderTest::folder_data()
+{
+    QTest::addColumn<Arrange>("arrange");
+    QTest::addColumn<bool>("isUsual");
+    const auto row = [](const char *text, bool isUsual, const Arrange &arrange) {
+        QTest::newRow(text) << arrange << isUsual;
+    };
+    row("absent", true, [](const QByteArray &) {});
+    row("own, 0700", true, [](const QByteArray &usual) { makeFolder(usual, 0700); });
+    for (const mode_t mode : {0755U, 0770U, 0707U, 0777U, 0711U, 0500U})
+        row(qPrintable(QString("own, 0%1").arg(mode, 0, 8)), false,
+            [mode](const QByteArray &usual) { makeFolder(usual, mode); });
+    row("link to an own folder", false, [](const QByteArray &usual) {
+        makeFolder(usual + ".target", 0700);
+        QVERIFY(QFile::link(usual + ".target", usual));
+    });
+    row("link to nothing", false,
+        [](const QByteArray &usual) { QVERIFY(QFile::link("/nowhere/at/all", usual)); });
+    row("file", false, [](const QByteArray &usual) {
+        QFile file(usual);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QVERIFY(chmod(usual, 0700) == 0);
+    });
+    if (geteuid() == 0)
+        row("of another user, 0700", false, [](const QByteArray &usual) {
+            makeFolder(usual, 0700);
+            QVERIFY(chown(usual, 65534, 65534) == 0);
+        });
+}
+
+/// Two calls, as of two processes, find the same folder.
+void PrivateFolderTest::folder()
+{
+    QFETCH(Arrange, arrange);
+    QFETCH(bool, isUsual);
+    const QTemporaryDir place;
+    const QString usual = place.filePath(name);
+    arrange(usual.toLocal8Bit());
+    const QString found = QString::fromStdString(privateFolder(place.path().toStdString(), name));
+    QCOMPARE(found == usual, isUsual);
+    QVERIFY(isOwn0700(found));
+    QVERIFY2(found.startsWith(usual), qPrintable(found));
+    QCOMPARE(QString::fromStdString(privateFolder(place.path().toStdString(), name)), found);
+}
+
+/// What others have put there under such a name is not used either.
+void PrivateFolderTest::lookalikes()
+{
+    const QTemporaryDir place;
+    const QByteArray usual = place.filePath(name).toLocal8Bit();
+    makeFolder(usual, 0777);
+    makeFolder(usual + "-aaaaaa", 0777);
+    makeFolder(usual + "-a", 0700); // of somebody else's numbering
+    QVERIFY(QFile::link(usual + "-a", usual + "-aaaaab"));
+    if (geteuid() == 0) {
+        makeFolder(usual + "-aaaaac", 0700);
+        QVERIFY(chown(usual + "-aaaaac", 65534, 65534) == 0);
+    }
+    const QString found = QString::fromStdString(privateFolder(place.path().toStdString(), name));
+    QVERIFY(isOwn0700(found));
+    QVERIFY(!found.contains("-aaaa") && !found.endsWith("-a"));
+    QCOMPARE(QString::fromStdString(privateFolder(place.path().toStdString(), name)), found);
+}
+
+void PrivateFolderTest::nowhere()
+{
+    QCOMPARE(privateFolder("/proc/no/such/folder", name), std::string());
+}
+
+QTEST_GUILESS_MAIN(PrivateFolderTest)
+#include "tst_privatefolder.moc"

@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+// Is the title of each of the virtual mount's panels above all that is in the panel?
+#include "app/stylesheet.h"
+#include "resources/resources.h"
+#include "tests/virtualmount/mountwindowtest.h"
+
+#include <QGroupBox>
+#include <QStyleOptionGroupBox>
+
+class MountPanelsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void titlesAreAboveTheFirstRow();
+    void nothingOverlaps();
+    void theDialIsAboveItsAngle();
+};
+
+void MountPanelsTest::initTestCase()
+{
+    initialiseResources();
+    applyStyleSheet(*qApp, QStringLiteral(":/qss/default.qss"));
+}
+
+namespace
+{
+QRect titleOf(const QGroupBox &panel)
+{
+    QStyleOptionGroupBox option;
+    option.initFrom(&panel);
+    option.text = panel.title();
+    option.lineWidth = 1;
+    option.textAlignment = Qt::AlignLeft;
+    option.subControls = QStyle::SC_GroupBoxFrame | QStyle::SC_GroupBoxLabel;
+    return panel.style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel,
+                                         &panel);
+}
+} // namespace
+
+void MountPanelsTest::titlesAreAboveTheFirstRow()
+{
+    const SkyFileFixture file;
+    const ShownWindow shown(file.path());
+    int titles = 0;
+    for (const auto *const panel : shown.window.findChildren<QGroupBox *>()) {
+        if (panel->title().isEmpty())
+            continue;
+        ++titles;
+        const QRect title = titleOf(*panel);
+        QVERIFY2(title.height() >= panel->fontMetrics().ascent(), qPrintable(panel->title()));
+        for (const auto *const widget :
+             panel->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly))
+            if (!widget->isHidden())
+                QVERIFY2(widget->y() > title.bottom(),
+                         qPrintable(panel->title() + ": " + widget->objectName()));
+    }
+    QVERIFY2(titles >= 4, qPrintable(QString::number(titles)));
+}
+
+void MountPanelsTest::nothingOverlaps()
+{
+    const SkyFileFixture file;
+    const ShownWindow shown(file.path());
+    int compared = 0;
+    for (const auto *const panel : shown.window.findChildren<QGroupBox *>()) {
+        const auto widgets = panel->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+        for (const auto *const a : widgets)
+            for (const auto *const b : widgets) {
+                if (a == b || !a->isVisible() || !b->isVisible())
+                    continue;
+                ++compared;
+                QVERIFY2(!a->geometry().intersects(b->geometry()),
+                         qPrintable(a->objectName() + " and " + b->objectName()));
+            }
+    }
+    QVERIFY2(compared > 100, qPrintable(QString::number(compared)));
+}
+
+void MountPanelsTest::theDialIsAboveItsAngle()
+{
+    const SkyFileFixture file;
+    const ShownWindow shown(file.path());
+    const QRect dial = named<QWidget>(shown.window, "dial").geometry();
+    const QRect angle = named<QWidget>(shown.window, "angle").geometry();
+    QVERIFY(dial.bottom() < angle.top());
+    QVERIFY(dial.left() < angle.right() && angle.left() < dial.right());
+}
+
+QTEST_MAIN(MountPanelsTest)
+#include "tst_mountpanels.moc"

@@ -1,0 +1,178 @@
+// SPDX-License-Identifier: MIT
+// Clicks, turns and waits as a person would.
+#include "tools/tour/assistanthands.h"
+
+#include <QAbstractButton>
+#include <QDeadlineTimer>
+#include <QLabel>
+#include <QTest>
+#include <QVariant>
+#include <cmath>
+#include <stdexcept>
+
+namespace
+{
+constexpr int skyPatience = 60000, axisPatience = 20000, boltPatience = 20000; // milliseconds
+constexpr double mostTurn = 120.0;                                             // degrees
+constexpr int mostTurns = 40;                                                  // of the bolts
+} // namespace
+
+AssistantHands::AssistantHands(QWidget &theWindow, Knobs &theKnobs, const Options &how)
+    : window(theWindow), knobs(theKnobs), options(how)
+{
+}
+
+void AssistantHands::pause() const
+{
+    QTest::qWait(options.pauseMilliseconds);
+}
+
+void AssistantHands::say(const QString &what) const
+{
+    if (announce)
+        announce(what);
+}
+
+void AssistantHands::arrive(const QString &name) const
+{
+    pause();
+    if (arrived)
+        arrived(name);
+}
+
+void AssistantHands::click(const QString &name)
+{
+    auto *const button = window.findChild<QAbstractButton *>(name);
+    if (!button || !button->isVisible() || !button->isEnabled())
+        throw std::runtime_error("no button " + name.toStdString());
+    // A check box takes clicks only where it draws.
+    QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, {14, button->height() / 2});
+}
+
+QString AssistantHands::text(const QString &name) const
+{
+    const auto *const label = window.findChild<QLabel *>(name);
+    return label ? label->text() : QString();
+}
+
+std::optional<double> AssistantHands::number(const QString &name, const char *property) const
+{
+    const auto *const label = window.findChild<QLabel *>(name);
+    const QVariant value = label ? label->property(property) : QVariant();
+    if (!value.isValid())
+        return {};
+    return value.toDouble();
+}
+
+void AssistantHands::waitFor(const std::function<bool()> &isThere, int milliseconds,
+                             const char *what) const
+{
+    if (!QTest::qWaitFor(isThere, milliseconds))
+        throw std::runtime_error(std::string(what) + "; the window says: " +
+                                 text(QStringLiteral("label_advice")).toStdString());
+}
+
+void AssistantHands::connectCamera()
+{
+    arrive(QStringLiteral("connect"));
+    say(QStringLiteral("Connect the camera."));
+    const QString before = text(QStringLiteral("label_axisTurn"));
+    click(QStringLiteral("pushButton_connect"));
+    // Once the sky is recognised, the turn of the axis is a number.
+    waitFor([&] { return text(QStringLiteral("label_axisTurn")) != before; }, skyPatience,
+            "the sky is not recognised");
+    arrive(QStringLiteral("sky"));
+}
+
+void AssistantHands::turnAxis()
+{
+    say(QStringLiteral("Turn the RA axis."));
+    const double start = knobs.edit().raAngle;
+    const auto isKnown = [&] { return number(QStringLiteral("label_totalError")).has_value(); };
+    for (double turned = options.axisStep; turned <= mostTurn && !isKnown();
+         turned += options.axisStep) {
+        const QString before = text(QStringLiteral("label_axisTurn"));
+        knobs.turnRaAxisTo(start + turned);
+        waitFor([&] { return isKnown() || text(QStringLiteral("label_axisTurn")) != before; },
+                axisPatience, "the turn of the axis does not show");
+        if (turned > 7.0 && turned - options.axisStep <= 7.0 && !isKnown())
+            arrive(QStringLiteral("axis"));
+        pause();
+    }
+    waitFor(isKnown, axisPatience, "the axis is not found");
+    arrive(QStringLiteral("bolts"));
+}
+
+void AssistantHands::turnBoltsBy(double altitude, double azimuth)
+{
+    for (int i = 0; i < options.parts; ++i) {
+        knobs.turnBoltsTo(knobs.edit().boltAltitude + altitude / options.parts,
+                          knobs.edit().boltAzimuth + azimuth / options.parts);
+        QTest::qWait(options.parts > 1 ? 250 : 0);
+    }
+}
+
+void AssistantHands::turnBolts()
+{
+    say(QStringLiteral("Turn the bolts as the arrows say."));
+    bool wasNear = false;
+    for (int i = 0; i < mostTurns; ++i) {
+        const auto total = number(QStringLiteral("label_totalError"));
+        const auto altitude = number(QStringLiteral("label_altitudeError"));
+        const auto azimuth = number(QStringLiteral("label_azimuthError"));
+        if (total && *total < options.goalArcseconds) {
+            arrive(QStringLiteral("aligned"));
+            return;
+        }
+        if (!altitude || !azimuth) {
+            QTest::qWait(200);
+            continue;
+        }
+        if (*total < 60.0 && !wasNear) {
+            wasNear = true;
+            arrive(QStringLiteral("near"));
+        }
+        // A hand stops short of a far goal.
+        const double share = *total > 600.0 ? 0.95 : 0.99;
+        turnBoltsBy(-*altitude / 3600.0 * share, -*azimuth / 3600.0 * share);
+        const double expected = *total * 0.5;
+        waitFor(
+            [&] {
+                const auto now = number(QStringLiteral("label_totalError"));
+                return now && (*now < expected || *now < options.goalArcseconds);
+            },
+            boltPatience, "the numbers do not follow the bolts");
+        QTest::qWait(700); // until the number stands still
+        pause();
+    }
+    throw std::runtime_error("the bolts do not lead to the goal");
+}
+
+void AssistantHands::showLargeView()
+{
+    QTest::keyClick(&window, Qt::Key_F11);
+    QTest::qWait(300);
+    arrive(QStringLiteral("large"));
+    QTest::keyClick(&window, Qt::Key_F11);
+}
+
+void AssistantHands::showOtherPages()
+{
+    click(QStringLiteral("pushButton_report"));
+    QTest::qWait(200);
+    arrive(QStringLiteral("report"));
+    QTest::keyClick(&window, Qt::Key_Escape);
+    click(QStringLiteral("pushButton_settings"));
+    click(QStringLiteral("pushButton_nightSection"));
+    arrive(QStringLiteral("night"));
+    click(QStringLiteral("checkBox_red"));
+    QTest::qWait(200);
+    QTest::keyClick(&window, Qt::Key_Escape);
+    arrive(QStringLiteral("red"));
+    click(QStringLiteral("pushButton_settings"));
+    click(QStringLiteral("pushButton_nightSection"));
+    click(QStringLiteral("checkBox_red"));
+    click(QStringLiteral("pushButton_poleSection"));
+    arrive(QStringLiteral("pole"));
+    QTest::keyClick(&window, Qt::Key_Escape);
+}
