@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Are noise, hot pixels, areas and channels of a frame as stated, within its time?
 #include <QtTest>
-#include <ctime>
 
 #include "tests/virtualcamera/skytest.h"
 
@@ -22,7 +21,6 @@ private slots:
     void threeChannels();
     void extremesStayDefined_data();
     void extremesStayDefined();
-    void renderTime();
 };
 
 void SensorOutputTest::noiseIsAsStated_data()
@@ -176,26 +174,6 @@ void SensorOutputTest::extremesStayDefined()
         QCOMPARE(frame.at(640, 480), 255);
     else
         QVERIFY(mean(frame) >= 6.0 && mean(frame) < 40.0);
-}
-
-void SensorOutputTest::renderTime()
-{
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__) || !defined(NDEBUG)
-    QSKIP("measured in the optimised build alone");
-#endif
-    Scene scene;
-    Sensor sensor;
-    const SkyState state;
-    std::vector<std::uint8_t> out(1280 * 960);
-    double best = 1.0;
-    for (int i = 0; i < 20; ++i) {
-        const std::clock_t start = std::clock();
-        const auto &stars = scene.starsAt(state, may2024 + i * 0.03);
-        sensor.render(state, stars, {}, {0.5, 50.0, static_cast<std::uint64_t>(i)}, out.data());
-        best = std::min(best, static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC);
-    }
-    qInfo("one frame takes %.2f ms of one core", best * 1e3);
-    QVERIFY(best < 0.015);
 }
 
 QTEST_GUILESS_MAIN(SensorOutputTest)
