@@ -87,12 +87,23 @@ QFont nameFont(const QPainter &painter)
     return font;
 }
 
+/// Where a name may be: right of its star, left, below, above.
+std::vector<QRectF> aroundStar(const QPointF &star, const QSizeF &size)
+{
+    constexpr double apart = 9.0;
+    const double w = size.width(), h = size.height();
+    return {{star + QPointF(apart, -h / 2.0), size},
+            {star + QPointF(-apart - w, -h / 2.0), size},
+            {star + QPointF(-w / 2.0, apart), size},
+            {star + QPointF(-w / 2.0, -apart - h), size}};
+}
+
 /// Stars with a name of their own come before those with a number, then the brightest.
 void paintNames(const Canvas &c, const std::vector<QPointF> &places, std::vector<QRectF> taken)
 {
     c.painter.setFont(nameFont(c.painter));
     const QFontMetricsF metrics(c.painter.font());
-    std::vector<QRectF> boxes;
+    std::vector<std::vector<QRectF>> boxes;
     std::vector<QString> names;
     for (const bool isNumber : {false, true})
         for (std::size_t i = 0; i < places.size(); ++i) {
@@ -101,14 +112,14 @@ void paintNames(const Canvas &c, const std::vector<QPointF> &places, std::vector
             if (name.isEmpty() || name.startsWith(QLatin1String("HD ")) != isNumber)
                 continue;
             names.push_back(name);
-            boxes.emplace_back(places[i] + QPointF(9.0, -metrics.height() / 2.0),
-                               QSizeF(metrics.horizontalAdvance(name) + 2.0, metrics.height()));
+            boxes.push_back(aroundStar(
+                places[i], QSizeF(metrics.horizontalAdvance(name) + 2.0, metrics.height())));
         }
     for (const QPointF &place : places)
         taken.emplace_back(place - QPointF(6, 6), QSizeF(12, 12));
     c.painter.setPen(c.theme.star);
-    for (const std::size_t i : thinned(boxes, taken, c.bounds, mostNames))
-        c.painter.drawText(boxes[i], Qt::AlignVCenter | Qt::AlignLeft, names[i]);
+    for (const PlacedLabel &name : placedLabels(boxes, taken, c.bounds, mostNames))
+        c.painter.drawText(name.box, Qt::AlignCenter, names[name.label]);
 }
 
 void paintStars(const Canvas &c, const std::vector<QRectF> &taken)

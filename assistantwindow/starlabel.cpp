@@ -48,7 +48,8 @@ std::array<uchar, 256> curveOf(int median)
 
 QString starLabel(const std::string &name)
 {
-    const QString text = QString::fromStdString(name);
+    // "alp UMi, Polaris" is called by its own name.
+    const QString text = QString::fromStdString(name).section(QLatin1String(", "), -1);
     if (text.isEmpty() || !text.at(0).isLetter())
         return {};
     const QString first = text.section(QLatin1Char(' '), 0, 0);

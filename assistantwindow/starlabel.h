@@ -8,7 +8,8 @@
 
 namespace assistantwindow
 {
-/// "zet Oct" becomes "ζ Oct"; names and HD numbers stay; empty for a star that has only a place.
+/// "zet Oct" becomes "ζ Oct", "alp UMi, Polaris" its own name; other names and HD numbers stay;
+/// empty for a star that has only a place.
 QString starLabel(const std::string &name);
 
 /// The picture as eyes that look for stars want it: its median (the sky) dark, faint stars lifted.

@@ -63,21 +63,25 @@ Ellipse ellipseOf(const recognition::Covariance &covariance, double sigmas)
             std::atan2(covariance.xy, half) / 2.0 / degree};
 }
 
-std::vector<std::size_t> thinned(const std::vector<QRectF> &boxes, const std::vector<QRectF> &taken,
-                                 const QRectF &bounds, std::size_t most)
+std::vector<PlacedLabel> placedLabels(const std::vector<std::vector<QRectF>> &labels,
+                                      const std::vector<QRectF> &taken, const QRectF &bounds,
+                                      std::size_t most)
 {
     std::vector<QRectF> occupied = taken;
-    std::vector<std::size_t> kept;
-    for (std::size_t i = 0; i < boxes.size() && kept.size() < most; ++i) {
-        const QRectF &box = boxes[i];
-        const bool overlaps = std::any_of(occupied.begin(), occupied.end(),
-                                          [&box](const QRectF &o) { return o.intersects(box); });
-        if (overlaps || !bounds.contains(box))
+    std::vector<PlacedLabel> placed;
+    for (std::size_t i = 0; i < labels.size() && placed.size() < most; ++i) {
+        const auto fits = [&](const QRectF &box) {
+            return bounds.contains(box) &&
+                   std::none_of(occupied.begin(), occupied.end(),
+                                [&box](const QRectF &o) { return o.intersects(box); });
+        };
+        const auto found = std::find_if(labels[i].begin(), labels[i].end(), fits);
+        if (found == labels[i].end())
             continue;
-        occupied.push_back(box);
-        kept.push_back(i);
+        occupied.push_back(*found);
+        placed.push_back({i, *found});
     }
-    return kept;
+    return placed;
 }
 
 EdgeArrow arrowInDirection(double degrees, const QRectF &bounds)

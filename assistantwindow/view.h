@@ -44,10 +44,16 @@ struct Ellipse {
 };
 Ellipse ellipseOf(const recognition::Covariance &covariance, double sigmas);
 
-/// Which of these boxes, most important first, can be drawn without overlapping each other or
-/// `taken`, and inside `bounds`; at most `most` of them.
-std::vector<std::size_t> thinned(const std::vector<QRectF> &boxes, const std::vector<QRectF> &taken,
-                                 const QRectF &bounds, std::size_t most);
+/// A label that is drawn: which of the given ones, and where.
+struct PlacedLabel {
+    std::size_t label;
+    QRectF box;
+};
+/// Labels, most important first, each with the boxes where it may be, best first: those that can be
+/// drawn inside `bounds` without overlapping each other or `taken`, at most `most` of them.
+std::vector<PlacedLabel> placedLabels(const std::vector<std::vector<QRectF>> &labels,
+                                      const std::vector<QRectF> &taken, const QRectF &bounds,
+                                      std::size_t most);
 
 /// Where a ray from the middle of `bounds` towards `target` leaves it; nothing if the target is
 /// inside.

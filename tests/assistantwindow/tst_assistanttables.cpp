@@ -349,13 +349,20 @@ void AssistantTablesTest::ellipses()
 void AssistantTablesTest::namesAreThinned()
 {
     const QRectF bounds(0, 0, 100, 100);
-    const std::vector<QRectF> boxes{{10, 10, 20, 10}, {20, 12, 20, 10}, {60, 60, 20, 10},
-                                    {90, 90, 20, 10}, {40, 40, 20, 10}, {10, 80, 20, 10}};
+    const std::vector<std::vector<QRectF>> boxes{
+        {{10, 10, 20, 10}}, {{20, 12, 20, 10}},
+        {{60, 60, 20, 10}}, {{90, 90, 20, 10}, {70, 90, 20, 10}},
+        {{40, 40, 20, 10}}, {{10, 80, 20, 10}}};
     const std::vector<QRectF> taken{{45, 35, 10, 10}};
-    // The second overlaps the first, the fourth leaves the picture, the fifth is over a mark.
-    const std::vector<std::size_t> expected{0, 2, 5};
-    QCOMPARE(thinned(boxes, taken, bounds, 9), expected);
-    QCOMPARE(thinned(boxes, taken, bounds, 2).size(), std::size_t(2));
+    // The second overlaps the first, the fourth leaves the picture at its first place and has
+    // another, the fifth is over a mark.
+    std::vector<std::size_t> labels;
+    for (const PlacedLabel &name : placedLabels(boxes, taken, bounds, 9))
+        labels.push_back(name.label);
+    const std::vector<std::size_t> expected{0, 2, 3, 5};
+    QCOMPARE(labels, expected);
+    QCOMPARE(placedLabels(boxes, taken, bounds, 9)[2].box, QRectF(70, 90, 20, 10));
+    QCOMPARE(placedLabels(boxes, taken, bounds, 2).size(), std::size_t(2));
 }
 
 void AssistantTablesTest::arrowsToOutside_data()
@@ -443,6 +450,8 @@ void AssistantTablesTest::starLabels_data()
                                     << "ζ Oct";
     QTest::newRow("name") << "Polaris"
                           << "Polaris";
+    QTest::newRow("letter and name") << "alp UMi, Polaris"
+                                     << "Polaris";
     QTest::newRow("number") << "HD 5848"
                             << "HD 5848";
     QTest::newRow("place") << "72.261-88.271"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Are noise, hot pixels, areas and channels of a frame as stated, within its time?
+// Are noise, hot pixels, areas and channels of a frame as stated?
 #include <QtTest>
 
 #include "tests/virtualcamera/skytest.h"
