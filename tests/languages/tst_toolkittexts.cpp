@@ -29,6 +29,10 @@ class ToolkitTextsTest : public QObject
 {
     Q_OBJECT
 
+private:
+    /// For all rows: the dialog opens where the last one was, and makes a folder there.
+    const QTemporaryDir folder;
+
 private slots:
     void initTestCase();
     void areTranslated_data();
@@ -129,8 +133,8 @@ void ToolkitTextsTest::areTranslated_data()
 void ToolkitTextsTest::areTranslated()
 {
     QFETCH(int, number);
-    const QTemporaryDir folder;
     QVERIFY(QDir::setCurrent(folder.path()));
+    QFile::remove("locked.png");
     for (const char *const name : {"here.png", "locked.png"})
         QVERIFY(QImage(4, 4, QImage::Format_RGB32).save(name));
     QVERIFY(QFile::setPermissions("locked.png", QFile::ReadOwner));
