@@ -220,8 +220,12 @@ void AssistantSession::lookAt(const NewestFrame::Taken &taken)
     }
     Status status = guide.observe({taken.frame, taken.utcSeconds, taken.steadySeconds,
                                    taken.exposureMicroseconds, synchronised});
-    if (const auto wanted = guide.wantedExposure())
-        camera.setExposure(*wanted);
+    if (const auto wanted = guide.wantedExposure()) {
+        // Under the lock: a value that the user sets meanwhile comes after this one.
+        const std::lock_guard<std::mutex> lock(mutex);
+        if (requests.automatic)
+            camera.setExposure(*wanted);
+    }
     record(taken, status);
     if (!isNewConnection()) // this frame is of the connection before
         publish(std::move(status), pictureOf(taken.frame));

@@ -153,6 +153,9 @@ void CameraOperator::run()
     }
     closeCamera(true);
     capture.waitForEnd();
+    // The thread that stops the live mode may hang after the fetch has returned.
+    if (!closing.stopEnds(0))
+        return;
     const std::lock_guard<std::mutex> lock(mutex);
     ended = true;
     ordered.notify_all();
@@ -209,7 +212,8 @@ void CameraOperator::obey(const Orders &orders)
     known.id = orders.id;
 }
 
-/// Stores the ID of the camera to open; false if it is not there.
+/// Stores the ID of the camera to open; false if there is none. A camera that was lost is waited
+/// for; before that the ID is a preference, and another camera will do.
 bool CameraOperator::choose()
 {
     look();
@@ -218,8 +222,10 @@ bool CameraOperator::choose()
         const std::lock_guard<std::mutex> lock(mutex);
         found = known.cameras;
     }
-    const auto chosen =
+    auto chosen =
         wantedId.empty() ? found.begin() : std::find(found.begin(), found.end(), wantedId);
+    if (chosen == found.end() && !link().wasLive)
+        chosen = found.begin();
     if (chosen == found.end())
         return false;
     wantedId = *chosen; // the same one, when it is lost and found

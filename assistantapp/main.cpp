@@ -85,6 +85,8 @@ int main(int argc, char *argv[])
     chooseLanguage(options, settings);
     chooseFolder(settings);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/assistant/assistant.png")));
+    // Before the camera library is loaded. The settings are saved with every change.
+    TerminationSignals termination([] {});
     assistantwindow::SessionInstrument instrument(settings);
     int status = 0;
     {
@@ -94,7 +96,7 @@ int main(int argc, char *argv[])
             });
         if (!settings.site)
             window.suggestSite(siteOfTheOtherProgram());
-        const TerminationSignals closing(window);
+        termination.closeWindow(window);
         if (options.maximized)
             window.showMaximized();
         else

@@ -22,6 +22,7 @@ private slots:
     void init();
     void namesCamerasAndConnects();
     void missingCameraIsReported();
+    void anotherCameraWillDo();
     void secondCameraIsChosen();
     void exposureIsSet();
     void unpluggedAndBack();
@@ -67,6 +68,16 @@ void AssistantSessionTest::namesCamerasAndConnects()
     QVERIFY(comes([&] { return session.link().state == CameraLink::State::Idle; }));
     QVERIFY(showsFirst(session, AdviceCode::ConnectCamera));
     QVERIFY(session.latest().picture.isNull());
+    QVERIFY(session.close(patience));
+}
+
+/// The camera of last night is a preference: another one will do.
+void AssistantSessionTest::anotherCameraWillDo()
+{
+    AssistantSession session({});
+    session.connectCamera("QUORVANDEL-elsewhere");
+    QVERIFY(comes([&] { return session.link().state == CameraLink::State::Live; }));
+    QCOMPARE(session.link().id, std::string("QUORVANDEL-V0001"));
     QVERIFY(session.close(patience));
 }
 
