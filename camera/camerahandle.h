@@ -7,14 +7,14 @@
 
 #include <QMutex>
 
-/// The handle of the open camera and its lock; null if no camera is open. Only the GUI thread sets
-/// the handle, and it may read it at any time. The capture thread holds the lock during each of its
-/// calls, and the GUI thread holds it to stop and close. So no call uses a closed handle, and
-/// closing waits for one fetch at most.
+/// The handle of the open camera and its lock; null if no camera is open. Only one thread
+/// sets the handle, the GUI thread or the assistant's operator, and it may read it at any time. The
+/// capture thread holds the lock during each of its calls, and that thread to stop and close. So no
+/// call uses a closed handle, and closing waits for one fetch at most.
 class CameraHandle
 {
 public:
-    /// How long the GUI thread waits for a call of the capture thread, milliseconds. Far longer
+    /// How long that thread waits for a call of the capture thread, milliseconds. Far longer
     /// than any frame takes, to distinguish a library that hangs from a slow one.
     static constexpr int sdkCallTimeout = 10000;
 

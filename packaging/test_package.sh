@@ -192,9 +192,10 @@ test_homes_that_do_not_serve() {
   check "a noexec home: it reports that" said "does not let programs be started"
 }
 
-test_mount() {
-  start $home quorvandel-mount
-  check "the virtual mount's window opens" window 'ount'
+# opens PROGRAM NAME: whether the program opens a window with this name.
+opens() {
+  start $home "$1"
+  check "$1: its window opens" window "$2"
   kill $running
   wait $running 2>/dev/null
 }
@@ -226,7 +227,10 @@ test_settings
 test_upgrade
 test_documents
 test_homes_that_do_not_serve
-test_mount
+opens quorvandel-mount 'ount'
+opens quorvandel-assistant 'ssistant'
+check "the camera command takes a frame of the virtual camera" \
+  in_root su $user -c "quorvandel-camera --camera sky grab /tmp/frame.png"
 
 check "it is removed" in_root dpkg --purge quorvandel
 everything >"$scratch/after"

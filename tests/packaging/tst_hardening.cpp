@@ -36,9 +36,12 @@ void HardeningTest::file_data()
     QTest::addColumn<QString>("path");
     QTest::addColumn<bool>("isProgram");
     QTest::newRow("quorvandel") << QString(PROGRAM) << true;
+    QTest::newRow("quorvandel-assistant") << QString(ASSISTANT) << true;
+    QTest::newRow("quorvandel-camera") << QString(CAMERA_COMMAND) << true;
     QTest::newRow("quorvandel-mount") << QString(MOUNT) << true;
     QTest::newRow("quorvandel-recognise") << QString(RECOGNISE) << true;
     QTest::newRow("libveldix.so.20") << QString(CAMERA) << false;
+    QTest::newRow("the sources of frames") << QString(SOURCES) << false;
 }
 
 void HardeningTest::file()
