@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <QIcon>
+#include <QScreen>
 #include <QStandardPaths>
 #include <cstdio>
 #include <cstdlib>
@@ -26,6 +27,7 @@ static void initialiseAssistantResources()
 namespace
 {
 constexpr int closingPatience = 12000; // milliseconds
+constexpr int leastScreenHeight = 520; // pixels, below which the window fills the screen
 constexpr int misuse = 2;              // exit status for a bad option
 
 /// What the user entered in quorvandel, which keeps its settings beside its executable: in the
@@ -97,7 +99,9 @@ int main(int argc, char *argv[])
         if (!settings.site)
             window.suggestSite(siteOfTheOtherProgram());
         termination.closeWindow(window);
-        if (options.maximized)
+        // On a small screen a title bar would push the last row out of sight.
+        const QSize screen = QGuiApplication::primaryScreen()->availableSize();
+        if (options.maximized || screen.height() < leastScreenHeight)
             window.showMaximized();
         else
             window.show();

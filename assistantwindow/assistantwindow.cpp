@@ -7,6 +7,7 @@
 #include "assistantwindow/reportpage.h"
 #include "assistantwindow/settingspage.h"
 #include "core/languages.h"
+#include "widgets/returnpresses.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -58,6 +59,7 @@ AssistantWindow::AssistantWindow(Instrument &theInstrument, const assistant::Set
     instrument.findCameras();
     connectButtons();
     addShortcuts();
+    new ReturnPresses(*this); // owned by the window
     refresh();
     connect(&timer, &QTimer::timeout, this, [this] {
         // What concerns the camera alone changes without a frame.
@@ -113,6 +115,7 @@ void AssistantWindow::addShortcuts()
     add(Qt::Key_F10, [this] { openSettings(); });
     add(Qt::Key_F11, [this] { currentWidget() == largePage ? openMain() : openLarge(); });
     add(Qt::Key_Escape, [this] { openMain(); });
+    add(Qt::CTRL + Qt::Key_Q, [this] { close(); });
 }
 
 void AssistantWindow::connectCamera()
@@ -200,11 +203,14 @@ void AssistantWindow::openMain()
     if (currentWidget() == mainPage)
         return;
     const bool wasLarge = currentWidget() == largePage;
+    QPushButton *const opener = wasLarge                        ? mainPage->largeViewButton
+                                : currentWidget() == reportPage ? mainPage->reportButton
+                                                                : mainPage->settingsButton;
     setCurrentWidget(mainPage);
     if (wasLarge && !fullBefore)
         setWindowState(windowState() & ~Qt::WindowFullScreen);
     placeSite();
-    (wasLarge ? mainPage->largeViewButton : mainPage->connectButton)->setFocus();
+    opener->setFocus(); // not Connect, which a second press would leave
     refresh();
 }
 

@@ -28,7 +28,8 @@ void addFigures(Display &display, const assistant::Status &status, const QLocale
     display.hasBolts = display.altitude.arcseconds && display.azimuth.arcseconds;
     if (error)
         display.uncertainty = display.total.sigma;
-    else if (status.axis.sigmaArcseconds > 0.0 && status.axis.place)
+    else if (status.stage == assistant::Stage::Axis && status.axis.sigmaArcseconds > 0.0 &&
+             status.axis.place)
         display.uncertainty = uncertaintyText(status.axis.sigmaArcseconds, locale);
     if (display.uncertainty.isEmpty())
         display.uncertainty = dash();
