@@ -3,14 +3,15 @@
 #include "assistant/errorfigures.h"
 #include "assistant/history.h"
 #include "assistant/steadyfigures.h"
+#include "tests/assistant/goldenbolts.h"
 
-#include <QFile>
 #include <QtTest>
 #include <cmath>
 #include <random>
 #include <vector>
 
 using namespace assistant;
+using namespace goldenbolts;
 
 class ErrorFiguresTest : public QObject
 {
@@ -37,80 +38,6 @@ private slots:
 
 namespace
 {
-constexpr double november2026 = 1795204800.0;
-
-struct Golden {
-    double latitude, boltAltitude, boltAzimuth; // degrees
-    astrometry::Vector3 axis, right;            // east, north, up
-    recognition::Covariance pixel;
-    double altitude, azimuth, total;                // arcseconds
-    double altitudeSigma, azimuthSigma, totalSigma; // arcseconds
-};
-
-std::vector<Golden> goldenBolts()
-{
-    QFile file(QStringLiteral(PROJECT_SOURCE_DIR "/tests/assistant/golden/bolts.csv"));
-    std::vector<Golden> rows;
-    if (!file.open(QIODevice::ReadOnly))
-        return rows;
-    while (!file.atEnd()) {
-        const QList<QByteArray> parts = file.readLine().trimmed().split(',');
-        double v[18] = {};
-        for (int i = 0; i < 18 && i < parts.size(); ++i)
-            v[i] = parts[i].toDouble();
-        rows.push_back({v[0],
-                        v[1],
-                        v[2],
-                        {v[3], v[4], v[5]},
-                        {v[6], v[7], v[8]},
-                        {v[9], v[10], v[11]},
-                        v[12],
-                        v[13],
-                        v[14],
-                        v[15],
-                        v[16],
-                        v[17]});
-    }
-    return rows;
-}
-
-astrometry::Site siteOf(const Golden &row)
-{
-    return {row.latitude, 116.0};
-}
-
-/// A recognised frame, 30 arcseconds a pixel, whose middle shows the axis.
-recognition::Recognition frameOf(const Golden &row)
-{
-    const astrometry::Matrix3 cirs =
-        astrometry::transposed(astrometry::horizonFromCirs(siteOf(row), november2026));
-    const auto forward = astrometry::apply(cirs, row.axis);
-    const auto right = astrometry::apply(cirs, row.right);
-    recognition::SkyMapping::Fit fit;
-    fit.coefficients[1] = 30.0 * astrometry::arcsecond;
-    recognition::Recognition frame;
-    frame.status = recognition::RecognitionStatus::Recognised;
-    frame.hemisphere =
-        row.latitude < 0.0 ? recognition::Hemisphere::South : recognition::Hemisphere::North;
-    frame.utcSeconds = november2026;
-    frame.observed = true;
-    frame.mapping = {
-        {right, astrometry::cross(forward, right), forward}, {640.0, 480.0}, 1.0, false, fit};
-    return frame;
-}
-
-FrameError errorOf(const Golden &row, recognition::PoleTarget target)
-{
-    recognition::Axis axis;
-    axis.status = recognition::AxisStatus::Found;
-    axis.place = {640.0, 480.0};
-    axis.covariance = row.pixel;
-    Settings settings;
-    settings.site = siteOf(row);
-    settings.target = target;
-    return frameErrorOf(frameOf(row), axis, settings).value();
-}
-
 /// A standard error of 3 along x = y and of 1 across it.
 recognition::Covariance longEllipse()
 {
@@ -121,7 +48,7 @@ recognition::Covariance longEllipse()
 void ErrorFiguresTest::figuresAreTheBolts_data()
 {
     QTest::addColumn<int>("index");
-    const std::vector<Golden> rows = goldenBolts();
+    const std::vector<Row> rows = all();
     for (std::size_t i = 0; i < rows.size(); ++i)
         QTest::addRow("latitude %g, bolts %g %g", rows[i].latitude, rows[i].boltAltitude,
                       rows[i].boltAzimuth)
@@ -132,7 +59,7 @@ void ErrorFiguresTest::figuresAreTheBolts_data()
 void ErrorFiguresTest::figuresAreTheBolts()
 {
     QFETCH(int, index);
-    const Golden row = goldenBolts().at(std::size_t(index));
+    const Row row = all().at(std::size_t(index));
     const ErrorFigures figures =
         figuresOf(errorOf(row, recognition::PoleTarget::True), siteOf(row));
     QVERIFY(figures.altitude && figures.azimuth);
@@ -168,7 +95,7 @@ void ErrorFiguresTest::refractionIsAlongTheVertical()
     const double lift = (std::asin(lifted.z) / astrometry::degree - std::abs(latitude)) * 3600.0;
     QVERIFY(lift > 8.0); // 10" at 80 degrees, ten minutes at 5
     int compared = 0;
-    for (const Golden &row : goldenBolts()) {
+    for (const Row &row : all()) {
         if (row.latitude != latitude)
             continue;
         const ErrorFigures figures =
