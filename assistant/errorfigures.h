@@ -34,11 +34,13 @@ std::optional<PolePlace> poleOf(const recognition::Recognition &frame, const Set
 /// The axis against the pole in one frame, with the two parts of its uncertainty kept apart: that
 /// of the axis stays the same from frame to frame, that of the frame does not.
 struct FrameError {
-    double x = 0.0, y = 0.0; ///< arcseconds: with a site altitude and azimuth on the sky, else two
-                             ///< directions that are fixed to the Earth
-    double axisX = 0.0, axisY = 0.0;   ///< standard errors by the axis
-    double frameX = 0.0, frameY = 0.0; ///< standard errors by the frame's mapping
+    /// Arcseconds. With a site, the angle on the sky, split along the pole's vertical (x, upwards)
+    /// and across it (y, eastwards); else two directions that are fixed to the Earth.
+    double x = 0.0, y = 0.0;
+    recognition::Covariance axis;  ///< of x and y by the axis, arcseconds squared
+    recognition::Covariance frame; ///< by the frame's mapping
     bool hasSite = false;
+    double poleAltitude = 0.0; ///< with a site: of the pole that is aligned on, radians
 };
 
 /// @param axis where the axis lies in the camera's picture
@@ -46,7 +48,8 @@ struct FrameError {
 std::optional<FrameError> frameErrorOf(const recognition::Recognition &frame,
                                        const recognition::Axis &axis, const Settings &settings);
 
-/// What is shown. Azimuth becomes the angle about the vertical: that on the sky over the cosine of
-/// the pole's altitude, which is the site's latitude.
+/// What is shown: with a site the angles that the bolts turn. Altitude is the axis' altitude minus
+/// the pole's; azimuth the difference of their azimuths, about the vertical. Their standard errors
+/// are those of the axis' direction, carried over exactly to first order.
 ErrorFigures figuresOf(const FrameError &error, const std::optional<astrometry::Site> &site);
 } // namespace assistant

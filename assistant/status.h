@@ -80,8 +80,8 @@ struct AxisProgress {
 /// The error of the axis against the chosen pole.
 struct ErrorFigures {
     recognition::Measured total; ///< on the sky, 0 or more
-    /// Absent without a site. Altitude: positive above the pole. Azimuth: positive east of it, as
-    /// the angle about the vertical that the bolt turns.
+    /// Absent without a site. The angles that the bolts turn: altitude positive above the pole,
+    /// azimuth, about the vertical, positive east of it.
     std::optional<recognition::Measured> altitude, azimuth;
 };
 

@@ -24,11 +24,14 @@ FrameError SteadyFigures::mean() const
     result.x /= n;
     result.y /= n;
     const double gain = std::sqrt(double(std::min(recent.size(), independent)));
-    const auto shrunk = [gain](double sigma) {
-        return std::max(sigma / gain, std::min(sigma, floor));
+    // The correlation of x and y stays what it was.
+    const auto factor = [gain](double variance) {
+        const double sigma = std::sqrt(variance);
+        return sigma > 0.0 ? std::max(1.0 / gain, std::min(1.0, floor / sigma)) : 1.0;
     };
-    result.frameX = shrunk(result.frameX);
-    result.frameY = shrunk(result.frameY);
+    const double byX = factor(result.frame.xx), byY = factor(result.frame.yy);
+    result.frame = {result.frame.xx * byX * byX, result.frame.xy * byX * byY,
+                    result.frame.yy * byY * byY};
     return result;
 }
 
@@ -37,9 +40,12 @@ bool SteadyFigures::hasMoved(const FrameError &error) const
     if (recent.empty())
         return false;
     const FrameError before = mean();
+    const auto differs = [](double by, double variance) {
+        return std::abs(by) > movedSigmas * std::sqrt(variance);
+    };
     return error.hasSite != before.hasSite ||
-           std::abs(error.x - before.x) > movedSigmas * std::hypot(error.frameX, before.frameX) ||
-           std::abs(error.y - before.y) > movedSigmas * std::hypot(error.frameY, before.frameY);
+           differs(error.x - before.x, error.frame.xx + before.frame.xx) ||
+           differs(error.y - before.y, error.frame.yy + before.frame.yy);
 }
 
 FrameError SteadyFigures::add(const FrameError &error, double steadySeconds)

@@ -57,6 +57,11 @@ public:
         return {up * factor, east * factor};
     }
 
+    double poleAltitude() const
+    {
+        return std::atan2(pole.direction.z, std::hypot(pole.direction.x, pole.direction.y));
+    }
+
 private:
     const Recognition &frame;
     const MountErrorOptions &options;
@@ -67,6 +72,16 @@ private:
 double propagated(double byX, double byY, const Covariance &c)
 {
     return std::sqrt(std::max(byX * byX * c.xx + 2.0 * byX * byY * c.xy + byY * byY * c.yy, 0.0));
+}
+
+// Of `up` (xx) and `east` (yy), arcseconds squared.
+Covariance propagated(const Offset &byX, const Offset &byY, const Covariance &c)
+{
+    const double up = propagated(byX.up, byY.up, c) / astrometry::arcsecond;
+    const double east = propagated(byX.east, byY.east, c) / astrometry::arcsecond;
+    const double both = byX.up * byX.east * c.xx + (byX.up * byY.east + byY.up * byX.east) * c.xy +
+                        byY.up * byY.east * c.yy;
+    return {up * up, both / (astrometry::arcsecond * astrometry::arcsecond), east * east};
 }
 } // namespace
 
@@ -101,6 +116,7 @@ std::optional<MountError> mountError(const Recognition &frame, const Axis &axis,
     };
     return MountError{measured(total, u * byX.up + e * byX.east, u * byY.up + e * byY.east),
                       measured(offset.up, byX.up, byY.up),
-                      measured(offset.east, byX.east, byY.east)};
+                      measured(offset.east, byX.east, byY.east), propagated(byX, byY, c),
+                      view.poleAltitude()};
 }
 } // namespace recognition

@@ -33,6 +33,8 @@ struct MountError {
     Measured altitude; ///< positive: the axis is above the pole, lower it
     Measured
         azimuth; ///< positive: the axis is east of the pole; on the sky, not about the vertical
+    Covariance covariance;     ///< of altitude (xx) and azimuth (yy), arcseconds squared
+    double poleAltitude = 0.0; ///< of the pole that is aligned on, radians above the horizon
 };
 
 /// @param frame one of those that gave the axis, or a later one of the same camera, with the

@@ -59,10 +59,9 @@ NightResult nightAtRest(const virtualsky::SkyState &sky, double hours, double in
             continue;
         ++night.figures;
         totals.push_back(status.error->total.arcseconds);
-        const virtualsky::Truth truth = mount.truth();
-        const double onSky = std::cos(sky.latitude * degree);
-        const double up = status.error->altitude->arcseconds - truth.altitudeError;
-        const double east = status.error->azimuth->arcseconds * onSky - truth.azimuthError;
+        const double onSky = std::cos((std::abs(sky.latitude) + sky.boltAltitude) * degree);
+        const double up = status.error->altitude->arcseconds - 3600.0 * sky.boltAltitude;
+        const double east = (status.error->azimuth->arcseconds - 3600.0 * sky.boltAzimuth) * onSky;
         night.worstDrift = std::max({night.worstDrift, std::abs(up), std::abs(east)});
         night.worstSigmas =
             std::max({night.worstSigmas, std::abs(up) / status.error->altitude->sigma,

@@ -42,20 +42,22 @@ inline assistant::Status nextThatSays(MountOnSky &mount, assistant::AdviceCode c
     return status;
 }
 
-/// Whether what is shown agrees with the camera's own truth within so many standard errors.
+/// Whether what is shown agrees with the bolts and with the angle between axis and pole, within so
+/// many standard errors and half an arcsecond on the sky.
 inline bool isTrue(const assistant::Status &status, const MountOnSky &mount, double sigmas = 4.0)
 {
     if (!status.error || !status.error->altitude || !status.error->azimuth)
         return false;
-    const virtualsky::Truth truth = mount.truth();
-    const double onSky = std::cos(mount.sky().latitude * 3.141592653589793 / 180.0);
+    const virtualsky::SkyState &sky = mount.sky();
+    const double onSky = std::cos((std::abs(sky.latitude) + sky.boltAltitude) * astrometry::degree);
     const auto agrees = [sigmas](double shown, double real, double sigma) {
         return std::abs(shown - real) <= sigmas * sigma + 0.5;
     };
     const auto &[total, altitude, azimuth] = *status.error;
-    return agrees(altitude->arcseconds, truth.altitudeError, altitude->sigma) &&
-           agrees(azimuth->arcseconds * onSky, truth.azimuthError, azimuth->sigma * onSky) &&
-           agrees(total.arcseconds, truth.poleError, total.sigma);
+    return agrees(altitude->arcseconds, sky.boltAltitude * 3600.0, altitude->sigma) &&
+           agrees(azimuth->arcseconds * onSky, sky.boltAzimuth * 3600.0 * onSky,
+                  azimuth->sigma * onSky) &&
+           agrees(total.arcseconds, mount.truth().poleError, total.sigma);
 }
 
 /// A mount near the pole under a clear sky, as the tests of faults begin.

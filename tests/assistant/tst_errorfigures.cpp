@@ -3,20 +3,28 @@
 #include "assistant/errorfigures.h"
 #include "assistant/history.h"
 #include "assistant/steadyfigures.h"
+#include "tests/assistant/goldenbolts.h"
 
 #include <QtTest>
 #include <cmath>
 #include <random>
+#include <vector>
 
 using namespace assistant;
+using namespace goldenbolts;
 
 class ErrorFiguresTest : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void azimuthIsTheBolts_data();
-    void azimuthIsTheBolts();
+    void figuresAreTheBolts_data();
+    void figuresAreTheBolts();
+    void refractionIsAlongTheVertical_data();
+    void refractionIsAlongTheVertical();
+    void azimuthNeedsAVertical();
+    void totalCountsTheCorrelation();
+    void meanKeepsTheCorrelation();
     void withoutSite();
     void claimNearThePole();
     void observerNeedsItsHemisphere();
@@ -28,37 +36,116 @@ private slots:
     void historyLeavesOutWhatIsNotKnown();
 };
 
-/// On the sky over the cosine of the latitude: 60 degrees doubles it.
-void ErrorFiguresTest::azimuthIsTheBolts_data()
+namespace
 {
-    QTest::addColumn<double>("latitude");
-    QTest::addColumn<double>("expected");
-    QTest::newRow("equator") << 0.0 << 30.0;
-    QTest::newRow("60 north") << 60.0 << 60.0;
-    QTest::newRow("60 south") << -60.0 << 60.0;
-    QTest::newRow("45 north") << 45.0 << 42.426406871;
-    QTest::newRow("89 north") << 89.0 << 1718.960536; // 30 / 0.0174524064
+/// A standard error of 3 along x = y and of 1 across it.
+recognition::Covariance longEllipse()
+{
+    return {5.0, 4.0, 5.0};
+}
+} // namespace
+
+void ErrorFiguresTest::figuresAreTheBolts_data()
+{
+    QTest::addColumn<int>("index");
+    const std::vector<Row> rows = all();
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        QTest::addRow("latitude %g, bolts %g %g", rows[i].latitude, rows[i].boltAltitude,
+                      rows[i].boltAzimuth)
+            << int(i);
+    QCOMPARE(rows.size(), std::size_t(84));
 }
 
-void ErrorFiguresTest::azimuthIsTheBolts()
+void ErrorFiguresTest::figuresAreTheBolts()
+{
+    QFETCH(int, index);
+    const Row row = all().at(std::size_t(index));
+    const ErrorFigures figures =
+        figuresOf(errorOf(row, recognition::PoleTarget::True), siteOf(row));
+    QVERIFY(figures.altitude && figures.azimuth);
+    const auto near = [](double seen, double wanted, double tolerance) {
+        if (std::abs(seen - wanted) > tolerance)
+            qWarning("%.9g instead of %.9g", seen, wanted);
+        return std::abs(seen - wanted) <= tolerance;
+    };
+    QVERIFY(near(row.altitude, 3600.0 * row.boltAltitude, 1e-6)); // the reference itself
+    QVERIFY(near(row.azimuth, 3600.0 * row.boltAzimuth, 1e-6));
+    QVERIFY(near(figures.altitude->arcseconds, row.altitude, 1e-4));
+    QVERIFY(near(figures.azimuth->arcseconds, row.azimuth, 1e-3));
+    QVERIFY(near(figures.total.arcseconds, row.total, 1e-4));
+    QVERIFY(near(figures.altitude->sigma, row.altitudeSigma, 2e-3 * row.altitudeSigma));
+    QVERIFY(near(figures.azimuth->sigma, row.azimuthSigma, 2e-3 * row.azimuthSigma));
+    if (row.total > 1800.0) // nearer, the part across adds to the length
+        QVERIFY(near(figures.total.sigma, row.totalSigma, 0.05));
+}
+
+/// The air lifts the pole along the vertical: the azimuth bolt stays where it is.
+void ErrorFiguresTest::refractionIsAlongTheVertical_data()
+{
+    QTest::addColumn<double>("latitude");
+    for (const double latitude : {5.0, 40.0, -34.0, 80.0})
+        QTest::addRow("%g", latitude) << latitude;
+}
+
+void ErrorFiguresTest::refractionIsAlongTheVertical()
 {
     QFETCH(double, latitude);
-    QFETCH(double, expected);
+    const astrometry::Vector3 lifted = astrometry::refracted(
+        astrometry::direction(0.0, std::abs(latitude) * astrometry::degree), airOf(Settings()));
+    const double lift = (std::asin(lifted.z) / astrometry::degree - std::abs(latitude)) * 3600.0;
+    QVERIFY(lift > 8.0); // 10" at 80 degrees, ten minutes at 5
+    int compared = 0;
+    for (const Row &row : all()) {
+        if (row.latitude != latitude)
+            continue;
+        const ErrorFigures figures =
+            figuresOf(errorOf(row, recognition::PoleTarget::Refracted), siteOf(row));
+        QVERIFY(std::abs(figures.altitude->arcseconds - (row.altitude - lift)) < 1e-3);
+        QVERIFY(std::abs(figures.azimuth->arcseconds - row.azimuth) < 1e-3);
+        ++compared;
+    }
+    QCOMPARE(compared, 8);
+}
+
+void ErrorFiguresTest::azimuthNeedsAVertical()
+{
     FrameError error;
     error.hasSite = true;
-    error.x = -40.0;
-    error.y = 30.0;
-    error.axisX = 0.6;
-    error.frameX = 0.8;
-    error.axisY = 0.3;
-    error.frameY = 0.4;
-    const ErrorFigures figures = figuresOf(error, astrometry::Site{latitude, 10.0});
-    QCOMPARE(figures.total.arcseconds, 50.0);
-    QCOMPARE(figures.altitude->arcseconds, -40.0);
-    QCOMPARE(figures.altitude->sigma, 1.0);
-    QVERIFY(std::abs(figures.azimuth->arcseconds - expected) < 1e-5 * expected);
-    QVERIFY(std::abs(figures.azimuth->sigma - 0.5 * expected / 30.0) < 1e-5 * expected);
+    error.poleAltitude = 89.5 * astrometry::degree;
     QVERIFY(!figuresOf(error, astrometry::Site{89.5, 10.0}).azimuth);
+    error.poleAltitude = -error.poleAltitude;
+    QVERIFY(!figuresOf(error, astrometry::Site{-89.5, 10.0}).azimuth);
+    error.poleAltitude = 88.0 * astrometry::degree;
+    QVERIFY(figuresOf(error, astrometry::Site{88.0, 10.0}).azimuth);
+    error.x = 7200.0; // the axis at the zenith
+    QVERIFY(!figuresOf(error, astrometry::Site{88.0, 10.0}).azimuth);
+}
+
+/// Along the ellipse's length the total is three times less sure than across it.
+void ErrorFiguresTest::totalCountsTheCorrelation()
+{
+    for (const bool byAxis : {true, false}) {
+        FrameError error;
+        (byAxis ? error.axis : error.frame) = longEllipse();
+        error.x = error.y = 1e5;
+        QVERIFY(std::abs(figuresOf(error, std::nullopt).total.sigma - 3.0) < 1e-6);
+        error.y = -1e5;
+        QVERIFY(std::abs(figuresOf(error, std::nullopt).total.sigma - 1.0) < 1e-6);
+    }
+}
+
+/// The mean of a frame that stays in place is surer by the same factor in every direction.
+void ErrorFiguresTest::meanKeepsTheCorrelation()
+{
+    SteadyFigures steady;
+    FrameError error, shown;
+    error.axis = error.frame = longEllipse();
+    for (int i = 0; i < 10; ++i)
+        shown = steady.add(error, 0.1 * i);
+    QCOMPARE(shown.axis.xy, 4.0);
+    QCOMPARE(shown.frame.xx, 1.25);
+    QCOMPARE(shown.frame.xy, 1.0);
+    QCOMPARE(shown.frame.yy, 1.25);
 }
 
 void ErrorFiguresTest::withoutSite()
@@ -75,7 +162,7 @@ void ErrorFiguresTest::withoutSite()
 void ErrorFiguresTest::claimNearThePole()
 {
     FrameError error;
-    error.axisX = error.axisY = 1.0;
+    error.axis.xx = error.axis.yy = 1.0;
     QCOMPARE(figuresOf(error, std::nullopt).total.sigma, std::sqrt(2.0));
     error.x = 1000.0;
     QVERIFY(std::abs(figuresOf(error, std::nullopt).total.sigma - 1.0) < 1e-3);
@@ -141,26 +228,26 @@ void ErrorFiguresTest::steadyAtRest()
     for (int i = 0; i < 300; ++i) {
         FrameError error;
         error.x = noise(random);
-        error.frameX = error.frameY = 0.5;
-        error.axisX = error.axisY = 1.0;
+        error.frame.xx = error.frame.yy = 0.25;
+        error.axis.xx = error.axis.yy = 1.0;
         shown = steady.add(error, 0.1 * i);
         if (i >= 20)
             worst = std::max(worst, std::abs(shown.x - 100.0));
     }
     QVERIFY2(worst < 0.75, qPrintable(QString::number(worst))); // single frames: 1.5
-    QCOMPARE(shown.axisX, 1.0);                                 // no mean improves the axis
-    QCOMPARE(shown.frameX, 0.25);
+    QCOMPARE(shown.axis.xx, 1.0);                               // no mean improves the axis
+    QCOMPARE(std::sqrt(shown.frame.xx), 0.25);
     FrameError exact;
-    exact.frameX = exact.frameY = 0.1;
+    exact.frame.xx = exact.frame.yy = 0.01;
     SteadyFigures other;
-    QCOMPARE(other.add(exact, 0.0).frameX, 0.1); // no claim grows
+    QCOMPARE(std::sqrt(other.add(exact, 0.0).frame.xx), 0.1); // no claim grows
 }
 
 void ErrorFiguresTest::movementBeginsAgain()
 {
     SteadyFigures steady;
     FrameError error;
-    error.frameX = error.frameY = 0.5;
+    error.frame.xx = error.frame.yy = 0.25;
     for (int i = 0; i < 20; ++i)
         steady.add(error, 0.1 * i);
     error.y = 5.0;
