@@ -151,8 +151,10 @@ void AssistantSessionTest::failingCameraIsTriedAgain()
     writeSky(sky);
     AssistantSession session({});
     session.connectCamera();
-    QVERIFY(comes([&] { return showsFirst(session, AdviceCode::CameraUnusable); }));
+    QVERIFY(comes([&] { return showsFirst(session, AdviceCode::CameraRefuses); }));
     QVERIFY(session.latest().status.stage == Stage::Connect);
+    QCOMPARE(session.latest().status.advice.front().text, session.link().id);
+    QVERIFY(!session.link().id.empty());
     sky.fail.reset();
     writeSky(sky);
     QVERIFY(comes([&] { return session.latest().status.frame > 0; }));
