@@ -24,7 +24,38 @@ Advice ofStars(const LostSky &frame)
         return {AdviceCode::Clouds, double(frame.stars), 0.0, {}};
     return {AdviceCode::ExposeLonger, double(frame.stars), 0.0, {}};
 }
+
+/// A smaller one is said first.
+int rankOf(AdviceCode code)
+{
+    switch (code) {
+    case AdviceCode::ClockJumped: // ends by itself, as the stages' advice does
+        return 1;
+    case AdviceCode::RecordingFailed: // these two end when recording is switched off
+    case AdviceCode::RecordingFull:
+        return 2;
+    case AdviceCode::PoleThatWay:
+    case AdviceCode::Focus:
+        return 3;
+    case AdviceCode::ClockUnsure:
+        return 4;
+    case AdviceCode::SiteMissing:
+    case AdviceCode::SiteTooFarNorth:
+        return 5;
+    default:
+        return 0;
+    }
+}
 } // namespace
+
+void orderAdvice(std::vector<Advice> &advice)
+{
+    if (advice.empty())
+        return;
+    std::stable_sort(advice.begin() + 1, advice.end(), [](const Advice &a, const Advice &b) {
+        return rankOf(a.code) < rankOf(b.code);
+    });
+}
 
 std::size_t solidStars(const std::vector<recognition::DetectedStar> &stars)
 {

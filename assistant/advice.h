@@ -37,6 +37,10 @@ std::optional<Advice> adviceOnPole(recognition::PixelPlace pole, int width, int 
 /// What to do about the RA axis.
 Advice adviceOnAxis(const AxisProgress &axis);
 
+/// Puts the most important first: what is first stays, and what else is wrong comes before the
+/// hints that may last all night, since a window has room for two.
+void orderAdvice(std::vector<Advice> &advice);
+
 /// What to do about the bolts.
 /// @param goal arcseconds
 Advice adviceOnBolts(const ErrorFigures &error, double goal);

@@ -2,6 +2,8 @@
 // Puts camera and guide together.
 #include "assistant/assistantsession.h"
 
+#include "assistant/advice.h"
+
 #include <QtDebug>
 #include <cstring>
 #include <opencv2/imgproc.hpp>
@@ -55,7 +57,7 @@ std::optional<Advice> adviceOnLink(const CameraLink &link, bool connecting, doub
     case State::Missing:
         return Advice{AdviceCode::NoCamera, 0.0, 0.0, {}};
     case State::Failing:
-        return Advice{AdviceCode::CameraUnusable, 0.0, 0.0, link.id};
+        return Advice{AdviceCode::CameraRefuses, 0.0, 0.0, link.id};
     case State::Lost:
         return Advice{AdviceCode::CameraLost, silent, 0.0, {}};
     case State::Hanging:
@@ -234,8 +236,10 @@ void AssistantSession::lookAt(const NewestFrame::Taken &taken)
 void AssistantSession::record(const NewestFrame::Taken &taken, Status &status)
 {
     if (const auto advice =
-            recorder.record(taken.frame, taken.utcSeconds, taken.exposureMicroseconds * 1e-6))
+            recorder.record(taken.frame, taken.utcSeconds, taken.exposureMicroseconds * 1e-6)) {
         status.advice.push_back(*advice);
+        orderAdvice(status.advice);
+    }
 }
 
 void AssistantSession::publish(Status status, QImage picture)

@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <cmath>
+#include <ctime>
 #include <sys/timex.h>
 
 namespace assistant
@@ -23,17 +24,22 @@ Clocks systemClocks()
                 const auto now = std::chrono::system_clock::now().time_since_epoch();
                 return duration<double>(now).count();
             },
-            [] {
-                const auto now = std::chrono::steady_clock::now().time_since_epoch();
-                return duration<double>(now).count();
+            [] { // the standard library's does not run while the computer sleeps
+                timespec now = {};
+                clock_gettime(CLOCK_BOOTTIME, &now);
+                return double(now.tv_sec) + 1e-9 * double(now.tv_nsec);
             },
             isClockSynchronised};
+}
+
+bool saysSynchronised(int state)
+{
+    return state != TIME_ERROR;
 }
 
 bool isClockSynchronised()
 {
     timex clock = {};
-    const int state = adjtimex(&clock); // changes nothing: no mode is set
-    return state == -1 || (state != TIME_ERROR && (clock.status & STA_UNSYNC) == 0);
+    return saysSynchronised(adjtimex(&clock)); // changes nothing: no mode is set
 }
 } // namespace assistant

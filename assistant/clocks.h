@@ -25,11 +25,15 @@ private:
 
 /// Where times come from. Each may be called from any thread.
 struct Clocks {
-    std::function<double()> utc;        ///< the computer's clock, seconds since 1970
-    std::function<double()> steady;     ///< seconds of a clock that nobody sets
+    std::function<double()> utc; ///< the computer's clock, seconds since 1970
+    std::function<double()>
+        steady; ///< seconds of a clock that nobody sets, and that a suspend does not stop
     std::function<bool()> synchronised; ///< whether the computer's clock is known to be right
 };
 Clocks systemClocks();
+
+/// By the result of `adjtimex`: a failure, -1, says nothing of the clock.
+bool saysSynchronised(int state);
 
 /// Whether the kernel counts the computer's clock as synchronised; true where it cannot say.
 bool isClockSynchronised();

@@ -372,6 +372,7 @@ void Guide::advise(const Observation &observation, Status &status) const
                                           frames <= firstFrames, exposure.wanted().has_value()}));
         adviseEvents(observation.steadySeconds, status);
         adviseHints(observation, status);
+        orderAdvice(status.advice);
         return;
     }
     adviseEvents(observation.steadySeconds, status);
@@ -379,5 +380,6 @@ void Guide::advise(const Observation &observation, Status &status) const
         status.advice.push_back({AdviceCode::WrongHemisphere, 0.0, 0.0, {}});
     adviseStage(status);
     adviseHints(observation, status);
+    orderAdvice(status.advice);
 }
 } // namespace assistant

@@ -5,10 +5,11 @@
 #include "astrometry/utcdate.h"
 
 #include <QDir>
-#include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace assistant
 {
@@ -88,6 +89,16 @@ QString nameFor(const QString &folder, double utcSeconds)
     return QDir(folder).filePath(QStringLiteral("sky-") + date.remove('-').remove(':') +
                                  QStringLiteral(".fits"));
 }
+
+/// Of all runs that used the folder.
+double bytesRecorded(const QString &folder)
+{
+    const QFileInfoList files =
+        QDir(folder).entryInfoList({QStringLiteral("sky-*.fits")}, QDir::Files);
+    return std::accumulate(files.begin(), files.end(), 0.0, [](double sum, const QFileInfo &file) {
+        return sum + double(file.size());
+    });
+}
 } // namespace
 
 QByteArray fitsOf(const cv::Mat &frame, double utcSeconds, double exposureSeconds)
@@ -111,7 +122,7 @@ void Recorder::use(const Settings &settings)
     isOn = settings.recording && !settings.recordingFolder.isEmpty();
     folder = settings.recordingFolder;
     limit = settings.recordingLimitMegabytes * megabyte;
-    used = 0.0;
+    used.reset();
     last = 0.0;
     written = 0;
     fault.reset();
@@ -125,18 +136,20 @@ std::optional<Advice> Recorder::record(const cv::Mat &frame, double utcSeconds,
     if (std::abs(utcSeconds - last) < interval)
         return std::nullopt;
     const QByteArray bytes = fitsOf(frame, utcSeconds, exposureSeconds);
-    if (used + bytes.size() > limit) {
+    if (!used)
+        used = bytesRecorded(folder);
+    if (*used + bytes.size() > limit) {
         fault = Advice{AdviceCode::RecordingFull, limit / megabyte, 0.0, folder.toStdString()};
         return fault;
     }
     QSaveFile file(nameFor(folder, utcSeconds));
     if (!QDir().mkpath(folder) || !file.open(QIODevice::WriteOnly) ||
         file.write(bytes) != bytes.size() || !file.commit()) {
-        fault = Advice{AdviceCode::DiskFull, 0.0, 0.0, folder.toStdString()};
+        fault = Advice{AdviceCode::RecordingFailed, 0.0, 0.0, folder.toStdString()};
         return fault;
     }
     last = utcSeconds;
-    used += bytes.size();
+    *used += bytes.size();
     ++written;
     return std::nullopt;
 }

@@ -11,14 +11,15 @@
 
 namespace assistant
 {
-/// Writes frames as FITS files, at most one in `interval` seconds, until the limit is reached or
-/// the disk refuses. Not for two threads at a time.
+/// Writes frames as FITS files, at most one in `interval` seconds, until those in the folder, of
+/// earlier runs too, reach the limit, or the disk refuses. Not for two threads at a time.
 class Recorder
 {
 public:
     static constexpr double interval = 1.0; ///< seconds
 
-    /// Starts or stops. Another folder, another limit or a new start counts from the beginning.
+    /// Starts or stops. With another folder, another limit or a new start, the frames that are in
+    /// the folder are counted again.
     void use(const Settings &settings);
 
     /// @param utcSeconds middle of the exposure @param exposureSeconds its length
@@ -30,9 +31,9 @@ public:
 private:
     bool isOn = false;
     QString folder;
-    double limit = 0.0; ///< bytes
-    double used = 0.0;  ///< bytes
-    double last = 0.0;  ///< utc of the last frame that was written
+    double limit = 0.0;         ///< bytes
+    std::optional<double> used; ///< bytes of all frames in the folder; not yet counted
+    double last = 0.0;          ///< utc of the last frame that was written
     std::size_t written = 0;
     std::optional<Advice> fault;
 };

@@ -3,7 +3,10 @@
 #include "assistant/settingsstore.h"
 
 #include "core/iniscanner.h"
+#include "core/savetrouble.h"
+#include "core/scratchtext.h"
 #include "core/settingsfile.h"
+#include "core/settingsplace.h"
 
 #include <QDir>
 #include <QFile>
@@ -13,7 +16,6 @@
 #include <QStringList>
 #include <QtDebug>
 #include <cmath>
-#include <cstdio>
 #include <functional>
 #include <vector>
 
@@ -128,9 +130,10 @@ QString textOf(const IniEntry &entry)
     return text.startsWith(QLatin1String("@@")) ? text.mid(1) : text;
 }
 
-bool isRegularFile(const QString &path)
+void putAll(QSettings &file, const Settings &settings)
 {
-    return QFileInfo(path).isFile();
+    for (const Entry &entry : entries())
+        file.setValue(QLatin1String(group) + entry.key, entry.write(settings));
 }
 } // namespace
 
@@ -144,7 +147,7 @@ Settings loadSettings(const QString &path)
 {
     Settings settings;
     QFile file(path);
-    if (!isRegularFile(path) || !file.open(QIODevice::ReadOnly))
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
         return settings;
     IniScanner scanner(file, longestEntry);
     for (IniEntry found; file.pos() <= maxRead && scanner.next(found);) {
@@ -160,25 +163,23 @@ Settings loadSettings(const QString &path)
 
 bool saveSettings(const QString &path, const Settings &settings)
 {
-    if (QFileInfo::exists(path) && !isRegularFile(path))
-        return false;
-    if (!QDir().mkpath(QFileInfo(path).absolutePath()))
-        return false;
-    // A new file: nothing that the old one holds is read by QSettings.
-    const QString beside = path + QStringLiteral(".new");
-    QFile::remove(beside);
-    {
-        QSettings file(beside, QSettings::IniFormat);
-        for (const Entry &entry : entries())
-            file.setValue(QLatin1String(group) + entry.key, entry.write(settings));
-        file.sync();
-        if (file.status() != QSettings::NoError)
-            return false;
+    QDir().mkpath(QFileInfo(path).absolutePath()); // whether it exists is looked at next
+    const SaveTrouble trouble = saveTrouble(path);
+    QString reason = troubleText(trouble);
+    // A disk without room for all of it may still have room for this.
+    if (trouble == SaveTrouble::None || trouble == SaveTrouble::DiskFull) {
+        const QFileInfo named(path);
+        const QString scratch = (named.isSymLink() ? named.symLinkTarget() : path) + ".XXXXXX";
+        QString failure;
+        // From nothing: QSettings reads no text of the old file.
+        const auto text = iniTextWith(
+            {}, scratch, [&](QSettings &file) { putAll(file, settings); }, failure);
+        if (text && replaceFile(path, *text, failure))
+            return true;
+        if (reason.isEmpty())
+            reason = failure;
     }
-    if (std::rename(QFile::encodeName(beside).constData(), QFile::encodeName(path).constData()) ==
-        0)
-        return true;
-    QFile::remove(beside);
+    qWarning("the settings are not saved in %s: %s", qPrintable(path), qPrintable(reason));
     return false;
 }
 

@@ -16,7 +16,8 @@ QString settingsPath();
 /// default. Never constructs objects from the file's texts; needs no more memory for a large file.
 Settings loadSettings(const QString &path);
 
-/// Replaces the file in one step, with its folder if need be; false if it cannot be written.
+/// Replaces the file in one step, with its folder if need be, and waits for nobody. False, with a
+/// warning in the log that says why, if it cannot be written: the old one stays.
 bool saveSettings(const QString &path, const Settings &settings);
 
 /// What is known of the site.

@@ -29,7 +29,8 @@ enum class Stage {
 enum class AdviceCode {
     ConnectCamera,   ///< press Connect
     NoCamera,        ///< no camera was found
-    CameraUnusable,  ///< the camera library cannot be used; `text`: why
+    CameraUnusable,  ///< the camera library cannot be used; `text`: why, empty: not known
+    CameraRefuses,   ///< the camera `text` is there and cannot be opened; tried again
     CameraLost,      ///< no frame for `first` seconds; frames are awaited
     CameraHangs,     ///< the camera library has not answered for `first` seconds
     Searching,       ///< the first frames are being looked at
@@ -56,7 +57,7 @@ enum class AdviceCode {
     Aligned,         ///< below the goal
     SiteMissing,     ///< without the site there are no altitude and azimuth
     SiteTooFarNorth, ///< azimuth has no meaning within 1 degree of the Earth's pole
-    DiskFull,        ///< the recording stopped; `text`: the folder
+    RecordingFailed, ///< the recording stopped; `text`: the folder, which cannot be written
     RecordingFull    ///< the recording reached its limit
 };
 

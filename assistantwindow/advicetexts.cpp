@@ -27,9 +27,11 @@ constexpr Row rows[] = {
     {AdviceCode::ConnectCamera, AdviceMood::Calm, Number::None,
      QT_TRANSLATE_NOOP("Advice", "Point the camera at the pole and press Connect.")},
     {AdviceCode::NoCamera, AdviceMood::Warning, Number::None,
-     QT_TRANSLATE_NOOP("Advice", "No camera was found. Plug it in, then press Connect.")},
+     QT_TRANSLATE_NOOP("Advice", "No camera was found. Plug it in: the search goes on.")},
     {AdviceCode::CameraUnusable, AdviceMood::Warning, Number::Text,
      QT_TRANSLATE_NOOP("Advice", "The camera library cannot be used: %1")},
+    {AdviceCode::CameraRefuses, AdviceMood::Warning, Number::Text,
+     QT_TRANSLATE_NOOP("Advice", "The camera %1 cannot be opened. It is tried again.")},
     {AdviceCode::CameraLost, AdviceMood::Warning, Number::Whole,
      QT_TRANSLATE_NOOP("Advice", "No picture for %1 s. Check the camera’s cable.")},
     {AdviceCode::CameraHangs, AdviceMood::Warning, Number::Whole,
@@ -59,7 +61,7 @@ constexpr Row rows[] = {
     {AdviceCode::ClockUnsure, AdviceMood::Warning, Number::None,
      QT_TRANSLATE_NOOP("Advice", "The computer’s clock may be wrong. Check date and time.")},
     {AdviceCode::ClockJumped, AdviceMood::Warning, Number::Whole,
-     QT_TRANSLATE_NOOP("Advice", "The clock was set by %1 s. The measurement begins again.")},
+     QT_TRANSLATE_NOOP("Advice", "The clock was set by %1 s. Check date and time.")},
     {AdviceCode::TurnAxis, AdviceMood::Calm, Number::None,
      QT_TRANSLATE_NOOP("Advice", "Turn the RA axis, either way.")},
     {AdviceCode::TurnFurther, AdviceMood::Calm, Number::Degrees,
@@ -80,8 +82,8 @@ constexpr Row rows[] = {
      QT_TRANSLATE_NOOP("Advice", "Enter the site to see which way each bolt must go.")},
     {AdviceCode::SiteTooFarNorth, AdviceMood::Calm, Number::None,
      QT_TRANSLATE_NOOP("Advice", "So near to the Earth’s pole, follow the arrow in the picture.")},
-    {AdviceCode::DiskFull, AdviceMood::Warning, Number::Text,
-     QT_TRANSLATE_NOOP("Advice", "The disk is full. Recording stopped: %1")},
+    {AdviceCode::RecordingFailed, AdviceMood::Warning, Number::Text,
+     QT_TRANSLATE_NOOP("Advice", "Recording stopped: the folder %1 cannot be written.")},
     {AdviceCode::RecordingFull, AdviceMood::Warning, Number::None,
      QT_TRANSLATE_NOOP("Advice", "The recording reached its limit and stopped.")},
 };
@@ -120,6 +122,8 @@ QString adviceText(const assistant::Advice &advice, bool hasBolts, const QLocale
     const char *source = row.text;
     if (advice.code == AdviceCode::TurnBolts && !hasBolts)
         source = QT_TRANSLATE_NOOP("Advice", "Turn the bolts until the arrow is gone: %1 to go.");
+    if (advice.code == AdviceCode::CameraUnusable && advice.text.empty())
+        return QCoreApplication::translate("Advice", "The camera library cannot be used.");
     const QString sentence = QCoreApplication::translate("Advice", source);
     if (row.number == Number::None)
         return sentence;

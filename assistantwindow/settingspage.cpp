@@ -302,7 +302,8 @@ void SettingsPage::retranslate()
     goalName->setText(tr("Goal: aligned below"));
     goal->setName(goalName->text());
     recording->setText(tr("Record the frames"));
-    recordingWhy->setText(tr("Saves every frame as a FITS file, for a report of a fault."));
+    recordingWhy->setText(
+        tr("Saves at most one frame a second as a FITS file, for a report of a fault."));
     folderName->setText(tr("Folder"));
     folder->setAccessibleName(tr("Folder"));
     limitName->setText(tr("Limit of disk space, MB"));

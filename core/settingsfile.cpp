@@ -4,6 +4,7 @@
 
 #include "core/iniscanner.h"
 #include "core/savetrouble.h"
+#include "core/scratchtext.h"
 #include "core/settingsplace.h"
 
 #include <QCoreApplication>
@@ -11,12 +12,10 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSettings>
-#include <QTemporaryFile>
 #include <QVariant>
 #include <QtDebug>
 #include <algorithm>
 #include <array>
-#include <cstring>
 #include <optional>
 #include <variant>
 
@@ -131,48 +130,14 @@ struct Put {
     void operator()(bool Settings::*member) const { file.setValue(entry.key, settings.*member); }
 };
 
-/// The last section of a scratch file, to recognise one that was cut: QSettings does not notice if
-/// its last write fails. It sorts sections by their names.
-QString endKey()
+/// Puts our keys into a file.
+void putAll(QSettings &file, const Settings &settings)
 {
-    return QString(4, QChar(0xFFFF)) + QStringLiteral("/complete");
-}
-constexpr auto endText = "\n[%UFFFF%UFFFF%UFFFF%UFFFF]\ncomplete=true\n";
-
-/// Puts our keys into the file at `place`, in the toolkit's format, and marks its end.
-bool putAll(const QString &place, const Settings &settings)
-{
-    QSettings file(place, QSettings::IniFormat);
     for (const Entry &entry : entries) {
         file.beginGroup(entry.group);
         std::visit(Put{file, entry, settings}, entry.member);
         file.endGroup();
     }
-    file.setValue(endKey(), true);
-    file.sync();
-    return file.status() != QSettings::AccessError; // a format error is the old text's
-}
-
-/// The text of a settings file, made from the old one's in a scratch file whose name nobody knows:
-/// QSettings waits, without a limit, for a lock file beside the file that it writes.
-std::optional<QByteArray> textWith(const Settings &settings, const QString &scratchTemplate,
-                                   const QByteArray &old, QString &reason)
-{
-    QTemporaryFile scratch(scratchTemplate);
-    if (!scratch.open() || scratch.write(old) != old.size() || !scratch.flush()) {
-        reason = scratch.errorString();
-        return {};
-    }
-    if (!putAll(scratch.fileName(), settings)) {
-        reason = QStringLiteral("the toolkit cannot write it");
-        return {};
-    }
-    QFile made(scratch.fileName()); // QSettings has replaced it
-    const QByteArray text = made.open(QIODevice::ReadOnly) ? made.readAll() : QByteArray();
-    if (text.endsWith(endText))
-        return text.chopped(int(std::strlen(endText)));
-    reason = QStringLiteral("there is no room for all of it");
-    return {};
 }
 } // namespace
 
@@ -213,7 +178,8 @@ bool writeSettings(const QString &path, const Settings &settings)
         const QFileInfo named(path);
         const QString scratch = (named.isSymLink() ? named.symLinkTarget() : path) + ".XXXXXX";
         const auto newText = [&](const QByteArray &old, QString &why) {
-            return textWith(settings, scratch, old, why);
+            return iniTextWith(
+                old, scratch, [&](QSettings &file) { putAll(file, settings); }, why);
         };
         QString failure;
         if (replaceKeeping(path, newText, failure))

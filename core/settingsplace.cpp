@@ -56,18 +56,6 @@ QString freeNameBeside(const QString &path)
     return name;
 }
 
-/// Atomic: either the old or the new file is complete. QSaveFile::commit() alone would replace the
-/// old file by a truncated one if its last write fails.
-bool replaceFile(const QString &path, const QByteArray &bytes, QString &reason)
-{
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() &&
-        file.commit())
-        return true;
-    reason = file.errorString();
-    return false;
-}
-
 /// How much of the old file the new one does not have.
 enum class Loss { Nothing, Part, All };
 
@@ -111,6 +99,17 @@ bool isFileOrNothing(const QString &path)
 {
     const QFileInfo info(path);
     return !info.exists() || info.isFile();
+}
+
+// QSaveFile::commit() alone would replace the old file by a truncated one if its last write fails.
+bool replaceFile(const QString &path, const QByteArray &bytes, QString &reason)
+{
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() &&
+        file.commit())
+        return true;
+    reason = file.errorString();
+    return false;
 }
 
 bool replaceKeeping(const QString &path, const MakeText &newText, QString &reason)

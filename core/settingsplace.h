@@ -19,6 +19,11 @@ bool isFileOrNothing(const QString &path);
 /// writes it; nullopt, with a reason, if that fails.
 using MakeText = std::function<std::optional<QByteArray>(const QByteArray &old, QString &reason)>;
 
+/// Replaces the file at `path`, or the one that a link there names: either the old or the new one
+/// is complete.
+/// @param reason receives why it failed
+bool replaceFile(const QString &path, const QByteArray &bytes, QString &reason);
+
 /// Replaces the file at `path` by a new one. Entries that Qt must not read are removed. Content
 /// that would be lost, or that would exceed the limit, is kept beside the file as
 /// "Quorvandel.ini.unread", with a warning in the log. Either all of that is done, or the folder is

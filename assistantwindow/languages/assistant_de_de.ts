@@ -8,12 +8,16 @@
         <translation>Richten Sie die Kamera auf den Pol und drücken Sie „Verbinden“.</translation>
     </message>
     <message>
-        <source>No camera was found. Plug it in, then press Connect.</source>
-        <translation>Keine Kamera gefunden. Schließen Sie sie an und drücken Sie „Verbinden“.</translation>
+        <source>No camera was found. Plug it in: the search goes on.</source>
+        <translation>Keine Kamera gefunden. Schließen Sie sie an: Die Suche geht weiter.</translation>
     </message>
     <message>
         <source>The camera library cannot be used: %1</source>
         <translation>Die Kamerabibliothek ist nicht verwendbar: %1</translation>
+    </message>
+    <message>
+        <source>The camera %1 cannot be opened. It is tried again.</source>
+        <translation>Die Kamera %1 lässt sich nicht öffnen. Es wird weiter versucht.</translation>
     </message>
     <message>
         <source>No picture for %1 s. Check the camera’s cable.</source>
@@ -72,8 +76,8 @@
         <translation>Die Uhr des Rechners geht vielleicht falsch. Prüfen Sie Datum und Zeit.</translation>
     </message>
     <message>
-        <source>The clock was set by %1 s. The measurement begins again.</source>
-        <translation>Die Uhr wurde um %1 s verstellt. Die Messung beginnt neu.</translation>
+        <source>The clock was set by %1 s. Check date and time.</source>
+        <translation>Die Uhr wurde um %1 s verstellt. Prüfen Sie Datum und Zeit.</translation>
     </message>
     <message>
         <source>Turn the RA axis, either way.</source>
@@ -116,8 +120,8 @@
         <translation>So nahe am Pol der Erde gilt der Pfeil im Bild.</translation>
     </message>
     <message>
-        <source>The disk is full. Recording stopped: %1</source>
-        <translation>Der Datenträger ist voll. Aufzeichnung beendet: %1</translation>
+        <source>Recording stopped: the folder %1 cannot be written.</source>
+        <translation>Aufzeichnung beendet: Der Ordner %1 ist nicht beschreibbar.</translation>
     </message>
     <message>
         <source>The recording reached its limit and stopped.</source>
@@ -126,6 +130,10 @@
     <message>
         <source>Turn the bolts until the arrow is gone: %1 to go.</source>
         <translation>Drehen Sie die Schrauben, bis der Pfeil verschwindet: noch %1.</translation>
+    </message>
+    <message>
+        <source>The camera library cannot be used.</source>
+        <translation>Die Kamerabibliothek ist nicht verwendbar.</translation>
     </message>
 </context>
 <context>
@@ -496,8 +504,8 @@
         <translation>Bilder aufzeichnen</translation>
     </message>
     <message>
-        <source>Saves every frame as a FITS file, for a report of a fault.</source>
-        <translation>Speichert die Bilder als FITS-Dateien, um einen Fehler zu melden.</translation>
+        <source>Saves at most one frame a second as a FITS file, for a report of a fault.</source>
+        <translation>Speichert höchstens ein Bild pro Sekunde als FITS-Datei, um einen Fehler zu melden.</translation>
     </message>
     <message>
         <source>Folder</source>

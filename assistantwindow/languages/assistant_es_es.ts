@@ -8,12 +8,16 @@
         <translation>Apunte la cámara al polo y pulse Conectar.</translation>
     </message>
     <message>
-        <source>No camera was found. Plug it in, then press Connect.</source>
-        <translation>No se encontró ninguna cámara. Enchúfela y pulse Conectar.</translation>
+        <source>No camera was found. Plug it in: the search goes on.</source>
+        <translation>No se encontró ninguna cámara. Enchúfela: la búsqueda continúa.</translation>
     </message>
     <message>
         <source>The camera library cannot be used: %1</source>
         <translation>No se puede usar la biblioteca de la cámara: %1</translation>
+    </message>
+    <message>
+        <source>The camera %1 cannot be opened. It is tried again.</source>
+        <translation>No se puede abrir la cámara %1. Se sigue intentando.</translation>
     </message>
     <message>
         <source>No picture for %1 s. Check the camera’s cable.</source>
@@ -72,8 +76,8 @@
         <translation>El reloj del ordenador puede estar mal. Revise la fecha y la hora.</translation>
     </message>
     <message>
-        <source>The clock was set by %1 s. The measurement begins again.</source>
-        <translation>El reloj se cambió %1 s. La medición empieza de nuevo.</translation>
+        <source>The clock was set by %1 s. Check date and time.</source>
+        <translation>El reloj se cambió %1 s. Revise la fecha y la hora.</translation>
     </message>
     <message>
         <source>Turn the RA axis, either way.</source>
@@ -116,8 +120,8 @@
         <translation>Tan cerca del polo terrestre, siga la flecha de la imagen.</translation>
     </message>
     <message>
-        <source>The disk is full. Recording stopped: %1</source>
-        <translation>El disco está lleno. Grabación detenida: %1</translation>
+        <source>Recording stopped: the folder %1 cannot be written.</source>
+        <translation>Grabación detenida: no se puede escribir en la carpeta %1.</translation>
     </message>
     <message>
         <source>The recording reached its limit and stopped.</source>
@@ -126,6 +130,10 @@
     <message>
         <source>Turn the bolts until the arrow is gone: %1 to go.</source>
         <translation>Gire los tornillos hasta que desaparezca la flecha: faltan %1.</translation>
+    </message>
+    <message>
+        <source>The camera library cannot be used.</source>
+        <translation>No se puede usar la biblioteca de la cámara.</translation>
     </message>
 </context>
 <context>
@@ -496,8 +504,8 @@
         <translation>Grabar las imágenes</translation>
     </message>
     <message>
-        <source>Saves every frame as a FITS file, for a report of a fault.</source>
-        <translation>Guarda las imágenes como archivos FITS, para comunicar un fallo.</translation>
+        <source>Saves at most one frame a second as a FITS file, for a report of a fault.</source>
+        <translation>Guarda como máximo una imagen por segundo como archivo FITS, para comunicar un fallo.</translation>
     </message>
     <message>
         <source>Folder</source>

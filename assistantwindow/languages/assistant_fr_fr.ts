@@ -8,12 +8,16 @@
         <translation>Pointez la caméra vers le pôle et appuyez sur Connecter.</translation>
     </message>
     <message>
-        <source>No camera was found. Plug it in, then press Connect.</source>
-        <translation>Aucune caméra trouvée. Branchez-la, puis appuyez sur Connecter.</translation>
+        <source>No camera was found. Plug it in: the search goes on.</source>
+        <translation>Aucune caméra trouvée. Branchez-la : la recherche continue.</translation>
     </message>
     <message>
         <source>The camera library cannot be used: %1</source>
         <translation>La bibliothèque de la caméra est inutilisable : %1</translation>
+    </message>
+    <message>
+        <source>The camera %1 cannot be opened. It is tried again.</source>
+        <translation>Impossible d&apos;ouvrir la caméra %1. Nouvel essai en cours.</translation>
     </message>
     <message>
         <source>No picture for %1 s. Check the camera’s cable.</source>
@@ -72,8 +76,8 @@
         <translation>L&apos;horloge de l&apos;ordinateur est peut-être fausse. Vérifiez la date et l&apos;heure.</translation>
     </message>
     <message>
-        <source>The clock was set by %1 s. The measurement begins again.</source>
-        <translation>L&apos;horloge a été changée de %1 s. La mesure recommence.</translation>
+        <source>The clock was set by %1 s. Check date and time.</source>
+        <translation>L&apos;horloge a été changée de %1 s. Vérifiez la date et l&apos;heure.</translation>
     </message>
     <message>
         <source>Turn the RA axis, either way.</source>
@@ -116,8 +120,8 @@
         <translation>Si près du pôle terrestre, suivez la flèche dans l&apos;image.</translation>
     </message>
     <message>
-        <source>The disk is full. Recording stopped: %1</source>
-        <translation>Le disque est plein. Enregistrement arrêté : %1</translation>
+        <source>Recording stopped: the folder %1 cannot be written.</source>
+        <translation>Enregistrement arrêté : impossible d&apos;écrire dans le dossier %1.</translation>
     </message>
     <message>
         <source>The recording reached its limit and stopped.</source>
@@ -126,6 +130,10 @@
     <message>
         <source>Turn the bolts until the arrow is gone: %1 to go.</source>
         <translation>Tournez les vis jusqu&apos;à ce que la flèche disparaisse : encore %1.</translation>
+    </message>
+    <message>
+        <source>The camera library cannot be used.</source>
+        <translation>La bibliothèque de la caméra est inutilisable.</translation>
     </message>
 </context>
 <context>
@@ -496,8 +504,8 @@
         <translation>Enregistrer les images</translation>
     </message>
     <message>
-        <source>Saves every frame as a FITS file, for a report of a fault.</source>
-        <translation>Enregistre les images en fichiers FITS, pour signaler un défaut.</translation>
+        <source>Saves at most one frame a second as a FITS file, for a report of a fault.</source>
+        <translation>Enregistre au plus une image par seconde en fichier FITS, pour signaler un défaut.</translation>
     </message>
     <message>
         <source>Folder</source>

@@ -8,12 +8,16 @@
         <translation>Puntare la camera verso il polo e premere Connetti.</translation>
     </message>
     <message>
-        <source>No camera was found. Plug it in, then press Connect.</source>
-        <translation>Nessuna camera trovata. Collegarla, poi premere Connetti.</translation>
+        <source>No camera was found. Plug it in: the search goes on.</source>
+        <translation>Nessuna camera trovata. Collegarla: la ricerca continua.</translation>
     </message>
     <message>
         <source>The camera library cannot be used: %1</source>
         <translation>La libreria della camera non è utilizzabile: %1</translation>
+    </message>
+    <message>
+        <source>The camera %1 cannot be opened. It is tried again.</source>
+        <translation>Impossibile aprire la camera %1. Si continua a provare.</translation>
     </message>
     <message>
         <source>No picture for %1 s. Check the camera’s cable.</source>
@@ -72,8 +76,8 @@
         <translation>L&apos;orologio del computer può essere sbagliato. Controllare data e ora.</translation>
     </message>
     <message>
-        <source>The clock was set by %1 s. The measurement begins again.</source>
-        <translation>L&apos;orologio è stato spostato di %1 s. La misura ricomincia.</translation>
+        <source>The clock was set by %1 s. Check date and time.</source>
+        <translation>L&apos;orologio è stato spostato di %1 s. Controllare data e ora.</translation>
     </message>
     <message>
         <source>Turn the RA axis, either way.</source>
@@ -116,8 +120,8 @@
         <translation>Così vicino al polo terrestre, seguire la freccia nell&apos;immagine.</translation>
     </message>
     <message>
-        <source>The disk is full. Recording stopped: %1</source>
-        <translation>Il disco è pieno. Registrazione fermata: %1</translation>
+        <source>Recording stopped: the folder %1 cannot be written.</source>
+        <translation>Registrazione fermata: impossibile scrivere nella cartella %1.</translation>
     </message>
     <message>
         <source>The recording reached its limit and stopped.</source>
@@ -126,6 +130,10 @@
     <message>
         <source>Turn the bolts until the arrow is gone: %1 to go.</source>
         <translation>Girare le viti finché la freccia scompare: mancano %1.</translation>
+    </message>
+    <message>
+        <source>The camera library cannot be used.</source>
+        <translation>La libreria della camera non è utilizzabile.</translation>
     </message>
 </context>
 <context>
@@ -496,8 +504,8 @@
         <translation>Registra le immagini</translation>
     </message>
     <message>
-        <source>Saves every frame as a FITS file, for a report of a fault.</source>
-        <translation>Salva le immagini in file FITS, per segnalare un guasto.</translation>
+        <source>Saves at most one frame a second as a FITS file, for a report of a fault.</source>
+        <translation>Salva al massimo un&apos;immagine al secondo in un file FITS, per segnalare un guasto.</translation>
     </message>
     <message>
         <source>Folder</source>

@@ -8,12 +8,16 @@
         <translation>カメラを極に向けて「接続」を押してください。</translation>
     </message>
     <message>
-        <source>No camera was found. Plug it in, then press Connect.</source>
-        <translation>カメラが見つかりません。つないでから「接続」を押してください。</translation>
+        <source>No camera was found. Plug it in: the search goes on.</source>
+        <translation>カメラが見つかりません。つないでください。検索は続いています。</translation>
     </message>
     <message>
         <source>The camera library cannot be used: %1</source>
         <translation>カメラのライブラリを使えません：%1</translation>
+    </message>
+    <message>
+        <source>The camera %1 cannot be opened. It is tried again.</source>
+        <translation>カメラ %1 を開けません。再試行を続けています。</translation>
     </message>
     <message>
         <source>No picture for %1 s. Check the camera’s cable.</source>
@@ -72,8 +76,8 @@
         <translation>コンピューターの時計が合っていないかもしれません。日時を確かめてください。</translation>
     </message>
     <message>
-        <source>The clock was set by %1 s. The measurement begins again.</source>
-        <translation>時計が %1 秒変更されました。測定をやり直します。</translation>
+        <source>The clock was set by %1 s. Check date and time.</source>
+        <translation>時計が %1 秒変更されました。日時を確かめてください。</translation>
     </message>
     <message>
         <source>Turn the RA axis, either way.</source>
@@ -116,8 +120,8 @@
         <translation>地球の極がこれほど近いので、画像の矢印に従ってください。</translation>
     </message>
     <message>
-        <source>The disk is full. Recording stopped: %1</source>
-        <translation>ディスクがいっぱいです。記録を止めました：%1</translation>
+        <source>Recording stopped: the folder %1 cannot be written.</source>
+        <translation>記録を止めました：フォルダー %1 に書き込めません。</translation>
     </message>
     <message>
         <source>The recording reached its limit and stopped.</source>
@@ -126,6 +130,10 @@
     <message>
         <source>Turn the bolts until the arrow is gone: %1 to go.</source>
         <translation>矢印が消えるまでネジを回してください。残り %1。</translation>
+    </message>
+    <message>
+        <source>The camera library cannot be used.</source>
+        <translation>カメラのライブラリを使えません。</translation>
     </message>
 </context>
 <context>
@@ -496,8 +504,8 @@
         <translation>画像を記録</translation>
     </message>
     <message>
-        <source>Saves every frame as a FITS file, for a report of a fault.</source>
-        <translation>不具合の報告用に、画像を FITS ファイルで保存します。</translation>
+        <source>Saves at most one frame a second as a FITS file, for a report of a fault.</source>
+        <translation>不具合の報告用に、画像を最大で毎秒 1 枚、FITS ファイルで保存します。</translation>
     </message>
     <message>
         <source>Folder</source>

@@ -8,12 +8,16 @@
         <translation>카메라를 극으로 향하고 &quot;연결&quot;을 누르세요.</translation>
     </message>
     <message>
-        <source>No camera was found. Plug it in, then press Connect.</source>
-        <translation>카메라가 없습니다. 꽂은 다음 &quot;연결&quot;을 누르세요.</translation>
+        <source>No camera was found. Plug it in: the search goes on.</source>
+        <translation>카메라가 없습니다. 꽂으세요. 검색은 계속됩니다.</translation>
     </message>
     <message>
         <source>The camera library cannot be used: %1</source>
         <translation>카메라 라이브러리를 쓸 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>The camera %1 cannot be opened. It is tried again.</source>
+        <translation>카메라 %1을(를) 열 수 없습니다. 계속 다시 시도합니다.</translation>
     </message>
     <message>
         <source>No picture for %1 s. Check the camera’s cable.</source>
@@ -72,8 +76,8 @@
         <translation>컴퓨터 시계가 틀릴 수 있습니다. 날짜와 시간을 확인하세요.</translation>
     </message>
     <message>
-        <source>The clock was set by %1 s. The measurement begins again.</source>
-        <translation>시계가 %1초 바뀌었습니다. 측정을 다시 시작합니다.</translation>
+        <source>The clock was set by %1 s. Check date and time.</source>
+        <translation>시계가 %1초 바뀌었습니다. 날짜와 시간을 확인하세요.</translation>
     </message>
     <message>
         <source>Turn the RA axis, either way.</source>
@@ -116,8 +120,8 @@
         <translation>지구의 극이 이렇게 가까우니 영상의 화살표를 따르세요.</translation>
     </message>
     <message>
-        <source>The disk is full. Recording stopped: %1</source>
-        <translation>디스크가 가득 찼습니다. 기록을 멈췄습니다: %1</translation>
+        <source>Recording stopped: the folder %1 cannot be written.</source>
+        <translation>기록을 멈췄습니다: %1 폴더에 쓸 수 없습니다.</translation>
     </message>
     <message>
         <source>The recording reached its limit and stopped.</source>
@@ -126,6 +130,10 @@
     <message>
         <source>Turn the bolts until the arrow is gone: %1 to go.</source>
         <translation>화살표가 없어질 때까지 나사를 돌리세요. %1 남았습니다.</translation>
+    </message>
+    <message>
+        <source>The camera library cannot be used.</source>
+        <translation>카메라 라이브러리를 쓸 수 없습니다.</translation>
     </message>
 </context>
 <context>
@@ -496,8 +504,8 @@
         <translation>영상 기록</translation>
     </message>
     <message>
-        <source>Saves every frame as a FITS file, for a report of a fault.</source>
-        <translation>결함을 알릴 수 있도록 영상을 FITS 파일로 저장합니다.</translation>
+        <source>Saves at most one frame a second as a FITS file, for a report of a fault.</source>
+        <translation>결함을 알릴 수 있도록 영상을 초당 최대 한 장씩 FITS 파일로 저장합니다.</translation>
     </message>
     <message>
         <source>Folder</source>

@@ -8,12 +8,16 @@
         <translation>Aponte a câmara ao polo e prima Ligar.</translation>
     </message>
     <message>
-        <source>No camera was found. Plug it in, then press Connect.</source>
-        <translation>Não foi encontrada nenhuma câmara. Ligue o cabo e prima Ligar.</translation>
+        <source>No camera was found. Plug it in: the search goes on.</source>
+        <translation>Não foi encontrada nenhuma câmara. Ligue-a: a procura continua.</translation>
     </message>
     <message>
         <source>The camera library cannot be used: %1</source>
         <translation>Não é possível usar a biblioteca da câmara: %1</translation>
+    </message>
+    <message>
+        <source>The camera %1 cannot be opened. It is tried again.</source>
+        <translation>Não é possível abrir a câmara %1. Continua a tentar-se.</translation>
     </message>
     <message>
         <source>No picture for %1 s. Check the camera’s cable.</source>
@@ -72,8 +76,8 @@
         <translation>O relógio do computador pode estar errado. Verifique a data e a hora.</translation>
     </message>
     <message>
-        <source>The clock was set by %1 s. The measurement begins again.</source>
-        <translation>O relógio foi acertado em %1 s. A medição recomeça.</translation>
+        <source>The clock was set by %1 s. Check date and time.</source>
+        <translation>O relógio foi acertado em %1 s. Verifique a data e a hora.</translation>
     </message>
     <message>
         <source>Turn the RA axis, either way.</source>
@@ -116,8 +120,8 @@
         <translation>Tão perto do polo da Terra, siga a seta na imagem.</translation>
     </message>
     <message>
-        <source>The disk is full. Recording stopped: %1</source>
-        <translation>O disco está cheio. Gravação parada: %1</translation>
+        <source>Recording stopped: the folder %1 cannot be written.</source>
+        <translation>Gravação parada: não é possível escrever na pasta %1.</translation>
     </message>
     <message>
         <source>The recording reached its limit and stopped.</source>
@@ -126,6 +130,10 @@
     <message>
         <source>Turn the bolts until the arrow is gone: %1 to go.</source>
         <translation>Rode os parafusos até a seta desaparecer: faltam %1.</translation>
+    </message>
+    <message>
+        <source>The camera library cannot be used.</source>
+        <translation>Não é possível usar a biblioteca da câmara.</translation>
     </message>
 </context>
 <context>
@@ -496,8 +504,8 @@
         <translation>Gravar as imagens</translation>
     </message>
     <message>
-        <source>Saves every frame as a FITS file, for a report of a fault.</source>
-        <translation>Guarda as imagens em ficheiros FITS, para comunicar uma falha.</translation>
+        <source>Saves at most one frame a second as a FITS file, for a report of a fault.</source>
+        <translation>Guarda no máximo uma imagem por segundo em ficheiro FITS, para comunicar uma falha.</translation>
     </message>
     <message>
         <source>Folder</source>

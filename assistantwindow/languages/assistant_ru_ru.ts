@@ -8,12 +8,16 @@
         <translation>Наведите камеру на полюс и нажмите «Подключить».</translation>
     </message>
     <message>
-        <source>No camera was found. Plug it in, then press Connect.</source>
-        <translation>Камера не найдена. Подсоедините её и нажмите «Подключить».</translation>
+        <source>No camera was found. Plug it in: the search goes on.</source>
+        <translation>Камера не найдена. Подсоедините её: поиск продолжается.</translation>
     </message>
     <message>
         <source>The camera library cannot be used: %1</source>
         <translation>Библиотеку камеры нельзя использовать: %1</translation>
+    </message>
+    <message>
+        <source>The camera %1 cannot be opened. It is tried again.</source>
+        <translation>Камеру %1 не удаётся открыть. Попытки продолжаются.</translation>
     </message>
     <message>
         <source>No picture for %1 s. Check the camera’s cable.</source>
@@ -72,8 +76,8 @@
         <translation>Часы компьютера могут быть неверны. Проверьте дату и время.</translation>
     </message>
     <message>
-        <source>The clock was set by %1 s. The measurement begins again.</source>
-        <translation>Часы переведены на %1 с. Измерение начинается заново.</translation>
+        <source>The clock was set by %1 s. Check date and time.</source>
+        <translation>Часы переведены на %1 с. Проверьте дату и время.</translation>
     </message>
     <message>
         <source>Turn the RA axis, either way.</source>
@@ -116,8 +120,8 @@
         <translation>Так близко к полюсу Земли следуйте стрелке на изображении.</translation>
     </message>
     <message>
-        <source>The disk is full. Recording stopped: %1</source>
-        <translation>Диск заполнен. Запись остановлена: %1</translation>
+        <source>Recording stopped: the folder %1 cannot be written.</source>
+        <translation>Запись остановлена: нельзя записать в папку %1.</translation>
     </message>
     <message>
         <source>The recording reached its limit and stopped.</source>
@@ -126,6 +130,10 @@
     <message>
         <source>Turn the bolts until the arrow is gone: %1 to go.</source>
         <translation>Вращайте винты, пока стрелка не исчезнет: осталось %1.</translation>
+    </message>
+    <message>
+        <source>The camera library cannot be used.</source>
+        <translation>Библиотеку камеры нельзя использовать.</translation>
     </message>
 </context>
 <context>
@@ -496,8 +504,8 @@
         <translation>Записывать кадры</translation>
     </message>
     <message>
-        <source>Saves every frame as a FITS file, for a report of a fault.</source>
-        <translation>Сохраняет кадры в файлах FITS для сообщения об ошибке.</translation>
+        <source>Saves at most one frame a second as a FITS file, for a report of a fault.</source>
+        <translation>Сохраняет не более одного кадра в секунду в файл FITS для сообщения об ошибке.</translation>
     </message>
     <message>
         <source>Folder</source>

@@ -8,12 +8,16 @@
         <translation>请将相机对准天极，然后按“连接”。</translation>
     </message>
     <message>
-        <source>No camera was found. Plug it in, then press Connect.</source>
-        <translation>未找到相机。请插上相机，然后按“连接”。</translation>
+        <source>No camera was found. Plug it in: the search goes on.</source>
+        <translation>未找到相机。请插上相机，搜索会继续进行。</translation>
     </message>
     <message>
         <source>The camera library cannot be used: %1</source>
         <translation>无法使用相机库：%1</translation>
+    </message>
+    <message>
+        <source>The camera %1 cannot be opened. It is tried again.</source>
+        <translation>无法打开相机 %1。程序会继续尝试。</translation>
     </message>
     <message>
         <source>No picture for %1 s. Check the camera’s cable.</source>
@@ -72,8 +76,8 @@
         <translation>电脑的时钟可能不准。请检查日期和时间。</translation>
     </message>
     <message>
-        <source>The clock was set by %1 s. The measurement begins again.</source>
-        <translation>时钟被调整了 %1 秒。测量重新开始。</translation>
+        <source>The clock was set by %1 s. Check date and time.</source>
+        <translation>时钟被调整了 %1 秒。请检查日期和时间。</translation>
     </message>
     <message>
         <source>Turn the RA axis, either way.</source>
@@ -116,8 +120,8 @@
         <translation>离地球极点这么近，请看画面中的箭头。</translation>
     </message>
     <message>
-        <source>The disk is full. Recording stopped: %1</source>
-        <translation>磁盘已满。录制已停止：%1</translation>
+        <source>Recording stopped: the folder %1 cannot be written.</source>
+        <translation>录制已停止：无法写入文件夹 %1。</translation>
     </message>
     <message>
         <source>The recording reached its limit and stopped.</source>
@@ -126,6 +130,10 @@
     <message>
         <source>Turn the bolts until the arrow is gone: %1 to go.</source>
         <translation>请转动螺丝直到箭头消失：还差 %1。</translation>
+    </message>
+    <message>
+        <source>The camera library cannot be used.</source>
+        <translation>无法使用相机库。</translation>
     </message>
 </context>
 <context>
@@ -496,8 +504,8 @@
         <translation>录制画面</translation>
     </message>
     <message>
-        <source>Saves every frame as a FITS file, for a report of a fault.</source>
-        <translation>将画面存为 FITS 文件，用于报告故障。</translation>
+        <source>Saves at most one frame a second as a FITS file, for a report of a fault.</source>
+        <translation>每秒最多将一帧画面存为 FITS 文件，用于报告故障。</translation>
     </message>
     <message>
         <source>Folder</source>

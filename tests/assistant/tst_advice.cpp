@@ -9,6 +9,8 @@ using recognition::ExtractionStatus;
 
 Q_DECLARE_METATYPE(LostSky)
 Q_DECLARE_METATYPE(AdviceCode)
+using Codes = std::vector<AdviceCode>;
+Q_DECLARE_METATYPE(Codes)
 
 class AdviceTest : public QObject
 {
@@ -23,6 +25,8 @@ private slots:
     void axis();
     void bolts_data();
     void bolts();
+    void order_data();
+    void order();
 };
 
 void AdviceTest::lostSky_data()
@@ -136,6 +140,44 @@ void AdviceTest::bolts()
     const Advice advice = adviceOnBolts(figures, 20.0);
     QCOMPARE(int(advice.code), int(code));
     QCOMPARE(advice.first, total);
+}
+
+void AdviceTest::order_data()
+{
+    QTest::addColumn<Codes>("given");
+    QTest::addColumn<Codes>("ordered");
+    using C = AdviceCode;
+    QTest::newRow("nothing") << Codes{} << Codes{};
+    QTest::newRow("a failed recording before the hints")
+        << Codes{C::TurnBolts, C::ClockUnsure, C::SiteMissing, C::RecordingFailed}
+        << Codes{C::TurnBolts, C::RecordingFailed, C::ClockUnsure, C::SiteMissing};
+    QTest::newRow("a full recording before the hints")
+        << Codes{C::TurnAxis, C::SiteTooFarNorth, C::RecordingFull}
+        << Codes{C::TurnAxis, C::RecordingFull, C::SiteTooFarNorth};
+    QTest::newRow("the pole outside before the hints")
+        << Codes{C::TurnAxis, C::ClockUnsure, C::SiteMissing, C::PoleThatWay, C::Focus}
+        << Codes{C::TurnAxis, C::PoleThatWay, C::Focus, C::ClockUnsure, C::SiteMissing};
+    QTest::newRow("a clock that is set first")
+        << Codes{C::TurnBolts, C::RecordingFull, C::ClockJumped}
+        << Codes{C::TurnBolts, C::ClockJumped, C::RecordingFull};
+    QTest::newRow("what to do stays first") << Codes{C::Focus, C::Bumped, C::RecordingFailed}
+                                            << Codes{C::Focus, C::Bumped, C::RecordingFailed};
+    QTest::newRow("an event keeps its stage")
+        << Codes{C::StopTurning, C::Aligned, C::RecordingFull}
+        << Codes{C::StopTurning, C::Aligned, C::RecordingFull};
+}
+
+void AdviceTest::order()
+{
+    QFETCH(Codes, given);
+    std::vector<Advice> advice;
+    for (const AdviceCode code : given)
+        advice.push_back({code, 0.0, 0.0, {}});
+    orderAdvice(advice);
+    Codes found;
+    for (const Advice &one : advice)
+        found.push_back(one.code);
+    QTEST(found, "ordered");
 }
 
 QTEST_GUILESS_MAIN(AdviceTest)

@@ -27,6 +27,7 @@ private slots:
     void exposureIsSet();
     void unpluggedAndBack();
     void failingCameraIsTriedAgain();
+    void aFailedRecordingIsSeen();
     void connectsAgain();
     void callsReturnAtOnce();
 
@@ -162,11 +163,29 @@ void AssistantSessionTest::failingCameraIsTriedAgain()
     writeSky(sky);
     AssistantSession session({});
     session.connectCamera();
-    QVERIFY(comes([&] { return showsFirst(session, AdviceCode::CameraUnusable); }));
+    QVERIFY(comes([&] { return showsFirst(session, AdviceCode::CameraRefuses); }));
     QVERIFY(session.latest().status.stage == Stage::Connect);
+    QCOMPARE(session.latest().status.advice.front().text, session.link().id);
+    QVERIFY(!session.link().id.empty());
     sky.fail.reset();
     writeSky(sky);
     QVERIFY(comes([&] { return session.latest().status.frame > 0; }));
+}
+
+/// Before the hints that stay all night, here that of the missing site.
+void AssistantSessionTest::aFailedRecordingIsSeen()
+{
+    assistant::Settings settings;
+    settings.recording = true;
+    settings.recordingFolder = QStringLiteral("/dev/null/frames");
+    AssistantSession session(settings);
+    session.connectCamera();
+    const auto isSeen = [&] {
+        const std::vector<Advice> advice = session.latest().status.advice;
+        return advice.size() > 2 && advice[1].code == AdviceCode::RecordingFailed &&
+               advice.back().code == AdviceCode::SiteMissing;
+    };
+    QVERIFY(comes(isSeen));
 }
 
 /// A new connection begins from the first stage.

@@ -3,9 +3,15 @@
 #include "assistant/settingsstore.h"
 
 #include "core/settingsfile.h"
+#include "tests/support/logrecorder.h"
 
+#include <QDir>
+#include <QFileInfo>
+#include <QLockFile>
 #include <QTemporaryDir>
 #include <QtTest>
+#include <csignal>
+#include <sys/resource.h>
 
 using namespace assistant;
 using AssistantSettings = assistant::Settings;
@@ -19,6 +25,9 @@ private slots:
     void rubbishIsLeftOut_data();
     void rubbishIsLeftOut();
     void nothingButRegularFiles();
+    void aHeldLockHoldsUpNobody();
+    void aCutFileReplacesNothing();
+    void aLinkStays();
     void site_data();
     void site();
     void siteOfTheWizard_data();
@@ -102,10 +111,63 @@ void AssistantSettingsTest::rubbishIsLeftOut()
 
 void AssistantSettingsTest::nothingButRegularFiles()
 {
+    const LogRecorder log;
     QVERIFY(!saveSettings(folder.path(), {}));
+    QCOMPARE(log.texts(QtWarningMsg), QStringList("the settings are not saved in " + folder.path() +
+                                                  ": it is not a regular file"));
     QVERIFY(!saveSettings(QStringLiteral("/dev/null/x/y.ini"), {}));
     QVERIFY(!loadSettings(folder.path()).site);
     QVERIFY(!loadSettings(QStringLiteral("/nowhere.ini")).site);
+}
+
+/// Of any name that a program could guess.
+void AssistantSettingsTest::aHeldLockHoldsUpNobody()
+{
+    const QString place = folder.filePath("locked.ini");
+    QLockFile held(place + ".lock"), heldToo(place + ".new.lock");
+    QVERIFY(held.tryLock(0) && heldToo.tryLock(0));
+    AssistantSettings saved;
+    saved.goalArcseconds = 7.5;
+    QVERIFY(saveSettings(place, saved));
+    QCOMPARE(loadSettings(place).goalArcseconds, 7.5);
+}
+
+/// No file may grow beyond a limit, in bytes, that rises until all of it fits.
+void AssistantSettingsTest::aCutFileReplacesNothing()
+{
+    const QTemporaryDir place;
+    const QString file = place.filePath("settings.ini");
+    AssistantSettings kept;
+    kept.goalArcseconds = 7.5;
+    QVERIFY(saveSettings(file, kept));
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit usual{};
+    QCOMPARE(getrlimit(RLIMIT_FSIZE, &usual), 0);
+    AssistantSettings next;
+    next.goalArcseconds = 9.0;
+    rlim_t bytes = 0;
+    for (bool saved = false; !saved; bytes += 8) {
+        const rlimit tight{bytes, usual.rlim_max};
+        const LogRecorder log;
+        QCOMPARE(setrlimit(RLIMIT_FSIZE, &tight), 0);
+        saved = saveSettings(file, next);
+        QCOMPARE(setrlimit(RLIMIT_FSIZE, &usual), 0);
+        QCOMPARE(log.texts(QtWarningMsg).size(), saved ? 0 : 1);
+        QCOMPARE(loadSettings(file).goalArcseconds, saved ? 9.0 : 7.5);
+        QCOMPARE(QDir(place.path()).entryList(QDir::Files | QDir::Hidden),
+                 QStringList("settings.ini"));
+    }
+    QVERIFY(bytes > 100);
+    QCOMPARE(loadSettings(file).recordingLimitMegabytes, next.recordingLimitMegabytes);
+}
+
+void AssistantSettingsTest::aLinkStays()
+{
+    const QString link = folder.filePath("link.ini"), target = folder.filePath("target.ini");
+    QVERIFY(QFile::link(target, link));
+    QVERIFY(saveSettings(link, {}));
+    QVERIFY(QFileInfo(link).isSymLink() && !QFileInfo(target).isSymLink());
+    QVERIFY(QFileInfo(target).isFile());
 }
 
 void AssistantSettingsTest::site_data()

@@ -5,6 +5,7 @@
 #include <QtTest>
 #include <cmath>
 #include <ctime>
+#include <sys/timex.h>
 
 using namespace assistant;
 
@@ -17,6 +18,9 @@ private slots:
     void steps();
     void driftIsNoStep();
     void systemClocksRun();
+    void aSuspendIsNoStep();
+    void kernelsWord_data();
+    void kernelsWord();
 };
 
 void ClockWatchTest::steps_data()
@@ -57,6 +61,32 @@ void ClockWatchTest::systemClocksRun()
     const double passed = clocks.steady() - before;
     QVERIFY(passed >= 0.02 && passed < 5.0);
     QCOMPARE(clocks.synchronised(), isClockSynchronised());
+}
+
+/// The steady clock counts the seconds since the start, those of a suspend too.
+void ClockWatchTest::aSuspendIsNoStep()
+{
+    timespec sinceStart = {};
+    QCOMPARE(clock_gettime(CLOCK_BOOTTIME, &sinceStart), 0);
+    const double seconds = double(sinceStart.tv_sec) + 1e-9 * double(sinceStart.tv_nsec);
+    QVERIFY(std::abs(systemClocks().steady() - seconds) < 1.0);
+}
+
+void ClockWatchTest::kernelsWord_data()
+{
+    QTest::addColumn<int>("state");
+    QTest::addColumn<bool>("synchronised");
+    QTest::newRow("right") << TIME_OK << true;
+    QTest::newRow("a leap second is due") << TIME_INS << true;
+    QTest::newRow("a leap second was left out") << TIME_WAIT << true;
+    QTest::newRow("not synchronised") << TIME_ERROR << false;
+    QTest::newRow("the call fails") << -1 << true;
+}
+
+void ClockWatchTest::kernelsWord()
+{
+    QFETCH(int, state);
+    QTEST(saysSynchronised(state), "synchronised");
 }
 
 QTEST_GUILESS_MAIN(ClockWatchTest)

@@ -17,6 +17,7 @@ private slots:
     void headerAndPixels_data();
     void headerAndPixels();
     void endsAtTheLimit();
+    void earlierRunsCount();
     void endsWhenTheDiskRefuses();
     void offRecordsNothing();
 };
@@ -94,6 +95,33 @@ void RecorderTest::endsAtTheLimit()
     QVERIFY(!recorder.record(frame, 1795204900.0, 0.2));
 }
 
+void RecorderTest::earlierRunsCount()
+{
+    const QTemporaryDir folder;
+    assistant::Settings settings;
+    settings.recording = true;
+    settings.recordingFolder = folder.path();
+    settings.recordingLimitMegabytes = 1.0;
+    const cv::Mat frame(480, 640, CV_8UC1, cv::Scalar(9)); // 0.31 MB
+    QFile other(folder.filePath("other.fits"));            // of somebody else
+    QVERIFY(other.open(QIODevice::WriteOnly) && other.resize(2000000));
+    for (int run = 0; run < 3; ++run) {
+        Recorder recorder;
+        recorder.use(settings);
+        QVERIFY(!recorder.record(frame, 1795204800.0 + run, 0.2));
+    }
+    Recorder fourth;
+    fourth.use(settings);
+    QVERIFY(fourth.record(frame, 1795204810.0, 0.2)->code == AdviceCode::RecordingFull);
+    QVERIFY(QFile::remove(folder.filePath("sky-20261120T200000Z.fits")));
+    QVERIFY(fourth.record(frame, 1795204811.0, 0.2)->code == AdviceCode::RecordingFull);
+    settings.recording = false;
+    fourth.use(settings);
+    settings.recording = true;
+    fourth.use(settings); // there is room now
+    QVERIFY(!fourth.record(frame, 1795204812.0, 0.2));
+}
+
 void RecorderTest::endsWhenTheDiskRefuses()
 {
     assistant::Settings settings;
@@ -103,7 +131,7 @@ void RecorderTest::endsWhenTheDiskRefuses()
     recorder.use(settings);
     const cv::Mat frame(48, 64, CV_8UC1, cv::Scalar(9));
     const auto advice = recorder.record(frame, 1795204800.0, 0.2);
-    QVERIFY(advice && advice->code == AdviceCode::DiskFull);
+    QVERIFY(advice && advice->code == AdviceCode::RecordingFailed);
     QCOMPARE(advice->text, std::string("/dev/null/frames"));
 }
 

@@ -153,7 +153,11 @@ void AssistantTablesTest::adviceCarriesItsNumber()
     QVERIFY(text(AdviceCode::TurnBolts, 245.0).contains("4′05″"));
     QVERIFY(text(AdviceCode::TurnBolts, 245.0, false).contains("until the arrow is gone"));
     QVERIFY(text(AdviceCode::Focus, 7.26).contains("7.3"));
-    QVERIFY(text(AdviceCode::DiskFull, 0.0).contains("full"));
+    QVERIFY(text(AdviceCode::RecordingFailed, 0.0).contains("folder full"));
+    QVERIFY(text(AdviceCode::CameraRefuses, 0.0).contains("camera full"));
+    QVERIFY(text(AdviceCode::CameraUnusable, 0.0).endsWith(": full"));
+    QCOMPARE(adviceText({AdviceCode::CameraUnusable, 0.0, 0.0, {}}, true, english),
+             QStringLiteral("The camera library cannot be used."));
     QCOMPARE(moodOf(AdviceCode::Aligned), AdviceMood::Good);
     QCOMPARE(moodOf(AdviceCode::CameraLost), AdviceMood::Warning);
 }
