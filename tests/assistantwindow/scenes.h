@@ -8,6 +8,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QTest>
+#include <algorithm>
 
 namespace scenes
 {
@@ -196,6 +197,15 @@ inline const std::vector<Scene> &all()
          "pushButton_report"},
     };
     return list;
+}
+
+/// The number of the scene with a name; none has it: the end.
+inline int numberOf(const char *name)
+{
+    const auto found = std::find_if(all().begin(), all().end(), [name](const Scene &scene) {
+        return qstrcmp(scene.name, name) == 0;
+    });
+    return int(found - all().begin());
 }
 
 inline assistant::Settings settingsOf(const Scene &scene, bool red, const QString &language)

@@ -168,7 +168,7 @@ void AssistantControlsTest::redThemeHasOnlyRed()
 
 void AssistantControlsTest::listAndToolTipAreRed()
 {
-    const Shown shown(0, true);
+    const Shown shown(scenes::numberOf("connect"), true);
     auto *const camera = shown.window->findChild<QComboBox *>("comboBox_camera");
     QVERIFY(camera && camera->isVisible());
     camera->showPopup();
@@ -193,7 +193,7 @@ void AssistantControlsTest::listAndToolTipAreRed()
 
 void AssistantControlsTest::normalThemeHasOtherColours()
 {
-    const Shown shown(0);
+    const Shown shown(scenes::numberOf("connect"));
     QVERIFY(coloured(screenImage(*shown.window)) > 1000);
 }
 
@@ -237,7 +237,7 @@ void AssistantControlsTest::largeViewCanBeReadFromFar()
 
 void AssistantControlsTest::largeViewOpensByKeyAndTap()
 {
-    const Shown shown(4);
+    const Shown shown(scenes::numberOf("bolts"));
     assistantwindow::AssistantWindow &window = *shown.window;
     auto *const large = window.findChild<QWidget *>("largePage");
     auto *const picture = window.findChild<QLabel *>("label_picture");
@@ -253,7 +253,7 @@ void AssistantControlsTest::largeViewOpensByKeyAndTap()
 
 void AssistantControlsTest::keyboardAloneOperatesTheWindow()
 {
-    Shown shown(0);
+    Shown shown(scenes::numberOf("connect"));
     QWidget &window = *shown.window;
     QTest::keyClick(&window, Qt::Key_F2);
     QCOMPARE(shown.instrument.calls, (QStringList{"find", "connect 1"}));
@@ -269,7 +269,7 @@ void AssistantControlsTest::keyboardAloneOperatesTheWindow()
 
 void AssistantControlsTest::exposureSliderTurnsTheAutomaticOff()
 {
-    Shown shown(2);
+    Shown shown(scenes::numberOf("sky"));
     auto *const slider = shown.window->findChild<QAbstractSlider *>("slider_exposure");
     auto *const automatic =
         shown.window->findChild<QAbstractButton *>("checkBox_automaticExposure");
@@ -284,7 +284,7 @@ void AssistantControlsTest::exposureSliderTurnsTheAutomaticOff()
 
 void AssistantControlsTest::camerasAreListedWhereThereIsAChoice()
 {
-    Shown shown(0);
+    Shown shown(scenes::numberOf("connect"));
     auto *const camera = shown.window->findChild<QComboBox *>("comboBox_camera");
     QVERIFY(camera->isVisible());
     camera->setFocus();
