@@ -293,7 +293,7 @@ void MainWindow::buildPlayer()
     player->setVolume(0);
     // A looping playlist would retry an unplayable item forever, so looping is switched off.
     const auto giveUp = [this, playlist] {
-        qWarning("the sound can not be played: %s", qPrintable(player->errorString()));
+        qWarning("the sound cannot be played: %s", qPrintable(player->errorString()));
         playlist->setPlaybackMode(QMediaPlaylist::CurrentItemOnce);
         player->stop();
     };

@@ -115,7 +115,7 @@ void TourTest::saysWhatIsInItsWay()
 {
     run({"--pictures", "/dev/null/nowhere"});
     QCOMPARE(exitCode, 1);
-    QVERIFY2(errors.contains("the tour is stuck: can not write /dev/null/nowhere"), errors);
+    QVERIFY2(errors.contains("the tour is stuck: cannot write /dev/null/nowhere"), errors);
 }
 
 void TourTest::refusesStrayOptions_data()

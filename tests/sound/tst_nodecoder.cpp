@@ -28,7 +28,7 @@ void NoDecoderTest::givesUp()
         QSKIP("the system has no sound service");
     const LogRecorder log;
     const auto failures = [&] {
-        return log.texts(QtWarningMsg).filter("the sound can not be played:").size();
+        return log.texts(QtWarningMsg).filter("the sound cannot be played:").size();
     };
     action.trigger();
     QTRY_VERIFY(failures() > 0);

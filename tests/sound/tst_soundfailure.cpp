@@ -82,10 +82,10 @@ void SoundFailureTest::isLoggedAndNothingElse_data()
 {
     QTest::addColumn<bool>("service");
     QTest::addColumn<QString>("line");
-    QTest::newRow("no decoder") << true << "the sound can not be played: no decoder";
+    QTest::newRow("no decoder") << true << "the sound cannot be played: no decoder";
     QTest::newRow("no service")
         << false
-        << "the sound can not be played: The QMediaPlayer object does not have a valid service";
+        << "the sound cannot be played: The QMediaPlayer object does not have a valid service";
 }
 
 /// Twice: a failure does not prevent the next start from trying.

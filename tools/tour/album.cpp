@@ -26,5 +26,5 @@ void Album::save(const QPixmap &picture, const QString &name) const
 {
     const QString file = folder.filePath(name + QStringLiteral(".png"));
     if (!picture.save(file))
-        throw std::runtime_error("can not write " + file.toStdString());
+        throw std::runtime_error("cannot write " + file.toStdString());
 }
