@@ -19,7 +19,9 @@
 namespace
 {
 using Clock = std::chrono::steady_clock;
-constexpr std::chrono::seconds loadPatience(10);
+/// A copy can hang although the library is sound: another thread may have held a lock at the fork,
+/// of an allocator that does not care for forks, for example. So a second copy decides.
+constexpr std::chrono::seconds loadPatience[] = {std::chrono::seconds(4), std::chrono::seconds(6)};
 /// For what the library does as it is unloaded; the program never unloads one that it uses.
 constexpr std::chrono::seconds unloadPatience(2);
 constexpr std::chrono::milliseconds pause(2);
@@ -97,11 +99,13 @@ bool hasReported(int report)
     return read(report, &byte, sizeof byte) == sizeof byte;
 }
 
+enum class Trial { Returned, Ended, Hung };
+
 /// Whether the child reports in time that loading has returned. Waits for its end, too.
-bool cameBack(pid_t child, int report)
+Trial awaitReport(pid_t child, int report, std::chrono::seconds patience)
 {
     bool returned = false;
-    auto end = Clock::now() + loadPatience;
+    auto end = Clock::now() + patience;
     while (Clock::now() < end) {
         if (!returned && hasReported(report)) {
             returned = true;
@@ -110,27 +114,36 @@ bool cameBack(pid_t child, int report)
         // Other code may have waited for it already.
         if (const pid_t ended = waitpid(child, nullptr, WNOHANG);
             ended == child || (ended < 0 && errno != EINTR))
-            return returned || hasReported(report);
+            return returned || hasReported(report) ? Trial::Returned : Trial::Ended;
         std::this_thread::sleep_for(pause);
     }
     kill(child, SIGKILL);
     while (waitpid(child, nullptr, 0) < 0 && errno == EINTR)
         continue;
-    return returned;
+    return returned ? Trial::Returned : Trial::Hung;
+}
+
+Trial tryToLoad(const char *name, std::chrono::seconds patience)
+{
+    int report[2];
+    if (pipe2(report, O_CLOEXEC | O_NONBLOCK) != 0)
+        return Trial::Returned;
+    const pid_t child = fork();
+    if (child == 0)
+        loadAndEnd(name, report[1]);
+    const Trial trial = child < 0 ? Trial::Returned : awaitReport(child, report[0], patience);
+    close(report[0]);
+    close(report[1]);
+    return trial;
 }
 } // namespace
 
 bool canLoadSafely(const QByteArray &name)
 {
     const char *const text = name.constData(); // the child calls no Qt code
-    int report[2];
-    if (pipe2(report, O_CLOEXEC | O_NONBLOCK) != 0)
-        return true;
-    const pid_t child = fork();
-    if (child == 0)
-        loadAndEnd(text, report[1]);
-    const bool safe = child < 0 || cameBack(child, report[0]);
-    close(report[0]);
-    close(report[1]);
-    return safe;
+    Trial trial = Trial::Hung;
+    for (const std::chrono::seconds patience : loadPatience)
+        if (trial == Trial::Hung)
+            trial = tryToLoad(text, patience);
+    return trial == Trial::Returned;
 }

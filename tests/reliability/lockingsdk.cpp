@@ -26,13 +26,13 @@ void release()
     unlink(lockFile());
 }
 
-/// Ends the program if the library is loaded already, in whatever process.
-void acquire()
+/// Whether the file did not exist.
+bool createsFile()
 {
     const int file = open(lockFile(), O_CREAT | O_EXCL | O_CLOEXEC, 0600);
-    if (file < 0)
-        std::abort();
-    close(file);
+    if (file >= 0)
+        close(file);
+    return file >= 0;
 }
 
 class Holder
@@ -49,8 +49,14 @@ __attribute__((constructor)) void load()
 {
     if (isWay("a throwing constructor"))
         throw std::runtime_error("the library is not licensed");
-    if (*lockFile())
-        acquire();
+    if (isWay("a hang at the first load")) {
+        for (bool first = createsFile(); first;)
+            pause();
+        return;
+    }
+    // It may be loaded already, in whatever process.
+    if (*lockFile() && !createsFile())
+        std::abort();
     if (isWay("an exit handler"))
         std::atexit(release);
 }

@@ -65,7 +65,8 @@ void CyclesTest::connections()
         }
         QVERIFY(w.connectCamera());
         w.toggleConnection();
-        QVERIFY(!w.session().camera.cameraConnected);
+        // On a busy machine the call for a frame may outlast the window's first wait.
+        QTRY_VERIFY(!w.session().camera.cameraConnected);
     }
     // The capture thread ends by itself.
     QTRY_VERIFY(noMore(heldWith(w.window.get()), before));
