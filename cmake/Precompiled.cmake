@@ -1,0 +1,61 @@
+# SPDX-License-Identifier: MIT
+# Precompiled headers: reading the toolkit's headers is most of the compile time. There is one set for
+# each group of the toolkit's modules, since its headers differ with the modules that are linked. The
+# tests always use them. The programs and libraries do so in the sanitizer builds alone: the others
+# show that every file includes what it uses.
+
+# qt_group(TARGET RESULT): the largest module whose headers a target gets by what it links, directly or
+# not: Widgets, Gui, Core or empty.
+function(qt_group TARGET RESULT)
+  set(seen)
+  set(queue ${TARGET})
+  while(queue)
+    list(POP_FRONT queue item)
+    if(item IN_LIST seen OR NOT TARGET ${item})
+      continue()
+    endif()
+    list(APPEND seen ${item})
+    set(properties INTERFACE_LINK_LIBRARIES)
+    if(item STREQUAL TARGET)
+      list(APPEND properties LINK_LIBRARIES)
+    endif()
+    foreach(property IN LISTS properties)
+      get_target_property(libraries ${item} ${property})
+      if(libraries)
+        list(APPEND queue ${libraries})
+      endif()
+    endforeach()
+  endwhile()
+  set(${RESULT} "" PARENT_SCOPE)
+  foreach(module IN ITEMS Widgets Gui Core)
+    if(Qt5::${module} IN_LIST seen)
+      set(${RESULT} ${module} PARENT_SCOPE)
+      return()
+    endif()
+  endforeach()
+endfunction()
+
+# precompile(TARGET [TEST]): lets a target use the headers of its group; TEST adds those of Qt Test.
+function(precompile TARGET)
+  qt_group(${TARGET} group)
+  if(NOT group)
+    return()
+  endif()
+  set(headers <Qt${group}> <opencv2/core.hpp>)
+  set(modules Qt5::${group})
+  set(host precompiled${group})
+  if("TEST" IN_LIST ARGN)
+    list(PREPEND headers <QtTest>)
+    list(APPEND modules Qt5::Test Qt5::Network)
+    string(APPEND host Test)
+    target_link_libraries(${TARGET} PRIVATE Qt5::Network) # <QtTest> differs with it
+  endif()
+  if(NOT TARGET ${host})
+    set(source ${CMAKE_BINARY_DIR}/precompiled/${host}.cpp)
+    file(CONFIGURE OUTPUT ${source} CONTENT "// holds precompiled headers\n")
+    add_library(${host} OBJECT ${source})
+    target_link_libraries(${host} PRIVATE ${modules} OpenCVLite::OpenCV quorvandel_options)
+    target_precompile_headers(${host} PRIVATE ${headers})
+  endif()
+  target_precompile_headers(${TARGET} REUSE_FROM ${host})
+endfunction()
