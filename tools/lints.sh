@@ -24,21 +24,20 @@ licence_lint() {
   }
 }
 
-# tidy FOLDERS: clang-tidy for the sources in folders that the regular expression fits. No build
+# tidy CONFIG FOLDERS: clang-tidy for the sources in folders that the regular expression fits. No build
 # compiles everything, so that what the toolkit's generators make is made first.
 tidy() {
   local generated
-  generated=$(ninja -C build/release -t targets all | sed -n 's/^\([A-Za-z0-9_-]*_autogen\):.*/\1/p')
+  generated=$(ninja -C build/release -t targets all |
+    sed -nE 's/^([A-Za-z0-9_-]*_autogen|.*\.moc|.*\/moc_[a-z]*\.cpp):.*/\1/p')
   # shellcheck disable=SC2086 # a list
-  ninja -C build/release $generated >/dev/null &&
-    python3 tools/tidy_database.py build/release build/tidy &&
-    run-clang-tidy -quiet -j 2 -p build/tidy "^$PWD/($1)/[^/]*\.cpp\$"
+  ninja -C build/release $generated >/dev/null && python3 tools/tidy.py build/release "$1" "$2"
 }
 
-tidy_lint() { tidy "$(tr -s ' \n' '|' <tools/folders.txt)bench/[^/]*|tools/[^/]*"; }
-
-# With a list of checks of their own (tests/.clang-tidy). They take several minutes: not in ./test.
-tests_tidy_lint() { tidy "tests/[^/]*"; }
+tidy_lint() {
+  tidy .clang-tidy "$(tr -s ' \n' '|' <tools/folders.txt)bench/[^/]*|tools/[^/]*" &&
+    tidy tests/.clang-tidy "tests/[^/]*"
+}
 
 # texts_of CATALOGUE: the contexts and source texts in it.
 texts_of() { tr '\n' ' ' <"$1" | grep -o '<name>[^<]*\|<source>[^<]*'; }
