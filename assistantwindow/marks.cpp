@@ -4,6 +4,8 @@
 
 #include "assistantwindow/starlabel.h"
 
+#include <QCoreApplication>
+#include <QLineF>
 #include <QPainter>
 #include <QPainterPath>
 #include <cmath>
@@ -150,7 +152,8 @@ std::vector<QRectF> paintRings(const Canvas &c, const QPointF &pole)
         double arcseconds;
         const char *text;
     };
-    constexpr Ring rings[] = {{600.0, "10′"}, {300.0, "5′"}, {60.0, "1′"}, {20.0, "20″"}};
+    constexpr Ring rings[] = {
+        {600.0, "10′"}, {300.0, "5′"}, {60.0, "1′"}, {20.0, "20″"}, {5.0, "5″"}};
     std::vector<QRectF> taken;
     c.painter.setBrush(Qt::NoBrush);
     c.painter.setFont(nameFont(c.painter));
@@ -209,6 +212,49 @@ void paintLine(const Canvas &c, const QPointF &pole, const QPointF &axis)
     paintArrow(c.painter, tip, degrees, 14.0, c.theme.axis);
 }
 
+/// One leg with its arrow head and, where there is room, the bolt's name on the side away from
+/// `inside`. Returns the name's box.
+QRectF paintLeg(const Canvas &c, const QLineF &leg, const QPointF &inside, const QString &name,
+                const QColor &colour)
+{
+    constexpr double shortest = 14.0, shortestNamed = 34.0;
+    if (leg.length() < shortest)
+        return {};
+    const QPointF unit = (leg.p2() - leg.p1()) / leg.length();
+    c.painter.setPen(QPen(colour, 2.0, Qt::DashLine));
+    c.painter.drawLine(leg.p1(), leg.p2() - unit * 10.0);
+    paintArrow(c.painter, leg.p2(), std::atan2(unit.x(), -unit.y()) * 180.0 / pi, 12.0, colour);
+    if (leg.length() < shortestNamed)
+        return {};
+    c.painter.setFont(nameFont(c.painter));
+    const QFontMetricsF metrics(c.painter.font());
+    const QSizeF size(metrics.horizontalAdvance(name) + 4.0, metrics.height());
+    QPointF away(-unit.y(), unit.x());
+    if (QPointF::dotProduct(away, inside - leg.center()) > 0.0)
+        away = -away;
+    const QPointF centre = leg.center() + QPointF(away.x() * (size.width() / 2.0 + 6.0),
+                                                  away.y() * (size.height() / 2.0 + 5.0));
+    const QRectF box(centre - QPointF(size.width(), size.height()) / 2.0, size);
+    if (!c.bounds.contains(box))
+        return {};
+    c.painter.fillRect(box, withAlpha(c.theme.well, 150));
+    c.painter.setPen(colour);
+    c.painter.drawText(box, Qt::AlignCenter, name);
+    return box;
+}
+
+/// Which bolt moves the axis which way: the names and colours are those beside the figures.
+std::vector<QRectF> paintLegs(const Canvas &c, const BoltLegs &legs)
+{
+    const QPointF axis = c.view.place(legs.axis), corner = c.view.place(legs.corner),
+                  pole = c.view.place(legs.pole);
+    const QPointF middle = (axis + corner + pole) / 3.0;
+    return {paintLeg(c, {axis, corner}, middle, QCoreApplication::translate("MainPage", "Altitude"),
+                     c.theme.altitude),
+            paintLeg(c, {corner, pole}, middle, QCoreApplication::translate("MainPage", "Azimuth"),
+                     c.theme.azimuth)};
+}
+
 /// Towards what is outside: the pole, or the direction that the advice tells.
 void paintOutside(const Canvas &c)
 {
@@ -246,8 +292,9 @@ void paintArrow(QPainter &painter, const QPointF &tip, double degrees, double le
     painter.restore();
 }
 
-void paintMarks(QPainter &painter, const assistant::Status &status, const View &view,
-                const QRectF &bounds, const Theme &theme)
+void paintMarks(QPainter &painter, const assistant::Status &status,
+                const std::optional<BoltLegs> &legs, const View &view, const QRectF &bounds,
+                const Theme &theme)
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
@@ -265,6 +312,10 @@ void paintMarks(QPainter &painter, const assistant::Status &status, const View &
         }
         if (status.axis.place)
             taken.emplace_back(view.place(*status.axis.place) - QPointF(12, 12), QSizeF(24, 24));
+        if (legs) {
+            const auto names = paintLegs(canvas, *legs);
+            taken.insert(taken.end(), names.begin(), names.end());
+        }
         paintStars(canvas, taken);
         if (status.axis.place)
             paintLine(canvas, at, view.place(*status.axis.place));

@@ -258,10 +258,10 @@ inline void addHistory(assistantwindow::AssistantWindow &window,
     if (!instrument.snapshot.status.error)
         return;
     auto &status = instrument.snapshot.status;
-    const double end = status.error->total.arcseconds, utc = status.utcSeconds;
+    const double end = status.error->total.arcseconds;
     for (int i = 0; i <= 60; ++i) {
         status.frame = std::uint64_t(i + 8);
-        status.utcSeconds = utc + 4.0 * i;
+        status.steadySeconds = 4.0 * i;
         status.error->total.arcseconds = end * std::exp((60 - i) / 60.0 * std::log(9000.0 / end));
         window.refresh();
     }

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 // What does the assistant show and sound for an error?
+#include "assistantwindow/assistantwindow.h"
 #include "assistantwindow/display.h"
 #include "assistantwindow/guidance.h"
 #include "assistantwindow/indicators.h"
+#include "assistantwindow/largepage.h"
 #include "assistantwindow/mainpage.h"
 
 #include <QtTest>
@@ -50,6 +52,14 @@ private slots:
     void panelLeavesThePictureItsShape();
     void displayOfAnInvalidNumberIsADash();
     void displayDropsTheAxisOnceAligned();
+    void goodBoltKeepsItsSide_data();
+    void goodBoltKeepsItsSide();
+    void plotBreaksWhereNothingWasMeasured();
+    void largeRowsAreNamed();
+    void askedExposureWaitsForTheCamera();
+    void windowLeavesRoomBesideIt_data();
+    void windowLeavesRoomBesideIt();
+    void aimIsNamed();
 };
 
 void AssistantFiguresTest::ways_data()
@@ -215,6 +225,106 @@ void AssistantFiguresTest::displayDropsTheAxisOnceAligned()
     const Display display = displayOf(status, {}, english);
     QVERIFY(display.advice.startsWith("Aligned"));
     QVERIFY(display.aligned && display.hint.isEmpty());
+}
+
+void AssistantFiguresTest::goodBoltKeepsItsSide_data()
+{
+    QTest::addColumn<double>("altitude");
+    QTest::addColumn<double>("azimuth");
+    QTest::addColumn<int>("first");
+    QTest::addColumn<int>("second");
+    QTest::newRow("above and west") << 5.0 << -3.0 << int(Way::Down) << int(Way::East);
+    QTest::newRow("below and east") << -0.1 << 0.1 << int(Way::Up) << int(Way::West);
+    QTest::newRow("no error") << 0.0 << 0.0 << int(Way::Stay) << int(Way::Stay);
+    QTest::newRow("no number") << noNumber << 2.0 << int(Way::Unknown) << int(Way::West);
+}
+
+void AssistantFiguresTest::goodBoltKeepsItsSide()
+{
+    QFETCH(double, altitude);
+    QFETCH(double, azimuth);
+    const BoltWays found = boltWays(figures(6.0, altitude, azimuth), 40.0, 20.0);
+    QTEST(int(found.altitudeSide), "first");
+    QTEST(int(found.azimuthSide), "second");
+    QVERIFY(found.azimuth == Way::Stay);
+}
+
+void AssistantFiguresTest::plotBreaksWhereNothingWasMeasured()
+{
+    std::deque<assistant::History::Point> points;
+    QVERIFY(plotRuns(points).empty());
+    for (const double seconds : {0.0, 0.5, 5.5, 10.6, 11.1, 70.0})
+        points.push_back({seconds, 100.0, {}, {}});
+    const std::vector<PlotRun> runs = plotRuns(points);
+    QCOMPARE(runs.size(), std::size_t(3));
+    QCOMPARE(runs[0].last, std::size_t(3)); // five seconds are no gap yet
+    QCOMPARE(runs[1].first, std::size_t(3));
+    QCOMPARE(runs[1].last, std::size_t(5));
+    QCOMPARE(runs[2].last, std::size_t(6));
+}
+
+void AssistantFiguresTest::largeRowsAreNamed()
+{
+    assistant::Status status;
+    status.stage = assistant::Stage::Bolts;
+    status.error = figures(100.0, 5.0, -90.0);
+    const LargeContent bolts = largeContent(displayOf(status, {}, english));
+    QCOMPARE(bolts.rows.size(), std::size_t(2));
+    QCOMPARE(bolts.rows[0].name, QStringLiteral("Altitude"));
+    QCOMPARE(bolts.rows[1].name, QStringLiteral("Azimuth"));
+    // A good bolt keeps number and arrow.
+    QVERIFY(bolts.rows[0].way == Way::Stay && bolts.rows[0].side == Way::Down);
+    QCOMPARE(bolts.rows[0].degrees, 180.0);
+    QCOMPARE(bolts.rows[0].number, QStringLiteral("5.0″"));
+    status.error = figures(100.0);
+    QCOMPARE(largeContent(displayOf(status, {}, english)).rows[0].name,
+             QStringLiteral("Total error"));
+    status.stage = assistant::Stage::Axis;
+    QCOMPARE(largeContent(displayOf(status, {}, english)).rows[0].name, QStringLiteral("Axis"));
+}
+
+void AssistantFiguresTest::askedExposureWaitsForTheCamera()
+{
+    AskedExposure asked;
+    QVERIFY(!asked.isAwaited(1000.0, true, 0.0));
+    asked.ask(5000.0, 10.0);
+    QVERIFY(asked.isAwaited(1000.0, true, 10.1));
+    QVERIFY(asked.isAwaited(5000.0, true, 10.2)); // still automatic
+    QVERIFY(!asked.isAwaited(5000.0, false, 10.3));
+    QVERIFY(!asked.isAwaited(1000.0, true, 10.4)); // once reported, the camera leads
+    asked.ask({}, 20.0);
+    QVERIFY(asked.isAwaited(5000.0, false, 20.1));
+    QVERIFY(!asked.isAwaited(7000.0, true, 20.2));
+    asked.ask(5000.0, 30.0);
+    QVERIFY(asked.isAwaited(1000.0, false, 32.9));
+    QVERIFY(!asked.isAwaited(1000.0, false, 33.1)); // refused
+}
+
+void AssistantFiguresTest::windowLeavesRoomBesideIt_data()
+{
+    QTest::addColumn<QSize>("screen");
+    QTest::addColumn<QSize>("window");
+    QTest::newRow("800 x 480") << QSize(800, 480) << QSize(800, 480);
+    QTest::newRow("1024 x 768") << QSize(1024, 768) << QSize(800, 740);
+    QTest::newRow("1366 x 768") << QSize(1366, 768) << QSize(940, 740);
+    QTest::newRow("1366 x 700") << QSize(1366, 700) << QSize(940, 700);
+    QTest::newRow("1920 x 1080") << QSize(1920, 1080) << QSize(1180, 740);
+}
+
+void AssistantFiguresTest::windowLeavesRoomBesideIt()
+{
+    QFETCH(QSize, screen);
+    QTEST(usualSize(screen), "window");
+}
+
+void AssistantFiguresTest::aimIsNamed()
+{
+    assistant::Settings settings;
+    QVERIFY(displayOf({}, settings, english).aim.contains("as the air shows it"));
+    settings.site = astrometry::Site{40.0, 116.0};
+    QVERIFY(displayOf({}, settings, english).aim.contains("true pole, refraction at 1013 hPa"));
+    settings.pressure = 0.0;
+    QVERIFY(displayOf({}, settings, english).aim.contains("no refraction"));
 }
 
 QTEST_MAIN(AssistantFiguresTest)

@@ -2,13 +2,16 @@
 // What does the assistant write for a number, an advice, a star, an option?
 #include "assistantapp/options.h"
 #include "assistantwindow/advicetexts.h"
+#include "assistantwindow/display.h"
 #include "assistantwindow/figures.h"
 #include "assistantwindow/languagenames.h"
+#include "assistantwindow/siteentry.h"
 #include "assistantwindow/starlabel.h"
 #include "core/languages.h"
 
 #include <QSet>
 #include <QtTest>
+#include <cmath>
 #include <limits>
 
 using namespace assistantwindow;
@@ -45,6 +48,10 @@ private slots:
     void languagesAreThoseOfTheTable();
     void options_data();
     void options();
+    void printsWithoutAScreen();
+    void clockHintIsExplainedAndDismissed();
+    void typedAngles_data();
+    void typedAngles();
 };
 
 void AssistantTextsTest::angle_data()
@@ -176,6 +183,74 @@ void AssistantTextsTest::options()
         QCOMPARE(found.site->longitude, longitude);
     else
         QCOMPARE(longitude, 0.0);
+}
+
+void AssistantTextsTest::printsWithoutAScreen()
+{
+    QVERIFY(assistantapp::printedFor({"--connect", "--help"}).startsWith("usage: "));
+    QCOMPARE(assistantapp::printedFor({"--version"}).section(' ', 0, 0),
+             QStringLiteral("quorvandel-assistant"));
+    QVERIFY(assistantapp::printedFor({"--connect"}).isEmpty());
+}
+
+void AssistantTextsTest::clockHintIsExplainedAndDismissed()
+{
+    int dismissible = 0;
+    for (const AdviceCode code : allCodes()) {
+        dismissible += canBeDismissed(code) ? 1 : 0;
+        QCOMPARE(canBeDismissed(code), !reasonText(code).isEmpty());
+    }
+    QCOMPARE(dismissible, 1);
+    // 15 degrees an hour are 0.25 a minute.
+    QVERIFY(reasonText(AdviceCode::ClockUnsure).contains("0.25°"));
+    assistant::Status status;
+    status.advice = {{AdviceCode::TurnBolts, 99.0, 0.0, {}},
+                     {AdviceCode::ClockUnsure, 0.0, 0.0, {}},
+                     {AdviceCode::SiteMissing, 0.0, 0.0, {}}};
+    const Display first = displayOf(status, {}, english);
+    QVERIFY(first.hint.contains("clock") && first.hintCanBeDismissed);
+    QVERIFY(!first.hintReason.isEmpty());
+    const Display next = displayOf(status, {}, english, true);
+    QVERIFY(next.hint.contains("site") && !next.hintCanBeDismissed);
+    QVERIFY(next.hintReason.isEmpty());
+}
+
+void AssistantTextsTest::typedAngles_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<double>("angle");
+    QTest::newRow("decimal") << "34.5" << 34.5;
+    QTest::newRow("decimal comma") << "34,5" << 34.5;
+    QTest::newRow("negative") << "-34.5" << -34.5;
+    QTest::newRow("minus sign") << QStringLiteral("−34.5°") << -34.5;
+    QTest::newRow("south") << "34.5 S" << -34.5;
+    QTest::newRow("small letter before it") << "s34.5" << -34.5;
+    QTest::newRow("north") << "34.5°N" << 34.5;
+    QTest::newRow("minutes") << "34 30 S" << -34.5;
+    QTest::newRow("seconds") << QStringLiteral("34° 30′ 18″ N") << 34.505;
+    QTest::newRow("south of the equator by less than a degree") << "0 30 S" << -0.5;
+    QTest::newRow("pole") << "90" << 90.0;
+    QTest::newRow("too far") << "90.1" << noNumber;
+    QTest::newRow("sign and letter") << "-34 S" << noNumber;
+    QTest::newRow("two letters") << "34 N S" << noNumber;
+    QTest::newRow("other side") << "34 E" << noNumber;
+    QTest::newRow("60 minutes") << "34 60" << noNumber;
+    QTest::newRow("parts of a degree and minutes") << "34.5 30" << noNumber;
+    QTest::newRow("four parts") << "1 2 3 4" << noNumber;
+    QTest::newRow("nothing") << "" << noNumber;
+    QTest::newRow("a letter alone") << "N" << noNumber;
+    QTest::newRow("word") << "nan" << noNumber;
+    QTest::newRow("exponent") << "1e1" << noNumber;
+}
+
+void AssistantTextsTest::typedAngles()
+{
+    QFETCH(QString, typed);
+    QFETCH(double, angle);
+    const auto found = typedAngle(typed, {'N', 'S'}, 90.0);
+    QCOMPARE(found.has_value(), std::isfinite(angle));
+    if (found)
+        QVERIFY2(std::abs(*found - angle) < 1e-9, qPrintable(QString::number(*found)));
 }
 
 QTEST_MAIN(AssistantTextsTest)

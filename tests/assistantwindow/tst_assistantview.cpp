@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Which part of the sky is shown, where are its marks, and in which colours?
+#include "assistantwindow/overview.h"
 #include "assistantwindow/starlabel.h"
 #include "assistantwindow/theme.h"
 #include "assistantwindow/view.h"
@@ -33,6 +34,10 @@ private slots:
     void redThemeHasOnlyRed();
     void reddenedKeepsBrightness();
     void brightSkyStays();
+    void overviewLeavesTheAxisFree_data();
+    void overviewLeavesTheAxisFree();
+    void scaleBars_data();
+    void scaleBars();
 };
 
 void AssistantViewTest::zoom_data()
@@ -193,6 +198,50 @@ void AssistantViewTest::brightSkyStays()
     QVERIFY(qGreen(bright.pixel(5, 5)) > 60);
     QVERIFY(qGreen(bright.pixel(8, 8)) <= 20);
     QVERIFY(brightened(QImage()).isNull());
+}
+
+void AssistantViewTest::overviewLeavesTheAxisFree_data()
+{
+    QTest::addColumn<QPointF>("axis");
+    QTest::addColumn<bool>("isRight");
+    QTest::newRow("middle") << QPointF(200, 150) << true;
+    QTest::newRow("upper right") << QPointF(320, 60) << false;
+    QTest::newRow("upper left") << QPointF(80, 60) << true;
+    QTest::newRow("lower right") << QPointF(320, 240) << true;
+    QTest::newRow("above") << QPointF(203, 30) << true;
+}
+
+void AssistantViewTest::overviewLeavesTheAxisFree()
+{
+    QFETCH(QPointF, axis);
+    const QRectF bounds(0, 0, 400, 300);
+    const QRectF box = overviewBox({1280, 960}, bounds, axis);
+    QTEST(box.center().x() > 200.0, "isRight");
+    QVERIFY(bounds.contains(box) && !box.contains(axis));
+    QVERIFY(box.width() > 100.0);
+    QCOMPARE(box.width() / box.height(), 4.0 / 3.0);
+}
+
+void AssistantViewTest::scaleBars_data()
+{
+    QTest::addColumn<double>("pixelScale");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("a minute of 100 pixels") << 0.6 << "1′";
+    QTest::newRow("half of it just fits") << 0.3 << "30″";
+    QTest::newRow("far") << 10.0 << "5′";
+    QTest::newRow("very near") << 0.01 << "1″";
+    QTest::newRow("too near") << 0.001 << "";
+    QTest::newRow("no scale") << 0.0 << "";
+}
+
+void AssistantViewTest::scaleBars()
+{
+    QFETCH(double, pixelScale);
+    const ScaleBar bar = scaleBar(pixelScale, 100.0);
+    QTEST(bar.text, "text");
+    QVERIFY(bar.pixels <= 100.0);
+    if (!bar.text.isEmpty())
+        QCOMPARE(bar.pixels * pixelScale, bar.arcseconds);
 }
 
 QTEST_MAIN(AssistantViewTest)
