@@ -217,7 +217,7 @@ void paintLine(const Canvas &c, const QPointF &pole, const QPointF &axis)
 QRectF paintLeg(const Canvas &c, const QLineF &leg, const QPointF &inside, const QString &name,
                 const QColor &colour)
 {
-    constexpr double shortest = 14.0, shortestNamed = 34.0;
+    constexpr double shortest = 14.0, shortestNamed = 18.0;
     if (leg.length() < shortest)
         return {};
     const QPointF unit = (leg.p2() - leg.p1()) / leg.length();

@@ -78,7 +78,7 @@ std::vector<ReportRow> reportRows(const assistant::Report &report, const QLocale
         {text(QT_TRANSLATE_NOOP("Report", "Drift in declination, anywhere, at most")),
          perHour(assistant::driftOf(total).declination, locale)},
         {text(QT_TRANSLATE_NOOP(
-             "Report", "Field rotation (an angle) at most, at the equator and at declination 60°")),
+             "Report", "Angle of field rotation at most, at the equator and at declination 60°")),
          rotationText(total, locale)},
         {text(QT_TRANSLATE_NOOP("Report", "Time taken")), durationText(report.seconds)},
         {text(QT_TRANSLATE_NOOP("Report", "Date and site")), momentText(report.utcSeconds, locale)},
@@ -97,7 +97,7 @@ void paintReport(QPainter &painter, const QRectF &area, const assistant::Report 
     double top = area.top() + rowHeight * 0.2;
     for (const ReportRow &row : rows) {
         const bool isMain = top < area.top() + 2.0 * rowHeight;
-        font.setPixelSize(int(rowHeight * (isMain ? 0.56 : 0.4)));
+        font.setPixelSize(int(rowHeight * (isMain ? 0.56 : 0.46)));
         font.setBold(isMain);
         painter.setFont(font);
         const QRectF box(area.left() + 16.0, top, area.width() - 32.0, rowHeight);
@@ -105,7 +105,7 @@ void paintReport(QPainter &painter, const QRectF &area, const assistant::Report 
         painter.setPen(isMain ? theme.lit : theme.text);
         painter.drawText(box, Qt::AlignRight | Qt::AlignVCenter, row.value);
         font.setBold(false);
-        font.setPixelSize(int(rowHeight * 0.38));
+        font.setPixelSize(int(rowHeight * 0.42));
         painter.setFont(font);
         painter.setPen(theme.quiet);
         painter.drawText(box.adjusted(0, 0, -valueWidth, 0),

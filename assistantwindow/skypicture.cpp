@@ -17,6 +17,7 @@ namespace assistantwindow
 {
 namespace
 {
+constexpr int buttonSize = 48; // pixels
 constexpr int textFlags = Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap;
 
 QFont sized(QFont font, int pixels)
@@ -32,7 +33,7 @@ SkyPicture::SkyPicture(QWidget *parent)
     setObjectName(QStringLiteral("label_picture"));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     dismissButton->setObjectName(QStringLiteral("pushButton_dismissHint"));
-    dismissButton->setFixedSize(touchSize, touchSize);
+    dismissButton->setFixedSize(buttonSize, buttonSize);
     dismissButton->hide();
     connect(dismissButton, &QPushButton::clicked, this, [this] {
         if (captionDismissed)
@@ -159,13 +160,13 @@ QRect SkyPicture::captionArea() const
     if (caption.isEmpty())
         return {};
     const bool hasButton = !dismissButton->isHidden();
-    const QRect most = rect().adjusted(10, 0, hasButton ? -touchSize - 8 : -10, 0);
+    const QRect most = rect().adjusted(10, 0, hasButton ? -buttonSize - 8 : -10, 0);
     int high = QFontMetrics(sized(font(), 15)).boundingRect(most, textFlags, caption).height();
     if (!captionReason.isEmpty())
         high +=
             QFontMetrics(sized(font(), 13)).boundingRect(most, textFlags, captionReason).height();
     if (hasButton)
-        high = std::max(high, touchSize - 8);
+        high = std::max(high, buttonSize - 8);
     return QRect(most.left(), height() - high - 8, most.width(), high);
 }
 

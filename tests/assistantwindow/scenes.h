@@ -248,6 +248,11 @@ inline void fill(madestatus::MadeInstrument &instrument, const Scene &scene)
     report.before = madestatus::figuresOf({2500, -3800}, scene.hasSite);
     report.after = madestatus::figuresOf(scene.error, scene.hasSite);
     report.seconds = 343.0;
+    report.utcSeconds = skyframes::november2026;
+    const assistant::Settings settings = settingsOf(scene, false, QString());
+    report.site = settings.site;
+    report.aim = assistant::aimOf(settings, scene.south ? recognition::Hemisphere::South
+                                                        : recognition::Hemisphere::North);
     instrument.figures = report;
 }
 

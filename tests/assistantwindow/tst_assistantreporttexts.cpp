@@ -78,7 +78,7 @@ void AssistantReportTextsTest::rowsHoldAll()
     QCOMPARE(valueOf(rows, "Drift in declination, anywhere, at most"),
              QStringLiteral("15.8″ an hour"));
     QCOMPARE(
-        valueOf(rows, "Field rotation (an angle) at most, at the equator and at declination 60°"),
+        valueOf(rows, "Angle of field rotation at most, at the equator and at declination 60°"),
         QStringLiteral("15.8″, 31.5″ an hour"));
 }
 
