@@ -48,8 +48,8 @@ void AssistantReportTextsTest::aims_data()
     const auto row = [](const char *name, Aim::Pole pole, double pressure, const char *text) {
         QTest::newRow(name) << int(pole) << pressure << QString::fromUtf8(text);
     };
-    row("true", Aim::Pole::True, 1013.25, "true pole, refraction at 1013 hPa, -4 °C");
-    row("refracted", Aim::Pole::Refracted, 850.0, "refracted pole, at 850 hPa, -4 °C");
+    row("true", Aim::Pole::True, 1013.25, "true pole, refraction at 1013 hPa, -4\u00a0°C");
+    row("refracted", Aim::Pole::Refracted, 850.0, "refracted pole, at 850 hPa, -4\u00a0°C");
     row("no air", Aim::Pole::True, 0.0, "true pole, no refraction");
     row("no air, refracted", Aim::Pole::Refracted, 0.0, "true pole, no refraction");
     row("no site", Aim::Pole::Seen, 0.0, "pole as the air shows it");
