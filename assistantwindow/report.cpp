@@ -37,8 +37,10 @@ QString rotationText(double total, const QLocale &locale)
 {
     const QString level = angleText(assistant::driftOf(total).rotation, locale);
     const double high = assistant::driftOf(total, assistant::highDeclination).rotation;
-    const QString there = perHour(high, locale);
-    return level == dash() ? level : level + QStringLiteral(", ") + there;
+    if (level == dash())
+        return level;
+    const QString both = level + QStringLiteral(", ") + angleText(high, locale);
+    return text(QT_TRANSLATE_NOOP("Report", "%1 an hour")).arg(both);
 }
 
 QString siteText(const astrometry::Site &site, const QLocale &locale)
