@@ -33,6 +33,17 @@ std::optional<PixelPlace> moveTowards(const Vector3 &goal, const PixelPlace &fro
 }
 } // namespace
 
+QLineF shownLeg(const QLineF &leg)
+{
+    constexpr double least = 1.5, axis = 34.0;
+    QLineF shown = leg;
+    if (leg.length() < least)
+        return {};
+    if (leg.length() < axis)
+        shown.setLength(axis);
+    return shown;
+}
+
 std::optional<BoltLegs> boltLegs(const assistant::Status &status,
                                  const std::optional<astrometry::Site> &site)
 {

@@ -5,6 +5,7 @@
 #include "assistant/status.h"
 #include "astrometry/places.h"
 
+#include <QLineF>
 #include <optional>
 
 namespace assistantwindow
@@ -18,4 +19,8 @@ struct BoltLegs {
 /// Nothing unless altitude and azimuth are known.
 std::optional<BoltLegs> boltLegs(const assistant::Status &status,
                                  const std::optional<astrometry::Site> &site);
+
+/// How a leg is drawn, widget pixels: a short one as an axis that only shows its direction, one
+/// that is almost nothing not at all.
+QLineF shownLeg(const QLineF &leg);
 } // namespace assistantwindow

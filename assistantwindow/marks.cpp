@@ -214,26 +214,27 @@ void paintLine(const Canvas &c, const QPointF &pole, const QPointF &axis)
 
 /// One leg with its arrow head and, where there is room, the bolt's name on the side away from
 /// `inside`. Returns the name's box.
-QRectF paintLeg(const Canvas &c, const QLineF &leg, const QPointF &inside, const QString &name,
+QRectF paintLeg(const Canvas &c, const QLineF &whole, const QPointF &inside, const QString &name,
                 const QColor &colour)
 {
-    constexpr double shortest = 14.0, shortestNamed = 18.0;
-    if (leg.length() < shortest)
+    const QLineF leg = shownLeg(whole);
+    if (leg.isNull())
         return {};
     const QPointF unit = (leg.p2() - leg.p1()) / leg.length();
     c.painter.setPen(QPen(colour, 2.0, Qt::DashLine));
     c.painter.drawLine(leg.p1(), leg.p2() - unit * 10.0);
     paintArrow(c.painter, leg.p2(), std::atan2(unit.x(), -unit.y()) * 180.0 / pi, 12.0, colour);
-    if (leg.length() < shortestNamed)
-        return {};
     c.painter.setFont(nameFont(c.painter));
     const QFontMetricsF metrics(c.painter.font());
     const QSizeF size(metrics.horizontalAdvance(name) + 4.0, metrics.height());
     QPointF away(-unit.y(), unit.x());
     if (QPointF::dotProduct(away, inside - leg.center()) > 0.0)
         away = -away;
-    const QPointF centre = leg.center() + QPointF(away.x() * (size.width() / 2.0 + 6.0),
-                                                  away.y() * (size.height() / 2.0 + 5.0));
+    // Beside a leg; beyond the tip of an axis, which is short.
+    const bool isAxis = leg != whole;
+    const QPointF from = isAxis ? leg.p2() : leg.center(), along = isAxis ? unit : away;
+    const QPointF centre = from + QPointF(along.x() * (size.width() / 2.0 + 6.0),
+                                          along.y() * (size.height() / 2.0 + 5.0));
     const QRectF box(centre - QPointF(size.width(), size.height()) / 2.0, size);
     if (!c.bounds.contains(box))
         return {};

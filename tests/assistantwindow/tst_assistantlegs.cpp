@@ -54,6 +54,7 @@ private slots:
     void legsAreTheBoltsWays();
     void noneWithoutSiteOrFigures();
     void pictureShowsBoth();
+    void shortLegShowsItsDirection();
 };
 
 void AssistantLegsTest::legsAreTheBoltsWays_data()
@@ -127,6 +128,17 @@ void AssistantLegsTest::pictureShowsBoth()
         QVERIFY(count(legs, colour) > 40);
         QCOMPARE(count({}, colour), 0);
     }
+}
+
+void AssistantLegsTest::shortLegShowsItsDirection()
+{
+    using assistantwindow::shownLeg;
+    const QLineF longLeg(10.0, 20.0, 10.0, 90.0);
+    QCOMPARE(shownLeg(longLeg), longLeg);
+    const QLineF axis = shownLeg({10.0, 20.0, 10.0, 25.0});
+    QCOMPARE(axis.p1(), QPointF(10.0, 20.0));
+    QVERIFY(axis.length() > 30.0 && std::abs(axis.dx()) < 1e-9 && axis.dy() > 0.0);
+    QVERIFY(shownLeg({10.0, 20.0, 10.0, 21.0}).isNull());
 }
 
 QTEST_MAIN(AssistantLegsTest)
