@@ -212,48 +212,67 @@ void paintLine(const Canvas &c, const QPointF &pole, const QPointF &axis)
     paintArrow(c.painter, tip, degrees, 14.0, c.theme.axis);
 }
 
-/// One leg with its arrow head and, where there is room, the bolt's name on the side away from
-/// `inside`. Returns the name's box.
-QRectF paintLeg(const Canvas &c, const QLineF &whole, const QPointF &inside, const QString &name,
-                const QColor &colour)
+/// Where the name of a leg may be: beside a leg, on the side away from `inside`; beyond the tip of
+/// an axis, which is short.
+std::vector<QRectF> besideLeg(const QLineF &leg, bool isAxis, const QPointF &inside,
+                              const QSizeF &size)
 {
-    const QLineF leg = shownLeg(whole);
-    if (leg.isNull())
-        return {};
+    const QPointF unit = (leg.p2() - leg.p1()) / leg.length();
+    QPointF away(-unit.y(), unit.x());
+    if (QPointF::dotProduct(away, inside - leg.center()) > 0.0)
+        away = -away;
+    const auto boxAt = [&size](const QPointF &from, const QPointF &along) {
+        const QPointF centre = from + QPointF(along.x() * (size.width() / 2.0 + 6.0),
+                                              along.y() * (size.height() / 2.0 + 5.0));
+        return QRectF(centre - QPointF(size.width(), size.height()) / 2.0, size);
+    };
+    const QRectF beyond = boxAt(leg.p2(), unit), beside = boxAt(leg.center(), away);
+    const QRectF inner = boxAt(leg.center(), -away);
+    if (isAxis)
+        return {beyond, beside, inner};
+    return {beside, beyond, inner};
+}
+
+void paintLeg(const Canvas &c, const QLineF &leg, const QColor &colour)
+{
     const QPointF unit = (leg.p2() - leg.p1()) / leg.length();
     c.painter.setPen(QPen(colour, 2.0, Qt::DashLine));
     c.painter.drawLine(leg.p1(), leg.p2() - unit * 10.0);
     paintArrow(c.painter, leg.p2(), std::atan2(unit.x(), -unit.y()) * 180.0 / pi, 12.0, colour);
-    c.painter.setFont(nameFont(c.painter));
-    const QFontMetricsF metrics(c.painter.font());
-    const QSizeF size(metrics.horizontalAdvance(name) + 4.0, metrics.height());
-    QPointF away(-unit.y(), unit.x());
-    if (QPointF::dotProduct(away, inside - leg.center()) > 0.0)
-        away = -away;
-    // Beside a leg; beyond the tip of an axis, which is short.
-    const bool isAxis = leg != whole;
-    const QPointF from = isAxis ? leg.p2() : leg.center(), along = isAxis ? unit : away;
-    const QPointF centre = from + QPointF(along.x() * (size.width() / 2.0 + 6.0),
-                                          along.y() * (size.height() / 2.0 + 5.0));
-    const QRectF box(centre - QPointF(size.width(), size.height()) / 2.0, size);
-    if (!c.bounds.contains(box))
-        return {};
-    c.painter.fillRect(box, withAlpha(c.theme.well, 150));
-    c.painter.setPen(colour);
-    c.painter.drawText(box, Qt::AlignCenter, name);
-    return box;
 }
 
-/// Which bolt moves the axis which way: the names and colours are those beside the figures.
+/// Which bolt moves the axis which way: the names and colours are those beside the figures. Returns
+/// the boxes of the names.
 std::vector<QRectF> paintLegs(const Canvas &c, const BoltLegs &legs)
 {
     const QPointF axis = c.view.place(legs.axis), corner = c.view.place(legs.corner),
                   pole = c.view.place(legs.pole);
-    const QPointF middle = (axis + corner + pole) / 3.0;
-    return {paintLeg(c, {axis, corner}, middle, QCoreApplication::translate("MainPage", "Altitude"),
-                     c.theme.altitude),
-            paintLeg(c, {corner, pole}, middle, QCoreApplication::translate("MainPage", "Azimuth"),
-                     c.theme.azimuth)};
+    const struct {
+        QLineF whole;
+        QString name;
+        QColor colour;
+    } bolts[] = {
+        {{axis, corner}, QCoreApplication::translate("MainPage", "Altitude"), c.theme.altitude},
+        {{corner, pole}, QCoreApplication::translate("MainPage", "Azimuth"), c.theme.azimuth}};
+    c.painter.setFont(nameFont(c.painter));
+    const QFontMetricsF metrics(c.painter.font());
+    std::vector<std::vector<QRectF>> boxes;
+    for (const auto &bolt : bolts) {
+        const QLineF leg = shownLeg(bolt.whole);
+        boxes.emplace_back();
+        if (leg.isNull())
+            continue;
+        paintLeg(c, leg, bolt.colour);
+        boxes.back() = besideLeg(leg, leg != bolt.whole, (axis + corner + pole) / 3.0,
+                                 {metrics.horizontalAdvance(bolt.name) + 4.0, metrics.height()});
+    }
+    std::vector<QRectF> taken;
+    for (const PlacedLabel &name : placedLabels(boxes, {}, c.bounds, 2)) {
+        c.painter.setPen(bolts[name.label].colour);
+        c.painter.drawText(name.box, Qt::AlignCenter, bolts[name.label].name);
+        taken.push_back(name.box);
+    }
+    return taken;
 }
 
 /// Towards what is outside: the pole, or the direction that the advice tells.
