@@ -35,13 +35,14 @@ void paintOverview(QPainter &painter, const QImage &picture, const assistant::St
     if (picture.isNull() || !status.sky || !status.pole)
         return;
     painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
     painter.drawImage(box, picture);
     const double scale = box.width() / picture.width();
     const View view{scale, box.topLeft() + QPointF(0.5, 0.5) * scale};
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(theme.border, 1.0));
-    painter.drawRect(box);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.drawRect(box.toRect());
+    painter.setRenderHint(QPainter::Antialiasing);
     painter.setClipRect(box);
     painter.setPen(QPen(theme.star, 1.0));
     std::size_t ringed = 0; // the brightest come first

@@ -124,6 +124,8 @@ private slots:
     void siteIsTypedWithTheKeyboard();
     void typedSiteCountsWhenConnecting();
     void clockHintIsDismissed();
+    void enlargedViewKeepsItsContext_data();
+    void enlargedViewKeepsItsContext();
 };
 
 void AssistantControlsTest::fingerCanHitEveryControl()
@@ -380,6 +382,38 @@ void AssistantControlsTest::clockHintIsDismissed()
     QVERIFY(shown.window->findChild<QWidget *>("mainPage")->isVisible()); // not the large view
     shown.window->refresh();
     QVERIFY(!button->isVisible());
+}
+
+void AssistantControlsTest::enlargedViewKeepsItsContext_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("isEnlarged");
+    QTest::newRow("below a minute") << "near" << true;
+    QTest::newRow("aligned") << "aligned" << true;
+    QTest::newRow("far") << "south" << false;
+}
+
+/// The whole frame with its stars' rings in the upper right corner, the scale bar in the lower
+/// left.
+void AssistantControlsTest::enlargedViewKeepsItsContext()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, isEnlarged);
+    const Shown shown(scenes::numberOf(qPrintable(name)));
+    const auto &colours = assistantwindow::theme(false);
+    const QImage image = shown.window->findChild<QLabel *>("label_picture")->grab().toImage();
+    const auto count = [&image](const QRect &part, const QColor &colour) {
+        int found = 0;
+        for (int y = part.top(); y <= part.bottom(); ++y)
+            for (int x = part.left(); x <= part.right(); ++x)
+                found += image.pixelColor(x, y) == colour ? 1 : 0;
+        return found;
+    };
+    const QRect bar(10, image.height() - 20, image.width() / 3, 15);
+    QCOMPARE(count(bar, colours.text) > 50, isEnlarged);
+    // The frame's border, from one side to the other.
+    const QRect corner(image.width() * 7 / 10, 4, image.width() * 3 / 10 - 4, 8);
+    QCOMPARE(count(corner, colours.border) > corner.width() / 2, isEnlarged);
 }
 
 QTEST_MAIN(AssistantControlsTest)

@@ -55,6 +55,8 @@ private slots:
     void goodBoltKeepsItsSide_data();
     void goodBoltKeepsItsSide();
     void plotBreaksWhereNothingWasMeasured();
+    void gapIsHatched();
+    void goodBoltShowsItsArrow();
     void largeRowsAreNamed();
     void askedExposureWaitsForTheCamera();
     void windowLeavesRoomBesideIt_data();
@@ -261,6 +263,41 @@ void AssistantFiguresTest::plotBreaksWhereNothingWasMeasured()
     QCOMPARE(runs[1].first, std::size_t(3));
     QCOMPARE(runs[1].last, std::size_t(5));
     QCOMPARE(runs[2].last, std::size_t(6));
+}
+
+void AssistantFiguresTest::gapIsHatched()
+{
+    const auto hatched = [](double now, double step) {
+        std::deque<assistant::History::Point> points;
+        for (int i = 0; i < 10; ++i)
+            points.push_back({i * step, 100.0, {}, {}});
+        ErrorPlot plot;
+        plot.resize(400, 200);
+        plot.show(points, 20.0, now);
+        const QImage image = plot.grab().toImage();
+        int found = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                found += image.pixelColor(x, y) == theme(false).border ? 1 : 0;
+        return found;
+    };
+    QCOMPARE(hatched(0.0, 2.0), 0);
+    QVERIFY(hatched(0.0, 20.0) > 500);  // between points
+    QVERIFY(hatched(100.0, 2.0) > 500); // since the last one
+}
+
+void AssistantFiguresTest::goodBoltShowsItsArrow()
+{
+    const auto drawn = [](Way way, Way side, double degrees) {
+        BoltArrow arrow(&Theme::altitude);
+        arrow.resize(64, 64);
+        arrow.show(way, side, degrees);
+        return arrow.grab().toImage();
+    };
+    const QImage up = drawn(Way::Stay, Way::Up, 0.0), down = drawn(Way::Stay, Way::Down, 180.0);
+    QVERIFY(up != down);                             // the side is visible
+    QVERIFY(up != drawn(Way::Stay, Way::Stay, 0.0)); // besides the tick
+    QVERIFY(up != drawn(Way::Up, Way::Up, 0.0));     // and the bolt is not to be turned
 }
 
 void AssistantFiguresTest::largeRowsAreNamed()
