@@ -8,6 +8,9 @@
 
 #include <QApplication>
 #include <QDateTime>
+#include <algorithm>
+#include <array>
+#include <cstring>
 
 namespace
 {
@@ -20,6 +23,16 @@ void applyBundledStyleSheet(QApplication &application)
 void prepareApplication()
 {
     QApplication::setAttribute(Qt::AA_ForceRasterWidgets);
+}
+
+bool asksForText(int argc, char *argv[])
+{
+    constexpr std::array<const char *, 5> texts{"--help", "-h", "--help-all", "--version", "-v"};
+    return std::any_of(argv + 1, argv + argc, [&texts](const char *argument) {
+        return std::any_of(texts.begin(), texts.end(), [argument](const char *text) {
+            return std::strcmp(argument, text) == 0;
+        });
+    });
 }
 
 void startWindows(QApplication &application)

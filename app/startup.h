@@ -10,6 +10,10 @@ class QApplication;
 /// its libraries are not loaded.
 void prepareApplication();
 
+/// Whether `--help` or `--version` is all that is asked for, which needs no screen: then the
+/// options are processed with a QCoreApplication.
+bool asksForText(int argc, char *argv[]);
+
 /// Registers the bundled resources and applies the program's style sheet.
 void startWindows(QApplication &application);
 

@@ -195,6 +195,8 @@ void AssistantSession::obey()
         if (asked.automatic)
             shown.status.automaticExposure = *asked.automatic;
     }
+    if (asked.newConnection || asked.automatic)
+        exposureOrder.forget();
     if (asked.newConnection)
         guide = Guide(asked.settings ? *asked.settings : inUse);
     if (asked.settings) {
@@ -222,10 +224,10 @@ void AssistantSession::lookAt(const NewestFrame::Taken &taken)
     }
     Status status = guide.observe({taken.frame, taken.utcSeconds, taken.steadySeconds,
                                    taken.exposureMicroseconds, synchronised});
-    if (const auto wanted = guide.wantedExposure()) {
+    if (const auto wanted = exposureOrder.due(guide.wantedExposure())) {
         // Under the lock: a value that the user sets meanwhile comes after this one.
         const std::lock_guard<std::mutex> lock(mutex);
-        if (requests.automatic)
+        if (!requests.automatic)
             camera.setExposure(*wanted);
     }
     record(taken, status);

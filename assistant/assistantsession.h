@@ -2,6 +2,7 @@
 // What does the assistant's window ask for, and what does it get to show?
 #pragma once
 
+#include "assistant/autoexposure.h"
 #include "assistant/cameraoperator.h"
 #include "assistant/clocks.h"
 #include "assistant/guide.h"
@@ -86,6 +87,7 @@ private:
     Guide guide;
     Settings inUse;
     Recorder recorder;
+    ExposureOrder exposureOrder;
     bool synchronised = true;
     double synchronisedAt = 0.0; ///< steady seconds of the last look; 0: none yet
 

@@ -52,6 +52,7 @@ void AutoExposure::setEnabled(bool on)
 {
     enabled = on;
     next.reset();
+    refused.reset();
     tooLong = 0.0;
 }
 
@@ -61,15 +62,31 @@ void AutoExposure::consider(const ExposureFacts &facts)
     taken = facts.microseconds;
     if (!enabled || !(facts.microseconds > 0.0) || isNew)
         return;
-    if (next && !isSame(*next, facts.microseconds))
-        return; // the camera has not followed yet
+    if (next && !isSame(*next, facts.microseconds)) {
+        if (++waited < patience)
+            return; // the camera has not followed yet
+        refused = next;
+    }
     next.reset();
+    waited = 0;
     double better = betterExposure(facts);
     if (better < facts.microseconds)
         tooLong = facts.microseconds;
     else if (tooLong > 0.0 && better >= tooLong)
         better = std::max(facts.microseconds, 0.75 * tooLong);
-    if (!isSame(better, facts.microseconds))
+    const bool isRefused = refused && isSame(better, *refused);
+    if (!isSame(better, facts.microseconds) && !isRefused)
         next = better;
+}
+
+std::optional<double> ExposureOrder::due(const std::optional<double> &wanted)
+{
+    if (!wanted || wanted == ordered) {
+        if (!wanted)
+            ordered.reset();
+        return std::nullopt;
+    }
+    ordered = wanted;
+    return wanted;
 }
 } // namespace assistant

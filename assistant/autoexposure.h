@@ -28,6 +28,8 @@ double betterExposure(const ExposureFacts &facts);
 
 /// Decides from frame to frame. A change counts from the second frame that was taken with it, since
 /// the first may have begun before it.
+/// A camera that does not follow within `patience` frames counts as having refused: that exposure
+/// is not wanted again until the automatic is switched off and on.
 class AutoExposure
 {
 public:
@@ -38,9 +40,26 @@ public:
     std::optional<double> wanted() const { return next; }
 
 private:
+    static constexpr int patience = 20; // frames
+
     bool enabled = true;
     std::optional<double> next;
+    std::optional<double> refused;
+    int waited = 0;       ///< frames for `next`
     double tooLong = 0.0; ///< an exposure that saturated the sky; 0: none
     double taken = 0.0;   ///< of the last frame
+};
+
+/// Passes each exposure on once: a camera that refuses it is not asked again in every frame.
+class ExposureOrder
+{
+public:
+    /// What to ask the camera for now, given what is wanted; nothing if it was asked already.
+    std::optional<double> due(const std::optional<double> &wanted);
+    /// Somebody else set the exposure.
+    void forget() { ordered.reset(); }
+
+private:
+    std::optional<double> ordered;
 };
 } // namespace assistant

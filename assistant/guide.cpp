@@ -96,6 +96,7 @@ Status Guide::observe(const Observation &observation)
     status.sky = std::make_shared<Recognition>();
     status.stage = stage;
     status.utcSeconds = observation.utcSeconds;
+    status.steadySeconds = observation.steadySeconds;
     status.exposureMicroseconds = observation.exposureMicroseconds;
     status.automaticExposure = exposure.isEnabled();
     noteClock(observation);

@@ -87,9 +87,10 @@ struct ErrorFigures {
 };
 
 struct Status {
-    std::uint64_t frame = 0;   ///< counts the frames of this connection, from 1
-    double utcSeconds = 0.0;   ///< middle of the exposure
-    int width = 0, height = 0; ///< of the frame
+    std::uint64_t frame = 0;    ///< counts the frames of this connection, from 1
+    double utcSeconds = 0.0;    ///< middle of the exposure
+    double steadySeconds = 0.0; ///< the same by a clock that nobody sets; for durations
+    int width = 0, height = 0;  ///< of the frame
     Stage stage = Stage::Connect;
     std::vector<Advice> advice; ///< most important first; never empty
     /// Of this frame; never null. Its status tells whether the sky is recognised.

@@ -66,6 +66,11 @@ void chooseLanguage(const assistantapp::Options &options, assistant::Settings &s
 
 int main(int argc, char *argv[])
 {
+    QStringList given;
+    for (int i = 1; i < argc; ++i)
+        given.append(QString::fromLocal8Bit(argv[i]));
+    if (const QString text = assistantapp::printedFor(given); !text.isEmpty())
+        return std::fputs(qPrintable(text), stdout) < 0 ? EXIT_FAILURE : EXIT_SUCCESS;
     if (!takeCameraOption(argc, argv))
         return misuse;
     prepareApplication();
@@ -73,9 +78,6 @@ int main(int argc, char *argv[])
     QApplication::setApplicationName(QStringLiteral("quorvandel-assistant"));
     QGuiApplication::setDesktopFileName(QStringLiteral("example.quorvandel.assistant"));
     const assistantapp::Options options = assistantapp::parse(QApplication::arguments().mid(1));
-    if (options.helps)
-        return std::fputs(qPrintable(assistantapp::usage()), stdout) < 0 ? EXIT_FAILURE
-                                                                         : EXIT_SUCCESS;
     if (!options.fault.isEmpty()) {
         std::fprintf(stderr, "quorvandel-assistant: %s\n", qPrintable(options.fault));
         return misuse;

@@ -19,9 +19,7 @@ Options parse(const QStringList &arguments)
                 return arguments[i].section(QLatin1Char('='), 1);
             return i + 1 < arguments.size() ? arguments[++i] : QString();
         };
-        if (name == QLatin1String("--help")) {
-            options.helps = true;
-        } else if (name == QLatin1String("--connect")) {
+        if (name == QLatin1String("--connect")) {
             options.connects = true;
         } else if (name == QLatin1String("--maximized")) {
             options.maximized = true;
@@ -48,13 +46,23 @@ QString usage()
     return QStringLiteral(
                "usage: quorvandel-assistant [--camera ADDRESS] [--connect]\n"
                "                            [--site LATITUDE,LONGITUDE] [--language CODE]\n"
-               "                            [--maximized] [--help]\n") +
+               "                            [--maximized] [--help] [--version]\n") +
            QLatin1String(cameraOptionHelp) +
            QStringLiteral("  --connect         connect to the camera at once\n"
                           "  --site LAT,LON    the site in degrees, north and east positive\n"
                           "  --language CODE   %1\n"
                           "  --maximized       fill the screen from the start\n"
-                          "  --help            print this and exit\n")
+                          "  --help            print this and exit\n"
+                          "  --version         print the version and exit\n")
                .arg(languageCodes());
+}
+
+QString printedFor(const QStringList &arguments)
+{
+    if (arguments.contains(QLatin1String("--help")))
+        return usage();
+    if (arguments.contains(QLatin1String("--version")))
+        return QStringLiteral("quorvandel-assistant " QUORVANDEL_VERSION "\n");
+    return {};
 }
 } // namespace assistantapp

@@ -10,7 +10,6 @@ namespace assistantapp
 {
 struct Options {
     bool connects = false; ///< connect at once
-    bool helps = false;    ///< print the usage and exit
     bool maximized = false;
     std::optional<astrometry::Site> site;
     QString language; ///< a code; empty: as in the settings
@@ -21,4 +20,8 @@ struct Options {
 Options parse(const QStringList &arguments);
 
 QString usage();
+
+/// What `--help` or `--version` print, on a screen or without one; empty if neither is among the
+/// arguments.
+QString printedFor(const QStringList &arguments);
 } // namespace assistantapp

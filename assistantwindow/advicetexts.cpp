@@ -130,6 +130,21 @@ QString adviceText(const assistant::Advice &advice, bool hasBolts, const QLocale
     return sentence.arg(numberText(row.number, advice, locale));
 }
 
+QString reasonText(AdviceCode code)
+{
+    // The Earth turns by 15 degrees an hour about the pole.
+    if (code == AdviceCode::ClockUnsure)
+        return QCoreApplication::translate(
+            "Advice", "Each minute that it is off turns altitude and azimuth by 0.25° about the "
+                      "pole; the total error hardly changes.");
+    return {};
+}
+
+bool canBeDismissed(AdviceCode code)
+{
+    return code == AdviceCode::ClockUnsure;
+}
+
 QString stageText(assistant::Stage stage)
 {
     switch (stage) {

@@ -12,6 +12,13 @@ namespace assistantwindow
 /// @param hasBolts altitude and azimuth are known: the bolts' arrows are shown
 QString adviceText(const assistant::Advice &advice, bool hasBolts, const QLocale &locale);
 
+/// What the advice means for the figures, one more sentence; empty for most.
+QString reasonText(assistant::AdviceCode code);
+
+/// Whether the user may put the advice away for the run: it may be true all night, and hinders
+/// nothing.
+bool canBeDismissed(assistant::AdviceCode code);
+
 /// The stage's short name, for its label.
 QString stageText(assistant::Stage stage);
 

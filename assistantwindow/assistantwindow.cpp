@@ -17,6 +17,7 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QStandardPaths>
+#include <algorithm>
 
 namespace assistantwindow
 {
@@ -24,8 +25,16 @@ namespace
 {
 constexpr int refreshMilliseconds = 20;
 constexpr unsigned ticksBetweenLooks = 12;
-constexpr QSize leastSize(800, 440), usualSize(1180, 740);
+constexpr QSize leastSize(800, 440);
 } // namespace
+
+QSize usualSize(QSize screen)
+{
+    constexpr int widest = 1180, highest = 740;
+    constexpr int neighbour = 426; // the virtual mount's window with its frame
+    const int wide = std::clamp(screen.width() - neighbour, leastSize.width(), widest);
+    return QSize(wide, highest).boundedTo(screen);
+}
 
 AssistantWindow::AssistantWindow(Instrument &theInstrument, const assistant::Settings &given,
                                  std::function<void(const assistant::Settings &)> keeper,
@@ -47,7 +56,7 @@ AssistantWindow::AssistantWindow(Instrument &theInstrument, const assistant::Set
         addWidget(page);
     // Said here: a hidden page's wrapped texts would ask for more height than they need when shown.
     setMinimumSize(leastSize);
-    resize(usualSize.boundedTo(QGuiApplication::primaryScreen()->availableSize()));
+    resize(usualSize(QGuiApplication::primaryScreen()->availableSize()));
     sitePanel->show(settings.site);
     settingsPage->show(settings);
     reportPage->setFolder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
@@ -81,7 +90,10 @@ void AssistantWindow::connectButtons()
     on(mainPage->connectButton, &AssistantWindow::toggleConnection);
     on(mainPage->largeViewButton, &AssistantWindow::openLarge);
     on(mainPage->settingsButton, &AssistantWindow::openSettings);
-    on(mainPage->siteButton, &AssistantWindow::openSettings);
+    connect(mainPage->siteButton, &QPushButton::clicked, this, [this] {
+        openSettings();
+        sitePanel->focusLatitude();
+    });
     on(mainPage->reportButton, &AssistantWindow::openReport);
     on(largePage->backButton, &AssistantWindow::openMain);
     on(settingsPage->backButton, &AssistantWindow::openMain);
@@ -92,13 +104,18 @@ void AssistantWindow::connectButtons()
     });
     mainPage->picture->tapped = [this] { openLarge(); };
     largePage->tapped = [this] { openMain(); };
-    connect(mainPage->automaticExposure, &QCheckBox::toggled, this,
-            [this](bool isOn) { instrument.setAutomaticExposure(isOn); });
-    mainPage->exposureMoved = [this](double microseconds) {
-        instrument.setExposure(microseconds);
-        mainPage->automaticExposure->setChecked(false);
+    mainPage->automaticChosen = [this](bool isOn) { instrument.setAutomaticExposure(isOn); };
+    mainPage->exposureMoved = [this](double microseconds) { instrument.setExposure(microseconds); };
+    mainPage->picture->captionDismissed = [this] {
+        hintDismissed = true;
+        mainPage->settingsButton->setFocus(); // the button that had it is gone
+        refresh();
     };
     settingsPage->edit = [this](const auto &how) { change(how); };
+    sitePanel->entered = [this] {
+        (currentWidget() == settingsPage ? settingsPage->backButton : mainPage->connectButton)
+            ->setFocus();
+    };
     sitePanel->changed = [this](const std::optional<astrometry::Site> &site) {
         change([&site](assistant::Settings &s) { s.site = site; });
     };
@@ -120,6 +137,7 @@ void AssistantWindow::addShortcuts()
 
 void AssistantWindow::connectCamera()
 {
+    sitePanel->commit();
     const QString chosen = mainPage->chosenCamera();
     instrument.connectCamera(chosen.isEmpty() ? settings.cameraId : chosen);
     if (!chosen.isEmpty() && chosen != settings.cameraId)
@@ -166,10 +184,10 @@ void AssistantWindow::refresh()
         history.clear();
     wasConnected = isConnected;
     if (status.frame != lastFrame && status.error)
-        history.add(status, status.utcSeconds);
+        history.add(status, status.steadySeconds);
     lastFrame = status.frame;
     lastNumber = snapshot.number;
-    const Display display = displayOf(status, settings, locale());
+    const Display display = displayOf(status, settings, locale(), hintDismissed);
     mainPage->show(display, snapshot, isConnected, history, settings);
     mainPage->showExposure(snapshot, instrument.exposureRange());
     if (currentWidget() == largePage)

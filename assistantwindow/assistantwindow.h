@@ -20,6 +20,9 @@ class SettingsPage;
 class ReportPage;
 class SitePanel;
 
+/// How large the window opens, so that the virtual mount's or another one has room beside it.
+QSize usualSize(QSize screen);
+
 class AssistantWindow : public QStackedWidget
 {
 public:
@@ -71,6 +74,7 @@ private:
     std::uint64_t lastFrame = 0, lastNumber = 0;
     unsigned ticks = 0; ///< of the timer
     bool wasConnected = false;
-    bool fullBefore = false; ///< the window filled the screen before the large view
+    bool hintDismissed = false; ///< for this run
+    bool fullBefore = false;    ///< the window filled the screen before the large view
 };
 } // namespace assistantwindow

@@ -28,7 +28,9 @@ BoltWays boltWays(const std::optional<assistant::ErrorFigures> &error, double la
     const double share = goalArcseconds / std::sqrt(2.0);
     const double shrink = std::cos(latitude * std::acos(-1.0) / 180.0);
     return {wayOf(error->altitude, 1.0, share, Way::Down, Way::Up),
-            wayOf(error->azimuth, shrink, share, Way::West, Way::East)};
+            wayOf(error->azimuth, shrink, share, Way::West, Way::East),
+            wayOf(error->altitude, 1.0, 0.0, Way::Down, Way::Up),
+            wayOf(error->azimuth, shrink, 0.0, Way::West, Way::East)};
 }
 
 double arrowDegrees(Way way, recognition::Hemisphere hemisphere)

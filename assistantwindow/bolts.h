@@ -14,6 +14,9 @@ enum class Way { Unknown, Stay, Up, Down, East, West };
 struct BoltWays {
     Way altitude = Way::Unknown;
     Way azimuth = Way::Unknown;
+    /// The same for a good bolt too: which way what is left of its error goes; `Stay`: no error.
+    Way altitudeSide = Way::Unknown;
+    Way azimuthSide = Way::Unknown;
 };
 
 /// A bolt is good when its part of the error on the sky is below the goal's share of one axis

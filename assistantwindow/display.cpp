@@ -2,6 +2,8 @@
 // Computes every text and arrow of the window from a status.
 #include "assistantwindow/display.h"
 
+#include "assistantwindow/aimtext.h"
+
 #include <QCoreApplication>
 #include <algorithm>
 #include <cmath>
@@ -36,13 +38,16 @@ void addFigures(Display &display, const assistant::Status &status, const QLocale
 }
 
 void addArrows(Display &display, const assistant::Status &status,
-               const assistant::Settings &settings)
+               const assistant::Settings &settings, const QLocale &locale)
 {
     const double latitude = settings.site ? settings.site->latitude : 0.0;
     display.ways = boltWays(status.error, latitude, settings.goalArcseconds);
     const auto hemisphere = status.sky ? status.sky->hemisphere : recognition::Hemisphere::North;
-    display.altitudeArrow = arrowDegrees(display.ways.altitude, hemisphere);
-    display.azimuthArrow = arrowDegrees(display.ways.azimuth, hemisphere);
+    display.altitudeArrow = arrowDegrees(display.ways.altitudeSide, hemisphere);
+    display.azimuthArrow = arrowDegrees(display.ways.azimuthSide, hemisphere);
+    //: Before a text such as: true pole, no refraction
+    display.aim = QCoreApplication::translate("Display", "Aimed at: %1")
+                      .arg(aimText(assistant::aimOf(settings, hemisphere), locale));
     if (status.error && status.pole && status.axis.place) {
         const double x = status.pole->x - status.axis.place->x;
         const double y = status.pole->y - status.axis.place->y;
@@ -61,9 +66,16 @@ void addSky(Display &display, const assistant::Status &status, const QLocale &lo
     display.focus = QCoreApplication::translate("Display", "Width of the stars: %1 pixels")
                         .arg(locale.toString(status.fwhm, 'f', 1));
 }
-void addAdvice(Display &display, std::vector<assistant::Advice> advice, const QLocale &locale)
+
+void addAdvice(Display &display, std::vector<assistant::Advice> advice, bool dismissed,
+               const QLocale &locale)
 {
     using assistant::AdviceCode;
+    if (dismissed)
+        advice.erase(
+            std::remove_if(advice.begin(), advice.end(),
+                           [](const assistant::Advice &a) { return canBeDismissed(a.code); }),
+            advice.end());
     const auto has = [&advice](AdviceCode code) {
         return std::any_of(advice.begin(), advice.end(),
                            [code](const assistant::Advice &a) { return a.code == code; });
@@ -80,21 +92,24 @@ void addAdvice(Display &display, std::vector<assistant::Advice> advice, const QL
         advice.emplace_back();
     display.advice = adviceText(advice[0], display.hasBolts, locale);
     display.mood = moodOf(advice[0].code);
-    if (advice.size() > 1)
+    if (advice.size() > 1) {
         display.hint = adviceText(advice[1], display.hasBolts, locale);
+        display.hintReason = reasonText(advice[1].code);
+        display.hintCanBeDismissed = canBeDismissed(advice[1].code);
+    }
 }
 } // namespace
 
 Display displayOf(const assistant::Status &status, const assistant::Settings &settings,
-                  const QLocale &locale)
+                  const QLocale &locale, bool dismissed)
 {
     Display display;
     display.stage = status.stage;
     display.stageText = stageText(status.stage);
     addFigures(display, status, locale);
-    addArrows(display, status, settings);
+    addArrows(display, status, settings, locale);
     addSky(display, status, locale);
-    addAdvice(display, status.advice, locale);
+    addAdvice(display, status.advice, dismissed, locale);
     const bool isTurned =
         status.stage == assistant::Stage::Axis || status.stage == assistant::Stage::Bolts;
     display.axisTurn = isTurned ? degreesText(status.axis.turnedDegrees, locale) : dash();

@@ -19,9 +19,12 @@ struct Figure {
 struct Display {
     assistant::Stage stage = assistant::Stage::Connect;
     QString stageText, advice;
-    QString hint; ///< the second advice; empty if there is none
+    QString hint;       ///< the second advice; empty if there is none
+    QString hintReason; ///< what that means; may be empty
+    bool hintCanBeDismissed = false;
     AdviceMood mood = AdviceMood::Calm;
     Figure total, altitude, azimuth;
+    QString aim;         ///< which pole the figures refer to
     QString uncertainty; ///< of the axis while it is turned, then of the total error
     BoltWays ways;
     double altitudeArrow = 0.0, azimuthArrow = 0.0; ///< degrees, 0 up, positive clockwise
@@ -40,6 +43,7 @@ struct Display {
 /// The turn of the axis that is enough, degrees.
 inline constexpr double enoughTurn = 30.0;
 
+/// @param dismissed the user put away the advice that can be
 Display displayOf(const assistant::Status &status, const assistant::Settings &settings,
-                  const QLocale &locale);
+                  const QLocale &locale, bool dismissed = false);
 } // namespace assistantwindow

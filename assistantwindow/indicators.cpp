@@ -14,6 +14,7 @@ namespace assistantwindow
 namespace
 {
 constexpr double lowest = 1.0, highest = 36000.0; // arcseconds
+constexpr int dimmed = 90;                        // alpha of a good bolt's arrow
 
 QPen roundPen(const QColor &colour, double width)
 {
@@ -62,14 +63,45 @@ void TurnRing::paintEvent(QPaintEvent *)
     painter.drawText(circle, Qt::AlignCenter, text());
 }
 
-BoltArrow::BoltArrow(QWidget *parent) : QWidget(parent), colours(&theme(false))
+void paintBolt(QPainter &painter, const QRectF &box, Way way, Way side, double degrees,
+               const QColor &colour, const Theme &theme)
+{
+    const double size = std::min(box.width(), box.height()) * 0.86;
+    painter.save();
+    painter.translate(box.center());
+    const bool isGood = way == Way::Stay, hasSide = side != Way::Unknown && side != Way::Stay;
+    if (way == Way::Unknown) {
+        painter.setPen(roundPen(theme.disabled, size * 0.07));
+        painter.drawLine(QPointF(-size * 0.2, 0), QPointF(size * 0.2, 0));
+    }
+    if (hasSide) {
+        QColor shade = colour;
+        if (isGood)
+            shade.setAlpha(dimmed);
+        painter.save();
+        painter.rotate(degrees);
+        paintArrow(painter, QPointF(0, -size / 2.0), 0.0, size, shade);
+        painter.restore();
+    }
+    if (isGood) {
+        painter.setPen(roundPen(theme.good, size * 0.12));
+        painter.drawPolyline(QPolygonF({{-size * 0.3, 0.02 * size},
+                                        {-size * 0.08, size * 0.26},
+                                        {size * 0.32, -size * 0.24}}));
+    }
+    painter.restore();
+}
+
+BoltArrow::BoltArrow(QColor Theme::*boltColour, QWidget *parent)
+    : QWidget(parent), colour(boltColour), colours(&theme(false))
 {
     setMinimumSize(40, 40);
 }
 
-void BoltArrow::show(Way newWay, double newDegrees)
+void BoltArrow::show(Way newWay, Way newSide, double newDegrees)
 {
     way = newWay;
+    side = newSide;
     degrees = newDegrees;
     update();
 }
@@ -84,20 +116,7 @@ void BoltArrow::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const double side = std::min(width(), height()) * 0.86;
-    painter.translate(width() / 2.0, height() / 2.0);
-    if (way == Way::Unknown) {
-        painter.setPen(roundPen(colours->disabled, side * 0.07));
-        painter.drawLine(QPointF(-side * 0.2, 0), QPointF(side * 0.2, 0));
-    } else if (way == Way::Stay) {
-        painter.setPen(roundPen(colours->good, side * 0.12));
-        painter.drawPolyline(QPolygonF({{-side * 0.3, 0.02 * side},
-                                        {-side * 0.08, side * 0.26},
-                                        {side * 0.32, -side * 0.24}}));
-    } else {
-        painter.rotate(degrees);
-        paintArrow(painter, QPointF(0, -side / 2.0), 0.0, side, colours->lit);
-    }
+    paintBolt(painter, QRectF(rect()), way, side, degrees, colours->*colour, *colours);
 }
 
 double plotHeight(double arcseconds)
@@ -111,10 +130,23 @@ ErrorPlot::ErrorPlot(QWidget *parent) : QWidget(parent), colours(&theme(false))
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
-void ErrorPlot::show(const std::deque<assistant::History::Point> &points, double goalArcseconds)
+std::vector<PlotRun> plotRuns(const std::deque<assistant::History::Point> &points)
+{
+    std::vector<PlotRun> runs;
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        if (i == 0 || points[i].seconds - points[i - 1].seconds > plotGap)
+            runs.push_back({i, i});
+        runs.back().last = i + 1;
+    }
+    return runs;
+}
+
+void ErrorPlot::show(const std::deque<assistant::History::Point> &points, double goalArcseconds,
+                     double now)
 {
     history = points;
     goal = goalArcseconds;
+    latest = now;
     update();
 }
 
@@ -154,18 +186,35 @@ void ErrorPlot::paintEvent(QPaintEvent *)
     paintLines(painter, area);
     if (history.empty())
         return;
-    const double newest = history.back().seconds;
-    QPolygonF line;
-    for (const auto &point : history) {
-        const double age = newest - point.seconds;
-        if (age <= plotSeconds)
-            line.append({area.right() - age / plotSeconds * area.width(),
-                         area.bottom() - plotHeight(point.total) * area.height()});
+    const double newest = std::max(latest, history.back().seconds);
+    const auto xOf = [&](double seconds) {
+        return area.right() - std::min(1.0, (newest - seconds) / plotSeconds) * area.width();
+    };
+    double dark = area.left(); // where the gap before a run begins
+    for (const PlotRun &run : plotRuns(history)) {
+        QPolygonF line;
+        for (std::size_t i = run.first; i < run.last; ++i)
+            if (newest - history[i].seconds <= plotSeconds)
+                line.append({xOf(history[i].seconds),
+                             area.bottom() - plotHeight(history[i].total) * area.height()});
+        if (line.isEmpty())
+            continue;
+        if (run.first > 0)
+            paintGap(painter, {QPointF(dark, area.top()), QPointF(line[0].x(), area.bottom())});
+        dark = line.back().x();
+        painter.setPen(roundPen(colours->lit, 2.0));
+        painter.drawPolyline(line);
+        painter.setBrush(colours->lit);
+        painter.drawEllipse(line.back(), 2.0, 2.0);
     }
-    painter.setPen(roundPen(colours->lit, 2.0));
-    painter.drawPolyline(line);
-    painter.setBrush(colours->lit);
-    painter.drawEllipse(line.back(), 3.0, 3.0);
+    if (newest - history.back().seconds > plotGap)
+        paintGap(painter, {QPointF(dark, area.top()), area.bottomRight()});
+}
+
+/// Hatched: nothing was measured.
+void ErrorPlot::paintGap(QPainter &painter, const QRectF &gap) const
+{
+    painter.fillRect(gap, QBrush(colours->border, Qt::BDiagPattern));
 }
 
 StageBars::StageBars(QWidget *parent) : QWidget(parent), colours(&theme(false))

@@ -29,12 +29,17 @@ private:
     const Theme *colours;
 };
 
-/// An arrow as large as the widget; a tick for Stay, a dash for Unknown.
+/// A bolt's arrow in `box`; a dimmed arrow with a tick for a good bolt, a dash for none.
+/// @param side where the axis must go, also of a good bolt
+void paintBolt(QPainter &painter, const QRectF &box, Way way, Way side, double degrees,
+               const QColor &colour, const Theme &theme);
+
+/// `paintBolt` as large as the widget, in the colour that the bolt has in the picture too.
 class BoltArrow : public QWidget
 {
 public:
-    explicit BoltArrow(QWidget *parent = nullptr);
-    void show(Way way, double degrees);
+    explicit BoltArrow(QColor Theme::*colour, QWidget *parent = nullptr);
+    void show(Way way, Way side, double degrees);
     void setTheme(const Theme &theme);
     QSize sizeHint() const override { return {64, 64}; }
 
@@ -42,7 +47,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    Way way = Way::Unknown;
+    QColor Theme::*colour;
+    Way way = Way::Unknown, side = Way::Unknown;
     double degrees = 0.0;
     const Theme *colours;
 };
@@ -52,12 +58,22 @@ double plotHeight(double arcseconds);
 
 inline constexpr double plotSeconds = 300.0;
 
+/// Points that belong to one line: from the first to before the last number.
+struct PlotRun {
+    std::size_t first, last;
+};
+/// Where no point came for longer than `plotGap` seconds, as during clouds, a new run begins.
+inline constexpr double plotGap = 5.0;
+std::vector<PlotRun> plotRuns(const std::deque<assistant::History::Point> &points);
+
 /// The error over the last minutes, in the logarithm.
 class ErrorPlot : public QWidget
 {
 public:
     explicit ErrorPlot(QWidget *parent = nullptr);
-    void show(const std::deque<assistant::History::Point> &points, double goalArcseconds);
+    /// @param now by the points' clock; the last point's time if it is earlier
+    void show(const std::deque<assistant::History::Point> &points, double goalArcseconds,
+              double now);
     void setTheme(const Theme &theme);
     QSize minimumSizeHint() const override { return {120, 56}; }
 
@@ -67,8 +83,10 @@ protected:
 private:
     void paintLines(QPainter &painter, const QRectF &area) const;
 
+    void paintGap(QPainter &painter, const QRectF &gap) const;
+
     std::deque<assistant::History::Point> history;
-    double goal = 20.0;
+    double goal = 20.0, latest = 0.0;
     const Theme *colours;
 };
 

@@ -2,7 +2,7 @@
 // Draws the large view so that it can be read from three metres.
 #include "assistantwindow/largepage.h"
 
-#include "assistantwindow/marks.h"
+#include "assistantwindow/indicators.h"
 #include "assistantwindow/touch.h"
 
 #include <QFontMetricsF>
@@ -17,9 +17,11 @@ namespace
 {
 constexpr double margin = 14.0;
 
-LargeRow boltOf(Way way, double degrees, const Figure &figure)
+constexpr double nameHeight = 30.0;
+
+QString mainPageText(const char *source)
 {
-    return {way, degrees, true, figure.text, wayText(way)};
+    return QCoreApplication::translate("MainPage", source);
 }
 
 QColor moodColour(AdviceMood mood, const Theme &theme)
@@ -28,16 +30,6 @@ QColor moodColour(AdviceMood mood, const Theme &theme)
            : mood == AdviceMood::Good  ? theme.good
                                        : theme.text;
 }
-
-void paintTick(QPainter &painter, const QRectF &box, const QColor &colour)
-{
-    const double side = std::min(box.width(), box.height());
-    painter.setPen(QPen(colour, side * 0.12, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    const QPointF c = box.center();
-    painter.drawPolyline(
-        QPolygonF({c + QPointF(-side * 0.32, side * 0.02), c + QPointF(-side * 0.08, side * 0.28),
-                   c + QPointF(side * 0.34, -side * 0.26)}));
-}
 } // namespace
 
 LargeContent largeContent(const Display &display)
@@ -45,19 +37,30 @@ LargeContent largeContent(const Display &display)
     LargeContent content;
     content.advice = display.advice;
     content.mood = display.mood;
+    const auto &ways = display.ways;
     if (display.stage == assistant::Stage::Axis) {
-        content.rows.push_back({Way::Unknown, 0.0, false, display.axisTurn, {}});
+        LargeRow row;
+        row.number = display.axisTurn;
+        row.name = display.stageText;
+        content.rows.push_back(row);
         content.share = display.axisShare;
     } else if (display.stage == assistant::Stage::Bolts && display.hasBolts) {
-        content.rows.push_back(
-            boltOf(display.ways.altitude, display.altitudeArrow, display.altitude));
-        content.rows.push_back(boltOf(display.ways.azimuth, display.azimuthArrow, display.azimuth));
+        content.rows.push_back({ways.altitude, ways.altitudeSide, display.altitudeArrow,
+                                &Theme::altitude, true, display.altitude.text,
+                                wayText(ways.altitude), mainPageText("Altitude")});
+        content.rows.push_back({ways.azimuth, ways.azimuthSide, display.azimuthArrow,
+                                &Theme::azimuth, true, display.azimuth.text, wayText(ways.azimuth),
+                                mainPageText("Azimuth")});
     } else if (display.stage == assistant::Stage::Bolts && display.total.arcseconds) {
-        content.rows.push_back({display.pictureArrow ? Way::Up : Way::Unknown,
+        const Way way = display.pictureArrow ? Way::Up : Way::Unknown;
+        content.rows.push_back({way,
+                                way,
                                 display.pictureArrow.value_or(0.0),
+                                &Theme::lit,
                                 true,
                                 display.total.text,
-                                {}});
+                                {},
+                                mainPageText("Total error")});
     }
     return content;
 }
@@ -129,43 +132,45 @@ void LargePage::paintAdvice(QPainter &painter, const QRectF &area, int most) con
     painter.drawText(area, flags, content.advice);
 }
 
+/// The arrow with its word below.
+void LargePage::paintArrowOf(QPainter &painter, const LargeRow &row, const QRectF &box) const
+{
+    const double wordHeight = row.word.isEmpty() ? 0.0 : 34.0;
+    const QColor colour = colours->*row.colour;
+    paintBolt(painter, box.adjusted(0, 0, 0, -wordHeight), row.way, row.side, row.degrees, colour,
+              *colours);
+    QFont word = font();
+    word.setBold(true);
+    word.setPixelSize(std::min(28, fittedPixelSize({row.word}, word, box.width(), 28.0)));
+    painter.setFont(word);
+    painter.setPen(row.way == Way::Stay ? colours->good : colour);
+    painter.drawText(QRectF(box.left(), box.bottom() - wordHeight, box.width(), wordHeight),
+                     Qt::AlignCenter, row.word);
+}
+
 void LargePage::paintRow(QPainter &painter, const LargeRow &row, const QRectF &area,
                          int pixelSize) const
 {
     double left = area.left();
     if (row.hasArrow) {
         const double side = std::min(area.height(), area.width() * 0.25);
-        const bool hasWord = !row.word.isEmpty();
-        const QRectF box(area.left(), area.top(), side, area.height() - (hasWord ? 34.0 : 0.0));
-        const double length = std::min(box.width(), box.height()) * 0.92;
-        const QColor colour = row.way == Way::Stay ? colours->good : colours->lit;
-        if (row.way == Way::Stay) {
-            paintTick(painter, box, colour);
-        } else if (row.way != Way::Unknown) {
-            painter.save();
-            painter.translate(box.center());
-            painter.rotate(row.degrees);
-            paintArrow(painter, QPointF(0, -length / 2.0), 0.0, length, colour);
-            painter.restore();
-        }
-        if (hasWord) {
-            QFont word = font();
-            word.setBold(true);
-            word.setPixelSize(std::min(28, fittedPixelSize({row.word}, word, side, 28.0)));
-            painter.setFont(word);
-            painter.setPen(colour);
-            painter.drawText(QRectF(area.left(), box.bottom(), side, 34.0), Qt::AlignCenter,
-                             row.word);
-        }
+        paintArrowOf(painter, row, QRectF(area.left(), area.top(), side, area.height()));
         left += side + margin;
     }
+    const Qt::Alignment aside = row.hasArrow ? Qt::AlignRight : Qt::AlignHCenter;
+    QFont name = font();
+    name.setPixelSize(int(nameHeight * 0.85));
+    painter.setFont(name);
+    painter.setPen(colours->*row.colour);
+    painter.drawText(QRectF(left, area.top(), area.right() - left, nameHeight),
+                     int(aside) | Qt::AlignTop, row.name);
     QFont digits = font();
     digits.setPixelSize(pixelSize);
     painter.setFont(digits);
     painter.setPen(row.way == Way::Stay ? colours->good : colours->text);
-    const QRectF box(left, area.top(), area.right() - left, area.height());
-    painter.drawText(box, (row.hasArrow ? Qt::AlignRight : Qt::AlignHCenter) | Qt::AlignVCenter,
-                     row.number);
+    painter.drawText(
+        QRectF(left, area.top() + nameHeight, area.right() - left, area.height() - nameHeight),
+        int(aside) | Qt::AlignVCenter, row.number);
 }
 
 void LargePage::paintEvent(QPaintEvent *)
@@ -191,8 +196,8 @@ void LargePage::paintEvent(QPaintEvent *)
     const double right = inside.right() - 60.0;
     const double arrow =
         hasArrow ? std::min(rowHeight, (right - inside.left()) * 0.25) + margin : 0;
-    const int size =
-        fittedPixelSize(numbers, font(), right - inside.left() - arrow, rowHeight * 0.72);
+    const int size = fittedPixelSize(numbers, font(), right - inside.left() - arrow,
+                                     (rowHeight - nameHeight) * 0.72);
     for (std::size_t i = 0; i < content.rows.size(); ++i)
         paintRow(painter, content.rows[i],
                  QRectF(inside.left(), inside.top() + double(i) * rowHeight, right - inside.left(),

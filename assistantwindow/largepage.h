@@ -14,10 +14,11 @@ namespace assistantwindow
 {
 /// What the large view shows.
 struct LargeRow {
-    Way way = Way::Unknown;
-    double degrees = 0.0; ///< of the arrow
+    Way way = Way::Unknown, side = Way::Unknown;
+    double degrees = 0.0;                  ///< of the arrow
+    QColor Theme::*colour = &Theme::quiet; ///< of arrow and name
     bool hasArrow = false;
-    QString number, word;
+    QString number, word, name;
 };
 struct LargeContent {
     std::vector<LargeRow> rows; ///< none: the advice fills the screen
@@ -50,6 +51,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
+    void paintArrowOf(QPainter &painter, const LargeRow &row, const QRectF &box) const;
     void paintRow(QPainter &painter, const LargeRow &row, const QRectF &area, int pixelSize) const;
     void paintAdvice(QPainter &painter, const QRectF &area, int most) const;
 

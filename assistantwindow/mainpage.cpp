@@ -78,14 +78,15 @@ void MainPage::show(const Display &display, const Snapshot &snapshot, bool isCon
     setLook(*connectButton, "main", !isConnected);
     startAgainButton->setEnabled(isConnected);
     panels->setCurrentIndex(int(display.stage));
-    picture->show(snapshot);
-    picture->setCaption(display.hint);
+    picture->show(snapshot, boltLegs(snapshot.status, settings.site));
+    picture->setCaption(display.hint, display.hintReason, display.hintCanBeDismissed);
+    setTextOnce(*aim, display.aim);
     setTextOnce(*stars, display.stars);
     setTextOnce(*focus, display.focus);
     showFigures(display);
     boltRows->setVisible(settings.site.has_value());
     noSiteBox->setVisible(!settings.site.has_value());
-    plot->show(history.points(), settings.goalArcseconds);
+    plot->show(history.points(), settings.goalArcseconds, snapshot.status.steadySeconds);
     const bool hasReport = !history.points().empty();
     reportButton->setEnabled(hasReport);
 }
@@ -101,8 +102,8 @@ void MainPage::showFigures(const Display &display)
     setTextOnce(*azimuthWay, wayText(display.ways.azimuth));
     setLook(*altitudeWay, "good", display.ways.altitude == Way::Stay);
     setLook(*azimuthWay, "good", display.ways.azimuth == Way::Stay);
-    altitudeArrow->show(display.ways.altitude, display.altitudeArrow);
-    azimuthArrow->show(display.ways.azimuth, display.azimuthArrow);
+    altitudeArrow->show(display.ways.altitude, display.ways.altitudeSide, display.altitudeArrow);
+    azimuthArrow->show(display.ways.azimuth, display.ways.azimuthSide, display.azimuthArrow);
     setTextOnce(*uncertainty, display.uncertainty);
     QHBoxLayout *const host = uncertaintyHosts[display.stage == assistant::Stage::Axis ? 0 : 1];
     if (host->indexOf(uncertainty) < 0)
@@ -130,7 +131,7 @@ void MainPage::resizeEvent(QResizeEvent *)
     altitudeArrow->setFixedSize(arrow, arrow);
     azimuthArrow->setFixedSize(arrow, arrow);
     for (QLabel *const label : {advice, total, altitude, azimuth, altitudeWay, azimuthWay, stars,
-                                focus, uncertainty, altitudeSigma, azimuthSigma})
+                                focus, uncertainty, altitudeSigma, azimuthSigma, aim})
         setLook(*label, "roomy", isRoomy(size()));
 }
 
@@ -155,9 +156,11 @@ void MainPage::showExposure(const Snapshot &snapshot, Range range)
 {
     exposureRange = range;
     const double now = snapshot.status.exposureMicroseconds;
+    const bool isAwaited = asked.isAwaited(now, snapshot.status.automaticExposure, seconds());
+    if (isAwaited || exposure->isSliderDown())
+        return;
     const QSignalBlocker quiet(exposure), quietBox(automaticExposure);
-    if (!exposure->isSliderDown())
-        exposure->setValue(sliderOf(now, range));
+    exposure->setValue(sliderOf(now, range));
     setTextOnce(*exposureValue, exposureText(now, locale()));
     automaticExposure->setChecked(snapshot.status.automaticExposure);
 }

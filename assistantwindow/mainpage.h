@@ -2,6 +2,7 @@
 // The page with the picture, the advice and the figures of the stage.
 #pragma once
 
+#include "assistantwindow/askedexposure.h"
 #include "assistantwindow/display.h"
 #include "assistantwindow/indicators.h"
 #include "assistantwindow/instrument.h"
@@ -9,6 +10,7 @@
 #include "assistantwindow/touch.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QWidget>
 
 class QCheckBox;
@@ -44,6 +46,7 @@ public:
     QCheckBox *automaticExposure;
     QComboBox *camera;
     std::function<void(double)> exposureMoved; ///< microseconds
+    std::function<void(bool)> automaticChosen;
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
@@ -55,14 +58,22 @@ private:
     QWidget *skyPanel();
     QWidget *axisPanel();
     QWidget *boltPanel();
-    QWidget *boltRow(QLabel *&name, BoltArrow *&arrow, QLabel *&way, QLabel *figure,
-                     QLabel *&sigma);
+    struct BoltRow {
+        const char *bolt; ///< that the style sheet knows
+        QColor Theme::*colour;
+        QLabel *&name, *&way, *&sigma;
+        BoltArrow *&arrow;
+        QLabel *figure;
+    };
+    QWidget *boltRow(const BoltRow &row);
+    void connectExposure();
     void showFigures(const Display &display);
+    double seconds() const { return double(clock.elapsed()) / 1000.0; }
 
     QLabel *stage, *advice, *cameraName, *stars, *focus, *skyHint, *axisHint;
     QLabel *total, *altitude, *azimuth, *uncertainty;
     QLabel *totalName, *altitudeName, *azimuthName, *altitudeWay, *azimuthWay;
-    QLabel *altitudeSigma, *azimuthSigma, *noSite, *exposureName, *exposureValue;
+    QLabel *altitudeSigma, *azimuthSigma, *noSite, *exposureName, *exposureValue, *aim;
     BoltArrow *altitudeArrow, *azimuthArrow;
     QWidget *boltRows, *noSiteBox;
     QVBoxLayout *siteHost;
@@ -73,6 +84,8 @@ private:
     QSlider *exposure;
     QStackedWidget *panels;
     Range exposureRange;
+    AskedExposure asked;
+    QElapsedTimer clock; ///< for `asked`
 };
 
 /// How wide the panel beside the picture is on a page of this size, pixels.

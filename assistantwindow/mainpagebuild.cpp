@@ -122,10 +122,27 @@ void MainPage::buildExposure(QVBoxLayout &column)
     row->addWidget(exposureValue);
     row->addWidget(automaticExposure);
     column.addLayout(row);
+    connectExposure();
+}
+
+void MainPage::connectExposure()
+{
+    clock.start();
     connect(exposure, &QSlider::valueChanged, this, [this](int position) {
-        exposureValue->setText(exposureText(exposureOf(position, exposureRange), locale()));
+        const double microseconds = exposureOf(position, exposureRange);
+        asked.ask(microseconds, seconds());
+        exposureValue->setText(exposureText(microseconds, locale()));
+        const QSignalBlocker quiet(automaticExposure);
+        automaticExposure->setChecked(false);
         if (exposureMoved)
-            exposureMoved(exposureOf(position, exposureRange));
+            exposureMoved(microseconds);
+    });
+    connect(automaticExposure, &QCheckBox::toggled, this, [this](bool isOn) {
+        asked.ask(isOn ? std::optional<double>()
+                       : std::optional<double>(exposureOf(exposure->value(), exposureRange)),
+                  seconds());
+        if (automaticChosen)
+            automaticChosen(isOn);
     });
 }
 
@@ -175,26 +192,28 @@ QWidget *MainPage::axisPanel()
     return panel;
 }
 
-QWidget *MainPage::boltRow(QLabel *&name, BoltArrow *&arrow, QLabel *&way, QLabel *figure,
-                           QLabel *&sigma)
+QWidget *MainPage::boltRow(const BoltRow &row)
 {
-    auto *const row = new QWidget;
-    auto *const grid = new QGridLayout(row);
+    auto *const box = new QWidget;
+    auto *const grid = new QGridLayout(box);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(10);
     grid->setVerticalSpacing(0);
-    arrow = new BoltArrow;
-    arrow->setFixedSize(60, 60);
-    name = label("", "caption");
-    way = label("", "way");
-    sigma = label("", "quiet");
-    grid->addWidget(arrow, 0, 0, 2, 1);
-    grid->addWidget(name, 0, 1);
-    grid->addWidget(way, 1, 1);
-    grid->addWidget(figure, 0, 2, Qt::AlignRight | Qt::AlignBottom);
-    grid->addWidget(sigma, 1, 2, Qt::AlignRight | Qt::AlignTop);
+    row.arrow = new BoltArrow(row.colour);
+    row.arrow->setFixedSize(60, 60);
+    row.name = label("", "caption");
+    row.way = label("", "way");
+    row.sigma = label("", "quiet");
+    // As in the picture.
+    for (QLabel *const each : {row.name, row.way})
+        each->setProperty("bolt", QLatin1String(row.bolt));
+    grid->addWidget(row.arrow, 0, 0, 2, 1);
+    grid->addWidget(row.name, 0, 1);
+    grid->addWidget(row.way, 1, 1);
+    grid->addWidget(row.figure, 0, 2, Qt::AlignRight | Qt::AlignBottom);
+    grid->addWidget(row.sigma, 1, 2, Qt::AlignRight | Qt::AlignTop);
     grid->setColumnStretch(1, 1);
-    return row;
+    return box;
 }
 
 QWidget *MainPage::boltPanel()
@@ -216,8 +235,10 @@ QWidget *MainPage::boltPanel()
     auto *const rows = new QVBoxLayout(boltRows);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(6);
-    rows->addWidget(boltRow(altitudeName, altitudeArrow, altitudeWay, altitude, altitudeSigma));
-    rows->addWidget(boltRow(azimuthName, azimuthArrow, azimuthWay, azimuth, azimuthSigma));
+    rows->addWidget(boltRow({"altitude", &Theme::altitude, altitudeName, altitudeWay, altitudeSigma,
+                             altitudeArrow, altitude}));
+    rows->addWidget(boltRow({"azimuth", &Theme::azimuth, azimuthName, azimuthWay, azimuthSigma,
+                             azimuthArrow, azimuth}));
     column->addWidget(boltRows);
     noSiteBox = new QWidget;
     auto *const box = new QVBoxLayout(noSiteBox);
@@ -227,6 +248,8 @@ QWidget *MainPage::boltPanel()
     box->addWidget(noSite);
     box->addWidget(siteButton);
     column->addWidget(noSiteBox);
+    aim = wrapped("label_aim", "aim");
+    column->addWidget(aim);
     plot = new ErrorPlot;
     column->addWidget(plot, 1);
     return panel;
@@ -256,6 +279,7 @@ void MainPage::retranslate()
     connectButton->setToolTip(QStringLiteral("F2"));
     startAgainButton->setToolTip(QStringLiteral("F5"));
     exposure->setAccessibleName(tr("Exposure"));
+    picture->retranslate();
     picture->setAccessibleName(tr("Live picture; a tap opens the large view"));
     camera->setAccessibleName(tr("Camera"));
 }

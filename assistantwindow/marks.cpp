@@ -4,6 +4,8 @@
 
 #include "assistantwindow/starlabel.h"
 
+#include <QCoreApplication>
+#include <QLineF>
 #include <QPainter>
 #include <QPainterPath>
 #include <cmath>
@@ -150,7 +152,8 @@ std::vector<QRectF> paintRings(const Canvas &c, const QPointF &pole)
         double arcseconds;
         const char *text;
     };
-    constexpr Ring rings[] = {{600.0, "10′"}, {300.0, "5′"}, {60.0, "1′"}, {20.0, "20″"}};
+    constexpr Ring rings[] = {
+        {600.0, "10′"}, {300.0, "5′"}, {60.0, "1′"}, {20.0, "20″"}, {5.0, "5″"}};
     std::vector<QRectF> taken;
     c.painter.setBrush(Qt::NoBrush);
     c.painter.setFont(nameFont(c.painter));
@@ -209,6 +212,69 @@ void paintLine(const Canvas &c, const QPointF &pole, const QPointF &axis)
     paintArrow(c.painter, tip, degrees, 14.0, c.theme.axis);
 }
 
+/// Where the name of a leg may be: beside a leg, on the side away from `inside`; beyond the tip of
+/// an axis, which is short.
+std::vector<QRectF> besideLeg(const QLineF &leg, bool isAxis, const QPointF &inside,
+                              const QSizeF &size)
+{
+    const QPointF unit = (leg.p2() - leg.p1()) / leg.length();
+    QPointF away(-unit.y(), unit.x());
+    if (QPointF::dotProduct(away, inside - leg.center()) > 0.0)
+        away = -away;
+    const auto boxAt = [&size](const QPointF &from, const QPointF &along) {
+        const QPointF centre = from + QPointF(along.x() * (size.width() / 2.0 + 6.0),
+                                              along.y() * (size.height() / 2.0 + 5.0));
+        return QRectF(centre - QPointF(size.width(), size.height()) / 2.0, size);
+    };
+    const QRectF beyond = boxAt(leg.p2(), unit), beside = boxAt(leg.center(), away);
+    const QRectF inner = boxAt(leg.center(), -away);
+    if (isAxis)
+        return {beyond, beside, inner};
+    return {beside, beyond, inner};
+}
+
+void paintLeg(const Canvas &c, const QLineF &leg, const QColor &colour)
+{
+    const QPointF unit = (leg.p2() - leg.p1()) / leg.length();
+    c.painter.setPen(QPen(colour, 2.0, Qt::DashLine));
+    c.painter.drawLine(leg.p1(), leg.p2() - unit * 10.0);
+    paintArrow(c.painter, leg.p2(), std::atan2(unit.x(), -unit.y()) * 180.0 / pi, 12.0, colour);
+}
+
+/// Which bolt moves the axis which way: the names and colours are those beside the figures. Returns
+/// the boxes of the names.
+std::vector<QRectF> paintLegs(const Canvas &c, const BoltLegs &legs)
+{
+    const QPointF axis = c.view.place(legs.axis), corner = c.view.place(legs.corner),
+                  pole = c.view.place(legs.pole);
+    const struct {
+        QLineF whole;
+        QString name;
+        QColor colour;
+    } bolts[] = {
+        {{axis, corner}, QCoreApplication::translate("MainPage", "Altitude"), c.theme.altitude},
+        {{corner, pole}, QCoreApplication::translate("MainPage", "Azimuth"), c.theme.azimuth}};
+    c.painter.setFont(nameFont(c.painter));
+    const QFontMetricsF metrics(c.painter.font());
+    std::vector<std::vector<QRectF>> boxes;
+    for (const auto &bolt : bolts) {
+        const QLineF leg = shownLeg(bolt.whole);
+        boxes.emplace_back();
+        if (leg.isNull())
+            continue;
+        paintLeg(c, leg, bolt.colour);
+        boxes.back() = besideLeg(leg, leg != bolt.whole, (axis + corner + pole) / 3.0,
+                                 {metrics.horizontalAdvance(bolt.name) + 4.0, metrics.height()});
+    }
+    std::vector<QRectF> taken;
+    for (const PlacedLabel &name : placedLabels(boxes, {}, c.bounds, 2)) {
+        c.painter.setPen(bolts[name.label].colour);
+        c.painter.drawText(name.box, Qt::AlignCenter, bolts[name.label].name);
+        taken.push_back(name.box);
+    }
+    return taken;
+}
+
 /// Towards what is outside: the pole, or the direction that the advice tells.
 void paintOutside(const Canvas &c)
 {
@@ -246,8 +312,9 @@ void paintArrow(QPainter &painter, const QPointF &tip, double degrees, double le
     painter.restore();
 }
 
-void paintMarks(QPainter &painter, const assistant::Status &status, const View &view,
-                const QRectF &bounds, const Theme &theme)
+void paintMarks(QPainter &painter, const assistant::Status &status,
+                const std::optional<BoltLegs> &legs, const View &view, const QRectF &bounds,
+                const Theme &theme)
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
@@ -265,6 +332,10 @@ void paintMarks(QPainter &painter, const assistant::Status &status, const View &
         }
         if (status.axis.place)
             taken.emplace_back(view.place(*status.axis.place) - QPointF(12, 12), QSizeF(24, 24));
+        if (legs) {
+            const auto names = paintLegs(canvas, *legs);
+            taken.insert(taken.end(), names.begin(), names.end());
+        }
         paintStars(canvas, taken);
         if (status.axis.place)
             paintLine(canvas, at, view.place(*status.axis.place));

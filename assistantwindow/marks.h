@@ -3,6 +3,7 @@
 #pragma once
 
 #include "assistant/status.h"
+#include "assistantwindow/boltlegs.h"
 #include "assistantwindow/theme.h"
 #include "assistantwindow/view.h"
 
@@ -10,9 +11,11 @@ class QPainter;
 
 namespace assistantwindow
 {
+/// @param legs the bolts' ways, where they are known
 /// @param bounds of the widget; nothing is drawn outside
-void paintMarks(QPainter &painter, const assistant::Status &status, const View &view,
-                const QRectF &bounds, const Theme &theme);
+void paintMarks(QPainter &painter, const assistant::Status &status,
+                const std::optional<BoltLegs> &legs, const View &view, const QRectF &bounds,
+                const Theme &theme);
 
 /// A quiet drawing where there is no picture.
 void paintNoPicture(QPainter &painter, const QRectF &bounds, const Theme &theme);

@@ -2,9 +2,12 @@
 // Writes and draws the report.
 #include "assistantwindow/report.h"
 
+#include "assistantwindow/aimtext.h"
+
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QPainter>
+#include <cmath>
 
 namespace assistantwindow
 {
@@ -29,12 +32,43 @@ QString perHour(double arcseconds, const QLocale &locale)
     return size == dash() ? size : text(QT_TRANSLATE_NOOP("Report", "%1 an hour")).arg(size);
 }
 
+/// Both rotations, "15.7″, 31.5″ an hour".
+QString rotationText(double total, const QLocale &locale)
+{
+    const QString level = angleText(assistant::driftOf(total).rotation, locale);
+    const double high = assistant::driftOf(total, assistant::highDeclination).rotation;
+    if (level == dash())
+        return level;
+    const QString both = level + QStringLiteral(", ") + angleText(high, locale);
+    return text(QT_TRANSLATE_NOOP("Report", "%1 an hour")).arg(both);
+}
+
+QString siteText(const astrometry::Site &site, const QLocale &locale)
+{
+    const auto side = [&locale](double degrees, const char *positive, const char *negative) {
+        return locale.toString(std::abs(degrees), 'f', 3) + QString::fromUtf8("° ") +
+               QLatin1String(degrees < 0.0 ? negative : positive);
+    };
+    return side(site.latitude, "N", "S") + QStringLiteral(", ") + side(site.longitude, "E", "W");
+}
 } // namespace
+
+QString momentText(double utcSeconds, const QLocale &locale)
+{
+    const QDateTime moment = QDateTime::fromSecsSinceEpoch(std::llround(utcSeconds));
+    const int minutes = moment.offsetFromUtc() / 60;
+    const QLatin1Char zero('0');
+    return locale.toString(moment, QLocale::ShortFormat) +
+           QStringLiteral(" (UTC%1%2:%3)")
+               .arg(minutes < 0 ? QStringLiteral("−") : QStringLiteral("+"))
+               .arg(std::abs(minutes) / 60)
+               .arg(std::abs(minutes) % 60, 2, 10, zero);
+}
 
 std::vector<ReportRow> reportRows(const assistant::Report &report, const QLocale &locale)
 {
-    const assistant::Drift drift = assistant::driftOf(report.after.total.arcseconds);
-    return {
+    const double total = report.after.total.arcseconds;
+    std::vector<ReportRow> rows = {
         {text(QT_TRANSLATE_NOOP("Report", "Error before")),
          measuredText(report.before.total, locale)},
         {text(QT_TRANSLATE_NOOP("Report", "Error now")), measuredText(report.after.total, locale)},
@@ -42,12 +76,18 @@ std::vector<ReportRow> reportRows(const assistant::Report &report, const QLocale
          measuredText(report.after.altitude, locale)},
         {text(QT_TRANSLATE_NOOP("Report", "in azimuth")),
          measuredText(report.after.azimuth, locale)},
+        {text(QT_TRANSLATE_NOOP("Report", "Aimed at")), aimText(report.aim, locale)},
+        {text(QT_TRANSLATE_NOOP("Report", "Drift in declination, anywhere, at most")),
+         perHour(assistant::driftOf(total).declination, locale)},
+        {text(QT_TRANSLATE_NOOP(
+             "Report", "Angle of field rotation at most, at the equator and at declination 60°")),
+         rotationText(total, locale)},
         {text(QT_TRANSLATE_NOOP("Report", "Time taken")), durationText(report.seconds)},
-        {text(QT_TRANSLATE_NOOP("Report", "Drift in declination, at the equator, at most")),
-         perHour(drift.declination, locale)},
-        {text(QT_TRANSLATE_NOOP("Report", "Field rotation, at the equator, at most")),
-         perHour(drift.rotation, locale)},
+        {text(QT_TRANSLATE_NOOP("Report", "Date and site")), momentText(report.utcSeconds, locale)},
     };
+    if (report.site)
+        rows.back().value += QStringLiteral("; ") + siteText(*report.site, locale);
+    return rows;
 }
 
 void paintReport(QPainter &painter, const QRectF &area, const assistant::Report &report,
@@ -59,7 +99,7 @@ void paintReport(QPainter &painter, const QRectF &area, const assistant::Report 
     double top = area.top() + rowHeight * 0.2;
     for (const ReportRow &row : rows) {
         const bool isMain = top < area.top() + 2.0 * rowHeight;
-        font.setPixelSize(int(rowHeight * (isMain ? 0.56 : 0.4)));
+        font.setPixelSize(int(rowHeight * (isMain ? 0.56 : 0.46)));
         font.setBold(isMain);
         painter.setFont(font);
         const QRectF box(area.left() + 16.0, top, area.width() - 32.0, rowHeight);
@@ -67,7 +107,7 @@ void paintReport(QPainter &painter, const QRectF &area, const assistant::Report 
         painter.setPen(isMain ? theme.lit : theme.text);
         painter.drawText(box, Qt::AlignRight | Qt::AlignVCenter, row.value);
         font.setBold(false);
-        font.setPixelSize(int(rowHeight * 0.38));
+        font.setPixelSize(int(rowHeight * 0.42));
         painter.setFont(font);
         painter.setPen(theme.quiet);
         painter.drawText(box.adjusted(0, 0, -valueWidth, 0),
@@ -92,12 +132,6 @@ QImage reportPicture(const assistant::Report &report, const QLocale &locale)
     painter.setPen(colours.text);
     painter.drawText(QRectF(40, 24, 920, 50), Qt::AlignLeft | Qt::AlignVCenter,
                      text(QT_TRANSLATE_NOOP("Report", "Polar alignment")));
-    title.setPixelSize(20);
-    title.setBold(false);
-    painter.setFont(title);
-    painter.setPen(colours.quiet);
-    painter.drawText(QRectF(40, 24, 920, 50), Qt::AlignRight | Qt::AlignVCenter,
-                     locale.toString(QDateTime::currentDateTime(), QLocale::ShortFormat));
     paintReport(painter, QRectF(24, 90, 952, 530), report, locale, colours);
     return picture;
 }

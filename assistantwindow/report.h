@@ -16,7 +16,11 @@ struct ReportRow {
     QString name, value;
 };
 
-/// Error before and after, time, and what remains; a dash for altitude and azimuth without a site.
+/// "22/11/2026 14:40 (UTC+8:00)": local time.
+QString momentText(double utcSeconds, const QLocale &locale);
+
+/// Error before and after, the pole, what remains, time, date and site; a dash for altitude and
+/// azimuth without a site.
 std::vector<ReportRow> reportRows(const assistant::Report &report, const QLocale &locale);
 
 /// Draws title and rows into `area`.

@@ -79,7 +79,7 @@ Snapshot SessionInstrument::latest()
 void SessionInstrument::remember(const assistant::Status &status)
 {
     if (status.frame > 0 && !beganAt)
-        beganAt = status.utcSeconds;
+        beganAt = status.steadySeconds;
     if (!status.error)
         return;
     last = status;
@@ -92,10 +92,11 @@ std::optional<assistant::Report> SessionInstrument::report()
     assistant::Report made;
     made.utcSeconds = last->utcSeconds;
     made.site = inUse.site;
-    made.target = inUse.target;
+    made.aim =
+        assistant::aimOf(inUse, last->sky ? last->sky->hemisphere : recognition::Hemisphere::North);
     made.before = last->firstError ? *last->firstError : *last->error;
     made.after = *last->error;
-    made.seconds = std::max(0.0, last->utcSeconds - beganAt.value_or(last->utcSeconds));
+    made.seconds = std::max(0.0, last->steadySeconds - beganAt.value_or(last->steadySeconds));
     return made;
 }
 

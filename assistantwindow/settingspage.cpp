@@ -288,9 +288,9 @@ void SettingsPage::retranslate()
     refractedPole->setText(tr("Refracted pole"));
     refractedWhy->setText(
         tr("Where the air shows the pole: best for long exposures near the pole."));
-    pressureName->setText(tr("Air pressure, hPa"));
+    pressureName->setText(tr("Air pressure, hPa (0: no refraction)"));
     temperatureName->setText(tr("Temperature, °C"));
-    pressure->setName(pressureName->text());
+    pressure->setName(tr("Air pressure, hPa"));
     temperature->setName(temperatureName->text());
     red->setText(tr("Red light only"));
     redWhy->setText(tr("Keeps eyes used to the dark: the window emits no green and no blue."));

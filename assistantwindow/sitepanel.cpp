@@ -2,25 +2,18 @@
 // Builds the fields of the site, and reads them.
 #include "assistantwindow/sitepanel.h"
 
+#include "assistantwindow/siteentry.h"
+
 #include <QCoreApplication>
 #include <QGridLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QSignalBlocker>
 
 namespace assistantwindow
 {
 namespace
 {
-void setUp(QDoubleSpinBox &field, double most)
-{
-    field.setDecimals(4);
-    field.setRange(-most - 1.0, most);
-    field.setSpecialValueText(QStringLiteral("—"));
-    field.setSuffix(QStringLiteral("°"));
-    field.setValue(field.minimum());
-    field.setKeyboardTracking(false);
-}
-
 bool isMissing(const QDoubleSpinBox &field)
 {
     return field.value() < field.minimum() + 1.0;
@@ -34,15 +27,15 @@ QString text(const char *source)
 
 SitePanel::SitePanel(QWidget *parent)
     : QWidget(parent),
-      latitude(new BigSpin(QStringLiteral("doubleSpinBox_latitude"), {1.0, 0.1})),
-      longitude(new BigSpin(QStringLiteral("doubleSpinBox_longitude"), {1.0, 0.1})),
+      latitude(new BigSpin(QStringLiteral("doubleSpinBox_latitude"), {1.0, 0.1},
+                           new SiteField({'N', 'S'}, 90.0))),
+      longitude(new BigSpin(QStringLiteral("doubleSpinBox_longitude"), {1.0, 0.1},
+                            new SiteField({'E', 'W'}, 180.0))),
       latitudeName(new QLabel),
       longitudeName(new QLabel),
       use(new QLabel)
 {
     setObjectName(QStringLiteral("sitePanel"));
-    setUp(latitude->field(), 90.0);
-    setUp(longitude->field(), 180.0);
     use->setObjectName(QStringLiteral("label_siteUse"));
     use->setWordWrap(true);
     use->setProperty("quiet", true);
@@ -59,6 +52,14 @@ SitePanel::SitePanel(QWidget *parent)
             if (changed)
                 changed(site());
         });
+    const auto onReturn = [this](QDoubleSpinBox &field, const std::function<void()> &act) {
+        connect(field.findChild<QLineEdit *>(), &QLineEdit::returnPressed, this, act);
+    };
+    onReturn(latitude->field(), [this] { longitude->field().setFocus(); });
+    onReturn(longitude->field(), [this] {
+        if (entered)
+            entered();
+    });
     retranslate();
 }
 
@@ -84,10 +85,23 @@ std::optional<astrometry::Site> SitePanel::site() const
     return astrometry::Site{latitude->field().value(), longitude->field().value()};
 }
 
+void SitePanel::focusLatitude()
+{
+    latitude->field().setFocus();
+}
+
+void SitePanel::commit()
+{
+    latitude->field().interpretText();
+    longitude->field().interpretText();
+}
+
 void SitePanel::retranslate()
 {
-    latitudeName->setText(text(QT_TRANSLATE_NOOP("SitePanel", "Latitude, north positive")));
-    longitudeName->setText(text(QT_TRANSLATE_NOOP("SitePanel", "Longitude, east positive")));
+    latitudeName->setText(
+        text(QT_TRANSLATE_NOOP("SitePanel", "Latitude: north positive, or N, S")));
+    longitudeName->setText(
+        text(QT_TRANSLATE_NOOP("SitePanel", "Longitude: east positive, or E, W")));
     latitude->setName(latitudeName->text());
     longitude->setName(longitudeName->text());
     use->setText(text(QT_TRANSLATE_NOOP(

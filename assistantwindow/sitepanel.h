@@ -22,7 +22,11 @@ public:
     void suggest(const assistant::KnownSite &site);
     void retranslate();
     std::optional<astrometry::Site> site() const;
+    void focusLatitude();
+    /// What is typed and not yet entered counts.
+    void commit();
 
+    std::function<void()> entered; ///< Return in the last field
     std::function<void(const std::optional<astrometry::Site> &)> changed;
 
 private:

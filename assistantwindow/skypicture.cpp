@@ -3,21 +3,48 @@
 #include "assistantwindow/skypicture.h"
 
 #include "assistantwindow/marks.h"
+#include "assistantwindow/overview.h"
 #include "assistantwindow/starlabel.h"
+#include "assistantwindow/touch.h"
 
+#include <QCoreApplication>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPushButton>
+#include <algorithm>
 
 namespace assistantwindow
 {
-SkyPicture::SkyPicture(QWidget *parent) : QLabel(parent), colours(&theme(false))
+namespace
+{
+constexpr int buttonSize = 48; // pixels
+constexpr int textFlags = Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap;
+
+QFont sized(QFont font, int pixels)
+{
+    font.setPixelSize(pixels);
+    return font;
+}
+} // namespace
+
+SkyPicture::SkyPicture(QWidget *parent)
+    : QLabel(parent), dismissButton(new QPushButton(this)), colours(&theme(false))
 {
     setObjectName(QStringLiteral("label_picture"));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    dismissButton->setObjectName(QStringLiteral("pushButton_dismissHint"));
+    dismissButton->setFixedSize(buttonSize, buttonSize);
+    dismissButton->hide();
+    connect(dismissButton, &QPushButton::clicked, this, [this] {
+        if (captionDismissed)
+            captionDismissed();
+    });
+    retranslate();
 }
 
-void SkyPicture::show(const Snapshot &snapshot)
+void SkyPicture::show(const Snapshot &snapshot, const std::optional<BoltLegs> &legs)
 {
+    ways = legs;
     if (snapshot.status.frame != brightFrame || bright.isNull() || snapshot.picture.isNull()) {
         bright = brightened(snapshot.picture);
         brightFrame = snapshot.status.frame;
@@ -31,17 +58,40 @@ void SkyPicture::show(const Snapshot &snapshot)
     update();
 }
 
-void SkyPicture::setCaption(const QString &text)
+void SkyPicture::setCaption(const QString &text, const QString &reason, bool canBeDismissed)
 {
-    if (caption == text)
+    if (dismissButton->isHidden() == canBeDismissed)
+        dismissButton->setVisible(canBeDismissed);
+    if (caption == text && captionReason == reason)
         return;
     caption = text;
+    captionReason = reason;
+    placeButton();
     update();
+}
+
+void SkyPicture::retranslate()
+{
+    const QString name =
+        QCoreApplication::translate("SkyPicture", "Do not show this again until the next start");
+    dismissButton->setAccessibleName(name);
+    dismissButton->setToolTip(name);
+}
+
+void SkyPicture::resizeEvent(QResizeEvent *)
+{
+    placeButton();
+}
+
+void SkyPicture::placeButton()
+{
+    dismissButton->move(width() - dismissButton->width() - 2, captionArea().top() + 2);
 }
 
 void SkyPicture::setTheme(const Theme &theme)
 {
     colours = &theme;
+    dismissButton->setIcon(glyphIcon(Glyph::Close, theme));
     update();
 }
 
@@ -78,27 +128,62 @@ void SkyPicture::paintEvent(QPaintEvent *)
                             visible.size() / view.scale);
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
         painter.drawImage(visible, bright, source);
-        paintMarks(painter, shown.status, view, QRectF(rect()), *colours);
+        paintMarks(painter, shown.status, ways, view, QRectF(rect()), *colours);
+        if (isEnlarged(view))
+            paintContext(painter, view);
     } else {
         paintNoPicture(painter, QRectF(rect()), *colours);
     }
     paintCaption(painter);
 }
 
+bool SkyPicture::isEnlarged(const View &view) const
+{
+    return shown.status.pole && shown.status.sky &&
+           view.scale > wholeView(shown.picture.size(), size()).scale;
+}
+
+void SkyPicture::paintContext(QPainter &painter, const View &view) const
+{
+    const auto &place = shown.status.axis.place;
+    const QPointF axis = place ? view.place(*place) : QPointF(rect().center());
+    paintOverview(painter, bright, shown.status,
+                  overviewBox(QSizeF(bright.size()), QRectF(rect()), axis), *colours);
+    const double pixelScale = shown.status.sky->mapping.scaleAt(*shown.status.pole) / view.scale;
+    const double bottom = caption.isEmpty() ? height() : captionArea().top();
+    paintScaleBar(painter, scaleBar(pixelScale, width() * 0.3), QPointF(16.0, bottom - 12.0),
+                  *colours);
+}
+
+QRect SkyPicture::captionArea() const
+{
+    if (caption.isEmpty())
+        return {};
+    const bool hasButton = !dismissButton->isHidden();
+    const QRect most = rect().adjusted(10, 0, hasButton ? -buttonSize - 8 : -10, 0);
+    int high = QFontMetrics(sized(font(), 15)).boundingRect(most, textFlags, caption).height();
+    if (!captionReason.isEmpty())
+        high +=
+            QFontMetrics(sized(font(), 13)).boundingRect(most, textFlags, captionReason).height();
+    if (hasButton)
+        high = std::max(high, buttonSize - 8);
+    return QRect(most.left(), height() - high - 8, most.width(), high);
+}
+
 void SkyPicture::paintCaption(QPainter &painter) const
 {
     if (caption.isEmpty())
         return;
-    QFont small = font();
-    small.setPixelSize(15);
-    painter.setFont(small);
-    const QRect most = rect().adjusted(10, 0, -10, -8);
-    const int flags = Qt::AlignLeft | Qt::AlignBottom | Qt::TextWordWrap;
-    const QRect text = painter.boundingRect(most, flags, caption);
+    const QRect area = captionArea();
     QColor ground = colours->well;
     ground.setAlpha(200);
-    painter.fillRect(QRect(0, text.top() - 6, width(), height() - text.top() + 6), ground);
+    painter.fillRect(QRect(0, area.top() - 6, width(), height() - area.top() + 6), ground);
+    painter.setFont(sized(font(), 15));
     painter.setPen(colours->warning);
-    painter.drawText(most, flags, caption);
+    QRect used;
+    painter.drawText(area, textFlags, caption, &used);
+    painter.setFont(sized(font(), 13));
+    painter.setPen(colours->text);
+    painter.drawText(area.adjusted(0, used.height(), 0, 8), textFlags, captionReason);
 }
 } // namespace assistantwindow

@@ -15,12 +15,12 @@ constexpr QRgb redOf(int value)
     return qRgb(value, 0, 0);
 }
 
-const Theme dark{0xff12100e, 0xff1b1815, 0xff25201b, 0xff312a23, 0xff4a3f34, 0xffece3d7,
-                 0xffb8ab9b, 0xff7d7367, 0xff936639, 0xffe0a35f, 0xffffffff, 0xff7cc47f,
-                 0xfff0b450, 0xff7fd0ff, 0xffffa04a, 0xffa9c47f, 0xff5d6c76};
-const Theme red{redOf(0),   redOf(10),  redOf(22),  redOf(44),  redOf(74),  redOf(215),
-                redOf(170), redOf(105), redOf(120), redOf(190), redOf(255), redOf(235),
-                redOf(255), redOf(255), redOf(200), redOf(165), redOf(90)};
+const Theme dark{0xff12100e, 0xff1b1815, 0xff25201b, 0xff312a23, 0xff4a3f34, 0xffece3d7, 0xffb8ab9b,
+                 0xff7d7367, 0xff936639, 0xffe0a35f, 0xffffffff, 0xff7cc47f, 0xfff0b450, 0xff7fd0ff,
+                 0xffffa04a, 0xffa9c47f, 0xff5d6c76, 0xfff2e27a, 0xffd9a3ff};
+const Theme red{redOf(0),   redOf(10),  redOf(22),  redOf(44),  redOf(74),  redOf(215), redOf(170),
+                redOf(105), redOf(120), redOf(190), redOf(255), redOf(235), redOf(255), redOf(255),
+                redOf(200), redOf(165), redOf(90),  redOf(255), redOf(190)};
 } // namespace
 
 const Theme &theme(bool isRed)
@@ -36,11 +36,11 @@ QString themeSheet(const Theme &theme)
     QString sheet = QString::fromUtf8(file.readAll());
     // Longer names first where one begins another.
     const std::pair<const char *, QColor> names[] = {
-        {"@onAccent", theme.onAccent}, {"@well", theme.well},       {"@window", theme.window},
-        {"@panel", theme.panel},       {"@control", theme.control}, {"@border", theme.border},
-        {"@text", theme.text},         {"@quiet", theme.quiet},     {"@disabled", theme.disabled},
-        {"@accent", theme.accent},     {"@lit", theme.lit},         {"@good", theme.good},
-        {"@warning", theme.warning}};
+        {"@onAccent", theme.onAccent}, {"@well", theme.well},         {"@window", theme.window},
+        {"@panel", theme.panel},       {"@control", theme.control},   {"@border", theme.border},
+        {"@text", theme.text},         {"@quiet", theme.quiet},       {"@disabled", theme.disabled},
+        {"@accent", theme.accent},     {"@lit", theme.lit},           {"@good", theme.good},
+        {"@warning", theme.warning},   {"@altitude", theme.altitude}, {"@azimuth", theme.azimuth}};
     for (const auto &[name, colour] : names)
         sheet.replace(QLatin1String(name), colour.name());
     return sheet;

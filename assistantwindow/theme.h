@@ -15,6 +15,7 @@ struct Theme {
     QColor text, quiet, disabled, accent, lit, onAccent;
     QColor good, warning; ///< advice and bolts
     QColor pole, axis, star, grid;
+    QColor altitude, azimuth; ///< each bolt beside the figures and in the picture
 };
 
 /// The normal dark theme, or the one that emits only red: its colours have neither green nor blue.

@@ -11,8 +11,8 @@
 
 namespace assistantwindow
 {
-BigSpin::BigSpin(const QString &objectName, Steps steps, QWidget *parent)
-    : QWidget(parent), spin(new QDoubleSpinBox(this))
+BigSpin::BigSpin(const QString &objectName, Steps steps, QDoubleSpinBox *field)
+    : spin(field ? field : new QDoubleSpinBox)
 {
     spin->setObjectName(objectName);
     spin->setButtonSymbols(QAbstractSpinBox::NoButtons);
@@ -112,6 +112,10 @@ QIcon glyphIcon(Glyph glyph, const Theme &theme)
         break;
     case Glyph::Back:
         painter.drawPolyline(QPolygonF({{3, -8}, {-5, 0}, {3, 8}}));
+        break;
+    case Glyph::Close:
+        painter.drawLine(QPointF(-6, -6), QPointF(6, 6));
+        painter.drawLine(QPointF(-6, 6), QPointF(6, -6));
         break;
     }
     return QIcon(pixmap);

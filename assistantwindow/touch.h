@@ -23,7 +23,8 @@ public:
     struct Steps {
         double coarse, fine;
     };
-    BigSpin(const QString &objectName, Steps steps, QWidget *parent = nullptr);
+    /// @param field of a type of its own; null: a plain one
+    BigSpin(const QString &objectName, Steps steps, QDoubleSpinBox *field = nullptr);
     QDoubleSpinBox &field() const { return *spin; }
     /// What a screen reader calls the field and its buttons.
     void setName(const QString &name);
@@ -35,7 +36,7 @@ private:
     QList<QPushButton *> buttons;
 };
 
-enum class Glyph { Expand, Settings, Report, Back };
+enum class Glyph { Expand, Settings, Report, Back, Close };
 
 /// A button's icon in the theme's colour.
 QIcon glyphIcon(Glyph glyph, const Theme &theme);

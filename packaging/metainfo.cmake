@@ -6,6 +6,7 @@ set(pictures
   "north/step-13-aligned.png|The pole mark is on the axis mark: aligned"
   "north/step-02-template.png|The template is turned until it matches the stars around Polaris"
   "north/step-08-axis.png|Three positions of one star show where the axis points"
+  "assistant/bolts.png|The assistant says which way each bolt must go, and how far"
   "south/step-13-aligned.png|South of the equator, by the stars around sigma Octantis")
 set(screenshots "")
 set(type " type=\"default\"")

@@ -1,11 +1,17 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 # Regenerates every picture of the README and the manual by running the program with the virtual
-# camera: tools/make_pictures.sh [build folder]. Needs convert (imagemagick) and optipng.
+# camera: tools/make_pictures.sh [--assistant] [build folder]; with --assistant, those of the assistant
+# alone. Needs convert (imagemagick) and optipng.
 set -u
 cd "$(dirname "$0")/.." || exit 1
 . tools/stages.sh
 
+only_assistant=false
+if [ "${1:-}" = --assistant ]; then
+  only_assistant=true
+  shift
+fi
 build=${1:-build/release}
 if [ $# -eq 0 ]; then configured release || exit 1; fi
 stage "Building the tour" cmake --build "$build" --target quorvandel-tour quorvandel-assistant-tour \
@@ -84,11 +90,12 @@ make_assistant() { # make_assistant FOLDER OPTION...
 }
 
 mkdir -p "$images"
+stage "Pictures of the assistant" make_assistant assistant || exit 1
+stage "Pictures of the assistant in Chinese" make_assistant assistant-zh --language ZH || exit 1
+if $only_assistant; then exit 0; fi
 stage "Pictures of the north" make_set north || exit 1
 stage "Pictures of the south" make_set south --south || exit 1
 stage "Pictures in Chinese" make_set zh --language ZH || exit 1
-stage "Pictures of the assistant" make_assistant assistant || exit 1
-stage "Pictures of the assistant in Chinese" make_assistant assistant-zh --language ZH || exit 1
 stage "Animated picture" make_animation || exit 1
 stage "Recognised picture" make_recognised || exit 1
 echo "$images holds $(du -sk "$images" | cut -f1) KB."

@@ -24,12 +24,16 @@ void describe(QCommandLineParser &options)
         "The knobs of Quorvandel's virtual mount: edits the virtual camera's sky file. There is "
         "one window for each sky file: a later start brings it to the front."));
     options.addHelpOption();
+    options.addVersionOption();
     options.addOption(
         {QStringLiteral("places"),
          QStringLiteral("Print where the program and this window stand: \"beside\" or "
                         "\"behind\" each other, and their geometries.")});
     options.addOption({QStringLiteral("behind"),
                        QStringLiteral("Open the window behind the others, without the focus.")});
+    options.addOption({QStringLiteral("without-angles"),
+                       QStringLiteral("Leave out how much the age of the built-in star angles "
+                                      "makes, for a program that does not use them.")});
     options.addOption(
         {QStringLiteral("language"),
          languageCodes() + QStringLiteral("; the system's language if it is left out."),
@@ -46,12 +50,17 @@ void printPlaces(MountWindow &window)
 
 int main(int argc, char *argv[])
 {
+    QCoreApplication::setApplicationName(QStringLiteral("quorvandel-mount"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(QUORVANDEL_VERSION));
+    QCommandLineParser options;
+    describe(options);
+    if (asksForText(argc, argv)) {
+        const QCoreApplication unseen(argc, argv);
+        options.process(unseen); // prints and ends the process
+    }
     prepareApplication();
     QApplication application(argc, argv);
     QGuiApplication::setDesktopFileName(QStringLiteral("example.quorvandel.mount"));
-    QApplication::setApplicationName(QStringLiteral("quorvandel-mount"));
-    QCommandLineParser options;
-    describe(options);
     options.process(application);
     Q_INIT_RESOURCE(mount_catalogues);
     if (!installRequestedLanguage(QStringLiteral("mount"),
@@ -74,6 +83,8 @@ int main(int argc, char *argv[])
     }
     MountWindow window(skyFile);
     const TerminationSignals closing(window); // passing clouds are reset
+    if (options.isSet(QStringLiteral("without-angles")))
+        window.leaveOutAngles();
     window.setAttribute(Qt::WA_ShowWithoutActivating, behind);
     window.show();
     if (behind)

@@ -79,7 +79,7 @@ QWidget *MountWindow::axisPanel()
     return panel;
 }
 
-QWidget *MountWindow::boltButton(const BoltButton &row)
+QPushButton *MountWindow::boltButton(const BoltButton &row)
 {
     auto *const button = new QPushButton(tr(row.text), this);
     nameWidget(*button, QLatin1String(row.name), tr(row.what),
@@ -91,8 +91,39 @@ QWidget *MountWindow::boltButton(const BoltButton &row)
         edit([bolt, degrees](SkyState &state) { turnBolt(state, bolt, degrees); });
     };
     connect(button, &QPushButton::clicked, this, turn);
-    addShortcut(row.key, turn);
+    // The key is that of the side where the button is in the north.
+    const bool isAzimuth = row.bolt == &SkyState::boltAzimuth;
+    addShortcut(row.key, [this, bolt = row.bolt, degrees = row.degrees, isAzimuth] {
+        edit([=](SkyState &state) {
+            const bool isOtherSide = isAzimuth && state.latitude < 0.0;
+            turnBolt(state, bolt, isOtherSide ? -degrees : degrees);
+        });
+    });
     return button;
+}
+
+/// As for someone who faces the pole: facing south, east is on the left.
+void MountWindow::placeAzimuthButtons(QGridLayout &grid, bool south)
+{
+    if (placedForSouth == south)
+        return;
+    placedForSouth = south;
+    const QString texts[2][4] = {{tr("◀ West"), tr("fine ◀"), tr("▶ fine"), tr("East ▶")},
+                                 {tr("West ▶"), tr("▶ fine"), tr("fine ◀"), tr("◀ East")}};
+    const QKeySequence keys[] = {Qt::Key_Left, int(Qt::SHIFT) + Qt::Key_Left,
+                                 int(Qt::SHIFT) + Qt::Key_Right, Qt::Key_Right};
+    constexpr int columns[] = {0, 1, 3, 4};
+    QWidget *before = findChild<QPushButton *>(QStringLiteral("altitudeUp"));
+    for (int side = 0; side < 4; ++side) { // from left to right
+        const int index = south ? 3 - side : side;
+        QPushButton *const button = azimuthButtons[std::size_t(index)];
+        button->setText(texts[south ? 1 : 0][index]);
+        button->setToolTip(keys[side].toString(QKeySequence::NativeText));
+        grid.removeWidget(button);
+        grid.addWidget(button, 1, columns[side]);
+        setTabOrder(before, button);
+        before = button;
+    }
 }
 
 QWidget *MountWindow::boltPanel()
@@ -119,8 +150,14 @@ QWidget *MountWindow::boltPanel()
     };
     auto *const panel = new QGroupBox(tr("Altitude and azimuth bolts: turns"), this);
     QGridLayout &grid = gridIn(*panel);
-    for (const BoltButton &row : buttons)
-        grid.addWidget(boltButton(row), row.row, row.column);
+    for (const BoltButton &row : buttons) {
+        QPushButton *const button = boltButton(row);
+        grid.addWidget(button, row.row, row.column);
+        if (row.bolt == azimuth)
+            azimuthButtons.push_back(button);
+    }
+    fields.emplace_back(
+        [this, &grid](const SkyState &state) { placeAzimuthButtons(grid, state.latitude < 0.0); });
     const auto counter = [&](const char *name, const QString &what, QString (*text)(double),
                              int row) {
         auto *const label = new QLabel(panel);

@@ -11,6 +11,7 @@
 #include <QMainWindow>
 #include <QTimer>
 #include <functional>
+#include <optional>
 #include <random>
 #include <vector>
 
@@ -33,6 +34,8 @@ class MountWindow : public QMainWindow
 
 public:
     explicit MountWindow(const QString &skyFile, QWidget *parent = nullptr);
+    /// Beside a program that does not use the built-in star angles: the truth leaves them out.
+    void leaveOutAngles();
 
 protected:
     /// Resets passing clouds to the value before them.
@@ -56,7 +59,8 @@ private:
     struct BoltButton;
     struct Slider;
     struct Coordinate;
-    QWidget *boltButton(const BoltButton &row);
+    QPushButton *boltButton(const BoltButton &row);
+    void placeAzimuthButtons(QGridLayout &grid, bool south);
     QSlider *addSlider(QGridLayout &grid, const Slider &row);
     void addCoordinate(QGridLayout &grid, const Coordinate &row);
     QWidget *timeFields();
@@ -104,7 +108,10 @@ private:
     double skySeconds = 0.0; ///< UTC of the sky that the fields show
     std::mt19937 random;     ///< draws exercises
     bool truthShown = false;
-    bool dialLeads = false;           ///< the dial was turned and the axis follows it
+    bool hasAngles = true;
+    std::optional<bool> placedForSouth;        ///< the buttons of the azimuth bolt
+    std::vector<QPushButton *> azimuthButtons; ///< from west to east
+    bool dialLeads = false;                    ///< the dial was turned and the axis follows it
     double altitudeBase, azimuthBase; ///< bolt positions where the turn count is 0, degrees
     bool beganAligned = false;        ///< the mount was aligned at those positions
     double cloudsBefore = 0.0;        ///< value that is restored when the clouds stop

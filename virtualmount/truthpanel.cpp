@@ -99,8 +99,16 @@ QString MountWindow::truthText() const
         .arg(truth.total, truth.altitude, truth.azimuth);
 }
 
+void MountWindow::leaveOutAngles()
+{
+    hasAngles = false;
+    refreshTexts();
+}
+
 QString MountWindow::anglesText() const
 {
+    if (!hasAngles)
+        return {};
     const auto angles = builtInAnglesError(QDate::currentDate(), shown, skySeconds);
     return angles ? tr("The age of the star angles (%1) alone makes %2.")
                         .arg(angles->year)

@@ -135,6 +135,29 @@
         <source>The camera library cannot be used.</source>
         <translation>Die Kamerabibliothek ist nicht verwendbar.</translation>
     </message>
+    <message>
+        <source>Each minute that it is off turns altitude and azimuth by 0.25° about the pole; the total error hardly changes.</source>
+        <translation>Jede Minute, die sie falsch geht, dreht Polhöhe und Azimut um 0,25° um den Pol; der Gesamtfehler ändert sich kaum.</translation>
+    </message>
+</context>
+<context>
+    <name>Aim</name>
+    <message>
+        <source>pole as the air shows it</source>
+        <translation>Pol, wie ihn die Luft zeigt</translation>
+    </message>
+    <message>
+        <source>true pole, no refraction</source>
+        <translation>wahrer Pol, ohne Refraktion</translation>
+    </message>
+    <message>
+        <source>true pole, refraction at %1 hPa, %2 °C</source>
+        <translation>wahrer Pol, Refraktion bei %1 hPa, %2 °C</translation>
+    </message>
+    <message>
+        <source>refracted pole, at %1 hPa, %2 °C</source>
+        <translation>refraktierter Pol, bei %1 hPa, %2 °C</translation>
+    </message>
 </context>
 <context>
     <name>AssistantWindow</name>
@@ -176,6 +199,11 @@
     <message>
         <source>Width of the stars: %1 pixels</source>
         <translation>Breite der Sterne: %1 Pixel</translation>
+    </message>
+    <message>
+        <source>Aimed at: %1</source>
+        <extracomment>Before a text such as: true pole, no refraction</extracomment>
+        <translation>Ziel: %1</translation>
     </message>
 </context>
 <context>
@@ -366,16 +394,24 @@
         <translation>Dauer</translation>
     </message>
     <message>
-        <source>Drift in declination, at the equator, at most</source>
-        <translation>Drift in Deklination, am Äquator, höchstens</translation>
-    </message>
-    <message>
-        <source>Field rotation, at the equator, at most</source>
-        <translation>Bildfelddrehung, am Äquator, höchstens</translation>
-    </message>
-    <message>
         <source>Polar alignment</source>
         <translation>Polausrichtung</translation>
+    </message>
+    <message>
+        <source>Aimed at</source>
+        <translation>Ziel</translation>
+    </message>
+    <message>
+        <source>Drift in declination, anywhere, at most</source>
+        <translation>Drift in Deklination, überall, höchstens</translation>
+    </message>
+    <message>
+        <source>Angle of field rotation at most, at the equator and at declination 60°</source>
+        <translation>Winkel der Bildfelddrehung höchstens, am Äquator und bei Deklination 60°</translation>
+    </message>
+    <message>
+        <source>Date and site</source>
+        <translation>Datum und Ort</translation>
     </message>
 </context>
 <context>
@@ -515,20 +551,31 @@
         <source>Limit of disk space, MB</source>
         <translation>Höchstens belegter Platz, MB</translation>
     </message>
+    <message>
+        <source>Air pressure, hPa (0: no refraction)</source>
+        <translation>Luftdruck, hPa (0: keine Refraktion)</translation>
+    </message>
 </context>
 <context>
     <name>SitePanel</name>
     <message>
-        <source>Latitude, north positive</source>
-        <translation>Breite, Nord positiv</translation>
-    </message>
-    <message>
-        <source>Longitude, east positive</source>
-        <translation>Länge, Ost positiv</translation>
-    </message>
-    <message>
         <source>With the site, the assistant says which way each bolt must go.</source>
         <translation>Mit dem Ort nennt der Assistent die Richtung jeder Schraube.</translation>
+    </message>
+    <message>
+        <source>Latitude: north positive, or N, S</source>
+        <translation>Breite: Nord positiv, oder N, S</translation>
+    </message>
+    <message>
+        <source>Longitude: east positive, or E, W</source>
+        <translation>Länge: Ost positiv, oder E, W</translation>
+    </message>
+</context>
+<context>
+    <name>SkyPicture</name>
+    <message>
+        <source>Do not show this again until the next start</source>
+        <translation>Bis zum nächsten Start nicht mehr zeigen</translation>
     </message>
 </context>
 <context>

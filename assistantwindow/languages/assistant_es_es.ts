@@ -135,6 +135,29 @@
         <source>The camera library cannot be used.</source>
         <translation>No se puede usar la biblioteca de la cámara.</translation>
     </message>
+    <message>
+        <source>Each minute that it is off turns altitude and azimuth by 0.25° about the pole; the total error hardly changes.</source>
+        <translation>Cada minuto de error gira altitud y azimut 0,25° en torno al polo; el error total apenas cambia.</translation>
+    </message>
+</context>
+<context>
+    <name>Aim</name>
+    <message>
+        <source>pole as the air shows it</source>
+        <translation>polo como lo muestra el aire</translation>
+    </message>
+    <message>
+        <source>true pole, no refraction</source>
+        <translation>polo verdadero, sin refracción</translation>
+    </message>
+    <message>
+        <source>true pole, refraction at %1 hPa, %2 °C</source>
+        <translation>polo verdadero, refracción a %1 hPa, %2 °C</translation>
+    </message>
+    <message>
+        <source>refracted pole, at %1 hPa, %2 °C</source>
+        <translation>polo refractado, a %1 hPa, %2 °C</translation>
+    </message>
 </context>
 <context>
     <name>AssistantWindow</name>
@@ -176,6 +199,11 @@
     <message>
         <source>Width of the stars: %1 pixels</source>
         <translation>Anchura de las estrellas: %1 píxeles</translation>
+    </message>
+    <message>
+        <source>Aimed at: %1</source>
+        <extracomment>Before a text such as: true pole, no refraction</extracomment>
+        <translation>Objetivo: %1</translation>
     </message>
 </context>
 <context>
@@ -366,16 +394,24 @@
         <translation>Duración</translation>
     </message>
     <message>
-        <source>Drift in declination, at the equator, at most</source>
-        <translation>Deriva en declinación, en el ecuador, como máximo</translation>
-    </message>
-    <message>
-        <source>Field rotation, at the equator, at most</source>
-        <translation>Rotación de campo, en el ecuador, como máximo</translation>
-    </message>
-    <message>
         <source>Polar alignment</source>
         <translation>Alineación polar</translation>
+    </message>
+    <message>
+        <source>Aimed at</source>
+        <translation>Objetivo</translation>
+    </message>
+    <message>
+        <source>Drift in declination, anywhere, at most</source>
+        <translation>Deriva en declinación, en cualquier parte, como máximo</translation>
+    </message>
+    <message>
+        <source>Angle of field rotation at most, at the equator and at declination 60°</source>
+        <translation>Ángulo de rotación de campo como máximo, en el ecuador y a declinación 60°</translation>
+    </message>
+    <message>
+        <source>Date and site</source>
+        <translation>Fecha y lugar</translation>
     </message>
 </context>
 <context>
@@ -515,20 +551,31 @@
         <source>Limit of disk space, MB</source>
         <translation>Límite de espacio en disco, MB</translation>
     </message>
+    <message>
+        <source>Air pressure, hPa (0: no refraction)</source>
+        <translation>Presión del aire, hPa (0: sin refracción)</translation>
+    </message>
 </context>
 <context>
     <name>SitePanel</name>
     <message>
-        <source>Latitude, north positive</source>
-        <translation>Latitud, norte positivo</translation>
-    </message>
-    <message>
-        <source>Longitude, east positive</source>
-        <translation>Longitud, este positivo</translation>
-    </message>
-    <message>
         <source>With the site, the assistant says which way each bolt must go.</source>
         <translation>Con el lugar, el asistente dice hacia dónde va cada tornillo.</translation>
+    </message>
+    <message>
+        <source>Latitude: north positive, or N, S</source>
+        <translation>Latitud: norte positivo, o N, S</translation>
+    </message>
+    <message>
+        <source>Longitude: east positive, or E, W</source>
+        <translation>Longitud: este positivo, o E, W</translation>
+    </message>
+</context>
+<context>
+    <name>SkyPicture</name>
+    <message>
+        <source>Do not show this again until the next start</source>
+        <translation>No volver a mostrar hasta el próximo inicio</translation>
     </message>
 </context>
 <context>

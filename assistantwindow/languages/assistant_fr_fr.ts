@@ -135,6 +135,29 @@
         <source>The camera library cannot be used.</source>
         <translation>La bibliothèque de la caméra est inutilisable.</translation>
     </message>
+    <message>
+        <source>Each minute that it is off turns altitude and azimuth by 0.25° about the pole; the total error hardly changes.</source>
+        <translation>Chaque minute d&apos;écart tourne l&apos;altitude et l&apos;azimut de 0,25° autour du pôle ; l&apos;erreur totale ne change guère.</translation>
+    </message>
+</context>
+<context>
+    <name>Aim</name>
+    <message>
+        <source>pole as the air shows it</source>
+        <translation>pôle tel que l&apos;air le montre</translation>
+    </message>
+    <message>
+        <source>true pole, no refraction</source>
+        <translation>pôle vrai, sans réfraction</translation>
+    </message>
+    <message>
+        <source>true pole, refraction at %1 hPa, %2 °C</source>
+        <translation>pôle vrai, réfraction à %1 hPa, %2 °C</translation>
+    </message>
+    <message>
+        <source>refracted pole, at %1 hPa, %2 °C</source>
+        <translation>pôle réfracté, à %1 hPa, %2 °C</translation>
+    </message>
 </context>
 <context>
     <name>AssistantWindow</name>
@@ -176,6 +199,11 @@
     <message>
         <source>Width of the stars: %1 pixels</source>
         <translation>Largeur des étoiles : %1 pixels</translation>
+    </message>
+    <message>
+        <source>Aimed at: %1</source>
+        <extracomment>Before a text such as: true pole, no refraction</extracomment>
+        <translation>Visé : %1</translation>
     </message>
 </context>
 <context>
@@ -366,16 +394,24 @@
         <translation>Durée</translation>
     </message>
     <message>
-        <source>Drift in declination, at the equator, at most</source>
-        <translation>Dérive en déclinaison, à l&apos;équateur, au plus</translation>
-    </message>
-    <message>
-        <source>Field rotation, at the equator, at most</source>
-        <translation>Rotation de champ, à l&apos;équateur, au plus</translation>
-    </message>
-    <message>
         <source>Polar alignment</source>
         <translation>Mise en station</translation>
+    </message>
+    <message>
+        <source>Aimed at</source>
+        <translation>Visé</translation>
+    </message>
+    <message>
+        <source>Drift in declination, anywhere, at most</source>
+        <translation>Dérive en déclinaison, partout, au plus</translation>
+    </message>
+    <message>
+        <source>Angle of field rotation at most, at the equator and at declination 60°</source>
+        <translation>Angle de rotation de champ au plus, à l&apos;équateur et à la déclinaison 60°</translation>
+    </message>
+    <message>
+        <source>Date and site</source>
+        <translation>Date et lieu</translation>
     </message>
 </context>
 <context>
@@ -515,20 +551,31 @@
         <source>Limit of disk space, MB</source>
         <translation>Limite d&apos;espace disque, Mo</translation>
     </message>
+    <message>
+        <source>Air pressure, hPa (0: no refraction)</source>
+        <translation>Pression de l&apos;air, hPa (0 : sans réfraction)</translation>
+    </message>
 </context>
 <context>
     <name>SitePanel</name>
     <message>
-        <source>Latitude, north positive</source>
-        <translation>Latitude, nord positif</translation>
-    </message>
-    <message>
-        <source>Longitude, east positive</source>
-        <translation>Longitude, est positif</translation>
-    </message>
-    <message>
         <source>With the site, the assistant says which way each bolt must go.</source>
         <translation>Avec le lieu, l&apos;assistant indique le sens de chaque vis.</translation>
+    </message>
+    <message>
+        <source>Latitude: north positive, or N, S</source>
+        <translation>Latitude : nord positif, ou N, S</translation>
+    </message>
+    <message>
+        <source>Longitude: east positive, or E, W</source>
+        <translation>Longitude : est positif, ou E, W</translation>
+    </message>
+</context>
+<context>
+    <name>SkyPicture</name>
+    <message>
+        <source>Do not show this again until the next start</source>
+        <translation>Ne plus montrer jusqu&apos;au prochain démarrage</translation>
     </message>
 </context>
 <context>

@@ -135,6 +135,29 @@
         <source>The camera library cannot be used.</source>
         <translation>La libreria della camera non è utilizzabile.</translation>
     </message>
+    <message>
+        <source>Each minute that it is off turns altitude and azimuth by 0.25° about the pole; the total error hardly changes.</source>
+        <translation>Ogni minuto di errore ruota altezza e azimut di 0,25° attorno al polo; l&apos;errore totale cambia appena.</translation>
+    </message>
+</context>
+<context>
+    <name>Aim</name>
+    <message>
+        <source>pole as the air shows it</source>
+        <translation>polo come lo mostra l&apos;aria</translation>
+    </message>
+    <message>
+        <source>true pole, no refraction</source>
+        <translation>polo vero, senza rifrazione</translation>
+    </message>
+    <message>
+        <source>true pole, refraction at %1 hPa, %2 °C</source>
+        <translation>polo vero, rifrazione a %1 hPa, %2 °C</translation>
+    </message>
+    <message>
+        <source>refracted pole, at %1 hPa, %2 °C</source>
+        <translation>polo rifratto, a %1 hPa, %2 °C</translation>
+    </message>
 </context>
 <context>
     <name>AssistantWindow</name>
@@ -176,6 +199,11 @@
     <message>
         <source>Width of the stars: %1 pixels</source>
         <translation>Larghezza delle stelle: %1 pixel</translation>
+    </message>
+    <message>
+        <source>Aimed at: %1</source>
+        <extracomment>Before a text such as: true pole, no refraction</extracomment>
+        <translation>Obiettivo: %1</translation>
     </message>
 </context>
 <context>
@@ -366,16 +394,24 @@
         <translation>Durata</translation>
     </message>
     <message>
-        <source>Drift in declination, at the equator, at most</source>
-        <translation>Deriva in declinazione, all&apos;equatore, al massimo</translation>
-    </message>
-    <message>
-        <source>Field rotation, at the equator, at most</source>
-        <translation>Rotazione di campo, all&apos;equatore, al massimo</translation>
-    </message>
-    <message>
         <source>Polar alignment</source>
         <translation>Allineamento polare</translation>
+    </message>
+    <message>
+        <source>Aimed at</source>
+        <translation>Obiettivo</translation>
+    </message>
+    <message>
+        <source>Drift in declination, anywhere, at most</source>
+        <translation>Deriva in declinazione, ovunque, al massimo</translation>
+    </message>
+    <message>
+        <source>Angle of field rotation at most, at the equator and at declination 60°</source>
+        <translation>Angolo di rotazione di campo al massimo, all&apos;equatore e a declinazione 60°</translation>
+    </message>
+    <message>
+        <source>Date and site</source>
+        <translation>Data e luogo</translation>
     </message>
 </context>
 <context>
@@ -515,20 +551,31 @@
         <source>Limit of disk space, MB</source>
         <translation>Limite di spazio su disco, MB</translation>
     </message>
+    <message>
+        <source>Air pressure, hPa (0: no refraction)</source>
+        <translation>Pressione dell&apos;aria, hPa (0: senza rifrazione)</translation>
+    </message>
 </context>
 <context>
     <name>SitePanel</name>
     <message>
-        <source>Latitude, north positive</source>
-        <translation>Latitudine, nord positivo</translation>
-    </message>
-    <message>
-        <source>Longitude, east positive</source>
-        <translation>Longitudine, est positivo</translation>
-    </message>
-    <message>
         <source>With the site, the assistant says which way each bolt must go.</source>
         <translation>Con il luogo, l&apos;assistente dice il verso di ogni vite.</translation>
+    </message>
+    <message>
+        <source>Latitude: north positive, or N, S</source>
+        <translation>Latitudine: nord positivo, o N, S</translation>
+    </message>
+    <message>
+        <source>Longitude: east positive, or E, W</source>
+        <translation>Longitudine: est positivo, o E, W</translation>
+    </message>
+</context>
+<context>
+    <name>SkyPicture</name>
+    <message>
+        <source>Do not show this again until the next start</source>
+        <translation>Non mostrare più fino al prossimo avvio</translation>
     </message>
 </context>
 <context>

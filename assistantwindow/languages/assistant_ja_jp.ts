@@ -135,6 +135,29 @@
         <source>The camera library cannot be used.</source>
         <translation>カメラのライブラリを使えません。</translation>
     </message>
+    <message>
+        <source>Each minute that it is off turns altitude and azimuth by 0.25° about the pole; the total error hardly changes.</source>
+        <translation>時計が 1 分ずれるごとに、高度と方位は極のまわりに 0.25° 回ります。全体のずれはほとんど変わりません。</translation>
+    </message>
+</context>
+<context>
+    <name>Aim</name>
+    <message>
+        <source>pole as the air shows it</source>
+        <translation>大気を通して見える極</translation>
+    </message>
+    <message>
+        <source>true pole, no refraction</source>
+        <translation>真の極、大気差なし</translation>
+    </message>
+    <message>
+        <source>true pole, refraction at %1 hPa, %2 °C</source>
+        <translation>真の極、大気差は %1 hPa、%2 °C</translation>
+    </message>
+    <message>
+        <source>refracted pole, at %1 hPa, %2 °C</source>
+        <translation>大気差を含む極、%1 hPa、%2 °C</translation>
+    </message>
 </context>
 <context>
     <name>AssistantWindow</name>
@@ -176,6 +199,11 @@
     <message>
         <source>Width of the stars: %1 pixels</source>
         <translation>星の幅：%1 ピクセル</translation>
+    </message>
+    <message>
+        <source>Aimed at: %1</source>
+        <extracomment>Before a text such as: true pole, no refraction</extracomment>
+        <translation>目標：%1</translation>
     </message>
 </context>
 <context>
@@ -366,16 +394,24 @@
         <translation>かかった時間</translation>
     </message>
     <message>
-        <source>Drift in declination, at the equator, at most</source>
-        <translation>赤道での赤緯のドリフト、最大</translation>
-    </message>
-    <message>
-        <source>Field rotation, at the equator, at most</source>
-        <translation>赤道での視野の回転、最大</translation>
-    </message>
-    <message>
         <source>Polar alignment</source>
         <translation>極軸合わせ</translation>
+    </message>
+    <message>
+        <source>Aimed at</source>
+        <translation>目標</translation>
+    </message>
+    <message>
+        <source>Drift in declination, anywhere, at most</source>
+        <translation>赤緯のドリフト（どこでも）、最大</translation>
+    </message>
+    <message>
+        <source>Angle of field rotation at most, at the equator and at declination 60°</source>
+        <translation>視野の回転角、最大（赤道と赤緯 60°）</translation>
+    </message>
+    <message>
+        <source>Date and site</source>
+        <translation>日時と観測地</translation>
     </message>
 </context>
 <context>
@@ -515,20 +551,31 @@
         <source>Limit of disk space, MB</source>
         <translation>ディスク容量の上限（MB）</translation>
     </message>
+    <message>
+        <source>Air pressure, hPa (0: no refraction)</source>
+        <translation>気圧（hPa、0：大気差なし）</translation>
+    </message>
 </context>
 <context>
     <name>SitePanel</name>
     <message>
-        <source>Latitude, north positive</source>
-        <translation>緯度（北が正）</translation>
-    </message>
-    <message>
-        <source>Longitude, east positive</source>
-        <translation>経度（東が正）</translation>
-    </message>
-    <message>
         <source>With the site, the assistant says which way each bolt must go.</source>
         <translation>観測地が分かれば、各ネジの向きを示します。</translation>
+    </message>
+    <message>
+        <source>Latitude: north positive, or N, S</source>
+        <translation>緯度（北が正、または N、S）</translation>
+    </message>
+    <message>
+        <source>Longitude: east positive, or E, W</source>
+        <translation>経度（東が正、または E、W）</translation>
+    </message>
+</context>
+<context>
+    <name>SkyPicture</name>
+    <message>
+        <source>Do not show this again until the next start</source>
+        <translation>次に起動するまで表示しない</translation>
     </message>
 </context>
 <context>

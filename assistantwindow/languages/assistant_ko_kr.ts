@@ -135,6 +135,29 @@
         <source>The camera library cannot be used.</source>
         <translation>카메라 라이브러리를 쓸 수 없습니다.</translation>
     </message>
+    <message>
+        <source>Each minute that it is off turns altitude and azimuth by 0.25° about the pole; the total error hardly changes.</source>
+        <translation>시계가 1분 틀릴 때마다 고도와 방위각이 극을 중심으로 0.25° 돌아갑니다. 전체 오차는 거의 변하지 않습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>Aim</name>
+    <message>
+        <source>pole as the air shows it</source>
+        <translation>대기를 통해 보이는 극</translation>
+    </message>
+    <message>
+        <source>true pole, no refraction</source>
+        <translation>참 극, 굴절 없음</translation>
+    </message>
+    <message>
+        <source>true pole, refraction at %1 hPa, %2 °C</source>
+        <translation>참 극, 굴절 %1 hPa, %2 °C</translation>
+    </message>
+    <message>
+        <source>refracted pole, at %1 hPa, %2 °C</source>
+        <translation>굴절된 극, %1 hPa, %2 °C</translation>
+    </message>
 </context>
 <context>
     <name>AssistantWindow</name>
@@ -176,6 +199,11 @@
     <message>
         <source>Width of the stars: %1 pixels</source>
         <translation>별의 폭: %1픽셀</translation>
+    </message>
+    <message>
+        <source>Aimed at: %1</source>
+        <extracomment>Before a text such as: true pole, no refraction</extracomment>
+        <translation>목표: %1</translation>
     </message>
 </context>
 <context>
@@ -366,16 +394,24 @@
         <translation>걸린 시간</translation>
     </message>
     <message>
-        <source>Drift in declination, at the equator, at most</source>
-        <translation>적도에서 적위 이동, 최대</translation>
-    </message>
-    <message>
-        <source>Field rotation, at the equator, at most</source>
-        <translation>적도에서 시야 회전, 최대</translation>
-    </message>
-    <message>
         <source>Polar alignment</source>
         <translation>극축 정렬</translation>
+    </message>
+    <message>
+        <source>Aimed at</source>
+        <translation>목표</translation>
+    </message>
+    <message>
+        <source>Drift in declination, anywhere, at most</source>
+        <translation>적위 이동(어디서나), 최대</translation>
+    </message>
+    <message>
+        <source>Angle of field rotation at most, at the equator and at declination 60°</source>
+        <translation>시야 회전각 최대, 적도와 적위 60°에서</translation>
+    </message>
+    <message>
+        <source>Date and site</source>
+        <translation>날짜와 관측지</translation>
     </message>
 </context>
 <context>
@@ -515,20 +551,31 @@
         <source>Limit of disk space, MB</source>
         <translation>디스크 공간 한도(MB)</translation>
     </message>
+    <message>
+        <source>Air pressure, hPa (0: no refraction)</source>
+        <translation>기압(hPa, 0: 굴절 없음)</translation>
+    </message>
 </context>
 <context>
     <name>SitePanel</name>
     <message>
-        <source>Latitude, north positive</source>
-        <translation>위도(북쪽 +)</translation>
-    </message>
-    <message>
-        <source>Longitude, east positive</source>
-        <translation>경도(동쪽 +)</translation>
-    </message>
-    <message>
         <source>With the site, the assistant says which way each bolt must go.</source>
         <translation>관측지를 알면 각 나사의 방향을 알려 줍니다.</translation>
+    </message>
+    <message>
+        <source>Latitude: north positive, or N, S</source>
+        <translation>위도(북쪽 +, 또는 N, S)</translation>
+    </message>
+    <message>
+        <source>Longitude: east positive, or E, W</source>
+        <translation>경도(동쪽 +, 또는 E, W)</translation>
+    </message>
+</context>
+<context>
+    <name>SkyPicture</name>
+    <message>
+        <source>Do not show this again until the next start</source>
+        <translation>다음에 시작할 때까지 표시하지 않음</translation>
     </message>
 </context>
 <context>

@@ -135,6 +135,29 @@
         <source>The camera library cannot be used.</source>
         <translation>Não é possível usar a biblioteca da câmara.</translation>
     </message>
+    <message>
+        <source>Each minute that it is off turns altitude and azimuth by 0.25° about the pole; the total error hardly changes.</source>
+        <translation>Cada minuto de erro roda altitude e azimute 0,25° em torno do polo; o erro total quase não muda.</translation>
+    </message>
+</context>
+<context>
+    <name>Aim</name>
+    <message>
+        <source>pole as the air shows it</source>
+        <translation>polo como o ar o mostra</translation>
+    </message>
+    <message>
+        <source>true pole, no refraction</source>
+        <translation>polo verdadeiro, sem refração</translation>
+    </message>
+    <message>
+        <source>true pole, refraction at %1 hPa, %2 °C</source>
+        <translation>polo verdadeiro, refração a %1 hPa, %2 °C</translation>
+    </message>
+    <message>
+        <source>refracted pole, at %1 hPa, %2 °C</source>
+        <translation>polo refratado, a %1 hPa, %2 °C</translation>
+    </message>
 </context>
 <context>
     <name>AssistantWindow</name>
@@ -176,6 +199,11 @@
     <message>
         <source>Width of the stars: %1 pixels</source>
         <translation>Largura das estrelas: %1 píxeis</translation>
+    </message>
+    <message>
+        <source>Aimed at: %1</source>
+        <extracomment>Before a text such as: true pole, no refraction</extracomment>
+        <translation>Alvo: %1</translation>
     </message>
 </context>
 <context>
@@ -366,16 +394,24 @@
         <translation>Duração</translation>
     </message>
     <message>
-        <source>Drift in declination, at the equator, at most</source>
-        <translation>Deriva em declinação, no equador, no máximo</translation>
-    </message>
-    <message>
-        <source>Field rotation, at the equator, at most</source>
-        <translation>Rotação de campo, no equador, no máximo</translation>
-    </message>
-    <message>
         <source>Polar alignment</source>
         <translation>Alinhamento polar</translation>
+    </message>
+    <message>
+        <source>Aimed at</source>
+        <translation>Alvo</translation>
+    </message>
+    <message>
+        <source>Drift in declination, anywhere, at most</source>
+        <translation>Deriva em declinação, em qualquer lugar, no máximo</translation>
+    </message>
+    <message>
+        <source>Angle of field rotation at most, at the equator and at declination 60°</source>
+        <translation>Ângulo de rotação de campo no máximo, no equador e na declinação 60°</translation>
+    </message>
+    <message>
+        <source>Date and site</source>
+        <translation>Data e local</translation>
     </message>
 </context>
 <context>
@@ -515,20 +551,31 @@
         <source>Limit of disk space, MB</source>
         <translation>Limite de espaço em disco, MB</translation>
     </message>
+    <message>
+        <source>Air pressure, hPa (0: no refraction)</source>
+        <translation>Pressão do ar, hPa (0: sem refração)</translation>
+    </message>
 </context>
 <context>
     <name>SitePanel</name>
     <message>
-        <source>Latitude, north positive</source>
-        <translation>Latitude, norte positivo</translation>
-    </message>
-    <message>
-        <source>Longitude, east positive</source>
-        <translation>Longitude, leste positivo</translation>
-    </message>
-    <message>
         <source>With the site, the assistant says which way each bolt must go.</source>
         <translation>Com o local, o assistente diz o sentido de cada parafuso.</translation>
+    </message>
+    <message>
+        <source>Latitude: north positive, or N, S</source>
+        <translation>Latitude: norte positivo, ou N, S</translation>
+    </message>
+    <message>
+        <source>Longitude: east positive, or E, W</source>
+        <translation>Longitude: leste positivo, ou E, W</translation>
+    </message>
+</context>
+<context>
+    <name>SkyPicture</name>
+    <message>
+        <source>Do not show this again until the next start</source>
+        <translation>Não mostrar mais até ao próximo início</translation>
     </message>
 </context>
 <context>

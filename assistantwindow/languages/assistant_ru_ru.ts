@@ -135,6 +135,29 @@
         <source>The camera library cannot be used.</source>
         <translation>Библиотеку камеры нельзя использовать.</translation>
     </message>
+    <message>
+        <source>Each minute that it is off turns altitude and azimuth by 0.25° about the pole; the total error hardly changes.</source>
+        <translation>Каждая минута ошибки часов поворачивает высоту и азимут на 0,25° вокруг полюса; общая ошибка почти не меняется.</translation>
+    </message>
+</context>
+<context>
+    <name>Aim</name>
+    <message>
+        <source>pole as the air shows it</source>
+        <translation>полюс, видимый сквозь воздух</translation>
+    </message>
+    <message>
+        <source>true pole, no refraction</source>
+        <translation>истинный полюс, без рефракции</translation>
+    </message>
+    <message>
+        <source>true pole, refraction at %1 hPa, %2 °C</source>
+        <translation>истинный полюс, рефракция при %1 гПа, %2 °C</translation>
+    </message>
+    <message>
+        <source>refracted pole, at %1 hPa, %2 °C</source>
+        <translation>рефрагированный полюс, при %1 гПа, %2 °C</translation>
+    </message>
 </context>
 <context>
     <name>AssistantWindow</name>
@@ -176,6 +199,11 @@
     <message>
         <source>Width of the stars: %1 pixels</source>
         <translation>Ширина звёзд: %1 пикс.</translation>
+    </message>
+    <message>
+        <source>Aimed at: %1</source>
+        <extracomment>Before a text such as: true pole, no refraction</extracomment>
+        <translation>Цель: %1</translation>
     </message>
 </context>
 <context>
@@ -366,16 +394,24 @@
         <translation>Затраченное время</translation>
     </message>
     <message>
-        <source>Drift in declination, at the equator, at most</source>
-        <translation>Дрейф по склонению на экваторе, не более</translation>
-    </message>
-    <message>
-        <source>Field rotation, at the equator, at most</source>
-        <translation>Вращение поля на экваторе, не более</translation>
-    </message>
-    <message>
         <source>Polar alignment</source>
         <translation>Настройка на полюс</translation>
+    </message>
+    <message>
+        <source>Aimed at</source>
+        <translation>Цель</translation>
+    </message>
+    <message>
+        <source>Drift in declination, anywhere, at most</source>
+        <translation>Дрейф по склонению, где угодно, не более</translation>
+    </message>
+    <message>
+        <source>Angle of field rotation at most, at the equator and at declination 60°</source>
+        <translation>Угол вращения поля не более, на экваторе и при склонении 60°</translation>
+    </message>
+    <message>
+        <source>Date and site</source>
+        <translation>Дата и место</translation>
     </message>
 </context>
 <context>
@@ -515,20 +551,31 @@
         <source>Limit of disk space, MB</source>
         <translation>Предел места на диске, МБ</translation>
     </message>
+    <message>
+        <source>Air pressure, hPa (0: no refraction)</source>
+        <translation>Давление воздуха, гПа (0: без рефракции)</translation>
+    </message>
 </context>
 <context>
     <name>SitePanel</name>
     <message>
-        <source>Latitude, north positive</source>
-        <translation>Широта, север +</translation>
-    </message>
-    <message>
-        <source>Longitude, east positive</source>
-        <translation>Долгота, восток +</translation>
-    </message>
-    <message>
         <source>With the site, the assistant says which way each bolt must go.</source>
         <translation>Зная место, помощник скажет, куда вращать каждый винт.</translation>
+    </message>
+    <message>
+        <source>Latitude: north positive, or N, S</source>
+        <translation>Широта: север +, или N, S</translation>
+    </message>
+    <message>
+        <source>Longitude: east positive, or E, W</source>
+        <translation>Долгота: восток +, или E, W</translation>
+    </message>
+</context>
+<context>
+    <name>SkyPicture</name>
+    <message>
+        <source>Do not show this again until the next start</source>
+        <translation>Не показывать до следующего запуска</translation>
     </message>
 </context>
 <context>

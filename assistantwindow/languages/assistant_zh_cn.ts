@@ -135,6 +135,29 @@
         <source>The camera library cannot be used.</source>
         <translation>无法使用相机库。</translation>
     </message>
+    <message>
+        <source>Each minute that it is off turns altitude and azimuth by 0.25° about the pole; the total error hardly changes.</source>
+        <translation>时钟每差一分钟，高度和方位就绕天极转 0.25°；总误差几乎不变。</translation>
+    </message>
+</context>
+<context>
+    <name>Aim</name>
+    <message>
+        <source>pole as the air shows it</source>
+        <translation>大气中看到的天极</translation>
+    </message>
+    <message>
+        <source>true pole, no refraction</source>
+        <translation>真天极，无大气折射</translation>
+    </message>
+    <message>
+        <source>true pole, refraction at %1 hPa, %2 °C</source>
+        <translation>真天极，大气折射按 %1 hPa、%2 °C</translation>
+    </message>
+    <message>
+        <source>refracted pole, at %1 hPa, %2 °C</source>
+        <translation>折射后的天极，%1 hPa、%2 °C</translation>
+    </message>
 </context>
 <context>
     <name>AssistantWindow</name>
@@ -176,6 +199,11 @@
     <message>
         <source>Width of the stars: %1 pixels</source>
         <translation>恒星宽度：%1 像素</translation>
+    </message>
+    <message>
+        <source>Aimed at: %1</source>
+        <extracomment>Before a text such as: true pole, no refraction</extracomment>
+        <translation>对准：%1</translation>
     </message>
 </context>
 <context>
@@ -366,16 +394,24 @@
         <translation>用时</translation>
     </message>
     <message>
-        <source>Drift in declination, at the equator, at most</source>
-        <translation>赤道处赤纬漂移，最大</translation>
-    </message>
-    <message>
-        <source>Field rotation, at the equator, at most</source>
-        <translation>赤道处视场旋转，最大</translation>
-    </message>
-    <message>
         <source>Polar alignment</source>
         <translation>极轴校准</translation>
+    </message>
+    <message>
+        <source>Aimed at</source>
+        <translation>对准</translation>
+    </message>
+    <message>
+        <source>Drift in declination, anywhere, at most</source>
+        <translation>赤纬漂移（各处），最大</translation>
+    </message>
+    <message>
+        <source>Angle of field rotation at most, at the equator and at declination 60°</source>
+        <translation>视场旋转角最大值，赤道处和赤纬 60° 处</translation>
+    </message>
+    <message>
+        <source>Date and site</source>
+        <translation>日期和地点</translation>
     </message>
 </context>
 <context>
@@ -515,20 +551,31 @@
         <source>Limit of disk space, MB</source>
         <translation>磁盘空间上限（MB）</translation>
     </message>
+    <message>
+        <source>Air pressure, hPa (0: no refraction)</source>
+        <translation>气压（hPa，0：无大气折射）</translation>
+    </message>
 </context>
 <context>
     <name>SitePanel</name>
     <message>
-        <source>Latitude, north positive</source>
-        <translation>纬度，北为正</translation>
-    </message>
-    <message>
-        <source>Longitude, east positive</source>
-        <translation>经度，东为正</translation>
-    </message>
-    <message>
         <source>With the site, the assistant says which way each bolt must go.</source>
         <translation>有了地点，助手会说明每个螺丝的方向。</translation>
+    </message>
+    <message>
+        <source>Latitude: north positive, or N, S</source>
+        <translation>纬度：北为正，或 N、S</translation>
+    </message>
+    <message>
+        <source>Longitude: east positive, or E, W</source>
+        <translation>经度：东为正，或 E、W</translation>
+    </message>
+</context>
+<context>
+    <name>SkyPicture</name>
+    <message>
+        <source>Do not show this again until the next start</source>
+        <translation>下次启动前不再显示</translation>
     </message>
 </context>
 <context>

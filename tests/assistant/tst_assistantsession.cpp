@@ -25,6 +25,7 @@ private slots:
     void anotherCameraWillDo();
     void secondCameraIsChosen();
     void exposureIsSet();
+    void automaticExposureReachesTheCamera();
     void unpluggedAndBack();
     void failingCameraIsTriedAgain();
     void aFailedRecordingIsSeen();
@@ -125,6 +126,17 @@ void AssistantSessionTest::exposureIsSet()
     }));
     session.setGain(70.0);
     QVERIFY(comes([&] { return session.link().gain == 70.0; }));
+}
+
+void AssistantSessionTest::automaticExposureReachesTheCamera()
+{
+    AssistantSession session({});
+    session.connectCamera();
+    session.setExposure(2000.0);
+    QVERIFY(comes([&] { return session.latest().status.exposureMicroseconds == 2000.0; }));
+    session.setAutomaticExposure(true);
+    QVERIFY(comes([&] { return session.latest().status.exposureMicroseconds > 20000.0; }));
+    QVERIFY(comes([&] { return session.latest().status.stage == Stage::Axis; }));
 }
 
 /// The axis stays known; figures are shown again only with the first new frame.

@@ -19,6 +19,8 @@ private slots:
     void waitsForTheCamera();
     void doesNotGoBackToSaturation();
     void offChangesNothing();
+    void refusedIsNotWantedAgain();
+    void isOrderedOnce();
 };
 
 void AutoExposureTest::better_data()
@@ -94,6 +96,36 @@ void AutoExposureTest::offChangesNothing()
     automatic.setEnabled(true);
     automatic.consider({20000.0, false, 0, ExtractionStatus::TooFewStars});
     QVERIFY(automatic.wanted().has_value());
+}
+
+void AutoExposureTest::refusedIsNotWantedAgain()
+{
+    AutoExposure automatic;
+    const ExposureFacts dark = {20000.0, false, 0, ExtractionStatus::TooFewStars};
+    int wanted = 0;
+    for (int frame = 0; frame < 200; ++frame) {
+        automatic.consider(dark);
+        wanted += automatic.wanted() ? 1 : 0;
+    }
+    QVERIFY2(wanted >= 10 && wanted <= 30, qPrintable(QString::number(wanted)));
+    automatic.consider({20000.0, false, 0, ExtractionStatus::SaturatedSky});
+    QCOMPARE(automatic.wanted().value(), 10000.0); // another one is
+    automatic.setEnabled(true);
+    automatic.consider(dark);
+    QCOMPARE(automatic.wanted().value(), 40000.0); // so is the same after the user's switch
+}
+
+void AutoExposureTest::isOrderedOnce()
+{
+    ExposureOrder order;
+    QCOMPARE(order.due(40000.0), std::optional<double>(40000.0));
+    for (int frame = 0; frame < 5; ++frame)
+        QCOMPARE(order.due(40000.0), std::nullopt);
+    QCOMPARE(order.due(60000.0), std::optional<double>(60000.0));
+    order.forget();
+    QCOMPARE(order.due(60000.0), std::optional<double>(60000.0));
+    QCOMPARE(order.due({}), std::nullopt);
+    QCOMPARE(order.due(60000.0), std::optional<double>(60000.0));
 }
 
 QTEST_GUILESS_MAIN(AutoExposureTest)

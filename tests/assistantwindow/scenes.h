@@ -248,6 +248,11 @@ inline void fill(madestatus::MadeInstrument &instrument, const Scene &scene)
     report.before = madestatus::figuresOf({2500, -3800}, scene.hasSite);
     report.after = madestatus::figuresOf(scene.error, scene.hasSite);
     report.seconds = 343.0;
+    report.utcSeconds = skyframes::november2026;
+    const assistant::Settings settings = settingsOf(scene, false, QString());
+    report.site = settings.site;
+    report.aim = assistant::aimOf(settings, scene.south ? recognition::Hemisphere::South
+                                                        : recognition::Hemisphere::North);
     instrument.figures = report;
 }
 
@@ -258,10 +263,10 @@ inline void addHistory(assistantwindow::AssistantWindow &window,
     if (!instrument.snapshot.status.error)
         return;
     auto &status = instrument.snapshot.status;
-    const double end = status.error->total.arcseconds, utc = status.utcSeconds;
+    const double end = status.error->total.arcseconds;
     for (int i = 0; i <= 60; ++i) {
         status.frame = std::uint64_t(i + 8);
-        status.utcSeconds = utc + 4.0 * i;
+        status.steadySeconds = 4.0 * i;
         status.error->total.arcseconds = end * std::exp((60 - i) / 60.0 * std::log(9000.0 / end));
         window.refresh();
     }

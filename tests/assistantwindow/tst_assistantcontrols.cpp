@@ -120,6 +120,12 @@ private slots:
     void keyboardAloneOperatesTheWindow();
     void exposureSliderTurnsTheAutomaticOff();
     void camerasAreListedWhereThereIsAChoice();
+    void sliderStaysWhileTheCameraFollows();
+    void siteIsTypedWithTheKeyboard();
+    void typedSiteCountsWhenConnecting();
+    void clockHintIsDismissed();
+    void enlargedViewKeepsItsContext_data();
+    void enlargedViewKeepsItsContext();
 };
 
 void AssistantControlsTest::fingerCanHitEveryControl()
@@ -296,6 +302,118 @@ void AssistantControlsTest::camerasAreListedWhereThereIsAChoice()
     shown.instrument.entries.pop_back();
     shown.window->refresh();
     QVERIFY(!camera->isVisible());
+}
+
+void AssistantControlsTest::sliderStaysWhileTheCameraFollows()
+{
+    Shown shown(scenes::numberOf("sky"));
+    auto *const slider = shown.window->findChild<QAbstractSlider *>("slider_exposure");
+    auto *const automatic =
+        shown.window->findChild<QAbstractButton *>("checkBox_automaticExposure");
+    slider->setFocus();
+    for (int i = 0; i < 5; ++i)
+        QTest::keyClick(slider, Qt::Key_PageDown);
+    const int position = slider->value();
+    auto &status = shown.instrument.snapshot.status;
+    const double asked = status.exposureMicroseconds;
+    status.exposureMicroseconds = 500000.0; // frames of the old exposure
+    status.automaticExposure = true;
+    shown.window->refresh();
+    QCOMPARE(slider->value(), position);
+    QVERIFY(!automatic->isChecked());
+    status.exposureMicroseconds = asked;
+    status.automaticExposure = false;
+    shown.window->refresh();
+    QCOMPARE(slider->value(), position);
+    status.exposureMicroseconds = 500000.0; // then the camera leads again
+    shown.window->refresh();
+    QVERIFY(slider->value() > position);
+}
+
+/// As an observer in the south does: with letters, without the mouse.
+void AssistantControlsTest::siteIsTypedWithTheKeyboard()
+{
+    const Shown shown(scenes::numberOf("connect"));
+    auto *const latitude = shown.window->findChild<QAbstractSpinBox *>("doubleSpinBox_latitude");
+    auto *const longitude = shown.window->findChild<QAbstractSpinBox *>("doubleSpinBox_longitude");
+    latitude->setFocus();
+    settle();
+    QTest::keyClicks(latitude, "33 54 S");
+    QTest::keyClick(latitude, Qt::Key_Return);
+    QTRY_COMPARE(QApplication::focusWidget(), longitude);
+    QTest::qWait(20); // the field selects its text
+    QTest::keyClicks(longitude, "18.4");
+    QTest::keyClick(longitude, Qt::Key_Return);
+    const auto &site = shown.window->currentSettings().site;
+    QVERIFY(site.has_value());
+    QCOMPARE(site->latitude, -33.9);
+    QCOMPARE(site->longitude, 18.4);
+    QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("pushButton_connect"));
+    // A click puts the cursor into the text; typing replaces it all the same.
+    QTest::mouseClick(longitude, Qt::LeftButton);
+    QTest::qWait(20);
+    QTest::keyClicks(longitude, "70.5w");
+    QTest::keyClick(longitude, Qt::Key_Tab);
+    QCOMPARE(shown.window->currentSettings().site->longitude, -70.5);
+}
+
+void AssistantControlsTest::typedSiteCountsWhenConnecting()
+{
+    const Shown shown(scenes::numberOf("connect"));
+    for (const char *name : {"doubleSpinBox_latitude", "doubleSpinBox_longitude"}) {
+        auto *const field = shown.window->findChild<QAbstractSpinBox *>(name);
+        field->setFocus();
+        settle();
+        QTest::keyClicks(field, "12");
+    }
+    QTest::keyClick(shown.window.get(), Qt::Key_F2); // the focus stays in the field
+    QVERIFY(shown.window->currentSettings().site.has_value());
+    QCOMPARE(shown.window->currentSettings().site->longitude, 12.0);
+}
+
+void AssistantControlsTest::clockHintIsDismissed()
+{
+    Shown shown(scenes::numberOf("bolts"));
+    auto *const button = shown.window->findChild<QAbstractButton *>("pushButton_dismissHint");
+    QVERIFY(button && button->isVisible());
+    QVERIFY(!button->accessibleName().isEmpty());
+    QTest::mouseClick(button, Qt::LeftButton);
+    QVERIFY(!button->isVisible());
+    QVERIFY(shown.window->findChild<QWidget *>("mainPage")->isVisible()); // not the large view
+    shown.window->refresh();
+    QVERIFY(!button->isVisible());
+}
+
+void AssistantControlsTest::enlargedViewKeepsItsContext_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("isEnlarged");
+    QTest::newRow("below a minute") << "near" << true;
+    QTest::newRow("aligned") << "aligned" << true;
+    QTest::newRow("far") << "south" << false;
+}
+
+/// The whole frame with its stars' rings in the upper right corner, the scale bar in the lower
+/// left.
+void AssistantControlsTest::enlargedViewKeepsItsContext()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, isEnlarged);
+    const Shown shown(scenes::numberOf(qPrintable(name)));
+    const auto &colours = assistantwindow::theme(false);
+    const QImage image = shown.window->findChild<QLabel *>("label_picture")->grab().toImage();
+    const auto count = [&image](const QRect &part, const QColor &colour) {
+        int found = 0;
+        for (int y = part.top(); y <= part.bottom(); ++y)
+            for (int x = part.left(); x <= part.right(); ++x)
+                found += image.pixelColor(x, y) == colour ? 1 : 0;
+        return found;
+    };
+    const QRect bar(10, image.height() - 20, image.width() / 3, 15);
+    QCOMPARE(count(bar, colours.text) > 50, isEnlarged);
+    // The frame's border, from one side to the other.
+    const QRect corner(image.width() * 7 / 10, 4, image.width() * 3 / 10 - 4, 8);
+    QCOMPARE(count(corner, colours.border) > corner.width() / 2, isEnlarged);
 }
 
 QTEST_MAIN(AssistantControlsTest)

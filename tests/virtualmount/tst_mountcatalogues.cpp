@@ -42,7 +42,7 @@ const QMap<QString, QSet<QString>> &loanWords()
         {"RU", {"Shift"}},
         {"KO", {"Shift"}},
         {"FR", {"&Home", "&Latitude", "L&ongitude", "&Date"}},
-        {"DE", {"&Home", "◀ West", "West", "%1 West", "&Seeing"}},
+        {"DE", {"&Home", "◀ West", "West ▶", "West", "%1 West", "&Seeing"}},
         {"ES", {"&Home"}},
         {"PT", {"&Home", "&Latitude", "L&ongitude", "Shift"}},
         {"IT", {"&Home", "Camera"}},

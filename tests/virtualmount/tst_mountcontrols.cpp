@@ -26,6 +26,7 @@ private slots:
     void initTestCase();
     void bolts_data();
     void bolts();
+    void southernEastIsOnTheLeft();
     void aHeldButtonRepeats();
     void axisTurns_data();
     void axisTurns();
@@ -95,6 +96,31 @@ void MountControlsTest::bolts()
                      textOf(shown.window, "azimuthCount"),
                  counts);
     }
+}
+
+/// Facing the southern pole, east is on the left: so are its buttons and its key.
+void MountControlsTest::southernEastIsOnTheLeft()
+{
+    const SkyFileFixture file;
+    file.writeText("[site]\nlatitude = -34\n[mount]\nbolt_azimuth = 0\n");
+    const ShownWindow shown(file.path());
+    const auto xOf = [&](const char *name) {
+        return named<QWidget>(shown.window, name).geometry().center().x();
+    };
+    QVERIFY(xOf("azimuthEast") < xOf("azimuthEastFine"));
+    QVERIFY(xOf("azimuthEastFine") < xOf("azimuthWestFine"));
+    QVERIFY(xOf("azimuthWestFine") < xOf("azimuthWest"));
+    QCOMPARE(named<QAbstractButton>(shown.window, "azimuthEast").text(), QString("◀ East"));
+    press(Qt::Key_Left);
+    QVERIFY(near(file.state().boltAzimuth, coarse, 1e-7));
+    press(Qt::Key_Right, Qt::ShiftModifier);
+    QVERIFY(near(file.state().boltAzimuth, coarse - fine, 1e-7));
+    clickOn(shown.window, "azimuthWest");
+    QVERIFY(near(file.state().boltAzimuth, -fine, 1e-7));
+    file.writeText("[site]\nlatitude = 34\n[mount]\nbolt_azimuth = 0\n");
+    QTRY_VERIFY(xOf("azimuthEast") > xOf("azimuthWest"));
+    press(Qt::Key_Left);
+    QVERIFY(near(file.state().boltAzimuth, -coarse, 1e-7));
 }
 
 void MountControlsTest::aHeldButtonRepeats()

@@ -21,6 +21,7 @@ private slots:
     void initTestCase();
     void newExercise_data();
     void newExercise();
+    void theAngleLineCanBeLeftOut();
     void everyExerciseIsAnother();
     void aHeldKeySetsOne();
     void aFaultyFileIsKept();
@@ -76,6 +77,16 @@ void MountExerciseTest::newExercise()
     QCOMPARE(textOf(shown.window, "angles"), QString());
     press(Qt::Key_Right); // the keys still move the bolts
     QCOMPARE(textOf(shown.window, "azimuthCount"), QString("0.25 east"));
+}
+
+void MountExerciseTest::theAngleLineCanBeLeftOut()
+{
+    const SkyFileFixture file;
+    ShownWindow shown(file.path());
+    shown.window.leaveOutAngles();
+    clickOn(shown.window, "showTruth");
+    QVERIFY(textOf(shown.window, "truth").contains("misses the pole"));
+    QCOMPARE(textOf(shown.window, "angles"), QString());
 }
 
 void MountExerciseTest::everyExerciseIsAnother()

@@ -81,7 +81,17 @@ void AssistantHands::connectCamera()
     // Once the sky is recognised, the turn of the axis is a number.
     waitFor([&] { return text(QStringLiteral("label_axisTurn")) != before; }, skyPatience,
             "the sky is not recognised");
+    dismissHint();
     arrive(QStringLiteral("sky"));
+}
+
+/// One that may be true all night, such as that of the clock.
+void AssistantHands::dismissHint()
+{
+    const QString name = QStringLiteral("pushButton_dismissHint");
+    const auto *const button = window.findChild<QAbstractButton *>(name);
+    if (button && button->isVisible())
+        click(name);
 }
 
 void AssistantHands::turnAxis()

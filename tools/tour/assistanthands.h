@@ -39,6 +39,7 @@ public:
     std::optional<double> number(const QString &label, const char *property = "arcseconds") const;
 
 private:
+    void dismissHint();
     void pause() const;
     void say(const QString &what) const;
     void arrive(const QString &name) const;

@@ -95,6 +95,7 @@ void run(const QCommandLineParser &options)
             QFile sheet(":/qss/default.qss");
             if (sheet.open(QIODevice::ReadOnly))
                 mount->setStyleSheet(QString::fromUtf8(sheet.readAll()));
+            mount->leaveOutAngles();
             placeSideBySide(window, *mount);
         }
         window.show();
@@ -129,18 +130,24 @@ void run(const QCommandLineParser &options)
 int main(int argc, char *argv[])
 {
     setvbuf(stdout, nullptr, _IOLBF, 0); // prints each action immediately, also into a file
-    prepareApplication();
-    QApplication application(argc, argv);
+    QCoreApplication::setApplicationVersion(QStringLiteral(QUORVANDEL_VERSION));
     QCommandLineParser options;
     options.setApplicationDescription("Runs the assistant's alignment by itself on the virtual "
                                       "camera. At the end the result stays until a key is "
                                       "pressed.");
     options.addHelpOption();
+    options.addVersionOption();
     options.addOption({"south", "Align with the southern pole."});
     options.addOption({"fast", "Without pauses; exits by itself."});
     options.addOption(
         {"pictures", "Save a picture of every step to <folder>; exits by itself.", "folder"});
     options.addOption({"language", languageCodes() + ".", "code", "EN"});
+    if (asksForText(argc, argv)) {
+        const QCoreApplication unseen(argc, argv);
+        options.process(unseen); // prints and ends the process
+    }
+    prepareApplication();
+    QApplication application(argc, argv);
     options.process(application);
     // Keeps the user's own practice sky unchanged.
     const QTemporaryDir ownSky;

@@ -220,10 +220,15 @@ void run(const QCommandLineParser &options)
 int main(int argc, char *argv[])
 {
     setvbuf(stdout, nullptr, _IOLBF, 0); // prints each action immediately, also into a file
-    prepareApplication();
-    QApplication application(argc, argv);
+    QCoreApplication::setApplicationVersion(QStringLiteral(QUORVANDEL_VERSION));
     QCommandLineParser options;
     addTourOptions(options);
+    if (asksForText(argc, argv)) {
+        const QCoreApplication unseen(argc, argv);
+        options.process(unseen); // prints and ends the process
+    }
+    prepareApplication();
+    QApplication application(argc, argv);
     options.process(application);
     if (const QString fault = tourOptionsFault(options); !fault.isEmpty()) {
         fprintf(stderr, "quorvandel-tour: %s\n", qPrintable(fault));

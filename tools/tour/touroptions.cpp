@@ -12,6 +12,7 @@ void addTourOptions(QCommandLineParser &options)
     options.setApplicationDescription("Runs the alignment by itself on the virtual camera. At the "
                                       "end the result stays until a key is pressed.");
     options.addHelpOption();
+    options.addVersionOption();
     options.addOption({"south", "Align with the southern pole."});
     options.addOption({"fast", "Without pauses, as fast as frames arrive; exits by itself."});
     options.addOption(

@@ -554,5 +554,13 @@ Strg+1 bis Strg+6 drehen die Achse, Esc verlässt ein Feld.</translation>
         <translation>Die Montierung ist schon auf den Pol ausgerichtet.
 „Neue Übung“ rückt sie vom Pol weg.</translation>
     </message>
+    <message>
+        <source>West ▶</source>
+        <translation>West ▶</translation>
+    </message>
+    <message>
+        <source>◀ East</source>
+        <translation>◀ Ost</translation>
+    </message>
 </context>
 </TS>

@@ -554,5 +554,13 @@ Ctrl+1 a Ctrl+6 giran el eje; Esc sale de un campo.</translation>
         <translation>La montura ya está alineada.
 «Nuevo ejercicio» la aparta del polo.</translation>
     </message>
+    <message>
+        <source>West ▶</source>
+        <translation>Oeste ▶</translation>
+    </message>
+    <message>
+        <source>◀ East</source>
+        <translation>◀ Este</translation>
+    </message>
 </context>
 </TS>

@@ -554,5 +554,13 @@ Ctrl+1 à Ctrl+6 tournent l&apos;axe, Échap quitte un champ.</translation>
         <translation>La monture est déjà alignée.
 «&#xa0;Nouvel exercice&#xa0;» l&apos;écarte du pôle.</translation>
     </message>
+    <message>
+        <source>West ▶</source>
+        <translation>Ouest ▶</translation>
+    </message>
+    <message>
+        <source>◀ East</source>
+        <translation>◀ Est</translation>
+    </message>
 </context>
 </TS>

@@ -554,5 +554,13 @@ Ctrl+1 … Ctrl+6 ruotano l&apos;asse, Esc esce da un campo.</translation>
         <translation>La montatura è già allineata.
 «Nuovo esercizio» la allontana dal polo.</translation>
     </message>
+    <message>
+        <source>West ▶</source>
+        <translation>Ovest ▶</translation>
+    </message>
+    <message>
+        <source>◀ East</source>
+        <translation>◀ Est</translation>
+    </message>
 </context>
 </TS>

@@ -554,5 +554,13 @@ Ctrl+1 ～ Ctrl+6 で軸を回し、Esc で入力欄を離れます。</translat
         <translation>赤道儀の極軸はすでに合っています。
 「新しい練習」で極からずらせます。</translation>
     </message>
+    <message>
+        <source>West ▶</source>
+        <translation>西 ▶</translation>
+    </message>
+    <message>
+        <source>◀ East</source>
+        <translation>◀ 東</translation>
+    </message>
 </context>
 </TS>

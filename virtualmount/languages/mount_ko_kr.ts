@@ -554,5 +554,13 @@ Ctrl+1~Ctrl+6으로 축을 돌리고 Esc로 입력란에서 나옵니다.</trans
         <translation>적도의의 극축이 이미 맞춰져 있습니다.
 ‘새 연습’을 누르면 극에서 벗어납니다.</translation>
     </message>
+    <message>
+        <source>West ▶</source>
+        <translation>서쪽 ▶</translation>
+    </message>
+    <message>
+        <source>◀ East</source>
+        <translation>◀ 동쪽</translation>
+    </message>
 </context>
 </TS>

@@ -554,5 +554,13 @@ Ctrl+1 a Ctrl+6 rodam o eixo; Esc sai de um campo.</translation>
         <translation>A montagem já está alinhada.
 “Novo exercício” afasta-a do polo.</translation>
     </message>
+    <message>
+        <source>West ▶</source>
+        <translation>Oeste ▶</translation>
+    </message>
+    <message>
+        <source>◀ East</source>
+        <translation>◀ Leste</translation>
+    </message>
 </context>
 </TS>

@@ -554,5 +554,13 @@ Ctrl+1 … Ctrl+6 поворачивают ось, Esc — выход из по�
         <translation>Монтировка уже выставлена по полюсу.
 «Новое упражнение» уводит её от полюса.</translation>
     </message>
+    <message>
+        <source>West ▶</source>
+        <translation>Зап. ▶</translation>
+    </message>
+    <message>
+        <source>◀ East</source>
+        <translation>◀ Вост.</translation>
+    </message>
 </context>
 </TS>

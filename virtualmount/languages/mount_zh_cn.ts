@@ -554,5 +554,13 @@ Ctrl+1 至 Ctrl+6 转动赤经轴，Esc 离开输入框。</translation>
         <translation>赤道仪已经对准天极。
 “新练习”会让它偏离天极。</translation>
     </message>
+    <message>
+        <source>West ▶</source>
+        <translation>向西 ▶</translation>
+    </message>
+    <message>
+        <source>◀ East</source>
+        <translation>◀ 向东</translation>
+    </message>
 </context>
 </TS>

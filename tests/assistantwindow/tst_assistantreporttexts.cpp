@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+// What does the report's page say?
+#include "assistantwindow/aimtext.h"
+#include "assistantwindow/report.h"
+
+#include <QtTest>
+
+using namespace assistantwindow;
+using assistant::Aim;
+
+namespace
+{
+const QLocale english(QLocale::English, QLocale::UnitedKingdom);
+
+QString valueOf(const std::vector<ReportRow> &rows, const QString &name)
+{
+    for (const ReportRow &row : rows)
+        if (row.name == name)
+            return row.value;
+    return {};
+}
+} // namespace
+
+class AssistantReportTextsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { qputenv("TZ", "Asia/Kathmandu"); }
+    void momentIsLocal();
+    void aims_data();
+    void aims();
+    void rowsHoldAll();
+    void withoutSite();
+};
+
+void AssistantReportTextsTest::momentIsLocal()
+{
+    const QString text = momentText(1795204800.0, english); // 2026-11-20, 20:00 UTC
+    QVERIFY2(text.contains("21/11/2026 01:45") && text.endsWith("(UTC+5:45)"), qPrintable(text));
+}
+
+void AssistantReportTextsTest::aims_data()
+{
+    QTest::addColumn<int>("pole");
+    QTest::addColumn<double>("pressure");
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char *name, Aim::Pole pole, double pressure, const char *text) {
+        QTest::newRow(name) << int(pole) << pressure << QString::fromUtf8(text);
+    };
+    row("true", Aim::Pole::True, 1013.25, "true pole, refraction at 1013 hPa, -4\u00a0°C");
+    row("refracted", Aim::Pole::Refracted, 850.0, "refracted pole, at 850 hPa, -4\u00a0°C");
+    row("no air", Aim::Pole::True, 0.0, "true pole, no refraction");
+    row("no air, refracted", Aim::Pole::Refracted, 0.0, "true pole, no refraction");
+    row("no site", Aim::Pole::Seen, 0.0, "pole as the air shows it");
+}
+
+void AssistantReportTextsTest::aims()
+{
+    QFETCH(int, pole);
+    QFETCH(double, pressure);
+    QTEST(aimText({Aim::Pole(pole), pressure, -4.0}, english), "text");
+}
+
+void AssistantReportTextsTest::rowsHoldAll()
+{
+    assistant::Report report;
+    report.utcSeconds = 1795204800.0;
+    report.site = astrometry::Site{-33.9, 18.4};
+    report.aim = {Aim::Pole::Refracted, 850.0, 12.0};
+    report.after.total = {60.0, 1.0};
+    report.seconds = 343.0;
+    const std::vector<ReportRow> rows = reportRows(report, english);
+    QCOMPARE(valueOf(rows, "Time taken"), QStringLiteral("5:43"));
+    QCOMPARE(valueOf(rows, "Aimed at"), aimText(report.aim, english));
+    QCOMPARE(valueOf(rows, "Date and site"),
+             momentText(report.utcSeconds, english) + "; 33.900° S, 18.400° E");
+    QCOMPARE(valueOf(rows, "Drift in declination, anywhere, at most"),
+             QStringLiteral("15.8″ an hour"));
+    QCOMPARE(
+        valueOf(rows, "Angle of field rotation at most, at the equator and at declination 60°"),
+        QStringLiteral("15.8″, 31.5″ an hour"));
+}
+
+void AssistantReportTextsTest::withoutSite()
+{
+    const std::vector<ReportRow> rows = reportRows({}, english);
+    QCOMPARE(valueOf(rows, "in altitude"), dash());
+    QCOMPARE(valueOf(rows, "Date and site"), momentText(0.0, english));
+}
+
+QTEST_MAIN(AssistantReportTextsTest)
+#include "tst_assistantreporttexts.moc"
