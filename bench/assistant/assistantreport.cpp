@@ -10,9 +10,10 @@
 
 namespace
 {
-constexpr char usage[] = "usage: assistantreport starts|library|night|speed [NUMBER]\n"
+constexpr char usage[] = "usage: assistantreport starts|library|clock|night|speed [NUMBER]\n"
                          "  starts [COUNT]   alignments from random starts, painted (20)\n"
                          "  library [COUNT]  the same on the camera library, in real time (20)\n"
+                         "  clock [HOURS]    starts with the computer's clock ahead (24)\n"
                          "  night [HOURS]    bolts at rest (8)\n"
                          "  speed [FRAMES]   frame to status (300)\n";
 
@@ -32,6 +33,12 @@ int main(int argc, char *argv[])
         reportStarts(number(20), alignOn<PaintedMount>);
     else if (is("library"))
         reportStarts(number(20), alignOn<LibraryMount>);
+    else if (is("clock"))
+        reportStarts(20, [hours = number(24)](const virtualsky::SkyState &sky) {
+            PaintedMount mount(sky, settingsFor(sky));
+            mount.setClockError(3600.0 * hours);
+            return alignAsTold(mount);
+        });
     else if (is("night"))
         reportNight(number(8));
     else if (is("speed"))

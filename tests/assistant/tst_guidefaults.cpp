@@ -24,6 +24,8 @@ private slots:
     void clockJumps_data();
     void clockJumps();
     void clockIsUnsure();
+    void clockIsBehind_data();
+    void clockIsBehind();
     void nearTheEarthsPole();
     void noFrames();
 
@@ -293,6 +295,39 @@ void GuideFaultsTest::clockIsUnsure()
     QVERIFY(says(unsure, AdviceCode::ClockUnsure));
     const Status sure = guide.observe({mount.lastFrame(), *sky.date + 1.0, 1.0, 200000.0, true});
     QVERIFY(!says(sure, AdviceCode::ClockUnsure));
+}
+
+void GuideFaultsTest::clockIsBehind_data()
+{
+    QTest::addColumn<double>("by"); // seconds
+    QTest::newRow("a day") << 86400.0;
+    QTest::newRow("from 1970 on") << 1795204800.0;
+}
+
+/// A computer that keeps no time while it is off: nothing is shown against a pole of another date.
+/// The axis is measured nevertheless, and once the clock is set the figures are right.
+void GuideFaultsTest::clockIsBehind()
+{
+    QFETCH(double, by);
+    const virtualsky::SkyState sky = plainNight();
+    PaintedMount mount(sky, settingsFor(sky));
+    mount.setClockError(-by);
+    mount.setClockBehind(true);
+    Status status = nextThatSays(mount, AdviceCode::TurnAxis);
+    QVERIFY(says(status, AdviceCode::ClockBehind) && !says(status, AdviceCode::ClockUnsure));
+    QVERIFY(turnAxisAsTold(mount));
+    for (int i = 0; i < 30; ++i) {
+        status = mount.next();
+        QVERIFY(!status.error && !status.firstError && !status.pole);
+        QVERIFY(says(status, AdviceCode::ClockBehind));
+    }
+    QVERIFY(saysFirst(status, AdviceCode::ClockBehind));
+    mount.setClockError(0.0);
+    mount.setClockBehind(false);
+    const auto after = nextFigure(mount);
+    QVERIFY(after && after->stage == Stage::Bolts);
+    QVERIFY(isTrue(*after, mount));
+    QVERIFY(!says(*after, AdviceCode::ClockBehind));
 }
 
 void GuideFaultsTest::nearTheEarthsPole()
