@@ -34,6 +34,7 @@ int rankOf(AdviceCode code)
     case AdviceCode::RecordingFailed: // these two end when recording is switched off
     case AdviceCode::RecordingFull:
         return 2;
+    case AdviceCode::ClockBehind:
     case AdviceCode::PoleThatWay:
     case AdviceCode::Focus:
         return 3;

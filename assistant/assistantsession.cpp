@@ -222,8 +222,10 @@ void AssistantSession::lookAt(const NewestFrame::Taken &taken)
         synchronised = clocks.synchronised();
         synchronisedAt = taken.steadySeconds;
     }
+    // A clock that is synchronised is right, whatever was written while it was not.
+    const bool behind = !synchronised && isBehind(taken.utcSeconds, clocks.certainPast);
     Status status = guide.observe({taken.frame, taken.utcSeconds, taken.steadySeconds,
-                                   taken.exposureMicroseconds, synchronised});
+                                   taken.exposureMicroseconds, synchronised, behind});
     if (const auto wanted = exposureOrder.due(guide.wantedExposure())) {
         // Under the lock: a value that the user sets meanwhile comes after this one.
         const std::lock_guard<std::mutex> lock(mutex);

@@ -2,9 +2,13 @@
 // The clocks, steps of the computer's, and the kernel's word on it.
 #include "assistant/clocks.h"
 
+#include "assistant/settingsstore.h"
+
+#include <algorithm>
 #include <chrono>
 #include <cmath>
 #include <ctime>
+#include <sys/stat.h>
 #include <sys/timex.h>
 
 namespace assistant
@@ -29,7 +33,29 @@ Clocks systemClocks()
                 clock_gettime(CLOCK_BOOTTIME, &now);
                 return double(now.tv_sec) + 1e-9 * double(now.tv_nsec);
             },
-            isClockSynchronised};
+            isClockSynchronised, newestDate(datedFiles())};
+}
+
+bool isBehind(double utcSeconds, double certainPast)
+{
+    return certainPast > 0.0 && utcSeconds < certainPast - datesSlack;
+}
+
+std::vector<std::string> datedFiles()
+{
+    return {"/proc/self/exe", settingsPath().toStdString(), "/var/lib/dpkg/status",
+            "/etc/ld.so.cache", "/var/lib/systemd/timesync/clock"};
+}
+
+double newestDate(const std::vector<std::string> &paths)
+{
+    double newest = 0.0;
+    for (const std::string &path : paths) {
+        struct stat found = {};
+        if (stat(path.c_str(), &found) == 0)
+            newest = std::max(newest, double(found.st_mtim.tv_sec));
+    }
+    return newest;
 }
 
 bool saysSynchronised(int state)

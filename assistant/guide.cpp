@@ -44,6 +44,12 @@ bool seesOtherwise(const Settings &a, const Settings &b)
     return !sameSite || a.pressure != b.pressure || a.temperature != b.temperature;
 }
 
+bool isSaid(const Status &status, AdviceCode code)
+{
+    return std::any_of(status.advice.begin(), status.advice.end(),
+                       [code](const Advice &advice) { return advice.code == code; });
+}
+
 double medianWidth(const std::vector<recognition::DetectedStar> &stars)
 {
     std::vector<double> widths;
@@ -217,7 +223,8 @@ void Guide::recognise(const Observation &observation, Status &status)
     exposure.consider({observation.exposureMicroseconds, recognised,
                        recognised ? found.matched.size() : solidStars(status.stars), lost});
     status.sky = std::make_shared<const Recognition>(std::move(found));
-    if (const auto pole = poleOf(*status.sky, settings)) {
+    const auto pole = poleOf(*status.sky, settings);
+    if (pole && !observation.clockBehind) {
         status.pole = pole->place;
         status.poleCovariance = pole->covariance;
     }
@@ -309,7 +316,7 @@ void Guide::turnBolts(const Observation &observation, Status &status)
         return;
     }
     const auto error = frameErrorOf(frame, tracker.axis(), settings);
-    if (!error)
+    if (!error || observation.clockBehind)
         return;
     status.error = figuresOf(steady.add(*error, observation.steadySeconds), settings.site);
     if (!firstError)
@@ -329,11 +336,13 @@ void Guide::fillAxis(Status &status) const
     axis.sigmaArcseconds = tracker.axis().sigmaArcseconds;
 }
 
-void Guide::adviseStage(Status &status) const
+void Guide::adviseStage(const Observation &observation, Status &status) const
 {
     if (stage == Stage::Sky)
         status.advice.push_back(
             {AdviceCode::Searching, double(status.sky->matched.size()), 0.0, {}});
+    else if (stage == Stage::Bolts && observation.clockBehind)
+        status.advice.push_back({AdviceCode::ClockBehind, 0.0, 0.0, {}});
     else if (stage == Stage::Axis || !status.error)
         status.advice.push_back(adviceOnAxis(status.axis));
     else
@@ -350,7 +359,9 @@ void Guide::adviseHints(const Observation &observation, Status &status) const
 {
     if (clockStep && observation.steadySeconds < clockStep->until)
         status.advice.push_back(clockStep->advice);
-    else if (!observation.clockSynchronised)
+    else if (observation.clockBehind && !isSaid(status, AdviceCode::ClockBehind))
+        status.advice.push_back({AdviceCode::ClockBehind, 0.0, 0.0, {}});
+    else if (!observation.clockSynchronised && !observation.clockBehind)
         status.advice.push_back({AdviceCode::ClockUnsure, 0.0, 0.0, {}});
     if (!settings.site)
         status.advice.push_back({AdviceCode::SiteMissing, 0.0, 0.0, {}});
@@ -379,7 +390,7 @@ void Guide::advise(const Observation &observation, Status &status) const
     adviseEvents(observation.steadySeconds, status);
     if (settings.site && !observerInUse)
         status.advice.push_back({AdviceCode::WrongHemisphere, 0.0, 0.0, {}});
-    adviseStage(status);
+    adviseStage(observation, status);
     adviseHints(observation, status);
     orderAdvice(status.advice);
 }

@@ -23,6 +23,9 @@ struct Observation {
     double steadySeconds = 0.0; ///< the same by a clock that nobody sets
     double exposureMicroseconds = 0.0;
     bool clockSynchronised = true; ///< the computer's clock, by `isClockSynchronised`
+    /// By `isBehind`. Then there are no figures and no pole: without the date, nobody knows where
+    /// among the stars the pole is, nor which way is up.
+    bool clockBehind = false;
 };
 
 /// The three stages for one camera. Not for two threads at a time; no thread, no clock and no file
@@ -59,7 +62,7 @@ private:
     void measureAgain(AdviceCode why, double steadySeconds);
     void fillAxis(Status &status) const;
     void advise(const Observation &observation, Status &status) const;
-    void adviseStage(Status &status) const;
+    void adviseStage(const Observation &observation, Status &status) const;
     void adviseEvents(double steadySeconds, Status &status) const;
     void adviseHints(const Observation &observation, Status &status) const;
 

@@ -18,7 +18,7 @@ class SlipWatch
 {
 public:
     /// Degrees of turn from which a slip is looked for.
-    static constexpr double leastTurn = 10.0;
+    static constexpr double leastTurn = 5.0;
     static constexpr std::size_t mostKept = 40;
 
     /// Takes a recognised frame of the time in which the bolts are turned.

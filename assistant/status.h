@@ -46,6 +46,7 @@ enum class AdviceCode {
                      ///< degrees, 0 up, positive clockwise
     WrongHemisphere, ///< the site's latitude has the other sign than the sky that is seen
     ClockUnsure,     ///< the computer's clock is not synchronised
+    ClockBehind,     ///< the clock reads earlier than a moment that has passed
     ClockJumped,     ///< the clock was set by `first` seconds during the alignment
     TurnAxis,        ///< turn the RA axis, either way; `first`: degrees turned so far
     TurnFurther,     ///< `first`: degrees turned so far

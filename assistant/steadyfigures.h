@@ -11,9 +11,11 @@ namespace assistant
 {
 /// The mean over the last frames as long as the axis stays where it is: at most `most` frames of at
 /// most `longest` seconds. A frame that differs from the mean by more than its own error allows
-/// begins again. The claim shrinks with the root of the frames' number, but of no more than
-/// `independent` of them and to no less than `floor`, since the stars' pixels, and with them a part
-/// of the errors, are the same in all frames.
+/// begins again; a drift leaves only the newest frames, so many that their mean hardly lags. The
+/// claim shrinks with the root of the frames' number, but of no more than `independent` of them and
+/// to no less than `floor`, since the stars' pixels, and with them a part of the errors, are the
+/// same in all frames. It grows by what the mean lags behind the newest frame by the drift that is
+/// seen, be it a bolt's or the noise's.
 class SteadyFigures
 {
 public:
@@ -30,8 +32,16 @@ private:
         FrameError error;
         double seconds;
     };
+    /// How fast the axis moves, arcseconds a second, and the rates' variances.
+    struct Drift {
+        double x = 0.0, y = 0.0;
+        double xx = 0.0, yy = 0.0;
+    };
     bool hasMoved(const FrameError &error) const;
-    FrameError mean() const;
+    Drift drift() const;
+    std::size_t usable(const Drift &by) const; ///< newest frames
+    double meanAge(std::size_t number) const;  ///< seconds
+    FrameError mean(std::size_t number) const;
 
     std::deque<Sample> recent;
 };

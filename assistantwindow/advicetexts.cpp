@@ -60,6 +60,8 @@ constexpr Row rows[] = {
      QT_TRANSLATE_NOOP("Advice", "These stars are of the other hemisphere. Check the latitude.")},
     {AdviceCode::ClockUnsure, AdviceMood::Warning, Number::None,
      QT_TRANSLATE_NOOP("Advice", "The computer’s clock may be wrong. Check date and time.")},
+    {AdviceCode::ClockBehind, AdviceMood::Warning, Number::None,
+     QT_TRANSLATE_NOOP("Advice", "The computer’s clock is behind. Set date and time.")},
     {AdviceCode::ClockJumped, AdviceMood::Warning, Number::Whole,
      QT_TRANSLATE_NOOP("Advice", "The clock was set by %1 s. Check date and time.")},
     {AdviceCode::TurnAxis, AdviceMood::Calm, Number::None,

@@ -76,6 +76,10 @@
         <translation>Die Uhr des Rechners geht vielleicht falsch. Prüfen Sie Datum und Zeit.</translation>
     </message>
     <message>
+        <source>The computer’s clock is behind. Set date and time.</source>
+        <translation>Die Uhr des Rechners geht nach. Stellen Sie Datum und Zeit.</translation>
+    </message>
+    <message>
         <source>The clock was set by %1 s. Check date and time.</source>
         <translation>Die Uhr wurde um %1 s verstellt. Prüfen Sie Datum und Zeit.</translation>
     </message>

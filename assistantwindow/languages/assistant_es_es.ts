@@ -76,6 +76,10 @@
         <translation>El reloj del ordenador puede estar mal. Revise la fecha y la hora.</translation>
     </message>
     <message>
+        <source>The computer’s clock is behind. Set date and time.</source>
+        <translation>El reloj del ordenador va atrasado. Ajuste la fecha y la hora.</translation>
+    </message>
+    <message>
         <source>The clock was set by %1 s. Check date and time.</source>
         <translation>El reloj se cambió %1 s. Revise la fecha y la hora.</translation>
     </message>

@@ -76,6 +76,10 @@
         <translation>L&apos;horloge de l&apos;ordinateur est peut-être fausse. Vérifiez la date et l&apos;heure.</translation>
     </message>
     <message>
+        <source>The computer’s clock is behind. Set date and time.</source>
+        <translation>L&apos;horloge de l&apos;ordinateur retarde. Réglez la date et l&apos;heure.</translation>
+    </message>
+    <message>
         <source>The clock was set by %1 s. Check date and time.</source>
         <translation>L&apos;horloge a été changée de %1 s. Vérifiez la date et l&apos;heure.</translation>
     </message>

@@ -76,6 +76,10 @@
         <translation>L&apos;orologio del computer può essere sbagliato. Controllare data e ora.</translation>
     </message>
     <message>
+        <source>The computer’s clock is behind. Set date and time.</source>
+        <translation>L&apos;orologio del computer è indietro. Impostare data e ora.</translation>
+    </message>
+    <message>
         <source>The clock was set by %1 s. Check date and time.</source>
         <translation>L&apos;orologio è stato spostato di %1 s. Controllare data e ora.</translation>
     </message>

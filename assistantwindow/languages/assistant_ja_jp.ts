@@ -76,6 +76,10 @@
         <translation>コンピューターの時計が合っていないかもしれません。日時を確かめてください。</translation>
     </message>
     <message>
+        <source>The computer’s clock is behind. Set date and time.</source>
+        <translation>コンピューターの時計が遅れています。日時を合わせてください。</translation>
+    </message>
+    <message>
         <source>The clock was set by %1 s. Check date and time.</source>
         <translation>時計が %1 秒変更されました。日時を確かめてください。</translation>
     </message>

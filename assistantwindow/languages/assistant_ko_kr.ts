@@ -76,6 +76,10 @@
         <translation>컴퓨터 시계가 틀릴 수 있습니다. 날짜와 시간을 확인하세요.</translation>
     </message>
     <message>
+        <source>The computer’s clock is behind. Set date and time.</source>
+        <translation>컴퓨터 시계가 늦습니다. 날짜와 시간을 맞추세요.</translation>
+    </message>
+    <message>
         <source>The clock was set by %1 s. Check date and time.</source>
         <translation>시계가 %1초 바뀌었습니다. 날짜와 시간을 확인하세요.</translation>
     </message>

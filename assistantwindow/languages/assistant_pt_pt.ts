@@ -76,6 +76,10 @@
         <translation>O relógio do computador pode estar errado. Verifique a data e a hora.</translation>
     </message>
     <message>
+        <source>The computer’s clock is behind. Set date and time.</source>
+        <translation>O relógio do computador está atrasado. Acerte a data e a hora.</translation>
+    </message>
+    <message>
         <source>The clock was set by %1 s. Check date and time.</source>
         <translation>O relógio foi acertado em %1 s. Verifique a data e a hora.</translation>
     </message>

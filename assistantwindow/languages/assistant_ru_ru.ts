@@ -76,6 +76,10 @@
         <translation>Часы компьютера могут быть неверны. Проверьте дату и время.</translation>
     </message>
     <message>
+        <source>The computer’s clock is behind. Set date and time.</source>
+        <translation>Часы компьютера отстают. Установите дату и время.</translation>
+    </message>
+    <message>
         <source>The clock was set by %1 s. Check date and time.</source>
         <translation>Часы переведены на %1 с. Проверьте дату и время.</translation>
     </message>

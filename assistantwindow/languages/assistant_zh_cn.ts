@@ -76,6 +76,10 @@
         <translation>电脑的时钟可能不准。请检查日期和时间。</translation>
     </message>
     <message>
+        <source>The computer’s clock is behind. Set date and time.</source>
+        <translation>电脑的时钟慢了。请设置日期和时间。</translation>
+    </message>
+    <message>
         <source>The clock was set by %1 s. Check date and time.</source>
         <translation>时钟被调整了 %1 秒。请检查日期和时间。</translation>
     </message>

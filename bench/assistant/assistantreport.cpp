@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // How exactly, how fast and how steadily does the assistant align?
+#include "bench/assistant/librarymount.h"
 #include "bench/assistant/reports.h"
+#include "bench/assistant/start.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -8,12 +10,19 @@
 
 namespace
 {
-constexpr char usage[] = "usage: assistantreport starts|library|night|speed [NUMBER]\n"
+constexpr char usage[] = "usage: assistantreport starts|library|clock|night|speed [NUMBER]\n"
                          "  starts [COUNT]   alignments from random starts, painted (20)\n"
                          "  library [COUNT]  the same on the camera library, in real time (20)\n"
+                         "  clock [HOURS]    starts with the computer's clock ahead (24)\n"
                          "  night [HOURS]    bolts at rest (8)\n"
                          "  speed [FRAMES]   frame to status (300)\n";
+
+template <typename Mount> AlignmentResult alignOn(const virtualsky::SkyState &sky)
+{
+    Mount mount(sky, settingsFor(sky));
+    return alignAsTold(mount);
 }
+} // namespace
 
 int main(int argc, char *argv[])
 {
@@ -21,9 +30,15 @@ int main(int argc, char *argv[])
     const int given = argc > 2 ? std::atoi(argv[2]) : 0;
     const auto number = [given](int byDefault) { return given > 0 ? given : byDefault; };
     if (is("starts"))
-        reportStarts(number(20), false);
+        reportStarts(number(20), alignOn<PaintedMount>);
     else if (is("library"))
-        reportStarts(number(20), true);
+        reportStarts(number(20), alignOn<LibraryMount>);
+    else if (is("clock"))
+        reportStarts(20, [hours = number(24)](const virtualsky::SkyState &sky) {
+            PaintedMount mount(sky, settingsFor(sky));
+            mount.setClockError(3600.0 * hours);
+            return alignAsTold(mount);
+        });
     else if (is("night"))
         reportNight(number(8));
     else if (is("speed"))

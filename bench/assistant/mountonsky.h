@@ -44,6 +44,8 @@ public:
     void wait(double duration) { elapsed += duration; }
     /// The computer's clock against the sky's, seconds.
     void setClockError(double by) { clockError = by; }
+    /// Whether the guide is told that the computer's clock is behind.
+    void setClockBehind(bool on) { clockBehind = on; }
     void setExposure(double microseconds) { exposure = microseconds; }
     /// Processor time of the last frame's way to its status, seconds.
     double lastLatency() const { return latency; }
@@ -61,6 +63,7 @@ private:
     cv::Mat frame;
     double elapsed = 0.0;
     double clockError = 0.0;
+    bool clockBehind = false;
     double exposure = 200000.0; // microseconds
     double latency = 0.0;
     std::uint64_t number = 0;

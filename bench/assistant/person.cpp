@@ -11,10 +11,8 @@ using assistant::Stage;
 using assistant::Status;
 
 constexpr double longestStage = 120.0; // seconds of camera time
-constexpr double fast = 20.0 / 60.0;   // degrees a second of a bolt
-constexpr double slow = 2.0 / 60.0;
-constexpr double far = 600.0; // arcseconds
-constexpr int looks = 12;     // at a bolt that should be right
+constexpr double far = 600.0;          // arcseconds
+constexpr int looks = 12;              // at a bolt that should be right
 constexpr int settlingFrames = 8;
 
 double limited(double by, double most)
@@ -23,10 +21,11 @@ double limited(double by, double most)
 }
 
 /// One frame's worth of turning the bolts towards the pole.
-void turnBolts(MountOnSky &mount, const Status &status, double duration)
+void turnBolts(MountOnSky &mount, const Status &status, const HandSpeeds &speeds, double duration)
 {
     virtualsky::SkyState sky = mount.sky();
-    const double most = (status.error->total.arcseconds > far ? fast : slow) * duration;
+    const double most =
+        (status.error->total.arcseconds > far ? speeds.boltFar : speeds.boltNear) * duration;
     sky.boltAltitude -= limited(status.error->altitude->arcseconds / 3600.0, most);
     sky.boltAzimuth -= limited(status.error->azimuth->arcseconds / 3600.0, most);
     mount.setSky(sky);
@@ -75,9 +74,9 @@ std::optional<Status> nextFigure(MountOnSky &mount, int frames)
     return std::nullopt;
 }
 
-AlignmentResult alignAsTold(MountOnSky &mount, double goal)
+AlignmentResult alignAsTold(MountOnSky &mount, double goal, const HandSpeeds &speeds)
 {
-    if (!turnAxisAsTold(mount))
+    if (!turnAxisAsTold(mount, speeds.axis))
         return failed(mount, "the axis was not found");
     const double began = mount.seconds();
     std::optional<Status> last;
@@ -93,7 +92,7 @@ AlignmentResult alignAsTold(MountOnSky &mount, double goal)
         if (last->error->total.arcseconds < goal)
             break;
         look += last->error->total.arcseconds < 60.0;
-        turnBolts(mount, *last, mount.seconds() - before);
+        turnBolts(mount, *last, speeds, mount.seconds() - before);
     }
     AlignmentResult result;
     result.boltsSeconds = mount.seconds() - began;

@@ -19,10 +19,16 @@ struct AlignmentResult {
     double boltsSeconds = 0.0; ///< of it, while bolts were turned
 };
 
-/// Turns the RA axis by 3 degrees a second while the assistant asks for it, then the bolts, 20
-/// arcminutes a second far off and 2 near, until the figure is below `goal` arcseconds or gets no
-/// better.
-AlignmentResult alignAsTold(MountOnSky &mount, double goal = 2.0);
+/// Degrees a second. A bolt turns faster as long as the figure is above 10 arcminutes.
+struct HandSpeeds {
+    double axis = 3.0;
+    double boltFar = 20.0 / 60.0, boltNear = 2.0 / 60.0;
+};
+
+/// Turns the RA axis while the assistant asks for it, then the bolts, until the figure is below
+/// `goal` arcseconds or gets no better.
+AlignmentResult alignAsTold(MountOnSky &mount, double goal = 2.0,
+                            const HandSpeeds &speeds = HandSpeeds());
 
 /// Only until the assistant asks for the bolts; false if it never does.
 bool turnAxisAsTold(MountOnSky &mount, double degreesPerSecond = 3.0);

@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: MIT
-// The tables of assistantreport.
+// The tables of assistantreport and assistantwindowreport.
 #pragma once
 
-/// Whole alignments from random starts: with frames painted in this process, or on the camera
-/// library in real time.
-void reportStarts(int count, bool onLibrary);
+#include "bench/assistant/person.h"
+#include "virtualcamera/skystate.h"
+
+#include <functional>
+
+/// Complete alignments from the first `count` random starts.
+void reportStarts(int count,
+                  const std::function<AlignmentResult(const virtualsky::SkyState &)> &align);
 
 /// Hours with the bolts at rest, the time running and frames in between.
 void reportNight(double hours);

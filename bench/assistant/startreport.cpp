@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
 // What error remains after alignments from random starts?
-#include "bench/assistant/librarymount.h"
-#include "bench/assistant/person.h"
 #include "bench/assistant/reports.h"
 #include "bench/assistant/start.h"
 #include "bench/recognition/statistics.h"
@@ -9,20 +7,8 @@
 #include <cstdio>
 #include <vector>
 
-namespace
-{
-AlignmentResult align(const virtualsky::SkyState &sky, bool onLibrary)
-{
-    if (onLibrary) {
-        LibraryMount mount(sky, settingsFor(sky));
-        return alignAsTold(mount);
-    }
-    PaintedMount mount(sky, settingsFor(sky));
-    return alignAsTold(mount);
-}
-} // namespace
-
-void reportStarts(int count, bool onLibrary)
+void reportStarts(int count,
+                  const std::function<AlignmentResult(const virtualsky::SkyState &)> &align)
 {
     std::printf("| start | true error | shown | sigma | inside | seconds | of bolts |\n"
                 "|---|---|---|---|---|---|---|\n");
@@ -30,7 +16,7 @@ void reportStarts(int count, bool onLibrary)
     int inside = 0;
     for (int i = 0; i < count; ++i) {
         const virtualsky::SkyState sky = startingSky(std::uint64_t(i));
-        const AlignmentResult result = align(sky, onLibrary);
+        const AlignmentResult result = align(sky);
         if (!result.finished) {
             std::printf("| %d | %s |\n", i, result.whyNot.c_str());
             continue;

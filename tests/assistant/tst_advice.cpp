@@ -157,6 +157,9 @@ void AdviceTest::order_data()
     QTest::newRow("the pole outside before the hints")
         << Codes{C::TurnAxis, C::ClockUnsure, C::SiteMissing, C::PoleThatWay, C::Focus}
         << Codes{C::TurnAxis, C::PoleThatWay, C::Focus, C::ClockUnsure, C::SiteMissing};
+    QTest::newRow("a clock that is behind before the hints")
+        << Codes{C::TurnBolts, C::SiteMissing, C::ClockBehind}
+        << Codes{C::TurnBolts, C::ClockBehind, C::SiteMissing};
     QTest::newRow("a clock that is set first")
         << Codes{C::TurnBolts, C::RecordingFull, C::ClockJumped}
         << Codes{C::TurnBolts, C::ClockJumped, C::RecordingFull};

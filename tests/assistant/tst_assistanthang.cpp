@@ -2,6 +2,7 @@
 // Is a camera library whose call never returns reported, with the window's thread free all the
 // time?
 #include "assistant/assistantsession.h"
+#include "tests/support/logrecorder.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -16,6 +17,7 @@ class AssistantHangTest : public QObject
 
 private slots:
     void hangIsReported();
+    void stopThatHangsAfterTheFetchIsNotWaitedFor();
 };
 
 void AssistantHangTest::hangIsReported()
@@ -39,6 +41,21 @@ void AssistantHangTest::hangIsReported()
     QVERIFY(timer.elapsed() < 100);
     QVERIFY(!session.close(1000));
     QVERIFY(timer.elapsed() < 5000);
+}
+
+/// The fetch returns, so nothing but the thread in StopVELDIXLive is left: the session must not
+/// count as closed, since its destructor would wait for that thread.
+void AssistantHangTest::stopThatHangsAfterTheFetchIsNotWaitedFor()
+{
+    qputenv("HANGING_SDK", "StopUnderFetch");
+    const LogRecorder log;
+    AssistantSession &session = *new AssistantSession({});
+    session.connectCamera();
+    QVERIFY(QTest::qWaitFor(
+        [&] { return log.contains(QtDebugMsg, "the library waits for its stop"); }, 60000));
+    // Longer than the library's call is waited for.
+    QVERIFY(!session.close(CameraHandle::sdkCallTimeout + 3000));
+    QVERIFY(log.contains(QtDebugMsg, "the library hangs"));
 }
 
 // Neither the library's thread nor what it uses can be ended: the process ends at once.

@@ -29,6 +29,7 @@ private slots:
     void unpluggedAndBack();
     void failingCameraIsTriedAgain();
     void aFailedRecordingIsSeen();
+    void clockBehindItsFilesIsReported();
     void connectsAgain();
     void callsReturnAtOnce();
 
@@ -198,6 +199,22 @@ void AssistantSessionTest::aFailedRecordingIsSeen()
                advice.back().code == AdviceCode::SiteMissing;
     };
     QVERIFY(comes(isSeen));
+}
+
+/// A computer that began its time again, and one whose clock is synchronised, whatever its files
+/// say.
+void AssistantSessionTest::clockBehindItsFilesIsReported()
+{
+    for (const bool synchronised : {false, true}) {
+        Clocks clocks = systemClocks();
+        const double behind = clocks.utc() - clocks.certainPast + 2.0 * datesSlack;
+        clocks.utc = [behind] { return systemClocks().utc() - behind; };
+        clocks.synchronised = [synchronised] { return synchronised; };
+        AssistantSession session({}, clocks);
+        session.connectCamera();
+        QVERIFY(comes([&] { return session.latest().status.frame > 0; }));
+        QCOMPARE(says(session.latest().status, AdviceCode::ClockBehind), !synchronised);
+    }
 }
 
 /// A new connection begins from the first stage.

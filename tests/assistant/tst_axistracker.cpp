@@ -97,6 +97,7 @@ void AxisTrackerTest::slipNeedsATurn_data()
     QTest::newRow("slip, no turn") << 10.0 << 2.0 << false << false;
     QTest::newRow("slip") << 10.0 << 15.0 << false << true;
     QTest::newRow("slip after bolts") << 10.0 << 15.0 << true << true;
+    QTest::newRow("slip, a short turn") << 10.0 << 6.0 << false << true;
     QTest::newRow("a small slip") << 2.0 << 20.0 << false << true;
 }
 

@@ -21,6 +21,10 @@ private slots:
     void aSuspendIsNoStep();
     void kernelsWord_data();
     void kernelsWord();
+    void behind_data();
+    void behind();
+    void newestDateOfFiles();
+    void certainPastHasPassed();
 };
 
 void ClockWatchTest::steps_data()
@@ -87,6 +91,49 @@ void ClockWatchTest::kernelsWord()
 {
     QFETCH(int, state);
     QTEST(saysSynchronised(state), "synchronised");
+}
+
+void ClockWatchTest::behind_data()
+{
+    QTest::addColumn<double>("now");
+    QTest::addColumn<double>("past");
+    QTest::addColumn<bool>("expected");
+    constexpr double past = 1795204800.0;
+    QTest::newRow("no past is known") << 0.0 << 0.0 << false;
+    QTest::newRow("later") << past + 1.0 << past << false;
+    QTest::newRow("a file in local time") << past - 3599.0 << past << false;
+    QTest::newRow("a day before") << past - 86400.0 << past << true;
+    QTest::newRow("a clock that began again") << 100.0 << past << true;
+}
+
+void ClockWatchTest::behind()
+{
+    QFETCH(double, now);
+    QFETCH(double, past);
+    QTEST(isBehind(now, past), "expected");
+}
+
+void ClockWatchTest::newestDateOfFiles()
+{
+    QCOMPARE(newestDate({}), 0.0);
+    QCOMPARE(newestDate({"/nonexistent/file"}), 0.0);
+    QTemporaryFile older, newer;
+    const QDateTime date = QDateTime::fromSecsSinceEpoch(1700000000);
+    for (QTemporaryFile *const file : {&older, &newer}) {
+        QVERIFY(file->open());
+        QVERIFY(file->setFileTime(date.addDays(file == &newer), QFile::FileModificationTime));
+    }
+    const std::string first = older.fileName().toStdString();
+    const std::string second = newer.fileName().toStdString();
+    QCOMPARE(newestDate({second, "/nonexistent/file", first}), 1700086400.0);
+}
+
+void ClockWatchTest::certainPastHasPassed()
+{
+    const Clocks clocks = systemClocks();
+    const QFileInfo program(QCoreApplication::applicationFilePath());
+    QVERIFY(clocks.certainPast >= double(program.lastModified().toSecsSinceEpoch()));
+    QVERIFY(!isBehind(clocks.utc(), clocks.certainPast));
 }
 
 QTEST_GUILESS_MAIN(ClockWatchTest)

@@ -31,6 +31,8 @@ private slots:
     void cloudsAreNotTrusted_data();
     void cloudsAreNotTrusted();
     void steadyAtRest();
+    void claimHoldsWhileBoltsTurn_data();
+    void claimHoldsWhileBoltsTurn();
     void movementBeginsAgain();
     void historyIsBounded();
     void historyLeavesOutWhatIsNotKnown();
@@ -223,9 +225,10 @@ void ErrorFiguresTest::steadyAtRest()
     SteadyFigures steady;
     std::mt19937 random(7);
     std::normal_distribution<double> noise(100.0, 0.5);
-    double worst = 0.0;
+    constexpr int frames = 300;
+    double worst = 0.0, claims = 0.0;
     FrameError shown;
-    for (int i = 0; i < 300; ++i) {
+    for (int i = 0; i < frames; ++i) {
         FrameError error;
         error.x = noise(random);
         error.frame.xx = error.frame.yy = 0.25;
@@ -233,14 +236,53 @@ void ErrorFiguresTest::steadyAtRest()
         shown = steady.add(error, 0.1 * i);
         if (i >= 20)
             worst = std::max(worst, std::abs(shown.x - 100.0));
+        claims += std::sqrt(shown.frame.xx) / frames;
     }
     QVERIFY2(worst < 0.75, qPrintable(QString::number(worst))); // single frames: 1.5
     QCOMPARE(shown.axis.xx, 1.0);                               // no mean improves the axis
-    QCOMPARE(std::sqrt(shown.frame.xx), 0.25);
+    QVERIFY2(claims > 0.25 && claims < 0.35, qPrintable(QString::number(claims)));
+    QCOMPARE(std::sqrt(shown.frame.yy), 0.25); // without noise there is no drift
     FrameError exact;
     exact.frame.xx = exact.frame.yy = 0.01;
     SteadyFigures other;
     QCOMPARE(std::sqrt(other.add(exact, 0.0).frame.xx), 0.1); // no claim grows
+}
+
+void ErrorFiguresTest::claimHoldsWhileBoltsTurn_data()
+{
+    QTest::addColumn<double>("speed"); // arcseconds a second
+    for (const double speed : {0.0, 0.1, 0.3, 0.5, 1.0, 2.0, 5.0, 20.0})
+        QTest::newRow(qPrintable(QString::number(speed))) << speed;
+}
+
+/// A bolt that turns slowly for a minute, with a frame's error of an arcsecond: the figure and its
+/// claim against the place at the newest frame.
+void ErrorFiguresTest::claimHoldsWhileBoltsTurn()
+{
+    QFETCH(double, speed);
+    std::mt19937 random(11);
+    std::normal_distribution<double> noise;
+    int frames = 0, inside = 0;
+    double claims = 0.0;
+    for (int turn = 0; turn < 20; ++turn) {
+        SteadyFigures steady;
+        for (int i = 0; i < 300; ++i, ++frames) {
+            const double place = i < 30 ? 0.0 : speed * 0.2 * (i - 30);
+            FrameError error;
+            error.x = place + noise(random);
+            error.frame.xx = error.frame.yy = 1.0;
+            const FrameError shown = steady.add(error, 0.2 * i);
+            inside += std::abs(shown.x - place) <= 2.0 * std::sqrt(shown.frame.xx);
+            claims += std::sqrt(shown.frame.xx);
+        }
+    }
+    const double share = double(inside) / frames, claim = claims / frames;
+    const QString figures = QStringLiteral("%1 inside two sigma, claim %2").arg(share).arg(claim);
+    qInfo("%s", qPrintable(figures));
+    QVERIFY2(share > 0.92, qPrintable(figures)); // 0.95 with the variance known exactly
+    QVERIFY2(claim < 1.25, qPrintable(figures)); // that of a single frame is 1
+    if (speed == 0.0)
+        QVERIFY2(claim < 0.7, qPrintable(figures)); // a half, and the noise's own drift
 }
 
 void ErrorFiguresTest::movementBeginsAgain()

@@ -63,7 +63,7 @@ void GuideTest::stagesEndByThemselves()
     QVERIFY(says(status, AdviceCode::TurnBolts));
 }
 
-/// The bar for whole alignments, on painted frames; on the camera library: tst_assistantstarts.
+/// The bar for whole alignments, on painted frames; through the window: tst_assistantstarts.
 void GuideTest::startsAreAligned()
 {
     constexpr int starts = 20;

@@ -18,12 +18,17 @@ private slots:
     void notThePole();
     void bumpWhileTheAxisTurns_data();
     void bumpWhileTheAxisTurns();
+    void boltsAreNoTurn_data();
+    void boltsAreNoTurn();
     void cameraSlipsInTheAxisStage();
     void cameraSlipsWhileTheBoltsTurn();
+    void turnsAreNoSlips();
     void wrongHemisphere();
     void clockJumps_data();
     void clockJumps();
     void clockIsUnsure();
+    void clockIsBehind_data();
+    void clockIsBehind();
     void nearTheEarthsPole();
     void noFrames();
 
@@ -189,6 +194,54 @@ void GuideFaultsTest::bumpWhileTheAxisTurns()
     QVERIFY(isTrue(status, mount));
 }
 
+void GuideFaultsTest::boltsAreNoTurn_data()
+{
+    QTest::addColumn<double>("latitude");
+    QTest::addColumn<double>("altitude"); // degrees that the bolts turn
+    QTest::addColumn<double>("azimuth");
+    QTest::addColumn<int>("frames");     // during which they turn
+    QTest::addColumn<double>("counted"); // at most, degrees of turn
+    QTest::newRow("altitude, at once") << 40.0 << 2.0 << 0.0 << 1 << 0.1;
+    QTest::newRow("azimuth, at once") << 40.0 << 0.0 << 3.0 << 1 << 0.1;
+    QTest::newRow("both, at once, south") << -34.0 << -1.5 << 2.0 << 1 << 0.1;
+    QTest::newRow("both, 4' a frame") << 40.0 << 2.0 << -2.0 << 30 << 0.1;
+    QTest::newRow("azimuth, far north, at once") << 70.0 << 0.0 << 4.0 << 1 << 0.1;
+    QTest::newRow("azimuth, far north, slowly") << 70.0 << 0.0 << 4.0 << 60 << 0.1;
+    // The vertical is so near the frame that it could be the RA axis, until that one turns.
+    QTest::newRow("azimuth, very far north, at once") << 80.0 << 0.0 << 5.0 << 1 << 5.0;
+    QTest::newRow("azimuth, very far north, slowly") << 80.0 << 0.0 << 5.0 << 60 << 5.0;
+}
+
+/// Somebody turns the bolts while the assistant waits for a turn of the RA axis: below 73 degrees
+/// of latitude nothing of it counts as one, and the axis that is found afterwards is right.
+void GuideFaultsTest::boltsAreNoTurn()
+{
+    QFETCH(double, latitude);
+    QFETCH(double, altitude);
+    QFETCH(double, azimuth);
+    QFETCH(int, frames);
+    virtualsky::SkyState sky = plainNight(latitude < 0.0);
+    sky.latitude = latitude;
+    PaintedMount mount(sky, settingsFor(sky));
+    nextThatSays(mount, AdviceCode::TurnAxis);
+    double most = 0.0;
+    Status status;
+    for (int i = 0; i < frames + 10; ++i) {
+        virtualsky::SkyState moved = mount.sky();
+        moved.boltAltitude += i < frames ? altitude / frames : 0.0;
+        moved.boltAzimuth += i < frames ? azimuth / frames : 0.0;
+        mount.setSky(moved);
+        status = mount.next();
+        most = std::max(most, status.axis.turnedDegrees);
+        QVERIFY(status.stage == Stage::Axis);
+    }
+    QFETCH(double, counted);
+    QVERIFY2(most <= counted, qPrintable(QString::number(most)));
+    QVERIFY(turnAxisAsTold(mount));
+    const auto after = nextFigure(mount);
+    QVERIFY(after && isTrue(*after, mount));
+}
+
 void GuideFaultsTest::cameraSlipsInTheAxisStage()
 {
     const virtualsky::SkyState sky = plainNight(true);
@@ -237,6 +290,28 @@ void GuideFaultsTest::cameraSlipsWhileTheBoltsTurn()
     QVERIFY(reported);
     QVERIFY(status.stage == Stage::Bolts);
     QVERIFY(isTrue(status, mount));
+}
+
+/// Bolts at rest, turned before and turned after: the axis' turn alone is no slip.
+void GuideFaultsTest::turnsAreNoSlips()
+{
+    constexpr std::uint64_t starts = 5;
+    for (std::uint64_t start = 200; start < 200 + starts; ++start) {
+        const virtualsky::SkyState sky = startingSky(start);
+        PaintedMount mount(sky, settingsFor(sky));
+        QVERIFY(turnAxisAsTold(mount));
+        for (int i = 0; i < 90; ++i) {
+            virtualsky::SkyState moved = mount.sky();
+            if (i % 30 < 10)
+                moved.boltAltitude -= 0.004;
+            else
+                moved.raAngle += i < 60 ? 0.7 : -0.4;
+            mount.setSky(moved);
+            const Status status = mount.next();
+            QVERIFY2(!says(status, AdviceCode::AxisSlipped), qPrintable(QString::number(start)));
+            QVERIFY(status.stage == Stage::Bolts);
+        }
+    }
 }
 
 void GuideFaultsTest::wrongHemisphere()
@@ -293,6 +368,39 @@ void GuideFaultsTest::clockIsUnsure()
     QVERIFY(says(unsure, AdviceCode::ClockUnsure));
     const Status sure = guide.observe({mount.lastFrame(), *sky.date + 1.0, 1.0, 200000.0, true});
     QVERIFY(!says(sure, AdviceCode::ClockUnsure));
+}
+
+void GuideFaultsTest::clockIsBehind_data()
+{
+    QTest::addColumn<double>("by"); // seconds
+    QTest::newRow("a day") << 86400.0;
+    QTest::newRow("from 1970 on") << 1795204800.0;
+}
+
+/// A computer that keeps no time while it is off: nothing is shown against a pole of another date.
+/// The axis is measured nevertheless, and once the clock is set the figures are right.
+void GuideFaultsTest::clockIsBehind()
+{
+    QFETCH(double, by);
+    const virtualsky::SkyState sky = plainNight();
+    PaintedMount mount(sky, settingsFor(sky));
+    mount.setClockError(-by);
+    mount.setClockBehind(true);
+    Status status = nextThatSays(mount, AdviceCode::TurnAxis);
+    QVERIFY(says(status, AdviceCode::ClockBehind) && !says(status, AdviceCode::ClockUnsure));
+    QVERIFY(turnAxisAsTold(mount));
+    for (int i = 0; i < 30; ++i) {
+        status = mount.next();
+        QVERIFY(!status.error && !status.firstError && !status.pole);
+        QVERIFY(says(status, AdviceCode::ClockBehind));
+    }
+    QVERIFY(saysFirst(status, AdviceCode::ClockBehind));
+    mount.setClockError(0.0);
+    mount.setClockBehind(false);
+    const auto after = nextFigure(mount);
+    QVERIFY(after && after->stage == Stage::Bolts);
+    QVERIFY(isTrue(*after, mount));
+    QVERIFY(!says(*after, AdviceCode::ClockBehind));
 }
 
 void GuideFaultsTest::nearTheEarthsPole()

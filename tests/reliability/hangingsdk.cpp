@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 // A camera library of which one operation never returns: the one that the environment names, or the
-// call for a frame. It changes a setting, then presses Connect and Disconnect like a user.
+// call for a frame. With "StopUnderFetch" a call for a frame returns only once StopVELDIXLive has
+// been called, which then never returns. In a window it changes a setting, then presses Connect and
+// Disconnect like a user.
 #include <QAction>
 #include <QApplication>
 #include <QTimer>
 #include <QWidget>
 #include <QtDebug>
+#include <atomic>
 #include <chrono>
 #include <cstdint>
 #include <cstdlib>
@@ -40,15 +43,34 @@ bool isSet(const char *variable, const char *value)
     return text && std::strcmp(text, value) == 0;
 }
 
+constexpr char stopUnderFetch[] = "StopUnderFetch";
+std::atomic<bool> stopping{false};
+
+void pause()
+{
+    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+}
+
+[[noreturn]] void hang()
+{
+    qDebug("the library hangs");
+    for (;;)
+        pause();
+}
+
 /// Never returns if this is the operation that hangs.
 void enter(const char *operation)
 {
     const char *const hanging = std::getenv("HANGING_SDK");
-    if (std::strcmp(hanging ? hanging : "GetVELDIXLiveFrame", operation) != 0)
-        return;
-    qDebug("the library hangs");
-    for (;;)
-        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    if (std::strcmp(hanging ? hanging : "GetVELDIXLiveFrame", operation) == 0)
+        hang();
+}
+
+void waitForStop()
+{
+    qDebug("the library waits for its stop");
+    while (!stopping)
+        pause();
 }
 
 /// What the user does while the camera is live.
@@ -139,6 +161,8 @@ EXPORTED std::uint32_t GetVELDIXLiveFrame(void *, std::uint32_t *, std::uint32_t
                                           std::uint32_t *, std::uint8_t *)
 {
     enter("GetVELDIXLiveFrame");
+    if (isSet("HANGING_SDK", stopUnderFetch))
+        waitForStop();
     static std::once_flag first;
     std::call_once(first, actWhileLive);
     return 1; // no new frame
@@ -146,6 +170,10 @@ EXPORTED std::uint32_t GetVELDIXLiveFrame(void *, std::uint32_t *, std::uint32_t
 EXPORTED std::uint32_t StopVELDIXLive(void *)
 {
     enter("StopVELDIXLive");
+    if (isSet("HANGING_SDK", stopUnderFetch)) {
+        stopping = true;
+        hang();
+    }
     return 0;
 }
 EXPORTED std::uint32_t CloseVELDIX(void *)

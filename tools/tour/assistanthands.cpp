@@ -4,6 +4,7 @@
 
 #include <QAbstractButton>
 #include <QDeadlineTimer>
+#include <QDoubleSpinBox>
 #include <QLabel>
 #include <QTest>
 #include <QVariant>
@@ -47,6 +48,21 @@ void AssistantHands::click(const QString &name)
         throw std::runtime_error("no button " + name.toStdString());
     // A check box takes clicks only where it draws.
     QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, {14, button->height() / 2});
+}
+
+void AssistantHands::enter(const QString &name, double number)
+{
+    auto *const field = window.findChild<QDoubleSpinBox *>(name);
+    if (!field || !field->isVisible() || !field->isEnabled())
+        throw std::runtime_error("no field " + name.toStdString());
+    QTest::mouseClick(field, Qt::LeftButton);
+    field->setFocus(); // a window that is not active gives none by the mouse
+    QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(field, field->textFromValue(number));
+    QTest::keyClick(field, Qt::Key_Return);
+    if (std::abs(field->value() - number) > 0.5 * std::pow(10.0, -field->decimals()))
+        throw std::runtime_error("the field " + name.toStdString() + " takes no " +
+                                 std::to_string(number));
 }
 
 QString AssistantHands::text(const QString &name) const

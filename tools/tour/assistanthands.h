@@ -33,6 +33,7 @@ public:
     void showLargeView();  ///< by its key, and back
     void showOtherPages(); ///< settings and report, and back
     void click(const QString &button);
+    void enter(const QString &field, double number); ///< by keys, with Return
 
     /// What a label shows; its property `arcseconds` or `sigma`.
     QString text(const QString &label) const;
