@@ -91,7 +91,8 @@ EarthView::EarthView(const Recognition &frame, PixelPlace pixel)
               (below.x - above.x) / (2.0 * step),
               (right.y - left.y) / (2.0 * step),
               (below.y - above.y) / (2.0 * step)};
-    const Covariance c = frame.mapping.covarianceAt(pixel);
+    // An error that all frames have in common moves the direction, not the pixel that shows it.
+    const Covariance c = frame.mapping.ownCovarianceAt(pixel);
     error = frame.mapping.scaleAt(pixel) * astrometry::arcsecond * std::sqrt(0.5 * (c.xx + c.yy));
 }
 

@@ -28,7 +28,8 @@ public:
     /// Turn of the camera about the Earth's axis since another frame, degrees, -180 to 180,
     /// positive westwards.
     double turnAgainst(const EarthView &other) const;
-    /// One sigma of a direction by this frame's mapping, radians, one axis.
+    /// One sigma of a direction by this frame's own error, without what all frames have in common;
+    /// radians, one axis.
     double sigma() const { return error; }
     /// Between the direction that the point's pixel shows here and the point's own, radians.
     double distance(const FixedPoint &point) const;

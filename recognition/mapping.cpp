@@ -143,6 +143,16 @@ double SkyMapping::scaleAt(PixelPlace pixel) const
 
 Covariance SkyMapping::covarianceAt(PixelPlace pixel) const
 {
+    return covarianceAt(pixel, fit.floor2);
+}
+
+Covariance SkyMapping::ownCovarianceAt(PixelPlace pixel) const
+{
+    return covarianceAt(pixel, 0.0);
+}
+
+Covariance SkyMapping::covarianceAt(PixelPlace pixel, double commonVariance) const
+{
     Complex values[mostTerms];
     evaluateTerms(fit.terms, unitsOf(pixel), values);
     const std::size_t n = termCount(fit.terms);
@@ -151,8 +161,8 @@ Covariance SkyMapping::covarianceAt(PixelPlace pixel) const
         for (std::size_t k = 0; k < n; ++k)
             leverage +=
                 std::real(values[i] * fit.inverse[i * mostTerms + k] * std::conj(values[k]));
-    const Covariance plane = {leverage * fit.noise.xx + fit.floor2, leverage * fit.noise.xy,
-                              leverage * fit.noise.yy + fit.floor2};
+    const Covariance plane = {leverage * fit.noise.xx + commonVariance, leverage * fit.noise.xy,
+                              leverage * fit.noise.yy + commonVariance};
     const Jacobian j = jacobianAt(pixel);
     const double d = j.determinant();
     const double xx = j.yy / d;

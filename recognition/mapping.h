@@ -58,6 +58,10 @@ public:
     /// From the residuals, with the fit's leverage and a floor for the catalogue's own errors.
     Covariance covarianceAt(PixelPlace pixel) const;
 
+    /// The part of covarianceAt that is this frame's own: without the floor, which frames of one
+    /// camera and hour have in common.
+    Covariance ownCovarianceAt(PixelPlace pixel) const;
+
     bool isMirrored() const { return mirrored; }
     MappingModel model() const { return fit.terms; }
 
@@ -88,6 +92,7 @@ private:
         double determinant() const { return xx * yy - xy * yx; }
     };
     Jacobian jacobianAt(PixelPlace pixel) const;
+    Covariance covarianceAt(PixelPlace pixel, double commonVariance) const;
 
     Frame axes = {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}};
     PixelPlace centre = {0.0, 0.0};
