@@ -4,7 +4,18 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <string>
+
+namespace
+{
+int fuzz(int argc, char *argv[])
+{
+    const bool from = argc > 5 && std::strcmp(argv[4], "--from") == 0;
+    return reportFuzz(from ? std::atoi(argv[5]) : 0, std::atoi(argv[2]), std::atoi(argv[3])) ? 0
+                                                                                             : 1;
+}
+} // namespace
 
 int main(int argc, char *argv[])
 {
@@ -23,6 +34,8 @@ int main(int argc, char *argv[])
         reportFields(count > 0 ? count : 1000);
     else if (what == "false")
         return reportFalseFrames(first, count > 0 ? count : 10000) == 0 ? 0 : 1;
+    else if (what == "fuzz" && argc > 3)
+        return fuzz(argc, argv);
     else if (what == "speed")
         reportSpeeds(count > 0 ? count : 100);
     else if (what == "memory")
@@ -35,6 +48,7 @@ int main(int argc, char *argv[])
         std::fprintf(stderr,
                      "usage: recognitionreport skies|sparse|poles|axes|fields|false|speed|memory|"
                      "following [COUNT [FIRST]]\n"
+                     "       recognitionreport fuzz LISTS FRAMES [--from NUMBER]\n"
                      "       recognitionreport frames COUNT FOLDER\n");
         return 2;
     }

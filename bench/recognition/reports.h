@@ -14,6 +14,9 @@ void reportAxes(int count);
 void reportFields(int count);
 /// `count` frames in which nothing must be recognised; @return how many were
 int reportFalseFrames(int first, int count);
+/// Random star lists and small random frames, both numbered from `first`, so that runs add up.
+/// @return whether nothing was recognised and all stars of the frames were possible ones
+bool reportFuzz(int first, int lists, int frames);
 /// Medians of the thread's own time over `count` frames.
 void reportSpeeds(int count);
 /// Memory before, during and after `count` frames, each searched blind or followed.
