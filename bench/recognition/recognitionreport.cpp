@@ -39,17 +39,19 @@ int main(int argc, char *argv[])
     else if (what == "speed")
         reportSpeeds(count > 0 ? count : 100);
     else if (what == "memory")
-        reportMemory(count > 0 ? count : 100000, false);
+        reportMemory(count > 0 ? count : 100000, MemoryOf::Blind);
+    else if (what == "smallmemory")
+        reportMemory(count > 0 ? count : 100000, MemoryOf::SmallFrames);
     else if (what == "following")
-        reportMemory(count > 0 ? count : 100000, true);
+        reportMemory(count > 0 ? count : 100000, MemoryOf::Following);
     else if (what == "frames" && argc > 3)
         return writeFrames(argv[3], count > 0 ? count : 10) ? 0 : 1;
     else {
-        std::fprintf(stderr,
-                     "usage: recognitionreport skies|sparse|poles|axes|fields|false|speed|memory|"
-                     "following [COUNT [FIRST]]\n"
-                     "       recognitionreport fuzz LISTS FRAMES [--from NUMBER]\n"
-                     "       recognitionreport frames COUNT FOLDER\n");
+        std::fprintf(stderr, "usage: recognitionreport "
+                             "skies|sparse|poles|axes|fields|false|speed|memory|smallmemory|"
+                             "following [COUNT [FIRST]]\n"
+                             "       recognitionreport fuzz LISTS FRAMES [--from NUMBER]\n"
+                             "       recognitionreport frames COUNT FOLDER\n");
         return 2;
     }
     return 0;

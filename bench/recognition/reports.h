@@ -19,8 +19,13 @@ int reportFalseFrames(int first, int count);
 bool reportFuzz(int first, int lists, int frames);
 /// Medians of the thread's own time over `count` frames.
 void reportSpeeds(int count);
-/// Memory before, during and after `count` frames, each searched blind or followed.
-void reportMemory(int count, bool following);
+enum class MemoryOf {
+    Blind,
+    SmallFrames, ///< blind too, the middle quarter of each frame: 640 x 480 pixels
+    Following
+};
+/// Memory before, during and after `count` frames.
+void reportMemory(int count, MemoryOf what);
 /// Writes `count` frames of one date as PNG files into a folder, with their truth as truth.csv.
 /// @return whether all were written
 bool writeFrames(const char *folder, int count);
