@@ -28,9 +28,10 @@ public:
     /// Turn of the camera about the Earth's axis since another frame, degrees, -180 to 180,
     /// positive westwards.
     double turnAgainst(const EarthView &other) const;
-    /// One sigma of a direction by this frame's own error, without what all frames have in common;
-    /// radians, one axis.
+    /// One sigma of a direction by this frame's mapping, radians, one axis.
     double sigma() const { return error; }
+    /// The same without what all frames have in common.
+    double ownSigma() const { return ownError; }
     /// Between the direction that the point's pixel shows here and the point's own, radians.
     double distance(const FixedPoint &point) const;
 
@@ -54,7 +55,7 @@ private:
     double rotation;                // Earth rotation angle, radians
     PixelPlace origin;
     Linear values;
-    double error;
+    double error, ownError; // radians
 };
 
 /// By weighted least squares over the chosen frames; nothing if they do not fix a point.
