@@ -30,6 +30,8 @@ int main(int argc, char *argv[])
         reportPoles(count > 0 ? count : 400);
     else if (what == "axes")
         reportAxes(count > 0 ? count : 200);
+    else if (what == "fewstars")
+        reportFewStars(count > 0 ? count : 1000);
     else if (what == "fields")
         reportFields(count > 0 ? count : 1000);
     else if (what == "false")
@@ -47,11 +49,12 @@ int main(int argc, char *argv[])
     else if (what == "frames" && argc > 3)
         return writeFrames(argv[3], count > 0 ? count : 10) ? 0 : 1;
     else {
-        std::fprintf(stderr, "usage: recognitionreport "
-                             "skies|sparse|poles|axes|fields|false|speed|memory|smallmemory|"
-                             "following [COUNT [FIRST]]\n"
-                             "       recognitionreport fuzz LISTS FRAMES [--from NUMBER]\n"
-                             "       recognitionreport frames COUNT FOLDER\n");
+        std::fprintf(stderr,
+                     "usage: recognitionreport "
+                     "skies|sparse|poles|axes|fewstars|fields|false|speed|memory|smallmemory|"
+                     "following [COUNT [FIRST]]\n"
+                     "       recognitionreport fuzz LISTS FRAMES [--from NUMBER]\n"
+                     "       recognitionreport frames COUNT FOLDER\n");
         return 2;
     }
     return 0;

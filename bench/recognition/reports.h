@@ -10,6 +10,8 @@ void reportSparseSkies(int first, int count);
 void reportPoles(int count);
 /// The axis from three frames 30 degrees apart, `count` nights for each pole.
 void reportAxes(int count);
+/// The pole's error and the claimed ellipse with few stars, `count` star lists a row.
+void reportFewStars(int count);
 /// What part of `count` star lists is recognised, for each field of view and number of false stars.
 void reportFields(int count);
 /// `count` frames in which nothing must be recognised; @return how many were
