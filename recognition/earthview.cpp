@@ -12,6 +12,8 @@ namespace
 {
 using astrometry::Vector3;
 
+constexpr double leastOwnError = 1e-3 * astrometry::arcsecond; // so that weights are finite
+
 // Unknowns: pixel offset (x, y) and direction (x, y).
 constexpr std::size_t unknowns = 4;
 
@@ -68,7 +70,8 @@ Normals normalsOf(const std::vector<EarthView> &views)
     Normals normals;
     for (const EarthView &view : views) {
         const EarthView::Linear &l = view.linear();
-        const double weight = 1.0 / (view.sigma() * view.sigma());
+        // An error that all frames have in common moves the direction, not the pixel.
+        const double weight = 1.0 / (view.ownSigma() * view.ownSigma());
         normals.add({-l.xByX, -l.xByY, 1.0, 0.0}, l.x, weight);
         normals.add({-l.yByX, -l.yByY, 0.0, 1.0}, l.y, weight);
     }
@@ -91,8 +94,12 @@ EarthView::EarthView(const Recognition &frame, PixelPlace pixel)
               (below.x - above.x) / (2.0 * step),
               (right.y - left.y) / (2.0 * step),
               (below.y - above.y) / (2.0 * step)};
-    const Covariance c = frame.mapping.covarianceAt(pixel);
-    error = frame.mapping.scaleAt(pixel) * astrometry::arcsecond * std::sqrt(0.5 * (c.xx + c.yy));
+    const double scale = frame.mapping.scaleAt(pixel) * astrometry::arcsecond;
+    const auto sigmaOf = [scale](const Covariance &c) {
+        return scale * std::sqrt(0.5 * (c.xx + c.yy));
+    };
+    error = sigmaOf(frame.mapping.covarianceAt(pixel));
+    ownError = std::max(sigmaOf(frame.mapping.ownCovarianceAt(pixel)), leastOwnError);
 }
 
 EarthView::Point EarthView::at(PixelPlace pixel) const
@@ -151,7 +158,7 @@ std::optional<FixedPoint> fixedPointOf(const std::vector<EarthView> &views,
     for (const EarthView &view : used) {
         const double distance = view.distance(point);
         squares += distance * distance;
-        chiSquared += distance * distance / (view.sigma() * view.sigma());
+        chiSquared += distance * distance / (view.ownSigma() * view.ownSigma());
     }
     const double n = static_cast<double>(used.size());
     point.rms = std::sqrt(squares / n);

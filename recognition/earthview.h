@@ -30,6 +30,8 @@ public:
     double turnAgainst(const EarthView &other) const;
     /// One sigma of a direction by this frame's mapping, radians, one axis.
     double sigma() const { return error; }
+    /// The same without what all frames have in common.
+    double ownSigma() const { return ownError; }
     /// Between the direction that the point's pixel shows here and the point's own, radians.
     double distance(const FixedPoint &point) const;
 
@@ -53,7 +55,7 @@ private:
     double rotation;                // Earth rotation angle, radians
     PixelPlace origin;
     Linear values;
-    double error;
+    double error, ownError; // radians
 };
 
 /// By weighted least squares over the chosen frames; nothing if they do not fix a point.

@@ -16,6 +16,17 @@ constexpr double step = 1e-3;           // pixels, of the Jacobian's differences
 constexpr int mostNewtonSteps = 25;
 constexpr double newtonTolerance = 1e-7; // pixels
 constexpr double farthest = 50.0;        // units from the frame's centre, of the inverse
+
+Complex polynomialAt(MappingModel terms,
+                     const std::array<Complex, SkyMapping::mostTerms> &coefficients, Complex z)
+{
+    Complex values[SkyMapping::mostTerms];
+    evaluateTerms(terms, z, values);
+    Complex sum = 0.0;
+    for (std::size_t i = 0; i < termCount(terms); ++i)
+        sum += coefficients[i] * values[i];
+    return sum;
+}
 } // namespace
 
 std::size_t termCount(MappingModel model)
@@ -71,12 +82,7 @@ Complex SkyMapping::unitsOf(PixelPlace pixel) const
 
 Complex SkyMapping::planeOf(PixelPlace pixel) const
 {
-    Complex values[mostTerms];
-    evaluateTerms(fit.terms, unitsOf(pixel), values);
-    Complex sum = 0.0;
-    for (std::size_t i = 0; i < termCount(fit.terms); ++i)
-        sum += fit.coefficients[i] * values[i];
-    return sum;
+    return polynomialAt(fit.terms, fit.coefficients, unitsOf(pixel));
 }
 
 std::optional<Complex> SkyMapping::planeOf(const Vector3 &sky) const
@@ -143,6 +149,32 @@ double SkyMapping::scaleAt(PixelPlace pixel) const
 
 Covariance SkyMapping::covarianceAt(PixelPlace pixel) const
 {
+    return covarianceAt(pixel, fit.floor2);
+}
+
+Covariance SkyMapping::ownCovarianceAt(PixelPlace pixel) const
+{
+    return covarianceAt(pixel, 0.0);
+}
+
+// In the plane, radians squared: the rivals' distances from the fit, by their probabilities.
+Covariance SkyMapping::disagreementAt(PixelPlace pixel) const
+{
+    Covariance sum;
+    const Complex here = planeOf(pixel);
+    for (const Rival &rival : fit.rivals) {
+        if (rival.probability == 0.0)
+            continue;
+        const Complex d = polynomialAt(rival.terms, rival.coefficients, unitsOf(pixel)) - here;
+        sum.xx += rival.probability * d.real() * d.real();
+        sum.xy += rival.probability * d.real() * d.imag();
+        sum.yy += rival.probability * d.imag() * d.imag();
+    }
+    return sum;
+}
+
+Covariance SkyMapping::covarianceAt(PixelPlace pixel, double commonVariance) const
+{
     Complex values[mostTerms];
     evaluateTerms(fit.terms, unitsOf(pixel), values);
     const std::size_t n = termCount(fit.terms);
@@ -151,8 +183,10 @@ Covariance SkyMapping::covarianceAt(PixelPlace pixel) const
         for (std::size_t k = 0; k < n; ++k)
             leverage +=
                 std::real(values[i] * fit.inverse[i * mostTerms + k] * std::conj(values[k]));
-    const Covariance plane = {leverage * fit.noise.xx + fit.floor2, leverage * fit.noise.xy,
-                              leverage * fit.noise.yy + fit.floor2};
+    const Covariance others = disagreementAt(pixel);
+    const Covariance plane = {leverage * fit.noise.xx + others.xx + commonVariance,
+                              leverage * fit.noise.xy + others.xy,
+                              leverage * fit.noise.yy + others.yy + commonVariance};
     const Jacobian j = jacobianAt(pixel);
     const double d = j.determinant();
     const double xx = j.yy / d;

@@ -55,8 +55,13 @@ public:
     double scaleAt(PixelPlace pixel) const;
 
     /// How exactly the direction of a pixel is known, as a place in the picture; pixels squared.
-    /// From the residuals, with the fit's leverage and a floor for the catalogue's own errors.
+    /// From the residuals, with the fit's leverage, what other models make of the same stars, and a
+    /// floor for the catalogue's own errors.
     Covariance covarianceAt(PixelPlace pixel) const;
+
+    /// The part of covarianceAt that is this frame's own: without the floor, which frames of one
+    /// camera and hour have in common.
+    Covariance ownCovarianceAt(PixelPlace pixel) const;
 
     bool isMirrored() const { return mirrored; }
     MappingModel model() const { return fit.terms; }
@@ -65,6 +70,13 @@ public:
     struct Frame {
         astrometry::Vector3 right, down, forward; ///< axes of the gnomonic plane
     };
+    /// The fit of another model to the same stars.
+    struct Rival {
+        double probability = 0.0; ///< that it is this one's model
+        MappingModel terms = MappingModel::Similarity;
+        std::array<Complex, mostTerms> coefficients = {};
+    };
+    static constexpr std::size_t mostRivals = 5;
     struct Fit {
         MappingModel terms = MappingModel::Similarity;
         std::array<Complex, mostTerms> coefficients = {};
@@ -72,6 +84,7 @@ public:
         std::array<Complex, mostTerms *mostTerms> inverse = {};
         Covariance noise;    ///< radians squared, of a star of unit weight, in the plane
         double floor2 = 0.0; ///< radians squared, added on each axis
+        std::array<Rival, mostRivals> rivals = {};
     };
     SkyMapping() = default;
     /// @param unit pixels
@@ -88,6 +101,8 @@ private:
         double determinant() const { return xx * yy - xy * yx; }
     };
     Jacobian jacobianAt(PixelPlace pixel) const;
+    Covariance covarianceAt(PixelPlace pixel, double commonVariance) const;
+    Covariance disagreementAt(PixelPlace pixel) const;
 
     Frame axes = {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}};
     PixelPlace centre = {0.0, 0.0};

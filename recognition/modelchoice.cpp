@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <iterator>
 
 namespace recognition
 {
@@ -25,6 +26,42 @@ Complex residualOf(const SkyMapping::Fit &fit, const FitPoint &point)
         residual -= fit.coefficients[i] * terms[i];
     return residual;
 }
+
+struct Candidate {
+    PolynomialFit fit;
+    double criterion;  // Bayesian information criterion
+    double cautiously; // with a larger penalty where stars are few
+};
+
+Candidate judged(const PolynomialFit &fit)
+{
+    const double n = 2.0 * fit.weights;
+    const double k = 2.0 * static_cast<double>(termCount(fit.fit.terms));
+    const double misfit = n * std::log(fit.chiSquared / n + 1e-30);
+    const double penalty = k * std::log(n);
+    // McQuarrie (1999), Statistics & Probability Letters 44, 79: the correction for small samples.
+    const double correction = n / std::max(n - k - 2.0, 1.0);
+    return {fit, misfit + penalty, misfit + penalty * correction};
+}
+
+// Gives the first candidate the others as rivals. Neither criterion is sure with few stars: each
+// rival has the odds of the one that is kinder to it, but not more than the first candidate.
+void addRivals(std::vector<Candidate> &candidates)
+{
+    const Candidate &best = candidates.front();
+    std::array<double, SkyMapping::mostRivals> odds = {};
+    double sum = 1.0;
+    for (std::size_t i = 1; i < candidates.size(); ++i) {
+        const double worse = std::min(candidates[i].criterion - best.criterion,
+                                      candidates[i].cautiously - best.cautiously);
+        odds[i - 1] = std::exp(-0.5 * std::max(worse, 0.0));
+        sum += odds[i - 1];
+    }
+    auto &rivals = candidates.front().fit.fit.rivals;
+    for (std::size_t i = 1; i < candidates.size(); ++i)
+        rivals[i - 1] = {odds[i - 1] / sum, candidates[i].fit.fit.terms,
+                         candidates[i].fit.fit.coefficients};
+}
 } // namespace
 
 double medianOf(std::vector<double> values)
@@ -39,22 +76,23 @@ std::optional<PolynomialFit> fitBestModel(const std::vector<FitPoint> &points)
     constexpr MappingModel models[] = {MappingModel::Similarity, MappingModel::Radial,
                                        MappingModel::Affine,     MappingModel::AffineRadial,
                                        MappingModel::Quadratic,  MappingModel::Cubic};
-    std::optional<PolynomialFit> chosen;
-    double least = 0.0;
+    static_assert(std::size(models) == SkyMapping::mostRivals + 1);
+    std::vector<Candidate> candidates;
     for (const MappingModel model : models) {
         const auto terms = static_cast<double>(termCount(model));
         const auto fit = fitPolynomial(model, points);
         if (!fit || (model != MappingModel::Similarity && fit->weights < 2.0 * terms + 2.0))
             continue;
-        const double n = 2.0 * fit->weights;
-        const double criterion =
-            n * std::log(fit->chiSquared / n + 1e-30) + 2.0 * terms * std::log(n);
-        if (!chosen || criterion < least) {
-            chosen = fit;
-            least = criterion;
-        }
+        candidates.push_back(judged(*fit));
     }
-    return chosen;
+    if (candidates.empty())
+        return std::nullopt;
+    auto best = std::min_element(
+        candidates.begin(), candidates.end(),
+        [](const Candidate &a, const Candidate &b) { return a.criterion < b.criterion; });
+    std::iter_swap(candidates.begin(), best);
+    addRivals(candidates);
+    return candidates.front().fit;
 }
 
 void weighRobustly(const SkyMapping::Fit &fit, std::vector<FitPoint> &points)

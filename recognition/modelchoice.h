@@ -10,7 +10,7 @@
 namespace recognition
 {
 /// The model with the least Bayesian information criterion; nothing if not even a similarity can be
-/// fitted.
+/// fitted. The other models are its rivals.
 std::optional<PolynomialFit> fitBestModel(const std::vector<FitPoint> &points);
 
 /// Sets the weights to Tukey's biweight, for the scatter that the median residual shows.

@@ -4,39 +4,61 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <string>
+#include <cstring>
+
+namespace
+{
+/// A report of COUNT frames or so, from number FIRST where they are numbered.
+struct Report {
+    const char *name;
+    int usualCount;
+    bool (*run)(int first, int count); ///< @return whether nothing failed
+};
+
+constexpr Report reports[] = {
+    {"skies", 2000, [](int first, int count) { return reportSkies(first, count), true; }},
+    {"sparse", 100, [](int first, int count) { return reportSparseSkies(first, count), true; }},
+    {"poles", 400, [](int, int count) { return reportPoles(count), true; }},
+    {"axes", 200, [](int, int count) { return reportAxes(count), true; }},
+    {"fewstars", 1000, [](int, int count) { return reportFewStars(count), true; }},
+    {"fields", 1000, [](int, int count) { return reportFields(count), true; }},
+    {"false", 10000, [](int first, int count) { return reportFalseFrames(first, count) == 0; }},
+    {"speed", 100, [](int, int count) { return reportSpeeds(count), true; }},
+    {"memory", 100000, [](int, int count) { return reportMemory(count, MemoryOf::Blind), true; }},
+    {"smallmemory", 100000,
+     [](int, int count) { return reportMemory(count, MemoryOf::SmallFrames), true; }},
+    {"following", 100000,
+     [](int, int count) { return reportMemory(count, MemoryOf::Following), true; }},
+};
+
+bool fuzz(int argc, char *argv[])
+{
+    const bool from = argc > 5 && std::strcmp(argv[4], "--from") == 0;
+    return reportFuzz(from ? std::atoi(argv[5]) : 0, std::atoi(argv[2]), std::atoi(argv[3]));
+}
+
+int usage()
+{
+    std::fprintf(stderr, "usage: recognitionreport NAME [COUNT [FIRST]], where NAME is one of\n");
+    for (const Report &report : reports)
+        std::fprintf(stderr, "           %s\n", report.name);
+    std::fprintf(stderr, "       recognitionreport fuzz LISTS FRAMES [--from NUMBER]\n"
+                         "       recognitionreport frames COUNT FOLDER\n");
+    return 2;
+}
+} // namespace
 
 int main(int argc, char *argv[])
 {
-    const std::string what = argc > 1 ? argv[1] : "";
+    const char *what = argc > 1 ? argv[1] : "";
     const int count = argc > 2 ? std::atoi(argv[2]) : 0;
     const int first = argc > 3 ? std::atoi(argv[3]) : 0;
-    if (what == "skies")
-        reportSkies(first, count > 0 ? count : 2000);
-    else if (what == "sparse")
-        reportSparseSkies(first, count > 0 ? count : 100);
-    else if (what == "poles")
-        reportPoles(count > 0 ? count : 400);
-    else if (what == "axes")
-        reportAxes(count > 0 ? count : 200);
-    else if (what == "fields")
-        reportFields(count > 0 ? count : 1000);
-    else if (what == "false")
-        return reportFalseFrames(first, count > 0 ? count : 10000) == 0 ? 0 : 1;
-    else if (what == "speed")
-        reportSpeeds(count > 0 ? count : 100);
-    else if (what == "memory")
-        reportMemory(count > 0 ? count : 100000, false);
-    else if (what == "following")
-        reportMemory(count > 0 ? count : 100000, true);
-    else if (what == "frames" && argc > 3)
+    if (std::strcmp(what, "fuzz") == 0 && argc > 3)
+        return fuzz(argc, argv) ? 0 : 1;
+    if (std::strcmp(what, "frames") == 0 && argc > 3)
         return writeFrames(argv[3], count > 0 ? count : 10) ? 0 : 1;
-    else {
-        std::fprintf(stderr,
-                     "usage: recognitionreport skies|sparse|poles|axes|fields|false|speed|memory|"
-                     "following [COUNT [FIRST]]\n"
-                     "       recognitionreport frames COUNT FOLDER\n");
-        return 2;
-    }
-    return 0;
+    for (const Report &report : reports)
+        if (std::strcmp(what, report.name) == 0)
+            return report.run(first, count > 0 ? count : report.usualCount) ? 0 : 1;
+    return usage();
 }

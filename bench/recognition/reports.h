@@ -10,14 +10,24 @@ void reportSparseSkies(int first, int count);
 void reportPoles(int count);
 /// The axis from three frames 30 degrees apart, `count` nights for each pole.
 void reportAxes(int count);
+/// The pole's error and the claimed ellipse with few stars, `count` star lists a row.
+void reportFewStars(int count);
 /// What part of `count` star lists is recognised, for each field of view and number of false stars.
 void reportFields(int count);
 /// `count` frames in which nothing must be recognised; @return how many were
 int reportFalseFrames(int first, int count);
+/// Random star lists and small random frames, both numbered from `first`, so that runs add up.
+/// @return whether nothing was recognised and all stars of the frames were possible ones
+bool reportFuzz(int first, int lists, int frames);
 /// Medians of the thread's own time over `count` frames.
 void reportSpeeds(int count);
-/// Memory before, during and after `count` frames, each searched blind or followed.
-void reportMemory(int count, bool following);
+enum class MemoryOf {
+    Blind,
+    SmallFrames, ///< blind too, the middle quarter of each frame: 640 x 480 pixels
+    Following
+};
+/// Memory before, during and after `count` frames.
+void reportMemory(int count, MemoryOf what);
 /// Writes `count` frames of one date as PNG files into a folder, with their truth as truth.csv.
 /// @return whether all were written
 bool writeFrames(const char *folder, int count);

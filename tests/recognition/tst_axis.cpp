@@ -36,6 +36,7 @@ class AxisTest : public QObject
 private slots:
     void threeFrames_data();
     void threeFrames();
+    void theClaimLeavesOutWhatTheFramesShare();
     void turnsAreSigned();
     void bumpedFrameIsNamed();
     void aMoveForGoodIsNoticed();
@@ -73,6 +74,30 @@ void AxisTest::threeFrames()
     }
     QVERIFY2(agreement.rms() < 2.0, qPrintable(QString::number(agreement.rms())));
     QVERIFY(agreement.withinTwoSigma() >= 9);
+}
+
+// With an observer the places' common error is smaller: that of the pole shrinks by it, but the
+// axis' own does not, because the same error in all frames does not move it.
+void AxisTest::theClaimLeavesOutWhatTheFramesShare()
+{
+    const SkyState state = skyOf(true, november2026);
+    std::vector<Recognition> plain, observed;
+    for (const double turn : {0.0, 30.0, 60.0}) {
+        SkyState moved = state;
+        moved.raAngle = turn;
+        const double time = *state.date + 2.0 * turn;
+        const cv::Mat frame = frameOf(moved, time, unsigned(turn) + 1);
+        plain.push_back(recognised(frame, time));
+        RecognitionOptions options;
+        options.utcSeconds = time;
+        options.observer = Observer{{state.latitude, state.longitude}, {0.0, 0.0}};
+        observed.push_back(recognise(extractStars(frame).stars, frame.cols, frame.rows, options));
+    }
+    QVERIFY(plain[0].poleSigmaArcseconds > 1.15 * observed[0].poleSigmaArcseconds);
+    const Axis a = axisOfTurns(plain), b = axisOfTurns(observed);
+    QVERIFY(a.status == AxisStatus::Found && b.status == AxisStatus::Found);
+    const double ratio = a.sigmaArcseconds / b.sigmaArcseconds;
+    QVERIFY2(std::abs(ratio - 1.0) < 0.05, qPrintable(QString::number(ratio)));
 }
 
 void AxisTest::turnsAreSigned()
