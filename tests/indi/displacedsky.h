@@ -52,6 +52,26 @@ inline Place drawnAt(const virtualsky::Point &pixel, const Place &centre)
             std::atan2(up, std::hypot(outwards, east)) / degree};
 }
 
+/// A star's light in the four pixels about its place, so that their centroid is the place.
+inline void divide(const astrometry::CatalogueStar &star, const virtualsky::Point &pixel,
+                   const Place &centre, std::vector<astrometry::CatalogueStar> &out)
+{
+    constexpr double leastShare = 0.001;
+    const double left = std::floor(pixel.x), top = std::floor(pixel.y);
+    for (const double x : {left, left + 1.0})
+        for (const double y : {top, top + 1.0}) {
+            const double share = (1.0 - std::abs(pixel.x - x)) * (1.0 - std::abs(pixel.y - y));
+            if (share < leastShare)
+                continue;
+            const Place drawn = drawnAt({x, y}, centre);
+            astrometry::CatalogueStar part = star;
+            part.raDegrees = std::fmod(drawn.raDegrees + 720.0, 360.0);
+            part.decDegrees = drawn.decDegrees;
+            part.vMagnitude -= 2.5 * std::log10(share);
+            out.push_back(part);
+        }
+}
+
 /// All stars of the picture, as the driver is to draw them.
 /// @param centre that the driver asks about; it belongs to the present time
 /// @param homeRa right ascension of the telescope, degrees, where the sky's RA angle is 0
@@ -67,14 +87,8 @@ inline std::vector<astrometry::CatalogueStar> stars(virtualsky::SkyState sky, co
         astrometry::apparentPlaces(all.begin(), all.end(), virtualsky::siteOf(sky), skyTime);
     std::vector<astrometry::CatalogueStar> out;
     for (std::size_t i = 0; i < places.size(); ++i) {
-        const auto pixel = where.ofCirs(places[i]);
-        if (!pixel)
-            continue;
-        const Place drawn = drawnAt(*pixel, centre);
-        astrometry::CatalogueStar star = all.first[i];
-        star.raDegrees = std::fmod(drawn.raDegrees + 720.0, 360.0);
-        star.decDegrees = drawn.decDegrees;
-        out.push_back(star);
+        if (const auto pixel = where.ofCirs(places[i]))
+            divide(all.first[i], *pixel, centre, out);
     }
     return out;
 }
