@@ -12,6 +12,8 @@
 #include <QtTest>
 #include <csignal>
 #include <memory>
+#include <sys/prctl.h>
+#include <sys/resource.h>
 
 #include "framesources/indiclient.h"
 
@@ -23,6 +25,19 @@ struct SimulatedSensor {
     double scale = 30.45; ///< arcseconds a pixel
     bool bayer = false;
     bool atPole = true; ///< points by itself; false: where the telescope of the server does
+};
+
+/// The simulated camera aborts when its server is killed: that leaves no core file, and a test that
+/// ends by a crash leaves no server.
+class ServerProcess : public QProcess
+{
+protected:
+    void setupChildProcess() override // between fork and exec
+    {
+        const rlimit noCore = {0, 0};
+        ::setrlimit(RLIMIT_CORE, &noCore);
+        ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+    }
 };
 
 class IndiServer
@@ -47,7 +62,7 @@ public:
     /// True once the camera is there.
     bool start(const QStringList &drivers = {"indi_simulator_ccd"})
     {
-        process = std::make_unique<QProcess>();
+        process = std::make_unique<ServerProcess>();
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert("PATH", GSC_FOLDER ":" + environment.value("PATH"));
         environment.insert("HOME", home.path()); // the drivers keep their settings there
