@@ -7,20 +7,27 @@
 #include <cstdlib>
 #include <dlfcn.h>
 
+#include "camera/loadprobe.h"
 #include "cameracommand/operationscamera.h"
 #include "framesources/nativecameras.h"
 #include "virtualcamera/skyfile.h"
 #include "virtualcamera/skywatch.h"
+
+#include <QByteArray>
 
 namespace
 {
 using framesources::SourceSettings;
 using virtualsky::Source;
 
-/// Whether the loader finds a library of the maker's name, which the program prefers.
+/// Whether the loader finds a library of the maker's name, which the program prefers: also one
+/// that cannot be used.
 bool makersLibraryIsThere()
 {
-    void *const library = ::dlopen("libveldix.so.20", RTLD_LAZY | RTLD_LOCAL);
+    constexpr char name[] = "libveldix.so.20";
+    if (!canLoadSafely(name))
+        return true;
+    void *const library = ::dlopen(name, RTLD_LAZY | RTLD_LOCAL);
     if (library)
         ::dlclose(library);
     return library != nullptr;

@@ -1,11 +1,16 @@
 // SPDX-License-Identifier: MIT
 // Which cameras are there: those of the maker's library, and those of an INDI server.
+#include <algorithm>
+#include <array>
 #include <cstdint>
 #include <cstdio>
 #include <dlfcn.h>
+#include <exception>
+#include <optional>
 #include <string>
 
 #include "camera/loadprobe.h"
+#include "camera/veldix.h"
 #include "cameracommand/actions.h"
 #include "cameracommand/grabbing.h"
 #include "framesources/indilist.h"
@@ -17,35 +22,93 @@ namespace
 {
 constexpr char library[] = "libveldix.so.20";
 
-/// How many cameras the maker's library finds; says so.
-int listMakers()
+void say(const std::string &text)
+{
+    std::printf("maker's library: %s\n", text.c_str());
+}
+
+/// The three functions that a list needs.
+struct Makers {
+    std::uint32_t (*init)() = nullptr;
+    std::int32_t (*scan)() = nullptr;
+    std::uint32_t (*id)(std::int32_t, char *) = nullptr;
+};
+
+template <typename Function> void resolve(void *library, const char *name, Function &function)
+{
+    function = reinterpret_cast<Function>(::dlsym(library, name));
+}
+
+/// Nothing if the library cannot be used, which is said.
+std::optional<Makers> loadMakers()
 {
     if (!canLoadSafely(library)) {
-        std::printf("maker's library: %s ends or holds up the program as it is loaded\n", library);
-        return 0;
+        say(std::string(library) + " ends or holds up the program as it is loaded");
+        return std::nullopt;
     }
     void *const handle = ::dlopen(library, RTLD_NOW | RTLD_LOCAL);
     if (!handle) {
-        std::printf("maker's library: %s\n", ::dlerror());
+        say(::dlerror());
+        return std::nullopt;
+    }
+    Makers makers;
+    resolve(handle, "InitVELDIXResource", makers.init);
+    resolve(handle, "ScanVELDIX", makers.scan);
+    resolve(handle, "GetVELDIXId", makers.id);
+    if (makers.init && makers.scan && makers.id)
+        return makers;
+    say("it is there and cannot be used: it lacks functions");
+    return std::nullopt;
+}
+
+/// Says what camera `index` is. The library is given far more room than its IDs need.
+bool listOne(const Makers &makers, std::int32_t index)
+{
+    std::array<char, 16384> buffer{};
+    if (makers.id(index, buffer.data()) != 0) {
+        say("a camera without an ID");
+        return false;
+    }
+    buffer.back() = '\0';
+    const std::string id = buffer.data();
+    const bool isUsable = id.size() < std::size_t(maxIdSize);
+    say(isUsable ? id
+                 : "a camera that cannot be used: its ID of " + std::to_string(id.size()) +
+                       " characters is too long");
+    return isUsable;
+}
+
+/// How many cameras the maker's library finds; says so.
+int listFound(const Makers &makers)
+{
+    constexpr std::int32_t mostCameras = 1024;
+    if (makers.init() != 0) {
+        say("it is there and cannot be used: it does not start");
         return 0;
     }
-    const auto init = reinterpret_cast<std::uint32_t (*)()>(::dlsym(handle, "InitVELDIXResource"));
-    const auto scan = reinterpret_cast<std::int32_t (*)()>(::dlsym(handle, "ScanVELDIX"));
-    const auto id =
-        reinterpret_cast<std::uint32_t (*)(std::int32_t, char *)>(::dlsym(handle, "GetVELDIXId"));
-    if (!init || !scan || !id || init() != 0) {
-        std::printf("maker's library: it is there and cannot be used: %s\n",
-                    init && scan && id ? "it does not start" : "it lacks functions");
-        return 0;
-    }
-    const std::int32_t count = scan();
+    const std::int32_t count = std::min(makers.scan(), mostCameras);
     if (count <= 0)
-        std::printf("maker's library: it finds no camera\n");
-    for (std::int32_t i = 0; i < count; ++i) {
-        char name[256] = "";
-        std::printf("maker's library: %s\n", id(i, name) == 0 ? name : "a camera without an ID");
+        say("it finds no camera");
+    int usable = 0;
+    for (std::int32_t i = 0; i < count; ++i)
+        usable += listOne(makers, i) ? 1 : 0;
+    return usable;
+}
+
+int listMakers()
+{
+    const auto makers = loadMakers();
+    if (!makers)
+        return 0;
+    std::string thrown = "no std::exception";
+    try {
+        return listFound(*makers);
+    } catch (const std::exception &exception) {
+        thrown = exception.what() ? exception.what() : "";
+    } catch (...) {
     }
-    return count > 0 ? count : 0;
+    say("it is there and cannot be used: it threw an exception: " + thrown);
+    return 0;
 }
 } // namespace
 

@@ -4,26 +4,14 @@
 
 #include <chrono>
 #include <cstdint>
-#include <cstring>
 #include <thread>
 
+#include "camera/cameraopening.h"
 #include "camera/veldix.h"
 
 namespace
 {
 constexpr std::uint32_t width = 1280, height = 960;
-
-std::string firstCamera()
-{
-    const std::int32_t count = ScanVELDIX();
-    for (std::int32_t i = 0; i < count; ++i) {
-        char id[maxIdSize] = "";
-        const std::string model = "QUORVANDEL-";
-        if (GetVELDIXId(i, id) == 0 && std::strncmp(id, model.c_str(), model.size()) == 0)
-            return id;
-    }
-    return {};
-}
 } // namespace
 
 OperationsCamera::OperationsCamera(framesources::Report reportLine)
@@ -37,8 +25,8 @@ OperationsCamera::OperationsCamera(framesources::Report reportLine)
 
 bool OperationsCamera::open()
 {
-    const std::string id = firstCamera();
-    handle = id.empty() ? nullptr : OpenVELDIX(id.c_str());
+    const std::vector<std::string> ids = findCameras(1);
+    handle = ids.empty() ? nullptr : OpenVELDIX(ids.front().c_str());
     if (!handle)
         return false;
     const bool live = SetVELDIXReadMode(handle, 0) != veldixError &&

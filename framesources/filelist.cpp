@@ -5,15 +5,12 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
-#include <fstream>
 #include <glob.h>
 #include <optional>
 #include <sys/stat.h>
 #include <tuple>
 
-#include "pictures/exifdate.h"
-#include "pictures/fitsfile.h"
-#include "pictures/serfile.h"
+#include "framesources/filedate.h"
 
 namespace framesources
 {
@@ -75,21 +72,6 @@ std::string escaped(const std::string &path)
                                                                    : std::string("\\") + c;
     return text;
 }
-
-std::optional<double> ownDate(const std::string &path)
-{
-    if (pictures::isSerName(path)) {
-        pictures::SerFile file(path);
-        return file.complaint().empty() ? file.frame(0).date : std::nullopt;
-    }
-    // What precedes the pixels is enough for most files.
-    constexpr std::size_t most = std::size_t(1) << 22;
-    std::string bytes(most, '\0');
-    std::ifstream file(path, std::ios::binary);
-    file.read(bytes.data(), std::streamsize(bytes.size()));
-    bytes.resize(std::size_t(std::max<std::streamsize>(file.gcount(), 0)));
-    return pictures::isFits(bytes) ? pictures::dateOfFits(bytes) : dateOfPicture(bytes);
-}
 } // namespace
 
 bool ListedFile::operator==(const ListedFile &o) const
@@ -114,7 +96,7 @@ std::vector<ListedFile> matchingFiles(const std::string &pattern)
 
 void setDate(ListedFile &file)
 {
-    file.date = ownDate(file.path).value_or(double(file.changed) / double(second));
+    file.date = dateInFile(file.path).value_or(double(file.changed) / double(second));
 }
 
 void sortByDate(std::vector<ListedFile> &files)

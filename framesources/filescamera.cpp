@@ -34,9 +34,15 @@ void FilesCamera::scan()
         return;
     begun = true;
     scanned = now;
-    std::vector<ListedFile> found = matchingFiles(pattern);
+    std::vector<ListedFile> found = matchingFiles(pattern); // in the order of their paths
+    const auto isKnown = [this](const ListedFile &file) {
+        const auto place = std::lower_bound(
+            known.begin(), known.end(), file,
+            [](const ListedFile &a, const ListedFile &b) { return a.path < b.path; });
+        return place != known.end() && *place == file;
+    };
     for (ListedFile &file : found) {
-        if (std::find(known.begin(), known.end(), file) != known.end())
+        if (isKnown(file))
             continue;
         setDate(file);
         waiting.push_back(file);

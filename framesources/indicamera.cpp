@@ -115,18 +115,38 @@ void IndiCamera::awaitConnection()
          (message.empty() ? "" : ": " + message));
 }
 
-void IndiCamera::setUp()
+IndiCamera::~IndiCamera()
 {
-    // Those that a device has; what it is not asked for stays as its owner set it.
+    if (client && stage == Stage::Ready && client->isConnected())
+        stopFrames();
+}
+
+/// Those that the device has; each once, since a device may define them after it is connected.
+/// What it is not asked for stays as its owner set it.
+void IndiCamera::applySwitches()
+{
     static constexpr std::pair<const char *, const char *> switches[] = {
         {"CCD_VIDEO_STREAM", "STREAM_OFF"}, // left on by a program that is gone
         {"UPLOAD_MODE", "UPLOAD_CLIENT"},
         {"CCD_TRANSFER_FORMAT", "FORMAT_FITS"},
         {"CCD_COMPRESSION", "INDI_DISABLED"},
         {"CCD_FRAME_TYPE", "FRAME_LIGHT"}};
-    for (const auto &[property, element] : switches)
-        if (!client->isOn(property, element).value_or(true))
-            client->sendSwitch(property, element);
+    unsigned bit = 1;
+    for (const auto &[property, element] : switches) {
+        const auto on = client->isOn(property, element);
+        if (on && (switched & bit) == 0) {
+            switched |= bit;
+            if (!*on)
+                client->sendSwitch(property, element);
+        }
+        bit <<= 1;
+    }
+}
+
+void IndiCamera::setUp()
+{
+    switched = 0;
+    applySwitches();
     client->askForPictures();
     stage = Stage::Ready;
     stageBegan = lastFrame = Clock::now();
@@ -195,6 +215,7 @@ void IndiCamera::startStream(double wanted)
             values.emplace_back("STREAMING_DIVISOR_VALUE", 1.0);
         client->sendNumbers("STREAMING_EXPOSURE", values);
     }
+    switched |= 1; // on from now on, whatever is defined later
     client->sendSwitch("CCD_VIDEO_STREAM", "STREAM_ON");
     streaming = true;
 }
@@ -293,6 +314,7 @@ std::optional<NativeFrame> IndiCamera::work(const Wish &wish)
         client->waitForNews(slice);
         return std::nullopt;
     }
+    applySwitches();
     applyGain(wish.gain);
     applyReadout(wish);
     startFrames(wish);

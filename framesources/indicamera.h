@@ -22,6 +22,8 @@ class IndiCamera : public NativeCamera
 public:
     /// @param useStream the device's video is used where it has one
     IndiCamera(virtualsky::CameraAddress cameraAddress, bool useStream, Report reportLine);
+    /// A device left exposing or streaming would go on for nobody.
+    ~IndiCamera() override;
 
     std::optional<NativeFrame> next(const Wish &wish) override;
     bool isPresent() const override { return present.load(std::memory_order_relaxed); }
@@ -34,6 +36,7 @@ private:
     void awaitDevice();
     void awaitConnection();
     void setUp();
+    void applySwitches();
     std::optional<NativeFrame> work(const Wish &wish);
     void applyGain(double gain);
     void applyReadout(const Wish &wish);
@@ -57,6 +60,7 @@ private:
     double pause = 0.0; // seconds before the next try
     std::string lastSaid;
     unsigned removals = 0;
+    unsigned switched = 0; // bits: which of the switches of `applySwitches` were seen
 
     double gain = -1.0; // sent to the device, in the program's units
     cv::Size sensor;    // as the device says

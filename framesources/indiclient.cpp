@@ -12,6 +12,7 @@
 #include <condition_variable>
 #include <csignal>
 #include <cstdlib>
+#include <iterator>
 #include <mutex>
 
 namespace framesources
@@ -21,6 +22,10 @@ namespace
 constexpr std::size_t mostBlobBytes = std::size_t(1) << 28; // a frame of 64 megapixels is less
 constexpr char pictureProperty[] = "CCD1";
 constexpr std::size_t mostElements = 5000; // of a device that means harm
+
+/// Without one of these a device is no camera any more; others come and go with its settings.
+constexpr const char *needed[] = {"CONNECTION", "CCD_EXPOSURE", "CCD_VIDEO_STREAM",
+                                  pictureProperty};
 
 IndiState stateOf(IPState state)
 {
@@ -85,8 +90,10 @@ public:
         guarded([&] {
             if (text(property.getDeviceName()) != device)
                 return;
-            states.erase(text(property.getName()));
-            ++removed;
+            const std::string name = text(property.getName());
+            states.erase(name);
+            if (std::find(std::begin(needed), std::end(needed), name) != std::end(needed))
+                ++removed;
         });
     }
     void newDevice(INDI::BaseDevice added) override

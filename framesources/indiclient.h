@@ -52,7 +52,7 @@ public:
     std::string takeMessage();
 
     bool has(const std::string &property) const;
-    /// How often the device or a property that is needed was taken back.
+    /// How often the device or a property that a camera needs was taken back.
     unsigned removals() const;
     IndiState state(const std::string &property) const;
     std::optional<IndiNumber> number(const std::string &property, const std::string &element) const;

@@ -33,6 +33,8 @@ private slots:
     void badCommands_data();
     void badCommands();
     void listNamesWhatIsMissing();
+    void listOutlivesTheMakersLibrary_data();
+    void listOutlivesTheMakersLibrary();
 
 private:
     Result run(const QStringList &arguments, const char *program = CAMERA_PROGRAM)
@@ -167,6 +169,43 @@ void CameraCommandTest::listNamesWhatIsMissing()
     QCOMPARE(listed.status, 1);
     QVERIFY2(listed.output.contains("maker's library: "), qPrintable(listed.output));
     QVERIFY2(listed.output.contains("INDI on 127.0.0.1:1: "), qPrintable(listed.output));
+}
+
+void CameraCommandTest::listOutlivesTheMakersLibrary_data()
+{
+    QTest::addColumn<QString>("way");
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<int>("status");
+    const auto row = [](const char *way, const char *line, int status = 1) {
+        QTest::newRow(way) << QString(way) << QString(line) << status;
+    };
+    row("well", "QUORVANDEL-0815", 0);
+    row("abort", "libveldix.so.20 ends or holds up the program as it is loaded");
+    row("does not start", "it is there and cannot be used: it does not start");
+    row("throws at the start", "it is there and cannot be used: it threw an exception: no bus");
+    row("throws a number",
+        "it is there and cannot be used: it threw an exception: no std::exception");
+    row("throws for an ID", "it is there and cannot be used: it threw an exception: no answer");
+    row("no ID", "a camera without an ID");
+    row("long ID", "a camera that cannot be used: its ID of 5000 characters is too long");
+    row("too many", "QUORVANDEL-0815", 0);
+}
+
+void CameraCommandTest::listOutlivesTheMakersLibrary()
+{
+    QFETCH(QString, way);
+    QFETCH(QString, line);
+    QFETCH(int, status);
+    qputenv("LD_LIBRARY_PATH", MISBEHAVING_FOLDER);
+    qputenv("MISBEHAVING_SDK", way.toUtf8());
+    const Result listed = run({"list", "127.0.0.1:1"});
+    const Result grabbed = run({"grab", path("a.png")});
+    qunsetenv("MISBEHAVING_SDK");
+    qunsetenv("LD_LIBRARY_PATH");
+    QVERIFY2(listed.output.startsWith("maker's library: " + line + '\n'),
+             qPrintable(listed.output));
+    QCOMPARE(listed.status, status);
+    QCOMPARE(grabbed.status, 1); // it ends in order: that library has no frames
 }
 
 QTEST_GUILESS_MAIN(CameraCommandTest)

@@ -50,6 +50,10 @@ public:
 
     quint16 port() const { return ownPort; }
     int harmsDone() const { return harms; }
+    /// Ends the connection; from now on the device is called "Camera 2", or "Camera" again.
+    void rename(bool another) { isRenamed = another; }
+    /// How many clients have come.
+    int connections() const { return clients; }
 
     static QByteArray blob(const QByteArray &format, const QByteArray &size,
                            const QByteArray &content)
@@ -83,8 +87,11 @@ private:
                head + "><defBLOB name='CCD1' label=''/></defBLOBVector>\n";
     }
 
-    static bool send(int client, const QByteArray &bytes)
+    static bool send(int client, const QByteArray &bytes, bool renamed)
     {
+        if (renamed)
+            return send(client, QByteArray(bytes).replace("device='Camera'", "device='Camera 2'"),
+                        false);
         for (int sent = 0; sent < bytes.size();) {
             const ssize_t now = ::send(client, bytes.constData() + sent,
                                        std::size_t(bytes.size() - sent), MSG_NOSIGNAL);
@@ -109,27 +116,29 @@ private:
 
     void serve(int client)
     {
+        const bool renamed = isRenamed;
+        ++clients;
         char asked[4096]; // what the client says is read, but does not matter
-        if (::read(client, asked, sizeof asked) <= 0 || !send(client, definitions()))
+        if (::read(client, asked, sizeof asked) <= 0 || !send(client, definitions(), renamed))
             return;
         using Clock = std::chrono::steady_clock;
         bool done = false;
         Clock::time_point sent = Clock::now();
-        while (!stop) {
+        while (!stop && isRenamed == renamed) {
             pollfd wait = {client, POLLIN, 0};
             if (::poll(&wait, 1, 5) > 0) {
                 if (::read(client, asked, sizeof asked) <= 0)
                     return;
                 if (!done && QByteArray(asked).contains("CCD_EXPOSURE")) { // it wants frames
                     done = true;
-                    if (harms++ == 0 && !send(client, harm))
+                    if (harms++ == 0 && !send(client, harm, renamed))
                         return;
                 }
             }
             if (!done || Clock::now() - sent < std::chrono::milliseconds(pause))
                 continue;
             sent = Clock::now();
-            if (!send(client, good))
+            if (!send(client, good, renamed))
                 return;
         }
     }
@@ -139,6 +148,7 @@ private:
     const int listener;
     quint16 ownPort = 0;
     std::atomic<bool> stop{false};
-    std::atomic<int> harms{0};
+    std::atomic<bool> isRenamed{false};
+    std::atomic<int> harms{0}, clients{0};
     std::thread thread;
 };

@@ -4,6 +4,7 @@
 
 #include <QElapsedTimer>
 #include <QFile>
+#include <QMap>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTcpServer>
@@ -11,6 +12,8 @@
 #include <QtTest>
 #include <csignal>
 #include <memory>
+#include <sys/prctl.h>
+#include <sys/resource.h>
 
 #include "framesources/indiclient.h"
 
@@ -21,6 +24,20 @@ struct SimulatedSensor {
     int width = 1280, height = 960;
     double scale = 30.45; ///< arcseconds a pixel
     bool bayer = false;
+    bool atPole = true; ///< points by itself; false: where the telescope of the server does
+};
+
+/// The simulated camera aborts when its server is killed: that leaves no core file, and a test that
+/// ends by a crash leaves no server.
+class ServerProcess : public QProcess
+{
+protected:
+    void setupChildProcess() override // between fork and exec
+    {
+        const rlimit noCore = {0, 0};
+        ::setrlimit(RLIMIT_CORE, &noCore);
+        ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+    }
 };
 
 class IndiServer
@@ -45,10 +62,12 @@ public:
     /// True once the camera is there.
     bool start(const QStringList &drivers = {"indi_simulator_ccd"})
     {
-        process = std::make_unique<QProcess>();
+        process = std::make_unique<ServerProcess>();
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert("PATH", GSC_FOLDER ":" + environment.value("PATH"));
         environment.insert("HOME", home.path()); // the drivers keep their settings there
+        for (auto variable = variables.begin(); variable != variables.end(); ++variable)
+            environment.insert(variable.key(), variable.value());
         process->setProcessEnvironment(environment);
         process->setStandardOutputFile(QProcess::nullDevice());
         process->setStandardErrorFile(QProcess::nullDevice());
@@ -116,7 +135,8 @@ public:
             "SIM_FOCUSING",
             {{"SIM_FOCUS_POSITION", 36700.0}, {"SIM_FOCUS_MAX", 100000.0}, {"SIM_SEEING", 60.0}});
         one->sendSwitch("SIMULATE_BAYER", sensor.bayer ? "INDI_ENABLED" : "INDI_DISABLED");
-        one->sendNumbers("EQUATORIAL_PE", {{"RA_PE", 3.0}, {"DEC_PE", 89.3}});
+        if (sensor.atPole)
+            one->sendNumbers("EQUATORIAL_PE", {{"RA_PE", 3.0}, {"DEC_PE", 89.3}});
         for (int i = 0; i < 20; ++i)
             one->waitForNews(std::chrono::milliseconds(50));
         return true;
@@ -152,6 +172,8 @@ public:
     }
 
     const quint16 port;
+    /// Of the server and its drivers; set before `start`.
+    QMap<QString, QString> variables;
 
 private:
     const QTemporaryDir home;

@@ -32,7 +32,7 @@ void Knobs::write() const
 
 void Knobs::turnRaAxisTo(double degrees)
 {
-    state.raAngle = degrees;
+    state.raAngle = turnOtherMount ? turnOtherMount(degrees) : degrees;
     write();
 }
 

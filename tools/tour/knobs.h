@@ -6,6 +6,7 @@
 #include "virtualcamera/truth.h"
 
 #include <QPointF>
+#include <functional>
 #include <string>
 
 /// The sky file of the virtual camera, kept in memory and rewritten completely on every change.
@@ -17,6 +18,9 @@ public:
 
     /// Turns the RA axis to an angle in degrees, positive as the mount tracks.
     void turnRaAxisTo(double degrees);
+    /// Turns the RA axis of a mount that is not the sky file's alone; returns the angle at which it
+    /// stops, degrees. Unset: the sky file's turns at once.
+    std::function<double(double degrees)> turnOtherMount;
     /// Turns the bolts to the given positions in degrees: altitude, and azimuth about the vertical.
     void turnBoltsTo(double altitude, double azimuth);
     /// Turns the bolts so that star B moves by `step` in the picture, frame pixels.

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+// A camera library whose list of cameras goes wrong, in the way that the environment names.
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <stdexcept>
+#include <string>
+
+#define EXPORTED extern "C" __attribute__((visibility("default")))
+
+namespace
+{
+bool is(const char *way)
+{
+    const char *const wanted = std::getenv("MISBEHAVING_SDK");
+    return wanted && std::strcmp(wanted, way) == 0;
+}
+
+__attribute__((constructor)) void load()
+{
+    if (is("abort"))
+        std::abort();
+}
+} // namespace
+
+EXPORTED std::uint32_t InitVELDIXResource()
+{
+    if (is("throws at the start"))
+        throw std::runtime_error("no bus");
+    return is("does not start") ? 1 : 0;
+}
+
+EXPORTED std::int32_t ScanVELDIX()
+{
+    if (is("throws a number"))
+        throw 115;
+    return is("too many") ? 2147483647 : 1;
+}
+
+EXPORTED std::uint32_t GetVELDIXId(std::int32_t, char *id)
+{
+    if (is("throws for an ID"))
+        throw std::runtime_error("no answer");
+    std::strcpy(id, is("long ID") ? std::string(5000, 'x').c_str() : "QUORVANDEL-0815");
+    return is("no ID") ? 1 : 0;
+}
