@@ -36,22 +36,7 @@ leave() {
 }
 trap leave EXIT
 
-passed=0
-failed=0
-
-# check TEXT COMMAND...: counts whether COMMAND succeeds, and shows its output if it does not.
-check() {
-  local text=$1
-  shift
-  if "$@" >"$scratch/check" 2>&1; then
-    passed=$((passed + 1))
-    echo "ok      $text"
-  else
-    failed=$((failed + 1))
-    echo "FAILED  $text"
-    tail -n 20 "$scratch/check" | sed 's/^/        /'
-  fi
-}
+. packaging/checks.sh
 
 same() { [ "$1" = "$2" ] || { printf 'is:        %s\nshould be: %s\n' "$1" "$2"; return 1; }; }
 absent() { [ ! -e "$1" ] && [ ! -L "$1" ]; }
@@ -230,11 +215,10 @@ test_homes_that_do_not_serve
 opens quorvandel-mount 'ount'
 opens quorvandel-assistant 'ssistant'
 check "the camera command takes a frame of the virtual camera" \
-  in_root su $user -c "quorvandel-camera --camera sky grab /tmp/frame.png"
+  in_root_as $user "quorvandel-camera --camera sky grab /tmp/frame.png"
 
 check "it is removed" in_root dpkg --purge quorvandel
 everything >"$scratch/after"
 check "nothing is left behind" diff "$scratch/before" "$scratch/after"
 
-echo "$passed passed, $failed failed"
-[ $failed -eq 0 ]
+finish
