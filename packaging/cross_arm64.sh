@@ -84,7 +84,7 @@ as_builder "cmake -G Ninja -S . -B build -DCMAKE_BUILD_TYPE=Release -DQUORVANDEL
 # The folders' tests, and what these need.
 tests=$(cd tests && printf '%s\n' {geometry,camera,virtualcamera}/tst_*.cpp |
   sed 's,.*/,,; s,\.cpp$,,' | tr '\n' ' ')
-as_builder "cmake --build build ${QUORVANDEL_JOBS:+-j$QUORVANDEL_JOBS} --target \
+as_builder "cmake --build build ${CMAKE_BUILD_PARALLEL_LEVEL:+-j$CMAKE_BUILD_PARALLEL_LEVEL} --target \
   quorvandel quorvandel-assistant quorvandel-mount quorvandel-tour quorvandel-assistant-tour $tests"
 
 passed=()
@@ -112,7 +112,7 @@ for tour in quorvandel-tour quorvandel-assistant-tour; do
     option=
     [ $pole = north ] || option=--south
     try "$tour $pole" "env QT_QPA_PLATFORM=offscreen LD_LIBRARY_PATH=build/lib/quorvandel \
-      timeout 3600 build/tour/$tour --fast --pictures pictures/$tour $option"
+      QUORVANDEL_TOUR_PATIENCE=20 timeout 3600 build/tour/$tour --fast --pictures pictures/$tour $option"
   done
 done
 

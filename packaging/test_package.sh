@@ -112,7 +112,8 @@ copy_is_current() {
   cmp "$root/usr/libexec/quorvandel/bin/quorvandel" "$root$home/$folder/bin/quorvandel"
 }
 names_no_build_folder() {
-  in_root dpkg -L quorvandel | sed "s,^,$root," | xargs -d '\n' grep -lsF -d skip -- "$PWD/" && return 1
+  in_root dpkg -L quorvandel | sed "s,^,$root," | xargs -d '\n' \
+    grep -lsF -d skip -e "$PWD/" -e /quorvandel-package. && return 1
   true
 }
 strangers() { # the user's files outside the home
@@ -195,6 +196,8 @@ cp "$package" "$root/tmp/package.deb"
 check "it is installed" in_root dpkg -i /tmp/package.deb
 check "no installed file contains the path of the build folder" names_no_build_folder
 check "no dependency is missing" in_root apt-get check
+check "what it recommends and suggests can be installed" in_root apt-get -q -s satisfy \
+  "$(dpkg-deb -f "$package" Recommends)" "$(dpkg-deb -f "$package" Suggests)"
 
 mkdir -p "$root/tmp/.X11-unix" && chmod 1777 "$root/tmp"
 mkdir -p /tmp/.X11-unix
@@ -216,6 +219,8 @@ opens quorvandel-mount 'ount'
 opens quorvandel-assistant 'ssistant'
 check "the camera command takes a frame of the virtual camera" \
   in_root_as $user "quorvandel-camera --camera sky grab /tmp/frame.png"
+check "the pole is found in it by the stars" \
+  in_root_as $user "quorvandel-recognise /tmp/frame.png | grep 'the north pole is at'"
 
 check "it is removed" in_root dpkg --purge quorvandel
 everything >"$scratch/after"
