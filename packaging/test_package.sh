@@ -112,9 +112,8 @@ copy_is_current() {
   cmp "$root/usr/libexec/quorvandel/bin/quorvandel" "$root$home/$folder/bin/quorvandel"
 }
 names_no_build_folder() {
-  in_root dpkg -L quorvandel | sed "s,^,$root," | xargs -d '\n' \
-    grep -lsF -d skip -e "$PWD/" -e /quorvandel-package. && return 1
-  true
+  ! in_root dpkg -L quorvandel | sed "s,^,$root," | xargs -d '\n' \
+    grep -lsF -d skip -e "$PWD/" -e /quorvandel-package. | grep .
 }
 strangers() { # the user's files outside the home
   find "$root" -xdev -user $user -not -path "$root/home/*" -not -path "$root/proc/*" \
