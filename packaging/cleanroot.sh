@@ -27,6 +27,13 @@ in_root() {
     DEBIAN_FRONTEND=noninteractive "$@"
 }
 
+# in_root_as USER COMMAND: runs the shell command in the user's home. Not by su: that would start
+# another session, which does not keep the priority that the caller has set.
+in_root_as() {
+  chroot --userspec="$1:$1" --groups="" "$root" env -i PATH=/usr/bin:/bin LC_ALL=C.UTF-8 \
+    HOME="/home/$1" DEB_BUILD_OPTIONS="${DEB_BUILD_OPTIONS:-}" sh -c "cd && $2"
+}
+
 # remove_root: unmounts and deletes `root`.
 remove_root() {
   awk -v root="$root/" 'index($2, root) == 1 { print $2 }' /proc/mounts | sort -r | xargs -r umount

@@ -36,22 +36,7 @@ leave() {
 }
 trap leave EXIT
 
-passed=0
-failed=0
-
-# check TEXT COMMAND...: counts whether COMMAND succeeds, and shows its output if it does not.
-check() {
-  local text=$1
-  shift
-  if "$@" >"$scratch/check" 2>&1; then
-    passed=$((passed + 1))
-    echo "ok      $text"
-  else
-    failed=$((failed + 1))
-    echo "FAILED  $text"
-    tail -n 20 "$scratch/check" | sed 's/^/        /'
-  fi
-}
+. packaging/checks.sh
 
 same() { [ "$1" = "$2" ] || { printf 'is:        %s\nshould be: %s\n' "$1" "$2"; return 1; }; }
 absent() { [ ! -e "$1" ] && [ ! -L "$1" ]; }
@@ -127,8 +112,8 @@ copy_is_current() {
   cmp "$root/usr/libexec/quorvandel/bin/quorvandel" "$root$home/$folder/bin/quorvandel"
 }
 names_no_build_folder() {
-  in_root dpkg -L quorvandel | sed "s,^,$root," | xargs -d '\n' grep -lsF -d skip -- "$PWD/" && return 1
-  true
+  ! in_root dpkg -L quorvandel | sed "s,^,$root," | xargs -d '\n' \
+    grep -lsF -d skip -e "$PWD/" -e /quorvandel-package. | grep .
 }
 strangers() { # the user's files outside the home
   find "$root" -xdev -user $user -not -path "$root/home/*" -not -path "$root/proc/*" \
@@ -210,6 +195,8 @@ cp "$package" "$root/tmp/package.deb"
 check "it is installed" in_root dpkg -i /tmp/package.deb
 check "no installed file contains the path of the build folder" names_no_build_folder
 check "no dependency is missing" in_root apt-get check
+check "what it recommends and suggests can be installed" in_root apt-get -q -s satisfy \
+  "$(dpkg-deb -f "$package" Recommends)" "$(dpkg-deb -f "$package" Suggests)"
 
 mkdir -p "$root/tmp/.X11-unix" && chmod 1777 "$root/tmp"
 mkdir -p /tmp/.X11-unix
@@ -230,11 +217,12 @@ test_homes_that_do_not_serve
 opens quorvandel-mount 'ount'
 opens quorvandel-assistant 'ssistant'
 check "the camera command takes a frame of the virtual camera" \
-  in_root su $user -c "quorvandel-camera --camera sky grab /tmp/frame.png"
+  in_root_as $user "quorvandel-camera --camera sky grab /tmp/frame.png"
+check "the pole is found in it by the stars" \
+  in_root_as $user "quorvandel-recognise /tmp/frame.png | grep 'the north pole is at'"
 
 check "it is removed" in_root dpkg --purge quorvandel
 everything >"$scratch/after"
 check "nothing is left behind" diff "$scratch/before" "$scratch/after"
 
-echo "$passed passed, $failed failed"
-[ $failed -eq 0 ]
+finish

@@ -32,9 +32,10 @@ in_root useradd -m builder
 home=$root/home/builder
 files=$(dirname "$source")
 cp "$source" "$files"/quorvandel_*.orig.tar.xz "$files"/quorvandel_*.debian.tar.xz "$home/"
+in_root chown -R builder: /home/builder # who writes them again
 in_root apt-get -q update
 in_root apt-get -q -y install --no-install-recommends build-essential fakeroot
-as_builder() { in_root su builder -c "cd && $1"; }
+as_builder() { in_root_as builder "$1"; }
 as_builder "dpkg-source -x *.dsc tree"
 in_root apt-get -q -y build-dep --no-install-recommends /home/builder/tree
 echo "== building the source package"

@@ -2,6 +2,8 @@
 // Clicks, turns and waits as a person would.
 #include "tools/tour/assistanthands.h"
 
+#include "tools/tour/patience.h"
+
 #include <QAbstractButton>
 #include <QDeadlineTimer>
 #include <QDoubleSpinBox>
@@ -83,7 +85,7 @@ std::optional<double> AssistantHands::number(const QString &name, const char *pr
 void AssistantHands::waitFor(const std::function<bool()> &isThere, int milliseconds,
                              const char *what) const
 {
-    if (!QTest::qWaitFor(isThere, milliseconds))
+    if (!QTest::qWaitFor(isThere, patience(milliseconds)))
         throw std::runtime_error(std::string(what) + "; the window says: " +
                                  text(QStringLiteral("label_advice")).toStdString());
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // How a user clicks, types, scrolls and turns.
 #include "geometry/starcatalogue.h"
+#include "tools/tour/patience.h"
 #include "tools/tour/person.h"
 
 #include <QAction>
@@ -26,7 +27,7 @@ constexpr int patienceMilliseconds = 20000;
 /// Waits for `condition` with the event loop running; throws Stuck after a timeout.
 template <typename Condition> void waitUntil(Condition condition, const char *what)
 {
-    if (!QTest::qWaitFor(condition, patienceMilliseconds))
+    if (!QTest::qWaitFor(condition, patience(patienceMilliseconds)))
         throw Stuck(std::string("timed out waiting for ") + what);
 }
 
