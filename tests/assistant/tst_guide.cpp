@@ -70,7 +70,7 @@ void GuideTest::startsAreAligned()
     std::vector<double> errors;
     int inside = 0;
     for (int i = 0; i < starts; ++i) {
-        const virtualsky::SkyState sky = startingSky(std::uint64_t(100 + i));
+        const virtualsky::SkyState sky = startingSky(100 + std::uint64_t(i));
         PaintedMount mount(sky, settingsFor(sky));
         const AlignmentResult result = alignAsTold(mount);
         QVERIFY2(

@@ -265,7 +265,7 @@ inline void addHistory(assistantwindow::AssistantWindow &window,
     auto &status = instrument.snapshot.status;
     const double end = status.error->total.arcseconds;
     for (int i = 0; i <= 60; ++i) {
-        status.frame = std::uint64_t(i + 8);
+        status.frame = std::uint64_t(i) + 8;
         status.steadySeconds = 4.0 * i;
         status.error->total.arcseconds = end * std::exp((60 - i) / 60.0 * std::log(9000.0 / end));
         window.refresh();
