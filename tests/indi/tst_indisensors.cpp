@@ -106,7 +106,8 @@ void IndiSensorsTest::recognisedAtTheProgramsScale_data()
         QTest::newRow(name) << width << height << scale << bayer << soften;
     };
     row("1280 x 960 at 30.45, stars of one pixel", 1280, 960, 30.45, false, true);
-    row("640 x 480 at 60, stars of one pixel", 640, 480, 60.0, false, true);
+    // The driver refuses sensors of fewer than 512 rows.
+    row("640 x 512 at 60, stars of one pixel", 640, 512, 60.0, false, true);
     row("4144 x 2822 at 6", 4144, 2822, 6.0, false, true);
     row("4144 x 2822 at 6, Bayer", 4144, 2822, 6.0, true, true);
     row("2560 x 1920 at 15", 2560, 1920, 15.0, false, true);
