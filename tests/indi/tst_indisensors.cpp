@@ -82,6 +82,7 @@ private slots:
     void poleIsWhereTheDriverPutIt();
     void exposureAndGainReachTheDevice();
     void streamComes();
+    void videoEndsWithTheSource();
 
 private:
     IndiServer server;
@@ -198,6 +199,23 @@ void IndiSensorsTest::streamComes()
     QTRY_VERIFY_WITH_TIMEOUT((device->waitForNews(std::chrono::milliseconds(50)),
                               device->isOn("CCD_VIDEO_STREAM", "STREAM_OFF").value_or(false)),
                              10000);
+}
+
+void IndiSensorsTest::videoEndsWithTheSource()
+{
+    QVERIFY(server.set({}));
+    IndiSource source(server.port);
+    source.exposure = 0.05;
+    QVERIFY2(!source.frame().empty(), qPrintable(source.lines().join("\n")));
+    const auto device = server.client();
+    const auto isOn = [&](bool wanted) {
+        device->waitForNews(std::chrono::milliseconds(50));
+        return device->isOn("CCD_VIDEO_STREAM", "STREAM_ON").value_or(!wanted) == wanted;
+    };
+    QVERIFY(device);
+    QTRY_VERIFY_WITH_TIMEOUT(isOn(true), 20000);
+    source.source.reset();
+    QTRY_VERIFY_WITH_TIMEOUT(isOn(false), 20000);
 }
 
 QTEST_GUILESS_MAIN(IndiSensorsTest)
