@@ -158,15 +158,16 @@ void IndiCamera::setUp()
     say("connected");
 }
 
+/// A device may define its gain after it is connected.
 void IndiCamera::applyGain(double wanted)
 {
     if (wanted == gain)
         return;
-    gain = wanted;
     static constexpr std::pair<const char *, const char *> places[] = {{"CCD_GAIN", "GAIN"},
                                                                        {"CCD_CONTROLS", "Gain"}};
     for (const auto &[property, element] : places)
         if (const auto limits = client->number(property, element); limits) {
+            gain = wanted;
             if (limits->most > limits->least)
                 client->sendNumbers(property,
                                     {{element, deviceGain(gain, limits->least, limits->most)}});

@@ -10,6 +10,7 @@
 #include <QTcpServer>
 #include <QTemporaryDir>
 #include <QtTest>
+#include <cmath>
 #include <csignal>
 #include <memory>
 #include <sys/prctl.h>
@@ -98,8 +99,26 @@ public:
     /// Points the camera at the pole.
     bool set(const SimulatedSensor &sensor) const
     {
-        // A device that has just connected may lose what it is sent: everything is sent twice.
-        return setOnce(sensor) && setOnce(sensor);
+        // A device that has just connected may lose what it is sent: everything is sent at least
+        // twice, and until the device has it.
+        for (int time = 0; time < 10; ++time)
+            if (setOnce(sensor) && time > 0 && isSet(sensor))
+                return true;
+        return false;
+    }
+
+    bool isSet(const SimulatedSensor &sensor) const
+    {
+        const auto one = client();
+        const auto has = [&one](const char *property, const char *element, double wanted) {
+            const auto number =
+                waitFor(*one, property) ? one->number(property, element) : std::nullopt;
+            return number && std::abs(number->value - wanted) < 1e-3;
+        };
+        return one && has("CCD_INFO", "CCD_MAX_X", sensor.width) &&
+               has("CCD_INFO", "CCD_MAX_Y", sensor.height) &&
+               has("SCOPE_INFO", "FOCAL_LENGTH", focalLength(sensor)) &&
+               (!sensor.atPole || has("EQUATORIAL_PE", "DEC_PE", declination));
     }
 
     bool setOnce(const SimulatedSensor &sensor) const
@@ -108,7 +127,6 @@ public:
         if (!one)
             return false;
         one->sendSwitch("CONNECTION", "CONNECT");
-        constexpr double pixel = 3.75, arcsecond = 4.84813681109536e-6; // micrometres, radians
         one->sendNumbers("SIMULATOR_SETTINGS", {{"SIM_XRES", double(sensor.width)},
                                                 {"SIM_YRES", double(sensor.height)},
                                                 {"SIM_XSIZE", pixel},
@@ -129,14 +147,13 @@ public:
              {"SCOPE_INFO", "SIM_FOCUSING", "SIMULATE_BAYER", "EQUATORIAL_PE"})
             if (!waitFor(*one, property))
                 return false;
-        one->sendNumbers("SCOPE_INFO", {{"FOCAL_LENGTH", pixel * 1e-3 / (sensor.scale * arcsecond)},
-                                        {"APERTURE", 10.0}});
+        one->sendNumbers("SCOPE_INFO", {{"FOCAL_LENGTH", focalLength(sensor)}, {"APERTURE", 10.0}});
         one->sendNumbers(
             "SIM_FOCUSING",
             {{"SIM_FOCUS_POSITION", 36700.0}, {"SIM_FOCUS_MAX", 100000.0}, {"SIM_SEEING", 60.0}});
         one->sendSwitch("SIMULATE_BAYER", sensor.bayer ? "INDI_ENABLED" : "INDI_DISABLED");
         if (sensor.atPole)
-            one->sendNumbers("EQUATORIAL_PE", {{"RA_PE", 3.0}, {"DEC_PE", 89.3}});
+            one->sendNumbers("EQUATORIAL_PE", {{"RA_PE", 3.0}, {"DEC_PE", declination}});
         for (int i = 0; i < 20; ++i)
             one->waitForNews(std::chrono::milliseconds(50));
         return true;
@@ -176,6 +193,15 @@ public:
     QMap<QString, QString> variables;
 
 private:
+    static constexpr double pixel = 3.75;       // micrometres
+    static constexpr double declination = 89.3; // degrees
+
+    static double focalLength(const SimulatedSensor &sensor) // millimetres
+    {
+        constexpr double arcsecond = 4.84813681109536e-6; // radians
+        return pixel * 1e-3 / (sensor.scale * arcsecond);
+    }
+
     const QTemporaryDir home;
     std::unique_ptr<QProcess> process;
 };
