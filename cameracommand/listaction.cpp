@@ -34,9 +34,9 @@ struct Makers {
     std::uint32_t (*id)(std::int32_t, char *) = nullptr;
 };
 
-template <typename Function> void resolve(void *library, const char *name, Function &function)
+template <typename Function> void resolve(void *handle, const char *name, Function &function)
 {
-    function = reinterpret_cast<Function>(::dlsym(library, name));
+    function = reinterpret_cast<Function>(::dlsym(handle, name));
 }
 
 /// Nothing if the library cannot be used, which is said.
