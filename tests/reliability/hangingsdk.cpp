@@ -5,6 +5,7 @@
 // Disconnect like a user.
 #include <QAction>
 #include <QApplication>
+#include <QThread>
 #include <QTimer>
 #include <QWidget>
 #include <QtDebug>
@@ -87,6 +88,8 @@ void actWhileLive()
 EXPORTED std::uint32_t InitVELDIXResource()
 {
     enter("InitVELDIXResource");
+    if (QThread::currentThread() != qApp->thread())
+        return 0; // the assistant, which has none of these actions
     QTimer::singleShot(0, qApp, [] { // once the window exists
         if (QAction *const mono = actionOfWindow("actionMono_Style"))
             mono->setChecked(true);
