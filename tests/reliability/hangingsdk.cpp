@@ -89,7 +89,7 @@ EXPORTED std::uint32_t InitVELDIXResource()
 {
     enter("InitVELDIXResource");
     if (QThread::currentThread() != qApp->thread())
-        return 0; // the assistant, which has none of these actions
+        return 0;                    // the assistant, which has none of these actions
     QTimer::singleShot(0, qApp, [] { // once the window exists
         if (QAction *const mono = actionOfWindow("actionMono_Style"))
             mono->setChecked(true);
