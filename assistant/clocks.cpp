@@ -43,8 +43,8 @@ bool isBehind(double utcSeconds, double certainPast)
 
 std::vector<std::string> datedFiles()
 {
-    return {"/proc/self/exe", settingsPath().toStdString(), "/var/lib/dpkg/status",
-            "/etc/ld.so.cache", "/var/lib/systemd/timesync/clock"};
+    return {"/proc/self/exe", settingsPath().toStdString(), "/etc/ld.so.cache",
+            "/var/lib/systemd/timesync/clock"};
 }
 
 double newestDate(const std::vector<std::string> &paths)
