@@ -28,8 +28,8 @@ private:
 /// Where times come from. Each may be called from any thread.
 struct Clocks {
     std::function<double()> utc; ///< the computer's clock, seconds since 1970
-    std::function<double()>
-        steady; ///< seconds of a clock that nobody sets, and that a suspend does not stop
+    /// Seconds of a clock that nobody sets, and that a suspend does not stop.
+    std::function<double()> steady;
     std::function<bool()> synchronised; ///< whether the computer's clock is known to be right
     double certainPast = 0.0; ///< seconds since 1970: a moment that has passed; 0: none is known
 };

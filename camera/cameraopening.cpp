@@ -13,8 +13,6 @@
 namespace
 {
 constexpr auto modelName = "QUORVANDEL";
-/// More cameras than can be connected. If a library reports more, the other IDs are not read.
-constexpr std::int32_t maxCameras = 1024;
 
 /// The model in an ID of the form model-serial; empty for an ID without '-'.
 QString modelOf(const char *id)

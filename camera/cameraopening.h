@@ -6,8 +6,12 @@
 
 #include "camera/session.h"
 
+#include <cstdint>
 #include <string>
 #include <vector>
+
+/// More cameras than can be connected. If a library reports more, the other IDs are not read.
+constexpr std::int32_t maxCameras = 1024;
 
 /// The IDs of the cameras of our model (QUORVANDEL-serial), in the library's order. An ID that is
 /// too long to be given back to the library is left out, with a critical log line.

@@ -198,7 +198,7 @@ Outcome load()
 
 QStringList librariesToTry(const QString &applicationFolder)
 {
-    const QString soname = QStringLiteral("libveldix.so.20");
+    const QString soname = QLatin1String(makersLibrary);
     QStringList names{soname};
     for (const char *libraryFolder : {"../lib", "../" QUORVANDEL_LIBDIR}) {
         const QString name =

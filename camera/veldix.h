@@ -16,6 +16,9 @@ enum VeldixControl : std::int32_t {
     CONTROL_USBTRAFFIC = 12 ///< 0 to 255; larger values slow down the frames
 };
 
+/// The maker's library, by the name that the loader finds.
+inline constexpr char makersLibrary[] = "libveldix.so.20";
+
 /// Size of a camera ID in bytes, including the NUL.
 constexpr int veldixIdSize = 38;
 /// Size of the longest ID that is accepted nevertheless, in bytes, including the NUL: the library

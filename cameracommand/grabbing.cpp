@@ -8,6 +8,7 @@
 #include <dlfcn.h>
 
 #include "camera/loadprobe.h"
+#include "camera/veldix.h"
 #include "cameracommand/operationscamera.h"
 #include "framesources/nativecameras.h"
 #include "virtualcamera/skyfile.h"
@@ -24,10 +25,9 @@ using virtualsky::Source;
 /// that cannot be used.
 bool makersLibraryIsThere()
 {
-    constexpr char name[] = "libveldix.so.20";
-    if (!canLoadSafely(name))
+    if (!canLoadSafely(makersLibrary))
         return true;
-    void *const library = ::dlopen(name, RTLD_LAZY | RTLD_LOCAL);
+    void *const library = ::dlopen(makersLibrary, RTLD_LAZY | RTLD_LOCAL);
     if (library)
         ::dlclose(library);
     return library != nullptr;

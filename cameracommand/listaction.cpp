@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 
+#include "camera/cameraopening.h"
 #include "camera/loadprobe.h"
 #include "camera/veldix.h"
 #include "cameracommand/actions.h"
@@ -20,8 +21,6 @@
 
 namespace
 {
-constexpr char library[] = "libveldix.so.20";
-
 void say(const std::string &text)
 {
     std::printf("maker's library: %s\n", text.c_str());
@@ -42,11 +41,11 @@ template <typename Function> void resolve(void *handle, const char *name, Functi
 /// Nothing if the library cannot be used, which is said.
 std::optional<Makers> loadMakers()
 {
-    if (!canLoadSafely(library)) {
-        say(std::string(library) + " ends or holds up the program as it is loaded");
+    if (!canLoadSafely(makersLibrary)) {
+        say(std::string(makersLibrary) + " ends or holds up the program as it is loaded");
         return std::nullopt;
     }
-    void *const handle = ::dlopen(library, RTLD_NOW | RTLD_LOCAL);
+    void *const handle = ::dlopen(makersLibrary, RTLD_NOW | RTLD_LOCAL);
     if (!handle) {
         say(::dlerror());
         return std::nullopt;
@@ -81,12 +80,11 @@ bool listOne(const Makers &makers, std::int32_t index)
 /// How many cameras the maker's library finds; says so.
 int listFound(const Makers &makers)
 {
-    constexpr std::int32_t mostCameras = 1024;
     if (makers.init() != 0) {
         say("it is there and cannot be used: it does not start");
         return 0;
     }
-    const std::int32_t count = std::min(makers.scan(), mostCameras);
+    const std::int32_t count = std::min(makers.scan(), maxCameras);
     if (count <= 0)
         say("it finds no camera");
     int usable = 0;

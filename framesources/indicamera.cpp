@@ -131,21 +131,15 @@ void IndiCamera::applySwitches()
         {"CCD_TRANSFER_FORMAT", "FORMAT_FITS"},
         {"CCD_COMPRESSION", "INDI_DISABLED"},
         {"CCD_FRAME_TYPE", "FRAME_LIGHT"}};
-    unsigned bit = 1;
-    for (const auto &[property, element] : switches) {
-        const auto on = client->isOn(property, element);
-        if (on && (switched & bit) == 0) {
-            switched |= bit;
-            if (!*on)
-                client->sendSwitch(property, element);
-        }
-        bit <<= 1;
-    }
+    for (const auto &[property, element] : switches)
+        if (const auto on = client->isOn(property, element);
+            on && switched.insert(property).second && !*on)
+            client->sendSwitch(property, element);
 }
 
 void IndiCamera::setUp()
 {
-    switched = 0;
+    switched.clear();
     applySwitches();
     client->askForPictures();
     stage = Stage::Ready;
@@ -216,7 +210,7 @@ void IndiCamera::startStream(double wanted)
             values.emplace_back("STREAMING_DIVISOR_VALUE", 1.0);
         client->sendNumbers("STREAMING_EXPOSURE", values);
     }
-    switched |= 1; // on from now on, whatever is defined later
+    switched.insert("CCD_VIDEO_STREAM"); // on from now on, whatever is defined later
     client->sendSwitch("CCD_VIDEO_STREAM", "STREAM_ON");
     streaming = true;
 }

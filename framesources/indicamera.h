@@ -5,6 +5,7 @@
 #include <atomic>
 #include <chrono>
 #include <memory>
+#include <set>
 #include <string>
 
 #include "framesources/indiclient.h"
@@ -60,7 +61,7 @@ private:
     double pause = 0.0; // seconds before the next try
     std::string lastSaid;
     unsigned removals = 0;
-    unsigned switched = 0; // bits: which of the switches of `applySwitches` were seen
+    std::set<std::string> switched; // properties of `applySwitches` that were seen
 
     double gain = -1.0; // sent to the device, in the program's units
     cv::Size sensor;    // as the device says

@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Does a signal end the assistant in time, while an operation of the camera library hangs?
-#include "tests/support/patience.h"
+#include "tests/reliability/handledsignals.h"
+#include "tests/reliability/hangingprogram.h"
 
-#include <QElapsedTimer>
-#include <QProcess>
-#include <QTemporaryDir>
 #include <QtTest>
 #include <csignal>
-#include <sys/types.h>
 
 namespace
 {
@@ -26,9 +23,7 @@ private slots:
 
 void AssistantSignalsTest::initTestCase()
 {
-    // A shell may have started the tests with SIGINT ignored, which children inherit.
-    for (const int number : {SIGTERM, SIGINT, SIGHUP})
-        std::signal(number, SIG_DFL);
+    restoreSignals();
 }
 
 void AssistantSignalsTest::endsInTime_data()
@@ -50,30 +45,9 @@ void AssistantSignalsTest::endsInTime()
     QFETCH(QString, operation);
     QFETCH(QByteArray, sign);
     QFETCH(int, number);
-    const QTemporaryDir home;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("HOME", home.path());
-    environment.insert("XDG_CONFIG_HOME", home.path() + "/config");
-    environment.insert("QT_LOGGING_TO_CONSOLE", "1");
-    environment.insert("LD_LIBRARY_PATH", HANGING_FOLDER);
-    environment.insert("HANGING_SDK", operation);
-    QProcess program;
-    program.setProcessEnvironment(environment);
-    program.setReadChannel(QProcess::StandardError);
-    program.start(PROGRAM_FILE, {"--connect"});
-    QByteArray errors;
-    while (!errors.contains(sign) && program.waitForReadyRead(patience))
-        errors += program.readAllStandardError();
-    QVERIFY2(errors.contains(sign), errors);
-
-    QElapsedTimer timer;
-    timer.start();
-    ::kill(pid_t(program.processId()), number);
-    QVERIFY2(program.waitForFinished(patience), "the program does not end");
-    QVERIFY2(timer.elapsed() < longestEnd, qPrintable(QString::number(timer.elapsed())));
-    errors += program.readAllStandardError();
-    QCOMPARE(program.exitStatus(), QProcess::NormalExit);
-    QVERIFY2(program.exitCode() == 0, errors);
+    HangingProgram program(operation, {});
+    QVERIFY2(program.reaches(sign, {"--connect"}), program.errors);
+    QVERIFY2(program.endsBy(number, longestEnd), program.errors);
 }
 
 QTEST_GUILESS_MAIN(AssistantSignalsTest)

@@ -7,6 +7,14 @@
 #include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
+#include <csignal>
+
+/// A shell may have started the tests with SIGINT ignored, which children inherit.
+inline void restoreSignals()
+{
+    for (const int number : {SIGTERM, SIGINT, SIGHUP})
+        std::signal(number, SIG_DFL);
+}
 
 /// Whether the process has a handler of its own for the signal; false if there is no such process.
 inline bool handlesSignal(qint64 process, int number)

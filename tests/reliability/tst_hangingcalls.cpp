@@ -1,17 +1,14 @@
 // SPDX-License-Identifier: MIT
 // Does a signal end the program, with its settings saved, while an operation of the camera library
 // hangs?
-#include "tests/support/patience.h"
+#include "tests/reliability/handledsignals.h"
+#include "tests/reliability/hangingprogram.h"
 
-#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
-#include <QProcess>
 #include <QSettings>
-#include <QTemporaryDir>
 #include <QtTest>
 #include <csignal>
-#include <sys/types.h>
 
 namespace
 {
@@ -35,9 +32,7 @@ private slots:
 
 void HangingCallsTest::initTestCase()
 {
-    // A shell may have started the tests with SIGINT ignored, which children inherit.
-    for (const int number : {SIGTERM, SIGINT, SIGHUP})
-        std::signal(number, SIG_DFL);
+    restoreSignals();
 }
 
 void HangingCallsTest::endsInTime_data()
@@ -78,40 +73,19 @@ void HangingCallsTest::endsInTime()
     QFETCH(QByteArray, sign);
     QFETCH(int, number);
     QFile::remove(settingsPath());
-    const QTemporaryDir home;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("HOME", home.path());
-    environment.insert("XDG_CONFIG_HOME", home.path() + "/config");
-    environment.insert("QT_LOGGING_TO_CONSOLE", "1");
-    environment.insert("LD_LIBRARY_PATH", HANGING_FOLDER);
-    environment.insert("HANGING_SDK", operation);
-    environment.insert("HANGING_SDK_THEN", then);
-    QProcess program;
-    program.setProcessEnvironment(environment);
-    program.setReadChannel(QProcess::StandardError);
-    program.start(PROGRAM_FILE, QStringList());
-    QByteArray errors;
-    while (!errors.contains(sign) && program.waitForReadyRead(patience))
-        errors += program.readAllStandardError();
-    QVERIFY2(errors.contains(sign), errors);
+    HangingProgram program(operation, then);
+    QVERIFY2(program.reaches(sign, {}), program.errors);
     QVERIFY(!QFile::exists(settingsPath()));
 
-    QElapsedTimer timer;
-    timer.start();
-    ::kill(pid_t(program.processId()), number);
-    QVERIFY2(program.waitForFinished(patience), "the program does not end");
-    QVERIFY2(timer.elapsed() < longestEnd, qPrintable(QString::number(timer.elapsed())));
-    errors += program.readAllStandardError();
-    QCOMPARE(program.exitStatus(), QProcess::NormalExit);
-    QVERIFY2(program.exitCode() == 0, errors);
+    QVERIFY2(program.endsBy(number, longestEnd), program.errors);
     const QSettings file(settingsPath(), QSettings::IniFormat);
     QCOMPARE(file.allKeys().size(), 12);
     // What was changed just before the call is saved; the first call comes before the window.
     QCOMPARE(file.value("STYLE/style").toString(),
              QString(operation == "InitVELDIXResource" ? "Color" : "Mono"));
     const bool byForce = operation != "BeginVELDIXLive" && operation != "GetVELDIXLiveFrame";
-    QCOMPARE(errors.contains("the program ends by force"), byForce);
-    QCOMPARE(errors.contains("the camera is not closed"), !byForce);
+    QCOMPARE(program.errors.contains("the program ends by force"), byForce);
+    QCOMPARE(program.errors.contains("the camera is not closed"), !byForce);
 }
 
 QTEST_GUILESS_MAIN(HangingCallsTest)

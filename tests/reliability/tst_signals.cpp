@@ -80,9 +80,7 @@ private slots:
 
 void SignalsTest::initTestCase()
 {
-    // A shell may have started the tests with SIGINT ignored, which children inherit.
-    for (const int number : {SIGTERM, SIGINT, SIGHUP})
-        std::signal(number, SIG_DFL);
+    restoreSignals();
 }
 
 void SignalsTest::init()

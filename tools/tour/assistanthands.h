@@ -30,7 +30,7 @@ public:
     void connectCamera();  ///< until the sky is recognised
     void turnAxis();       ///< until the window asks for the bolts
     void turnBolts();      ///< by the two numbers, until the total error is below the goal
-    void showLargeView();  ///< by its key, and back
+    void showLargeView();  ///< and back
     void showOtherPages(); ///< settings and report, and back
     void click(const QString &button);
     void enter(const QString &field, double number); ///< by keys, with Return
