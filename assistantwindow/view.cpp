@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace assistantwindow
 {
@@ -15,8 +16,11 @@ struct Level {
     double enterBelow, leaveAbove; ///< total error, arcseconds
     double radius;                 ///< arcseconds
 };
-constexpr Level levels[] = {{0.0, 0.0, 0.0}, {60.0, 80.0, 100.0}, {15.0, 24.0, 35.0}};
-constexpr int closest = 2;
+/// In each, the error is long enough to be drawn as an arrow, and the ring that is next to be
+/// reached is in the picture.
+constexpr Level levels[] = {{0.0, 0.0, 0.0},       {1800.0, 2400.0, 3000.0}, {600.0, 800.0, 1000.0},
+                            {180.0, 240.0, 300.0}, {60.0, 80.0, 100.0},      {15.0, 24.0, 35.0}};
+constexpr int closest = int(std::size(levels)) - 1;
 } // namespace
 
 View wholeView(QSize frame, QSize widget)

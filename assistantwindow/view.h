@@ -29,8 +29,8 @@ View wholeView(QSize frame, QSize widget);
 /// `centre` (frame pixels) in the middle of the widget, `radius` frame pixels to its nearer border.
 View closeView(QPointF centre, double radius, QSize widget);
 
-/// How close the view is: 0 the whole frame, 1 from 1′ down, 2 from 15″ down. It opens only at
-/// errors well above, so noise does not make it flicker.
+/// How close the view is: 0 the whole frame, one more below 30′, 10′, 3′, 1′ and 15″ each. It opens
+/// only at errors well above, so noise does not make it flicker.
 int zoomLevel(int now, const std::optional<double> &totalArcseconds);
 
 /// What is visible around the pole, arcseconds from the middle to the nearer border; 0 for the

@@ -390,7 +390,8 @@ void AssistantControlsTest::enlargedViewKeepsItsContext_data()
     QTest::addColumn<bool>("isEnlarged");
     QTest::newRow("below a minute") << "near" << true;
     QTest::newRow("aligned") << "aligned" << true;
-    QTest::newRow("far") << "south" << false;
+    QTest::newRow("below ten minutes") << "south" << true;
+    QTest::newRow("far") << "bolts" << false;
 }
 
 /// The whole frame with its stars' rings in the upper right corner, the scale bar in the lower

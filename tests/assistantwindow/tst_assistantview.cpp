@@ -24,6 +24,7 @@ private slots:
     void zoom_data();
     void zoom();
     void zoomDoesNotFlicker();
+    void errorIsSeenAtEveryZoom();
     void wholeFrameIsCentred();
     void closeViewHasItsCentreAndRadius();
     void ellipses_data();
@@ -45,17 +46,21 @@ void AssistantViewTest::zoom_data()
     QTest::addColumn<int>("now");
     QTest::addColumn<double>("total");
     QTest::addColumn<int>("next");
-    QTest::newRow("far") << 0 << 200.0 << 0;
-    QTest::newRow("not yet") << 0 << 61.0 << 0;
-    QTest::newRow("below a minute") << 0 << 59.0 << 1;
-    QTest::newRow("stays close") << 1 << 79.0 << 1;
-    QTest::newRow("opens") << 1 << 81.0 << 0;
-    QTest::newRow("closer") << 1 << 14.0 << 2;
-    QTest::newRow("stays closer") << 2 << 23.0 << 2;
-    QTest::newRow("one step back") << 2 << 25.0 << 1;
-    QTest::newRow("all at once") << 0 << 5.0 << 2;
-    QTest::newRow("all the way back") << 2 << 500.0 << 0;
-    QTest::newRow("no number") << 2 << noNumber << 0;
+    QTest::newRow("far") << 0 << 9000.0 << 0;
+    QTest::newRow("not yet") << 0 << 1801.0 << 0;
+    QTest::newRow("below half a degree") << 0 << 1799.0 << 1;
+    QTest::newRow("below ten minutes") << 1 << 599.0 << 2;
+    QTest::newRow("below three minutes") << 2 << 179.0 << 3;
+    QTest::newRow("not yet a minute") << 3 << 61.0 << 3;
+    QTest::newRow("below a minute") << 3 << 59.0 << 4;
+    QTest::newRow("stays close") << 4 << 79.0 << 4;
+    QTest::newRow("opens") << 4 << 81.0 << 3;
+    QTest::newRow("closer") << 4 << 14.0 << 5;
+    QTest::newRow("stays closer") << 5 << 23.0 << 5;
+    QTest::newRow("one step back") << 5 << 25.0 << 4;
+    QTest::newRow("all at once") << 0 << 5.0 << 5;
+    QTest::newRow("all the way back") << 5 << 5000.0 << 0;
+    QTest::newRow("no number") << 5 << noNumber << 0;
 }
 
 void AssistantViewTest::zoom()
@@ -68,7 +73,7 @@ void AssistantViewTest::zoom()
 
 void AssistantViewTest::zoomDoesNotFlicker()
 {
-    for (const double middle : {60.0, 15.0}) {
+    for (const double middle : {1800.0, 600.0, 180.0, 60.0, 15.0}) {
         int level = zoomLevel(0, middle - 4.0), changes = 0;
         for (int i = 0; i < 100; ++i) {
             const int next = zoomLevel(level, middle + (i % 2 == 0 ? 4.0 : -4.0));
@@ -76,6 +81,19 @@ void AssistantViewTest::zoomDoesNotFlicker()
             level = next;
         }
         QCOMPARE(changes, 0);
+    }
+}
+
+/// From the whole frame to the goal, on the smallest screen: 240 pixels for the picture.
+void AssistantViewTest::errorIsSeenAtEveryZoom()
+{
+    constexpr double leastLength = 16.0; // pixels, of an arrow
+    int level = zoomLevel(0, 1800.0);
+    for (double error = 1799.0; error > 5.0; error *= 0.99) {
+        level = zoomLevel(level, error);
+        const double scale = closeView({}, zoomRadius(level), {500, 240}).scale; // per arcsecond
+        QVERIFY2(error * scale >= leastLength, qPrintable(QString::number(error)));
+        QVERIFY2(error * scale < 120.0, qPrintable(QString::number(error)));
     }
 }
 

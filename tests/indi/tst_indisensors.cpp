@@ -62,12 +62,11 @@ double templateError(const recognition::Recognition &sky, const cv::Mat &frame)
                                          stars[match.detected].y - stars[centre->detected].y);
         const double expected = angle(catalogue.first[match.catalogue], pole) / 30.45;
         if (expected > 200.0 && expected < 400.0)
-            errors.push_back((pixels - expected) * 300.0 / expected);
+            errors.push_back(std::abs(pixels - expected) * 300.0 / expected);
     }
     if (errors.size() < 5)
         return 1e9;
-    std::nth_element(errors.begin(), errors.begin() + int(errors.size() / 2), errors.end());
-    return std::abs(errors[errors.size() / 2]);
+    return *std::max_element(errors.begin(), errors.end());
 }
 } // namespace
 
@@ -101,17 +100,18 @@ void IndiSensorsTest::recognisedAtTheProgramsScale_data()
     QTest::addColumn<int>("height");
     QTest::addColumn<double>("scale");
     QTest::addColumn<bool>("bayer");
-    QTest::addColumn<bool>("soften");
+    QTest::addColumn<double>("limit"); // of any star's error, pixels
     const auto row = [](const char *name, int width, int height, double scale, bool bayer,
-                        bool soften) {
-        QTest::newRow(name) << width << height << scale << bayer << soften;
+                        double limit) {
+        QTest::newRow(name) << width << height << scale << bayer << limit;
     };
-    row("1280 x 960 at 30.45, stars of one pixel", 1280, 960, 30.45, false, true);
-    // The driver refuses sensors of fewer than 512 rows.
-    row("640 x 512 at 60, stars of one pixel", 640, 512, 60.0, false, true);
-    row("4144 x 2822 at 6", 4144, 2822, 6.0, false, true);
-    row("4144 x 2822 at 6, Bayer", 4144, 2822, 6.0, true, true);
-    row("2560 x 1920 at 15", 2560, 1920, 15.0, false, true);
+    row("1280 x 960 at 30.45, stars of one pixel", 1280, 960, 30.45, false, 1.0);
+    // The driver refuses sensors of fewer than 512 rows. It draws a star into a whole pixel, which
+    // alone moves each of the two stars by up to half a pixel of twice the size.
+    row("640 x 512 at 60, stars of one pixel", 640, 512, 60.0, false, 2.0);
+    row("4144 x 2822 at 6", 4144, 2822, 6.0, false, 1.0);
+    row("4144 x 2822 at 6, Bayer", 4144, 2822, 6.0, true, 1.0);
+    row("2560 x 1920 at 15", 2560, 1920, 15.0, false, 1.0);
 }
 
 void IndiSensorsTest::recognisedAtTheProgramsScale()
@@ -120,9 +120,9 @@ void IndiSensorsTest::recognisedAtTheProgramsScale()
     QFETCH(int, height);
     QFETCH(double, scale);
     QFETCH(bool, bayer);
-    QFETCH(bool, soften);
+    QFETCH(double, limit);
     QVERIFY(server.set({width, height, scale, bayer}));
-    IndiSource source(server.port, simulatedCamera, anyLens(false, soften));
+    IndiSource source(server.port, simulatedCamera, anyLens(false, true));
     recognition::Recognition sky;
     cv::Mat frame;
     QElapsedTimer waiting; // the first frames may be older than the settings
@@ -138,7 +138,7 @@ void IndiSensorsTest::recognisedAtTheProgramsScale()
     QVERIFY2(sky.status == recognition::RecognitionStatus::Recognised,
              qPrintable(source.lines().join("\n")));
     const double error = templateError(sky, frame);
-    QVERIFY2(error < 1.0, qPrintable(QString("%1 at scale %2").arg(error).arg(sky.scale)));
+    QVERIFY2(error < limit, qPrintable(QString("%1 at scale %2").arg(error).arg(sky.scale)));
     qInfo("the template is off by %.2f pixels", error);
     QVERIFY(!sky.mirrored);
     QVERIFY2(source.slowest < 100, qPrintable(QString::number(source.slowest)));
