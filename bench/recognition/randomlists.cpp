@@ -84,13 +84,19 @@ RandomList randomList(std::uint64_t number)
     list.width = draw.whole(1, 5000);
     list.height = draw.whole(1, 4000);
     list.options.utcSeconds = draw.between(1.58e9, 2.24e9); // 2020 to 2040
-    if (draw.whole(0, 3) == 0) {
+    if (draw.whole(0, 1) == 0) {
         list.options.leastScale = draw.between(1.0, 100.0); // arcseconds a pixel
         list.options.greatestScale = list.options.leastScale * draw.between(1.0, 3.0);
     }
+    if (draw.whole(0, 1) == 0)
+        list.options.hemisphere =
+            draw.whole(0, 1) == 0 ? recognition::Hemisphere::North : recognition::Hemisphere::South;
+    if (draw.whole(0, 3) == 0)
+        list.options.mirrored = draw.whole(0, 1) == 0;
     const Layout layout = {list.kind, double(list.width), double(list.height),
                            draw.between(0.0, 7.0), draw.between(1.0, 60.0)};
-    const int count = draw.whole(0, mostStars);
+    // Short lists are the likelier ones to be mistaken for the sky: as many up to 8 as beyond.
+    const int count = int(std::exp(draw.between(0.0, std::log(mostStars + 2.0)))) - 1;
     for (int i = 0; i < count; ++i) {
         const PixelPlace place = placeOf(layout, i, list.stars, draw);
         list.stars.push_back({place.x, place.y, draw.between(1.0, 1e5), draw.between(3.0, 300.0),
