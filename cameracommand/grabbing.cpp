@@ -66,10 +66,11 @@ std::optional<SourceSettings> chosenSource(const CameraCommandLine &wishes)
     return settings;
 }
 
-std::unique_ptr<framesources::NativeCamera> openCamera(const CameraCommandLine &wishes)
+std::unique_ptr<framesources::NativeCamera> openCamera(const CameraCommandLine &wishes,
+                                                       const std::optional<SourceSettings> &source)
 {
     std::unique_ptr<framesources::NativeCamera> camera;
-    if (const auto source = chosenSource(wishes)) {
+    if (source) {
         camera = makeNativeCamera(*source, complain);
     } else {
         if (wishes.camera)

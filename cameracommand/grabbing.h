@@ -13,9 +13,10 @@
 /// camera library the program would load.
 std::optional<framesources::SourceSettings> chosenSource(const CameraCommandLine &wishes);
 
-/// The camera of the command line; it reports on standard error. Null, with a message, if there is
-/// none.
-std::unique_ptr<framesources::NativeCamera> openCamera(const CameraCommandLine &wishes);
+/// That camera; it reports on standard error. Null, with a message, if there is none.
+std::unique_ptr<framesources::NativeCamera>
+openCamera(const CameraCommandLine &wishes,
+           const std::optional<framesources::SourceSettings> &source);
 
 /// Waits for a frame, at most twice the exposure and half a minute; nothing, with a message, if
 /// none comes.
