@@ -246,11 +246,18 @@ void CameraCommandTest::listOutlivesTheMakersLibrary_data()
     QTest::addColumn<QString>("way");
     QTest::addColumn<QString>("line");
     QTest::addColumn<int>("status");
-    const auto row = [](const char *way, const char *line, int status = 1) {
-        QTest::newRow(way) << QString(way) << QString(line) << status;
+    const auto row = [](const char *way, const QString &line, int status = 1) {
+        QTest::newRow(way) << QString(way) << line << status;
     };
     row("well", "QUORVANDEL-0815", 0);
-    row("abort", "libveldix.so.20 ends or holds up the program as it is loaded");
+    const QString unusable = "it is there and cannot be used: ";
+    row("abort", unusable + "it crashes as it is loaded: Aborted");
+    row("crashes in InitVELDIXResource",
+        unusable + "it crashes in InitVELDIXResource: Segmentation fault");
+    row("crashes in ScanVELDIX", unusable + "it crashes in ScanVELDIX: Segmentation fault");
+    row("aborts in ScanVELDIX", unusable + "it crashes in ScanVELDIX: Aborted");
+    row("crashes in GetVELDIXId", unusable + "it crashes in GetVELDIXId: Segmentation fault");
+    row("ends in ScanVELDIX", unusable + "it ends its process in ScanVELDIX, with status 3");
     row("does not start", "it is there and cannot be used: it does not start");
     row("throws at the start", "it is there and cannot be used: it threw an exception: no bus");
     row("throws a number",
