@@ -92,10 +92,15 @@ std::optional<framesources::NativeFrame> awaitFrame(framesources::NativeCamera &
     wish.gain = wishes.gain;
     wish.whole = true;
     wish.wanted = true;
+    constexpr std::chrono::seconds absencePatience(8); // some tries to connect
     const Clock::time_point begin = Clock::now();
-    while (Clock::now() - begin < patience)
+    Clock::time_point seen = begin;
+    while (Clock::now() - begin < patience && Clock::now() - seen < absencePatience) {
         if (auto frame = camera.next(wish))
             return frame;
+        if (camera.isPresent())
+            seen = Clock::now();
+    }
     complain("no frame came");
     return std::nullopt;
 }

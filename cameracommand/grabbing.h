@@ -18,8 +18,8 @@ std::unique_ptr<framesources::NativeCamera>
 openCamera(const CameraCommandLine &wishes,
            const std::optional<framesources::SourceSettings> &source);
 
-/// Waits for a frame, at most twice the exposure and half a minute; nothing, with a message, if
-/// none comes.
+/// Waits for a frame, at most twice the exposure and half a minute, or eight seconds without a
+/// camera; nothing, with a message, if none comes.
 std::optional<framesources::NativeFrame> awaitFrame(framesources::NativeCamera &camera,
                                                     const CameraCommandLine &wishes);
 
