@@ -1,19 +1,18 @@
 // SPDX-License-Identifier: MIT
 // The lens by a frame's stars, and its values into the sky file.
-#include <algorithm>
 #include <cstdio>
 #include <ctime>
-#include <fstream>
-#include <iterator>
+#include <optional>
 
 #include "cameracommand/actions.h"
 #include "cameracommand/grabbing.h"
-#include "cameracommand/skyvalues.h"
+#include "cameracommand/lenswriting.h"
 #include "framesources/preparation.h"
 #include "pictures/grey.h"
 #include "recognition/extraction.h"
 #include "recognition/recognise.h"
 #include "virtualcamera/skyfile.h"
+#include "virtualcamera/skywatch.h"
 
 namespace
 {
@@ -57,26 +56,17 @@ void print(const Checked &found)
     std::printf("focus: stars are %.1f pixels wide\n", found.extraction.fwhm);
 }
 
-int writeValues(const Checked &found)
+int keepValues(const Checked &found, const CameraCommandLine &wishes,
+               const std::optional<framesources::SourceSettings> &source)
 {
     const std::string path = virtualsky::skyFilePath();
-    std::ifstream file(path, std::ios::binary);
-    std::string text(std::istreambuf_iterator<char>(file), {});
-    char scale[32];
-    std::snprintf(scale, sizeof scale, "%.3f", found.sky.scale / found.binning);
-    text = withSkyValue(text, "camera", "scale", scale);
-    text = withSkyValue(text, "camera", "mirrored", found.sky.mirrored ? "true" : "false");
-    try {
-        virtualsky::parse(text);
-    } catch (const virtualsky::SkyFileError &error) {
-        complain(path + ": " + error.what() + "; nothing is written");
-        return failed;
-    }
-    if (!virtualsky::writeAtomically(path, text)) {
-        complain(path + ": it cannot be written");
-        return failed;
-    }
-    std::printf("scale and mirrored are written into %s\n", path.c_str());
+    const MeasuredLens lens{found.sky.scale / found.binning, found.sky.mirrored};
+    virtualsky::SkyWatch watch(path, [](const std::string &) {}); // its faults were said before
+    const virtualsky::Source checked = source ? source->address.source : virtualsky::Source::Sky;
+    const std::string reason = reasonToLeave(wishes.writing, checked, watch.current(), lens);
+    if (reason.empty())
+        return writeLens(path, lens) ? succeeded : failed;
+    std::printf("%s is left as it is: %s\n", path.c_str(), reason.c_str());
     return succeeded;
 }
 } // namespace
@@ -84,7 +74,7 @@ int writeValues(const Checked &found)
 int checkLens(const CameraCommandLine &wishes)
 {
     const auto source = chosenSource(wishes);
-    const auto camera = openCamera(wishes);
+    const auto camera = openCamera(wishes, source);
     Checked found;
     for (int time = 0; camera && time < tries; ++time) {
         const auto frame = awaitFrame(*camera, wishes);
@@ -103,5 +93,5 @@ int checkLens(const CameraCommandLine &wishes)
         return failed;
     }
     print(found);
-    return wishes.write ? writeValues(found) : succeeded;
+    return keepValues(found, wishes, source);
 }

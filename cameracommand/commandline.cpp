@@ -16,14 +16,19 @@ const char *const cameraCommandHelp =
     "                      machine's without HOST)\n"
     "  grab FILE           one frame: PNG, or FITS if FILE ends in .fits or .fit\n"
     "  record FOLDER       frames as FITS files\n"
-    "  check               recognise the pole's stars: scale, roll, stars, focus\n"
+    "  check               recognise the pole's stars: scale, roll, stars, focus; write the\n"
+    "                      lens' scale and mirrored into the sky file, and print what stood\n"
+    "                      there\n"
     "\n"
     "  --camera ADDRESS    sky, indi://HOST[:PORT]/DEVICE or files:PATTERN; without it the\n"
     "                      camera that quorvandel uses\n"
     "  --exposure MS       milliseconds; 200 without it\n"
     "  --gain N            0 to 100 for the camera's whole range; 50 without it\n"
     "  --frames N          how many frames to record, 1 to 100000; 1 without it\n"
-    "  --write             write scale and mirrored of a check into the sky file\n"
+    "  --no-write          leave the sky file as it is after a check\n"
+    "  --write             write also for the virtual sky and the maker's camera, where the\n"
+    "                      values are of no effect, and for pictures of another lens than the\n"
+    "                      sky file's\n"
     "  --date ISO          when the frame was taken, UTC, for a check; without it the\n"
     "                      frame's own date, or now\n"
     "  --help              this text\n"
@@ -117,7 +122,9 @@ private:
         else if (option == "--version")
             finish(Wish::Version);
         else if (option == "--write")
-            result.write = true;
+            result.writing = LensWriting::Always;
+        else if (option == "--no-write")
+            result.writing = LensWriting::Never;
         else if (option == "--camera")
             takeCamera();
         else if (option == "--date")
@@ -172,8 +179,8 @@ private:
                 result.target = words[1];
             else if (command.needsTarget)
                 return complain(words[0] + " needs a name to write to.");
-            if (result.write && command.wish != Wish::Check)
-                return complain("--write is for check.");
+            if (result.writing != LensWriting::WhereItCounts && command.wish != Wish::Check)
+                return complain("--write and --no-write are for check.");
             return;
         }
         complain("There is no command " + words[0] + ".");

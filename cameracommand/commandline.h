@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "cameracommand/lenswriting.h"
 #include "virtualcamera/cameraaddress.h"
 
 struct CameraCommandLine {
@@ -18,8 +19,8 @@ struct CameraCommandLine {
     double exposureSeconds = 0.2;
     double gain = 50.0;
     int frames = 1;
-    bool write = false;         ///< after a check, the lens' values into the sky file
-    std::optional<double> date; ///< of the frame, UTC seconds since 1970
+    LensWriting writing = LensWriting::WhereItCounts; ///< after a check
+    std::optional<double> date;                       ///< of the frame, UTC seconds since 1970
 };
 
 /// @param arguments without the program's name

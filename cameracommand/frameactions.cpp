@@ -44,7 +44,7 @@ int grabFrame(const CameraCommandLine &wishes)
         complain("the file's name must end in .png, .fits or .fit");
         return misused;
     }
-    const auto camera = openCamera(wishes);
+    const auto camera = openCamera(wishes, chosenSource(wishes));
     const auto frame = camera ? awaitFrame(*camera, wishes) : std::nullopt;
     if (!frame)
         return failed;
@@ -66,7 +66,7 @@ int recordFrames(const CameraCommandLine &wishes)
         complain(wishes.target + ": it is no folder and cannot be made one");
         return failed;
     }
-    const auto camera = openCamera(wishes);
+    const auto camera = openCamera(wishes, chosenSource(wishes));
     for (int number = 1; number <= wishes.frames; ++number) {
         const auto frame = camera ? awaitFrame(*camera, wishes) : std::nullopt;
         if (!frame)

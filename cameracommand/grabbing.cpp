@@ -66,10 +66,11 @@ std::optional<SourceSettings> chosenSource(const CameraCommandLine &wishes)
     return settings;
 }
 
-std::unique_ptr<framesources::NativeCamera> openCamera(const CameraCommandLine &wishes)
+std::unique_ptr<framesources::NativeCamera> openCamera(const CameraCommandLine &wishes,
+                                                       const std::optional<SourceSettings> &source)
 {
     std::unique_ptr<framesources::NativeCamera> camera;
-    if (const auto source = chosenSource(wishes)) {
+    if (source) {
         camera = makeNativeCamera(*source, complain);
     } else {
         if (wishes.camera)
@@ -91,10 +92,15 @@ std::optional<framesources::NativeFrame> awaitFrame(framesources::NativeCamera &
     wish.gain = wishes.gain;
     wish.whole = true;
     wish.wanted = true;
+    constexpr std::chrono::seconds absencePatience(8); // some tries to connect
     const Clock::time_point begin = Clock::now();
-    while (Clock::now() - begin < patience)
+    Clock::time_point seen = begin;
+    while (Clock::now() - begin < patience && Clock::now() - seen < absencePatience) {
         if (auto frame = camera.next(wish))
             return frame;
+        if (camera.isPresent())
+            seen = Clock::now();
+    }
     complain("no frame came");
     return std::nullopt;
 }

@@ -13,12 +13,13 @@
 /// camera library the program would load.
 std::optional<framesources::SourceSettings> chosenSource(const CameraCommandLine &wishes);
 
-/// The camera of the command line; it reports on standard error. Null, with a message, if there is
-/// none.
-std::unique_ptr<framesources::NativeCamera> openCamera(const CameraCommandLine &wishes);
+/// That camera; it reports on standard error. Null, with a message, if there is none.
+std::unique_ptr<framesources::NativeCamera>
+openCamera(const CameraCommandLine &wishes,
+           const std::optional<framesources::SourceSettings> &source);
 
-/// Waits for a frame, at most twice the exposure and half a minute; nothing, with a message, if
-/// none comes.
+/// Waits for a frame, at most twice the exposure and half a minute, or eight seconds without a
+/// camera; nothing, with a message, if none comes.
 std::optional<framesources::NativeFrame> awaitFrame(framesources::NativeCamera &camera,
                                                     const CameraCommandLine &wishes);
 

@@ -2,6 +2,8 @@
 // Lists an INDI server's devices.
 #include "framesources/indilist.h"
 
+#include <chrono>
+
 #if QUORVANDEL_INDI
 #include "framesources/indiclient.h"
 #endif
@@ -13,10 +15,12 @@ namespace
 {
 using namespace std::chrono_literals;
 
-/// Waits until `done` or for so many slices of 50 milliseconds.
-template <typename Done> bool waitUntil(IndiClient &client, int slices, Done done)
+/// Waits until `done`; a server's news may come far more often than its pauses end.
+template <typename Done>
+bool waitUntil(IndiClient &client, std::chrono::milliseconds longest, Done done)
 {
-    for (int i = 0; i < slices && !done(); ++i)
+    const auto end = std::chrono::steady_clock::now() + longest;
+    while (!done() && std::chrono::steady_clock::now() < end)
         client.waitForNews(50ms);
     return done();
 }
@@ -30,7 +34,7 @@ ListedDevice describe(const virtualsky::CameraAddress &server, const std::string
     device.address.device = name;
     IndiClient client(server.host, server.port, name);
     if (!client.connectServer() ||
-        !waitUntil(client, 60, [&] { return client.has("CONNECTION"); })) {
+        !waitUntil(client, 3s, [&] { return client.has("CONNECTION"); })) {
         device.remark = "the device does not answer";
         return device;
     }
@@ -43,14 +47,14 @@ ListedDevice describe(const virtualsky::CameraAddress &server, const std::string
     const bool wasConnected = connected();
     if (!wasConnected)
         client.sendSwitch("CONNECTION", "CONNECT");
-    if (!waitUntil(client, 100,
+    if (!waitUntil(client, 5s,
                    [&] { return connected() || client.state("CONNECTION") == IndiState::Alert; }) ||
         !connected()) {
         const std::string message = client.takeMessage();
         device.remark = "it does not connect" + (message.empty() ? "" : ": " + message);
         return device;
     }
-    device.isCamera = waitUntil(client, 30, images);
+    device.isCamera = waitUntil(client, 1500ms, images);
     device.remark = !device.isCamera                 ? "no camera"
                     : client.has("CCD_VIDEO_STREAM") ? "a camera with video"
                                                      : "a camera";
@@ -68,8 +72,7 @@ std::vector<ListedDevice> listIndi(const virtualsky::CameraAddress &server)
         none.remark = "there is no server at port " + std::to_string(server.port);
         return {none};
     }
-    for (int i = 0; i < 20; ++i)
-        client.waitForNews(50ms);
+    waitUntil(client, 1s, [] { return false; }); // nothing says which device is the last
     std::vector<ListedDevice> all;
     for (const std::string &name : client.devices())
         all.push_back(describe(server, name));

@@ -2,6 +2,8 @@
 // FITS by CFITSIO, from and to memory.
 #include "pictures/fitsfile.h"
 
+#include "pictures/depth.h"
+
 #include <cmath>
 #include <cstring>
 #include <fitsio.h>
@@ -106,18 +108,6 @@ Shape findPicture(OpenFits &fits)
     return {};
 }
 
-/// Stretches values of any range to 16 bits; what is within 16 bits already stays.
-cv::Mat to16Bits(const cv::Mat &values)
-{
-    double least = 0.0, most = 0.0;
-    cv::minMaxLoc(values.reshape(1), &least, &most);
-    const bool stays = least >= 0.0 && most <= 65535.0 && most > 1.0;
-    const double factor = stays || !(most > least) ? 1.0 : 65535.0 / (most - least);
-    cv::Mat out;
-    values.convertTo(out, CV_16U, factor, stays ? 0.0 : -least * factor);
-    return out;
-}
-
 template <typename Value>
 cv::Mat readPlane(OpenFits &fits, const Shape &shape, int plane, int fitsType, int matType)
 {
@@ -136,10 +126,8 @@ cv::Mat readPixels(OpenFits &fits, const Shape &shape)
             planes.push_back(readPlane<std::uint8_t>(fits, shape, plane, TBYTE, CV_8UC1));
         else if (shape.type == USHORT_IMG)
             planes.push_back(readPlane<std::uint16_t>(fits, shape, plane, TUSHORT, CV_16UC1));
-        else {
+        else
             planes.push_back(readPlane<float>(fits, shape, plane, TFLOAT, CV_32FC1));
-            cv::patchNaNs(planes.back(), 0.0);
-        }
     if (fits.status != 0)
         return {};
     cv::Mat pixels;

@@ -2,8 +2,10 @@
 // Decoding by OpenCV and CFITSIO, of bytes that are read once.
 #include "pictures/picturefile.h"
 
+#include "pictures/depth.h"
 #include "pictures/exifdate.h"
 #include "pictures/fitsfile.h"
+#include "pictures/jpegend.h"
 
 #include <cerrno>
 #include <cstring>
@@ -52,6 +54,8 @@ PictureFile decodePicture(std::string &bytes)
     } catch (const std::exception &) {
         out.pixels.release(); // too large a picture, or a damaged one
     }
+    if (!out.pixels.empty() && out.pixels.depth() != CV_8U && out.pixels.depth() != CV_16U)
+        out.pixels = pictures::to16Bits(out.pixels);
     if (out.pixels.empty())
         out.complaint = "It is not a PNG, JPEG, TIFF or FITS picture that can be read.";
     else
@@ -63,5 +67,7 @@ PictureFile readPicture(const std::string &path)
 {
     PictureFile out;
     std::string bytes = readFile(path, out.complaint);
+    if (out.complaint.empty() && pictures::isCutJpeg(bytes))
+        out.complaint = "It is a JPEG picture whose end is missing.";
     return out.complaint.empty() ? decodePicture(bytes) : out;
 }

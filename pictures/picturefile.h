@@ -13,9 +13,10 @@ struct PictureFile {
     std::string complaint;      ///< why there are no pixels
 };
 
-/// Reads a PNG, JPEG, TIFF or FITS file, grey or colour: 8 or 16 bits; FITS also 32 bits and
-/// floating point, which become 16 bits. Never throws for a file of any kind.
+/// Reads a PNG, JPEG, TIFF or FITS file, grey or colour: 8 or 16 bits; FITS and TIFF also 32 bits
+/// and floating point, which become 16 bits. A JPEG file whose end is missing is no picture. Never
+/// throws for a file of any kind.
 PictureFile readPicture(const std::string &path);
 
-/// The same from a file's bytes, which stay as they are.
+/// The same from a file's bytes, which stay as they are; what is missing of a JPEG picture is grey.
 PictureFile decodePicture(std::string &bytes);

@@ -123,6 +123,9 @@ bool writeAtomically(const std::string &name, std::string_view text)
     const int file = ::mkstemp(aside.data());
     if (file < 0)
         return false;
+    struct stat status = {};
+    if (::stat(path.c_str(), &status) == 0)
+        ::fchmod(file, status.st_mode & 07777); // the owner's wish; a refusal is no failure
     const bool written = writeAll(file, text);
     const bool closed = ::close(file) == 0;
     if (written && closed && std::rename(aside.c_str(), path.c_str()) == 0)

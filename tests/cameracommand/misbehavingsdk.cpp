@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 // A camera library whose list of cameras goes wrong, in the way that the environment names.
+#include <csignal>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <stdexcept>
 #include <string>
+#include <unistd.h>
 
 #define EXPORTED extern "C" __attribute__((visibility("default")))
 
@@ -21,10 +23,33 @@ __attribute__((constructor)) void load()
     if (is("abort"))
         std::abort();
 }
+
+__attribute__((destructor)) void unload()
+{
+    if (is("crashes at the end"))
+        std::raise(SIGSEGV);
+    if (is("hangs at the end"))
+        for (;;)
+            ::pause();
+}
+
+/// "crashes in ScanVELDIX", for example.
+void misbehaveIn(const std::string &call)
+{
+    if (is(("crashes in " + call).c_str()))
+        std::raise(SIGSEGV);
+    if (is(("aborts in " + call).c_str()))
+        std::abort();
+    if (is(("ends in " + call).c_str()))
+        std::exit(3);
+    while (is(("hangs in " + call).c_str()))
+        ::pause();
+}
 } // namespace
 
 EXPORTED std::uint32_t InitVELDIXResource()
 {
+    misbehaveIn("InitVELDIXResource");
     if (is("throws at the start"))
         throw std::runtime_error("no bus");
     return is("does not start") ? 1 : 0;
@@ -32,6 +57,7 @@ EXPORTED std::uint32_t InitVELDIXResource()
 
 EXPORTED std::int32_t ScanVELDIX()
 {
+    misbehaveIn("ScanVELDIX");
     if (is("throws a number"))
         throw 115;
     return is("too many") ? 2147483647 : 1;
@@ -39,6 +65,7 @@ EXPORTED std::int32_t ScanVELDIX()
 
 EXPORTED std::uint32_t GetVELDIXId(std::int32_t, char *id)
 {
+    misbehaveIn("GetVELDIXId");
     if (is("throws for an ID"))
         throw std::runtime_error("no answer");
     std::strcpy(id, is("long ID") ? std::string(5000, 'x').c_str() : "QUORVANDEL-0815");

@@ -67,7 +67,11 @@ void CameraCommandLineTest::options()
     QCOMPARE(plain.exposureSeconds, 0.2);
     QCOMPARE(plain.gain, 50.0);
     QCOMPARE(plain.frames, 1);
-    QVERIFY(!plain.camera && !plain.date && !plain.write);
+    QVERIFY(!plain.camera && !plain.date);
+    QCOMPARE(plain.writing, LensWriting::WhereItCounts);
+    QCOMPARE(parsed({"check", "--write"}).writing, LensWriting::Always);
+    QCOMPARE(parsed({"check", "--no-write"}).writing, LensWriting::Never);
+    QCOMPARE(parsed({"--no-write", "check", "--write"}).writing, LensWriting::Always); // the last
     const CameraCommandLine line =
         parsed({"--exposure", "500", "--gain=20", "--frames", "3", "--camera", "indi://h/D",
                 "--date", "2026-11-20T20:00:00", "record", "x"});
@@ -97,7 +101,9 @@ void CameraCommandLineTest::refused_data()
     row({"--exposure", "x", "check"}, "--exposure takes a number from 0 to 600000.");
     row({"--exposure", "nan", "check"}, "--exposure takes a number from 0 to 600000.");
     row({"--write=1", "check"}, "--write takes no value.");
-    row({"--write", "list"}, "--write is for check.");
+    row({"--no-write=1", "check"}, "--no-write takes no value.");
+    row({"--write", "list"}, "--write and --no-write are for check.");
+    row({"--no-write", "grab", "a.png"}, "--write and --no-write are for check.");
     row({"--date", "today", "check"},
         "--date takes a date such as 2026-11-20T20:00:00Z, 1973 to 2100.");
     row({"--camera", "x", "check"},
