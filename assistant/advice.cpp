@@ -95,14 +95,20 @@ Advice adviceOf(const LostSky &frame)
 std::optional<Advice> adviceOnPole(recognition::PixelPlace pole, int width, int height,
                                    double scale)
 {
-    const double outsideX = std::max({-0.5 - pole.x, pole.x - (width - 0.5), 0.0});
-    const double outsideY = std::max({-0.5 - pole.y, pole.y - (height - 0.5), 0.0});
-    if (outsideX <= 0.0 && outsideY <= 0.0)
+    const recognition::PixelPlace edge = {std::clamp(pole.x, -0.5, width - 0.5),
+                                          std::clamp(pole.y, -0.5, height - 0.5)};
+    if (edge.x == pole.x && edge.y == pole.y)
         return std::nullopt;
     const double right = pole.x - (width - 1) / 2.0;
     const double down = pole.y - (height - 1) / 2.0;
+    // A pinhole's picture is drawn out towards its edges: pixels there are less than `scale`.
+    const auto direction = [&](recognition::PixelPlace place) {
+        const double unit = scale * astrometry::arcsecond;
+        return astrometry::Vector3{(place.x - (width - 1) / 2.0) * unit,
+                                   (place.y - (height - 1) / 2.0) * unit, 1.0};
+    };
     return Advice{AdviceCode::PoleThatWay,
-                  std::hypot(outsideX, outsideY) * scale / 3600.0,
+                  astrometry::angleBetween(direction(pole), direction(edge)) / astrometry::degree,
                   std::atan2(right, -down) / astrometry::degree,
                   {}};
 }

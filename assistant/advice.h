@@ -30,7 +30,7 @@ struct LostSky {
 Advice adviceOf(const LostSky &frame);
 
 /// "The pole is so many degrees outside, that way"; nothing for a pole inside the frame.
-/// @param scale arcseconds a pixel
+/// @param scale arcseconds a pixel at the frame's centre
 std::optional<Advice> adviceOnPole(recognition::PixelPlace pole, int width, int height,
                                    double scale);
 

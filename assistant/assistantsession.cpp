@@ -157,6 +157,8 @@ Snapshot AssistantSession::latest() const
         status.height = now.status.height;
         status.axis = now.status.axis;
         status.firstError = now.status.firstError;
+        status.site = now.status.site;
+        status.aim = now.status.aim;
     } else {
         now.picture = {};
     }

@@ -4,6 +4,7 @@
 
 #include "assistant/advice.h"
 #include "assistant/errorfigures.h"
+#include "assistant/report.h"
 
 #include <algorithm>
 #include <cmath>
@@ -73,7 +74,7 @@ void Guide::setSettings(const Settings &given)
     settings = given;
     if (otherFigures) {
         steady.reset();
-        firstError.reset();
+        beginning.setSettings(settings);
     }
     if (!otherSky)
         return;
@@ -90,7 +91,7 @@ void Guide::startAgain()
     slips.reset();
     steady.reset();
     event.reset();
-    firstError.reset();
+    beginning.reset();
     recognisedInARow = 0;
     hadSky = false;
     boltsMoved = false;
@@ -121,7 +122,7 @@ Status Guide::observe(const Observation &observation)
         recognisedInARow = 0;
     status.stage = stage;
     fillAxis(status);
-    status.firstError = firstError;
+    fillBeginning(status);
     advise(observation, status);
     return status;
 }
@@ -131,7 +132,7 @@ void Guide::silence(const Observation &observation, Status &status)
     status.frame = frames;
     steady.reset();
     fillAxis(status);
-    status.firstError = firstError;
+    fillBeginning(status);
     if (!lastFrame)
         lastFrame = observation.steadySeconds;
     status.advice.push_back(
@@ -148,6 +149,7 @@ void Guide::noteClock(const Observation &observation)
     clockStep =
         Event{{AdviceCode::ClockJumped, step, 0.0, {}}, observation.steadySeconds + clockSeconds};
     steady.reset();
+    beginning.shiftClock(step);
     if (std::abs(step) <= longClockStep) {
         tracker.shiftClock(step);
         slips.shiftClock(step);
@@ -279,12 +281,12 @@ void Guide::measureAxis(const Observation &observation, Status &status)
     if (!tracker.isEnough())
         return;
     stage = Stage::Bolts;
+    beginning.fixAxis();
     event = Event{{AdviceCode::StopTurning, tracker.axis().sigmaArcseconds, 0.0, {}},
                   observation.steadySeconds + enoughSeconds};
     boltsMoved = false;
     slips.reset();
     steady.reset();
-    firstError.reset();
 }
 
 void Guide::measureAgain(AdviceCode why, double steadySeconds)
@@ -293,7 +295,6 @@ void Guide::measureAgain(AdviceCode why, double steadySeconds)
     tracker.reset();
     slips.reset();
     steady.reset();
-    firstError.reset();
     event = Event{{why, 0.0, 0.0, {}}, steadySeconds + eventSeconds};
 }
 
@@ -309,18 +310,27 @@ void Guide::turnBolts(const Observation &observation, Status &status)
     if (departure && *departure > tracker.allowedDeparture(frame))
         boltsMoved = true;
     // As long as nobody touched the bolts, further turning improves the axis.
-    if (!boltsMoved && tracker.isNewAngle(frame) && isSharp(observation.frame) &&
-        tracker.add(frame) != AxisTracker::Event::None) {
-        measureAgain(AdviceCode::AxisSlipped, observation.steadySeconds);
-        tracker.add(frame);
-        return;
+    if (!boltsMoved && tracker.isNewAngle(frame) && isSharp(observation.frame)) {
+        if (tracker.add(frame) != AxisTracker::Event::None) {
+            measureAgain(AdviceCode::AxisSlipped, observation.steadySeconds);
+            tracker.add(frame);
+            return;
+        }
+        beginning.improveAxis(tracker.axis());
     }
     const auto error = frameErrorOf(frame, tracker.axis(), settings);
     if (!error || observation.clockBehind)
         return;
     status.error = figuresOf(steady.add(*error, observation.steadySeconds), settings.site);
-    if (!firstError)
-        firstError = status.error;
+    if (!beginning.isKnown())
+        beginning.take(frame, status.stars, tracker.axis(), settings);
+}
+
+void Guide::fillBeginning(Status &status) const
+{
+    status.firstError = beginning.error();
+    status.site = settings.site;
+    status.aim = aimOf(settings, status.sky->hemisphere);
 }
 
 void Guide::fillAxis(Status &status) const

@@ -4,6 +4,7 @@
 
 #include "assistant/autoexposure.h"
 #include "assistant/axistracker.h"
+#include "assistant/beginning.h"
 #include "assistant/clocks.h"
 #include "assistant/settings.h"
 #include "assistant/slipwatch.h"
@@ -61,6 +62,7 @@ private:
     void turnBolts(const Observation &observation, Status &status);
     void measureAgain(AdviceCode why, double steadySeconds);
     void fillAxis(Status &status) const;
+    void fillBeginning(Status &status) const;
     void advise(const Observation &observation, Status &status) const;
     void adviseStage(const Observation &observation, Status &status) const;
     void adviseEvents(double steadySeconds, Status &status) const;
@@ -82,7 +84,7 @@ private:
     ClockWatch clock;
     std::optional<Event> event;     ///< of the axis
     std::optional<Event> clockStep; ///< of the clock
-    std::optional<ErrorFigures> firstError;
+    Beginning beginning;
     std::uint64_t frames = 0;
     recognition::ExtractionStatus lost = recognition::ExtractionStatus::Ok; ///< of the last frame
     double searchedExposure = 0.0; ///< microseconds, of the last search of a whole frame

@@ -29,23 +29,14 @@ Drift driftOf(double totalArcseconds, double declination = 0.0);
 /// The declination, north or south, for which the report gives the rotation too, degrees.
 inline constexpr double highDeclination = 60.0;
 
-/// The pole that the figures refer to, and the air that is assumed.
-struct Aim {
-    enum class Pole {
-        True,
-        Refracted,
-        Seen ///< without a site: where the stars seem to turn, which the air lifts
-    };
-    Pole pole = Pole::Seen;
-    double pressure = 0.0;    ///< hectopascals; 0: no refraction
-    double temperature = 0.0; ///< degrees Celsius
-};
 Aim aimOf(const Settings &settings, recognition::Hemisphere hemisphere);
 
 struct Report {
     double utcSeconds = 0.0; ///< of the end
     std::optional<astrometry::Site> site;
     Aim aim;
+    /// Both against the same pole, for the same site and air. Before: at the first figure since the
+    /// beginning, whatever happened to axis and settings since.
     ErrorFigures before, after;
     double seconds = 0.0; ///< from the first frame to the end, by a clock that nobody sets
 };

@@ -5,6 +5,8 @@
 // guide makes one for every frame, the window draws it.
 #pragma once
 
+#include "assistant/aim.h"
+#include "astrometry/places.h"
 #include "recognition/mapping.h"
 #include "recognition/mounterror.h"
 #include "recognition/recognise.h"
@@ -102,8 +104,11 @@ struct Status {
     std::optional<recognition::PixelPlace> pole;
     recognition::Covariance poleCovariance;
     AxisProgress axis;
-    std::optional<ErrorFigures> error;      ///< absent until axis and pole are known
-    std::optional<ErrorFigures> firstError; ///< the first of the Bolts stage
+    std::optional<ErrorFigures> error; ///< absent until axis and pole are known
+    /// The first of this alignment, as the present settings count it.
+    std::optional<ErrorFigures> firstError;
+    std::optional<astrometry::Site> site; ///< that both errors were computed with
+    Aim aim;                              ///< that both errors refer to
     double exposureMicroseconds = 0.0;
     bool automaticExposure = true;
 };

@@ -95,6 +95,7 @@ void AssistantWindow::connectButtons()
         sitePanel->focusLatitude();
     });
     on(mainPage->reportButton, &AssistantWindow::openReport);
+    on(mainPage->toReportButton, &AssistantWindow::openReport);
     on(largePage->backButton, &AssistantWindow::openMain);
     on(settingsPage->backButton, &AssistantWindow::openMain);
     on(reportPage->backButton, &AssistantWindow::openMain);

@@ -92,13 +92,23 @@ void addAdvice(Display &display, std::vector<assistant::Advice> advice, bool dis
         advice.emplace_back();
     display.advice = adviceText(advice[0], display.hasBolts, locale);
     display.mood = moodOf(advice[0].code);
+    for (std::size_t i = 1; i < advice.size(); ++i)
+        display.further.append(adviceText(advice[i], display.hasBolts, locale));
     if (advice.size() > 1) {
-        display.hint = adviceText(advice[1], display.hasBolts, locale);
+        display.hint = display.further.first();
         display.hintReason = reasonText(advice[1].code);
         display.hintCanBeDismissed = canBeDismissed(advice[1].code);
     }
 }
 } // namespace
+
+double turnShare(const assistant::AxisProgress &axis)
+{
+    constexpr double nearlyFull = 0.96;
+    if (axis.enough)
+        return 1.0;
+    return std::clamp(axis.turnedDegrees / assistant::enoughTurn, 0.0, nearlyFull);
+}
 
 Display displayOf(const assistant::Status &status, const assistant::Settings &settings,
                   const QLocale &locale, bool dismissed)
@@ -113,7 +123,7 @@ Display displayOf(const assistant::Status &status, const assistant::Settings &se
     const bool isTurned =
         status.stage == assistant::Stage::Axis || status.stage == assistant::Stage::Bolts;
     display.axisTurn = isTurned ? degreesText(status.axis.turnedDegrees, locale) : dash();
-    display.axisShare = std::clamp(status.axis.turnedDegrees / enoughTurn, 0.0, 1.0);
+    display.axisShare = turnShare(status.axis);
     display.axisEnough = status.axis.enough;
     return display;
 }

@@ -2,10 +2,13 @@
 // What does the window show of one status?
 #pragma once
 
+#include "assistant/axistracker.h"
 #include "assistant/settings.h"
 #include "assistantwindow/advicetexts.h"
 #include "assistantwindow/bolts.h"
 #include "assistantwindow/figures.h"
+
+#include <QStringList>
 
 namespace assistantwindow
 {
@@ -19,8 +22,9 @@ struct Figure {
 struct Display {
     assistant::Stage stage = assistant::Stage::Connect;
     QString stageText, advice;
-    QString hint;       ///< the second advice; empty if there is none
-    QString hintReason; ///< what that means; may be empty
+    QString hint;        ///< the second advice; empty if there is none
+    QStringList further; ///< all but the first, most important first
+    QString hintReason;  ///< what that means; may be empty
     bool hintCanBeDismissed = false;
     AdviceMood mood = AdviceMood::Calm;
     Figure total, altitude, azimuth;
@@ -34,14 +38,17 @@ struct Display {
     /// bolts must move the axis.
     std::optional<double> pictureArrow;
     QString axisTurn;
-    double axisShare = 0.0; ///< of the turn that is enough, 0 to 1
+    double axisShare = 0.0; ///< how full the ring is, 0 to 1
     bool axisEnough = false;
     QString stars; ///< "21 of 34 stars recognised"; empty if none
     QString focus; ///< the stars' width; empty without stars
 };
 
-/// The turn of the axis that is enough, degrees.
-inline constexpr double enoughTurn = 30.0;
+/// How full the ring of the turn is, 0 to 1. It is full only when the turn is enough: 30 degrees
+/// are not while the frames do not yet agree.
+double turnShare(const assistant::AxisProgress &axis);
+/// Where on the ring the turn may be enough at the earliest.
+inline constexpr double earliestShare = recognition::leastTurn / assistant::enoughTurn;
 
 /// @param dismissed the user put away the advice that can be
 Display displayOf(const assistant::Status &status, const assistant::Settings &settings,

@@ -56,6 +56,12 @@ void TurnRing::paintEvent(QPaintEvent *)
     painter.setPen(QPen(filled, thick, Qt::SolidLine, Qt::FlatCap));
     // From the top, clockwise; QPainter counts sixteenths of a degree counter-clockwise.
     painter.drawArc(circle, 90 * 16, -int(std::lround(share * 360.0 * 16.0)));
+    // A notch where it may be enough already.
+    painter.setPen(QPen(colours->quiet, 2.0));
+    const double angle = earliestShare * 2.0 * std::acos(-1.0);
+    const QPointF way(std::sin(angle), -std::cos(angle));
+    painter.drawLine(circle.center() + way * (side - thick) / 2.0,
+                     circle.center() + way * (side + thick) / 2.0);
     QFont digits = font();
     digits.setPixelSize(std::max(16, int(side * 0.26)));
     painter.setFont(digits);

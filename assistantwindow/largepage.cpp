@@ -10,6 +10,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <algorithm>
+#include <cmath>
 
 namespace assistantwindow
 {
@@ -18,6 +19,7 @@ namespace
 constexpr double margin = 14.0;
 
 constexpr double nameHeight = 30.0;
+constexpr double digitsShare = 0.72; // of a row's height without the name
 
 QString mainPageText(const char *source)
 {
@@ -36,6 +38,7 @@ LargeContent largeContent(const Display &display)
 {
     LargeContent content;
     content.advice = display.advice;
+    content.further = display.further;
     content.mood = display.mood;
     const auto &ways = display.ways;
     if (display.stage == assistant::Stage::Axis) {
@@ -173,45 +176,105 @@ void LargePage::paintRow(QPainter &painter, const LargeRow &row, const QRectF &a
         int(aside) | Qt::AlignVCenter, row.number);
 }
 
-void LargePage::paintEvent(QPaintEvent *)
+double adviceRoom(double height, std::size_t rows)
 {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillRect(rect(), colours->well);
-    const QRectF inside = QRectF(rect()).adjusted(margin, margin, -margin, -margin);
-    if (content.rows.empty()) {
-        paintAdvice(painter, inside.adjusted(0, 50, 0, 0), height() / 7);
-        return;
+    constexpr double leastDigits = 0.21; // of the height; a fifth is asked for
+    const double row = nameHeight + height * leastDigits / digitsShare;
+    return std::max(0.0, height - 3.0 * margin - double(rows) * row);
+}
+
+std::size_t fitting(const std::vector<double> &heights, double room)
+{
+    std::size_t number = 0;
+    for (double sum = 0.0; number < heights.size(); ++number) {
+        sum += heights[number];
+        if (sum > room)
+            break;
     }
-    const double strip = std::max(54.0, height() * 0.125);
-    const QRectF advice(inside.left(), inside.bottom() - strip, inside.width(), strip);
-    const double rowHeight = (inside.height() - strip - margin) / double(content.rows.size());
+    return number;
+}
+
+QRectF LargePage::paintFurther(QPainter &painter, const QRectF &area) const
+{
+    const int flags = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
+    QFont sentence = font();
+    sentence.setPixelSize(std::max(18, height() / 24));
+    const QFontMetricsF metrics(sentence);
+    std::vector<double> heights;
+    for (const QString &text : content.further)
+        heights.push_back(std::ceil(metrics.boundingRect(area, flags, text).height()) + 4.0);
+    const std::size_t number = fitting(heights, area.height());
+    double used = 0.0;
+    for (std::size_t i = 0; i < number; ++i)
+        used += heights[i];
+    painter.setFont(sentence);
+    painter.setPen(colours->text);
+    double top = area.bottom() - used;
+    for (std::size_t i = 0; i < number; ++i) {
+        painter.drawText(QRectF(area.left(), top, area.width(), heights[i]), flags,
+                         content.further[int(i)]);
+        top += heights[i];
+    }
+    return area.adjusted(0, 0, 0, -used);
+}
+
+void LargePage::paintRows(QPainter &painter, const QRectF &area) const
+{
+    const double rowHeight = area.height() / double(content.rows.size());
     QStringList numbers{QStringLiteral("00′00″")};
     bool hasArrow = false;
     for (const LargeRow &row : content.rows) {
         numbers.append(row.number);
         hasArrow = hasArrow || row.hasArrow;
     }
-    // The button's corner stays free.
-    const double right = inside.right() - 60.0;
-    const double arrow =
-        hasArrow ? std::min(rowHeight, (right - inside.left()) * 0.25) + margin : 0;
-    const int size = fittedPixelSize(numbers, font(), right - inside.left() - arrow,
-                                     (rowHeight - nameHeight) * 0.72);
+    const double arrow = hasArrow ? std::min(rowHeight, area.width() * 0.25) + margin : 0;
+    const int size = fittedPixelSize(numbers, font(), area.width() - arrow,
+                                     (rowHeight - nameHeight) * digitsShare);
     for (std::size_t i = 0; i < content.rows.size(); ++i)
-        paintRow(painter, content.rows[i],
-                 QRectF(inside.left(), inside.top() + double(i) * rowHeight, right - inside.left(),
-                        rowHeight - 8.0),
-                 size);
-    if (content.share >= 0.0) {
-        const QRectF bar(inside.left(), advice.top() - 18.0, inside.width(), 12.0);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(colours->control);
-        painter.drawRoundedRect(bar, 6, 6);
-        painter.setBrush(colours->lit);
-        painter.drawRoundedRect(
-            QRectF(bar.topLeft(), QSizeF(bar.width() * content.share, bar.height())), 6, 6);
-    }
+        paintRow(
+            painter, content.rows[i],
+            QRectF(area.left(), area.top() + double(i) * rowHeight, area.width(), rowHeight - 8.0),
+            size);
+}
+
+void LargePage::paintShare(QPainter &painter, const QRectF &bar) const
+{
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colours->control);
+    painter.drawRoundedRect(bar, 6, 6);
+    painter.setBrush(colours->lit);
+    painter.drawRoundedRect(
+        QRectF(bar.topLeft(), QSizeF(bar.width() * content.share, bar.height())), 6, 6);
+    painter.setPen(QPen(colours->quiet, 2.0));
+    const double notch = bar.left() + bar.width() * earliestShare;
+    painter.drawLine(QPointF(notch, bar.top()), QPointF(notch, bar.bottom()));
+}
+
+void LargePage::paintWithoutRows(QPainter &painter, const QRectF &inside) const
+{
+    const QRectF lower = inside.adjusted(0, inside.height() * 0.6, 0, 0);
+    const QRectF left = paintFurther(painter, lower);
+    paintAdvice(painter, QRectF(inside.topLeft(), left.bottomRight()).adjusted(0, 50, 0, -margin),
+                height() / 7);
+}
+
+void LargePage::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillRect(rect(), colours->well);
+    const QRectF inside = QRectF(rect()).adjusted(margin, margin, -margin, -margin);
+    if (content.rows.empty())
+        return paintWithoutRows(painter, inside);
+    const double strip = std::max(54.0, height() * 0.125);
+    const double room = std::max(0.0, adviceRoom(height(), content.rows.size()) - strip);
+    const QRectF rest = paintFurther(painter, inside.adjusted(0, inside.height() - room, 0, 0));
+    const QRectF advice(inside.left(), rest.bottom() - strip, inside.width(), strip);
+    // The button's corner stays free.
+    paintRows(painter,
+              QRectF(inside.topLeft(), QPointF(inside.right() - 60.0, advice.top() - margin)));
+    if (content.share >= 0.0)
+        paintShare(painter, QRectF(inside.left(), advice.top() - 18.0, inside.width(), 12.0));
     paintAdvice(painter, advice, int(strip * 0.6));
 }
 } // namespace assistantwindow

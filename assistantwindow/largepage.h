@@ -24,9 +24,16 @@ struct LargeContent {
     std::vector<LargeRow> rows; ///< none: the advice fills the screen
     double share = -1.0;        ///< of the axis' turn, 0 to 1; negative: no bar
     QString advice;
+    QStringList further; ///< most important first
     AdviceMood mood = AdviceMood::Calm;
 };
 LargeContent largeContent(const Display &display);
+
+/// How high the advice below `rows` rows may be at most, pixels, so that the digits keep a fifth of
+/// the page's height.
+double adviceRoom(double height, std::size_t rows);
+/// How many texts of such heights fit below each other, the first ones first.
+std::size_t fitting(const std::vector<double> &heights, double room);
 
 /// The greatest font size, pixels, at which each text is no wider than `width` and its digits no
 /// higher than `height`.
@@ -54,6 +61,11 @@ private:
     void paintArrowOf(QPainter &painter, const LargeRow &row, const QRectF &box) const;
     void paintRow(QPainter &painter, const LargeRow &row, const QRectF &area, int pixelSize) const;
     void paintAdvice(QPainter &painter, const QRectF &area, int most) const;
+    void paintWithoutRows(QPainter &painter, const QRectF &inside) const;
+    void paintRows(QPainter &painter, const QRectF &area) const;
+    void paintShare(QPainter &painter, const QRectF &bar) const;
+    /// The further advice that fits, at the bottom of `area`; what is left of the area above it.
+    QRectF paintFurther(QPainter &painter, const QRectF &area) const;
 
     LargeContent content;
     const Theme *colours;

@@ -67,6 +67,11 @@ double exposureOf(int position, Range range)
     return range.least * std::pow(range.greatest / range.least, double(position) / sliderSteps);
 }
 
+bool isGoalReached(bool before, const Display &display)
+{
+    return display.stage == assistant::Stage::Bolts && (before || display.aligned);
+}
+
 void MainPage::show(const Display &display, const Snapshot &snapshot, bool isConnected,
                     const assistant::History &history, const assistant::Settings &settings)
 {
@@ -89,6 +94,8 @@ void MainPage::show(const Display &display, const Snapshot &snapshot, bool isCon
     plot->show(history.points(), settings.goalArcseconds, snapshot.status.steadySeconds);
     const bool hasReport = !history.points().empty();
     reportButton->setEnabled(hasReport);
+    goalReached = isGoalReached(goalReached, display) && hasReport;
+    toReportButton->setVisible(goalReached);
 }
 
 void MainPage::showFigures(const Display &display)
@@ -182,5 +189,6 @@ void MainPage::setTheme(const Theme &theme)
     largeViewButton->setIcon(glyphIcon(Glyph::Expand, theme));
     settingsButton->setIcon(glyphIcon(Glyph::Settings, theme));
     reportButton->setIcon(glyphIcon(Glyph::Report, theme));
+    toReportButton->setIcon(glyphIcon(Glyph::Report, theme));
 }
 } // namespace assistantwindow

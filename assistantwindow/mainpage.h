@@ -43,6 +43,7 @@ public:
     SkyPicture *picture;
     QPushButton *connectButton, *startAgainButton, *largeViewButton, *settingsButton, *reportButton,
         *siteButton;
+    QPushButton *toReportButton; ///< beside the advice, from the goal on
     QCheckBox *automaticExposure;
     QComboBox *camera;
     std::function<void(double)> exposureMoved; ///< microseconds
@@ -83,11 +84,15 @@ private:
     StageBars *bars;
     QSlider *exposure;
     QStackedWidget *panels;
+    bool goalReached = false; ///< since the bolts' stage began
     Range exposureRange;
     AskedExposure asked;
     QElapsedTimer clock; ///< for `asked`
 };
 
+/// Whether the goal was reached in this stage: it stays so while the number wavers about it, and
+/// while there is no number.
+bool isGoalReached(bool before, const Display &display);
 /// How wide the panel beside the picture is on a page of this size, pixels.
 int panelWidth(QSize page);
 /// Whether figures can be larger than on the smallest screen.

@@ -57,7 +57,12 @@ MainPage::MainPage(QWidget *parent) : QWidget(parent)
     advice = wrapped("label_advice", "advice");
     advice->setMinimumHeight(58);
     advice->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    column->addWidget(advice);
+    toReportButton = button("pushButton_toReport", this);
+    toReportButton->hide();
+    auto *const sentence = new QHBoxLayout;
+    sentence->addWidget(advice, 1);
+    sentence->addWidget(toReportButton);
+    column->addLayout(sentence);
     auto *const row = new QHBoxLayout;
     row->setSpacing(8);
     auto *const left = new QVBoxLayout;
@@ -268,7 +273,13 @@ void MainPage::retranslate()
     noSite->setText(tr("Turn the bolts until the arrow in the picture is gone. With the site, the "
                        "assistant says which way each bolt must go."));
     skyHint->setText(tr("The camera must see the pole; it need not be in the middle."));
-    axisHint->setText(tr("30 degrees are enough. Further turning makes the axis more exact."));
+    axisHint->setText(tr("%1 are enough, %2 if the axis is then known to %3. Further turning makes "
+                         "it more exact.")
+                          .arg(degreesText(assistant::enoughTurn, locale()),
+                               degreesText(recognition::leastTurn, locale()),
+                               locale().toString(assistant::enoughSigma) + QStringLiteral("″")));
+    toReportButton->setText(tr("Report"));
+    toReportButton->setToolTip(QStringLiteral("F9"));
     const auto name = [](QPushButton &each, const QString &text, const QString &key) {
         each.setAccessibleName(text);
         each.setToolTip(text + QStringLiteral(" (") + key + QLatin1Char(')'));

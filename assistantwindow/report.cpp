@@ -26,6 +26,16 @@ QString measuredText(const std::optional<recognition::Measured> &measured, const
            uncertaintyText(measured->sigma, locale);
 }
 
+/// "axis 2′10″ ± 1″ above the pole"; no direction for what is written as zero.
+QString sidedText(const std::optional<recognition::Measured> &measured, const char *ifPositive,
+                  const char *ifNegative, const QLocale &locale)
+{
+    const QString size = measuredText(measured, locale);
+    if (!measured || size == dash() || std::round(measured->arcseconds * 10.0) == 0.0)
+        return size;
+    return text(measured->arcseconds > 0.0 ? ifPositive : ifNegative).arg(size);
+}
+
 QString perHour(double arcseconds, const QLocale &locale)
 {
     const QString size = angleText(arcseconds, locale);
@@ -73,9 +83,11 @@ std::vector<ReportRow> reportRows(const assistant::Report &report, const QLocale
          measuredText(report.before.total, locale)},
         {text(QT_TRANSLATE_NOOP("Report", "Error now")), measuredText(report.after.total, locale)},
         {text(QT_TRANSLATE_NOOP("Report", "in altitude")),
-         measuredText(report.after.altitude, locale)},
+         sidedText(report.after.altitude, QT_TRANSLATE_NOOP("Report", "axis %1 above the pole"),
+                   QT_TRANSLATE_NOOP("Report", "axis %1 below the pole"), locale)},
         {text(QT_TRANSLATE_NOOP("Report", "in azimuth")),
-         measuredText(report.after.azimuth, locale)},
+         sidedText(report.after.azimuth, QT_TRANSLATE_NOOP("Report", "axis %1 east of the pole"),
+                   QT_TRANSLATE_NOOP("Report", "axis %1 west of the pole"), locale)},
         {text(QT_TRANSLATE_NOOP("Report", "Aimed at")), aimText(report.aim, locale)},
         {text(QT_TRANSLATE_NOOP("Report", "Drift in declination, anywhere, at most")),
          perHour(assistant::driftOf(total).declination, locale)},

@@ -7,7 +7,7 @@
 namespace assistantwindow
 {
 SessionInstrument::SessionInstrument(const assistant::Settings &settings)
-    : session(settings), inUse(settings)
+    : session(settings)
 {
 }
 
@@ -65,7 +65,6 @@ void SessionInstrument::startAgain()
 
 void SessionInstrument::apply(const assistant::Settings &settings)
 {
-    inUse = settings;
     session.setSettings(settings);
 }
 
@@ -91,9 +90,8 @@ std::optional<assistant::Report> SessionInstrument::report()
         return {};
     assistant::Report made;
     made.utcSeconds = last->utcSeconds;
-    made.site = inUse.site;
-    made.aim =
-        assistant::aimOf(inUse, last->sky ? last->sky->hemisphere : recognition::Hemisphere::North);
+    made.site = last->site;
+    made.aim = last->aim;
     made.before = last->firstError ? *last->firstError : *last->error;
     made.after = *last->error;
     made.seconds = std::max(0.0, last->steadySeconds - beganAt.value_or(last->steadySeconds));

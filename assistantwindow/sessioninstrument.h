@@ -32,7 +32,6 @@ private:
     void remember(const assistant::Status &status);
 
     assistant::AssistantSession session;
-    assistant::Settings inUse;
     std::optional<double> beganAt;         ///< utc of the first frame since connecting
     std::optional<assistant::Status> last; ///< the last one with an error
 };

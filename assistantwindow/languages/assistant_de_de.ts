@@ -279,10 +279,6 @@
         <translation>Die Kamera muss den Pol sehen, aber nicht in der Mitte.</translation>
     </message>
     <message>
-        <source>30 degrees are enough. Further turning makes the axis more exact.</source>
-        <translation>30 Grad genügen. Weiteres Drehen macht die Achse genauer.</translation>
-    </message>
-    <message>
         <source>Report</source>
         <translation>Bericht</translation>
     </message>
@@ -297,6 +293,10 @@
     <message>
         <source>Live picture; a tap opens the large view</source>
         <translation>Livebild; Antippen öffnet die große Anzeige</translation>
+    </message>
+    <message>
+        <source>%1 are enough, %2 if the axis is then known to %3. Further turning makes it more exact.</source>
+        <translation>%1 genügen, %2, wenn die Achse dann auf %3 bekannt ist. Weiteres Drehen macht sie genauer.</translation>
     </message>
 </context>
 <context>
@@ -416,6 +416,22 @@
     <message>
         <source>Date and site</source>
         <translation>Datum und Ort</translation>
+    </message>
+    <message>
+        <source>axis %1 above the pole</source>
+        <translation>Achse %1 über dem Pol</translation>
+    </message>
+    <message>
+        <source>axis %1 below the pole</source>
+        <translation>Achse %1 unter dem Pol</translation>
+    </message>
+    <message>
+        <source>axis %1 east of the pole</source>
+        <translation>Achse %1 östlich des Pols</translation>
+    </message>
+    <message>
+        <source>axis %1 west of the pole</source>
+        <translation>Achse %1 westlich des Pols</translation>
     </message>
 </context>
 <context>

@@ -279,10 +279,6 @@
         <translation>La cámara debe ver el polo, aunque no en el centro.</translation>
     </message>
     <message>
-        <source>30 degrees are enough. Further turning makes the axis more exact.</source>
-        <translation>Bastan 30 grados. Girar más precisa mejor el eje.</translation>
-    </message>
-    <message>
         <source>Report</source>
         <translation>Informe</translation>
     </message>
@@ -297,6 +293,10 @@
     <message>
         <source>Live picture; a tap opens the large view</source>
         <translation>Imagen en directo; un toque abre la vista grande</translation>
+    </message>
+    <message>
+        <source>%1 are enough, %2 if the axis is then known to %3. Further turning makes it more exact.</source>
+        <translation>Bastan %1, o %2 si el eje ya se conoce a %3. Girar más lo precisa mejor.</translation>
     </message>
 </context>
 <context>
@@ -416,6 +416,22 @@
     <message>
         <source>Date and site</source>
         <translation>Fecha y lugar</translation>
+    </message>
+    <message>
+        <source>axis %1 above the pole</source>
+        <translation>eje %1 por encima del polo</translation>
+    </message>
+    <message>
+        <source>axis %1 below the pole</source>
+        <translation>eje %1 por debajo del polo</translation>
+    </message>
+    <message>
+        <source>axis %1 east of the pole</source>
+        <translation>eje %1 al este del polo</translation>
+    </message>
+    <message>
+        <source>axis %1 west of the pole</source>
+        <translation>eje %1 al oeste del polo</translation>
     </message>
 </context>
 <context>

@@ -279,10 +279,6 @@
         <translation>La caméra doit voir le pôle, pas forcément au milieu.</translation>
     </message>
     <message>
-        <source>30 degrees are enough. Further turning makes the axis more exact.</source>
-        <translation>30 degrés suffisent. Continuer rend l&apos;axe plus précis.</translation>
-    </message>
-    <message>
         <source>Report</source>
         <translation>Rapport</translation>
     </message>
@@ -297,6 +293,10 @@
     <message>
         <source>Live picture; a tap opens the large view</source>
         <translation>Image en direct ; un toucher ouvre le grand affichage</translation>
+    </message>
+    <message>
+        <source>%1 are enough, %2 if the axis is then known to %3. Further turning makes it more exact.</source>
+        <translation>%1 suffisent, %2 si l&apos;axe est alors connu à %3. Continuer le rend plus précis.</translation>
     </message>
 </context>
 <context>
@@ -416,6 +416,22 @@
     <message>
         <source>Date and site</source>
         <translation>Date et lieu</translation>
+    </message>
+    <message>
+        <source>axis %1 above the pole</source>
+        <translation>axe %1 au-dessus du pôle</translation>
+    </message>
+    <message>
+        <source>axis %1 below the pole</source>
+        <translation>axe %1 au-dessous du pôle</translation>
+    </message>
+    <message>
+        <source>axis %1 east of the pole</source>
+        <translation>axe %1 à l&apos;est du pôle</translation>
+    </message>
+    <message>
+        <source>axis %1 west of the pole</source>
+        <translation>axe %1 à l&apos;ouest du pôle</translation>
     </message>
 </context>
 <context>

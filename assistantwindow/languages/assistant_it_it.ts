@@ -279,10 +279,6 @@
         <translation>La camera deve vedere il polo, non per forza al centro.</translation>
     </message>
     <message>
-        <source>30 degrees are enough. Further turning makes the axis more exact.</source>
-        <translation>Bastano 30 gradi. Ruotare ancora rende l&apos;asse più preciso.</translation>
-    </message>
-    <message>
         <source>Report</source>
         <translation>Rapporto</translation>
     </message>
@@ -297,6 +293,10 @@
     <message>
         <source>Live picture; a tap opens the large view</source>
         <translation>Immagine dal vivo; un tocco apre la vista grande</translation>
+    </message>
+    <message>
+        <source>%1 are enough, %2 if the axis is then known to %3. Further turning makes it more exact.</source>
+        <translation>Bastano %1, o %2 se l&apos;asse è già noto a %3. Ruotare ancora lo rende più preciso.</translation>
     </message>
 </context>
 <context>
@@ -416,6 +416,22 @@
     <message>
         <source>Date and site</source>
         <translation>Data e luogo</translation>
+    </message>
+    <message>
+        <source>axis %1 above the pole</source>
+        <translation>asse %1 sopra il polo</translation>
+    </message>
+    <message>
+        <source>axis %1 below the pole</source>
+        <translation>asse %1 sotto il polo</translation>
+    </message>
+    <message>
+        <source>axis %1 east of the pole</source>
+        <translation>asse %1 a est del polo</translation>
+    </message>
+    <message>
+        <source>axis %1 west of the pole</source>
+        <translation>asse %1 a ovest del polo</translation>
     </message>
 </context>
 <context>

@@ -279,10 +279,6 @@
         <translation>カメラに極が写れば、中央でなくても構いません。</translation>
     </message>
     <message>
-        <source>30 degrees are enough. Further turning makes the axis more exact.</source>
-        <translation>30 度で十分です。さらに回すと、より正確になります。</translation>
-    </message>
-    <message>
         <source>Report</source>
         <translation>レポート</translation>
     </message>
@@ -297,6 +293,10 @@
     <message>
         <source>Live picture; a tap opens the large view</source>
         <translation>ライブ画像。タップすると大きな表示になります</translation>
+    </message>
+    <message>
+        <source>%1 are enough, %2 if the axis is then known to %3. Further turning makes it more exact.</source>
+        <translation>%1、または軸が %3 まで分かれば %2 で十分です。さらに回すと、より正確になります。</translation>
     </message>
 </context>
 <context>
@@ -416,6 +416,22 @@
     <message>
         <source>Date and site</source>
         <translation>日時と観測地</translation>
+    </message>
+    <message>
+        <source>axis %1 above the pole</source>
+        <translation>軸は極より %1 上</translation>
+    </message>
+    <message>
+        <source>axis %1 below the pole</source>
+        <translation>軸は極より %1 下</translation>
+    </message>
+    <message>
+        <source>axis %1 east of the pole</source>
+        <translation>軸は極より %1 東</translation>
+    </message>
+    <message>
+        <source>axis %1 west of the pole</source>
+        <translation>軸は極より %1 西</translation>
     </message>
 </context>
 <context>

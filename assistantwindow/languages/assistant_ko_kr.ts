@@ -279,10 +279,6 @@
         <translation>카메라에 극이 보여야 하지만 가운데일 필요는 없습니다.</translation>
     </message>
     <message>
-        <source>30 degrees are enough. Further turning makes the axis more exact.</source>
-        <translation>30도면 충분합니다. 더 돌리면 축이 더 정확해집니다.</translation>
-    </message>
-    <message>
         <source>Report</source>
         <translation>보고서</translation>
     </message>
@@ -297,6 +293,10 @@
     <message>
         <source>Live picture; a tap opens the large view</source>
         <translation>실시간 영상. 누르면 크게 보기가 열립니다</translation>
+    </message>
+    <message>
+        <source>%1 are enough, %2 if the axis is then known to %3. Further turning makes it more exact.</source>
+        <translation>%1, 또는 축이 %3까지 알려지면 %2로 충분합니다. 더 돌리면 더 정확해집니다.</translation>
     </message>
 </context>
 <context>
@@ -416,6 +416,22 @@
     <message>
         <source>Date and site</source>
         <translation>날짜와 관측지</translation>
+    </message>
+    <message>
+        <source>axis %1 above the pole</source>
+        <translation>축이 극보다 %1 위</translation>
+    </message>
+    <message>
+        <source>axis %1 below the pole</source>
+        <translation>축이 극보다 %1 아래</translation>
+    </message>
+    <message>
+        <source>axis %1 east of the pole</source>
+        <translation>축이 극보다 %1 동쪽</translation>
+    </message>
+    <message>
+        <source>axis %1 west of the pole</source>
+        <translation>축이 극보다 %1 서쪽</translation>
     </message>
 </context>
 <context>

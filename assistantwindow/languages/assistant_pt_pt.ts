@@ -279,10 +279,6 @@
         <translation>A câmara tem de ver o polo, mas não no meio.</translation>
     </message>
     <message>
-        <source>30 degrees are enough. Further turning makes the axis more exact.</source>
-        <translation>Bastam 30 graus. Rodar mais torna o eixo mais exato.</translation>
-    </message>
-    <message>
         <source>Report</source>
         <translation>Relatório</translation>
     </message>
@@ -297,6 +293,10 @@
     <message>
         <source>Live picture; a tap opens the large view</source>
         <translation>Imagem em direto; um toque abre a vista grande</translation>
+    </message>
+    <message>
+        <source>%1 are enough, %2 if the axis is then known to %3. Further turning makes it more exact.</source>
+        <translation>Bastam %1, ou %2 se o eixo já for conhecido a %3. Rodar mais torna-o mais exato.</translation>
     </message>
 </context>
 <context>
@@ -416,6 +416,22 @@
     <message>
         <source>Date and site</source>
         <translation>Data e local</translation>
+    </message>
+    <message>
+        <source>axis %1 above the pole</source>
+        <translation>eixo %1 acima do polo</translation>
+    </message>
+    <message>
+        <source>axis %1 below the pole</source>
+        <translation>eixo %1 abaixo do polo</translation>
+    </message>
+    <message>
+        <source>axis %1 east of the pole</source>
+        <translation>eixo %1 a leste do polo</translation>
+    </message>
+    <message>
+        <source>axis %1 west of the pole</source>
+        <translation>eixo %1 a oeste do polo</translation>
     </message>
 </context>
 <context>

@@ -279,10 +279,6 @@
         <translation>Камера должна видеть полюс, но не обязательно в середине.</translation>
     </message>
     <message>
-        <source>30 degrees are enough. Further turning makes the axis more exact.</source>
-        <translation>Достаточно 30 градусов. Дальнейший поворот уточняет ось.</translation>
-    </message>
-    <message>
         <source>Report</source>
         <translation>Отчёт</translation>
     </message>
@@ -297,6 +293,10 @@
     <message>
         <source>Live picture; a tap opens the large view</source>
         <translation>Живое изображение; касание открывает крупный вид</translation>
+    </message>
+    <message>
+        <source>%1 are enough, %2 if the axis is then known to %3. Further turning makes it more exact.</source>
+        <translation>Достаточно %1 или %2, если ось уже известна до %3. Дальнейший поворот уточняет её.</translation>
     </message>
 </context>
 <context>
@@ -416,6 +416,22 @@
     <message>
         <source>Date and site</source>
         <translation>Дата и место</translation>
+    </message>
+    <message>
+        <source>axis %1 above the pole</source>
+        <translation>ось на %1 выше полюса</translation>
+    </message>
+    <message>
+        <source>axis %1 below the pole</source>
+        <translation>ось на %1 ниже полюса</translation>
+    </message>
+    <message>
+        <source>axis %1 east of the pole</source>
+        <translation>ось на %1 восточнее полюса</translation>
+    </message>
+    <message>
+        <source>axis %1 west of the pole</source>
+        <translation>ось на %1 западнее полюса</translation>
     </message>
 </context>
 <context>

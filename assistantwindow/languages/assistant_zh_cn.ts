@@ -279,10 +279,6 @@
         <translation>相机必须能看到天极，但不必在中央。</translation>
     </message>
     <message>
-        <source>30 degrees are enough. Further turning makes the axis more exact.</source>
-        <translation>30 度就够了。继续转动会使转轴更精确。</translation>
-    </message>
-    <message>
         <source>Report</source>
         <translation>报告</translation>
     </message>
@@ -297,6 +293,10 @@
     <message>
         <source>Live picture; a tap opens the large view</source>
         <translation>实时画面；点按可打开大字显示</translation>
+    </message>
+    <message>
+        <source>%1 are enough, %2 if the axis is then known to %3. Further turning makes it more exact.</source>
+        <translation>%1 就够了；若转轴已精确到 %3，%2 即可。继续转动会更精确。</translation>
     </message>
 </context>
 <context>
@@ -416,6 +416,22 @@
     <message>
         <source>Date and site</source>
         <translation>日期和地点</translation>
+    </message>
+    <message>
+        <source>axis %1 above the pole</source>
+        <translation>转轴比天极高 %1</translation>
+    </message>
+    <message>
+        <source>axis %1 below the pole</source>
+        <translation>转轴比天极低 %1</translation>
+    </message>
+    <message>
+        <source>axis %1 east of the pole</source>
+        <translation>转轴在天极以东 %1</translation>
+    </message>
+    <message>
+        <source>axis %1 west of the pole</source>
+        <translation>转轴在天极以西 %1</translation>
     </message>
 </context>
 <context>
