@@ -72,7 +72,7 @@ private:
         void drawPolygon(const QPointF *, int, PolygonDrawMode) override {}
         void drawTextItem(const QPointF &at, const QTextItem &item) override
         {
-            const QTransform place = painter()->combinedTransform();
+            const QTransform place = painter()->deviceTransform();
             const QRectF box(at.x(), at.y() - item.ascent(), item.width(),
                              item.ascent() + item.descent());
             const QRectF ink =
@@ -144,8 +144,6 @@ inline QStringList cutTexts(const std::vector<PaintedText> &texts)
         const QRectF grown = text.clip.adjusted(-tolerance, -tolerance, tolerance, tolerance);
         if (!grown.contains(text.ink))
             found.append(QStringLiteral("cut: %1").arg(text.text));
-        if (text.text.contains(QChar(0x2026)) && text.text.size() > 1)
-            found.append(QStringLiteral("elided: %1").arg(text.text));
         for (std::size_t k = 0; k < i; ++k) {
             const QRectF common = text.ink & texts[k].ink;
             if (common.width() > tolerance && common.height() > tolerance)
