@@ -165,8 +165,9 @@ void LargePage::paintRow(QPainter &painter, const LargeRow &row, const QRectF &a
     name.setPixelSize(int(nameHeight * 0.85));
     painter.setFont(name);
     painter.setPen(colours->*row.colour);
+    // Chinese letters reach below the line of the others.
     painter.drawText(QRectF(left, area.top(), area.right() - left, nameHeight),
-                     int(aside) | Qt::AlignTop, row.name);
+                     int(aside) | Qt::AlignTop | Qt::TextDontClip, row.name);
     QFont digits = font();
     digits.setPixelSize(pixelSize);
     painter.setFont(digits);

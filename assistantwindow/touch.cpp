@@ -8,6 +8,7 @@
 #include <QPixmap>
 #include <QPushButton>
 #include <algorithm>
+#include <cmath>
 
 namespace assistantwindow
 {
@@ -47,8 +48,7 @@ QPushButton *BigSpin::stepButton(const QString &text, double step)
             spin->specialValueText().isEmpty() ? spin->minimum() : -spin->maximum();
         spin->setValue(isEmpty ? 0.0 : std::max(least, spin->value() + step));
     });
-    button->setProperty("stepText", (step > 0 ? QStringLiteral("+") : QStringLiteral("−")) +
-                                        QLocale().toString(qAbs(step)));
+    button->setProperty("step_by", step);
     buttons.append(button);
     return button;
 }
@@ -56,9 +56,11 @@ QPushButton *BigSpin::stepButton(const QString &text, double step)
 void BigSpin::setName(const QString &name)
 {
     spin->setAccessibleName(name);
-    for (QPushButton *const button : qAsConst(buttons))
-        button->setAccessibleName(name + QLatin1Char(' ') +
-                                  button->property("stepText").toString());
+    for (QPushButton *const button : qAsConst(buttons)) {
+        const double step = button->property("step_by").toDouble();
+        button->setAccessibleName(name + QStringLiteral(" %1").arg(step > 0.0 ? u'+' : u'−') +
+                                  QLocale().toString(std::abs(step)));
+    }
 }
 
 namespace

@@ -48,8 +48,8 @@ assistant::Status PaintedMount::next()
     if (state.picture == virtualsky::Picture::Saturated)
         frame.setTo(cv::Scalar::all(255));
     const double before = cpuSeconds();
-    assistant::Status status =
-        engine.observe({frame, utc() + clockError, elapsed, exposure, !clockBehind, clockBehind});
+    assistant::Status status = engine.observe({frame, utc() + clockError, elapsed, exposure,
+                                               clockSynchronised && !clockBehind, clockBehind});
     latency = cpuSeconds() - before;
     return status;
 }

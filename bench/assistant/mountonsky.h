@@ -46,6 +46,8 @@ public:
     void setClockError(double by) { clockError = by; }
     /// Whether the guide is told that the computer's clock is behind.
     void setClockBehind(bool on) { clockBehind = on; }
+    /// Whether the guide is told that the computer's clock is synchronised.
+    void setClockSynchronised(bool on) { clockSynchronised = on; }
     void setExposure(double microseconds) { exposure = microseconds; }
     /// Processor time of the last frame's way to its status, seconds.
     double lastLatency() const { return latency; }
@@ -64,6 +66,7 @@ private:
     double elapsed = 0.0;
     double clockError = 0.0;
     bool clockBehind = false;
+    bool clockSynchronised = true;
     double exposure = 200000.0; // microseconds
     double latency = 0.0;
     std::uint64_t number = 0;

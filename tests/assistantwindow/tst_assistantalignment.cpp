@@ -1,16 +1,12 @@
 // SPDX-License-Identifier: MIT
 // Does a person align the mount with the assistant's window alone, on the virtual camera?
-#include "assistantwindow/assistantwindow.h"
-#include "assistantwindow/sessioninstrument.h"
-#include "tools/tour/assistanthands.h"
-#include "virtualcamera/skyfile.h"
+#include "tests/assistantwindow/desk.h"
 
 #include <QAbstractButton>
 #include <QDir>
 #include <QDoubleSpinBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QTemporaryDir>
 #include <QtTest>
 
 // Q_INIT_RESOURCE must be used in the global namespace.
@@ -19,61 +15,9 @@ static void initialiseResources()
     Q_INIT_RESOURCE(assistantwindow);
 }
 
-using assistantwindow::AssistantWindow;
-using assistantwindow::SessionInstrument;
-
 namespace
 {
 constexpr int patience = 60000; // milliseconds
-
-virtualsky::SkyState skyOf(bool south)
-{
-    virtualsky::SkyState sky;
-    sky.latitude = south ? -34.0 : 47.0;
-    sky.longitude = south ? 149.0 : 8.0;
-    sky.boltAltitude = south ? -0.7 : 1.1;
-    sky.boltAzimuth = south ? 1.3 : -0.6;
-    sky.roll = 130.0;
-    sky.refraction = true;
-    return sky;
-}
-
-/// A window on a sky of its own.
-struct Desk {
-    std::unique_ptr<Knobs> knobs;
-    std::unique_ptr<SessionInstrument> instrument;
-    std::unique_ptr<AssistantWindow> window;
-    std::unique_ptr<AssistantHands> hands;
-
-    Desk(bool south, bool hasSite)
-    {
-        // The camera library keeps the first path that it was given.
-        static const QTemporaryDir folder;
-        qputenv("QUORVANDEL_SKY", QFile::encodeName(folder.filePath("sky.ini")));
-        knobs = std::make_unique<Knobs>(virtualsky::skyFilePath(), skyOf(south));
-        assistant::Settings settings;
-        if (hasSite)
-            settings.site = astrometry::Site{knobs->edit().latitude, knobs->edit().longitude};
-        instrument = std::make_unique<SessionInstrument>(settings);
-        window = std::make_unique<AssistantWindow>(*instrument, settings, [](const auto &) {});
-        window->resize(800, 480);
-        window->show();
-        QApplication::setActiveWindow(window.get());
-        hands = std::make_unique<AssistantHands>(*window, *knobs, AssistantHands::Options());
-    }
-    ~Desk()
-    {
-        window.reset();
-        instrument->close(20000);
-    }
-    template <typename T> T &named(const char *name) const
-    {
-        T *const found = window->findChild<T *>(QLatin1String(name));
-        if (!found)
-            qFatal("no widget %s", name);
-        return *found;
-    }
-};
 } // namespace
 
 class AssistantAlignmentTest : public QObject
