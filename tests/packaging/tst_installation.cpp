@@ -11,6 +11,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QXmlStreamReader>
+#include <sys/stat.h>
 
 namespace
 {
@@ -93,15 +94,17 @@ class InstallationTest : public QObject
 private:
     QTemporaryDir scratch;
 
-    QString installed(const QString &name) const { return scratch.path() + '/' + name; }
+    /// Not there before.
+    QString prefix() const { return scratch.path() + "/new/prefix"; }
+    QString installed(const QString &name) const { return prefix() + '/' + name; }
 
     QStringList installedFiles() const
     {
         QStringList files;
-        QDirIterator all(scratch.path(), QDir::Files | QDir::Hidden | QDir::System,
+        QDirIterator all(prefix(), QDir::Files | QDir::Hidden | QDir::System,
                          QDirIterator::Subdirectories);
         while (all.hasNext())
-            files << QDir(scratch.path()).relativeFilePath(all.next());
+            files << QDir(prefix()).relativeFilePath(all.next());
         for (const char *link : {LIBEXECDIR "/quorvandel/lib", LIBEXECDIR "/quorvandel/share"})
             if (QFileInfo(installed(link)).isSymLink())
                 files << link;
@@ -115,7 +118,9 @@ private slots:
         QVERIFY(scratch.isValid());
         QProcess process;
         process.setProcessChannelMode(QProcess::MergedChannels);
-        process.start(CMAKE_PROGRAM, {"--install", PROJECT_BINARY_DIR, "--prefix", scratch.path()});
+        const mode_t usual = umask(077); // as a careful administrator has it
+        process.start(CMAKE_PROGRAM, {"--install", PROJECT_BINARY_DIR, "--prefix", prefix()});
+        umask(usual);
         QVERIFY(process.waitForFinished(60000));
         QVERIFY2(process.exitCode() == 0, process.readAll().constData());
     }
@@ -203,6 +208,43 @@ private slots:
         const auto wanted = QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther | QFile::ReadOwner |
                             QFile::ReadGroup | QFile::ReadOther;
         QCOMPARE(QFile::permissions(installed(name)) & wanted, QFile::Permissions(wanted));
+    }
+
+    /// Whatever the umask was: folders and programs 0755, other files 0644.
+    void everybodyMayReadEverything()
+    {
+        int folders = 0;
+        QDirIterator all(scratch.path(),
+                         QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                         QDirIterator::Subdirectories);
+        while (all.hasNext()) {
+            const QByteArray path = QFile::encodeName(all.next());
+            struct stat found = {};
+            QCOMPARE(lstat(path.constData(), &found), 0);
+            if (S_ISLNK(found.st_mode))
+                continue;
+            folders += S_ISDIR(found.st_mode);
+            const mode_t mode = found.st_mode & 07777;
+            const bool isFile = S_ISREG(found.st_mode);
+            QVERIFY2(mode == 0755 || (isFile && mode == 0644),
+                     path + " has mode 0" + QByteArray::number(mode, 8));
+        }
+        QVERIFY(folders > 30);
+    }
+
+    /// A folder that was there keeps its mode.
+    void foldersOfOthersStay()
+    {
+        const QString doors = prefix() + "/" DATADIR "/applications";
+        QVERIFY(chmod(QFile::encodeName(doors).constData(), 0750) == 0);
+        QCOMPARE(QProcess::execute("sh", {"-c",
+                                          CMAKE_PROGRAM " --install \"$1\" --prefix \"$2\" "
+                                                        ">/dev/null",
+                                          "sh", PROJECT_BINARY_DIR, prefix()}),
+                 0);
+        struct stat found = {};
+        QCOMPARE(stat(QFile::encodeName(doors).constData(), &found), 0);
+        QCOMPARE(found.st_mode & 07777, mode_t(0750));
     }
 
     void iconsHaveTheSizeOfTheirFolder()
