@@ -14,6 +14,8 @@ using recognition::DetectedStar;
 using recognition::PixelPlace;
 
 constexpr int mostStars = 60;
+constexpr int leastStarsOfShort = 5, mostStarsOfShort = 12;
+constexpr std::uint64_t firstShort = 1000000; // list
 
 class Draw
 {
@@ -34,6 +36,15 @@ struct Layout {
     ListKind kind;
     double width, height, angle, step; ///< pixels, radians
 };
+
+/// Short lists are the likelier ones to be mistaken for the sky: half have 8 stars or fewer.
+int starsOf(std::uint64_t number, Draw &draw)
+{
+    const bool isShort = number >= firstShort;
+    const double least = isShort ? leastStarsOfShort + 1.0 : 1.0;
+    const double most = isShort ? mostStarsOfShort + 2.0 : mostStars + 2.0;
+    return int(std::exp(draw.between(std::log(least), std::log(most)))) - 1;
+}
 
 PixelPlace placeOf(const Layout &layout, int i, const std::vector<DetectedStar> &before, Draw &draw)
 {
@@ -95,8 +106,7 @@ RandomList randomList(std::uint64_t number)
         list.options.mirrored = draw.whole(0, 1) == 0;
     const Layout layout = {list.kind, double(list.width), double(list.height),
                            draw.between(0.0, 7.0), draw.between(1.0, 60.0)};
-    // Short lists are the likelier ones to be mistaken for the sky: as many up to 8 as beyond.
-    const int count = int(std::exp(draw.between(0.0, std::log(mostStars + 2.0)))) - 1;
+    const int count = starsOf(number, draw);
     for (int i = 0; i < count; ++i) {
         const PixelPlace place = placeOf(layout, i, list.stars, draw);
         list.stars.push_back({place.x, place.y, draw.between(1.0, 1e5), draw.between(3.0, 300.0),

@@ -16,9 +16,10 @@ std::string nameOf(ListKind kind);
 
 struct RandomList {
     ListKind kind;
-    std::vector<recognition::DetectedStar> stars; ///< 0 to 60; half of the lists have 8 or fewer
-    int width, height;                            ///< pixels; 1 to 5000 and 1 to 4000
-    recognition::RecognitionOptions options;      ///< scale, hemisphere, mirroring: known in some
+    std::vector<recognition::DetectedStar>
+        stars;         ///< 0 to 60, from number 1,000,000 on 5 to 12; many are short
+    int width, height; ///< pixels; 1 to 5000 and 1 to 4000
+    recognition::RecognitionOptions options; ///< scale, hemisphere, mirroring: known in some
 };
 
 /// The kinds take turns; the same number makes the same list.
