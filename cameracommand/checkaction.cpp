@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The lens by a frame's stars, and its values into the sky file.
 #include <cstdio>
+#include <cstdlib>
 #include <ctime>
 #include <optional>
 
@@ -64,8 +65,13 @@ int keepValues(const Checked &found, const CameraCommandLine &wishes,
     virtualsky::SkyWatch watch(path, [](const std::string &) {}); // its faults were said before
     const virtualsky::Source checked = source ? source->address.source : virtualsky::Source::Sky;
     const std::string reason = reasonToLeave(wishes.writing, checked, watch.current(), lens);
-    if (reason.empty())
-        return writeLens(path, lens) ? succeeded : failed;
+    if (reason.empty()) {
+        const bool isWritten = writeLens(path, lens);
+        if (isWritten && !std::getenv("QUORVANDEL_SKY")) // the file is in a folder for one session
+            std::printf(
+                "This file lasts until you log out: QUORVANDEL_SKY names one that stays.\n");
+        return isWritten ? succeeded : failed;
+    }
     std::printf("%s is left as it is: %s\n", path.c_str(), reason.c_str());
     return succeeded;
 }

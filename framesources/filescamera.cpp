@@ -21,6 +21,15 @@ NativeFrame frameOf(PictureFile &&file)
 }
 } // namespace
 
+double pauseBetween(virtualsky::Pace pace, double exposureSeconds, std::optional<double> earlier,
+                    std::optional<double> later)
+{
+    double pause = exposureSeconds;
+    if (pace == virtualsky::Pace::Own && earlier && later)
+        pause = std::min(*later - *earlier, longestPause);
+    return std::max(pause, shortestPause);
+}
+
 FilesCamera::FilesCamera(std::string filesPattern, virtualsky::Pace filesPace, Report reportFault)
     : pattern(std::move(filesPattern)), pace(filesPace), report(std::move(reportFault))
 {
@@ -106,14 +115,6 @@ std::optional<NativeFrame> FilesCamera::nextOfOpenFile()
     return std::nullopt;
 }
 
-double FilesCamera::pauseBefore(const NativeFrame &frame, const Wish &wish) const
-{
-    double pause = wish.exposureSeconds;
-    if (pace == virtualsky::Pace::Own && last && last->date && frame.date)
-        pause = std::min(*frame.date - *last->date, longestPause);
-    return std::max(pause, shortestPause);
-}
-
 std::optional<NativeFrame> FilesCamera::next(const Wish &wish)
 {
     if (!wish.wanted) {
@@ -132,7 +133,8 @@ std::optional<NativeFrame> FilesCamera::next(const Wish &wish)
     }
     const bool again = !ready;
     const double pause =
-        again ? std::max(wish.exposureSeconds, shortestPause) : pauseBefore(*coming, wish);
+        pauseBetween(again ? virtualsky::Pace::Exposure : pace, wish.exposureSeconds,
+                     last ? last->date : std::nullopt, coming->date);
     if (last && std::chrono::duration<double>(Clock::now() - shown).count() < pause) {
         std::this_thread::sleep_for(1ms);
         return std::nullopt;

@@ -15,13 +15,17 @@
 
 namespace framesources
 {
+/// Seconds from one frame to the next, at least a thirtieth: the exposure, or at the frames' own
+/// pace the time between their dates, at most ten seconds, where both have one.
+/// @param earlier, later UTC seconds since 1970
+double pauseBetween(virtualsky::Pace pace, double exposureSeconds, std::optional<double> earlier,
+                    std::optional<double> later);
+
 /// Shows the files oldest first. The last one stays: it is delivered again and again, until newer
 /// files come. A file that cannot be read is named to `report` once and left out.
 class FilesCamera : public NativeCamera
 {
 public:
-    /// @param filesPace the exposure's, or the time between the dates of two frames (at most ten
-    /// seconds)
     FilesCamera(std::string filesPattern, virtualsky::Pace filesPace, Report reportFault);
 
     std::optional<NativeFrame> next(const Wish &wish) override;
@@ -34,7 +38,6 @@ private:
     bool openNext();
     std::optional<NativeFrame> nextOfOpenFile();
     void leaveOut(const ListedFile &file, const std::string &reason);
-    double pauseBefore(const NativeFrame &frame, const Wish &wish) const;
 
     const std::string pattern;
     const virtualsky::Pace pace;

@@ -55,6 +55,8 @@ ListedDevice describe(const virtualsky::CameraAddress &server, const std::string
         return device;
     }
     device.isCamera = waitUntil(client, 1500ms, images);
+    if (device.isCamera) // video is defined last
+        waitUntil(client, 500ms, [&client] { return client.has("CCD_VIDEO_STREAM"); });
     device.remark = !device.isCamera                 ? "no camera"
                     : client.has("CCD_VIDEO_STREAM") ? "a camera with video"
                                                      : "a camera";

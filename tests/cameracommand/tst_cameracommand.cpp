@@ -30,6 +30,7 @@ private slots:
     void checkOfTheSky();
     void checkWritesTheLens_data();
     void checkWritesTheLens();
+    void checkSaysWhatDoesNotLast();
     void checkFailsWithoutStars();
     void recordsFrames();
     void badCommands_data();
@@ -178,10 +179,28 @@ void CameraCommandTest::checkWritesTheLens()
     const QString wanted =
         QString(said).replace("FILE", sky).replace("= S", "= " + scale).replace("=S", "=" + scale);
     QVERIFY2(all.contains(wanted), qPrintable(all));
+    QVERIFY(!checked.output.contains("until you log out"));
     QCOMPARE(checked.status, checked.errors.isEmpty() ? 0 : 1);
     QFile file(sky);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), after.isEmpty() ? before : after.replace("S", scale.toUtf8()));
+}
+
+void CameraCommandTest::checkSaysWhatDoesNotLast()
+{
+    const QByteArray before = qgetenv("XDG_RUNTIME_DIR");
+    qputenv("XDG_RUNTIME_DIR", path("session").toUtf8());
+    qunsetenv("QUORVANDEL_SKY");
+    QVERIFY(cv::imwrite(path("a.png").toStdString(), photograph));
+    QTest::qWait(400);
+    const Result checked = run({"--camera", "files:" + path("a.png"), "check"});
+    qputenv("XDG_RUNTIME_DIR", before);
+    QCOMPARE(checked.status, 0);
+    QVERIFY2(
+        checked.output.contains(path("session/quorvandel/sky.ini") + ", line 2: scale = ") &&
+            checked.output.endsWith("\nThis file lasts until you log out: QUORVANDEL_SKY names "
+                                    "one that stays.\n"),
+        qPrintable(checked.output));
 }
 
 void CameraCommandTest::checkFailsWithoutStars()

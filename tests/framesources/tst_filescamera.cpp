@@ -23,6 +23,9 @@ private slots:
     void videoFrames();
     void exposuresPace();
     void ownPace();
+    void videosOwnPace();
+    void pauses_data();
+    void pauses();
     void nothingWithoutAFetch();
     void noFile();
 };
@@ -169,6 +172,8 @@ void FilesCameraTest::exposuresPace()
     QCOMPARE(running.value(), 1);
     QCOMPARE(running.value(), 2);
     QVERIFY2(timer.elapsed() >= 780, qPrintable(QString::number(timer.elapsed())));
+    QCOMPARE(running.value(), 2); // the last one again, as after an exposure of its own
+    QVERIFY2(timer.elapsed() >= 1170, qPrintable(QString::number(timer.elapsed())));
 }
 
 void FilesCameraTest::ownPace()
@@ -176,12 +181,69 @@ void FilesCameraTest::ownPace()
     const PictureFolder folder;
     folder.add("a.png", 1, 1);
     folder.add("b.png", 2, 3); // two seconds later
-    RunningCamera running(folder.folder.path(), virtualsky::Pace::Own);
+    RunningCamera running(folder.folder.path(), virtualsky::Pace::Own, 0.4);
     QCOMPARE(running.value(), 1);
     QElapsedTimer timer;
     timer.start();
     QCOMPARE(running.value(), 2);
     QVERIFY2(timer.elapsed() >= 1950, qPrintable(QString::number(timer.elapsed())));
+    timer.start();
+    QCOMPARE(running.value(), 2); // the last one again, after an exposure
+    QVERIFY2(timer.elapsed() >= 390, qPrintable(QString::number(timer.elapsed())));
+}
+
+/// Its frames have time stamps half a second apart.
+void FilesCameraTest::videosOwnPace()
+{
+    const PictureFolder folder;
+    QVERIFY(QFile::copy(QStringLiteral(PROJECT_SOURCE_DIR "/tests/pictures/golden/grey16.ser"),
+                        folder.path("a.ser")));
+    folder.date("a.ser", 0);
+    RunningCamera running(folder.path("a.ser"), virtualsky::Pace::Own);
+    QCOMPARE(running.value(), 1000);
+    QElapsedTimer timer;
+    timer.start();
+    QCOMPARE(running.value(), 1016);
+    QCOMPARE(running.value(), 1032);
+    QVERIFY2(timer.elapsed() >= 950, qPrintable(QString::number(timer.elapsed())));
+}
+
+void FilesCameraTest::pauses_data()
+{
+    QTest::addColumn<bool>("own");
+    QTest::addColumn<double>("exposure");
+    QTest::addColumn<double>("earlier"); // negative = without a date
+    QTest::addColumn<double>("later");
+    QTest::addColumn<double>("pause");
+    const auto row = [](const char *name, bool own, double exposure, double earlier, double later,
+                        double pause) {
+        QTest::newRow(name) << own << exposure << earlier << later << pause;
+    };
+    row("the exposure's", false, 0.5, 100.0, 107.0, 0.5);
+    row("the exposure's, long", false, 60.0, 100.0, 107.0, 60.0);
+    row("the exposure's, at most 30 a second", false, 0.001, 100.0, 107.0, 1.0 / 30.0);
+    row("their own", true, 0.5, 100.0, 107.0, 7.0);
+    row("their own, shorter than the exposure", true, 2.0, 100.0, 100.25, 0.25);
+    row("their own, at most 10 seconds", true, 0.5, 100.0, 110.5, 10.0);
+    row("their own, of one time", true, 0.5, 100.0, 100.0, 1.0 / 30.0);
+    row("their own, backwards", true, 0.5, 100.0, 50.0, 1.0 / 30.0);
+    row("the first without a date", true, 0.5, -1.0, 107.0, 0.5);
+    row("the second without a date", true, 0.5, 100.0, -1.0, 0.5);
+}
+
+void FilesCameraTest::pauses()
+{
+    QFETCH(bool, own);
+    QFETCH(double, exposure);
+    QFETCH(double, earlier);
+    QFETCH(double, later);
+    QFETCH(double, pause);
+    const auto date = [](double value) {
+        return value < 0.0 ? std::nullopt : std::optional<double>(value);
+    };
+    QCOMPARE(framesources::pauseBetween(own ? virtualsky::Pace::Own : virtualsky::Pace::Exposure,
+                                        exposure, date(earlier), date(later)),
+             pause);
 }
 
 void FilesCameraTest::nothingWithoutAFetch()

@@ -53,6 +53,8 @@ private slots:
     void found();
     void givenIsUsed();
     void nativeStays();
+    void onlyWhatIsLeftOpen_data();
+    void onlyWhatIsLeftOpen();
     void binnedFramesOfOneSensor();
     void unknownSkyIsLeftAlone();
 };
@@ -104,6 +106,46 @@ void LensFinderTest::nativeStays()
     const framesources::Lens lens = finder.lensFor(skyFrame(0.5, true));
     QCOMPARE(lens.scale, 0.0);
     QCOMPARE(lens.mirrored, false);
+}
+
+/// A frame of 60.9" a pixel that mirrors, and settings that give a part of it, right or wrong.
+void LensFinderTest::onlyWhatIsLeftOpen_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<int>("mirrored");
+    QTest::addColumn<double>("scale"); // expected
+    QTest::addColumn<bool>("isMirrored");
+    using Kind = LensScale::Kind;
+    const auto row = [](const char *name, Kind kind, Mirrored mirrored, double scale,
+                        bool isMirrored) {
+        QTest::newRow(name) << int(kind) << int(mirrored) << scale << isMirrored;
+    };
+    row("native, auto", Kind::Native, Mirrored::Auto, 0.0, true);
+    row("native, true", Kind::Native, Mirrored::True, 0.0, true);
+    row("native, false", Kind::Native, Mirrored::False, 0.0, false);
+    row("given, auto", Kind::Given, Mirrored::Auto, 12.5, true);
+    row("given, true", Kind::Given, Mirrored::True, 12.5, true);
+    row("given, false", Kind::Given, Mirrored::False, 12.5, false);
+    row("auto, auto", Kind::Auto, Mirrored::Auto, 60.9, true);
+    row("auto, true", Kind::Auto, Mirrored::True, 60.9, true);
+    row("auto, false", Kind::Auto, Mirrored::False, 60.9, false);
+}
+
+void LensFinderTest::onlyWhatIsLeftOpen()
+{
+    QFETCH(int, kind);
+    QFETCH(int, mirrored);
+    QFETCH(double, scale);
+    QFETCH(bool, isMirrored);
+    LensFinder finder(settingsOf(LensScale::Kind(kind), Mirrored(mirrored)),
+                      [](const std::string &) {});
+    QCOMPARE(finder.isSearching(), LensScale::Kind(kind) == LensScale::Kind::Auto ||
+                                       Mirrored(mirrored) == Mirrored::Auto);
+    const framesources::Lens lens = finder.lensFor(skyFrame(0.5, true));
+    QVERIFY2(std::abs(lens.scale - scale) <= 0.002 * scale,
+             qPrintable(QString::number(lens.scale)));
+    QCOMPARE(lens.mirrored, isMirrored);
+    QVERIFY(!finder.isSearching());
 }
 
 void LensFinderTest::binnedFramesOfOneSensor()

@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QtTest>
 #include <opencv2/imgcodecs.hpp>
+#include <opencv2/imgproc.hpp>
 
 #include "framesources/preparation.h"
 
@@ -30,6 +31,7 @@ private slots:
     void photographsStay_data();
     void photographsStay();
     void mirroredIsTurnedBack();
+    void neverMoreThanFourTimes();
     void softened();
 };
 
@@ -85,6 +87,25 @@ void PreparationTest::mirroredIsTurnedBack()
     const cv::Mat out = prepared(frameOf(pixels), Lens{0.0, true, false});
     QCOMPARE(int(out.at<uchar>(100, 1279 - 200)), 255);
     QCOMPARE(int(pixels.at<uchar>(100, 200)), 255); // the camera's own frame stays
+}
+
+/// Two dots 20 pixels apart, of a camera as coarse as the settings permit.
+void PreparationTest::neverMoreThanFourTimes()
+{
+    cv::Mat pixels(48, 64, CV_8UC1, cv::Scalar(0));
+    pixels(cv::Rect(22, 24, 1, 1)).setTo(200);
+    pixels(cv::Rect(42, 24, 1, 1)).setTo(200);
+    for (const auto &[scale, distance] :
+         std::vector<std::pair<double, double>>{{60.9, 40.0}, {121.8, 80.0}, {1000.0, 80.0}}) {
+        const cv::Mat out = prepared(frameOf(pixels), Lens{scale, false, false});
+        const auto middle = [&out](int begin, int end) {
+            const cv::Moments moments = cv::moments(out.colRange(begin, end));
+            return begin + moments.m10 / moments.m00;
+        };
+        QVERIFY2(std::abs(middle(640, 1280) - middle(0, 640) - distance) < 0.2,
+                 qPrintable(QString::number(middle(640, 1280) - middle(0, 640))));
+        QCOMPARE(out.size(), cv::Size(1280, 960));
+    }
 }
 
 void PreparationTest::softened()

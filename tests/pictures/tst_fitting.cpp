@@ -52,7 +52,12 @@ void FittingTest::plans_data()
     row("finer and large", 9000, 7000, 6.09, 0.2, 6400, 4800);
     row("coarser", 640, 480, 60.9, 2.0, 640, 480);
     row("coarser and large", 1280, 960, 60.9, 2.0, 640, 480);
-    row("never more than four times", 1280, 960, 300.0, 4.0, 320, 240);
+    row("a little below four times", 1280, 960, 3.99 * 30.45, 3.99, 320, 240);
+    row("four times", 1280, 960, 121.8, 4.0, 320, 240);
+    row("never more than four times", 1280, 960, 121.9, 4.0, 320, 240);
+    row("far coarser", 1280, 960, 300.0, 4.0, 320, 240);
+    row("the coarsest", 640, 480, 1000.0, 4.0, 320, 240);
+    row("the finest", 4144, 2822, 0.1, 0.1 / 30.45, 4144, 2822);
 }
 
 void FittingTest::plans()

@@ -102,6 +102,24 @@ void SkyFileTest::ranges_data()
             QTest::newRow(qPrintable(name(key) + " = " + text))
                 << name(key) << QByteArray(text) << false;
     }
+    const auto words = [](const char *key, std::initializer_list<const char *> texts, bool good) {
+        for (const char *text : texts)
+            QTest::newRow(qPrintable(QString("%1 = %2").arg(key, text)))
+                << QString(key) << QByteArray(text) << good;
+    };
+    words("camera.scale", {"native", "auto", "0.1", "30.45", "1000"}, true);
+    words("camera.scale",
+          {"", "0", "-6", "0.0999", "1000.1", "nan", "inf", "6x", "+6", "Auto", "native auto"},
+          false);
+    words("camera.mirrored", {"true", "false", "auto"}, true);
+    words("camera.mirrored", {"", "True", "1", "yes", "native"}, false);
+    words("camera.source", {"sky", "indi", "files"}, true);
+    words("camera.source", {"", "Indi", "indi://localhost/A", "webcam"}, false);
+    words("camera.pace", {"exposure", "own"}, true);
+    words("camera.pace", {"", "fast", "0.5"}, false);
+    words("camera.indi", {"localhost/A", "mount.local:7625/A B", "[::1]:7/A"}, true);
+    words("camera.indi", {"localhost", "localhost/", "a b/A", "h:0/A", "indi://localhost/A"},
+          false);
 }
 
 void SkyFileTest::ranges()
