@@ -30,7 +30,9 @@ struct Clocks {
     std::function<double()> utc; ///< the computer's clock, seconds since 1970
     /// Seconds of a clock that nobody sets, and that a suspend does not stop.
     std::function<double()> steady;
-    std::function<bool()> synchronised; ///< whether the computer's clock is known to be right
+    /// Whether the computer's clock is known to be right: so says the kernel, and the hardware's
+    /// clock does not contradict it.
+    std::function<bool()> synchronised;
     double certainPast = 0.0; ///< seconds since 1970: a moment that has passed; 0: none is known
 };
 /// The moment that has passed is the newest of `datedFiles`, read once.
@@ -43,6 +45,19 @@ inline constexpr double datesSlack = 3600.0;
 /// computers that keep no time while they are switched off.
 /// @param certainPast seconds since 1970; 0: none is known
 bool isBehind(double utcSeconds, double certainPast);
+
+/// By how many seconds a hardware clock that keeps local time may differ from UTC, with an hour of
+/// slack: zones go from 12 hours behind to 14 ahead.
+inline constexpr double zonesSlack = 15.0 * 3600.0;
+
+/// Whether the computer's clock and the hardware's cannot both be right: they differ by more than a
+/// time zone does. Says nothing if the hardware's lost its time, as one without a battery.
+/// @param hardware as by `hardwareTime` @param certainPast seconds since 1970; 0: none is known
+bool contradicts(double utcSeconds, std::optional<double> hardware, double certainPast);
+
+/// Seconds since 1970 in the kernel's file of a hardware clock, UTC or local time, as the computer
+/// keeps it; nothing if it cannot be read.
+std::optional<double> hardwareTime(const std::string &file = "/sys/class/rtc/rtc0/since_epoch");
 
 /// Files that were written in the past: this program, its settings, and what the system writes when
 /// programs are installed or its clock is synchronised.

@@ -45,7 +45,7 @@ AssistantWindow::AssistantWindow(Instrument &theInstrument, const assistant::Set
       keep(std::move(keeper)),
       mainPage(new MainPage),
       largePage(new LargePage),
-      settingsPage(new SettingsPage(Sounds::canSpeak())),
+      settingsPage(new SettingsPage(isSpeechAvailable())),
       reportPage(new ReportPage),
       sitePanel(new SitePanel)
 {
@@ -201,9 +201,8 @@ void AssistantWindow::refresh()
 void AssistantWindow::sound(const Snapshot &snapshot)
 {
     const auto &error = snapshot.status.error;
-    sounds.setPulses(settings.sound ? pulsesFor(error, settings.goalArcseconds) : Pulses());
-    if (settings.speech && settings.site)
-        sounds.say(spokenPhrase(error, settings.site->latitude, settings.goalArcseconds), locale());
+    sounds.setPulses(chosenPulses(error, settings));
+    sounds.say(chosenPhrase(error, settings), locale());
 }
 
 void AssistantWindow::openLarge()

@@ -69,4 +69,18 @@ QString spokenPhrase(const std::optional<assistant::ErrorFigures> &error, double
         .arg(wayText(altitudeFirst ? ways.altitude : ways.azimuth),
              sizeInWords(altitudeFirst ? altitude : azimuth));
 }
+
+Pulses chosenPulses(const std::optional<assistant::ErrorFigures> &error,
+                    const assistant::Settings &settings)
+{
+    return settings.sound ? pulsesFor(error, settings.goalArcseconds) : Pulses();
+}
+
+QString chosenPhrase(const std::optional<assistant::ErrorFigures> &error,
+                     const assistant::Settings &settings)
+{
+    if (!settings.speech || !settings.site)
+        return {};
+    return spokenPhrase(error, settings.site->latitude, settings.goalArcseconds);
+}
 } // namespace assistantwindow

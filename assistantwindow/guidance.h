@@ -2,6 +2,7 @@
 // What is heard: how fast do the pulses come, and what is said?
 #pragma once
 
+#include "assistant/settings.h"
 #include "assistantwindow/bolts.h"
 
 #include <QString>
@@ -17,9 +18,17 @@ struct Pulses {
 /// the goal, evenly in the logarithm; below the goal a steady tone. Silent without an error.
 Pulses pulsesFor(const std::optional<assistant::ErrorFigures> &error, double goalArcseconds);
 
+/// Silent unless the user asked for sound.
+Pulses chosenPulses(const std::optional<assistant::ErrorFigures> &error,
+                    const assistant::Settings &settings);
+
 /// What the speaker says of the worse bolt, such as "up, 2 minutes"; "aligned" below the goal;
 /// empty without altitude and azimuth.
 /// @param latitude degrees, as for boltWays
 QString spokenPhrase(const std::optional<assistant::ErrorFigures> &error, double latitude,
                      double goalArcseconds);
+
+/// Empty unless the user asked for speech and there is a site.
+QString chosenPhrase(const std::optional<assistant::ErrorFigures> &error,
+                     const assistant::Settings &settings);
 } // namespace assistantwindow

@@ -60,8 +60,8 @@ void TurnRing::paintEvent(QPaintEvent *)
     painter.setPen(QPen(colours->quiet, 2.0));
     const double angle = earliestShare * 2.0 * std::acos(-1.0);
     const QPointF way(std::sin(angle), -std::cos(angle));
-    painter.drawLine(circle.center() + way * (side - thick) / 2.0,
-                     circle.center() + way * (side + thick) / 2.0);
+    painter.drawLine(circle.center() + way * (side / 2.0 - thick),
+                     circle.center() + way * (side / 2.0 + thick));
     QFont digits = font();
     digits.setPixelSize(std::max(16, int(side * 0.26)));
     painter.setFont(digits);

@@ -1,37 +1,54 @@
 // SPDX-License-Identifier: MIT
-// Plays the pulses, the tone and the phrases.
+// When is a pulse, the tone or a phrase due?
 #pragma once
 
 #include "assistantwindow/guidance.h"
 
 #include <QElapsedTimer>
+#include <QLocale>
 #include <QObject>
 #include <QTimer>
 #include <memory>
 
-class QSoundEffect;
-class QTextToSpeech;
-
 namespace assistantwindow
 {
+/// What makes the sounds.
+class Player
+{
+public:
+    virtual ~Player() = default;
+    virtual void playPulse() = 0;
+    virtual void setTone(bool on) = 0;
+    virtual void say(const QString &phrase, const QLocale &locale) = 0;
+};
+
+/// The computer's loudspeaker and its speech engine.
+std::unique_ptr<Player> makePlayer();
+/// Built with speech, and an engine is installed.
+bool isSpeechAvailable();
+
 class Sounds : public QObject
 {
 public:
-    explicit Sounds(QObject *parent = nullptr);
+    /// Milliseconds from one phrase to the next at least.
+    static constexpr qint64 betweenPhrases = 4000;
+
+    explicit Sounds(std::unique_ptr<Player> player = makePlayer(), QObject *parent = nullptr);
     ~Sounds() override;
 
-    static bool canSpeak();               ///< built with speech, and an engine is installed
-    void setPulses(const Pulses &pulses); ///< Silent stops
+    /// Silent stops. An interval that changes counts from the last pulse on, so that a number that
+    /// changes with every frame does not put off the next one.
+    void setPulses(const Pulses &pulses);
     /// Said at most every four seconds; an empty phrase is not said.
     void say(const QString &phrase, const QLocale &locale);
 
 private:
     void pulse();
 
-    std::unique_ptr<QSoundEffect> beep, tone;
-    std::unique_ptr<QTextToSpeech> voice;
+    std::unique_ptr<Player> player;
     QTimer timer;
+    int interval = 0; ///< milliseconds
     Pulses::Kind playing = Pulses::Kind::Silent;
-    QElapsedTimer sinceSaid;
+    QElapsedTimer sincePulse, sinceSaid;
 };
 } // namespace assistantwindow

@@ -25,6 +25,9 @@ private slots:
     void behind();
     void newestDateOfFiles();
     void certainPastHasPassed();
+    void hardwareContradicts_data();
+    void hardwareContradicts();
+    void hardwareIsRead();
 };
 
 void ClockWatchTest::steps_data()
@@ -134,6 +137,45 @@ void ClockWatchTest::certainPastHasPassed()
     const QFileInfo program(QCoreApplication::applicationFilePath());
     QVERIFY(clocks.certainPast >= double(program.lastModified().toSecsSinceEpoch()));
     QVERIFY(!isBehind(clocks.utc(), clocks.certainPast));
+}
+
+void ClockWatchTest::hardwareContradicts_data()
+{
+    QTest::addColumn<double>("hardware"); // seconds after the computer's clock
+    QTest::addColumn<double>("past");     // likewise; 0: none
+    QTest::addColumn<bool>("expected");
+    constexpr double hour = 3600.0, day = 86400.0, year = 365.0 * day;
+    QTest::newRow("the same") << 0.0 << -30.0 * day << false;
+    QTest::newRow("minutes of drift") << 300.0 << -30.0 * day << false;
+    QTest::newRow("local time, farthest east") << 14.0 * hour << -30.0 * day << false;
+    QTest::newRow("local time, farthest west") << -12.0 * hour << -30.0 * day << false;
+    QTest::newRow("the computer's clock is a day ahead") << -day << -30.0 * day << true;
+    QTest::newRow("the computer's clock is a day behind") << day << -30.0 * day << true;
+    QTest::newRow("a day ahead, a program of today") << -day << -day << true;
+    QTest::newRow("a day ahead, settings of today") << -day << -60.0 << true;
+    QTest::newRow("without battery since 2010") << -16.0 * year << -30.0 * day << false;
+    QTest::newRow("since 2010, no past is known") << -16.0 * year << 0.0 << true;
+}
+
+void ClockWatchTest::hardwareContradicts()
+{
+    QFETCH(double, hardware);
+    QFETCH(double, past);
+    constexpr double now = 1795204800.0;
+    QTEST(contradicts(now, now + hardware, past == 0.0 ? 0.0 : now + past), "expected");
+    QVERIFY(!contradicts(now, std::nullopt, now - 1.0));
+    QVERIFY(!contradicts(now, 100.0, 0.0)); // since the power came, 1970
+}
+
+void ClockWatchTest::hardwareIsRead()
+{
+    QVERIFY(!hardwareTime("/nonexistent/file"));
+    QTemporaryFile file;
+    QVERIFY(file.open());
+    QVERIFY(!hardwareTime(file.fileName().toStdString()));
+    file.write("1795204800\n");
+    file.flush();
+    QCOMPARE(hardwareTime(file.fileName().toStdString()).value_or(0.0), 1795204800.0);
 }
 
 QTEST_GUILESS_MAIN(ClockWatchTest)
