@@ -114,6 +114,7 @@ private slots:
 void AssistantOperationTest::fingerAloneAligns()
 {
     const Desk desk(nearEquator(), false);
+    QVERIFY(QTest::qWaitForWindowExposed(desk.window.get()));
     Finger finger(*desk.window);
     const auto &latitude = desk.named<QDoubleSpinBox>("doubleSpinBox_latitude");
     const auto &longitude = desk.named<QDoubleSpinBox>("doubleSpinBox_longitude");
@@ -223,7 +224,8 @@ void AssistantOperationTest::keysAloneAlign()
     QCOMPARE(QDir(folder.path()).entryList({"*.csv"}).size(), 1);
     QVERIFY(pressByKeys("pushButton_reportBack"));
     QVERIFY(pressByKeys("pushButton_settings"));
-    QVERIFY(pressByKeys("pushButton_poleSection"));
+    QVERIFY(tabTo("pushButton_siteSection")); // the arrows lead to the other sections
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
     QVERIFY(tabTo("radioButton_truePole"));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
     QVERIFY(desk.named<QAbstractButton>("radioButton_refractedPole").isChecked());
