@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QSlider>
 #include <QStackedWidget>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 namespace assistantwindow
@@ -159,6 +160,8 @@ QWidget *MainPage::connectPanel()
     camera = new QComboBox;
     camera->setObjectName(QStringLiteral("comboBox_camera"));
     camera->setMinimumHeight(touchSize);
+    // Unlike the box's own one, it looks at the style sheet's height of an item.
+    camera->setItemDelegate(new QStyledItemDelegate(camera));
     column->addWidget(cameraName);
     column->addWidget(camera);
     siteHost = new QVBoxLayout;

@@ -19,6 +19,7 @@ BigSpin::BigSpin(const QString &objectName, Steps steps, QDoubleSpinBox *field)
     spin->setButtonSymbols(QAbstractSpinBox::NoButtons);
     spin->setAlignment(Qt::AlignCenter);
     spin->setMinimumSize(96, touchSize);
+    spin->setContextMenuPolicy(Qt::NoContextMenu); // its entries are too small for a finger
     spin->setSingleStep(steps.coarse);
     auto *const row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);

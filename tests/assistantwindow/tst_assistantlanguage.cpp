@@ -341,6 +341,7 @@ void AssistantLanguageTest::switchKeepsTheState()
         QVERIFY(now.site && now.site->latitude == before.site->latitude);
         QCOMPARE(now.redTheme, before.redTheme);
         QCOMPARE(now.goalArcseconds, before.goalArcseconds);
+        QVERIFY(shown.named<QAbstractButton>("checkBox_red").isChecked());
         QVERIFY(shown.instrument.connected);
         QCOMPARE(shown.instrument.calls, callsBefore);
         QVERIFY(shown.named<QWidget>("pushButton_report").isEnabled());

@@ -1,0 +1,243 @@
+// SPDX-License-Identifier: MIT
+// Is everything that the red theme's window opens purely red: tool tips, lists, menus, and the
+// moment of the switch? Can a finger hit what it opens?
+#include "tests/assistantwindow/scenes.h"
+#include "tests/support/textroom.h"
+#include "tests/support/toolkitwalk.h"
+
+#include <QAbstractItemView>
+#include <QAbstractSpinBox>
+#include <QComboBox>
+#include <QHelpEvent>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QScreen>
+#include <QToolTip>
+
+// Q_INIT_RESOURCE must be used in the global namespace.
+static void initialiseResources()
+{
+    Q_INIT_RESOURCE(assistantwindow);
+}
+
+namespace
+{
+constexpr QSize smallScreen(800, 480);
+constexpr int finger = 40; // pixels
+
+struct Light {
+    int coloured = 0; ///< pixels with green or blue
+    int bright = 0;   ///< pixels that can be seen
+};
+
+Light lightOf(const QImage &image)
+{
+    Light light;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb pixel = image.pixel(x, y);
+            light.coloured += qGreen(pixel) != 0 || qBlue(pixel) != 0 ? 1 : 0;
+            light.bright += qRed(pixel) > 100 ? 1 : 0;
+        }
+    return light;
+}
+
+struct Shown {
+    madestatus::MadeInstrument instrument;
+    std::unique_ptr<assistantwindow::AssistantWindow> window;
+
+    explicit Shown(int number, bool red = true)
+    {
+        const scenes::Scene &scene = scenes::all()[std::size_t(number)];
+        scenes::fill(instrument, scene);
+        window = std::make_unique<assistantwindow::AssistantWindow>(
+            instrument, scenes::settingsOf(scene, red, "EN"), [](const auto &) {});
+        window->resize(smallScreen);
+        window->show();
+        QApplication::setActiveWindow(window.get());
+        scenes::openPage(*window, scene.button);
+        window->showNormal();
+        window->resize(smallScreen);
+        settle();
+    }
+    /// As the screen shows it, with what is open over it.
+    QImage screen() const
+    {
+        settle();
+        return window->screen()->grabWindow(window->winId()).toImage();
+    }
+};
+
+void forEachScene()
+{
+    QTest::addColumn<int>("scene");
+    for (int i = 0; i < int(scenes::all().size()); ++i)
+        QTest::newRow(scenes::all()[std::size_t(i)].name) << i;
+}
+
+QList<QWidget *> visibleIn(const QWidget &window)
+{
+    QList<QWidget *> widgets;
+    for (QWidget *const widget : window.findChildren<QWidget *>())
+        if (widget->isVisible() && widget->window() == &window)
+            widgets.append(widget);
+    return widgets;
+}
+} // namespace
+
+class AssistantRedLightTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { initialiseResources(); }
+    void tipsAreRed_data() { forEachScene(); }
+    void tipsAreRed();
+    void listsAreRedAndLarge_data() { forEachScene(); }
+    void listsAreRedAndLarge();
+    void noMenuIsSmallOrColoured_data() { forEachScene(); }
+    void noMenuIsSmallOrColoured();
+    void focusAndPressAreRed_data() { forEachScene(); }
+    void focusAndPressAreRed();
+    void switchIsCompleteAtOnce();
+    void otherWindowsAreRed();
+};
+
+void AssistantRedLightTest::tipsAreRed()
+{
+    QFETCH(int, scene);
+    const Shown shown(scene);
+    for (QWidget *const widget : visibleIn(*shown.window)) {
+        if (widget->toolTip().isEmpty())
+            continue;
+        const QPoint place = widget->rect().center();
+        QHelpEvent ask(QEvent::ToolTip, place, widget->mapToGlobal(place));
+        QApplication::sendEvent(widget, &ask);
+        QWidget *tip = nullptr;
+        for (QWidget *const window : QApplication::topLevelWidgets())
+            if (window->inherits("QTipLabel") && window->isVisible())
+                tip = window;
+        QVERIFY2(tip, qPrintable(widget->objectName()));
+        const Light light = lightOf(tip->grab().toImage());
+        QVERIFY2(light.coloured == 0 && light.bright > 20, qPrintable(widget->toolTip()));
+        tip->hide();
+        tip->deleteLater();
+        settle();
+    }
+    QVERIFY(shown.window->isVisible());
+}
+
+void AssistantRedLightTest::listsAreRedAndLarge()
+{
+    QFETCH(int, scene);
+    const Shown shown(scene);
+    for (QWidget *const widget : visibleIn(*shown.window)) {
+        auto *const box = qobject_cast<QComboBox *>(widget);
+        if (!box)
+            continue;
+        box->showPopup();
+        QTRY_VERIFY(QApplication::activePopupWidget());
+        settle();
+        for (int i = 0; i < box->count(); ++i) {
+            const QRect row = box->view()->visualRect(box->model()->index(i, 0));
+            QVERIFY2(row.width() >= finger && row.height() >= finger, qPrintable(box->itemText(i)));
+        }
+        const Light light = lightOf(shown.window->screen()
+                                        ->grabWindow(QApplication::activePopupWidget()->winId())
+                                        .toImage());
+        QVERIFY(light.bright > 20);
+        QCOMPARE(light.coloured, 0);
+        box->hidePopup();
+    }
+    QCOMPARE(lightOf(shown.screen()).coloured, 0);
+}
+
+/// By the right button, the menu key, or a finger that is held.
+void AssistantRedLightTest::noMenuIsSmallOrColoured()
+{
+    QFETCH(int, scene);
+    const Shown shown(scene);
+    QStringList faults;
+    QTimer closing; // a field's menu blocks the event until it is closed
+    connect(&closing, &QTimer::timeout, [&] {
+        QWidget *const popup = QApplication::activePopupWidget();
+        if (!popup)
+            return;
+        if (lightOf(popup->grab().toImage()).coloured != 0)
+            faults.append(QStringLiteral("coloured"));
+        if (const auto *const menu = qobject_cast<QMenu *>(popup))
+            for (QAction *const action : menu->actions())
+                if (!action->isSeparator() && menu->actionGeometry(action).height() < finger)
+                    faults.append(action->text() + ": " +
+                                  QString::number(menu->actionGeometry(action).height()));
+        popup->close();
+    });
+    closing.start(0);
+    for (QWidget *const widget : visibleIn(*shown.window)) {
+        for (const auto reason : {QContextMenuEvent::Mouse, QContextMenuEvent::Keyboard}) {
+            const QPoint place = widget->rect().center();
+            QContextMenuEvent event(reason, place, widget->mapToGlobal(place));
+            QApplication::sendEvent(widget, &event);
+            settle();
+        }
+    }
+    faults.removeDuplicates();
+    QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
+}
+
+/// What changes its look under the pointer and the keys.
+void AssistantRedLightTest::focusAndPressAreRed()
+{
+    QFETCH(int, scene);
+    const Shown shown(scene);
+    for (QWidget *const widget : visibleIn(*shown.window)) {
+        auto *const button = qobject_cast<QAbstractButton *>(widget);
+        const bool isField = qobject_cast<QAbstractSpinBox *>(widget) ||
+                             qobject_cast<QLineEdit *>(widget) || widget->inherits("QSlider");
+        if (!button && !isField)
+            continue;
+        if (widget->focusPolicy() != Qt::NoFocus)
+            widget->setFocus();
+        if (auto *const line = qobject_cast<QLineEdit *>(widget))
+            line->selectAll();
+        if (button && button->isEnabled())
+            button->setDown(true);
+        QTest::mouseMove(widget);
+        QCOMPARE(lightOf(shown.screen()).coloured, 0);
+        if (button)
+            button->setDown(false);
+    }
+}
+
+void AssistantRedLightTest::switchIsCompleteAtOnce()
+{
+    const Shown shown(scenes::numberOf("night"), false);
+    QVERIFY(lightOf(shown.screen()).coloured > 1000);
+    auto *const red = shown.window->findChild<QAbstractButton *>("checkBox_red");
+    QTest::mouseClick(red, Qt::LeftButton, {}, {14, red->height() / 2});
+    QCOMPARE(lightOf(shown.screen()).coloured, 0);
+    for (const int key : {int(Qt::Key_Escape), int(Qt::Key_F11), int(Qt::Key_Escape),
+                          int(Qt::Key_F10), int(Qt::Key_Escape)}) {
+        QTest::keyClick(shown.window.get(), Qt::Key(key));
+        const Light light = lightOf(shown.screen());
+        QVERIFY(light.bright > 100);
+        QCOMPARE(light.coloured, 0);
+    }
+    red->click();
+    QVERIFY(lightOf(shown.screen()).coloured > 1000);
+}
+
+/// Whatever else the program may open.
+void AssistantRedLightTest::otherWindowsAreRed()
+{
+    const Shown shown(scenes::numberOf("connect"));
+    QMessageBox box(QMessageBox::Warning, "Title", "Text", QMessageBox::Ok, shown.window.get());
+    box.show();
+    settle();
+    const Light light = lightOf(shown.window->screen()->grabWindow(box.winId()).toImage());
+    QVERIFY(light.bright > 20);
+    QCOMPARE(light.coloured, 0);
+}
+
+QTEST_MAIN(AssistantRedLightTest)
+#include "tst_assistantredlight.moc"
