@@ -339,13 +339,6 @@ private slots:
         QCOMPARE(elements(installed(metainfoName), "icon"), QStringList(application.id));
     }
 
-    /// The Debian package has the version of the program.
-    void thePackageHasThisVersion()
-    {
-        const QString changes = textOf(PROJECT_SOURCE_DIR "/debian/changelog");
-        QVERIFY2(changes.startsWith("quorvandel (" VERSION "-"), qPrintable(changes.left(60)));
-    }
-
     void screenshotsAreAmongThePictures()
     {
         const QStringList addresses = elements(installed(metainfoName), "image");
