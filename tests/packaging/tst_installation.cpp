@@ -267,6 +267,20 @@ private slots:
         }
     }
 
+    /// Desktops find the menu entry and the icon of a window by the name that its program gives.
+    void programsNameTheirMenuEntry()
+    {
+        for (const Application &application : applications) {
+            const bool hasLauncher = application.id == applications.first().id;
+            QFile program(installed((hasLauncher ? LIBEXECDIR "/quorvandel/bin/" : BINDIR "/") +
+                                    application.program));
+            QVERIFY(program.open(QIODevice::ReadOnly));
+            const QByteArray literal(reinterpret_cast<const char *>(application.id.utf16()),
+                                     (application.id.size() + 1) * 2);
+            QVERIFY2(program.readAll().contains(literal), qPrintable(application.id));
+        }
+    }
+
     void everyLanguageIsInTheDesktopEntries()
     {
         for (const Application &application : applications) {
