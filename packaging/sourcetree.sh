@@ -18,17 +18,25 @@ source_files() {
   done
 }
 
-# lay_out_sources FOLDER: copies the source files to FOLDER, an existing one. Folders and scripts get
-# mode 0755, all other files 0644. A script is a file that begins with "#!": a file system without
-# modes shows every file as a program.
-lay_out_sources() (
+# below FOLDER KIND: the names of all folders (d) or files (f) of the sources in FOLDER.
+below() { find "$1" \( -path "$1/build" -o -path "$1/.git" \) -prune -o -type "$2" -print0; }
+
+# normalise_modes FOLDER: gives folders and scripts mode 0755, all other files 0644. A script is a file
+# that begins with "#!": a file system without modes shows every file as a program.
+normalise_modes() (
   set -o pipefail
-  umask 022
   export LC_ALL=C # reads bytes
-  source_files | tar -c --no-recursion --null -T - | tar --no-same-owner -x -C "$1" || exit
-  find "$1" -type d -exec chmod 755 {} + && find "$1" -type f -exec chmod 644 {} + || exit
-  find "$1" -type f -print0 | while IFS= read -r -d '' name; do
+  below "$1" d | xargs -0 -r chmod 755 && below "$1" f | xargs -0 -r chmod 644 || exit
+  below "$1" f | while IFS= read -r -d '' name; do
     IFS= read -r -d '' -n 2 start <"$name" || true # shorter, or with a null character
     [ "$start" != '#!' ] || printf '%s\0' "$name"
   done | xargs -0 -r chmod 755
+)
+
+# lay_out_sources FOLDER: copies the source files to FOLDER, an existing one, with normalised modes.
+lay_out_sources() (
+  set -o pipefail
+  umask 022
+  source_files | tar -c --no-recursion --null -T - | tar --no-same-owner -x -C "$1" || exit
+  normalise_modes "$1"
 )

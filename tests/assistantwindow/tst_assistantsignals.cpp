@@ -46,8 +46,10 @@ void AssistantSignalsTest::endsInTime()
     QFETCH(QByteArray, sign);
     QFETCH(int, number);
     HangingProgram program(operation, {});
-    QVERIFY2(program.reaches(sign, {"--connect"}), program.errors);
-    QVERIFY2(program.endsBy(number, longestEnd), program.errors);
+    program.start({"--connect"});
+    QVERIFY2(program.reaches(sign), program.errors);
+    program.send(number);
+    QVERIFY2(program.endsBy(longestEnd), program.errors);
 }
 
 QTEST_GUILESS_MAIN(AssistantSignalsTest)

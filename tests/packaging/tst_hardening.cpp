@@ -55,7 +55,9 @@ void HardeningTest::file()
     const QString segments = readElf("--program-headers", path);
     QVERIFY(segments.contains("GNU_RELRO"));
     QVERIFY2(segments.contains(QRegularExpression("GNU_STACK.* RW ")), "the stack is executable");
-    QVERIFY(readElf("--dyn-syms", path).contains("__stack_chk_fail"));
+    const QString symbols = readElf("--dyn-syms", path);
+    QVERIFY(symbols.contains("__stack_chk_fail"));
+    QVERIFY(symbols.contains(QRegularExpression(" __[a-z]+_chk\\b")));
 }
 
 /// Of the programs, not of the generated ones alone.

@@ -64,6 +64,8 @@ private slots:
     void modesAreThoseOfAPackage();
     void checkoutInsideAnotherRepository();
     void fileThatCannotBeRead();
+    void theRulesNormaliseTheModes();
+    void theRepositoryHasTheModesOfAPackage();
 };
 
 namespace
@@ -161,6 +163,43 @@ void SourceTreeTest::fileThatCannotBeRead()
     const QString script = user + "bash -c \"" + QString(layOut).replace("\"$1\"", "'$1'") + '"';
     const QString result = run(checkout, "022", script, {target.path()});
     QVERIFY2(result.startsWith("bash fails") && result.contains("secret"), qPrintable(result));
+}
+
+/// What `dpkg-buildpackage` runs in a checkout, before it makes the source package.
+void SourceTreeTest::theRulesNormaliseTheModes()
+{
+    const QTemporaryDir scratch;
+    const QString checkout = scratch.filePath(checkoutName);
+    QVERIFY(makeCheckout(checkout, 0700, 0700));
+    QVERIFY(write(checkout + "/.git/hook", "#!/bin/sh\n", 0600));
+    for (const char *const name : {"/packaging/sourcetree.sh", "/debian/rules"})
+        QVERIFY(QDir().mkpath(QFileInfo(checkout + name).path()) &&
+                QFile::copy(PROJECT_SOURCE_DIR + QString(name), checkout + name));
+    QCOMPARE(run(checkout, "077", "make -f debian/rules execute_after_dh_clean", {}), QString());
+    QMap<QString, QString> wanted = expected();
+    for (const char *const folder : {"packaging", "debian"})
+        wanted.insert(folder, "755");
+    wanted.insert("packaging/sourcetree.sh", "644");
+    wanted.insert("debian/rules", "755");
+    // These are not the package's.
+    wanted.insert("build", "700");
+    wanted.insert("build/leftover.o", "700");
+    wanted.insert(".git", modes(checkout).value(".git"));
+    wanted.insert(".git/hook", "600");
+    QCOMPARE(modes(checkout), wanted);
+}
+
+/// So that building a package in a checkout changes none of its files.
+void SourceTreeTest::theRepositoryHasTheModesOfAPackage()
+{
+    const QTemporaryDir target;
+    const QString repository = PROJECT_SOURCE_DIR;
+    if (!QFileInfo::exists(repository + "/.git"))
+        QSKIP("not a repository");
+    const QString compare = "; git ls-files -s | while read -r mode _ _ name; do "
+                            "is=100$(stat -c %a -- \"$1/$name\") || continue; "
+                            "[ \"$is\" = \"$mode\" ] || { echo \"$name: $mode\"; exit 1; }; done";
+    QCOMPARE(run(repository, "022", layOut + compare, {target.path()}), QString());
 }
 
 QTEST_GUILESS_MAIN(SourceTreeTest)

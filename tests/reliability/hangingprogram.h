@@ -16,7 +16,10 @@ class HangingProgram
 public:
     /// @param operation the one that hangs
     /// @param then what the user does while the camera is live; empty: nothing
-    HangingProgram(const QString &operation, const QString &then)
+    /// @param executable its settings are beside it
+    HangingProgram(const QString &operation, const QString &then,
+                   const QString &executable = QStringLiteral(PROGRAM_FILE))
+        : file(executable)
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert("HOME", home.path());
@@ -29,21 +32,25 @@ public:
         process.setReadChannel(QProcess::StandardError);
     }
 
-    /// Whether it starts and writes `sign` on standard error.
-    bool reaches(const QByteArray &sign, const QStringList &options)
+    void start(const QStringList &options = {}) { process.start(file, options); }
+
+    /// Whether it writes `sign` on standard error.
+    bool reaches(const QByteArray &sign)
     {
-        process.start(PROGRAM_FILE, options);
         while (!errors.contains(sign) && process.waitForReadyRead(patience))
             errors += process.readAllStandardError();
         return errors.contains(sign);
     }
 
-    /// Whether it ends with status 0 within `milliseconds` of the signal.
-    bool endsBy(int number, int milliseconds)
+    void send(int number)
     {
-        QElapsedTimer timer;
         timer.start();
         ::kill(pid_t(process.processId()), number);
+    }
+
+    /// Whether it ends with status 0 within `milliseconds` of the signal.
+    bool endsBy(int milliseconds)
+    {
         const bool hasEnded = process.waitForFinished(patience);
         const qint64 took = timer.elapsed();
         errors += process.readAllStandardError();
@@ -55,6 +62,8 @@ public:
     QByteArray errors; ///< what it wrote on standard error
 
 private:
+    const QString file;
     QTemporaryDir home;
     QProcess process;
+    QElapsedTimer timer; ///< since the signal
 };

@@ -4,6 +4,7 @@
 #include "tests/reliability/handledsignals.h"
 #include "tests/reliability/hangingprogram.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSettings>
@@ -14,9 +15,20 @@ namespace
 {
 constexpr int longestEnd = 5000; ///< milliseconds from the signal on
 
-QString settingsPath()
+QString settingsBeside(const QString &executable)
 {
-    return QFileInfo(QStringLiteral(PROGRAM_FILE)).absolutePath() + "/Quorvandel.ini";
+    return QFileInfo(executable).absolutePath() + "/Quorvandel.ini";
+}
+
+/// The program again, in a folder of its own: two run at once, each with its settings.
+QString secondProgram()
+{
+    const QFileInfo first(QStringLiteral(PROGRAM_FILE));
+    const QString second = first.absolutePath() + "/second/" + first.fileName();
+    QFile::remove(second);
+    const bool isThere =
+        QDir().mkpath(QFileInfo(second).absolutePath()) && QFile::copy(first.filePath(), second);
+    return isThere ? second : QString();
 }
 } // namespace
 
@@ -28,11 +40,19 @@ private slots:
     void initTestCase();
     void endsInTime_data();
     void endsInTime();
+    void hangingUpEndsItToo();
+
+private:
+    static void compareWithEnd(const HangingProgram &program, const QString &executable,
+                               const QString &operation);
+    QString executables[2]{QStringLiteral(PROGRAM_FILE), {}};
 };
 
 void HangingCallsTest::initTestCase()
 {
     restoreSignals();
+    executables[1] = secondProgram();
+    QVERIFY(!executables[1].isEmpty());
 }
 
 void HangingCallsTest::endsInTime_data()
@@ -40,45 +60,60 @@ void HangingCallsTest::endsInTime_data()
     QTest::addColumn<QString>("operation");
     QTest::addColumn<QString>("then");    // what the user does while the camera is live
     QTest::addColumn<QByteArray>("sign"); // of the moment to send the signal
-    QTest::addColumn<int>("number");
-    const auto row = [](const char *operation, const char *then, int number,
-                        const char *sign = "the library hangs") {
-        QTest::addRow("%s hangs %s, %s", operation, then,
-                      number == SIGTERM  ? "SIGTERM"
-                      : number == SIGINT ? "SIGINT"
-                                         : "SIGHUP")
-            << QString(operation) << QString(then) << QByteArray(sign) << number;
-    };
+    const QByteArray hangs = "the library hangs";
     for (const char *const operation :
          {"InitVELDIXResource", "ScanVELDIX", "GetVELDIXId", "OpenVELDIX", "SetVELDIXReadMode",
           "SetVELDIXStreamMode", "InitVELDIX", "SetVELDIXBitsMode", "SetVELDIXBinMode",
           "SetVELDIXResolution", "GetVELDIXParam", "SetVELDIXParam", "BeginVELDIXLive",
           "GetVELDIXLiveFrame"})
-        row(operation, "", SIGTERM);
-    for (const char *const operation : {"InitVELDIXResource", "ScanVELDIX", "SetVELDIXParam"})
-        row(operation, "", SIGINT);
-    row("OpenVELDIX", "", SIGHUP);
-    row("GetVELDIXLiveFrame", "", SIGINT);
+        QTest::newRow(operation) << operation << QString() << hangs;
     for (const char *const operation : {"StopVELDIXLive", "CloseVELDIX"}) {
-        row(operation, "Disconnect", SIGTERM);
-        row(operation, "Disconnect", SIGINT);
-        row(operation, "as the window closes", SIGTERM, "the camera is live");
+        QTest::addRow("%s at Disconnect", operation) << operation << "Disconnect" << hangs;
+        QTest::addRow("%s as the window closes", operation)
+            << operation << "as the window closes" << QByteArray("the camera is live");
     }
 }
 
+/// One program gets SIGTERM, the other SIGINT.
 void HangingCallsTest::endsInTime()
 {
     QFETCH(QString, operation);
     QFETCH(QString, then);
     QFETCH(QByteArray, sign);
-    QFETCH(int, number);
-    QFile::remove(settingsPath());
-    HangingProgram program(operation, then);
-    QVERIFY2(program.reaches(sign, {}), program.errors);
-    QVERIFY(!QFile::exists(settingsPath()));
+    HangingProgram first(operation, then), second(operation, then, executables[1]);
+    HangingProgram *const programs[] = {&first, &second};
+    for (const QString &executable : executables)
+        QFile::remove(settingsBeside(executable));
+    for (HangingProgram *const program : programs)
+        program->start();
+    for (HangingProgram *const program : programs)
+        QVERIFY2(program->reaches(sign), program->errors);
+    for (const QString &executable : executables)
+        QVERIFY(!QFile::exists(settingsBeside(executable)));
 
-    QVERIFY2(program.endsBy(number, longestEnd), program.errors);
-    const QSettings file(settingsPath(), QSettings::IniFormat);
+    first.send(SIGTERM);
+    second.send(SIGINT);
+    for (HangingProgram *const program : programs)
+        QVERIFY2(program->endsBy(longestEnd), program->errors);
+    for (int i = 0; i < 2; ++i)
+        compareWithEnd(*programs[i], executables[i], operation);
+}
+
+void HangingCallsTest::hangingUpEndsItToo()
+{
+    QFile::remove(settingsBeside(executables[0]));
+    HangingProgram program("OpenVELDIX", {});
+    program.start();
+    QVERIFY2(program.reaches("the library hangs"), program.errors);
+    program.send(SIGHUP);
+    QVERIFY2(program.endsBy(longestEnd), program.errors);
+    compareWithEnd(program, executables[0], "OpenVELDIX");
+}
+
+void HangingCallsTest::compareWithEnd(const HangingProgram &program, const QString &executable,
+                                      const QString &operation)
+{
+    const QSettings file(settingsBeside(executable), QSettings::IniFormat);
     QCOMPARE(file.allKeys().size(), 12);
     // What was changed just before the call is saved; the first call comes before the window.
     QCOMPARE(file.value("STYLE/style").toString(),

@@ -19,6 +19,7 @@ private slots:
     void cleanup() { clearPlace(); }
     void nothingIsLost_data();
     void nothingIsLost();
+    void othersKeysStay_data();
     void othersKeysStay();
     void rubbishDoesNotOutgrowTheLimit_data();
     void rubbishDoesNotOutgrowTheLimit();
@@ -67,10 +68,21 @@ void SettingsKeptTest::nothingIsLost()
              QVariant("1"));
 }
 
-/// The readable part of a file with an object stays where it is.
+void SettingsKeptTest::othersKeysStay_data()
+{
+    QTest::addColumn<QByteArray>("object"); // how it begins
+    QTest::newRow("plain") << QByteArray("@Variant(");
+    QTest::newRow("an octal escape") << QByteArray("@\\126ariant(");
+    QTest::newRow("a hexadecimal escape") << QByteArray("@Variant\\x28");
+    QTest::newRow("quotes") << QByteArray("\"@Var\"\"iant(\"");
+}
+
+/// The readable part of a file with an object, however it is written, stays where it is.
 void SettingsKeptTest::othersKeysStay()
 {
-    put("[MINE]\na=b\nobject=@\\126ariant(\\0\\0\\0\\x0b\\0\\x10\\0\\0\\0)\nlist=1, \"2;3\"\n"
+    QFETCH(QByteArray, object);
+    put("[MINE]\na=b\nobject=" + object +
+        "\\0\\0\\0\\x0b\\0\\x10\\0\\0\\0)\nlist=1, \"2;3\"\n"
         "[STYLE]\nstyle=Mono\n");
     {
         SessionWindow window;

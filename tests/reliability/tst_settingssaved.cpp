@@ -7,6 +7,7 @@
 
 #include "core/settingsplace.h"
 #include "resources/resources.h"
+#include "tests/support/boxwatcher.h"
 #include "tests/support/logrecorder.h"
 #include "tests/support/patience.h"
 
@@ -240,6 +241,7 @@ void SettingsSavedTest::saysWhyNot()
         arrange();
         before = entries(place);
         const LogRecorder log;
+        const BoxWatcher boxes;
         SessionWindow window;
         QCOMPARE(log.texts(QtWarningMsg).filter("the settings will not be saved in " + end).size(),
                  1);
@@ -250,6 +252,7 @@ void SettingsSavedTest::saysWhyNot()
         window.close();
         QVERIFY(timer.elapsed() < longestClosing);
         QCOMPARE(log.texts(QtWarningMsg).filter("the settings are not saved in " + end).size(), 1);
+        QVERIFY(boxes.boxes().isEmpty());
     }
     QCOMPARE(entries(place), before);
     chmod(settingsFilePath().toLocal8Bit(), 0755);

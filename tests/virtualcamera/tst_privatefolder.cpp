@@ -1,12 +1,18 @@
 // SPDX-License-Identifier: MIT
 // Is a folder in a public place used only if it is this user's alone?
+#include "tests/support/patience.h"
 #include "virtualcamera/privatefolder.h"
+#include "virtualcamera/skyfile.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtTest>
+#include <cstdio>
+#include <cstring>
 #include <functional>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -42,6 +48,8 @@ private slots:
     void folder();
     void lookalikes();
     void nowhere();
+    void theUserIsTold_data();
+    void theUserIsTold();
 };
 
 void PrivateFolderTest::folder_data()
@@ -113,5 +121,69 @@ void PrivateFolderTest::nowhere()
     QCOMPARE(privateFolder("/proc/no/such/folder", name), std::string());
 }
 
-QTEST_GUILESS_MAIN(PrivateFolderTest)
+void PrivateFolderTest::theUserIsTold_data()
+{
+    QTest::addColumn<QString>("command"); // run in /tmp; $own is the folder
+    QTest::addColumn<bool>("isTold");
+    QTest::newRow("absent") << "true" << false;
+    QTest::newRow("own, 0700") << "mkdir -m 700 $own" << false;
+    QTest::newRow("open to others") << "mkdir -m 755 $own" << true;
+    QTest::newRow("a link") << "mkdir -m 700 other && ln -s other $own" << true;
+    if (geteuid() == 0)
+        QTest::newRow("of another user") << "mkdir -m 700 $own && chown 65534:65534 $own" << true;
+}
+
+/// A process that asks twice for the sky file, with a /tmp of its own, says once that it uses
+/// another folder, and which.
+void PrivateFolderTest::theUserIsTold()
+{
+    QFETCH(QString, command);
+    QFETCH(bool, isTold);
+    const QTemporaryDir place(QDir::homePath() + "/public");
+    const QString program = QCoreApplication::applicationFilePath();
+    if (program.startsWith("/tmp/") || place.path().startsWith("/tmp/"))
+        QSKIP("what is in /tmp would be hidden");
+    QStringList arguments{"--mount",
+                          "sh",
+                          "-c",
+                          "mount --bind \"$1\" /tmp && cd /tmp && own=quorvandel-$(id -u) && " +
+                              command + " && exec \"$2\" --sky-file",
+                          "sh",
+                          place.path(),
+                          program};
+    if (geteuid() != 0)
+        arguments = QStringList{"--user", "--map-root-user"} + arguments;
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.remove("QUORVANDEL_SKY");
+    environment.remove("XDG_RUNTIME_DIR");
+    process.setProcessEnvironment(environment);
+    process.start("unshare", arguments);
+    QVERIFY(process.waitForFinished(patience));
+    const QString errors = QString::fromUtf8(process.readAllStandardError());
+    if (errors.startsWith("unshare: "))
+        QSKIP("this user may not have a /tmp of its own");
+    const QString output = QString::fromUtf8(process.readAllStandardOutput());
+    const QRegularExpressionMatch found =
+        QRegularExpression("^(/tmp/quorvandel-[0-9]+)(-[^/\n]{6})?/sky.ini\n$").match(output);
+    QVERIFY2(found.hasMatch(), qPrintable(output + errors));
+    QCOMPARE(found.captured(2).isEmpty(), !isTold);
+    const QString sentence = QStringLiteral("virtual sky: %1 is not a folder of this user alone "
+                                            "(mode 0700, no link): %1%2 is used\n")
+                                 .arg(found.captured(1), found.captured(2));
+    QCOMPARE(errors, isTold ? sentence : QString());
+}
+
+int main(int argc, char *argv[])
+{
+    if (argc == 2 && std::strcmp(argv[1], "--sky-file") == 0) {
+        const std::string path = virtualsky::skyFilePath();
+        std::puts((path == virtualsky::skyFilePath() ? path : "two paths").c_str());
+        return 0;
+    }
+    const QCoreApplication application(argc, argv);
+    PrivateFolderTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_privatefolder.moc"
