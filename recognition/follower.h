@@ -20,9 +20,11 @@ struct FollowerOptions {
 };
 
 /// Looks only at windows about the stars of the last frame, as long as they are found there;
-/// otherwise the whole frame is searched, blind except for the scale, mirroring and hemisphere that
-/// were found before. Between frames the field may shift by `searchRadius`, and turn by as much as
-/// leaves its stars in their windows: half a degree. Not for two threads at a time.
+/// otherwise the whole frame is searched, first with the scale, mirroring and hemisphere that were
+/// found before, then, in the first such frame and every second one after it, blind. Frames of
+/// another size than before are searched blind. Between frames the field may shift by
+/// `searchRadius`, and turn by as much as leaves its stars in their windows: half a degree. Not for
+/// two threads at a time.
 class Follower
 {
 public:
@@ -59,7 +61,8 @@ private:
     Measured measure(const cv::Mat &frame, const std::vector<Target> &expected, Shift shift) const;
     std::optional<Recognition> byLastFrame(const cv::Mat &frame, double utcSeconds);
     std::optional<Shift> shiftOf(const cv::Mat &frame, const std::vector<Target> &targets) const;
-    Recognition blind(const cv::Mat &frame, double utcSeconds);
+    Recognition byWholeFrame(const cv::Mat &frame, double utcSeconds);
+    RecognitionOptions narrowed(RecognitionOptions options) const;
     void enrol(const Recognition &recognition);
     void refreshPlaces(double utcSeconds);
     std::vector<Target> targets() const;
@@ -73,5 +76,6 @@ private:
     std::vector<DetectedStar> measured;
     Extraction wholeFrame;
     bool byWindows = false;
+    unsigned unlike = 0; // frames since the last recognised one that were not like it
 };
 } // namespace recognition
