@@ -45,6 +45,9 @@ enum class RecognitionStatus {
 
 /// Fewer stars than this are never recognised.
 inline constexpr std::size_t leastStars = 6;
+/// So many are recognised in nearly every frame, if they are real and the brightest; with fewer it
+/// is luck. `reason` asks for these.
+inline constexpr std::size_t enoughStars = 8;
 
 struct MatchedStar {
     std::size_t detected;  ///< index into the stars that were given

@@ -228,6 +228,12 @@ void RecogniseTest::failuresHaveReasons_data()
     const double date = 1.8e9;
     QTest::newRow("no star") << 0 << 1280 << 2.0 << date << few << "Expose longer";
     QTest::newRow("five stars") << 5 << 1280 << 2.0 << date << few << "Expose longer";
+    QTest::newRow("five stars: how many are needed")
+        << 5 << 1280 << 2.0 << date << few << "at least 8 needed";
+    QTest::newRow("seven stars") << 7 << 1280 << 2.0 << date << none
+                                 << "pole. Expose longer or raise the gain first: at least 8";
+    QTest::newRow("mostly noise") << 20 << 1280 << 2.0 << date << none << "pole. Expose longer";
+    QTest::newRow("stars enough") << 30 << 1280 << 2.0 << date << none << "pole. Point the camera";
     QTest::newRow("other stars") << 40 << 1280 << 2.0 << date << none << "nearer to the pole";
     QTest::newRow("no frame") << 40 << 0 << 2.0 << date << invalid << "out of range";
     QTest::newRow("scales in the wrong order")
