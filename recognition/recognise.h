@@ -26,11 +26,16 @@ struct Observer {
     astrometry::RefractionConstants air;
 };
 
+/// Greatest scale that can be asked for, arcseconds a pixel.
+inline constexpr double coarsestScale = 600.0;
+
 struct RecognitionOptions {
     double utcSeconds = 0.0;              ///< middle of the exposure, UTC since 1970; required
     std::optional<Hemisphere> hemisphere; ///< absent: both are tried
-    double leastScale = 2.0;              ///< arcseconds a pixel at the frame's centre
-    double greatestScale = 70.0;          ///< arcseconds a pixel, not below leastScale
+    /// Arcseconds a pixel at the frame's centre, above 0. Triangles of stars miss the scale by some
+    /// thousandths, so that a range should be wider than one percent.
+    double leastScale = 2.0;
+    double greatestScale = 70.0; ///< not below leastScale, up to `coarsestScale`
     std::optional<bool> mirrored;         ///< absent: both are tried
     std::optional<Observer> observer;     ///< absent: no refraction is applied
     double acceptedChance = 1e-9;         ///< greatest chance probability that is accepted, 0 to 1

@@ -160,6 +160,10 @@ void RecogniseCommandTest::scaleAndHemisphereNarrowTheSearch_data()
     QTest::addColumn<QStringList>("options");
     QTest::addColumn<int>("status");
     QTest::newRow("right scale") << QStringList{"--scale", "29", "32"} << 0;
+    QTest::newRow("one scale") << QStringList{"--scale", "30.45", "30.45"} << 0;
+    QTest::newRow("widest scale") << QStringList{"--scale", "0.01", "600"} << 0;
+    QTest::newRow("scale one percent off") << QStringList{"--scale", "20", "30.2"} << 0;
+    QTest::newRow("scale too small") << QStringList{"--scale", "20", "30"} << 1;
     QTest::newRow("wrong scale") << QStringList{"--scale", "4", "12"} << 1;
     QTest::newRow("right pole") << QStringList{"--hemisphere", "north"} << 0;
     QTest::newRow("wrong pole") << QStringList{"--hemisphere", "south"} << 1;
