@@ -127,8 +127,9 @@ private:
     {
         const double low = number(value("--scale")), high = number(value("--scale"));
         if (!(low > 0.0 && high >= low && high <= recognition::coarsestScale))
-            complain("--scale takes two numbers of arcseconds a pixel, the lower one first, above 0 "
-                     "and up to 600.");
+            complain(
+                "--scale takes two numbers of arcseconds a pixel, the lower one first, above 0 "
+                "and up to 600.");
         result.scale = {low, high};
     }
 

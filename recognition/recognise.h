@@ -35,10 +35,10 @@ struct RecognitionOptions {
     /// Arcseconds a pixel at the frame's centre, above 0. Triangles of stars miss the scale by some
     /// thousandths, so that a range should be wider than one percent.
     double leastScale = 2.0;
-    double greatestScale = 70.0; ///< not below leastScale, up to `coarsestScale`
-    std::optional<bool> mirrored;         ///< absent: both are tried
-    std::optional<Observer> observer;     ///< absent: no refraction is applied
-    double acceptedChance = 1e-9;         ///< greatest chance probability that is accepted, 0 to 1
+    double greatestScale = 70.0;      ///< not below leastScale, up to `coarsestScale`
+    std::optional<bool> mirrored;     ///< absent: both are tried
+    std::optional<Observer> observer; ///< absent: no refraction is applied
+    double acceptedChance = 1e-9;     ///< greatest chance probability that is accepted, 0 to 1
 };
 
 enum class RecognitionStatus {
