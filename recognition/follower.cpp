@@ -49,10 +49,10 @@ void Follower::reset()
 Recognition Follower::follow(const cv::Mat &frame, double utcSeconds)
 {
     // Another size is another binning or another camera: nothing that was learned holds.
-    if (last && (last->width != frame.cols || last->height != frame.rows))
+    if (last && !frame.empty() && (last->width != frame.cols || last->height != frame.rows))
         reset();
     std::optional<Recognition> result;
-    if (last)
+    if (last && !frame.empty())
         result = byLastFrame(frame, utcSeconds);
     byWindows = result.has_value();
     if (!result)

@@ -1,5 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Where is the pole in the next frame of a live picture?
+//
+// Centres are adaptive moments in windows (Bernstein and Jarvis 2002, AJ 123, 583, see
+// extraction.h); with the stars known, only the mapping is fitted (see recognise.h).
+// Method: docs/recognition.md, "Following, axis and mount".
 #pragma once
 
 #include "recognition/extraction.h"
@@ -31,7 +35,11 @@ public:
     explicit Follower(const FollowerOptions &options) : given(options) {}
 
     /// @param frame 8 or 16 bit, 1 or 3 channels @param utcSeconds middle of the exposure
-    /// `matched[i].detected` indexes `stars()`.
+    /// @return what `recognise` gives; `matched[i].detected` indexes `stars()`. Recognised by
+    /// windows or by a search. TooFewStars and NoMatch only after a search of the whole frame:
+    /// `searched().status` says what is wrong with the frame, if anything is. InvalidOptions for an
+    /// empty frame, a time outside 1900 to 2200, or options out of range. What was learned is kept
+    /// until a frame of another size comes.
     Recognition follow(const cv::Mat &frame, double utcSeconds);
 
     /// The stars that the last frame's recognition rests on.

@@ -45,7 +45,8 @@ enum class RecognitionStatus {
     Recognised,
     TooFewStars,   ///< fewer than `leastStars` were given
     NoMatch,       ///< enough stars, but no part of the pole's sky is like them
-    InvalidOptions ///< a size, scale, date or chance out of range
+    InvalidOptions ///< out of range: width or height (1 to 65536), scales (see RecognitionOptions),
+                   ///< date (1900 to 2200), accepted chance (above 0, below 1)
 };
 
 /// Fewer stars than this are never recognised.
@@ -79,7 +80,9 @@ struct Recognition {
     double scale = 0.0;               ///< arcseconds a pixel at the frame's centre
     double rollDegrees = 0.0;         ///< -180 to 180; see rollOf
     bool mirrored = false;            ///< the frame shows the sky as in a mirror
-    double rms = 0.0;                 ///< arcseconds, of the matched stars' residuals, both axes
+    /// Arcseconds, both axes: of the residuals of the matched stars without a near neighbour, whose
+    /// light would move their centres. 0 if all have one.
+    double rms = 0.0;
     double chance = 1.0;              ///< upper bound of the probability of a match by chance
     std::vector<MatchedStar> matched; ///< brightest first
 };

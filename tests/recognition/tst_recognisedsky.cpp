@@ -137,6 +137,7 @@ void RecognisedSkyTest::followerReportsClouds()
     const Recognition lost = follower.follow(frameOf(clouded, november2026, 2), november2026);
     QVERIFY(lost.status == RecognitionStatus::TooFewStars);
     QVERIFY(!follower.followed());
+    QVERIFY(follower.follow({}, november2026).status == RecognitionStatus::InvalidOptions);
     // After the cloud has passed the windows are still the right ones.
     const Recognition back = follower.follow(frameOf(state, november2026, 3), november2026);
     QVERIFY(back.status == RecognitionStatus::Recognised);
