@@ -2,6 +2,8 @@
 // How far does the air lift a star?
 //
 // Horizon vectors are (east, north, up).
+// Reference: ERFA's eraRefco and its sources; Green, Spherical Astronomy, Cambridge 1987,
+// chapter 4.
 #pragma once
 
 #include "astrometry/vector3.h"

@@ -2,7 +2,13 @@
 // Options to frame to stars to sky.
 #include "recognise/command.h"
 
+#include <algorithm>
 #include <chrono>
+
+namespace
+{
+constexpr double scaleMargin = 1.01; // triangles of stars miss the scale by some thousandths
+}
 
 PictureReport recognisePicture(const std::string &name, const PictureFile &picture,
                                const CommandLine &wishes, double now)
@@ -16,8 +22,9 @@ PictureReport recognisePicture(const std::string &name, const PictureFile &pictu
     options.utcSeconds = wishes.date.value_or(picture.date.value_or(now));
     options.hemisphere = wishes.hemisphere;
     if (wishes.scale) {
-        options.leastScale = wishes.scale->first;
-        options.greatestScale = wishes.scale->second;
+        options.leastScale = wishes.scale->first / scaleMargin;
+        options.greatestScale =
+            std::min(wishes.scale->second * scaleMargin, recognition::coarsestScale);
     }
     using Clock = std::chrono::steady_clock;
     const Clock::time_point start = Clock::now();

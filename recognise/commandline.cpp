@@ -125,10 +125,11 @@ private:
 
     void takeScale()
     {
-        constexpr double finest = 0.1, coarsest = 1000.0;
         const double low = number(value("--scale")), high = number(value("--scale"));
-        if (!(low >= finest && high >= low && high <= coarsest))
-            complain("--scale takes two numbers of arcseconds a pixel, the lower one first.");
+        if (!(low > 0.0 && high >= low && high <= recognition::coarsestScale))
+            complain(
+                "--scale takes two numbers of arcseconds a pixel, the lower one first, above 0 "
+                "and up to 600.");
         result.scale = {low, high};
     }
 

@@ -1,5 +1,10 @@
 // SPDX-License-Identifier: MIT
 // About which point of the picture does the camera turn with the mount's RA axis?
+//
+// The sky's own turn is the Earth rotation angle (IERS Conventions 2010, chapter 5); the axis is
+// the fixed point of the frames' mappings by weighted least squares; of frames that disagree the
+// largest set that agrees counts (Fischler and Bolles 1981, CACM 24, 381, with every pair for
+// random ones).
 #pragma once
 
 #include "recognition/recognise.h"

@@ -14,6 +14,19 @@ using astrometry::degree;
 using astrometry::Vector3;
 
 constexpr double littleWay = 0.05 * degree; // from the pole along an hour circle
+constexpr std::size_t mayBeNoise = 30;      // of fewer stars, most may be peaks of the noise
+
+std::string noMatchReason(std::size_t extracted)
+{
+    const std::string first = extracted < mayBeNoise
+                                  ? "Expose longer or raise the gain first: at least " +
+                                        std::to_string(enoughStars) + " real stars are needed. "
+                                  : "";
+    return "None of the " + std::to_string(extracted) +
+           " stars fit the sky within 10 degrees of the pole. " + first +
+           "Point the camera nearer to the pole, or check scale, hemisphere and mirroring if they "
+           "were given.";
+}
 } // namespace
 
 double rollOf(const SkyMapping &mapping, Hemisphere hemisphere, double utcSeconds)
@@ -49,12 +62,10 @@ std::string reason(const Recognition &recognition)
         return "Recognised " + std::to_string(recognition.matched.size()) + " of " + stars +
                " stars.";
     case RecognitionStatus::TooFewStars:
-        return "Too few stars: " + stars + " found, at least " + std::to_string(leastStars) +
+        return "Too few stars: " + stars + " found, at least " + std::to_string(enoughStars) +
                " needed. Expose longer, raise the gain, or use a wider field.";
     case RecognitionStatus::NoMatch:
-        return "None of the " + stars +
-               " stars fit the sky within 10 degrees of the pole. Point the camera nearer to the "
-               "pole, or check scale, hemisphere and mirroring if they were given.";
+        return noMatchReason(recognition.extracted);
     case RecognitionStatus::InvalidOptions:
         break;
     }

@@ -33,6 +33,7 @@ void replaceHotPixels(cv::Mat1f &values, float noise);
 /// Smooths and searches.
 /// @param normalised background 0, noise 1
 /// @param bin pixels of the frame along one of the picture's
+/// @param threshold of a peak in the smoothed picture, multiples of that picture's noise
 Detection detect(const cv::Mat1f &normalised, int bin, double threshold);
 
 /// 2 x 2 pixels become one; noise 1 stays noise 1.

@@ -8,7 +8,7 @@
 #include "recognition/blankareas.h"
 #include "recognition/detection.h"
 #include "recognition/frameaccess.h"
-#include "recognition/framestars.h"
+#include "recognition/measuredstars.h"
 #include "recognition/skybackground.h"
 
 namespace recognition
@@ -42,7 +42,8 @@ void keepBrightest(std::vector<Candidate> &candidates, std::size_t most)
 }
 
 // Wide stars are found in coarser pictures of the same sky.
-DetectionResult search(cv::Mat1f &sky, int bin, const ExtractionOptions &options, FrameStars &stars)
+DetectionResult search(cv::Mat1f &sky, int bin, const ExtractionOptions &options,
+                       MeasuredStars &stars)
 {
     const auto most = std::size_t(std::max(options.mostStars, 1));
     for (int level = 0; level <= coarserSearches; ++level) {
@@ -73,7 +74,7 @@ ExtractionStatus verdict(const Extraction &found, const ExtractionOptions &optio
 }
 
 // @param roughness of the background @param full the frame's greatest value
-void report(FrameStars &stars, double roughness, double full, const ExtractionOptions &options,
+void report(MeasuredStars &stars, double roughness, double full, const ExtractionOptions &options,
             Extraction &out)
 {
     out.elongation = stars.elongation();
@@ -121,7 +122,7 @@ Extraction extractStars(const cv::Mat &frame, const ExtractionOptions &options)
     background->normalise(sky);
     if (bin == 1)
         removeHotPixels(sky);
-    FrameStars stars(frame, *background, bin);
+    MeasuredStars stars(frame, *background, bin);
     if (search(sky, bin, options, stars) != DetectionResult::Done) {
         out.status = ExtractionStatus::NoSky;
         return out;

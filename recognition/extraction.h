@@ -40,7 +40,8 @@ struct ExtractionOptions {
 struct Extraction {
     std::vector<DetectedStar> stars; ///< brightest first
     double background = 0.0; ///< median of the sky, values of the frame, mean of its channels
-    double noise = 0.0;      ///< one sigma of a pixel, in the same values
+    /// One sigma of a pixel, in the same values: the mean of its channels, rounding included.
+    double noise = 0.0;
     double fwhm = 0.0;       ///< median of the brighter stars, pixels; 0 without stars
     double elongation = 1.0; ///< median of the brighter stars: length over width
     ExtractionStatus status = ExtractionStatus::BadFrame;

@@ -43,16 +43,20 @@ void Follower::reset()
     last.reset();
     measured.clear();
     byWindows = false;
+    unlike = 0;
 }
 
 Recognition Follower::follow(const cv::Mat &frame, double utcSeconds)
 {
+    // Another size is another binning or another camera: nothing that was learned holds.
+    if (last && !frame.empty() && (last->width != frame.cols || last->height != frame.rows))
+        reset();
     std::optional<Recognition> result;
-    if (last && last->width == frame.cols && last->height == frame.rows)
+    if (last && !frame.empty())
         result = byLastFrame(frame, utcSeconds);
     byWindows = result.has_value();
     if (!result)
-        result = blind(frame, utcSeconds);
+        result = byWholeFrame(frame, utcSeconds);
     // What was learned of lens and camera is kept while the field is lost; so are the stars, which
     // may be back in the next frame.
     if (result->status == RecognitionStatus::Recognised)
@@ -160,23 +164,32 @@ std::optional<Recognition> Follower::byLastFrame(const cv::Mat &frame, double ut
     return result;
 }
 
-Recognition Follower::blind(const cv::Mat &frame, double utcSeconds)
+RecognitionOptions Follower::narrowed(RecognitionOptions options) const
+{
+    options.hemisphere = last->hemisphere;
+    options.mirrored = last->mirrored;
+    options.leastScale = std::max(options.leastScale, last->scale * (1.0 - knownScale));
+    options.greatestScale = std::min(options.greatestScale, last->scale * (1.0 + knownScale));
+    return options;
+}
+
+Recognition Follower::byWholeFrame(const cv::Mat &frame, double utcSeconds)
 {
     Extraction extraction = extractStars(frame);
     RecognitionOptions options = given.recognition;
     options.utcSeconds = utcSeconds;
-    RecognitionOptions narrow = options;
-    if (last) {
-        narrow.hemisphere = last->hemisphere;
-        narrow.mirrored = last->mirrored;
-        narrow.leastScale = std::max(options.leastScale, last->scale * (1.0 - knownScale));
-        narrow.greatestScale = std::min(options.greatestScale, last->scale * (1.0 + knownScale));
-    }
     measured = std::exchange(extraction.stars, {});
     wholeFrame = std::move(extraction);
-    Recognition result = recognise(measured, frame.cols, frame.rows, narrow);
-    if (result.status == RecognitionStatus::Recognised)
-        enrol(result);
+    Recognition result =
+        recognise(measured, frame.cols, frame.rows, last ? narrowed(options) : options);
+    // A blind search that finds nothing takes the longest: after the first frame that is like
+    // nothing expected, every second one has to do.
+    if (last && result.status == RecognitionStatus::NoMatch && unlike++ % 2 == 0)
+        result = recognise(measured, frame.cols, frame.rows, options);
+    if (result.status != RecognitionStatus::Recognised)
+        return result;
+    unlike = 0;
+    enrol(result);
     return result;
 }
 } // namespace recognition

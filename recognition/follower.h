@@ -1,5 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Where is the pole in the next frame of a live picture?
+//
+// Centres are adaptive moments in windows (Bernstein and Jarvis 2002, AJ 123, 583, see
+// extraction.h); with the stars known, only the mapping is fitted (see recognise.h).
+// Method: docs/recognition.md, "Following, axis and mount".
 #pragma once
 
 #include "recognition/extraction.h"
@@ -20,16 +24,22 @@ struct FollowerOptions {
 };
 
 /// Looks only at windows about the stars of the last frame, as long as they are found there;
-/// otherwise the whole frame is searched, blind except for the scale, mirroring and hemisphere that
-/// were found before. Between frames the field may shift by `searchRadius`, and turn by as much as
-/// leaves its stars in their windows: half a degree. Not for two threads at a time.
+/// otherwise the whole frame is searched, first with the scale, mirroring and hemisphere that were
+/// found before, then, in the first such frame and every second one after it, blind. Frames of
+/// another size than before are searched blind. Between frames the field may shift by
+/// `searchRadius`, and turn by as much as leaves its stars in their windows: half a degree. Not for
+/// two threads at a time.
 class Follower
 {
 public:
     explicit Follower(const FollowerOptions &options) : given(options) {}
 
     /// @param frame 8 or 16 bit, 1 or 3 channels @param utcSeconds middle of the exposure
-    /// `matched[i].detected` indexes `stars()`.
+    /// @return what `recognise` gives; `matched[i].detected` indexes `stars()`. Recognised by
+    /// windows or by a search. TooFewStars and NoMatch only after a search of the whole frame:
+    /// `searched().status` says what is wrong with the frame, if anything is. InvalidOptions for an
+    /// empty frame, a time outside 1900 to 2200, or options out of range. What was learned is kept
+    /// until a frame of another size comes.
     Recognition follow(const cv::Mat &frame, double utcSeconds);
 
     /// The stars that the last frame's recognition rests on.
@@ -59,7 +69,8 @@ private:
     Measured measure(const cv::Mat &frame, const std::vector<Target> &expected, Shift shift) const;
     std::optional<Recognition> byLastFrame(const cv::Mat &frame, double utcSeconds);
     std::optional<Shift> shiftOf(const cv::Mat &frame, const std::vector<Target> &targets) const;
-    Recognition blind(const cv::Mat &frame, double utcSeconds);
+    Recognition byWholeFrame(const cv::Mat &frame, double utcSeconds);
+    RecognitionOptions narrowed(RecognitionOptions options) const;
     void enrol(const Recognition &recognition);
     void refreshPlaces(double utcSeconds);
     std::vector<Target> targets() const;
@@ -73,5 +84,6 @@ private:
     std::vector<DetectedStar> measured;
     Extraction wholeFrame;
     bool byWindows = false;
+    unsigned unlike = 0; // frames since the last recognised one that were not like it
 };
 } // namespace recognition

@@ -67,8 +67,12 @@ public:
     MappingModel model() const { return fit.terms; }
 
     // The fit's own access: plane coordinates in radians, pixel coordinates in units of `unit`.
+    /// Axes of the gnomonic plane, orthogonal unit vectors of the celestial intermediate frame of
+    /// date: forward to the point where the plane touches the sphere; right and down roughly along
+    /// the picture's x and y. In a mirrored frame right is along -x, so that the three are always
+    /// right-handed.
     struct Frame {
-        astrometry::Vector3 right, down, forward; ///< axes of the gnomonic plane
+        astrometry::Vector3 right, down, forward;
     };
     /// The fit of another model to the same stars.
     struct Rival {
@@ -90,8 +94,13 @@ public:
     /// @param unit pixels
     SkyMapping(const Frame &frame, PixelPlace centre, double unit, bool mirrored, const Fit &fit);
 
+    /// By the polynomial: the direction's place in the plane, along right (real part) and down
+    /// (imaginary part), in units of the sphere's radius: radians near the point of contact.
     Complex planeOf(PixelPlace pixel) const;
+    /// By projection; nothing for directions 80 degrees or more from `forward`.
     std::optional<Complex> planeOf(const astrometry::Vector3 &sky) const;
+    /// The polynomial's variable: from the centre, in multiples of `unit`, x negated in a mirrored
+    /// frame.
     Complex unitsOf(PixelPlace pixel) const;
     const Frame &plane() const { return axes; }
 

@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: MIT
 // How far, and which way, is the mount's RA axis off the pole?
+//
+// Which of the two poles is best aligned on, and what an error does: Wallace and Tritton 1979,
+// MNRAS 189, 115. Standard errors are propagated in the first order.
 #pragma once
 
 #include "astrometry/places.h"

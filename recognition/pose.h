@@ -22,6 +22,8 @@ struct Pose {
     astrometry::Matrix3 skyFromCamera; ///< its transpose
     double focalLength;                ///< pixels
 
+    /// A unit vector in the frame of the directions that the pose was made from: the celestial
+    /// intermediate frame of date, where they are PoleStars' places.
     astrometry::Vector3 skyOf(CentredPixel pixel) const;
     /// Nothing for directions 80 degrees or more from the frame's centre.
     std::optional<CentredPixel> pixelOf(const astrometry::Vector3 &sky) const;

@@ -24,7 +24,7 @@ bool areValid(int width, int height, const RecognitionOptions &options)
     constexpr double year2200 = 7258118400.0;
     return width > 0 && height > 0 && width <= 65536 && height <= 65536 &&
            options.leastScale > 0.0 && options.greatestScale >= options.leastScale &&
-           options.greatestScale <= 600.0 && options.acceptedChance > 0.0 &&
+           options.greatestScale <= coarsestScale && options.acceptedChance > 0.0 &&
            options.acceptedChance < 1.0 && options.utcSeconds >= year1900 &&
            options.utcSeconds <= year2200;
 }

@@ -26,25 +26,34 @@ struct Observer {
     astrometry::RefractionConstants air;
 };
 
+/// Greatest scale that can be asked for, arcseconds a pixel.
+inline constexpr double coarsestScale = 600.0;
+
 struct RecognitionOptions {
     double utcSeconds = 0.0;              ///< middle of the exposure, UTC since 1970; required
     std::optional<Hemisphere> hemisphere; ///< absent: both are tried
-    double leastScale = 2.0;              ///< arcseconds a pixel at the frame's centre
-    double greatestScale = 70.0;          ///< arcseconds a pixel, not below leastScale
-    std::optional<bool> mirrored;         ///< absent: both are tried
-    std::optional<Observer> observer;     ///< absent: no refraction is applied
-    double acceptedChance = 1e-9;         ///< greatest chance probability that is accepted, 0 to 1
+    /// Arcseconds a pixel at the frame's centre, above 0. Triangles of stars miss the scale by some
+    /// thousandths, so that a range should be wider than one percent.
+    double leastScale = 2.0;
+    double greatestScale = 70.0;      ///< not below leastScale, up to `coarsestScale`
+    std::optional<bool> mirrored;     ///< absent: both are tried
+    std::optional<Observer> observer; ///< absent: no refraction is applied
+    double acceptedChance = 1e-9;     ///< greatest chance probability that is accepted, 0 to 1
 };
 
 enum class RecognitionStatus {
     Recognised,
     TooFewStars,   ///< fewer than `leastStars` were given
     NoMatch,       ///< enough stars, but no part of the pole's sky is like them
-    InvalidOptions ///< a size, scale, date or chance out of range
+    InvalidOptions ///< out of range: width or height (1 to 65536), scales (see RecognitionOptions),
+                   ///< date (1900 to 2200), accepted chance (above 0, below 1)
 };
 
 /// Fewer stars than this are never recognised.
 inline constexpr std::size_t leastStars = 6;
+/// So many are recognised in nearly every frame, if they are real and the brightest; with fewer it
+/// is luck. `reason` asks for these.
+inline constexpr std::size_t enoughStars = 8;
 
 struct MatchedStar {
     std::size_t detected;  ///< index into the stars that were given
@@ -71,7 +80,9 @@ struct Recognition {
     double scale = 0.0;               ///< arcseconds a pixel at the frame's centre
     double rollDegrees = 0.0;         ///< -180 to 180; see rollOf
     bool mirrored = false;            ///< the frame shows the sky as in a mirror
-    double rms = 0.0;                 ///< arcseconds, of the matched stars' residuals, both axes
+    /// Arcseconds, both axes: of the residuals of the matched stars without a near neighbour, whose
+    /// light would move their centres. 0 if all have one.
+    double rms = 0.0;
     double chance = 1.0;              ///< upper bound of the probability of a match by chance
     std::vector<MatchedStar> matched; ///< brightest first
 };

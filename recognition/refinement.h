@@ -27,7 +27,7 @@ struct Correspondence {
 struct Refined {
     SkyMapping mapping;
     std::vector<MatchedStar> matched; ///< brightest first
-    double rms = 0.0;                 ///< arcseconds, both axes, of the stars that the fit uses
+    double rms = 0.0; ///< arcseconds, both axes, of the matched stars without a near neighbour
 };
 
 /// Fits the mapping to all stars that it comes to match, with as many terms as they support.

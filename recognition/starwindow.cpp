@@ -6,7 +6,7 @@
 #include "recognition/detection.h"
 #include "recognition/extraction.h"
 #include "recognition/frameaccess.h"
-#include "recognition/framestars.h"
+#include "recognition/measuredstars.h"
 #include "recognition/starmoments.h"
 
 namespace recognition

@@ -90,6 +90,7 @@ void CommandLineTest::goodLines_data()
         << "--hemisphere=both --picture=o.png --date=2026-11-20 a.png" << 1 << 0 << 0.0 << false
         << "o.png";
     QTest::newRow("names like options") << "--json -- --json -x" << 2 << 0 << 0.0 << true << "";
+    QTest::newRow("widest scales") << "--scale 0.01 600 a" << 1 << 0 << 0.01 << false << "";
     QTest::newRow("one scale") << "--scale 30.45 30.45 a" << 1 << 0 << 30.45 << false << "";
 }
 
@@ -131,6 +132,8 @@ void CommandLineTest::misuse_data()
     row("one number", "--scale 3 a.png", "--scale takes");
     row("scales the wrong way", "--scale 70 3 a.png", "--scale takes");
     row("no scale", "--scale 0 0 a.png", "--scale takes");
+    row("scale below 0", "--scale -3 70 a.png", "--scale takes");
+    row("scale too large", "--scale 2 600.1 a.png", "up to 600");
     row("scale with a tail", "--scale 3x 70 a.png", "--scale takes");
     row("not a number", "--scale nan nan a.png", "--scale takes");
     row("a value too many", "--json=yes a.png", "no value");

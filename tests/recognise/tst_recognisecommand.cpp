@@ -11,6 +11,8 @@
 #include <cmath>
 #include <opencv2/imgcodecs.hpp>
 
+#include "pictures/fitsfile.h"
+
 namespace
 {
 constexpr double dateOfSky = 2209032000.0; // 2040: the pole is minutes of arc off that of today
@@ -49,6 +51,36 @@ RandomSky sky(bool south)
 
 const QString date = QStringLiteral("2040-01-01T12:00:00Z");
 
+QByteArray bytesOf(unsigned value, int count)
+{
+    QByteArray out;
+    for (int i = 0; i < count; ++i)
+        out += char(value >> (8 * i));
+    return out;
+}
+
+/// A JPEG with EXIF's orientation and date, after CIPA DC-008; low bytes first.
+bool writeWithExif(const QString &path, const cv::Mat &pixels, unsigned orientation,
+                   const QByteArray &taken)
+{
+    std::vector<unsigned char> jpeg;
+    if (!cv::imencode(".jpg", pixels, jpeg, {cv::IMWRITE_JPEG_QUALITY, 95}))
+        return false;
+    constexpr unsigned directory = 8, entries = 2, heap = directory + 2 + 12 * entries + 4;
+    QByteArray exif = "Exif";
+    exif += QByteArray(2, '\0') + "II" + bytesOf(42, 2) + bytesOf(directory, 4);
+    exif += bytesOf(entries, 2);
+    exif += bytesOf(0x0112, 2) + bytesOf(3, 2) + bytesOf(1, 4) + bytesOf(orientation, 4);
+    exif += bytesOf(0x0132, 2) + bytesOf(2, 2) + bytesOf(unsigned(taken.size()) + 1, 4) +
+            bytesOf(heap, 4);
+    exif += bytesOf(0, 4) + taken + '\0';
+    QByteArray file(reinterpret_cast<const char *>(jpeg.data()), int(jpeg.size()));
+    const int length = exif.size() + 2;
+    file.insert(2, QByteArray("\xff\xe1") + char(length >> 8) + char(length & 255) + exif);
+    QFile out(path);
+    return out.open(QIODevice::WriteOnly) && out.write(file) == file.size();
+}
+
 double distanceToTruth(const QJsonObject &found, const RandomSky &of)
 {
     const virtualsky::Point pole = truthOf(of).pole.value();
@@ -67,7 +99,9 @@ private slots:
     void formats_data();
     void formats();
     void sentences();
+    void theDateMatters_data();
     void theDateMatters();
+    void pixelsAreThoseThatAreStored();
     void scaleAndHemisphereNarrowTheSearch_data();
     void scaleAndHemisphereNarrowTheSearch();
     void oneBadPictureStopsNothing();
@@ -100,6 +134,12 @@ void RecogniseCommandTest::initTestCase()
         {"mirrored.png", mirrored}, {"south.png", south}};
     for (const auto &[name, pixels] : files)
         QVERIFY(cv::imwrite(place(name).toStdString(), pixels));
+    QVERIFY(writeWithExif(place("dated.jpg"), north, 1, "2040:01:01 12:00:00"));
+    QVERIFY(writeWithExif(place("turned.jpg"), north, 6, "2040:01:01 12:00:00"));
+    for (const auto &[name, pixels] :
+         {std::pair("north.fits", north), std::pair("deep.fits", deep)})
+        QCOMPARE(pictures::writeFits(place(name).toStdString(), pixels, dateOfSky, 0.5),
+                 std::string());
     QVERIFY(
         cv::imwrite(place("black.png").toStdString(), cv::Mat(480, 640, CV_8UC1, cv::Scalar(0))));
 }
@@ -108,7 +148,8 @@ void RecogniseCommandTest::formats_data()
 {
     QTest::addColumn<bool>("south");
     QTest::addColumn<double>("most"); // arcseconds
-    for (const char *name : {"north.png", "north16.png", "north.tif", "north16.tif", "colour.png"})
+    for (const char *name : {"north.png", "north16.png", "north.tif", "north16.tif", "colour.png",
+                             "north.fits", "deep.fits"})
         QTest::newRow(name) << false << 3.0;
     QTest::newRow("colour.jpg") << false << 6.0; // compression costs something
     QTest::newRow("south.png") << true << 3.0;
@@ -146,13 +187,43 @@ void RecogniseCommandTest::sentences()
              lines[1].constData());
 }
 
+void RecogniseCommandTest::theDateMatters_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<bool>("right"); // the date of the sky
+    const QStringList none, then = {"--date", date}, other = {"--date", "2026-11-20"};
+    QTest::newRow("as told") << "north.png" << then << true;
+    QTest::newRow("now") << "north.png" << none << false;
+    QTest::newRow("of the JPEG file") << "dated.jpg" << none << true;
+    QTest::newRow("of the FITS file") << "north.fits" << none << true;
+    QTest::newRow("as told, not of the JPEG file") << "dated.jpg" << other << false;
+    QTest::newRow("as told, not of the FITS file") << "north.fits" << other << false;
+}
+
+// The sky of 2040: the pole of another date is minutes of arc away.
 void RecogniseCommandTest::theDateMatters()
 {
-    const QJsonObject right = run({"--json", "--date", date, place("north.png")}).object();
-    const QJsonObject today = run({"--json", place("north.png")}).object();
-    QCOMPARE(today["recognised"], QJsonValue(true));
-    QVERIFY(distanceToTruth(right, sky(false)) < 3.0);
-    QVERIFY(distanceToTruth(today, sky(false)) > 60.0);
+    QFETCH(QString, file);
+    QFETCH(QStringList, options);
+    QFETCH(bool, right);
+    const QJsonObject found =
+        run(QStringList{"--json"} + options + QStringList{place(file)}).object();
+    QCOMPARE(found["recognised"], QJsonValue(true));
+    const double off = distanceToTruth(found, sky(false));
+    QVERIFY2(right ? off < 6.0 : off > 60.0, qPrintable(QString::number(off)));
+}
+
+// EXIF says that the picture is to be shown turned by a quarter: neither the pole's pixel nor the
+// picture that is drawn heed that.
+void RecogniseCommandTest::pixelsAreThoseThatAreStored()
+{
+    const QString drawn = place("turned_drawn.png");
+    const QJsonObject found = run({"--json", "--picture", drawn, place("turned.jpg")}).object();
+    QCOMPARE(found["recognised"], QJsonValue(true));
+    const double off = distanceToTruth(found, sky(false));
+    QVERIFY2(off < 6.0, qPrintable(QString::number(off)));
+    QCOMPARE(cv::imread(drawn.toStdString()).size(), cv::Size(1280, 960));
 }
 
 void RecogniseCommandTest::scaleAndHemisphereNarrowTheSearch_data()
@@ -160,6 +231,10 @@ void RecogniseCommandTest::scaleAndHemisphereNarrowTheSearch_data()
     QTest::addColumn<QStringList>("options");
     QTest::addColumn<int>("status");
     QTest::newRow("right scale") << QStringList{"--scale", "29", "32"} << 0;
+    QTest::newRow("one scale") << QStringList{"--scale", "30.45", "30.45"} << 0;
+    QTest::newRow("widest scale") << QStringList{"--scale", "0.01", "600"} << 0;
+    QTest::newRow("scale one percent off") << QStringList{"--scale", "20", "30.2"} << 0;
+    QTest::newRow("scale too small") << QStringList{"--scale", "20", "30"} << 1;
     QTest::newRow("wrong scale") << QStringList{"--scale", "4", "12"} << 1;
     QTest::newRow("right pole") << QStringList{"--hemisphere", "north"} << 0;
     QTest::newRow("wrong pole") << QStringList{"--hemisphere", "south"} << 1;

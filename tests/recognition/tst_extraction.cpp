@@ -70,6 +70,13 @@ bool isWhole(const cv::Mat &frame, const Golden &star)
     cv::reduce(frame(core).clone().reshape(1, core.height), grey, 0, cv::REDUCE_MIN);
     return cv::countNonZero(grey == 0) == 0;
 }
+/// The first number of a sentence.
+double numberIn(const std::string &sentence)
+{
+    const std::size_t at = sentence.find_first_of("0123456789");
+    return at == std::string::npos ? -1.0 : std::stod(sentence.substr(at));
+}
+
 /// The satellite's way, as the generator has it, runs over some of the stars.
 bool isBehindSatellite(const QString &name, const Golden &star)
 {
@@ -90,6 +97,8 @@ private slots:
     void brightnessAndWidth();
     void saturatedStarsAreMarked_data();
     void saturatedStarsAreMarked();
+    void levelAndNoise_data();
+    void levelAndNoise();
     void framesOfNoUse_data();
     void framesOfNoUse();
     void oneStarIsMeasured_data();
@@ -240,6 +249,39 @@ void ExtractionTest::saturatedStarsAreMarked()
     QVERIFY2((marked > 0) == (name != "narrow"), qPrintable(QString::number(marked)));
 }
 
+void ExtractionTest::levelAndNoise_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<double>("level"); // as in golden/generate.py
+    QTest::addColumn<double>("noise"); // before rounding, of one channel
+    QTest::addColumn<int>("channels");
+    QTest::newRow("plain") << "plain" << 20.0 << 2.0 << 1;
+    QTest::newRow("wide") << "wide" << 20.0 << 2.0 << 1;
+    QTest::newRow("twelvebits") << "twelvebits" << 300.0 << 9.0 << 1;
+    QTest::newRow("sixteenbits") << "sixteenbits" << 900.0 << 40.0 << 1;
+    QTest::newRow("colour") << "colour" << 20.0 << 2.0 << 3;
+    QTest::newRow("searched binned") << "" << 1000.0 << 30.0 << 1;
+}
+
+void ExtractionTest::levelAndNoise()
+{
+    QFETCH(QString, name);
+    QFETCH(double, level);
+    QFETCH(double, noise);
+    QFETCH(int, channels);
+    cv::Mat frame = cv::Mat(1400, 2400, CV_16UC1);
+    if (name.isEmpty())
+        cv::RNG(5).fill(frame, cv::RNG::NORMAL, level, noise);
+    else
+        frame = frameOf(name);
+    const Extraction found = extractStars(frame);
+    QVERIFY2(std::abs(found.background - level) < 0.1 * noise,
+             qPrintable(QString::number(found.background)));
+    const double expected = std::sqrt((noise * noise + 1.0 / 12.0) / channels);
+    QVERIFY2(std::abs(found.noise / expected - 1.0) < 0.04,
+             qPrintable(QStringLiteral("%1, not %2").arg(found.noise).arg(expected)));
+}
+
 void ExtractionTest::framesOfNoUse_data()
 {
     QTest::addColumn<QString>("name");
@@ -267,8 +309,13 @@ void ExtractionTest::framesOfNoUse()
     QVERIFY2(int(found.stars.size()) <= most, qPrintable(QString::number(found.stars.size())));
     QVERIFY2(reasonOf(found).find(word.toStdString()) != std::string::npos,
              reasonOf(found).c_str());
-    if (status == ExtractionStatus::OutOfFocus)
+    if (status == ExtractionStatus::OutOfFocus) {
         QVERIFY2(std::abs(found.fwhm - 16.0) < 1.6, qPrintable(QString::number(found.fwhm)));
+        QVERIFY2(std::abs(numberIn(reasonOf(found)) - 16.0) < 1.6, reasonOf(found).c_str());
+    }
+    if (status == ExtractionStatus::Trailed)
+        QVERIFY2(std::abs(numberIn(reasonOf(found)) - found.elongation) < 0.06,
+                 reasonOf(found).c_str());
 }
 
 void ExtractionTest::oneStarIsMeasured_data()

@@ -9,6 +9,7 @@
 #include <cmath>
 #include <limits>
 #include <random>
+#include <thread>
 
 using namespace recognition;
 using goldenfields::Field;
@@ -41,6 +42,7 @@ class RecogniseTest : public QObject
     Q_OBJECT
 
 private slots:
+    void manyThreads(); // before the indices of the hemispheres are built
     void blind_data();
     void blind();
     void starsAreNamedRightly_data();
@@ -56,7 +58,34 @@ private slots:
     void unusableStarsAreIgnored();
     void exactPlacesAreNoTrouble();
     void theAcceptedChanceIsHeeded();
+    void residualsAreThoseOfTheStars();
+    void starsHaveNames_data();
+    void starsHaveNames();
 };
+
+// The first calls of all, at the same time: the same results as one after the other.
+void RecogniseTest::manyThreads()
+{
+    const std::vector<Field> &fields = goldenfields::all();
+    constexpr std::size_t rounds = 2;
+    std::vector<Recognition> found(rounds * fields.size());
+    std::vector<std::thread> threads;
+    for (std::size_t i = 0; i < found.size(); ++i)
+        threads.emplace_back([&fields, &found, i] {
+            const Field &field = fields[i % fields.size()];
+            found[i] = recognised(field, optionsOf(field));
+        });
+    for (std::thread &thread : threads)
+        thread.join();
+    for (std::size_t i = 0; i < found.size(); ++i) {
+        const Field &field = fields[i % fields.size()];
+        const Recognition alone = recognised(field, optionsOf(field));
+        QVERIFY2(found[i].status == RecognitionStatus::Recognised, field.name.constData());
+        QVERIFY(alone.matched.size() == found[i].matched.size());
+        QVERIFY(alone.pole.x == found[i].pole.x && alone.pole.y == found[i].pole.y);
+        QVERIFY(alone.chance == found[i].chance);
+    }
+}
 
 void RecogniseTest::blind_data()
 {
@@ -212,6 +241,15 @@ void RecogniseTest::refractionLiftsThePole()
     const double shift =
         std::hypot(lifted.pole.x - plain.pole.x, lifted.pole.y - plain.pole.y) * field.scale;
     QVERIFY2(std::abs(shift - 67.0) < 3.0, qPrintable(QString::number(shift)));
+    // The zenith is where the hour circle leads whose right ascension is the sidereal time (Meeus,
+    // Astronomical Algorithms, 12.4); right ascension increases clockwise. The pole goes away from
+    // there.
+    const double days = field.utcSeconds / 86400.0 + 2440587.5 - 2451545.0;
+    const double siderealTime = 280.46061837 + 360.98564736629 * days + 116.0; // degrees
+    const double away =
+        std::atan2(lifted.pole.x - plain.pole.x, plain.pole.y - lifted.pole.y) / astrometry::degree;
+    const double off = std::remainder(away - (field.roll + siderealTime + 180.0), 360.0);
+    QVERIFY2(std::abs(off) < 3.0, qPrintable(QString::number(off)));
 }
 
 void RecogniseTest::failuresHaveReasons_data()
@@ -228,6 +266,12 @@ void RecogniseTest::failuresHaveReasons_data()
     const double date = 1.8e9;
     QTest::newRow("no star") << 0 << 1280 << 2.0 << date << few << "Expose longer";
     QTest::newRow("five stars") << 5 << 1280 << 2.0 << date << few << "Expose longer";
+    QTest::newRow("five stars: how many are needed")
+        << 5 << 1280 << 2.0 << date << few << "at least 8 needed";
+    QTest::newRow("seven stars") << 7 << 1280 << 2.0 << date << none
+                                 << "pole. Expose longer or raise the gain first: at least 8";
+    QTest::newRow("mostly noise") << 20 << 1280 << 2.0 << date << none << "pole. Expose longer";
+    QTest::newRow("stars enough") << 30 << 1280 << 2.0 << date << none << "pole. Point the camera";
     QTest::newRow("other stars") << 40 << 1280 << 2.0 << date << none << "nearer to the pole";
     QTest::newRow("no frame") << 40 << 0 << 2.0 << date << invalid << "out of range";
     QTest::newRow("scales in the wrong order")
@@ -303,6 +347,55 @@ void RecogniseTest::theAcceptedChanceIsHeeded()
     QVERIFY(found.status == RecognitionStatus::Recognised);
     options.acceptedChance = found.chance / 1e6;
     QVERIFY(recognised(field, options).status == RecognitionStatus::NoMatch);
+}
+
+// Stars where the mapping puts them, moved by known errors.
+void RecogniseTest::residualsAreThoseOfTheStars()
+{
+    const Field &field = fieldNamed("finder north");
+    const Recognition before = recognised(field, optionsOf(field));
+    std::mt19937 random(20261122);
+    constexpr double sigma = 0.4; // pixels, of one axis
+    std::normal_distribution<double> error(0.0, sigma);
+    std::vector<DetectedStar> stars;
+    std::vector<double> moved; // pixels
+    for (const MatchedStar &star : before.matched) {
+        const double dx = error(random), dy = error(random);
+        moved.push_back(std::hypot(dx, dy));
+        stars.push_back({star.place.x + dx, star.place.y + dy, 1e6 / (double(stars.size()) + 1.0),
+                         50.0, 2.5, false});
+    }
+    const Recognition found = recognise(stars, field.width, field.height, optionsOf(field));
+    QVERIFY2(found.status == RecognitionStatus::Recognised, reason(found).c_str());
+    QVERIFY(found.matched.size() > 60);
+    double squares = 0.0;
+    for (const MatchedStar &star : found.matched) {
+        // The fit follows the errors by less than a third of their sigma.
+        const double off = star.residual / found.scale - moved[star.detected];
+        QVERIFY2(std::abs(off) < 0.33 * sigma, qPrintable(QString::number(off)));
+        squares += moved[star.detected] * moved[star.detected];
+    }
+    const double rms = std::sqrt(squares / double(found.matched.size())) * found.scale;
+    QVERIFY2(std::abs(found.rms / rms - 1.0) < 0.08,
+             qPrintable(QStringLiteral("%1, not %2").arg(found.rms).arg(rms)));
+}
+
+void RecogniseTest::starsHaveNames_data()
+{
+    QTest::addColumn<int>("star"); // its line in pole_stars.csv, from 0
+    QTest::addColumn<QString>("name");
+    QTest::newRow("a name") << 2 << "alp UMi, Polaris";
+    QTest::newRow("a name, no HD number") << 4 << "lam UMi";
+    QTest::newRow("HD number") << 5 << "HD 5914";
+    QTest::newRow("place, north") << 0 << "9.929+89.444";
+    QTest::newRow("place, south") << 1398 << "134.638-89.831";
+}
+
+void RecogniseTest::starsHaveNames()
+{
+    QFETCH(int, star);
+    QFETCH(QString, name);
+    QCOMPARE(QString::fromStdString(starName(std::size_t(star))), name);
 }
 
 QTEST_GUILESS_MAIN(RecogniseTest)

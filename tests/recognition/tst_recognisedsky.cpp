@@ -9,6 +9,7 @@
 #include "skyframes.h"
 
 #include <cmath>
+#include <opencv2/imgproc.hpp>
 #include <random>
 
 using namespace recognition;
@@ -27,6 +28,9 @@ private slots:
     void followsDriftAndShifts();
     void followerFindsALostField();
     void followerReportsClouds();
+    void followerMeetsAnotherPicture_data();
+    void followerMeetsAnotherPicture();
+    void followerSearchesBlindEverySecondTime();
 };
 
 void RecognisedSkyTest::poleAgreesWithTheTruth_data()
@@ -133,10 +137,77 @@ void RecognisedSkyTest::followerReportsClouds()
     const Recognition lost = follower.follow(frameOf(clouded, november2026, 2), november2026);
     QVERIFY(lost.status == RecognitionStatus::TooFewStars);
     QVERIFY(!follower.followed());
+    QVERIFY(follower.follow({}, november2026).status == RecognitionStatus::InvalidOptions);
     // After the cloud has passed the windows are still the right ones.
     const Recognition back = follower.follow(frameOf(state, november2026, 3), november2026);
     QVERIFY(back.status == RecognitionStatus::Recognised);
     QVERIFY(follower.followed());
+}
+
+void RecognisedSkyTest::followerMeetsAnotherPicture_data()
+{
+    QTest::addColumn<bool>("south");
+    QTest::addColumn<bool>("flipped");
+    QTest::addColumn<double>("size");         // of the picture
+    QTest::addColumn<double>("sizeOfPixels"); // in arcseconds, against those before
+    QTest::newRow("binned") << false << false << 0.5 << 2.0;
+    QTest::newRow("flipped") << false << true << 1.0 << 1.0;
+    QTest::newRow("the other pole") << true << false << 1.0 << 1.0;
+    QTest::newRow("another lens") << false << false << 1.0 << 0.6;
+}
+
+// Another binning, a mirror, the other pole, another lens: nothing that was learned holds.
+void RecognisedSkyTest::followerMeetsAnotherPicture()
+{
+    QFETCH(bool, south);
+    QFETCH(bool, flipped);
+    QFETCH(double, size);
+    QFETCH(double, sizeOfPixels);
+    Follower follower({});
+    follower.follow(frameOf(skyOf(false, november2026), november2026, 1), november2026);
+    const SkyState state = skyOf(south, november2026);
+    const cv::Mat before = frameOf(state, november2026, 2);
+    cv::Mat frame;
+    cv::resize(before, frame, {}, 1.0 / sizeOfPixels, 1.0 / sizeOfPixels, cv::INTER_AREA);
+    const int width = int(size * before.cols), height = int(size * before.rows);
+    frame = frame({(frame.cols - width) / 2, (frame.rows - height) / 2, width, height}).clone();
+    if (flipped)
+        cv::flip(frame, frame, 1);
+    for (int i = 0; i < 2; ++i) {
+        const Recognition found = follower.follow(frame, november2026 + i);
+        QVERIFY2(found.status == RecognitionStatus::Recognised, reason(found).c_str());
+        QVERIFY(found.hemisphere == (south ? Hemisphere::South : Hemisphere::North));
+        QCOMPARE(found.mirrored, flipped);
+        const double scale = sizeOfPixels * virtualsky::pixelScale;
+        QVERIFY2(std::abs(found.scale / scale - 1.0) < 0.003,
+                 qPrintable(QString::number(found.scale)));
+        QCOMPARE(follower.followed(), i > 0);
+    }
+}
+
+// A blind search that finds nothing takes long: of the frames that are like nothing expected, the
+// first, the third and so on are searched blind.
+void RecognisedSkyTest::followerSearchesBlindEverySecondTime()
+{
+    const cv::Mat sky = frameOf(skyOf(false, november2026), november2026, 1);
+    cv::Mat flipped;
+    cv::flip(sky, flipped, 1);
+    cv::Mat strange = sky.clone(); // as many stars, none of them in its place
+    for (int y = 0; y < sky.rows; y += 120)
+        for (int x = 0; x < sky.cols; x += 160)
+            sky({sky.cols - 160 - x, (y + 360) % sky.rows, 160, 120})
+                .copyTo(strange({x, y, 160, 120}));
+    Follower follower({});
+    follower.follow(sky, november2026);
+    QVERIFY(follower.follow(strange, november2026 + 1).status == RecognitionStatus::NoMatch);
+    QVERIFY(follower.follow(flipped, november2026 + 2).status == RecognitionStatus::NoMatch);
+    const Recognition found = follower.follow(flipped, november2026 + 3);
+    QVERIFY2(found.status == RecognitionStatus::Recognised, reason(found).c_str());
+    QVERIFY(found.mirrored);
+    // The count begins again.
+    const Recognition back = follower.follow(sky, november2026 + 4);
+    QVERIFY2(back.status == RecognitionStatus::Recognised, reason(back).c_str());
+    QVERIFY(!back.mirrored);
 }
 
 QTEST_GUILESS_MAIN(RecognisedSkyTest)

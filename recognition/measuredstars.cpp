@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Each candidate is measured in a window of the frame itself.
-#include "recognition/framestars.h"
+#include "recognition/measuredstars.h"
 
 #include <algorithm>
 #include <cmath>
@@ -89,23 +89,23 @@ bool isSaturated(const cv::Mat1f &values, double brightest, double scale, double
     return double(top) > plateauHeight * noise && equal >= plateauPixels;
 }
 
-struct FrameStars::Way {
+struct MeasuredStars::Way {
     double sigma, mostSigma; // pixels
     bool fixedSigma;
 };
 
-FrameStars::FrameStars(const cv::Mat &picture, const SkyBackground &sky, int pixels)
+MeasuredStars::MeasuredStars(const cv::Mat &picture, const SkyBackground &sky, int pixels)
     : frame(picture), background(sky), bin(pixels)
 {
 }
 
-bool FrameStars::known(double x, double y) const
+bool MeasuredStars::known(double x, double y) const
 {
     return std::any_of(stars.begin(), stars.end(),
                        [x, y](const MeasuredStar &other) { return isWithin(other.star, x, y); });
 }
 
-FrameStars::Way FrameStars::wayFor(const Candidate &candidate, int searchBin) const
+MeasuredStars::Way MeasuredStars::wayFor(const Candidate &candidate, int searchBin) const
 {
     if (candidate.peak > brightPeak)
         return {std::min(candidate.sigma, widestSigma), widestSigma, false};
@@ -115,8 +115,8 @@ FrameStars::Way FrameStars::wayFor(const Candidate &candidate, int searchBin) co
     return {std::min(candidate.sigma, most), most, false};
 }
 
-std::optional<MeasuredStar> FrameStars::measure(const Candidate &candidate, const Way &way,
-                                                double noiseScale, double leastSnr) const
+std::optional<MeasuredStar> MeasuredStars::measure(const Candidate &candidate, const Way &way,
+                                                   double noiseScale, double leastSnr) const
 {
     // Wide enough for a star that turns out half as wide again.
     const double sigma = way.fixedSigma ? way.sigma : 1.5 * std::max(way.sigma, 1.0);
@@ -152,7 +152,7 @@ std::optional<MeasuredStar> FrameStars::measure(const Candidate &candidate, cons
         moments->elongation};
 }
 
-void FrameStars::learnWidth()
+void MeasuredStars::learnWidth()
 {
     std::vector<double> widths;
     for (const MeasuredStar &found : stars)
@@ -165,7 +165,7 @@ void FrameStars::learnWidth()
     frameSigma = sigmaOf(*middle);
 }
 
-void FrameStars::add(const Detection &found, int searchBin, double leastSnr, std::size_t most)
+void MeasuredStars::add(const Detection &found, int searchBin, double leastSnr, std::size_t most)
 {
     bool bright = true;
     for (const Candidate &candidate : found.candidates) {
@@ -186,19 +186,19 @@ void FrameStars::add(const Detection &found, int searchBin, double leastSnr, std
     learnWidth();
 }
 
-double FrameStars::fwhm() const
+double MeasuredStars::fwhm() const
 {
     return medianOfTypical(stars, [](const MeasuredStar &star) { return star.star.fwhm; });
 }
 
-double FrameStars::elongation() const
+double MeasuredStars::elongation() const
 {
     if (stars.empty())
         return 1.0;
     return medianOfTypical(stars, [](const MeasuredStar &star) { return star.elongation; });
 }
 
-void FrameStars::sift()
+void MeasuredStars::sift()
 {
     constexpr double sharpest = 0.5, widest = 2.5, longest = 2.0; // times the median
     const double width = fwhm(), length = elongation();

@@ -19,11 +19,11 @@ struct MeasuredStar {
 
 /// Stars of one frame, collected candidate by candidate. Bright ones are measured each with its own
 /// width, faint ones with that of the frame, once it is known.
-class FrameStars
+class MeasuredStars
 {
 public:
     /// @param bin pixels of the frame along one of the background's
-    FrameStars(const cv::Mat &frame, const SkyBackground &background, int bin);
+    MeasuredStars(const cv::Mat &frame, const SkyBackground &background, int bin);
 
     /// Measures what was found in a picture, brightest first, until there are `most` stars. Those
     /// that were known before are not measured again.
