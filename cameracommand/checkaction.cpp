@@ -9,6 +9,7 @@
 #include "cameracommand/grabbing.h"
 #include "cameracommand/lenswriting.h"
 #include "framesources/preparation.h"
+#include "pictures/fitting.h"
 #include "pictures/grey.h"
 #include "recognition/extraction.h"
 #include "recognition/recognise.h"
@@ -47,6 +48,9 @@ void print(const Checked &found)
     const recognition::Recognition &sky = found.sky;
     std::printf("scale: %.3f arcseconds a pixel%s\n", sky.scale / found.binning,
                 found.binning > 1 ? " of the sensor, unbinned" : "");
+    if (sky.scale / found.binning > pictures::programScale * pictures::greatestEnlargement)
+        std::printf("too coarse for the star templates: frames are enlarged %.0f times at most\n",
+                    pictures::greatestEnlargement);
     std::printf("mirrored: %s\n", sky.mirrored ? "true" : "false");
     std::printf("roll: %.1f degrees\n", sky.rollDegrees);
     std::printf("hemisphere: %s\n",

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Frames into files: grab and record.
+#include <array>
 #include <cstdio>
 #include <ctime>
 #include <opencv2/imgcodecs.hpp>
@@ -14,13 +15,34 @@ namespace
 {
 bool endsIn(const std::string &path, const std::string &suffix)
 {
-    return path.size() > suffix.size() &&
-           path.compare(path.size() - suffix.size(), suffix.size(), suffix) == 0;
+    if (path.size() <= suffix.size())
+        return false;
+    std::string end = path.substr(path.size() - suffix.size());
+    for (char &c : end)
+        c = c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
+    return end == suffix;
 }
 
 bool isFitsName(const std::string &path)
 {
     return endsIn(path, ".fits") || endsIn(path, ".fit");
+}
+
+std::string framePath(const std::string &folder, int number)
+{
+    std::array<char, 32> name{};
+    std::snprintf(name.data(), name.size(), "/frame-%06d.fits", number);
+    return folder + name.data();
+}
+
+/// Frames that are in the folder already stay.
+int firstFree(const std::string &folder)
+{
+    struct stat status = {};
+    int number = 1;
+    while (::stat(framePath(folder, number).c_str(), &status) == 0)
+        ++number;
+    return number;
 }
 
 /// An empty text = it is written.
@@ -67,13 +89,12 @@ int recordFrames(const CameraCommandLine &wishes)
         return failed;
     }
     const auto camera = openCamera(wishes, chosenSource(wishes));
-    for (int number = 1; number <= wishes.frames; ++number) {
+    const int first = firstFree(wishes.target);
+    for (int i = 0; i < wishes.frames; ++i) {
         const auto frame = camera ? awaitFrame(*camera, wishes) : std::nullopt;
         if (!frame)
             return failed;
-        char name[32];
-        std::snprintf(name, sizeof name, "/frame-%06d.fits", number);
-        const std::string path = wishes.target + name;
+        const std::string path = framePath(wishes.target, first + i);
         if (const std::string fault = write(path, *frame, wishes.exposureSeconds); !fault.empty()) {
             complain(path + ": " + fault);
             return failed;

@@ -30,6 +30,8 @@ private slots:
     void checkOfTheSky();
     void checkWritesTheLens_data();
     void checkWritesTheLens();
+    void checkOfACoarseLens_data();
+    void checkOfACoarseLens();
     void checkSaysWhatDoesNotLast();
     void checkFailsWithoutStars();
     void recordsFrames();
@@ -77,14 +79,16 @@ void CameraCommandTest::grabsTheSky_data()
     QTest::addColumn<QString>("name");
     QTest::newRow("PNG") << "sky.png";
     QTest::newRow("FITS") << "sky.fits";
-    QTest::newRow("FITS, short suffix") << "sky.fit";
+    QTest::newRow("FITS, short suffix") << "SKY.FIT";
 }
 
 void CameraCommandTest::grabsTheSky()
 {
     QFETCH(QString, name);
+    qputenv("LD_LIBRARY_PATH", MISBEHAVING_FOLDER); // as if the maker's library were installed
     const Result grabbed =
         run({"--camera", "sky", "--exposure", "500", "--gain", "60", "grab", path(name)});
+    qunsetenv("LD_LIBRARY_PATH");
     QVERIFY2(grabbed.status == 0, qPrintable(grabbed.errors));
     const PictureFile picture = readPicture(path(name).toStdString());
     QCOMPARE(picture.pixels.size(), cv::Size(1280, 960));
@@ -186,6 +190,29 @@ void CameraCommandTest::checkWritesTheLens()
     QCOMPARE(file.readAll(), after.isEmpty() ? before : after.replace("S", scale.toUtf8()));
 }
 
+void CameraCommandTest::checkOfACoarseLens_data()
+{
+    QTest::addColumn<double>("factor"); // the photograph's pixels by the lens'
+    QTest::addColumn<bool>("isTooCoarse");
+    QTest::newRow("3.9 times the program's scale") << 3.9 * 1.5 << false;
+    QTest::newRow("4.2 times the program's scale") << 4.2 * 1.5 << true;
+}
+
+void CameraCommandTest::checkOfACoarseLens()
+{
+    QFETCH(double, factor);
+    QFETCH(bool, isTooCoarse);
+    cv::Mat picture;
+    cv::resize(photograph, picture, cv::Size(), 1.0 / factor, 1.0 / factor, cv::INTER_AREA);
+    QVERIFY(cv::imwrite(path("a.png").toStdString(), picture));
+    QTest::qWait(400); // files younger than that may still be being written
+    const Result checked = run({"--camera", "files:" + path("a.png"), "check", "--no-write"});
+    QVERIFY2(checked.status == 0, qPrintable(checked.output + checked.errors));
+    QVERIFY2(checked.output.contains("\ntoo coarse for the star templates: frames are enlarged 4 "
+                                     "times at most\n") == isTooCoarse,
+             qPrintable(checked.output));
+}
+
 void CameraCommandTest::checkSaysWhatDoesNotLast()
 {
     const QByteArray before = qgetenv("XDG_RUNTIME_DIR");
@@ -224,6 +251,12 @@ void CameraCommandTest::recordsFrames()
     QCOMPARE(files, QStringList({"frame-000001.fits", "frame-000002.fits", "frame-000003.fits"}));
     for (const QString &name : files)
         QCOMPARE(readPicture(path("night/" + name).toStdString()).complaint, std::string());
+    // Another recording keeps what is there.
+    QVERIFY(QFile::remove(path("night/frame-000003.fits")));
+    const QDateTime before = QFileInfo(path("night/frame-000002.fits")).lastModified();
+    QCOMPARE(run({"--camera", "sky", "record", path("night"), "--frames", "2"}).status, 0);
+    QCOMPARE(QFileInfo(path("night/frame-000002.fits")).lastModified(), before);
+    QCOMPARE(QDir(path("night")).entryList(QDir::Files).last(), QString("frame-000004.fits"));
 }
 
 void CameraCommandTest::badCommands_data()
