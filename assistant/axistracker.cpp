@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace assistant
 {
@@ -50,8 +51,9 @@ void AxisTracker::reset()
 
 void AxisTracker::shiftClock(double seconds)
 {
-    for (Kept &one : kept)
-        one.frame.utcSeconds += seconds;
+    for (Place &one : kept)
+        for (Recognition &frame : one.frames)
+            frame.utcSeconds += seconds;
     if (previous)
         previous->utcSeconds += seconds;
     if (known.status == AxisStatus::Found)
@@ -94,15 +96,23 @@ bool AxisTracker::jumped(const Recognition &frame, double turn) const
     return arcseconds(moved - farthestAxis * turned - noise) > 2.0 * allowedArcseconds;
 }
 
-bool AxisTracker::hasAngle(double turn) const
+std::optional<std::size_t> AxisTracker::placeOf(double turn) const
 {
-    return std::any_of(kept.begin(), kept.end(),
-                       [&](const Kept &one) { return std::abs(one.turn - turn) < step; });
+    for (std::size_t i = 0; i < kept.size(); ++i)
+        if (std::abs(kept[i].turn - turn) < step)
+            return i;
+    return std::nullopt;
 }
 
 bool AxisTracker::isNewAngle(const Recognition &frame) const
 {
-    return !hasAngle(turnOf(frame));
+    return !placeOf(turnOf(frame));
+}
+
+bool AxisTracker::wants(const Recognition &frame) const
+{
+    const auto place = placeOf(turnOf(frame));
+    return !place || kept[*place].frames.size() < mostAtPlace;
 }
 
 bool AxisTracker::isEnough() const
@@ -111,7 +121,7 @@ bool AxisTracker::isEnough() const
         return false;
     // Two places agree on some axis whatever happened: there must be three well apart.
     const auto isApart = [](double from, double to) { return to - from >= checkingTurn; };
-    const bool checked = std::any_of(kept.begin(), kept.end(), [&](const Kept &one) {
+    const bool checked = std::any_of(kept.begin(), kept.end(), [&](const Place &one) {
         return isApart(leastTurn, one.turn) && isApart(one.turn, greatestTurn);
     });
     return checked && (turnedDegrees() >= enoughTurn || known.sigmaArcseconds < enoughSigma);
@@ -134,18 +144,23 @@ std::optional<double> AxisTracker::departure(const Recognition &frame) const
 void AxisTracker::updateDirection()
 {
     directionX = directionY = 0.0;
-    for (const Kept &one : kept) {
-        const EarthView::Linear l = EarthView(one.frame, known.place).linear();
-        directionX += l.x / double(kept.size());
-        directionY += l.y / double(kept.size());
-    }
+    double number = 0.0;
+    for (const Place &one : kept)
+        for (const Recognition &frame : one.frames) {
+            const EarthView::Linear l = EarthView(frame, known.place).linear();
+            directionX += l.x;
+            directionY += l.y;
+            number += 1.0;
+        }
+    directionX /= number;
+    directionY /= number;
 }
 
-/// Every second frame makes room; the angles between them count no longer.
+/// Every second place makes room; the angles between them count no longer.
 void AxisTracker::thin()
 {
     step *= 2.0;
-    std::vector<Kept> fewer;
+    std::vector<Place> fewer;
     for (std::size_t i = 0; i < kept.size(); i += 2)
         fewer.push_back(std::move(kept[i]));
     kept = std::move(fewer);
@@ -155,7 +170,7 @@ void AxisTracker::keep(const Recognition &frame, double turn)
 {
     if (kept.size() == mostKept)
         thin();
-    kept.push_back({slim(frame), turn});
+    kept.push_back({{slim(frame)}, turn});
     leastTurn = std::min(leastTurn, turn);
     greatestTurn = std::max(greatestTurn, turn);
 }
@@ -172,32 +187,66 @@ AxisTracker::Event AxisTracker::startFrom(const Recognition &frame, Event event)
 AxisTracker::Event AxisTracker::solve()
 {
     std::vector<Recognition> frames;
-    for (const Kept &one : kept)
-        frames.push_back(one.frame);
+    for (const Place &one : kept)
+        frames.push_back(one.frames.front());
     Axis axis = recognition::axisOfTurns(frames);
     if (axis.status == AxisStatus::Bumped ||
         (!axis.bumped.empty() && axis.bumped.back() + 1 == kept.size())) {
-        const Recognition last = kept.back().frame;
+        const Recognition last = kept.back().frames.front();
         return startFrom(last, Event::Bumped);
     }
     Event event = Event::None;
     if (!axis.bumped.empty()) {
-        std::vector<Kept> agreed;
+        std::vector<Place> agreed;
         for (std::size_t i = 0; i < kept.size(); ++i)
             if (std::find(axis.bumped.begin(), axis.bumped.end(), i) == axis.bumped.end())
                 agreed.push_back(std::move(kept[i]));
         kept = std::move(agreed);
         leastTurn = greatestTurn = kept.front().turn;
-        for (const Kept &one : kept) {
+        for (const Place &one : kept) {
             leastTurn = std::min(leastTurn, one.turn);
             greatestTurn = std::max(greatestTurn, one.turn);
         }
         event = Event::Bumped;
     }
+    if (axis.status == AxisStatus::Found)
+        improve(axis);
     known = std::move(axis);
     if (known.status == AxisStatus::Found)
         updateDirection();
     return event;
+}
+
+/// By all frames of the places, but those that show the axis elsewhere than the first ones do.
+void AxisTracker::improve(Axis &axis) const
+{
+    std::vector<EarthView> views;
+    double x = 0.0, y = 0.0;
+    for (const Place &one : kept) {
+        views.emplace_back(one.frames.front(), axis.place);
+        x += views.back().linear().x / double(kept.size());
+        y += views.back().linear().y / double(kept.size());
+    }
+    for (const Place &one : kept)
+        for (std::size_t i = 1; i < one.frames.size(); ++i) {
+            const EarthView view(one.frames[i], axis.place);
+            const double off = arcseconds(std::hypot(view.linear().x - x, view.linear().y - y));
+            if (off <= allowedSigmas * arcseconds(view.sigma()) + allowedArcseconds)
+                views.push_back(view);
+        }
+    std::vector<std::size_t> all(views.size());
+    std::iota(all.begin(), all.end(), std::size_t{0});
+    const auto point = recognition::fixedPointOf(views, all);
+    if (!point)
+        return;
+    const double atPlace = double(views.size()) / double(kept.size());
+    const double widening = 1.0 + sharedAtPlace * (atPlace - 1.0);
+    const recognition::Covariance &c = point->covariance;
+    axis.place = point->pixel;
+    axis.covariance = {widening * c.xx, widening * c.xy, widening * c.yy};
+    axis.rms = arcseconds(point->rms);
+    axis.sigmaArcseconds = kept.front().frames.front().mapping.scaleAt(axis.place) *
+                           std::sqrt(0.5 * (axis.covariance.xx + axis.covariance.yy));
 }
 
 AxisTracker::Event AxisTracker::add(const Recognition &frame)
@@ -216,9 +265,13 @@ AxisTracker::Event AxisTracker::add(const Recognition &frame)
     if (departures > 0)
         return Event::None;
     ++counted;
-    if (hasAngle(turn))
-        return Event::None;
-    keep(frame, turn);
+    if (const auto place = placeOf(turn)) {
+        if (kept[*place].frames.size() == mostAtPlace)
+            return Event::None;
+        kept[*place].frames.push_back(slim(frame));
+    } else {
+        keep(frame, turn);
+    }
     return solve();
 }
 } // namespace assistant

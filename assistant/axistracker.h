@@ -17,12 +17,19 @@ inline constexpr double enoughSigma = 5.0;
 /// A third place of the axis so far from two others, degrees, tells whether they agree.
 inline constexpr double checkingTurn = 5.0;
 
-/// Keeps one frame for each step of the axis' angle, of one degree at first and coarser as they
-/// become many, so that a night needs no more memory than a minute. Not for two threads at a time.
+/// Keeps the frames at one place for each step of the axis' angle, of one degree at first and
+/// coarser as they become many, so that a night needs no more memory than a minute. Whether places
+/// agree is decided by the first frame of each; where the axis is, by all that are kept. Not for
+/// two threads at a time.
 class AxisTracker
 {
 public:
-    static constexpr std::size_t mostKept = 40;
+    static constexpr std::size_t mostKept = 40; ///< places
+    /// Frames at one place: more of them would add little.
+    static constexpr std::size_t mostAtPlace = 4;
+    /// Their stars fall on the same pixels, so that they share this part of their errors' variance
+    /// (docs/assistant.md); the claim is widened by it.
+    static constexpr double sharedAtPlace = 0.2;
 
     enum class Event {
         None,
@@ -32,8 +39,9 @@ public:
 
     /// Takes a recognised frame.
     Event add(const recognition::Recognition &frame);
-    /// Whether `add` would keep the frame as the first of its angle: only such a frame must be
-    /// sharp.
+    /// Whether `add` would keep the frame: only such a frame must be sharp.
+    bool wants(const recognition::Recognition &frame) const;
+    /// Whether it would be the first of its angle.
     bool isNewAngle(const recognition::Recognition &frame) const;
     void reset();
     /// The clock was set: what was kept gets the new time.
@@ -51,22 +59,23 @@ public:
     double allowedDeparture(const recognition::Recognition &frame) const;
 
 private:
-    struct Kept {
-        recognition::Recognition frame;
-        double turn; ///< degrees since the first frame
+    struct Place {
+        std::vector<recognition::Recognition> frames; // never empty
+        double turn;                                  // of the first, degrees since the first place
     };
 
     double turnOf(const recognition::Recognition &frame) const;
     bool isOtherCamera(const recognition::Recognition &frame) const;
     bool jumped(const recognition::Recognition &frame, double turn) const;
-    bool hasAngle(double turn) const;
+    std::optional<std::size_t> placeOf(double turn) const; // index into `kept`
     void keep(const recognition::Recognition &frame, double turn);
     void thin();
     Event solve();
+    void improve(recognition::Axis &axis) const;
     Event startFrom(const recognition::Recognition &frame, Event event);
     void updateDirection();
 
-    std::vector<Kept> kept;
+    std::vector<Place> kept;
     std::optional<recognition::Recognition> previous;
     double previousTurn = 0.0;
     double leastTurn = 0.0, greatestTurn = 0.0;

@@ -265,7 +265,7 @@ bool Guide::isSharp(const cv::Mat &frame) const
 void Guide::measureAxis(const Observation &observation, Status &status)
 {
     const Recognition &frame = *status.sky;
-    if (tracker.isNewAngle(frame) && !isSharp(observation.frame))
+    if (tracker.wants(frame) && !isSharp(observation.frame))
         return;
     switch (tracker.add(frame)) {
     case AxisTracker::Event::Bumped:

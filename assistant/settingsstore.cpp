@@ -8,6 +8,7 @@
 #include "core/settingsfile.h"
 #include "core/settingsplace.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -203,6 +204,18 @@ KnownSite siteOfWizard(const QString &wizardSettings)
     site.latitude = southern ? -std::abs(*latitude) : std::abs(*latitude);
     site.longitude = entered(wizard.longitude, defaults.longitude, 180.0);
     return site;
+}
+
+KnownSite siteOfTheOtherProgram()
+{
+    const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    for (const QString &folder :
+         {data + QStringLiteral("/quorvandel/bin"), QCoreApplication::applicationDirPath()}) {
+        const QString file = folder + QStringLiteral("/Quorvandel.ini");
+        if (QFileInfo(file).isFile())
+            return siteOfWizard(file);
+    }
+    return {};
 }
 
 std::optional<astrometry::Site> parseSite(const QString &text)

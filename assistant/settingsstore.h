@@ -29,6 +29,10 @@ struct KnownSite {
 /// latitude follows the region.
 KnownSite siteOfWizard(const QString &wizardSettings);
 
+/// What the user entered in quorvandel, which keeps its settings beside its executable: in the
+/// user's data folder, or, when it is started from where it was built, beside this program.
+KnownSite siteOfTheOtherProgram();
+
 /// "LATITUDE,LONGITUDE" in degrees with decimal points, north and east positive; nothing for
 /// anything else.
 std::optional<astrometry::Site> parseSite(const QString &text);

@@ -10,7 +10,6 @@
 #include "core/languages.h"
 
 #include <QApplication>
-#include <QFileInfo>
 #include <QIcon>
 #include <QScreen>
 #include <QStandardPaths>
@@ -29,20 +28,6 @@ namespace
 constexpr int closingPatience = 12000; // milliseconds
 constexpr int leastScreenHeight = 520; // pixels, below which the window fills the screen
 constexpr int misuse = 2;              // exit status for a bad option
-
-/// What the user entered in quorvandel, which keeps its settings beside its executable: in the
-/// user's data folder, or, when it is started from where it was built, beside this one.
-assistant::KnownSite siteOfTheOtherProgram()
-{
-    const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-    for (const QString &folder :
-         {data + QStringLiteral("/quorvandel/bin"), QCoreApplication::applicationDirPath()}) {
-        const QString file = folder + QStringLiteral("/Quorvandel.ini");
-        if (QFileInfo(file).isFile())
-            return assistant::siteOfWizard(file);
-    }
-    return {};
-}
 
 /// Where the recorded frames go unless the user chooses.
 void chooseFolder(assistant::Settings &settings)
@@ -84,8 +69,10 @@ int main(int argc, char *argv[])
     }
     initialiseAssistantResources();
     assistant::Settings settings = assistant::loadSettings(assistant::settingsPath());
-    if (options.site)
+    if (options.site) {
         settings.site = options.site;
+        assistant::saveSettings(assistant::settingsPath(), settings);
+    }
     chooseLanguage(options, settings);
     chooseFolder(settings);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/assistant/assistant.png")));
@@ -99,7 +86,7 @@ int main(int argc, char *argv[])
                 assistant::saveSettings(assistant::settingsPath(), changed);
             });
         if (!settings.site)
-            window.suggestSite(siteOfTheOtherProgram());
+            window.suggestSite(assistant::siteOfTheOtherProgram());
         termination.closeWindow(window);
         // On a small screen a title bar would push the last row out of sight.
         const QSize screen = QGuiApplication::primaryScreen()->availableSize();

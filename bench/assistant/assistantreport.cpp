@@ -10,8 +10,9 @@
 
 namespace
 {
-constexpr char usage[] = "usage: assistantreport starts|library|clock|night|speed [NUMBER]\n"
+constexpr char usage[] = "usage: assistantreport starts|axis|library|clock|night|speed [NUMBER]\n"
                          "  starts [COUNT]   alignments from random starts, painted (20)\n"
+                         "  axis [COUNT]     the axis alone, turned fast and slowly (100)\n"
                          "  library [COUNT]  the same on the camera library, in real time (20)\n"
                          "  clock [HOURS]    starts with the computer's clock ahead (24)\n"
                          "  night [HOURS]    bolts at rest (8)\n"
@@ -31,6 +32,9 @@ int main(int argc, char *argv[])
     const auto number = [given](int byDefault) { return given > 0 ? given : byDefault; };
     if (is("starts"))
         reportStarts(number(20), alignOn<PaintedMount>);
+    else if (is("axis"))
+        for (const double degreesPerSecond : {6.0, 3.0, 1.0, 0.5})
+            reportAxis(number(100), degreesPerSecond);
     else if (is("library"))
         reportStarts(number(20), alignOn<LibraryMount>);
     else if (is("clock"))

@@ -11,6 +11,9 @@
 void reportStarts(int count,
                   const std::function<AlignmentResult(const virtualsky::SkyState &)> &align);
 
+/// The RA axis' error at the end of the second stage of as many starts.
+void reportAxis(int count, double degreesPerSecond);
+
 /// Hours with the bolts at rest, the time running and frames in between.
 void reportNight(double hours);
 

@@ -38,6 +38,8 @@ class AxisTrackerTest : public QObject
 
 private slots:
     void manyFramesAreFewKept();
+    void everySharpFrameCounts();
+    void sigmaShrinksWithTurn();
     void turnsAddUp();
     void departureTellsMovedBolts();
     void slipNeedsATurn_data();
@@ -58,6 +60,43 @@ void AxisTrackerTest::manyFramesAreFewKept()
     QVERIFY(tracker.axis().turns.size() <= AxisTracker::mostKept);
     QVERIFY(!tracker.isNewAngle(eye.lookAt(45.0)));
     QVERIFY(tracker.isNewAngle(eye.lookAt(100.0)));
+}
+
+/// Up to four frames at one place; the claim shrinks by less than their number's root.
+void AxisTrackerTest::everySharpFrameCounts()
+{
+    Eye eye(plainNight());
+    AxisTracker tracker;
+    std::vector<double> sigmas;
+    for (std::size_t round = 0; round <= AxisTracker::mostAtPlace; ++round) {
+        for (int angle = 0; angle <= 16; angle += 2) {
+            const Recognition frame = eye.lookAt(angle);
+            QCOMPARE(tracker.wants(frame), round < AxisTracker::mostAtPlace);
+            QCOMPARE(tracker.isNewAngle(frame), round == 0);
+            QVERIFY(tracker.add(frame) == AxisTracker::Event::None);
+        }
+        sigmas.push_back(tracker.axis().sigmaArcseconds);
+    }
+    const QString said = QStringLiteral("%1, %2, %3").arg(sigmas[0]).arg(sigmas[1]).arg(sigmas[3]);
+    QVERIFY2(sigmas[1] < 0.95 * sigmas[0] && sigmas[3] < 0.8 * sigmas[0], qPrintable(said));
+    QVERIFY2(sigmas[3] > 0.5 * sigmas[0], qPrintable(said));
+    QCOMPARE(sigmas[4], sigmas[3]);
+}
+
+void AxisTrackerTest::sigmaShrinksWithTurn()
+{
+    Eye eye(plainNight());
+    AxisTracker tracker;
+    std::vector<double> sigmas;
+    for (int angle = 0; angle <= 60; angle += 2) {
+        tracker.add(eye.lookAt(angle));
+        if (angle < 15)
+            QVERIFY(tracker.axis().status != recognition::AxisStatus::Found);
+        if (angle == 16 || angle == 30 || angle == 60)
+            sigmas.push_back(tracker.axis().sigmaArcseconds);
+    }
+    const QString said = QStringLiteral("%1, %2, %3").arg(sigmas[0]).arg(sigmas[1]).arg(sigmas[2]);
+    QVERIFY2(sigmas[1] < 0.7 * sigmas[0] && sigmas[2] < 0.7 * sigmas[1], qPrintable(said));
 }
 
 void AxisTrackerTest::turnsAddUp()

@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: MIT
+// Does the site reach the window and stay: from the option, the other program's settings, the keys?
+#include "assistant/settingsstore.h"
+#include "core/settingsfile.h"
+#include "tests/assistantwindow/scenes.h"
+
+#include <QDoubleSpinBox>
+#include <QLineEdit>
+#include <QProcess>
+#include <QTemporaryDir>
+
+using AssistantSettings = assistant::Settings;
+
+// Q_INIT_RESOURCE must be used in the global namespace.
+static void initialiseResources()
+{
+    Q_INIT_RESOURCE(assistantwindow);
+    Q_INIT_RESOURCE(assistant_catalogues);
+}
+
+class AssistantSiteTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { initialiseResources(); }
+    void optionIsKept();
+    void otherProgramsSiteIsTakenOver();
+    void ownSiteIsNotReplaced();
+    void typedSiteIsKept();
+
+private:
+    /// A window, what it shows and what it kept.
+    struct Shown {
+        explicit Shown(const AssistantSettings &settings)
+            : window(instrument, settings,
+                     [this](const AssistantSettings &changed) { kept = changed; })
+        {
+            window.show();
+        }
+        QDoubleSpinBox &field(const char *name) const
+        {
+            return *window.findChild<QDoubleSpinBox *>(QLatin1String(name));
+        }
+        double latitude() const { return field("doubleSpinBox_latitude").value(); }
+        double longitude() const { return field("doubleSpinBox_longitude").value(); }
+
+        madestatus::MadeInstrument instrument;
+        std::optional<AssistantSettings> kept;
+        assistantwindow::AssistantWindow window;
+    };
+    void enterInTheOtherProgram(float latitude, float longitude, const QString &region);
+
+    QTemporaryDir folder;
+};
+
+/// The program itself, three times: the last one without the option.
+void AssistantSiteTest::optionIsKept()
+{
+    const QString config = folder.filePath("config");
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("XDG_CONFIG_HOME", config);
+    environment.insert("QT_QPA_PLATFORM", "offscreen");
+    const auto siteAfter = [&](const QStringList &options) {
+        QProcess program;
+        program.setProcessEnvironment(environment);
+        program.start(PROGRAM_FILE, options);
+        program.waitForFinished(1500); // it has a window then, and goes on
+        program.terminate();
+        program.waitForFinished(30000);
+        return assistant::loadSettings(config + "/quorvandel-assistant.ini").site;
+    };
+    const auto first = siteAfter({"--site", "12.5,34.25"});
+    QVERIFY(first && first->latitude == 12.5 && first->longitude == 34.25);
+    const auto second = siteAfter({"--site=-33.9,18.4"});
+    QVERIFY(second && second->latitude == -33.9 && second->longitude == 18.4);
+    const auto third = siteAfter({});
+    QVERIFY(third && third->latitude == -33.9);
+    const AssistantSettings loaded = assistant::loadSettings(config + "/quorvandel-assistant.ini");
+    const Shown shown(loaded);
+    QCOMPARE(shown.latitude(), -33.9);
+    QCOMPARE(shown.longitude(), 18.4);
+}
+
+void AssistantSiteTest::enterInTheOtherProgram(float latitude, float longitude,
+                                               const QString &region)
+{
+    qputenv("XDG_DATA_HOME", folder.filePath("data").toLocal8Bit());
+    QVERIFY(QDir().mkpath(folder.filePath("data/quorvandel/bin")));
+    ::Settings wizard;
+    wizard.latitude = latitude;
+    wizard.longitude = longitude;
+    wizard.regionName = region;
+    writeSettings(folder.filePath("data/quorvandel/bin/Quorvandel.ini"), wizard);
+}
+
+void AssistantSiteTest::otherProgramsSiteIsTakenOver()
+{
+    enterInTheOtherProgram(33.9f, 18.4f, QStringLiteral("South"));
+    Shown shown({});
+    shown.window.suggestSite(assistant::siteOfTheOtherProgram());
+    QCOMPARE(shown.latitude(), -33.9);
+    QCOMPARE(shown.longitude(), 18.4);
+    QVERIFY(shown.kept && shown.kept->site);
+    QCOMPARE(shown.kept->site->latitude, -33.9);
+    QCOMPARE(shown.window.currentSettings().site->longitude, 18.4);
+}
+
+void AssistantSiteTest::ownSiteIsNotReplaced()
+{
+    enterInTheOtherProgram(33.9f, 18.4f, QStringLiteral("South"));
+    AssistantSettings own;
+    own.site = astrometry::Site{52.1, 11.6};
+    Shown shown(own);
+    shown.window.suggestSite(assistant::siteOfTheOtherProgram());
+    QCOMPARE(shown.latitude(), 52.1);
+    QCOMPARE(shown.longitude(), 11.6);
+    QVERIFY(!shown.kept);
+}
+
+void AssistantSiteTest::typedSiteIsKept()
+{
+    Shown shown({});
+    QVERIFY(QTest::qWaitForWindowExposed(&shown.window));
+    auto *const latitude = shown.field("doubleSpinBox_latitude").findChild<QLineEdit *>();
+    latitude->setFocus();
+    latitude->selectAll();
+    QTest::keyClicks(latitude, "34 S");
+    QTest::keyClick(latitude, Qt::Key_Return);
+    QVERIFY(!shown.kept || !shown.kept->site); // half a site is none
+    auto *const longitude = shown.field("doubleSpinBox_longitude").findChild<QLineEdit *>();
+    longitude->selectAll();
+    QTest::keyClicks(longitude, "149");
+    QTest::keyClick(longitude, Qt::Key_Return);
+    QVERIFY(shown.kept && shown.kept->site);
+    QCOMPARE(shown.kept->site->latitude, -34.0);
+    QCOMPARE(shown.kept->site->longitude, 149.0);
+}
+
+QTEST_MAIN(AssistantSiteTest)
+#include "tst_assistantsite.moc"
