@@ -18,15 +18,26 @@ QByteArray contentOf(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// Whether a program of ours runs with this sky file.
-bool runsWith(const QByteArray &sky, const QByteArray &program)
+/// The programs that run with this sky file, and no others.
+std::vector<pid_t> programsWith(const QByteArray &sky, const QByteArray &name)
 {
-    const QStringList processes = QDir("/proc").entryList(QDir::Dirs);
-    return std::any_of(processes.begin(), processes.end(), [&](const QString &process) {
-        return contentOf("/proc/" + process + "/environ").contains("QUORVANDEL_SKY=" + sky) &&
-               contentOf("/proc/" + process + "/cmdline").contains(program);
-    });
+    std::vector<pid_t> found;
+    for (const QString &process : QDir("/proc").entryList(QDir::Dirs))
+        if (contentOf("/proc/" + process + "/environ").contains("QUORVANDEL_SKY=" + sky) &&
+            contentOf("/proc/" + process + "/cmdline").contains(name))
+            found.push_back(pid_t(process.toInt()));
+    return found;
 }
+
+/// Ends what a failed test leaves.
+struct Sweeper {
+    QByteArray sky;
+    ~Sweeper()
+    {
+        for (const pid_t left : programsWith(sky, "bin/quorvandel"))
+            ::kill(left, SIGKILL);
+    }
+};
 } // namespace
 
 class RunCommandTest : public QObject
@@ -72,6 +83,7 @@ void RunCommandTest::opensBothAndEndsBoth()
     environment.insert("QUORVANDEL_SKY", sky);
     environment.insert("QT_LOGGING_TO_CONSOLE", "1");
     environment.insert("QT_LOGGING_RULES", "qt.widgets.painting=true");
+    const Sweeper sweeper{sky.toUtf8()};
     QProcess run;
     run.setProcessEnvironment(environment);
     run.setStandardErrorFile(folder.filePath("errors"));
@@ -80,13 +92,13 @@ void RunCommandTest::opensBothAndEndsBoth()
         return contentOf(folder.filePath(log)).contains("of " + name + "(0x");
     };
     QTRY_VERIFY(isPainted("errors", window));
-    QTRY_VERIFY(isPainted("build/logs/mount.log", "MountWindow"));
-    QVERIFY(runsWith(sky.toUtf8(), "quorvandel-mount"));
+    QTRY_VERIFY(isPainted("build/logs/mount.log", "virtualmount::MountWindow"));
+    QCOMPARE(programsWith(sky.toUtf8(), "bin/quorvandel-mount").size(), std::size_t(1));
     ::kill(pid_t(run.processId()), number);
     QVERIFY(run.waitForFinished(patience));
     QCOMPARE(run.exitStatus(), QProcess::NormalExit);
     QCOMPARE(run.exitCode(), 0);
-    QTRY_VERIFY(!runsWith(sky.toUtf8(), "quorvandel"));
+    QTRY_VERIFY(programsWith(sky.toUtf8(), "bin/quorvandel").empty());
 }
 
 QTEST_GUILESS_MAIN(RunCommandTest)
