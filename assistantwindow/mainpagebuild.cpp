@@ -120,9 +120,7 @@ void MainPage::buildExposure(QVBoxLayout &column)
     exposureValue = label("label_exposure");
     exposureValue->setMinimumWidth(64);
     exposureValue->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    automaticExposure = new QCheckBox;
-    automaticExposure->setObjectName(QStringLiteral("checkBox_automaticExposure"));
-    automaticExposure->setMinimumHeight(touchSize);
+    automaticExposure = new BigCheck(QStringLiteral("checkBox_automaticExposure"));
     row->addWidget(exposureName);
     row->addWidget(exposure, 1);
     row->addWidget(exposureValue);

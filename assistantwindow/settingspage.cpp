@@ -99,9 +99,7 @@ QLabel *SettingsPage::note(const char *name, QVBoxLayout &column)
 QCheckBox *SettingsPage::check(const char *name, bool assistant::Settings::*member,
                                QVBoxLayout &column)
 {
-    auto *const box = new QCheckBox;
-    box->setObjectName(QLatin1String(name));
-    box->setMinimumHeight(touchSize);
+    auto *const box = new BigCheck(QLatin1String(name));
     connect(box, &QCheckBox::toggled, this, [this, member](bool on) {
         change([member, on](assistant::Settings &settings) { settings.*member = on; });
     });

@@ -64,6 +64,17 @@ void BigSpin::setName(const QString &name)
     }
 }
 
+BigCheck::BigCheck(const QString &objectName)
+{
+    setObjectName(objectName);
+    setMinimumHeight(touchSize);
+}
+
+bool BigCheck::hitButton(const QPoint &place) const
+{
+    return QRect(0, 0, std::min(width(), sizeHint().width()), height()).contains(place);
+}
+
 namespace
 {
 void drawExpand(QPainter &painter)

@@ -4,7 +4,7 @@
 
 #include "assistantwindow/theme.h"
 
-#include <QAbstractButton>
+#include <QCheckBox>
 #include <QDoubleSpinBox>
 #include <QIcon>
 #include <QWidget>
@@ -34,6 +34,16 @@ private:
 
     QDoubleSpinBox *spin;
     QList<QPushButton *> buttons;
+};
+
+/// A check box of which the whole height takes a press, not the box and the text's line alone.
+class BigCheck : public QCheckBox
+{
+public:
+    explicit BigCheck(const QString &objectName);
+
+protected:
+    bool hitButton(const QPoint &place) const override;
 };
 
 enum class Glyph { Expand, Settings, Report, Back, Close };

@@ -12,6 +12,7 @@
 #include <QLineEdit>
 #include <QScreen>
 #include <QSet>
+#include <QSlider>
 #include <QToolTip>
 
 // Q_INIT_RESOURCE must be used in the global namespace.
@@ -43,6 +44,40 @@ QList<QWidget *> controlsOf(const QWidget &window)
         if (widget->isVisible() && widget->window() == &window && isControl(*widget))
             controls.append(widget);
     return controls;
+}
+
+/// Where a press is taken: of a check box only what it draws, of a slider its handle.
+QRect pressableArea(QAbstractButton &button)
+{
+    constexpr int step = 2;
+    QRect area;
+    for (int y = 0; y < button.height(); y += step)
+        for (int x = 0; x < std::min(button.width(), 60); x += step) {
+            QTest::mousePress(&button, Qt::LeftButton, {}, {x, y});
+            if (button.isDown())
+                area |= QRect(x, y, step, step);
+            button.setDown(false);
+            QTest::mouseRelease(&button, Qt::LeftButton, {}, {-50, -50});
+        }
+    return area;
+}
+
+/// Where a press takes the slider's handle.
+QRect handleOf(QSlider &slider)
+{
+    constexpr int step = 2;
+    const QSignalBlocker quiet(slider);
+    const int middle = (slider.minimum() + slider.maximum()) / 2;
+    QRect area;
+    for (int y = 0; y < slider.height(); y += step)
+        for (int x = slider.width() / 2 - 40; x < slider.width() / 2 + 40; x += step) {
+            slider.setValue(middle);
+            QTest::mousePress(&slider, Qt::LeftButton, {}, {x, y});
+            if (slider.isSliderDown())
+                area |= QRect(x, y, step, step);
+            QTest::mouseRelease(&slider, Qt::LeftButton, {}, {x, y});
+        }
+    return area;
 }
 
 /// How many pixels are not purely red.
@@ -108,6 +143,8 @@ private slots:
     void initTestCase() { initialiseResources(); }
     void fingerCanHitEveryControl_data() { forEachScene(); }
     void fingerCanHitEveryControl();
+    void fingerHitsWhatIsDrawn_data();
+    void fingerHitsWhatIsDrawn();
     void tabReachesEveryControl_data() { forEachScene(); }
     void tabReachesEveryControl();
     void redThemeHasOnlyRed_data() { forEachScene(); }
@@ -140,6 +177,33 @@ void AssistantControlsTest::fingerCanHitEveryControl()
                                 .arg(control->objectName())
                                 .arg(control->width())
                                 .arg(control->height())));
+}
+
+/// Those that have sliders, boxes and choices.
+void AssistantControlsTest::fingerHitsWhatIsDrawn_data()
+{
+    QTest::addColumn<int>("scene");
+    for (const char *const name : {"sky", "pole", "night", "recording"})
+        QTest::newRow(name) << scenes::numberOf(name);
+}
+
+void AssistantControlsTest::fingerHitsWhatIsDrawn()
+{
+    QFETCH(int, scene);
+    const Shown shown(scene);
+    for (QWidget *const control : controlsOf(*shown.window)) {
+        QRect area = control->rect();
+        if (control->inherits("QCheckBox") || control->inherits("QRadioButton"))
+            area = pressableArea(*qobject_cast<QAbstractButton *>(control));
+        if (auto *const slider = qobject_cast<QSlider *>(control))
+            area = handleOf(*slider);
+        if (control->isEnabled())
+            QVERIFY2(area.width() >= finger && area.height() >= finger,
+                     qPrintable(QStringLiteral("%1: %2 x %3")
+                                    .arg(control->objectName())
+                                    .arg(area.width())
+                                    .arg(area.height())));
+    }
 }
 
 void AssistantControlsTest::tabReachesEveryControl()
