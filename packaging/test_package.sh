@@ -204,6 +204,7 @@ test_settings_that_cannot_be_saved() {
   mkdir "$root/home/full"
   mount -t tmpfs -o size=16m,mode=777 full "$root/home/full"
   visit "a small disk" /home/full
+  check "a small disk: nothing is reported while there is room" fails said "the settings will not be "
   head -c 16M /dev/zero >"$root/home/full/filler" 2>/dev/null
   not_saved "a full disk" /home/full
 }
