@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 # Builds the Debian source and binary packages in build/package; the last line names the binary one.
-#   packaging/make_package.sh
+#   packaging/make_package.sh [--prepare]     with --prepare it only installs what building needs
 # Installs what building needs. The result does not depend on the umask, on the modes of the checkout
 # or on its path, and no file in it is newer than the last change of the sources.
 set -euo pipefail
@@ -12,6 +12,7 @@ cd "$(dirname "$0")/.."
 
 # shellcheck disable=SC2086 # the lists are meant to be split
 install_packages $packages_build $packages_package >&2
+[ "${1:-}" != --prepare ] || exit 0
 
 version=$(dpkg-parsechangelog -S Version)
 upstream=${version%-*}

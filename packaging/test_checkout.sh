@@ -9,17 +9,9 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 . packaging/sourcetree.sh
 . packaging/checks.sh
+. packaging/contents.sh
 command -v lintian >/dev/null || { echo "lintian is missing."; exit 2; }
 
-# Ordinary modes: folders and programs 0755, other files 0644, all of root's. Links have none.
-ordinary_modes() { # of a listing by tar or dpkg-deb, from the standard input
-  ! grep -vE '^(drwxr-xr-x|-rwxr-xr-x|-rw-r--r--|lrwxrwxrwx) (root/root|0/0) '
-}
-package_modes() {
-  dpkg-deb --ctrl-tarfile "$1" | tar -tv | ordinary_modes &&
-    dpkg-deb --fsys-tarfile "$1" | tar -tv | ordinary_modes
-}
-archive_modes() { tar -tvf "$1" | ordinary_modes; }
 # The files that may be run, those of a package's own folders of programs.
 programs_alone_may_be_run() {
   local listing

@@ -1,9 +1,11 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Installs the Debian package in a clean root, runs it there as an unprivileged user, and removes it.
-#   packaging/test_package.sh [PACKAGE]     without PACKAGE it is built first
+# Installs the Debian package in a clean root, runs it there as an unprivileged user, and removes it;
+# then lets packaging/make_package.sh install what building needs.
+#   packaging/test_package.sh [PACKAGE]     without PACKAGE it is built first; with it, the package of
+#                                           its debug symbols is beside it
 # Needs root, the network (for the clean root, once, and the package's dependencies) and debootstrap,
-# lintian, xvfb, xdotool. The last line is the number of passed and failed checks.
+# lintian, xvfb, xdotool, binutils. The last line is the number of passed and failed checks.
 set -u
 cd "$(dirname "$0")/.." || exit 1
 cache=$PWD/build/package-test
@@ -24,6 +26,8 @@ if [ -z "${QUORVANDEL_PACKAGE_TEST:-}" ]; then
 fi
 package=$1
 . packaging/cleanroot.sh
+. packaging/contents.sh
+. packaging/sourcetree.sh
 mkdir -p "$cache"
 root=$(mktemp -d "$cache/root.XXXXXX")
 scratch=$(mktemp -d)
@@ -62,7 +66,7 @@ start() {
   local at=$1
   shift
   chroot --userspec=$user:$user "$root" env -i PATH=/usr/bin:/bin LANG=C.UTF-8 \
-    DISPLAY="$DISPLAY" HOME="$at" "$@" >"$scratch/said" 2>&1 &
+    DISPLAY="$DISPLAY" QT_LOGGING_TO_CONSOLE=1 HOME="$at" "$@" >"$scratch/said" 2>&1 &
   running=$!
 }
 
@@ -161,6 +165,7 @@ test_documents() {
     same "$(dpkg-deb -c "$package" | awk '$1 !~ /^(d..x..x..x|-r..r..r..|l)/')" ""
   check "the manual is in the system's list of documents" \
     test -f "$root/usr/share/doc-base/quorvandel.quorvandel"
+  check "the Chinese manual is, too" test -f "$root/usr/share/doc-base/quorvandel.quorvandel-zh"
   check "the manual is found from the user's folder" \
     in_root test -f "$home/$folder/bin/../$manual"
   for page in quorvandel quorvandel-assistant quorvandel-camera quorvandel-mount quorvandel-recognise; do
@@ -177,6 +182,33 @@ test_homes_that_do_not_serve() {
   check "a noexec home: it reports that" said "does not let programs be started"
 }
 
+# not_saved TEXT HOME: the program and its current copy work in HOME, but cannot save the settings.
+not_saved() {
+  local ini=$root$2/$folder/bin/Quorvandel.ini
+  cp "$ini" "$scratch/ini"
+  visit "$1" "$2" ctrl+m
+  check "$1: the launcher reports that" said "quorvandel: the settings will not be kept: "
+  check "$1: the log says so at the start" said "the settings will not be saved in "
+  check "$1: the log says so at the end" said "the settings are not saved in "
+  check "$1: the old file stays whole" cmp "$ini" "$scratch/ini"
+}
+
+test_settings_that_cannot_be_saved() {
+  local bin=$root$home/$folder/bin
+  chmod 555 "$bin"
+  not_saved "a folder that cannot be written" $home
+  chmod 755 "$bin"
+  chown 0:0 "$bin/Quorvandel.ini"
+  not_saved "a file of another user" $home
+  chown --reference="$bin" "$bin/Quorvandel.ini"
+  mkdir "$root/home/full"
+  mount -t tmpfs -o size=16m,mode=777 full "$root/home/full"
+  visit "a small disk" /home/full
+  check "a small disk: nothing is reported while there is room" fails said "the settings will not be "
+  head -c 16M /dev/zero >"$root/home/full/filler" 2>/dev/null
+  not_saved "a full disk" /home/full
+}
+
 # opens PROGRAM NAME: whether the program opens a window with this name.
 opens() {
   start $home "$1"
@@ -185,9 +217,37 @@ opens() {
   wait $running 2>/dev/null
 }
 
+hardened() {
+  local found
+  dpkg-deb -x "$package" "$scratch/files" && found=$(unprotected "$scratch/files") && same "$found" ""
+}
+
+has_debug_symbols() {
+  local found symbols
+  symbols=$(dirname "$package")/$(basename "$package" | sed 's/^quorvandel_/quorvandel-dbgsym_/')
+  found=$(without_symbols "$package" "$symbols") && same "$found" ""
+}
+
+# ---- building --------------------------------------------------------------------------------------
+can_build() { in_root sh -c 'cd /tmp/tree && dpkg-checkbuilddeps'; }
+has_tools() {
+  for tool in dpkg-buildpackage dpkg-parsechangelog dh file xz; do
+    in_root sh -c "command -v $tool" || { echo "$tool is missing"; return 1; }
+  done
+}
+test_what_building_needs() {
+  mkdir "$root/tmp/tree" && lay_out_sources "$root/tmp/tree"
+  check "the clean root lacks what building needs" fails has_tools
+  check "the script installs what building needs" in_root /tmp/tree/packaging/make_package.sh --prepare
+  check "the script's own tools are there" has_tools
+  check "no build dependency is missing" can_build
+}
+
 # ---- all tests -----------------------------------------------------------------------------------
 check "lintian reports nothing except the explained overrides" \
   lintian --allow-root --fail-on error,warning "$package"
+check "every program and library in it is hardened" hardened
+check "each has its debug symbols in a package of their own" has_debug_symbols
 check "a clean root with the package's dependencies" clean_root
 [ -d "$root$home" ] || exit 1
 everything >"$scratch/before"
@@ -214,6 +274,7 @@ test_settings
 test_upgrade
 test_documents
 test_homes_that_do_not_serve
+test_settings_that_cannot_be_saved
 opens quorvandel-mount 'ount'
 opens quorvandel-assistant 'ssistant'
 check "the camera command takes a frame of the virtual camera" \
@@ -224,5 +285,6 @@ check "the pole is found in it by the stars" \
 check "it is removed" in_root dpkg --purge quorvandel
 everything >"$scratch/after"
 check "nothing is left behind" diff "$scratch/before" "$scratch/after"
+test_what_building_needs
 
 finish

@@ -12,7 +12,7 @@ packages_run="libqt5multimedia5-plugins gstreamer1.0-plugins-good fonts-dejavu-c
 packages_unseen="xvfb"
 packages_test="desktop-file-utils appstream mandoc libbenchmark-dev indi-bin"
 packages_lint="clang-format clang-tidy python3"
-packages_package="debhelper dpkg-dev file xz-utils"
+packages_package="build-essential debhelper dpkg-dev file xz-utils"
 
 missing_packages() {
   local package

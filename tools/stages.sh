@@ -68,17 +68,17 @@ stage() {
   # The command runs in the foreground, so that Ctrl+C reaches it.
   show_progress "$text" "$log" $$ &
   watcher=$!
-  "$@" 3>&1 >"$log" 2>&1
-  status=$?
-  kill $watcher 2>/dev/null
-  wait $watcher 2>/dev/null
+  status=0 # none of these ends a script that stops at the first error
+  "$@" 3>&1 >"$log" 2>&1 || status=$?
+  kill $watcher 2>/dev/null || true
+  wait $watcher 2>/dev/null || true
   [ ! -t 1 ] || printf '\r\033[K'
   if [ $status -eq 0 ]; then
     printf '%s ... done (%d s)\n' "$text" $((SECONDS - start))
   else
     printf '%s ... FAILED (%d s) with status %d, reasons (full log: %s):\n' \
       "$text" $((SECONDS - start)) $status "$log"
-    "$explain" "$log" | sed 's/^/    /'
+    "$explain" "$log" | sed 's/^/    /' || true
   fi
   return $status
 }

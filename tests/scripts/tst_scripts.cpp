@@ -66,6 +66,7 @@ private slots:
     void progress();
     void aStageThatSucceeds();
     void aStageThatFails();
+    void stagesOfAScriptThatStopsAtErrors();
     void errorsBeforeTheEnd();
     void counts();
     void countsWithoutFailures();
@@ -134,6 +135,17 @@ void ScriptsTest::aStageThatFails()
     QVERIFY2(outcome.text.contains("FAILED"), qPrintable(outcome.text));
     QVERIFY2(outcome.text.endsWith("\n    99\n    100\n"), qPrintable(outcome.text));
     QVERIFY(!outcome.text.contains("\n    60\n"));
+}
+
+/// Such as the one that makes the package: it goes on after a stage, and learns of one that fails.
+void ScriptsTest::stagesOfAScriptThatStopsAtErrors()
+{
+    const Outcome outcome = bash("set -euo pipefail; stage 'One' true; stage 'Two' sh -c 'exit 3'; "
+                                 "echo 'not reached'");
+    QVERIFY2(outcome.text.contains("One ... done (0 s)\n"), qPrintable(outcome.text));
+    QVERIFY2(outcome.text.contains("Two ... FAILED (0 s) with status 3"), qPrintable(outcome.text));
+    QVERIFY2(!outcome.text.contains("not reached"), qPrintable(outcome.text));
+    QCOMPARE(outcome.status, 3);
 }
 
 /// A compiler's messages are shown, not what others print until the end.
