@@ -3,11 +3,13 @@
 #include <cstdio>
 #include <initializer_list>
 
+#include "bench/recognition/bars.h"
 #include "bench/recognition/fewstars.h"
 #include "bench/recognition/reports.h"
 
-void reportFewStars(int count)
+bool reportFewStars(int count)
 {
+    Bars bars;
     std::printf("| stars | distortion in the corners | frames | lost | rms | inside the two-sigma "
                 "ellipse |\n|---|---|---|---|---|---|\n");
     constexpr int numbers[][2] = {{12, 19}, {20, 30}, {40, 60}};
@@ -17,5 +19,7 @@ void reportFewStars(int count)
             std::printf("| %d to %d | %.1f %% | %d | %d | %.1f\" | %.1f %% |\n", least, most,
                         100.0 * distortion, tally.frames, tally.lost, tally.rms,
                         100.0 * tally.inside / tally.frames);
+            bars.atMost("percent lost", 100.0 * tally.lost / (tally.frames + tally.lost), 2.0);
         }
+    return bars.kept();
 }

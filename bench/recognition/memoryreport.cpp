@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // How much memory is in use beside the frame, and does it grow?
+#include "bench/recognition/bars.h"
+#include "bench/recognition/paintedsky.h"
 #include "bench/recognition/randomsky.h"
 #include "bench/recognition/reports.h"
 #include "recognition/extraction.h"
@@ -35,24 +37,51 @@ void resetPeak()
         std::fclose(file);
     }
 }
+
+struct DatedFrame {
+    cv::Mat picture;
+    double utcSeconds;
+};
+
+DatedFrame largeFrame(int number)
+{
+    PaintedSky sky;
+    sky.width = 1456;
+    sky.height = 1088;
+    sky.south = number % 2 == 1;
+    sky.direction = 37.0 * number;
+    sky.offCentre = 0.2 * number;
+    sky.roll = 61.0 * number;
+    sky.seed = unsigned(number + 1);
+    return {paintSky(sky), sky.utcSeconds};
+}
+
+std::vector<DatedFrame> framesOf(MemoryOf what, int count)
+{
+    const cv::Rect middle(virtualsky::sensorWidth / 4, virtualsky::sensorHeight / 4,
+                          virtualsky::sensorWidth / 2, virtualsky::sensorHeight / 2);
+    SkyPainter painter;
+    std::vector<DatedFrame> frames;
+    for (int i = 0; i < count; ++i) {
+        if (what == MemoryOf::LargeFrames) {
+            frames.push_back(largeFrame(i));
+            continue;
+        }
+        const RandomSky sky = plainSky(std::uint64_t(400000) + std::uint64_t(i), i % 2 == 1, 2026);
+        frames.push_back({painter.frameOf(sky), *sky.state.date});
+        if (what == MemoryOf::SmallFrames)
+            frames.back().picture = frames.back().picture(middle).clone();
+    }
+    return frames;
+}
 } // namespace
 
-void reportMemory(int count, MemoryOf what)
+bool reportMemory(int count, MemoryOf what)
 {
     // A follower meets a frame again, so that it follows; the others are searched blind.
     const bool following = what == MemoryOf::Following;
     const int differentFrames = following ? 1 : 16;
-    const cv::Rect middle(virtualsky::sensorWidth / 4, virtualsky::sensorHeight / 4,
-                          virtualsky::sensorWidth / 2, virtualsky::sensorHeight / 2);
-    SkyPainter painter;
-    std::vector<cv::Mat> frames;
-    std::vector<RandomSky> skies;
-    for (int i = 0; i < differentFrames; ++i) {
-        skies.push_back(plainSky(std::uint64_t(400000) + std::uint64_t(i), i % 2 == 1, 2026));
-        frames.push_back(painter.frameOf(skies.back()));
-        if (what == MemoryOf::SmallFrames)
-            frames.back() = frames.back()(middle).clone();
-    }
+    const std::vector<DatedFrame> frames = framesOf(what, differentFrames);
     malloc_trim(0);
     const double before = statusMegabytes("VmRSS");
     resetPeak();
@@ -60,10 +89,10 @@ void reportMemory(int count, MemoryOf what)
     int recognised = 0;
     recognition::Follower follower({});
     for (int i = 0; i < count; ++i) {
-        const std::size_t which = std::size_t(i % differentFrames);
+        const DatedFrame &dated = frames[std::size_t(i % differentFrames)];
         recognition::RecognitionOptions options;
-        options.utcSeconds = *skies[which].state.date;
-        const cv::Mat &frame = frames[which];
+        options.utcSeconds = dated.utcSeconds;
+        const cv::Mat &frame = dated.picture;
         const recognition::Recognition found =
             following ? follower.follow(frame, options.utcSeconds + 0.5 * i)
                       : recognition::recognise(recognition::extractStars(frame).stars, frame.cols,
@@ -79,4 +108,9 @@ void reportMemory(int count, MemoryOf what)
         4 * differentFrames);
     std::printf("| %d | %d | %.1f MB | %.1f MB | %.1f MB | %.2f MB |\n", count, recognised,
                 largest - before, early - before, after - before, after - early);
+    Bars bars;
+    bars.atLeast("frames recognised", recognised, count);
+    bars.atMost("megabytes beside the frame", largest - before, 20.0);
+    bars.atMost("megabytes of growth", after - early, 0.5);
+    return bars.kept();
 }

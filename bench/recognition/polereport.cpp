@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // How far off is the pole, and how honest is the claim?
+#include "bench/recognition/bars.h"
 #include "bench/recognition/randomsky.h"
 #include "bench/recognition/reports.h"
 #include "bench/recognition/statistics.h"
@@ -48,16 +49,22 @@ double partBelow(const std::vector<double> &values, double limit)
 }
 } // namespace
 
-void reportPoles(int count)
+bool reportPoles(int count)
 {
+    Bars bars;
     std::printf("| pole | year | skies | lost | rms | median | largest | inside the two-sigma "
                 "ellipse |\n|---|---|---|---|---|---|---|---|\n");
     for (const bool south : {false, true})
         for (const int year : {2026, 2040}) {
             const PoleErrors errors = polesOf(south, year, count);
+            const double inside = partBelow(errors.squared, twoSigmaEllipse);
             std::printf("| %s | %d | %d | %d | %.2f\" | %.2f\" | %.2f\" | %.1f %% |\n",
                         south ? "south" : "north", year, count, errors.lost, rms(errors.arcseconds),
-                        median(errors.arcseconds), quantile(errors.arcseconds, 1.0),
-                        partBelow(errors.squared, twoSigmaEllipse));
+                        median(errors.arcseconds), quantile(errors.arcseconds, 1.0), inside);
+            bars.atMost("skies lost", errors.lost, 0.0);
+            bars.atMost("arcseconds rms of the pole", rms(errors.arcseconds), 1.0);
+            bars.atLeast("percent inside the ellipse", inside, 90.0);
+            bars.atMost("percent inside the ellipse", inside, 98.0);
         }
+    return bars.kept();
 }

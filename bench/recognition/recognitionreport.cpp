@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Measures the recognition of the pole's sky; docs/recognition.md records what it prints.
+// Measures the recognition of the pole's sky; docs/recognition.md records what it prints. The exit
+// status is 1 if a bar was missed.
 #include "bench/recognition/reports.h"
 
 #include <cstdio>
@@ -12,23 +13,24 @@ namespace
 struct Report {
     const char *name;
     int usualCount;
-    bool (*run)(int first, int count); ///< @return whether nothing failed
+    bool (*run)(int first, int count); ///< @return whether every bar was reached
 };
 
 constexpr Report reports[] = {
-    {"skies", 2000, [](int first, int count) { return reportSkies(first, count), true; }},
-    {"sparse", 100, [](int first, int count) { return reportSparseSkies(first, count), true; }},
-    {"poles", 400, [](int, int count) { return reportPoles(count), true; }},
-    {"axes", 200, [](int, int count) { return reportAxes(count), true; }},
-    {"fewstars", 1000, [](int, int count) { return reportFewStars(count), true; }},
-    {"fields", 1000, [](int, int count) { return reportFields(count), true; }},
+    {"skies", 2000, reportSkies},
+    {"sparse", 100, reportSparseSkies},
+    {"poles", 400, [](int, int count) { return reportPoles(count); }},
+    {"axes", 200, [](int, int count) { return reportAxes(count); }},
+    {"fewstars", 1000, [](int, int count) { return reportFewStars(count); }},
+    {"fields", 1000, [](int, int count) { return reportFields(count); }},
     {"false", 10000, [](int first, int count) { return reportFalseFrames(first, count) == 0; }},
-    {"speed", 100, [](int, int count) { return reportSpeeds(count), true; }},
-    {"memory", 100000, [](int, int count) { return reportMemory(count, MemoryOf::Blind), true; }},
+    {"speed", 100, [](int, int count) { return reportSpeeds(count); }},
+    {"memory", 100000, [](int, int count) { return reportMemory(count, MemoryOf::Blind); }},
     {"smallmemory", 100000,
-     [](int, int count) { return reportMemory(count, MemoryOf::SmallFrames), true; }},
-    {"following", 100000,
-     [](int, int count) { return reportMemory(count, MemoryOf::Following), true; }},
+     [](int, int count) { return reportMemory(count, MemoryOf::SmallFrames); }},
+    {"largememory", 1000,
+     [](int, int count) { return reportMemory(count, MemoryOf::LargeFrames); }},
+    {"following", 100000, [](int, int count) { return reportMemory(count, MemoryOf::Following); }},
 };
 
 bool fuzz(int argc, char *argv[])

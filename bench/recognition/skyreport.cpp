@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Is every sky with enough stars recognised?
+#include "bench/recognition/bars.h"
 #include "bench/recognition/randomsky.h"
 #include "bench/recognition/reports.h"
 #include "bench/recognition/statistics.h"
@@ -33,7 +34,16 @@ void printHeader()
                 "matching_ms\n");
 }
 
-void reportSky(int number, const RandomSky &sky, SkyPainter &painter)
+constexpr double wrongPole = 60.0; // arcseconds: further off counts as not recognised
+constexpr int fewestSparse = 12, enoughStars = 20;
+
+/// How many stars are above 5 sigma, and whether the sky was recognised with its pole where it is.
+struct SkyResult {
+    int above;
+    bool right;
+};
+
+SkyResult reportSky(int number, const RandomSky &sky, SkyPainter &painter)
 {
     const cv::Mat frame = painter.frameOf(sky);
     recognition::RecognitionOptions options;
@@ -47,38 +57,47 @@ void reportSky(int number, const RandomSky &sky, SkyPainter &painter)
     const virtualsky::Point pole = truthOf(sky).pole.value_or(virtualsky::Point{-1e4, -1e4});
     const double dx = found.pole.x - pole.x, dy = found.pole.y - pole.y;
     const bool recognised = found.status == recognition::RecognitionStatus::Recognised;
+    const double error = std::hypot(dx, dy) * virtualsky::pixelScale;
+    const int above = starsAbove(sky, 5.0);
     std::printf("%d,", number);
     printSky(sky);
-    std::printf("%d,%zu,%d,%zu,%.3f,%.3f,%.3f,%.3f\n", starsAbove(sky, 5.0), stars.stars.size(),
-                recognised, found.matched.size(),
-                recognised ? std::hypot(dx, dy) * virtualsky::pixelScale : -1.0,
+    std::printf("%d,%zu,%d,%zu,%.3f,%.3f,%.3f,%.3f\n", above, stars.stars.size(), recognised,
+                found.matched.size(), recognised ? error : -1.0,
                 recognised ? squaredSigmas(dx, dy, found.poleCovariance) : -1.0, extracted - start,
                 end - extracted);
+    return {above, recognised && error < wrongPole};
 }
 } // namespace
 
-void reportSkies(int first, int count)
+bool reportSkies(int first, int count)
 {
     printHeader();
     SkyPainter painter;
-    for (int number = first; number < first + count; ++number)
-        reportSky(number, randomSky(std::uint64_t(number)), painter);
+    Bars bars;
+    for (int number = first; number < first + count; ++number) {
+        const SkyResult result = reportSky(number, randomSky(std::uint64_t(number)), painter);
+        if (result.above >= enoughStars)
+            bars.atLeast(("sky " + std::to_string(number)).c_str(), result.right, 1.0);
+    }
+    return bars.kept();
 }
 
-void reportSparseSkies(int first, int count)
+bool reportSparseSkies(int first, int count)
 {
-    constexpr int least = 12;
-    constexpr int most = 19;
     printHeader();
     SkyPainter painter;
-    for (int number = first; count > 0; ++number) {
+    int tried = 0, right = 0;
+    for (int number = first; tried < count; ++number) {
         const RandomSky sky = randomSky(std::uint64_t(number));
         const int above = starsAbove(sky, 5.0);
-        if (above < least || above > most)
+        if (above < fewestSparse || above >= enoughStars)
             continue;
-        reportSky(number, sky, painter);
-        --count;
+        right += reportSky(number, sky, painter).right;
+        ++tried;
     }
+    Bars bars;
+    bars.atLeast("percent of the sparse skies", 100.0 * right / count, 98.0);
+    return bars.kept();
 }
 
 // 2026-11-20T20:00:00Z: pictures of one date can be recognised in one run.

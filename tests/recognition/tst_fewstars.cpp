@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 // With few stars, is the pole's claimed error honest, with a lens that distorts and without?
+#include "bench/recognition/bars.h"
 #include "bench/recognition/fewstars.h"
 
 #include <QtTest>
+#include <limits>
 
 class FewStarsTest : public QObject
 {
@@ -11,6 +13,8 @@ class FewStarsTest : public QObject
 private slots:
     void claimsAreHonest_data();
     void claimsAreHonest();
+    void barsAreKeptOrMissed_data();
+    void barsAreKeptOrMissed();
 };
 
 void FewStarsTest::claimsAreHonest_data()
@@ -35,6 +39,29 @@ void FewStarsTest::claimsAreHonest()
     QVERIFY2(tally.lost <= 0.02 * frames, qPrintable(QString::number(tally.lost)));
     QVERIFY2(tally.inside >= 0.92 * frames && tally.inside <= 0.98 * frames,
              qPrintable(QString::number(tally.inside)));
+}
+
+void FewStarsTest::barsAreKeptOrMissed_data()
+{
+    QTest::addColumn<double>("value"); // must be from 90 to 98
+    QTest::addColumn<bool>("kept");
+    QTest::newRow("at the lower bar") << 90.0 << true;
+    QTest::newRow("at the upper bar") << 98.0 << true;
+    QTest::newRow("below") << 89.99 << false;
+    QTest::newRow("above") << 98.01 << false;
+    QTest::newRow("no number") << std::numeric_limits<double>::quiet_NaN() << false;
+}
+
+// What the measurements' exit status goes by. A bar that was missed stays missed.
+void FewStarsTest::barsAreKeptOrMissed()
+{
+    QFETCH(double, value);
+    QFETCH(bool, kept);
+    Bars bars;
+    bars.atLeast("percent", value, 90.0);
+    bars.atMost("percent", value, 98.0);
+    bars.atMost("percent", 95.0, 98.0);
+    QCOMPARE(bars.kept(), kept);
 }
 
 QTEST_GUILESS_MAIN(FewStarsTest)
