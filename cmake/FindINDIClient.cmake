@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
-# Finds the client library of INDI, as the package libindi-dev brings it: version 1.9.9 or later,
-# whose properties and devices are passed by value. Defines the target INDI::client.
-find_path(INDIClient_INCLUDE_DIR libindi/baseclient.h)
+# Finds the client library of INDI, as the package libindi-dev brings it: version 1.9.9 or later.
+# Defines the target INDI::client.
+find_path(INDIClient_INCLUDE_DIR libindi/lilxml.h)
 find_library(INDIClient_LIBRARY indiclient)
 set(INDIClient_VERSION "")
 if(INDIClient_INCLUDE_DIR)

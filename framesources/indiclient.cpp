@@ -1,320 +1,188 @@
 // SPDX-License-Identifier: MIT
-// INDI's client, and the plain values that its callbacks leave.
+// Reads a server's messages and writes ours.
 #include "framesources/indiclient.h"
 
-#include <libindi/baseclient.h>
-#include <libindi/basedevice.h>
-#include <libindi/indiproperty.h>
-#include <libindi/indipropertynumber.h>
-#include <libindi/indipropertyswitch.h>
+#include <charconv>
 
-#include <algorithm>
-#include <condition_variable>
-#include <csignal>
-#include <cstdlib>
-#include <iterator>
-#include <mutex>
+#include "framesources/indireader.h"
+#include "framesources/indisocket.h"
+#include "framesources/indivalues.h"
 
 namespace framesources
 {
 namespace
 {
-constexpr std::size_t mostBlobBytes = std::size_t(1) << 28; // a frame of 64 megapixels is less
-constexpr char pictureProperty[] = "CCD1";
-constexpr std::size_t mostElements = 5000; // of a device that means harm
+using Clock = std::chrono::steady_clock;
+using std::chrono::milliseconds;
+constexpr milliseconds connectPatience{2000};
+constexpr milliseconds longestReading{100}; // on end, of a server that never pauses
 
-/// Without one of these a device is no camera any more; others come and go with its settings.
-constexpr const char *needed[] = {"CONNECTION", "CCD_EXPOSURE", "CCD_VIDEO_STREAM",
-                                  pictureProperty};
-
-IndiState stateOf(IPState state)
+std::string escaped(const std::string &text)
 {
-    switch (state) {
-    case IPS_OK:
-        return IndiState::Ok;
-    case IPS_BUSY:
-        return IndiState::Busy;
-    case IPS_ALERT:
-        return IndiState::Alert;
-    case IPS_IDLE:
-        break;
-    }
-    return IndiState::Idle;
+    static const std::map<char, const char *> entities = {
+        {'&', "&amp;"}, {'<', "&lt;"}, {'>', "&gt;"}, {'\'', "&apos;"}, {'"', "&quot;"}};
+    std::string out;
+    for (const char c : text)
+        if (const auto entity = entities.find(c); entity != entities.end())
+            out += entity->second;
+        else
+            out += c;
+    return out;
 }
 
-// INDI writes to its socket without MSG_NOSIGNAL: a server that is gone would end the program. Its
-// thread takes the mask from ours.
-void blockBrokenPipe()
+/// Without an exponent, and with a point in every locale; reads back as the same number.
+std::string numberText(double value)
 {
-    sigset_t brokenPipe;
-    sigemptyset(&brokenPipe);
-    sigaddset(&brokenPipe, SIGPIPE);
-    pthread_sigmask(SIG_BLOCK, &brokenPipe, nullptr);
+    char digits[512];
+    const auto result =
+        std::to_chars(digits, digits + sizeof digits, value, std::chars_format::fixed);
+    return result.ec == std::errc() ? std::string(digits, result.ptr) : "0";
 }
 
-std::string text(const char *raw)
+/// An opening tag with the attributes that most messages have.
+std::string begin(const char *tag, const std::string &device, const std::string &name)
 {
-    return raw ? raw : "";
+    return std::string("<") + tag + " device='" + escaped(device) + "' name='" + escaped(name) +
+           "'>";
+}
+
+std::string element(const char *tag, const std::string &name, const std::string &value)
+{
+    return std::string("<") + tag + " name='" + escaped(name) + "'>" + value + "</" + tag + ">";
 }
 } // namespace
 
-/// Its callbacks run on INDI's thread; nothing is thrown from them.
-class IndiClient::Listener : public INDI::BaseClient
-{
-public:
-    explicit Listener(std::string deviceName) : device(std::move(deviceName)) {}
-    ~Listener() override
-    {
-        if (isServerConnected())
-            disconnectServer();
-        // INDI's devices and properties own each other and would never be freed.
-        const std::lock_guard<std::mutex> lock(mutex);
-        for (INDI::Property &property : defined)
-            property.setBaseDevice(INDI::BaseDevice());
-    }
+struct IndiClient::Connection {
+    explicit Connection(const std::string &device) : values(device) {}
 
-    void newProperty(INDI::Property property) override
-    {
-        guarded([&] {
-            if (defined.size() < mostElements)
-                defined.push_back(property);
-            take(property, true);
-        });
-    }
-    void updateProperty(INDI::Property property) override
-    {
-        guarded([&] { take(property, false); });
-    }
-    void removeProperty(INDI::Property property) override
-    {
-        guarded([&] {
-            if (text(property.getDeviceName()) != device)
-                return;
-            const std::string name = text(property.getName());
-            states.erase(name);
-            if (std::find(std::begin(needed), std::end(needed), name) != std::end(needed))
-                ++removed;
-        });
-    }
-    void newDevice(INDI::BaseDevice added) override
-    {
-        guarded([&] { addDevice(text(added.getDeviceName())); });
-    }
-    void removeDevice(INDI::BaseDevice gone) override
-    {
-        guarded([&] {
-            const std::string name = text(gone.getDeviceName());
-            names.erase(std::remove(names.begin(), names.end(), name), names.end());
-            if (name == device)
-                ++removed;
-        });
-    }
-    void newMessage(INDI::BaseDevice sender, int number) override
-    {
-        guarded([&] {
-            if (text(sender.getDeviceName()) == device)
-                message = sender.messageQueue(static_cast<std::size_t>(number));
-        });
-    }
-    void newUniversalMessage(std::string) override {}
-    void serverConnected() override {}
-    void serverDisconnected(int) override
-    {
-        guarded([&] { lost = true; });
-    }
-
-    mutable std::mutex mutex; // guards everything below
-    std::condition_variable news;
+    IndiSocket socket;
+    IndiReader reader;
+    IndiValues values;
     bool hasNews = false;
-    bool lost = false;
-    std::vector<std::string> names;   // of devices
-    std::vector<std::string> imaging; // devices with exposures or pictures
-    unsigned removed = 0;
-    std::string message;
-    std::map<std::string, IndiState> states; // by property
-    std::map<std::pair<std::string, std::string>, IndiNumber> numbers;
-    std::map<std::pair<std::string, std::string>, bool> switches;
-    std::optional<IndiBlob> blob;
-    std::vector<INDI::Property> defined;
-
-private:
-    template <typename Work> void guarded(Work work) noexcept
-    {
-        try {
-            {
-                const std::lock_guard<std::mutex> lock(mutex);
-                work();
-                hasNews = true;
-            }
-            news.notify_all();
-        } catch (...) { // no memory: what came is lost
-        }
-    }
-
-    void addDevice(const std::string &name)
-    {
-        if (names.size() < mostElements &&
-            std::find(names.begin(), names.end(), name) == names.end())
-            names.push_back(name);
-    }
-
-    void take(INDI::Property &property, bool isNew)
-    {
-        const std::string owner = text(property.getDeviceName()), name = text(property.getName());
-        if (isNew)
-            addDevice(owner);
-        if (isNew && (name == "CCD_EXPOSURE" || name == "CCD_VIDEO_STREAM") &&
-            std::find(imaging.begin(), imaging.end(), owner) == imaging.end())
-            imaging.push_back(owner);
-        if (owner != device || numbers.size() + switches.size() > mostElements)
-            return;
-        states[name] = stateOf(property.getState());
-        if (property.getType() == INDI_NUMBER)
-            for (const auto &element : *property.getNumber())
-                numbers[{name, text(element.getName())}] = {element.getValue(), element.getMin(),
-                                                            element.getMax()};
-        else if (property.getType() == INDI_SWITCH)
-            for (const auto &element : *property.getSwitch())
-                switches[{name, text(element.getName())}] = element.getState() == ISS_ON;
-        else if (property.getType() == INDI_BLOB && !isNew)
-            for (auto &element : *property.getBLOB())
-                takeBlob(element);
-    }
-
-    void takeBlob(INDI::WidgetView<IBLOB> &element)
-    {
-        // INDI never frees a device's last BLOB. It allocates by realloc, so that null is as good.
-        const std::unique_ptr<void, decltype(&std::free)> owned(element.getBlob(), &std::free);
-        element.setBlob(nullptr);
-        const int stored = element.getBlobLen(), said = element.getSize();
-        if (!owned || stored <= 0 || std::size_t(stored) > mostBlobBytes)
-            return;
-        // `said` is the sender's word; it may be shorter, never longer, than what came.
-        const int length = said > 0 ? std::min(stored, said) : stored;
-        const char *const bytes = static_cast<const char *>(owned.get());
-        blob = IndiBlob{std::string(bytes, bytes + length), text(element.getFormat())};
-    }
-
-    const std::string device;
 };
 
-IndiClient::IndiClient(const std::string &host, std::uint16_t port, std::string deviceName)
-    : device(std::move(deviceName)), listener(std::make_unique<Listener>(device))
+IndiClient::IndiClient(std::string serverHost, std::uint16_t serverPort, std::string deviceName)
+    : host(std::move(serverHost)),
+      port(serverPort),
+      device(std::move(deviceName)),
+      connection(std::make_unique<Connection>(device))
 {
-    listener->setServer(host.c_str(), port);
-    listener->setConnectionTimeout(2, 0);
 }
 
 IndiClient::~IndiClient() = default;
 
 bool IndiClient::connectServer()
 {
-    blockBrokenPipe();
-    // INDI's thread searches the list of modes: it must not grow any more once there is one.
-    if (!device.empty())
-        listener->setBLOBMode(B_NEVER, device.c_str(), pictureProperty);
-    return listener->connectServer();
+    if (!connection->socket.open(host, port, connectPatience))
+        return false;
+    send("<getProperties version='1.7'/>\n");
+    return true;
 }
 
 bool IndiClient::isConnected() const
 {
-    const std::lock_guard<std::mutex> lock(listener->mutex);
-    return !listener->lost;
+    return connection->socket.isOpen();
 }
 
-void IndiClient::waitForNews(std::chrono::milliseconds longest)
+void IndiClient::waitForNews(milliseconds longest)
 {
-    std::unique_lock<std::mutex> lock(listener->mutex);
-    listener->news.wait_for(lock, longest, [this] { return listener->hasNews; });
-    listener->hasNews = false;
+    const auto take = [this](XMLEle *message, std::vector<std::string> &blobs) {
+        connection->hasNews = true;
+        if (std::string_view(tagXMLEle(message)) == "pingRequest")
+            send("<pingReply uid='" + escaped(findXMLAttValu(message, "uid")) + "'/>\n");
+        connection->values.take(message, blobs);
+    };
+    const Clock::time_point began = Clock::now();
+    connection->hasNews = false;
+    while (connection->socket.isOpen()) {
+        const auto passed = std::chrono::floor<milliseconds>(Clock::now() - began);
+        const bool isEnough = passed >= (connection->hasNews ? longestReading : longest);
+        const auto wait = connection->hasNews || isEnough ? milliseconds(0) : longest - passed;
+        const std::string_view bytes = connection->socket.receive(wait);
+        if (!connection->reader.read(bytes, take))
+            connection->socket.close();
+        if (bytes.empty() || isEnough)
+            return;
+    }
 }
 
 std::vector<std::string> IndiClient::devices() const
 {
-    const std::lock_guard<std::mutex> lock(listener->mutex);
-    return listener->names;
+    return connection->values.names;
 }
 
 std::vector<std::string> IndiClient::cameras() const
 {
-    const std::lock_guard<std::mutex> lock(listener->mutex);
-    return listener->imaging;
+    return connection->values.imaging;
 }
 
 std::string IndiClient::takeMessage()
 {
-    const std::lock_guard<std::mutex> lock(listener->mutex);
-    return std::exchange(listener->message, {});
+    return std::exchange(connection->values.remark, {});
 }
 
 bool IndiClient::has(const std::string &property) const
 {
-    const std::lock_guard<std::mutex> lock(listener->mutex);
-    return listener->states.count(property) != 0;
+    return connection->values.properties.count(property) != 0;
 }
 
 unsigned IndiClient::removals() const
 {
-    const std::lock_guard<std::mutex> lock(listener->mutex);
-    return listener->removed;
+    return connection->values.removals;
 }
 
 IndiState IndiClient::state(const std::string &property) const
 {
-    const std::lock_guard<std::mutex> lock(listener->mutex);
-    const auto found = listener->states.find(property);
-    return found == listener->states.end() ? IndiState::Idle : found->second;
+    const auto found = connection->values.properties.find(property);
+    return found == connection->values.properties.end() ? IndiState::Idle : found->second.state;
 }
 
 std::optional<IndiNumber> IndiClient::number(const std::string &property,
                                              const std::string &element) const
 {
-    const std::lock_guard<std::mutex> lock(listener->mutex);
-    const auto found = listener->numbers.find({property, element});
-    if (found == listener->numbers.end() || listener->states.count(property) == 0)
+    const auto found = connection->values.properties.find(property);
+    if (found == connection->values.properties.end())
         return std::nullopt;
-    return found->second;
+    const auto number = found->second.numbers.find(element);
+    return number == found->second.numbers.end() ? std::nullopt : std::optional(number->second);
 }
 
 std::optional<bool> IndiClient::isOn(const std::string &property, const std::string &element) const
 {
-    const std::lock_guard<std::mutex> lock(listener->mutex);
-    const auto found = listener->switches.find({property, element});
-    if (found == listener->switches.end() || listener->states.count(property) == 0)
+    const auto found = connection->values.properties.find(property);
+    if (found == connection->values.properties.end())
         return std::nullopt;
-    return found->second;
+    const auto on = found->second.switches.find(element);
+    return on == found->second.switches.end() ? std::nullopt : std::optional(on->second);
 }
 
 std::optional<IndiBlob> IndiClient::takeBlob()
 {
-    const std::lock_guard<std::mutex> lock(listener->mutex);
-    return std::exchange(listener->blob, std::nullopt);
+    const auto blob = std::exchange(connection->values.blob, std::nullopt);
+    return blob ? std::optional(decoded(*blob)) : std::nullopt;
+}
+
+void IndiClient::send(const std::string &message)
+{
+    connection->socket.send(message);
 }
 
 void IndiClient::askForPictures()
 {
-    listener->setBLOBMode(B_ALSO, device.c_str(), pictureProperty);
+    send(begin("enableBLOB", device, pictureProperty) + "Also</enableBLOB>\n");
 }
 
 void IndiClient::sendNumbers(const std::string &property, const Values &values)
 {
-    INDI::PropertyNumber numbers(values.size());
-    for (std::size_t i = 0; i < values.size(); ++i) {
-        numbers[i].setName(values[i].first.c_str());
-        numbers[i].setValue(values[i].second);
-    }
-    numbers.setDeviceName(device.c_str());
-    numbers.setName(property.c_str());
-    listener->sendNewProperty(numbers);
+    std::string message = begin("newNumberVector", device, property);
+    for (const auto &[name, value] : values)
+        message += element("oneNumber", name, numberText(value));
+    send(message + "</newNumberVector>\n");
 }
 
 void IndiClient::sendSwitch(const std::string &property, const std::string &element)
 {
-    INDI::PropertySwitch switches(1);
-    switches[0].setName(element.c_str());
-    switches[0].setState(ISS_ON);
-    switches.setDeviceName(device.c_str());
-    switches.setName(property.c_str());
-    listener->sendNewProperty(switches);
+    send(begin("newSwitchVector", device, property) +
+         framesources::element("oneSwitch", element, "On") + "</newSwitchVector>\n");
 }
 } // namespace framesources

@@ -24,14 +24,14 @@ struct IndiBlob {
     std::string format; ///< such as ".fits", ".stream", ".stream_jpg"
 };
 
-/// One connection to a server, by INDI's own client library. What the server says is kept as plain
-/// values under a lock of its own, so that INDI's thread and ours never share its objects. One
-/// thread uses the members; a call that sends may wait for the network. That thread's SIGPIPE is
-/// blocked from `connectServer` on.
+/// One connection to a server, for one thread. What the server says is read in `waitForNews`, by
+/// INDI's parser; nothing else waits. INDI's own connection is not used: it has a second thread,
+/// which shares more than it locks when a server goes while something is sent, and it ends the
+/// program where a look-up of the host takes longer than its patience.
 class IndiClient
 {
 public:
-    IndiClient(const std::string &host, std::uint16_t port, std::string device);
+    IndiClient(std::string serverHost, std::uint16_t serverPort, std::string deviceName);
     ~IndiClient();
     IndiClient(const IndiClient &) = delete;
     IndiClient &operator=(const IndiClient &) = delete;
@@ -41,7 +41,7 @@ public:
     /// False from when the server has gone.
     bool isConnected() const;
 
-    /// Waits until something new came, or the time is over.
+    /// Waits until something new came, or the time is over. Then everything is known that is there.
     void waitForNews(std::chrono::milliseconds longest);
 
     /// The names of all devices of the server, in the order of their appearance.
@@ -69,8 +69,12 @@ public:
     void sendSwitch(const std::string &property, const std::string &element);
 
 private:
-    class Listener;
+    struct Connection;
+    void send(const std::string &message);
+
+    const std::string host;
+    const std::uint16_t port;
     const std::string device;
-    const std::unique_ptr<Listener> listener;
+    const std::unique_ptr<Connection> connection;
 };
 } // namespace framesources

@@ -24,7 +24,8 @@ std::unique_ptr<NativeCamera> makeNativeCamera(const SourceSettings &settings, c
 #if QUORVANDEL_INDI
     return std::make_unique<IndiCamera>(settings.address, settings.stream, report);
 #else
-    report("this program was built without INDI: install libindi-dev and build it again");
+    report("this program was built without INDI: install libindi-dev and zlib1g-dev and build it "
+           "again");
     return nullptr;
 #endif
 }

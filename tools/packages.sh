@@ -6,7 +6,7 @@
 # the Debian package.
 packages_build="cmake ninja-build g++ qtbase5-dev qttools5-dev qttools5-dev-tools qtmultimedia5-dev
   libopencv-core-dev libopencv-imgproc-dev libopencv-imgcodecs-dev liberfa-dev libsep-dev
-  libcfitsio-dev libindi-dev libqt5texttospeech5-dev"
+  libcfitsio-dev libindi-dev zlib1g-dev libqt5texttospeech5-dev"
 packages_run="libqt5multimedia5-plugins gstreamer1.0-plugins-good fonts-dejavu-core fonts-liberation
   fonts-noto-cjk xdg-utils qtspeech5-speechd-plugin"
 packages_unseen="xvfb"

@@ -72,6 +72,26 @@ inline void divide(const astrometry::CatalogueStar &star, const virtualsky::Poin
         }
 }
 
+/// A star's light on three by three pixels about its place: a Gaussian, 1.9 pixels wide at half its
+/// height.
+inline void spread(const astrometry::CatalogueStar &star,
+                   std::vector<astrometry::CatalogueStar> &out)
+{
+    constexpr double sigma = 0.8; // pixels
+    const double row = 1.0 + 2.0 * std::exp(-1.0 / (2.0 * sigma * sigma));
+    for (const int x : {-1, 0, 1})
+        for (const int y : {-1, 0, 1}) {
+            const double share = std::exp(-(x * x + y * y) / (2.0 * sigma * sigma)) / (row * row);
+            const Place drawn = drawnAt({virtualsky::centreX + x, virtualsky::centreY + y},
+                                        {star.raDegrees, star.decDegrees});
+            astrometry::CatalogueStar part = star;
+            part.raDegrees = std::fmod(drawn.raDegrees + 720.0, 360.0);
+            part.decDegrees = drawn.decDegrees;
+            part.vMagnitude -= 2.5 * std::log10(share);
+            out.push_back(part);
+        }
+}
+
 /// All stars of the picture, as the driver is to draw them.
 /// @param centre that the driver asks about; it belongs to the present time
 /// @param homeRa right ascension of the telescope, degrees, where the sky's RA angle is 0

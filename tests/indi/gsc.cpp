@@ -5,7 +5,8 @@
 // magnitude, its error, band, class, plate, multiple, distance, direction.
 //
 // With a sky file in GSC_SKY, and in GSC_HOME the right ascension (degrees) at which its RA angle
-// is 0, the stars are displaced as the bolts of that file's mount are.
+// is 0, the stars are displaced as the bolts of that file's mount are. With GSC_SPREAD each star
+// covers some pixels of the program's scale, as a real lens draws it: the driver draws single ones.
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -26,7 +27,12 @@ std::vector<astrometry::CatalogueStar> starsFor(const displacedsky::Place &centr
         return displacedsky::stars(virtualsky::parse(virtualsky::readText(sky)), centre,
                                    std::atof(home));
     const auto all = astrometry::catalogue();
-    return {all.begin(), all.end()};
+    if (!std::getenv("GSC_SPREAD"))
+        return {all.begin(), all.end()};
+    std::vector<astrometry::CatalogueStar> parts;
+    for (const astrometry::CatalogueStar &star : all)
+        displacedsky::spread(star, parts);
+    return parts;
 }
 } // namespace
 

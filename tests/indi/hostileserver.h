@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QMutex>
 #include <algorithm>
 #include <arpa/inet.h>
 #include <atomic>
@@ -12,6 +13,7 @@
 #include <sys/socket.h>
 #include <thread>
 #include <unistd.h>
+#include <vector>
 
 /// Defines a connected camera to each client, then sends the harm, to the first one alone, and a
 /// good frame every 50 milliseconds.
@@ -54,6 +56,26 @@ public:
     void rename(bool another) { isRenamed = another; }
     /// How many clients have come.
     int connections() const { return clients; }
+    /// When each client came.
+    std::vector<std::chrono::steady_clock::time_point> arrivals() const
+    {
+        const QMutexLocker lock(&mutex);
+        return cameAt;
+    }
+    /// Ends each connection after so many good frames, 0: at once, -1: not at all.
+    void leaveAfter(int frames) { framesAllowed = frames; }
+    /// From now on more is defined to each client.
+    void define(const QByteArray &properties)
+    {
+        const QMutexLocker lock(&mutex);
+        more = properties;
+    }
+    /// All that the clients have said.
+    QByteArray heard() const
+    {
+        const QMutexLocker lock(&mutex);
+        return said;
+    }
 
     static QByteArray blob(const QByteArray &format, const QByteArray &size,
                            const QByteArray &content)
@@ -66,6 +88,7 @@ public:
 private:
     QByteArray definitions() const
     {
+        const QMutexLocker lock(&mutex);
         const QByteArray head = " device='Camera' label='' group='' state='Ok' perm='rw' "
                                 "timeout='60'";
         const auto number = [](const char *name, const QByteArray &value) {
@@ -84,7 +107,18 @@ private:
                "</defNumberVector>\n<defNumberVector name='CCD_FRAME'" + head + ">" +
                number("X", "0") + number("Y", "0") + number("WIDTH", sensorWidth) +
                number("HEIGHT", sensorHeight) + "</defNumberVector>\n<defBLOBVector name='CCD1'" +
-               head + "><defBLOB name='CCD1' label=''/></defBLOBVector>\n";
+               head + "><defBLOB name='CCD1' label=''/></defBLOBVector>\n" + more;
+    }
+
+    /// False: the client has gone.
+    bool hear(int client, QByteArray &words)
+    {
+        words.resize(4096);
+        const ssize_t got = ::read(client, words.data(), std::size_t(words.size()));
+        words.resize(int(std::max<ssize_t>(got, 0)));
+        const QMutexLocker lock(&mutex);
+        said += words;
+        return got > 0;
     }
 
     static bool send(int client, const QByteArray &bytes, bool renamed)
@@ -117,19 +151,25 @@ private:
     void serve(int client)
     {
         const bool renamed = isRenamed;
+        const int allowed = framesAllowed;
         ++clients;
-        char asked[4096]; // what the client says is read, but does not matter
-        if (::read(client, asked, sizeof asked) <= 0 || !send(client, definitions(), renamed))
+        {
+            const QMutexLocker lock(&mutex);
+            cameAt.push_back(std::chrono::steady_clock::now());
+        }
+        QByteArray asked;
+        if (allowed == 0 || !hear(client, asked) || !send(client, definitions(), renamed))
             return;
         using Clock = std::chrono::steady_clock;
         bool done = false;
+        int frames = 0;
         Clock::time_point sent = Clock::now();
         while (!stop && isRenamed == renamed) {
             pollfd wait = {client, POLLIN, 0};
             if (::poll(&wait, 1, 5) > 0) {
-                if (::read(client, asked, sizeof asked) <= 0)
+                if (!hear(client, asked))
                     return;
-                if (!done && QByteArray(asked).contains("CCD_EXPOSURE")) { // it wants frames
+                if (!done && asked.contains("CCD_EXPOSURE")) { // it wants frames
                     done = true;
                     if (harms++ == 0 && !send(client, harm, renamed))
                         return;
@@ -138,7 +178,7 @@ private:
             if (!done || Clock::now() - sent < std::chrono::milliseconds(pause))
                 continue;
             sent = Clock::now();
-            if (!send(client, good, renamed))
+            if (!send(client, good, renamed) || ++frames == allowed)
                 return;
         }
     }
@@ -150,5 +190,9 @@ private:
     std::atomic<bool> stop{false};
     std::atomic<bool> isRenamed{false};
     std::atomic<int> harms{0}, clients{0};
+    std::atomic<int> framesAllowed{-1};
+    mutable QMutex mutex; // guards what follows
+    QByteArray more, said;
+    std::vector<std::chrono::steady_clock::time_point> cameAt;
     std::thread thread;
 };

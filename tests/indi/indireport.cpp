@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // How do frames by INDI hold out over many losses, and what does a stream cost? Not run by ctest:
-// `indireport cycles N` and `indireport stream SECONDS`, with indi-bin installed.
+// `indireport cycles N` and `indireport stream SECONDS`, with indi-bin installed. Fails where a bar
+// is missed.
 #include <QCoreApplication>
 #include <QFile>
 #include <QRandomGenerator>
@@ -14,9 +15,24 @@
 #include "tests/indi/hostileserver.h"
 #include "tests/indi/indiserver.h"
 #include "tests/indi/indisource.h"
+#include "tests/reliability/processcounts.h"
 
 namespace
 {
+constexpr qint64 returnBar = 5000;   // milliseconds from the server's return to a frame
+constexpr qint64 callBar = 100;      // milliseconds of any call
+constexpr long memoryBar = 8000;     // kilobytes more at the end, of whole frames some six
+constexpr double rateBar = 25.0;     // frames a second
+constexpr double processorBar = 0.5; // of a core
+
+/// Says whether a bar is kept.
+bool keeps(const char *what, bool isKept)
+{
+    if (!isKept)
+        std::printf("MISSED: %s\n", what);
+    return isKept;
+}
+
 long residentKilobytes()
 {
     QFile status("/proc/self/status");
@@ -82,6 +98,7 @@ int cycles(int count)
         return 1;
     std::vector<qint64> returns;
     long memory = 0;
+    int threads = 0, descriptors = 0;
     for (int cycle = 0; cycle < count; ++cycle) {
         if (!loseAndReturn(cycle, server, proxy, source))
             return 1;
@@ -93,15 +110,24 @@ int cycles(int count)
             return 1;
         }
         returns.push_back(returned.elapsed());
-        if (cycle == std::min(11, count / 2)) // the allocator has settled
+        if (cycle == std::min(11, count / 2)) { // the allocator has settled
             memory = residentKilobytes();
+            threads = runningThreads();
+            descriptors = openDescriptors();
+        }
     }
     std::sort(returns.begin(), returns.end());
     std::printf("%d cycles: frames back after %lld ms in the median, %lld ms at most; slowest call "
-                "%lld ms; memory grew by %ld kB\n",
+                "%lld ms; memory grew by %ld kB, threads by %d, descriptors by %d\n",
                 count, returns[returns.size() / 2], returns.back(), source.slowest,
-                residentKilobytes() - memory);
-    return 0;
+                residentKilobytes() - memory, runningThreads() - threads,
+                openDescriptors() - descriptors);
+    bool good = keeps("frames are back within 5 s", returns.back() < returnBar);
+    good &= keeps("calls take less than 100 ms", source.slowest < callBar);
+    good &= keeps("memory does not grow", residentKilobytes() - memory < memoryBar);
+    good &= keeps("no thread is left", runningThreads() <= threads);
+    good &= keeps("no descriptor is left", openDescriptors() <= descriptors + 1); // a connection
+    return good ? 0 : 1;
 }
 
 // A process of its own that streams raw frames as fast as asked; its port, or 0.
@@ -146,9 +172,11 @@ int stream(int seconds)
         frames += source.frame(1000).empty() ? 0 : 1;
     const double span = double(timer.elapsed()) / 1000.0;
     ::kill(child, SIGKILL);
-    std::printf("%.1f frames a second of 1280 x 960 pixels, %.2f of a core\n", frames / span,
-                (processorSeconds() - before) / span);
-    return 0;
+    const double rate = frames / span, load = (processorSeconds() - before) / span;
+    std::printf("%.1f frames a second of 1280 x 960 pixels, %.2f of a core\n", rate, load);
+    bool good = keeps("25 frames a second", rate >= rateBar);
+    good &= keeps("half a core", load < processorBar);
+    return good ? 0 : 1;
 }
 } // namespace
 

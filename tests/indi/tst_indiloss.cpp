@@ -93,7 +93,7 @@ void IndiLossTest::driverKilled()
         const int before = source.lines().size();
         server.signalDrivers(SIGKILL); // the server starts it again
         QTRY_VERIFY_WITH_TIMEOUT((source.frame(50), source.lines().size() > before), 20000);
-        QVERIFY2(!source.frame(30000).empty(), qPrintable(source.lines().join("\n")));
+        QVERIFY2(!source.frame(returnPatience).empty(), qPrintable(source.lines().join("\n")));
     }
     QVERIFY2(source.slowest < callPatience, qPrintable(QString::number(source.slowest)));
 }

@@ -101,9 +101,10 @@ void IndiSensorsTest::recognisedAtTheProgramsScale_data()
     QTest::addColumn<double>("scale");
     QTest::addColumn<bool>("bayer");
     QTest::addColumn<double>("limit"); // of any star's error, pixels
+    QTest::addColumn<bool>("soften");
     const auto row = [](const char *name, int width, int height, double scale, bool bayer,
-                        double limit) {
-        QTest::newRow(name) << width << height << scale << bayer << limit;
+                        double limit, bool soften = true) {
+        QTest::newRow(name) << width << height << scale << bayer << limit << soften;
     };
     row("1280 x 960 at 30.45, stars of one pixel", 1280, 960, 30.45, false, 1.0);
     // The driver refuses sensors of fewer than 512 rows. It draws a star into a whole pixel, which
@@ -112,6 +113,8 @@ void IndiSensorsTest::recognisedAtTheProgramsScale_data()
     row("4144 x 2822 at 6", 4144, 2822, 6.0, false, 1.0);
     row("4144 x 2822 at 6, Bayer", 4144, 2822, 6.0, true, 1.0);
     row("2560 x 1920 at 15", 2560, 1920, 15.0, false, 1.0);
+    row("1280 x 960 at 30.45, as a lens draws stars, not softened", 1280, 960, 30.45, false, 1.0,
+        false);
 }
 
 void IndiSensorsTest::recognisedAtTheProgramsScale()
@@ -121,8 +124,15 @@ void IndiSensorsTest::recognisedAtTheProgramsScale()
     QFETCH(double, scale);
     QFETCH(bool, bayer);
     QFETCH(double, limit);
-    QVERIFY(server.set({width, height, scale, bayer}));
-    IndiSource source(server.port, simulatedCamera, anyLens(false, true));
+    QFETCH(bool, soften);
+    IndiServer lens; // one whose stars are no single pixels
+    if (!soften) {
+        lens.variables["GSC_SPREAD"] = "1";
+        QVERIFY(lens.start());
+    }
+    const IndiServer &asked = soften ? server : lens;
+    QVERIFY(asked.set({width, height, scale, bayer}));
+    IndiSource source(asked.port, simulatedCamera, anyLens(false, soften));
     recognition::Recognition sky;
     cv::Mat frame;
     QElapsedTimer waiting; // the first frames may be older than the settings
