@@ -221,6 +221,8 @@ void ProgramCamerasTest::files()
 
 void ProgramCamerasTest::nobodyAtTheAddress()
 {
+    if (!HAS_INDI)
+        QSKIP("this build is without INDI");
     QTcpServer probe;
     QVERIFY(probe.listen(QHostAddress::LocalHost, 0));
     const QString port = QString::number(probe.serverPort());

@@ -44,7 +44,7 @@ QByteArray serOf(const cv::Mat &picture)
     for (const int field : fields)
         append(bytes, field, 4);
     bytes.append(QByteArray(120, ' ')); // observer, instrument, telescope
-    append(bytes, 0, 16);               // no dates
+    bytes.append(QByteArray(16, '\0')); // no dates
     for (int y = 0; y < picture.rows; ++y)
         bytes.append(picture.ptr<char>(y), int(picture.elemSize()) * picture.cols);
     return bytes;
