@@ -104,7 +104,7 @@ QString numberText(Number number, const assistant::Advice &advice, const QLocale
     case Number::Whole:
         return locale.toString(std::llround(advice.first));
     case Number::Degrees:
-        return degreesText(advice.first, locale);
+        return turnText(advice.first, locale);
     case Number::Angle:
         return angleText(advice.first, locale);
     case Number::OneDecimal:

@@ -122,7 +122,7 @@ Display displayOf(const assistant::Status &status, const assistant::Settings &se
     addAdvice(display, status.advice, dismissed, locale);
     const bool isTurned =
         status.stage == assistant::Stage::Axis || status.stage == assistant::Stage::Bolts;
-    display.axisTurn = isTurned ? degreesText(status.axis.turnedDegrees, locale) : dash();
+    display.axisTurn = isTurned ? turnText(status.axis.turnedDegrees, locale) : dash();
     display.axisShare = turnShare(status.axis);
     display.axisEnough = status.axis.enough;
     return display;

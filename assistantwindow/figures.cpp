@@ -55,6 +55,12 @@ QString degreesText(double degrees, const QLocale &locale)
     return locale.toString(std::llround(degrees)) + QStringLiteral("°");
 }
 
+QString turnText(double degrees, const QLocale &locale)
+{
+    constexpr double whole = 1e-6; // what computing leaves of a whole number
+    return degreesText(std::floor(degrees + whole), locale);
+}
+
 QString exposureText(double microseconds, const QLocale &locale)
 {
     if (!(microseconds > 0.0) || !std::isfinite(microseconds))

@@ -19,6 +19,8 @@ QString uncertaintyText(double sigmaArcseconds, const QLocale &locale);
 
 /// Whole degrees, "23°"; a dash if not finite.
 QString degreesText(double degrees, const QLocale &locale);
+/// Degrees of turn, of which a part does not count: 14.98 are 14, since 15 are asked for.
+QString turnText(double degrees, const QLocale &locale);
 
 /// "250 ms", from a second on "2.5 s".
 QString exposureText(double microseconds, const QLocale &locale);

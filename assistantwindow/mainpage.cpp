@@ -69,7 +69,9 @@ double exposureOf(int position, Range range)
 
 bool isGoalReached(bool before, const Display &display)
 {
-    return display.stage == assistant::Stage::Bolts && (before || display.aligned);
+    constexpr double farAgain = 60.0; // arcseconds
+    const bool isFar = display.total.arcseconds && *display.total.arcseconds >= farAgain;
+    return display.stage == assistant::Stage::Bolts && (display.aligned || (before && !isFar));
 }
 
 void MainPage::show(const Display &display, const Snapshot &snapshot, bool isConnected,

@@ -90,8 +90,8 @@ private:
     QElapsedTimer clock; ///< for `asked`
 };
 
-/// Whether the goal was reached in this stage: it stays so while the number wavers about it, and
-/// while there is no number.
+/// Whether the goal was reached in this stage: it stays so while the number wavers about it, below
+/// an arcminute, and while there is no number.
 bool isGoalReached(bool before, const Display &display);
 /// How wide the panel beside the picture is on a page of this size, pixels.
 int panelWidth(QSize page);

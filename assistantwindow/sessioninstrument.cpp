@@ -6,10 +6,7 @@
 
 namespace assistantwindow
 {
-SessionInstrument::SessionInstrument(const assistant::Settings &settings)
-    : session(settings)
-{
-}
+SessionInstrument::SessionInstrument(const assistant::Settings &settings) : session(settings) {}
 
 void SessionInstrument::findCameras()
 {

@@ -74,6 +74,7 @@ private slots:
     void initTestCase() { initialiseResources(); }
     void ringIsFullWhenItIsEnough_data();
     void ringIsFullWhenItIsEnough();
+    void turnIsNotRoundedUp();
     void hintNamesTheCondition();
     void goalStaysReached_data();
     void goalStaysReached();
@@ -112,6 +113,20 @@ void AssistantPagesTest::ringIsFullWhenItIsEnough()
     QTEST(turnShare(axis), "share");
 }
 
+/// "15°" is not shown before 15 degrees count as such.
+void AssistantPagesTest::turnIsNotRoundedUp()
+{
+    assistant::Status status;
+    status.stage = Stage::Axis;
+    status.axis.turnedDegrees = 14.98;
+    status.advice = {{AdviceCode::TurnFurther, 14.98, 0.0, {}}};
+    const Display display = displayOf(status, {}, english);
+    QCOMPARE(display.axisTurn, QStringLiteral("14°"));
+    QCOMPARE(display.advice, QStringLiteral("Turn the RA axis further: 14° so far."));
+    QCOMPARE(turnText(15.0, english), QStringLiteral("15°"));
+    QCOMPARE(turnText(0.3, english), QStringLiteral("0°"));
+}
+
 void AssistantPagesTest::hintNamesTheCondition()
 {
     madestatus::MadeInstrument instrument;
@@ -127,12 +142,16 @@ void AssistantPagesTest::goalStaysReached_data()
     QTest::addColumn<Stage>("stage");
     QTest::addColumn<bool>("before");
     QTest::addColumn<bool>("aligned");
+    QTest::addColumn<double>("total"); // arcseconds; 0: none
     QTest::addColumn<bool>("reached");
-    QTest::newRow("on the way") << Stage::Bolts << false << false << false;
-    QTest::newRow("now") << Stage::Bolts << false << true << true;
-    QTest::newRow("the number wavers") << Stage::Bolts << true << false << true;
-    QTest::newRow("begun again") << Stage::Sky << true << false << false;
-    QTest::newRow("the axis is measured again") << Stage::Axis << true << false << false;
+    QTest::newRow("on the way") << Stage::Bolts << false << false << 25.0 << false;
+    QTest::newRow("now") << Stage::Bolts << false << true << 19.0 << true;
+    QTest::newRow("the number wavers") << Stage::Bolts << true << false << 25.0 << true;
+    QTest::newRow("a cloud") << Stage::Bolts << true << false << 0.0 << true;
+    QTest::newRow("far off again") << Stage::Bolts << true << false << 60.0 << false;
+    QTest::newRow("a goal of two arcminutes") << Stage::Bolts << false << true << 90.0 << true;
+    QTest::newRow("begun again") << Stage::Sky << true << false << 0.0 << false;
+    QTest::newRow("the axis is measured again") << Stage::Axis << true << false << 0.0 << false;
 }
 
 void AssistantPagesTest::goalStaysReached()
@@ -140,7 +159,10 @@ void AssistantPagesTest::goalStaysReached()
     QFETCH(Stage, stage);
     QFETCH(bool, before);
     QFETCH(bool, aligned);
+    QFETCH(double, total);
     Display display;
+    if (total > 0.0)
+        display.total.arcseconds = total;
     display.stage = stage;
     display.aligned = aligned;
     QTEST(isGoalReached(before, display), "reached");
