@@ -31,6 +31,7 @@ private slots:
     void alignsByItself_data();
     void alignsByItself();
     void showsTheViews();
+    void assistantAlignsByItself();
     void saysWhatIsInItsWay();
     void refusesStrayOptions_data();
     void refusesStrayOptions();
@@ -38,6 +39,7 @@ private slots:
 private:
     /// Runs the tour and stores what it prints.
     void run(const QStringList &options);
+    void runProgram(const QString &program, const QStringList &options);
     QStringList pictures() const { return QDir(folder->path()).entryList({"*.png"}); }
     double told(const char *before, const char *after) const;
 
@@ -55,8 +57,13 @@ void TourTest::init()
 
 void TourTest::run(const QStringList &options)
 {
+    runProgram(TOUR_PROGRAM, QStringList{"--fast", "--zoom", "50"} + options);
+}
+
+void TourTest::runProgram(const QString &program, const QStringList &options)
+{
     QProcess tour;
-    tour.start(TOUR_PROGRAM, QStringList{"--fast", "--zoom", "50"} + options);
+    tour.start(program, options);
     QVERIFY(tour.waitForFinished(longestTour));
     output = tour.readAllStandardOutput();
     errors = tour.readAllStandardError();
@@ -109,6 +116,22 @@ void TourTest::showsTheViews()
         QVERIFY2(pictures().contains(name), name);
     QVERIFY(pictures().filter("menu-").size() >= 6);
     QVERIFY(pictures().filter("dialog").size() == 4);
+}
+
+/// As ./run --assistant --tour does without a screen.
+void TourTest::assistantAlignsByItself()
+{
+    runProgram(ASSISTANT_TOUR_PROGRAM, {"--fast", "--pictures", folder->path(), "--south"});
+    QVERIFY2(exitCode == 0, errors);
+    QVERIFY2(told("true error before:", "arcminutes") > smallestError, output);
+    const double rest = told("true error after:", "arcseconds");
+    QVERIFY2(rest >= 0 && rest < 15.0, output);
+    for (const char *step : {"connect", "sky", "axis", "bolts", "large", "aligned", "report",
+                             "night", "red", "pole"}) {
+        const QStringList found = pictures().filter(step);
+        QVERIFY2(found.size() == 1, step);
+        QVERIFY2(!QImage(folder->filePath(found.first())).isNull(), step);
+    }
 }
 
 void TourTest::saysWhatIsInItsWay()
