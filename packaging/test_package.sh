@@ -260,9 +260,10 @@ check "what it recommends and suggests can be installed" in_root apt-get -q -s s
 
 mkdir -p "$root/tmp/.X11-unix" && chmod 1777 "$root/tmp"
 mkdir -p /tmp/.X11-unix
-# A free display; its number is available as soon as it accepts connections.
+# A free display; its number is available as soon as it accepts connections. It refuses none while no
+# window is open, as a server that resets itself does.
 mkfifo "$scratch/display"
-Xvfb -displayfd 5 -ac -screen 0 1366x900x24 5>"$scratch/display" >"$scratch/xvfb" 2>&1 &
+Xvfb -displayfd 5 -noreset -ac -screen 0 1366x900x24 5>"$scratch/display" >"$scratch/xvfb" 2>&1 &
 screen=$!
 read -r -t 60 number <"$scratch/display"
 export DISPLAY=:$number
