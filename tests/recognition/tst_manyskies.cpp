@@ -20,7 +20,7 @@ constexpr int skies = 8, falseFrames = 40;
 constexpr int skies = 60, falseFrames = 304;
 #endif
 constexpr int firstSky = 5000, firstFalse = 50000; // others than the recorded ones
-constexpr int enoughStars = 20;
+constexpr int enoughVisible = 20;
 } // namespace
 
 class ManySkiesTest : public QObject
@@ -42,7 +42,7 @@ void ManySkiesTest::everySkyIsRecognised()
     std::vector<double> errors;
     for (int number = firstSky; number < firstSky + skies; ++number) {
         const RandomSky sky = randomSky(std::uint64_t(number));
-        if (starsAbove(sky, 5.0) < enoughStars)
+        if (starsAbove(sky, 5.0) < enoughVisible)
             continue;
         ++enough;
         const cv::Mat frame = painter.frameOf(sky);
