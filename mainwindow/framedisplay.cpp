@@ -3,6 +3,7 @@
 #include "mainwindow/mainwindow.h"
 
 #include "camera/session.h"
+#include "core/poolthread.h"
 #include "core/saturate.h"
 #include "mainwindow/pointtext.h"
 #include "ui_mainwindow.h"
@@ -38,9 +39,11 @@ void MainWindow::showImages()
     const QImage picture = session.frameQueue.takeOldest();
     if (!picture.isNull()) {
         sinceLastPicture.start();
-        displayImage = picture.scaled(scaledSide(picture.width(), zoomFactor),
-                                      scaledSide(picture.height(), zoomFactor), Qt::KeepAspectRatio,
-                                      Qt::SmoothTransformation);
+        displayImage = inPoolThread([&] {
+            return picture.scaled(scaledSide(picture.width(), zoomFactor),
+                                  scaledSide(picture.height(), zoomFactor), Qt::KeepAspectRatio,
+                                  Qt::SmoothTransformation);
+        });
         const QPixmap pixmap = QPixmap::fromImage(displayImage);
         ui->label_showImg->setPixmap(pixmap);
         if (const auto place = std::exchange(placeWithNextPicture, std::nullopt))

@@ -3,6 +3,7 @@
 #include "mainwindow/mainwindow.h"
 
 #include "camera/session.h"
+#include "core/poolthread.h"
 #include "core/saturate.h"
 #include "geometry/starcatalogue.h"
 #include "geometry/templateoverlay.h"
@@ -48,14 +49,17 @@ void MainWindow::computeTemplatePoles()
 void MainWindow::rotateTemplate(int angle)
 {
     if (ui->label_templateImg->isVisible())
-        showPlaced(*ui->label_templateImg,
-                   turnTemplate(regionMask(), angle, zoomFactor, clickViewPos));
+        showPlaced(*ui->label_templateImg, inPoolThread([&] {
+            return turnTemplate(regionMask(), angle, zoomFactor, clickViewPos);
+        }));
     rotateValue = angle;
 }
 
 void MainWindow::showFlatTemplate()
 {
-    showPlaced(*ui->label_templateImg, flatTemplate(regionMask(), zoomFactor, templateCenter));
+    showPlaced(*ui->label_templateImg, inPoolThread([&] {
+        return flatTemplate(regionMask(), zoomFactor, templateCenter);
+    }));
 }
 
 /// Computes from the template's angle where the pole star must be placed, and shows it.
@@ -72,10 +76,13 @@ void MainWindow::scaleDirectionArrow()
     const auto side = [this](int full) {
         return std::min(saturatingInt(double(float(full) * zoomFactor)), largestArrow);
     };
-    const QPixmap arrow = QPixmap(QStringLiteral(":/images/direction.png"))
-                              .scaled(side(arrowSize.width()), side(arrowSize.height()),
-                                      Qt::KeepAspectRatio, Qt::SmoothTransformation);
-    directionArrow->setPixmap(arrow);
+    const QImage arrow = inPoolThread([&] {
+        return QImage(QStringLiteral(":/images/direction.png"))
+            .convertToFormat(QImage::Format_ARGB32_Premultiplied)
+            .scaled(side(arrowSize.width()), side(arrowSize.height()), Qt::KeepAspectRatio,
+                    Qt::SmoothTransformation);
+    });
+    directionArrow->setPixmap(QPixmap::fromImage(arrow));
     placeImageOverlays();
 }
 
