@@ -67,11 +67,15 @@ QImage brightened(const QImage &picture)
     if (median > brightSky)
         return picture;
     const std::array<uchar, 256> curve = curveOf(median);
-    QImage result = picture.convertToFormat(QImage::Format_RGB888);
+    // Grey is converted here: the toolkit does it in several threads (core/poolthread.h).
+    const bool isGrey = picture.format() == QImage::Format_Grayscale8;
+    QImage result = isGrey ? QImage(picture.size(), QImage::Format_RGB888)
+                           : picture.convertToFormat(QImage::Format_RGB888);
     for (int y = 0; y < result.height(); ++y) {
+        const uchar *const grey = picture.constScanLine(y);
         uchar *const line = result.scanLine(y);
         for (int x = 0; x < 3 * result.width(); ++x)
-            line[x] = curve[line[x]];
+            line[x] = curve[isGrey ? grey[x / 3] : line[x]];
     }
     return result;
 }

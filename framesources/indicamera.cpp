@@ -18,6 +18,7 @@ constexpr double definePatience = 2.0;                  // for what not every de
 constexpr double readoutPatience = 1.5;                 // for a device to take region and binning
 constexpr int readoutTries = 3;                         // some refuse while they expose
 constexpr double silencePatience = 6.0;                 // beyond the exposure
+constexpr double longestRemainder = 1.0;                // seconds of an exposure of another length
 constexpr double longestStreamed = 2.0;                 // seconds of an exposure
 
 double seconds(std::chrono::steady_clock::duration span)
@@ -232,7 +233,9 @@ void IndiCamera::startFrames(const Wish &wish)
     const bool stream = canStream && (!canExpose || wish.exposureSeconds <= longestStreamed);
     if (streaming && stream && wish.exposureSeconds == exposure)
         return;
-    if (streaming)
+    const double remainder = exposure - seconds(Clock::now() - lastFrame);
+    if (streaming || (exposing && wish.exposureSeconds < exposure && remainder > longestRemainder &&
+                      client->has("CCD_ABORT_EXPOSURE")))
         stopFrames();
     if (exposing)
         return;

@@ -4,6 +4,7 @@
 
 #include "camera/cameraopening.h"
 #include "camera/session.h"
+#include "core/poolthread.h"
 #include "core/saturate.h"
 #include "mainwindow/wizardtable.h"
 #include "ui_mainwindow.h"
@@ -162,7 +163,7 @@ void MainWindow::showDisconnected(CameraClosing::State state)
     session.frameQueue.clear();
     session.magnifierQueue.clear();
     ui->label_showImg->clear();
-    magnifier->setSource(QPixmap::fromImage(blankImage));
+    magnifier->setSource(pixmapOf(blankImage));
     magnifier->update();
 }
 

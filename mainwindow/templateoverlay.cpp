@@ -33,7 +33,7 @@ void showPlaced(QLabel &label, const PlacedTemplate &placed)
     if (placed.image.isNull())
         return;
     label.setGeometry(placed.geometry);
-    label.setPixmap(QPixmap::fromImage(placed.image));
+    label.setPixmap(pixmapOf(placed.image));
 }
 } // namespace
 

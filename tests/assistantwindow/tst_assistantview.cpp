@@ -35,6 +35,7 @@ private slots:
     void redThemeHasOnlyRed();
     void reddenedKeepsBrightness();
     void brightSkyStays();
+    void greyIsBrightenedLikeColour();
     void overviewLeavesTheAxisFree_data();
     void overviewLeavesTheAxisFree();
     void scaleBars_data();
@@ -216,6 +217,17 @@ void AssistantViewTest::brightSkyStays()
     QVERIFY(qGreen(bright.pixel(5, 5)) > 60);
     QVERIFY(qGreen(bright.pixel(8, 8)) <= 20);
     QVERIFY(brightened(QImage()).isNull());
+}
+
+void AssistantViewTest::greyIsBrightenedLikeColour()
+{
+    QImage grey(67, 41, QImage::Format_Grayscale8);
+    for (int y = 0; y < grey.height(); ++y)
+        for (int x = 0; x < grey.width(); ++x)
+            grey.scanLine(y)[x] = uchar(x % 9 == 0 ? 3 * y : 12);
+    const QImage bright = brightened(grey);
+    QCOMPARE(bright.format(), QImage::Format_RGB888);
+    QCOMPARE(bright, brightened(grey.convertToFormat(QImage::Format_RGB888)));
 }
 
 void AssistantViewTest::overviewLeavesTheAxisFree_data()

@@ -80,6 +80,7 @@ private slots:
     void recognisedAtTheProgramsScale();
     void poleIsWhereTheDriverPutIt();
     void exposureAndGainReachTheDevice();
+    void shorterExposureBeginsAtOnce();
     void streamComes();
     void videoEndsWithTheSource();
 
@@ -195,6 +196,20 @@ void IndiSensorsTest::exposureAndGainReachTheDevice()
     QCOMPARE(gain->value, gain->least + (gain->most - gain->least) * 0.25);
 }
 
+void IndiSensorsTest::shorterExposureBeginsAtOnce()
+{
+    QVERIFY(server.set({}));
+    framesources::SourceSettings settings;
+    settings.stream = false;
+    IndiSource source(server.port, simulatedCamera, settings);
+    source.exposure = 0.1;
+    QVERIFY2(!source.frame().empty(), qPrintable(source.lines().join("\n")));
+    source.exposure = 60.0;
+    QTRY_VERIFY_WITH_TIMEOUT(source.frame(1500).empty(), 10000);
+    source.exposure = 0.1;
+    QVERIFY2(!source.frame(5000).empty(), qPrintable(source.lines().join("\n")));
+}
+
 void IndiSensorsTest::streamComes()
 {
     QVERIFY(server.set({}));
@@ -204,7 +219,8 @@ void IndiSensorsTest::streamComes()
         QVERIFY2(!source.frame().empty(), qPrintable(source.lines().join("\n")));
     const auto device = server.client();
     QVERIFY(device && IndiServer::waitFor(*device, "CCD_VIDEO_STREAM"));
-    QVERIFY(device->isOn("CCD_VIDEO_STREAM", "STREAM_ON").value_or(false));
+    QVERIFY2(device->isOn("CCD_VIDEO_STREAM", "STREAM_ON").value_or(false),
+             qPrintable(source.lines().join("\n")));
     source.source->pause();
     QTRY_VERIFY_WITH_TIMEOUT((device->waitForNews(std::chrono::milliseconds(50)),
                               device->isOn("CCD_VIDEO_STREAM", "STREAM_OFF").value_or(false)),

@@ -61,6 +61,7 @@ private slots:
     void scalingIsSmooth();
     void picturesNeedNoSemaphore_data();
     void picturesNeedNoSemaphore();
+    void templateAndEndNeedNoSemaphore();
     void framesFromTheCamera_data();
     void framesFromTheCamera();
     void firstPictureIsCentred_data();
@@ -152,11 +153,33 @@ void FrameDisplayTest::picturesNeedNoSemaphore()
     w.call("showImages");
     QVERIFY(!w.child<QLabel>("label_showImg").window()->grab().isNull());
     QCOMPARE(waitsOfTheWindow.load(), 0);
+    const double zoom = factor.toDouble();
+    QCOMPARE(w.child<QLabel>("label_showImg").pixmap(Qt::ReturnByValue).toImage(),
+             QPixmap::fromImage(picture.scaled(int(1280 * zoom), int(960 * zoom),
+                                               Qt::KeepAspectRatio, Qt::SmoothTransformation))
+                 .toImage());
     if (QThread::idealThreadCount() > 1) { // this is how the toolkit waits
         const QSize half = picture.size() / 2;
         QCOMPARE(picture.scaled(half, {}, Qt::SmoothTransformation).size(), half);
         QVERIFY(waitsOfTheWindow > 0);
     }
+}
+
+void FrameDisplayTest::templateAndEndNeedNoSemaphore()
+{
+    const CameraWindow w;
+    showFrame(starFrame({{800, 600}}));
+    w.connectCamera();
+    QVERIFY(w.waitForNewFrame());
+    w.enterStep(10);
+    waitsOfTheWindow = 0;
+    for (const char *zoom : {"action75", "action50", "action100"})
+        w.child<QAction>(zoom).trigger();
+    QVERIFY(!w.child<QLabel>("label_templateImg").pixmap(Qt::ReturnByValue).isNull());
+    QCOMPARE(waitsOfTheWindow.load(), 0);
+    w.trigger("actionConnect");
+    QTRY_VERIFY(w.child<QLabel>("label_showImg").pixmap(Qt::ReturnByValue).isNull());
+    QCOMPARE(waitsOfTheWindow.load(), 0);
 }
 
 void FrameDisplayTest::framesFromTheCamera_data()
