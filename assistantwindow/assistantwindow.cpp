@@ -210,23 +210,29 @@ void AssistantWindow::openLarge()
     if (currentWidget() == largePage)
         return;
     fullBefore = isFullScreen();
-    setCurrentWidget(largePage);
+    open(*largePage);
     setWindowState(windowState() | Qt::WindowFullScreen);
     largePage->backButton->setFocus();
     refresh();
+}
+
+/// Only the large view fills the screen, unless the window did before.
+void AssistantWindow::open(QWidget &page)
+{
+    const bool wasLarge = currentWidget() == largePage;
+    setCurrentWidget(&page);
+    if (wasLarge && !fullBefore)
+        setWindowState(windowState() & ~Qt::WindowFullScreen);
 }
 
 void AssistantWindow::openMain()
 {
     if (currentWidget() == mainPage)
         return;
-    const bool wasLarge = currentWidget() == largePage;
-    QPushButton *const opener = wasLarge                        ? mainPage->largeViewButton
+    QPushButton *const opener = currentWidget() == largePage    ? mainPage->largeViewButton
                                 : currentWidget() == reportPage ? mainPage->reportButton
                                                                 : mainPage->settingsButton;
-    setCurrentWidget(mainPage);
-    if (wasLarge && !fullBefore)
-        setWindowState(windowState() & ~Qt::WindowFullScreen);
+    open(*mainPage);
     placeSite();
     opener->setFocus(); // not Connect, which a second press would leave
     refresh();
@@ -236,13 +242,13 @@ void AssistantWindow::openSettings()
 {
     settingsPage->hostSite(sitePanel);
     settingsPage->open(SettingsPage::Site);
-    setCurrentWidget(settingsPage);
+    open(*settingsPage);
     settingsPage->backButton->setFocus();
 }
 
 void AssistantWindow::openReport()
 {
-    setCurrentWidget(reportPage);
+    open(*reportPage);
     reportPage->backButton->setFocus();
     refresh();
 }

@@ -47,6 +47,7 @@ private:
     void addShortcuts();
     void toggleConnection();
     void showCameras();
+    void open(QWidget &page);
     void openLarge();
     void openMain();
     void openSettings();
