@@ -141,8 +141,14 @@ void AssistantWindow::connectCamera()
     sitePanel->commit();
     const QString chosen = mainPage->chosenCamera();
     instrument.connectCamera(chosen.isEmpty() ? settings.cameraId : chosen);
-    if (!chosen.isEmpty() && chosen != settings.cameraId)
-        change([&chosen](assistant::Settings &s) { s.cameraId = chosen; });
+    rememberCamera(chosen);
+}
+
+/// @param id empty: of none
+void AssistantWindow::rememberCamera(const QString &id)
+{
+    if (!id.isEmpty() && id != settings.cameraId)
+        change([&id](assistant::Settings &s) { s.cameraId = id; });
 }
 
 void AssistantWindow::suggestSite(const assistant::KnownSite &site)
@@ -196,6 +202,7 @@ void AssistantWindow::refresh()
     if (currentWidget() == reportPage)
         reportPage->show(instrument.report().value_or(assistant::Report()));
     sound(snapshot);
+    rememberCamera(snapshot.cameraId); // the list may come after the camera
 }
 
 void AssistantWindow::sound(const Snapshot &snapshot)

@@ -45,6 +45,7 @@ protected:
 private:
     void connectButtons();
     void addShortcuts();
+    void rememberCamera(const QString &id);
     void toggleConnection();
     void showCameras();
     void open(QWidget &page);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
-// Does the site reach the window and stay: from the option, the other program's settings, the keys?
+// What is kept of the site, from the option, the other program's settings, the keys; and of the
+// camera?
 #include "assistant/settingsstore.h"
+#include "assistantwindow/sessioninstrument.h"
 #include "core/settingsfile.h"
 #include "tests/assistantwindow/scenes.h"
 
@@ -25,6 +27,7 @@ class AssistantSiteTest : public QObject
 private slots:
     void initTestCase() { initialiseResources(); }
     void optionIsKept();
+    void openCameraIsKept();
     void otherProgramsSiteIsTakenOver();
     void ownSiteIsNotReplaced();
     void typedSiteIsKept();
@@ -80,6 +83,24 @@ void AssistantSiteTest::optionIsKept()
     const Shown shown(loaded);
     QCOMPARE(shown.latitude(), -33.9);
     QCOMPARE(shown.longitude(), 18.4);
+}
+
+/// A window that connects before the cameras are listed, on the virtual camera.
+void AssistantSiteTest::openCameraIsKept()
+{
+    qputenv("QUORVANDEL_SKY", QFile::encodeName(folder.filePath("sky.ini")));
+    assistantwindow::SessionInstrument instrument(AssistantSettings{});
+    instrument.connectCamera({});
+    QTRY_VERIFY_WITH_TIMEOUT(!instrument.latest().cameraId.isEmpty(), 20000);
+    QCOMPARE(instrument.latest().cameraId, instrument.cameras().front().id);
+    std::optional<AssistantSettings> kept;
+    const assistantwindow::AssistantWindow window(
+        instrument, {}, [&kept](const AssistantSettings &changed) { kept = changed; });
+    QVERIFY(kept);
+    QCOMPARE(kept->cameraId, instrument.cameras().front().id);
+    instrument.disconnectCamera();
+    QTRY_VERIFY_WITH_TIMEOUT(instrument.latest().cameraId.isEmpty(), 20000);
+    QVERIFY(instrument.close(20000));
 }
 
 void AssistantSiteTest::enterInTheOtherProgram(float latitude, float longitude,

@@ -159,6 +159,7 @@ private slots:
     void keyboardAloneOperatesTheWindow();
     void exposureSliderTurnsTheAutomaticOff();
     void camerasAreListedWhereThereIsAChoice();
+    void openCameraIsRemembered();
     void sliderStaysWhileTheCameraFollows();
     void siteIsTypedWithTheKeyboard();
     void typedSiteCountsWhenConnecting();
@@ -398,6 +399,19 @@ void AssistantControlsTest::camerasAreListedWhereThereIsAChoice()
     shown.instrument.entries.pop_back();
     shown.window->refresh();
     QVERIFY(!camera->isVisible());
+}
+
+/// As where the window connects before it has a list to choose from.
+void AssistantControlsTest::openCameraIsRemembered()
+{
+    Shown shown(scenes::numberOf("connect"));
+    shown.instrument.entries.clear();
+    shown.window->refresh();
+    QTest::keyClick(shown.window.get(), Qt::Key_F2);
+    QCOMPARE(shown.window->currentSettings().cameraId, QString());
+    shown.instrument.snapshot.cameraId = QStringLiteral("2");
+    shown.window->refresh();
+    QCOMPARE(shown.window->currentSettings().cameraId, QStringLiteral("2"));
 }
 
 void AssistantControlsTest::sliderStaysWhileTheCameraFollows()
