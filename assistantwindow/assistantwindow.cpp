@@ -151,10 +151,10 @@ void AssistantWindow::rememberCamera(const QString &id)
         change([&id](assistant::Settings &s) { s.cameraId = id; });
 }
 
-void AssistantWindow::suggestSite(const assistant::KnownSite &site)
+void AssistantWindow::suggestLatitude(double latitude)
 {
     if (!settings.site)
-        sitePanel->suggest(site);
+        sitePanel->suggestLatitude(latitude);
 }
 
 void AssistantWindow::toggleConnection()
