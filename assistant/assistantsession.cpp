@@ -222,10 +222,13 @@ void AssistantSession::lookAt(const NewestFrame::Taken &taken)
 {
     if (synchronisedAt == 0.0 || taken.steadySeconds - synchronisedAt > clockLook) {
         synchronised = clocks.synchronised();
+        confirmed = clocks.confirmed();
         synchronisedAt = taken.steadySeconds;
     }
-    // A clock that is synchronised is right, whatever was written while it was not.
-    const bool behind = !synchronised && isBehind(taken.utcSeconds, clocks.certainPast);
+    // A clock that is synchronised is right, whatever was written while it was not; so is one that
+    // the hardware's confirms.
+    const bool behind =
+        !synchronised && !confirmed && isBehind(taken.utcSeconds, clocks.certainPast);
     Status status = guide.observe({taken.frame, taken.utcSeconds, taken.steadySeconds,
                                    taken.exposureMicroseconds, synchronised, behind});
     if (const auto wanted = exposureOrder.due(guide.wantedExposure())) {

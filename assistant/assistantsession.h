@@ -88,7 +88,7 @@ private:
     Settings inUse;
     Recorder recorder;
     ExposureOrder exposureOrder;
-    bool synchronised = true;
+    bool synchronised = true, confirmed = false;
     double synchronisedAt = 0.0; ///< steady seconds of the last look; 0: none yet
 
     mutable std::mutex mutex; // guards what follows

@@ -16,10 +16,29 @@ namespace assistant
 {
 namespace
 {
+constexpr char thisProgram[] = "/proc/self/exe";
+
 double systemTime()
 {
     const auto now = std::chrono::system_clock::now().time_since_epoch();
     return std::chrono::duration<double>(now).count();
+}
+
+/// Seconds east of UTC, of the computer's time zone.
+double zoneNow()
+{
+    const std::time_t now = std::time(nullptr);
+    std::tm local = {};
+    return localtime_r(&now, &local) ? double(local.tm_gmtoff) : 0.0;
+}
+
+/// Whether a hardware clock did not lose its time, as one without a battery.
+bool keepsTime(std::optional<double> hardware, double certainPast)
+{
+    constexpr double day = 86400.0, neverSet = 366.0 * day; // since 1970, where no past is known
+    // Files of a wrong clock that was ahead are no reason to distrust the hardware's.
+    constexpr double lost = 30.0 * day;
+    return hardware && *hardware >= neverSet && *hardware >= certainPast - lost;
 }
 } // namespace
 
@@ -31,20 +50,24 @@ double ClockWatch::step(double utcSeconds, double steadySeconds)
     return std::abs(by) >= noticedClockStep ? by : 0.0;
 }
 
-Clocks systemClocks()
+Clocks systemClocks(const ClockSources &sources)
 {
     const double certainPast = newestDate(datedFiles());
+    const double built = newestDate({thisProgram});
     return {systemTime,
             [] { // the standard library's does not run while the computer sleeps
                 timespec now = {};
                 clock_gettime(CLOCK_BOOTTIME, &now);
                 return double(now.tv_sec) + 1e-9 * double(now.tv_nsec);
             },
-            [certainPast] {
-                return isClockSynchronised() &&
-                       !contradicts(systemTime(), hardwareTime(), certainPast);
+            [sources, certainPast] {
+                return sources.kernel() &&
+                       !contradicts(systemTime(), hardwareTime(sources.hardware), certainPast);
             },
-            certainPast};
+            certainPast,
+            [sources, built] {
+                return confirms(systemTime(), hardwareTime(sources.hardware), built, zoneNow());
+            }};
 }
 
 bool isBehind(double utcSeconds, double certainPast)
@@ -54,12 +77,15 @@ bool isBehind(double utcSeconds, double certainPast)
 
 bool contradicts(double utcSeconds, std::optional<double> hardware, double certainPast)
 {
-    constexpr double day = 86400.0, neverSet = 366.0 * day; // since 1970, where no past is known
-    // Files of a wrong clock that was ahead are no reason to distrust the hardware's.
-    constexpr double lost = 30.0 * day;
-    if (!hardware || *hardware < neverSet || *hardware < certainPast - lost)
+    return keepsTime(hardware, certainPast) && std::abs(utcSeconds - *hardware) > zonesSlack;
+}
+
+bool confirms(double utcSeconds, std::optional<double> hardware, double built, double zone)
+{
+    if (!keepsTime(hardware, built))
         return false;
-    return std::abs(utcSeconds - *hardware) > zonesSlack;
+    const double ahead = *hardware - utcSeconds;
+    return std::min(std::abs(ahead), std::abs(ahead - zone)) <= datesSlack;
 }
 
 std::optional<double> hardwareTime(const std::string &file)
@@ -73,7 +99,7 @@ std::optional<double> hardwareTime(const std::string &file)
 
 std::vector<std::string> datedFiles()
 {
-    return {"/proc/self/exe", settingsPath().toStdString(), "/etc/ld.so.cache",
+    return {thisProgram, settingsPath().toStdString(), "/etc/ld.so.cache",
             "/var/lib/systemd/timesync/clock"};
 }
 

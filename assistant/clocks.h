@@ -34,9 +34,21 @@ struct Clocks {
     /// clock does not contradict it.
     std::function<bool()> synchronised;
     double certainPast = 0.0; ///< seconds since 1970: a moment that has passed; 0: none is known
+    /// Whether the hardware's clock confirms the computer's.
+    std::function<bool()> confirmed;
 };
+
+/// Whether the kernel counts the computer's clock as synchronised; true where it cannot say.
+bool isClockSynchronised();
+
+/// What the system says of its clocks.
+struct ClockSources {
+    std::string hardware = "/sys/class/rtc/rtc0/since_epoch"; ///< as for `hardwareTime`
+    std::function<bool()> kernel = isClockSynchronised;
+};
+
 /// The moment that has passed is the newest of `datedFiles`, read once.
-Clocks systemClocks();
+Clocks systemClocks(const ClockSources &sources = {});
 
 /// A clock may read so many seconds less than a file's date: some file systems keep local time.
 inline constexpr double datesSlack = 3600.0;
@@ -55,9 +67,16 @@ inline constexpr double zonesSlack = 15.0 * 3600.0;
 /// @param hardware as by `hardwareTime` @param certainPast seconds since 1970; 0: none is known
 bool contradicts(double utcSeconds, std::optional<double> hardware, double certainPast);
 
+/// Whether both clocks agree to `datesSlack`, the hardware's in UTC or in local time, and it did
+/// not lose its time. Files that were written while the computer's clock was ahead then prove
+/// nothing.
+/// @param hardware as by `hardwareTime` @param built seconds since 1970: the program's date, which
+/// a hardware clock that lost its time does not reach; 0: not known @param zone seconds east of UTC
+bool confirms(double utcSeconds, std::optional<double> hardware, double built, double zone);
+
 /// Seconds since 1970 in the kernel's file of a hardware clock, UTC or local time, as the computer
 /// keeps it; nothing if it cannot be read.
-std::optional<double> hardwareTime(const std::string &file = "/sys/class/rtc/rtc0/since_epoch");
+std::optional<double> hardwareTime(const std::string &file);
 
 /// Files that were written in the past: this program, its settings, and what the system writes when
 /// programs are installed or its clock is synchronised.
@@ -68,7 +87,4 @@ double newestDate(const std::vector<std::string> &paths);
 
 /// By the result of `adjtimex`: a failure, -1, says nothing of the clock.
 bool saysSynchronised(int state);
-
-/// Whether the kernel counts the computer's clock as synchronised; true where it cannot say.
-bool isClockSynchronised();
 } // namespace assistant

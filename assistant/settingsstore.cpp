@@ -184,38 +184,28 @@ bool saveSettings(const QString &path, const Settings &settings)
     return false;
 }
 
-KnownSite siteOfWizard(const QString &wizardSettings)
+std::optional<double> latitudeOfWizard(const QString &wizardSettings)
 {
     ::Settings wizard;
-    const ::Settings defaults;
-    KnownSite site;
-    if (!readSettings(wizardSettings, wizard))
-        return site;
-    const auto entered = [](float value, float byDefault, double most) -> std::optional<double> {
-        if (value == byDefault || !(std::abs(double(value)) <= most))
-            return std::nullopt;
-        // As many digits as were entered: a float's own would be more.
-        return QString::number(double(value), 'g', 7).toDouble();
-    };
-    const auto latitude = entered(wizard.latitude, defaults.latitude, 90.0);
-    if (!latitude)
-        return site;
+    if (!readSettings(wizardSettings, wizard) || wizard.latitude == ::Settings().latitude ||
+        !(std::abs(double(wizard.latitude)) <= 90.0))
+        return std::nullopt;
+    // As many digits as were entered: a float's own would be more.
+    const double entered = QString::number(double(wizard.latitude), 'g', 7).toDouble();
     const bool southern = wizard.regionName == QLatin1String("South");
-    site.latitude = southern ? -std::abs(*latitude) : std::abs(*latitude);
-    site.longitude = entered(wizard.longitude, defaults.longitude, 180.0);
-    return site;
+    return southern ? -std::abs(entered) : std::abs(entered);
 }
 
-KnownSite siteOfTheOtherProgram()
+std::optional<double> latitudeOfTheOtherProgram()
 {
     const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
     for (const QString &folder :
          {data + QStringLiteral("/quorvandel/bin"), QCoreApplication::applicationDirPath()}) {
         const QString file = folder + QStringLiteral("/Quorvandel.ini");
         if (QFileInfo(file).isFile())
-            return siteOfWizard(file);
+            return latitudeOfWizard(file);
     }
-    return {};
+    return std::nullopt;
 }
 
 std::optional<astrometry::Site> parseSite(const QString &text)

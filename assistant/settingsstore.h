@@ -20,18 +20,14 @@ Settings loadSettings(const QString &path);
 /// warning in the log that says why, if it cannot be written: the old one stays.
 bool saveSettings(const QString &path, const Settings &settings);
 
-/// What is known of the site.
-struct KnownSite {
-    std::optional<double> latitude, longitude; ///< degrees, north and east positive
-};
-
-/// From the wizard's settings file. Its defaults are no site that anybody entered; the sign of the
-/// latitude follows the region.
-KnownSite siteOfWizard(const QString &wizardSettings);
+/// Degrees, north positive, from the wizard's settings file; its default is no latitude that
+/// anybody entered, and the sign follows the region. The longitude there is without a side: its
+/// field goes from 0 to 180, so that 70 may be east or west.
+std::optional<double> latitudeOfWizard(const QString &wizardSettings);
 
 /// What the user entered in quorvandel, which keeps its settings beside its executable: in the
 /// user's data folder, or, when it is started from where it was built, beside this program.
-KnownSite siteOfTheOtherProgram();
+std::optional<double> latitudeOfTheOtherProgram();
 
 /// "LATITUDE,LONGITUDE" in degrees with decimal points, north and east positive; nothing for
 /// anything else.

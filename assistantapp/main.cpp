@@ -85,8 +85,8 @@ int main(int argc, char *argv[])
             instrument, settings, [](const assistant::Settings &changed) {
                 assistant::saveSettings(assistant::settingsPath(), changed);
             });
-        if (!settings.site)
-            window.suggestSite(assistant::siteOfTheOtherProgram());
+        if (const auto latitude = assistant::latitudeOfTheOtherProgram())
+            window.suggestLatitude(*latitude);
         termination.closeWindow(window);
         // On a small screen a title bar would push the last row out of sight.
         const QSize screen = QGuiApplication::primaryScreen()->availableSize();

@@ -141,14 +141,20 @@ void AssistantWindow::connectCamera()
     sitePanel->commit();
     const QString chosen = mainPage->chosenCamera();
     instrument.connectCamera(chosen.isEmpty() ? settings.cameraId : chosen);
-    if (!chosen.isEmpty() && chosen != settings.cameraId)
-        change([&chosen](assistant::Settings &s) { s.cameraId = chosen; });
+    rememberCamera(chosen);
 }
 
-void AssistantWindow::suggestSite(const assistant::KnownSite &site)
+/// @param id empty: of none
+void AssistantWindow::rememberCamera(const QString &id)
+{
+    if (!id.isEmpty() && id != settings.cameraId)
+        change([&id](assistant::Settings &s) { s.cameraId = id; });
+}
+
+void AssistantWindow::suggestLatitude(double latitude)
 {
     if (!settings.site)
-        sitePanel->suggest(site);
+        sitePanel->suggestLatitude(latitude);
 }
 
 void AssistantWindow::toggleConnection()
@@ -196,6 +202,7 @@ void AssistantWindow::refresh()
     if (currentWidget() == reportPage)
         reportPage->show(instrument.report().value_or(assistant::Report()));
     sound(snapshot);
+    rememberCamera(snapshot.cameraId); // the list may come after the camera
 }
 
 void AssistantWindow::sound(const Snapshot &snapshot)
@@ -210,23 +217,29 @@ void AssistantWindow::openLarge()
     if (currentWidget() == largePage)
         return;
     fullBefore = isFullScreen();
-    setCurrentWidget(largePage);
+    open(*largePage);
     setWindowState(windowState() | Qt::WindowFullScreen);
     largePage->backButton->setFocus();
     refresh();
+}
+
+/// Only the large view fills the screen, unless the window did before.
+void AssistantWindow::open(QWidget &page)
+{
+    const bool wasLarge = currentWidget() == largePage;
+    setCurrentWidget(&page);
+    if (wasLarge && !fullBefore)
+        setWindowState(windowState() & ~Qt::WindowFullScreen);
 }
 
 void AssistantWindow::openMain()
 {
     if (currentWidget() == mainPage)
         return;
-    const bool wasLarge = currentWidget() == largePage;
-    QPushButton *const opener = wasLarge                        ? mainPage->largeViewButton
+    QPushButton *const opener = currentWidget() == largePage    ? mainPage->largeViewButton
                                 : currentWidget() == reportPage ? mainPage->reportButton
                                                                 : mainPage->settingsButton;
-    setCurrentWidget(mainPage);
-    if (wasLarge && !fullBefore)
-        setWindowState(windowState() & ~Qt::WindowFullScreen);
+    open(*mainPage);
     placeSite();
     opener->setFocus(); // not Connect, which a second press would leave
     refresh();
@@ -236,13 +249,13 @@ void AssistantWindow::openSettings()
 {
     settingsPage->hostSite(sitePanel);
     settingsPage->open(SettingsPage::Site);
-    setCurrentWidget(settingsPage);
+    open(*settingsPage);
     settingsPage->backButton->setFocus();
 }
 
 void AssistantWindow::openReport()
 {
-    setCurrentWidget(reportPage);
+    open(*reportPage);
     reportPage->backButton->setFocus();
     refresh();
 }

@@ -33,8 +33,8 @@ public:
     ~AssistantWindow() override;
 
     void connectCamera();
-    /// Shows what is known of a site that is not set.
-    void suggestSite(const assistant::KnownSite &site);
+    /// Shows it unless the site is set. @param latitude degrees, north positive
+    void suggestLatitude(double latitude);
     const assistant::Settings &currentSettings() const { return settings; }
     /// Takes the latest frame; the timer looks every 20 ms whether there is one.
     void refresh();
@@ -45,8 +45,10 @@ protected:
 private:
     void connectButtons();
     void addShortcuts();
+    void rememberCamera(const QString &id);
     void toggleConnection();
     void showCameras();
+    void open(QWidget &page);
     void openLarge();
     void openMain();
     void openSettings();

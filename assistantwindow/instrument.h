@@ -24,6 +24,7 @@ struct Snapshot {
     QImage picture;
     double gain = 0.0;
     std::uint64_t number = 0; ///< another one whenever anything changed
+    QString cameraId;         ///< of the camera that is open; empty: none
 };
 
 struct Range {

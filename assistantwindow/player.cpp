@@ -26,14 +26,14 @@ public:
     void playPulse() override
     {
         if (!beep)
-            beep = effect("qrc:/assistant/pulse.wav", 1);
+            beep = effect(pulseSource, 1);
         beep->play();
     }
 
     void setTone(bool on) override
     {
         if (on && !tone)
-            tone = effect("qrc:/assistant/tone.wav", QSoundEffect::Infinite);
+            tone = effect(toneSource, QSoundEffect::Infinite);
         if (on)
             tone->play();
         else if (tone)

@@ -69,7 +69,10 @@ Snapshot SessionInstrument::latest()
 {
     assistant::Snapshot now = session.latest();
     remember(now.status);
-    return {std::move(now.status), std::move(now.picture), session.link().gain, now.number};
+    const assistant::CameraLink link = session.link();
+    const bool isLive = link.state == assistant::CameraLink::State::Live;
+    return {std::move(now.status), std::move(now.picture), link.gain, now.number,
+            isLive ? QString::fromStdString(link.id) : QString()};
 }
 
 void SessionInstrument::remember(const assistant::Status &status)

@@ -70,12 +70,9 @@ void SitePanel::show(const std::optional<astrometry::Site> &shown)
     longitude->field().setValue(shown ? shown->longitude : longitude->field().minimum());
 }
 
-void SitePanel::suggest(const assistant::KnownSite &site)
+void SitePanel::suggestLatitude(double degrees)
 {
-    if (site.latitude)
-        latitude->field().setValue(*site.latitude);
-    if (site.longitude)
-        longitude->field().setValue(*site.longitude);
+    latitude->field().setValue(degrees);
 }
 
 std::optional<astrometry::Site> SitePanel::site() const

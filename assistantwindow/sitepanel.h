@@ -2,10 +2,11 @@
 // The fields of the site: latitude and longitude, or nothing yet.
 #pragma once
 
-#include "assistant/settingsstore.h"
 #include "assistantwindow/touch.h"
+#include "astrometry/places.h"
 
 #include <functional>
+#include <optional>
 
 class QLabel;
 
@@ -18,8 +19,8 @@ class SitePanel : public QWidget
 public:
     explicit SitePanel(QWidget *parent = nullptr);
     void show(const std::optional<astrometry::Site> &site);
-    /// Fills the fields that are known.
-    void suggest(const assistant::KnownSite &site);
+    /// Fills one field; the site is known with the other. @param degrees north positive
+    void suggestLatitude(double degrees);
     void retranslate();
     std::optional<astrometry::Site> site() const;
     void focusLatitude();

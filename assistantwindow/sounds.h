@@ -24,6 +24,9 @@ public:
 
 /// The computer's loudspeaker and its speech engine.
 std::unique_ptr<Player> makePlayer();
+/// What it plays.
+inline constexpr char pulseSource[] = "qrc:/assistant/pulse.wav";
+inline constexpr char toneSource[] = "qrc:/assistant/tone.wav";
 /// Built with speech, and an engine is installed.
 bool isSpeechAvailable();
 

@@ -29,6 +29,7 @@ private slots:
     void unpluggedAndBack();
     void failingCameraIsTriedAgain();
     void aFailedRecordingIsSeen();
+    void clockBehindItsFilesIsReported_data();
     void clockBehindItsFilesIsReported();
     void connectsAgain();
     void callsReturnAtOnce();
@@ -201,20 +202,28 @@ void AssistantSessionTest::aFailedRecordingIsSeen()
     QVERIFY(comes(isSeen));
 }
 
-/// A computer that began its time again, and one whose clock is synchronised, whatever its files
-/// say.
+void AssistantSessionTest::clockBehindItsFilesIsReported_data()
+{
+    QTest::addColumn<bool>("synchronised");
+    QTest::addColumn<bool>("confirmed");
+    QTest::newRow("began its time again") << false << false;
+    QTest::newRow("synchronised, whatever its files say") << true << false;
+    QTest::newRow("confirmed by the hardware's clock") << false << true;
+}
+
 void AssistantSessionTest::clockBehindItsFilesIsReported()
 {
-    for (const bool synchronised : {false, true}) {
-        Clocks clocks = systemClocks();
-        const double behind = clocks.utc() - clocks.certainPast + 2.0 * datesSlack;
-        clocks.utc = [behind] { return systemClocks().utc() - behind; };
-        clocks.synchronised = [synchronised] { return synchronised; };
-        AssistantSession session({}, clocks);
-        session.connectCamera();
-        QVERIFY(comes([&] { return session.latest().status.frame > 0; }));
-        QCOMPARE(says(session.latest().status, AdviceCode::ClockBehind), !synchronised);
-    }
+    QFETCH(bool, synchronised);
+    QFETCH(bool, confirmed);
+    Clocks clocks = systemClocks();
+    const double behind = clocks.utc() - clocks.certainPast + 2.0 * datesSlack;
+    clocks.utc = [behind] { return systemClocks().utc() - behind; };
+    clocks.synchronised = [synchronised] { return synchronised; };
+    clocks.confirmed = [confirmed] { return confirmed; };
+    AssistantSession session({}, clocks);
+    session.connectCamera();
+    QVERIFY(comes([&] { return session.latest().status.frame > 0; }));
+    QCOMPARE(says(session.latest().status, AdviceCode::ClockBehind), !synchronised && !confirmed);
 }
 
 /// A new connection begins from the first stage.

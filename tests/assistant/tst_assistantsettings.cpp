@@ -30,8 +30,8 @@ private slots:
     void aLinkStays();
     void site_data();
     void site();
-    void siteOfTheWizard_data();
-    void siteOfTheWizard();
+    void latitudeOfTheWizard_data();
+    void latitudeOfTheWizard();
     void pathIsTheUsers();
 
 private:
@@ -198,44 +198,35 @@ void AssistantSettingsTest::site()
     }
 }
 
-void AssistantSettingsTest::siteOfTheWizard_data()
+void AssistantSettingsTest::latitudeOfTheWizard_data()
 {
     QTest::addColumn<float>("latitude");
-    QTest::addColumn<float>("longitude");
     QTest::addColumn<QString>("region");
     QTest::addColumn<bool>("hasLatitude");
-    QTest::addColumn<bool>("hasLongitude");
     QTest::addColumn<double>("expected");
-    const ::Settings none;
-    QTest::newRow("entered") << 52.1f << 11.6f << "North" << true << true << 52.1;
-    QTest::newRow("south") << 33.9f << 18.4f << "South" << true << true << -33.9;
-    QTest::newRow("south, signed") << -33.9f << 18.4f << "South" << true << true << -33.9;
-    QTest::newRow("defaults") << none.latitude << none.longitude << "North" << false << false
-                              << 0.0;
-    QTest::newRow("latitude alone") << 52.1f << none.longitude << "North" << true << false << 52.1;
-    QTest::newRow("out of range") << 99.0f << 18.0f << "North" << false << false << 0.0;
+    QTest::newRow("entered") << 52.1f << "North" << true << 52.1;
+    QTest::newRow("south") << 33.9f << "South" << true << -33.9;
+    QTest::newRow("south, signed") << -33.9f << "South" << true << -33.9;
+    QTest::newRow("default") << ::Settings().latitude << "North" << false << 0.0;
+    QTest::newRow("out of range") << 99.0f << "North" << false << 0.0;
 }
 
-void AssistantSettingsTest::siteOfTheWizard()
+void AssistantSettingsTest::latitudeOfTheWizard()
 {
     QFETCH(float, latitude);
-    QFETCH(float, longitude);
     QFETCH(QString, region);
     QFETCH(bool, hasLatitude);
-    QFETCH(bool, hasLongitude);
     QFETCH(double, expected);
     const QString place = folder.filePath("wizard.ini");
     ::Settings wizard;
     wizard.latitude = latitude;
-    wizard.longitude = longitude;
     wizard.regionName = region;
     writeSettings(place, wizard);
-    const KnownSite site = siteOfWizard(place);
-    QCOMPARE(site.latitude.has_value(), hasLatitude);
-    QCOMPARE(site.longitude.has_value(), hasLongitude);
+    const std::optional<double> found = latitudeOfWizard(place);
+    QCOMPARE(found.has_value(), hasLatitude);
     if (hasLatitude)
-        QCOMPARE(*site.latitude, expected);
-    QVERIFY(!siteOfWizard(folder.filePath("missing.ini")).latitude);
+        QCOMPARE(*found, expected);
+    QVERIFY(!latitudeOfWizard(folder.filePath("missing.ini")));
 }
 
 void AssistantSettingsTest::pathIsTheUsers()

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
-// Does the site reach the window and stay: from the option, the other program's settings, the keys?
+// What is kept of the site, from the option, the other program's settings, the keys; and of the
+// camera?
 #include "assistant/settingsstore.h"
+#include "assistantwindow/sessioninstrument.h"
 #include "core/settingsfile.h"
 #include "tests/assistantwindow/scenes.h"
 
@@ -25,7 +27,9 @@ class AssistantSiteTest : public QObject
 private slots:
     void initTestCase() { initialiseResources(); }
     void optionIsKept();
-    void otherProgramsSiteIsTakenOver();
+    void openCameraIsKept();
+    void otherProgramsLatitudeIsTakenOver();
+    void programTakesTheLatitudeOver();
     void ownSiteIsNotReplaced();
     void typedSiteIsKept();
 
@@ -82,6 +86,24 @@ void AssistantSiteTest::optionIsKept()
     QCOMPARE(shown.longitude(), 18.4);
 }
 
+/// A window that connects before the cameras are listed, on the virtual camera.
+void AssistantSiteTest::openCameraIsKept()
+{
+    qputenv("QUORVANDEL_SKY", QFile::encodeName(folder.filePath("sky.ini")));
+    assistantwindow::SessionInstrument instrument(AssistantSettings{});
+    instrument.connectCamera({});
+    QTRY_VERIFY_WITH_TIMEOUT(!instrument.latest().cameraId.isEmpty(), 20000);
+    QCOMPARE(instrument.latest().cameraId, instrument.cameras().front().id);
+    std::optional<AssistantSettings> kept;
+    const assistantwindow::AssistantWindow window(
+        instrument, {}, [&kept](const AssistantSettings &changed) { kept = changed; });
+    QVERIFY(kept);
+    QCOMPARE(kept->cameraId, instrument.cameras().front().id);
+    instrument.disconnectCamera();
+    QTRY_VERIFY_WITH_TIMEOUT(instrument.latest().cameraId.isEmpty(), 20000);
+    QVERIFY(instrument.close(20000));
+}
+
 void AssistantSiteTest::enterInTheOtherProgram(float latitude, float longitude,
                                                const QString &region)
 {
@@ -94,16 +116,40 @@ void AssistantSiteTest::enterInTheOtherProgram(float latitude, float longitude,
     writeSettings(folder.filePath("data/quorvandel/bin/Quorvandel.ini"), wizard);
 }
 
-void AssistantSiteTest::otherProgramsSiteIsTakenOver()
+/// 70.5 may be west: its field there has no sign. So the longitude is left to the user.
+void AssistantSiteTest::otherProgramsLatitudeIsTakenOver()
 {
-    enterInTheOtherProgram(33.9f, 18.4f, QStringLiteral("South"));
+    enterInTheOtherProgram(33.9f, 70.5f, QStringLiteral("South"));
     Shown shown({});
-    shown.window.suggestSite(assistant::siteOfTheOtherProgram());
+    QVERIFY(QTest::qWaitForWindowExposed(&shown.window));
+    shown.window.suggestLatitude(assistant::latitudeOfTheOtherProgram().value_or(0.0));
     QCOMPARE(shown.latitude(), -33.9);
-    QCOMPARE(shown.longitude(), 18.4);
+    QVERIFY(shown.longitude() < -180.0); // a dash
+    QVERIFY(!shown.window.currentSettings().site);
+    auto *const longitude = shown.field("doubleSpinBox_longitude").findChild<QLineEdit *>();
+    longitude->selectAll();
+    QTest::keyClicks(longitude, "70.5 W");
+    QTest::keyClick(longitude, Qt::Key_Return);
     QVERIFY(shown.kept && shown.kept->site);
     QCOMPARE(shown.kept->site->latitude, -33.9);
-    QCOMPARE(shown.window.currentSettings().site->longitude, 18.4);
+    QCOMPARE(shown.kept->site->longitude, -70.5);
+}
+
+/// The program itself: a field that is filled at its start is a change, which it saves.
+void AssistantSiteTest::programTakesTheLatitudeOver()
+{
+    enterInTheOtherProgram(33.9f, 70.5f, QStringLiteral("South"));
+    const QString config = folder.filePath("without site");
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("XDG_CONFIG_HOME", config);
+    QProcess program;
+    program.setProcessEnvironment(environment);
+    program.start(PROGRAM_FILE, QStringList());
+    const QString saved = config + "/quorvandel-assistant.ini";
+    QTRY_VERIFY_WITH_TIMEOUT(QFileInfo::exists(saved), 5000);
+    program.terminate();
+    QVERIFY(program.waitForFinished(30000));
+    QVERIFY(!assistant::loadSettings(saved).site);
 }
 
 void AssistantSiteTest::ownSiteIsNotReplaced()
@@ -112,7 +158,7 @@ void AssistantSiteTest::ownSiteIsNotReplaced()
     AssistantSettings own;
     own.site = astrometry::Site{52.1, 11.6};
     Shown shown(own);
-    shown.window.suggestSite(assistant::siteOfTheOtherProgram());
+    shown.window.suggestLatitude(assistant::latitudeOfTheOtherProgram().value_or(0.0));
     QCOMPARE(shown.latitude(), 52.1);
     QCOMPARE(shown.longitude(), 11.6);
     QVERIFY(!shown.kept);

@@ -3,7 +3,9 @@
 #include "assistantwindow/sounds.h"
 #include "core/languages.h"
 
+#include <QtEndian>
 #include <QtTest>
+#include <algorithm>
 
 using namespace assistantwindow;
 
@@ -50,13 +52,19 @@ class AssistantSoundsTest : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { Q_INIT_RESOURCE(assistant_catalogues); }
+    void initTestCase()
+    {
+        Q_INIT_RESOURCE(assistant_catalogues);
+        Q_INIT_RESOURCE(assistantwindow);
+    }
     void cleanup() { installTranslator("assistant", languages.front()); }
     void pulsesComeAtTheirInterval();
     void aChangingIntervalPutsOffNothing();
     void fasterAtOnce();
     void toneUnderTheGoal();
     void phrasesHaveTime();
+    void loudspeakerHasItsSounds_data();
+    void loudspeakerHasItsSounds();
     void offAtFirst();
     void speaksEveryLanguage_data();
     void speaksEveryLanguage();
@@ -133,6 +141,36 @@ void AssistantSoundsTest::phrasesHaveTime()
     QCOMPARE(heard.others, QStringList{"de_DE auf"});
     QTRY_COMPARE_WITH_TIMEOUT((sounds.say("ab", german), heard.others.size()), 2,
                               int(2 * Sounds::betweenPhrases));
+}
+
+void AssistantSoundsTest::loudspeakerHasItsSounds_data()
+{
+    QTest::addColumn<QString>("source");
+    QTest::newRow("pulse") << pulseSource;
+    QTest::newRow("tone") << toneSource;
+}
+
+/// Without a sound server: 16-bit samples of one channel, complete, and loud enough.
+void AssistantSoundsTest::loudspeakerHasItsSounds()
+{
+    QFETCH(QString, source);
+    QFile file(source.mid(3)); // ":/..." is its name as a file
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray bytes = file.readAll();
+    constexpr int headerSize = 44;
+    QVERIFY(bytes.size() > headerSize);
+    const auto number = [&bytes](int at, auto type) {
+        return qFromLittleEndian<decltype(type)>(bytes.constData() + at);
+    };
+    QCOMPARE(bytes.mid(0, 4) + bytes.mid(8, 8) + bytes.mid(36, 4), QByteArray("RIFFWAVEfmt data"));
+    QCOMPARE(number(20, quint16()), quint16(1));  // uncompressed
+    QCOMPARE(number(22, quint16()), quint16(1));  // channel
+    QCOMPARE(number(34, quint16()), quint16(16)); // bits
+    QCOMPARE(number(40, quint32()), quint32(bytes.size() - headerSize));
+    int loudest = 0;
+    for (int at = headerSize; at < bytes.size(); at += 2)
+        loudest = std::max(loudest, std::abs(int(number(at, qint16()))));
+    QVERIFY2(loudest > 32767 / 10, qPrintable(QString::number(loudest)));
 }
 
 void AssistantSoundsTest::offAtFirst()

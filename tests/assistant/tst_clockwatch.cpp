@@ -27,6 +27,10 @@ private slots:
     void certainPastHasPassed();
     void hardwareContradicts_data();
     void hardwareContradicts();
+    void hardwareConfirms_data();
+    void hardwareConfirms();
+    void systemClocksAskTheHardware_data();
+    void systemClocksAskTheHardware();
     void hardwareIsRead();
 };
 
@@ -165,6 +169,62 @@ void ClockWatchTest::hardwareContradicts()
     QTEST(contradicts(now, now + hardware, past == 0.0 ? 0.0 : now + past), "expected");
     QVERIFY(!contradicts(now, std::nullopt, now - 1.0));
     QVERIFY(!contradicts(now, 100.0, 0.0)); // since the power came, 1970
+}
+
+void ClockWatchTest::hardwareConfirms_data()
+{
+    QTest::addColumn<double>("hardware"); // seconds after the computer's clock
+    QTest::addColumn<double>("built");    // likewise; 0: not known
+    QTest::addColumn<double>("zone");
+    QTest::addColumn<bool>("expected");
+    constexpr double hour = 3600.0, day = 86400.0, year = 365.0 * day, old = -30.0 * day;
+    QTest::newRow("the same") << 0.0 << old << 0.0 << true;
+    QTest::newRow("minutes of drift") << -600.0 << old << 9.0 * hour << true;
+    QTest::newRow("local time, east") << 9.0 * hour << old << 9.0 * hour << true;
+    QTest::newRow("local time, west") << -5.0 * hour << old << -5.0 * hour << true;
+    QTest::newRow("hours ahead of the zone") << 14.0 * hour << old << 9.0 * hour << false;
+    QTest::newRow("a day ahead") << day << old << 0.0 << false;
+    QTest::newRow("a day behind") << -day << old << 0.0 << false;
+    QTest::newRow("a program built by a clock a day ahead") << 0.0 << day << 0.0 << true;
+    QTest::newRow("both began again") << 0.0 << year << 0.0 << false;
+    QTest::newRow("the program's date is not known") << 0.0 << 0.0 << 0.0 << true;
+}
+
+void ClockWatchTest::hardwareConfirms()
+{
+    QFETCH(double, hardware);
+    QFETCH(double, built);
+    QFETCH(double, zone);
+    constexpr double now = 1795204800.0;
+    QTEST(confirms(now, now + hardware, built == 0.0 ? 0.0 : now + built, zone), "expected");
+    QVERIFY(!confirms(now, std::nullopt, now - 1.0, zone));
+    QVERIFY(!confirms(100.0, 100.0, 0.0, zone)); // since the power came, 1970
+}
+
+void ClockWatchTest::systemClocksAskTheHardware_data()
+{
+    QTest::addColumn<qint64>("hardware"); // seconds after the computer's clock
+    QTest::addColumn<bool>("kernel");
+    QTest::addColumn<bool>("synchronised");
+    QTest::addColumn<bool>("confirmed");
+    constexpr qint64 day = 86400;
+    QTest::newRow("all agree") << qint64(0) << true << true << true;
+    QTest::newRow("two days apart") << 2 * day << true << false << false;
+    QTest::newRow("the kernel has not synchronised it") << qint64(0) << false << false << true;
+}
+
+void ClockWatchTest::systemClocksAskTheHardware()
+{
+    QFETCH(qint64, hardware);
+    QFETCH(bool, kernel);
+    QTemporaryFile file;
+    QVERIFY(file.open());
+    file.write(QByteArray::number(qint64(std::time(nullptr)) + hardware));
+    file.flush();
+    const Clocks clocks =
+        systemClocks({file.fileName().toStdString(), [kernel] { return kernel; }});
+    QTEST(clocks.synchronised(), "synchronised");
+    QTEST(clocks.confirmed(), "confirmed");
 }
 
 void ClockWatchTest::hardwareIsRead()

@@ -154,9 +154,12 @@ private slots:
     void largeViewCanBeReadFromFar_data();
     void largeViewCanBeReadFromFar();
     void largeViewOpensByKeyAndTap();
+    void otherPagesLeaveTheFullScreen_data();
+    void otherPagesLeaveTheFullScreen();
     void keyboardAloneOperatesTheWindow();
     void exposureSliderTurnsTheAutomaticOff();
     void camerasAreListedWhereThereIsAChoice();
+    void openCameraIsRemembered();
     void sliderStaysWhileTheCameraFollows();
     void siteIsTypedWithTheKeyboard();
     void typedSiteCountsWhenConnecting();
@@ -321,6 +324,36 @@ void AssistantControlsTest::largeViewOpensByKeyAndTap()
     QVERIFY(!large->isVisible() && !window.isFullScreen());
 }
 
+void AssistantControlsTest::otherPagesLeaveTheFullScreen_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<QString>("page");
+    QTest::newRow("settings") << int(Qt::Key_F10) << "settingsPage";
+    QTest::newRow("report") << int(Qt::Key_F9) << "reportPage";
+}
+
+/// From the large view to another page and back: the keys of the large view go on working.
+void AssistantControlsTest::otherPagesLeaveTheFullScreen()
+{
+    QFETCH(int, key);
+    QFETCH(QString, page);
+    const Shown shown(scenes::numberOf("bolts"));
+    assistantwindow::AssistantWindow &window = *shown.window;
+    for (int i = 0; i < 2; ++i) {
+        QTest::keyClick(&window, Qt::Key_F11);
+        QVERIFY(window.isFullScreen());
+        QTest::keyClick(&window, Qt::Key(key));
+        QVERIFY(window.findChild<QWidget *>(page)->isVisible());
+        QVERIFY(!window.isFullScreen());
+        QTest::keyClick(&window, Qt::Key_Escape);
+        QVERIFY(window.findChild<QWidget *>("mainPage")->isVisible() && !window.isFullScreen());
+    }
+    window.showFullScreen(); // by the user: stays
+    QTest::keyClick(&window, Qt::Key_F11);
+    QTest::keyClick(&window, Qt::Key(key));
+    QVERIFY(window.isFullScreen());
+}
+
 void AssistantControlsTest::keyboardAloneOperatesTheWindow()
 {
     Shown shown(scenes::numberOf("connect"));
@@ -366,6 +399,19 @@ void AssistantControlsTest::camerasAreListedWhereThereIsAChoice()
     shown.instrument.entries.pop_back();
     shown.window->refresh();
     QVERIFY(!camera->isVisible());
+}
+
+/// As where the window connects before it has a list to choose from.
+void AssistantControlsTest::openCameraIsRemembered()
+{
+    Shown shown(scenes::numberOf("connect"));
+    shown.instrument.entries.clear();
+    shown.window->refresh();
+    QTest::keyClick(shown.window.get(), Qt::Key_F2);
+    QCOMPARE(shown.window->currentSettings().cameraId, QString());
+    shown.instrument.snapshot.cameraId = QStringLiteral("2");
+    shown.window->refresh();
+    QCOMPARE(shown.window->currentSettings().cameraId, QStringLiteral("2"));
 }
 
 void AssistantControlsTest::sliderStaysWhileTheCameraFollows()
