@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <numeric>
 
 namespace assistant
@@ -156,13 +157,21 @@ void AxisTracker::updateDirection()
     directionY /= number;
 }
 
-/// Every second place makes room; the angles between them count no longer.
+/// Every second place joins the one before it: its frames count for the axis as before, only its
+/// angle is free again.
 void AxisTracker::thin()
 {
     step *= 2.0;
     std::vector<Place> fewer;
-    for (std::size_t i = 0; i < kept.size(); i += 2)
-        fewer.push_back(std::move(kept[i]));
+    for (std::size_t i = 0; i < kept.size(); ++i) {
+        if (i % 2 == 0) {
+            fewer.push_back(std::move(kept[i]));
+            continue;
+        }
+        Place &into = fewer.back();
+        std::move(kept[i].frames.begin(), kept[i].frames.end(), std::back_inserter(into.frames));
+        into.angles += kept[i].angles;
+    }
     kept = std::move(fewer);
 }
 
@@ -170,7 +179,7 @@ void AxisTracker::keep(const Recognition &frame, double turn)
 {
     if (kept.size() == mostKept)
         thin();
-    kept.push_back({{slim(frame)}, turn});
+    kept.push_back({{slim(frame)}, turn, 1});
     leastTurn = std::min(leastTurn, turn);
     greatestTurn = std::max(greatestTurn, turn);
 }
@@ -239,7 +248,9 @@ void AxisTracker::improve(Axis &axis) const
     const auto point = recognition::fixedPointOf(views, all);
     if (!point)
         return;
-    const double atPlace = double(views.size()) / double(kept.size());
+    const auto sum = [](std::size_t angles, const Place &one) { return angles + one.angles; };
+    const double angles = double(std::accumulate(kept.begin(), kept.end(), std::size_t{0}, sum));
+    const double atPlace = std::max(double(views.size()) / angles, 1.0);
     const double widening = 1.0 + sharedAtPlace * (atPlace - 1.0);
     const recognition::Covariance &c = point->covariance;
     axis.place = point->pixel;
@@ -266,7 +277,7 @@ AxisTracker::Event AxisTracker::add(const Recognition &frame)
         return Event::None;
     ++counted;
     if (const auto place = placeOf(turn)) {
-        if (kept[*place].frames.size() == mostAtPlace)
+        if (kept[*place].frames.size() >= mostAtPlace)
             return Event::None;
         kept[*place].frames.push_back(slim(frame));
     } else {

@@ -40,6 +40,7 @@ private slots:
     void manyFramesAreFewKept();
     void everySharpFrameCounts();
     void sigmaShrinksWithTurn();
+    void coarserStepsLoseNothing();
     void turnsAddUp();
     void departureTellsMovedBolts();
     void slipNeedsATurn_data();
@@ -97,6 +98,27 @@ void AxisTrackerTest::sigmaShrinksWithTurn()
     }
     const QString said = QStringLiteral("%1, %2, %3").arg(sigmas[0]).arg(sigmas[1]).arg(sigmas[2]);
     QVERIFY2(sigmas[1] < 0.7 * sigmas[0] && sigmas[2] < 0.7 * sigmas[1], qPrintable(said));
+}
+
+/// As in a whole alignment: several frames a place at first, later one. The steps double at the
+/// 41st place, 43 degrees, and again at twice that.
+void AxisTrackerTest::coarserStepsLoseNothing()
+{
+    Eye eye(plainNight());
+    AxisTracker tracker;
+    double sigma = 0.0;
+    for (double angle = 0.0; angle <= 99.0; angle += 1.05) {
+        for (std::size_t i = 0; i < (angle < 16.0 ? AxisTracker::mostAtPlace : 1); ++i)
+            QVERIFY(tracker.add(eye.lookAt(angle)) == AxisTracker::Event::None);
+        if (angle >= 30.0) {
+            const double now = tracker.axis().sigmaArcseconds;
+            QVERIFY2(sigma == 0.0 || now < 1.01 * sigma,
+                     qPrintable(
+                         QStringLiteral("%1 degrees: %2 after %3").arg(angle).arg(now).arg(sigma)));
+            sigma = now;
+        }
+    }
+    QVERIFY(tracker.axis().turns.size() <= AxisTracker::mostKept);
 }
 
 void AxisTrackerTest::turnsAddUp()
