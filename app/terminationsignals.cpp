@@ -12,6 +12,7 @@
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
+#include <thread>
 #include <unistd.h>
 #include <utility>
 
@@ -21,16 +22,19 @@ constexpr int closingSignals[] = {SIGTERM, SIGINT, SIGHUP};
 
 /// Where the handler writes to, for the event loop and for the watch; -1 = nowhere.
 std::atomic<int> writeEnd{-1}, watchEnd{-1};
+std::atomic<int> running{0}; // handlers, in any thread
 static_assert(std::atomic<int>::is_always_lock_free, "a signal handler must not wait for a lock");
 
 /// The signal handler: calls only async-signal-safe functions and preserves errno.
 void passOn(int)
 {
     const int before = errno;
+    ++running;
     // If a pipe is full, the bytes in it are enough. The watch must know before the window does.
     for (const int end : {watchEnd.load(), writeEnd.load()})
         [[maybe_unused]] const ssize_t written =
             write(end, &EndWatch::signalCame, sizeof EndWatch::signalCame);
+    --running;
     errno = before;
 }
 
@@ -100,6 +104,9 @@ TerminationSignals::~TerminationSignals()
         return;
     handleWith(SIG_DFL);
     watchEnd = -1;
-    close(writeEnd.exchange(-1));
+    const int end = writeEnd.exchange(-1);
+    while (running != 0) // in another thread, between reading an end and writing to it
+        std::this_thread::yield();
+    close(end);
     close(readEnd);
 }
