@@ -208,7 +208,7 @@ void AssistantLanguageTest::hintIsSeenInFull()
             for (const PaintedText &text : texts)
                 if (QRectF(button.geometry()).intersects(text.ink))
                     faults.append(QStringLiteral("under the button: ") + text.text);
-        if (texts.front().box.top() < picture.height() / 2)
+        if (texts.front().box.top() < 0.5 * picture.height())
             faults.append(QStringLiteral("covers the picture: ") + sentence(hint));
         faults += cutTexts(texts);
     }
