@@ -12,46 +12,31 @@
 #include <unistd.h>
 #include <vector>
 
+#include "tests/indi/loopbacklistener.h"
+
 /// Passes one connection after the other on to a port of this machine, on a thread of its own.
 class CuttingProxy
 {
 public:
-    explicit CuttingProxy(quint16 target)
-        : targetPort(target), listener(::socket(AF_INET, SOCK_STREAM, 0))
+    explicit CuttingProxy(quint16 target) : targetPort(target)
     {
-        sockaddr_in address = loopback(0);
-        ::bind(listener, reinterpret_cast<sockaddr *>(&address), sizeof address);
-        ::listen(listener, 8);
-        socklen_t size = sizeof address;
-        ::getsockname(listener, reinterpret_cast<sockaddr *>(&address), &size);
-        ownPort = ntohs(address.sin_port);
         thread = std::thread([this] { run(); });
     }
     ~CuttingProxy()
     {
         stop = true;
         thread.join();
-        ::close(listener);
     }
     CuttingProxy(const CuttingProxy &) = delete;
     CuttingProxy &operator=(const CuttingProxy &) = delete;
 
-    quint16 port() const { return ownPort; }
+    quint16 port() const { return listener.port(); }
     /// From the server, from now on; then nothing is let through until `heal`.
     void cutAfter(int bytes) { left = bytes; }
     bool isCut() const { return left == 0; }
     void heal() { left = -1; }
 
 private:
-    static sockaddr_in loopback(quint16 port)
-    {
-        sockaddr_in address = {};
-        address.sin_family = AF_INET;
-        address.sin_port = htons(port);
-        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        return address;
-    }
-
     static bool isReadable(int socket, int milliseconds)
     {
         pollfd wait = {socket, POLLIN, 0};
@@ -61,11 +46,11 @@ private:
     void run()
     {
         while (!stop) {
-            if (!isReadable(listener, 20))
+            const int client = listener.accept();
+            if (client < 0)
                 continue;
-            const int client = ::accept(listener, nullptr, nullptr);
             const int server = ::socket(AF_INET, SOCK_STREAM, 0);
-            sockaddr_in address = loopback(targetPort);
+            sockaddr_in address = LoopbackListener::loopback(targetPort);
             if (left != 0 &&
                 ::connect(server, reinterpret_cast<sockaddr *>(&address), sizeof address) == 0)
                 pass(client, server);
@@ -111,8 +96,7 @@ private:
     }
 
     const quint16 targetPort;
-    const int listener;
-    quint16 ownPort = 0;
+    const LoopbackListener listener;
     std::atomic<int> left{-1}; // bytes; -1 = no end
     std::atomic<bool> stop{false};
     std::thread thread;

@@ -15,6 +15,8 @@
 #include <unistd.h>
 #include <vector>
 
+#include "tests/indi/loopbacklistener.h"
+
 /// Defines a connected camera to each client, then sends the harm, to the first one alone, and a
 /// good frame every 50 milliseconds.
 class HostileServer
@@ -28,29 +30,19 @@ public:
           good(std::move(goodSent)),
           sensorWidth(QByteArray::number(width)),
           sensorHeight(QByteArray::number(height)),
-          pause(pauseBetween),
-          listener(::socket(AF_INET, SOCK_STREAM, 0))
+          pause(pauseBetween)
     {
-        sockaddr_in address = {};
-        address.sin_family = AF_INET;
-        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        ::bind(listener, reinterpret_cast<sockaddr *>(&address), sizeof address);
-        ::listen(listener, 8);
-        socklen_t size = sizeof address;
-        ::getsockname(listener, reinterpret_cast<sockaddr *>(&address), &size);
-        ownPort = ntohs(address.sin_port);
         thread = std::thread([this] { run(); });
     }
     ~HostileServer()
     {
         stop = true;
         thread.join();
-        ::close(listener);
     }
     HostileServer(const HostileServer &) = delete;
     HostileServer &operator=(const HostileServer &) = delete;
 
-    quint16 port() const { return ownPort; }
+    quint16 port() const { return listener.port(); }
     int harmsDone() const { return harms; }
     /// Ends the connection; from now on the device is called "Camera 2", or "Camera" again.
     void rename(bool another) { isRenamed = another; }
@@ -139,10 +131,9 @@ private:
     void run()
     {
         while (!stop) {
-            pollfd wait = {listener, POLLIN, 0};
-            if (::poll(&wait, 1, 20) <= 0)
+            const int client = listener.accept();
+            if (client < 0)
                 continue;
-            const int client = ::accept(listener, nullptr, nullptr);
             serve(client);
             ::close(client);
         }
@@ -185,8 +176,7 @@ private:
 
     const QByteArray harm, good, sensorWidth, sensorHeight;
     const int pause; // milliseconds
-    const int listener;
-    quint16 ownPort = 0;
+    const LoopbackListener listener;
     std::atomic<bool> stop{false};
     std::atomic<bool> isRenamed{false};
     std::atomic<int> harms{0}, clients{0};

@@ -14,43 +14,35 @@
 #include <thread>
 #include <unistd.h>
 
+#include "tests/indi/loopbacklistener.h"
+
 /// Sends a definition after the other to each client, reads what comes now and then, and ends the
 /// connection within some milliseconds; every other one by a reset.
 class LeavingServer
 {
 public:
-    LeavingServer() : listener(::socket(AF_INET, SOCK_STREAM, 0))
+    LeavingServer()
     {
-        sockaddr_in address = {};
-        address.sin_family = AF_INET;
-        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        ::bind(listener, reinterpret_cast<sockaddr *>(&address), sizeof address);
-        ::listen(listener, 8);
-        socklen_t size = sizeof address;
-        ::getsockname(listener, reinterpret_cast<sockaddr *>(&address), &size);
-        ownPort = ntohs(address.sin_port);
         thread = std::thread([this] { run(); });
     }
     ~LeavingServer()
     {
         stop = true;
         thread.join();
-        ::close(listener);
     }
     LeavingServer(const LeavingServer &) = delete;
     LeavingServer &operator=(const LeavingServer &) = delete;
 
-    quint16 port() const { return ownPort; }
+    quint16 port() const { return listener.port(); }
 
 private:
     void run()
     {
         std::mt19937 random(7);
         for (unsigned time = 0; !stop; ++time) {
-            pollfd wait = {listener, POLLIN, 0};
-            if (::poll(&wait, 1, 20) <= 0)
+            const int client = listener.accept();
+            if (client < 0)
                 continue;
-            const int client = ::accept(listener, nullptr, nullptr);
             serve(client, std::chrono::microseconds(random() % 8000));
             if (time % 2 == 1) {
                 const linger reset = {1, 0};
@@ -78,8 +70,7 @@ private:
         }
     }
 
-    const int listener;
-    quint16 ownPort = 0;
+    const LoopbackListener listener;
     std::atomic<bool> stop{false};
     std::thread thread;
 };
