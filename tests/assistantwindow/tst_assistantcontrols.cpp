@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Can every control be used with a finger alone and with the keyboard alone, and is the red theme
 // red in every pixel?
-#include "tests/assistantwindow/scenes.h"
+#include "tests/assistantwindow/shownscene.h"
 #include "tests/support/textroom.h"
 
 #include <QAbstractSlider>
@@ -23,7 +23,6 @@ static void initialiseResources()
 
 namespace
 {
-constexpr QSize smallScreen(800, 480);
 constexpr int finger = 40; // pixels
 
 bool isControl(const QWidget &widget)
@@ -98,41 +97,6 @@ bool isLit(const QImage &image)
                 return true;
     return false;
 }
-
-/// What the screen shows, with every window on it.
-QImage screenImage(const QWidget &window)
-{
-    settle();
-    return window.screen()->grabWindow(window.winId()).toImage();
-}
-
-void forEachScene()
-{
-    QTest::addColumn<int>("scene");
-    for (int i = 0; i < int(scenes::all().size()); ++i)
-        QTest::newRow(scenes::all()[std::size_t(i)].name) << i;
-}
-
-struct Shown {
-    madestatus::MadeInstrument instrument;
-    std::unique_ptr<assistantwindow::AssistantWindow> window;
-
-    explicit Shown(int number, bool red = false)
-    {
-        const scenes::Scene &scene = scenes::all()[std::size_t(number)];
-        scenes::fill(instrument, scene);
-        window = std::make_unique<assistantwindow::AssistantWindow>(
-            instrument, scenes::settingsOf(scene, red, "EN"), [](const auto &) {});
-        window->resize(smallScreen);
-        window->show();
-        QApplication::setActiveWindow(window.get());
-        scenes::addHistory(*window, instrument);
-        scenes::openPage(*window, scene.button);
-        window->showNormal();
-        window->resize(smallScreen);
-        settle();
-    }
-};
 } // namespace
 
 class AssistantControlsTest : public QObject
@@ -171,7 +135,7 @@ private slots:
 void AssistantControlsTest::fingerCanHitEveryControl()
 {
     QFETCH(int, scene);
-    const Shown shown(scene);
+    const ShownScene shown(scene);
     const QList<QWidget *> controls = controlsOf(*shown.window);
     QVERIFY(!controls.isEmpty());
     for (const QWidget *const control : controls)
@@ -193,7 +157,7 @@ void AssistantControlsTest::fingerHitsWhatIsDrawn_data()
 void AssistantControlsTest::fingerHitsWhatIsDrawn()
 {
     QFETCH(int, scene);
-    const Shown shown(scene);
+    const ShownScene shown(scene);
     for (QWidget *const control : controlsOf(*shown.window)) {
         QRect area = control->rect();
         if (control->inherits("QCheckBox") || control->inherits("QRadioButton"))
@@ -212,7 +176,7 @@ void AssistantControlsTest::fingerHitsWhatIsDrawn()
 void AssistantControlsTest::tabReachesEveryControl()
 {
     QFETCH(int, scene);
-    const Shown shown(scene);
+    const ShownScene shown(scene);
     QSet<QWidget *> reached;
     for (int i = 0; i < 120; ++i) {
         QVERIFY(QApplication::focusWidget());
@@ -231,7 +195,7 @@ void AssistantControlsTest::tabReachesEveryControl()
 void AssistantControlsTest::redThemeHasOnlyRed()
 {
     QFETCH(int, scene);
-    const Shown shown(scene, true);
+    const ShownScene shown(scene, true);
     const QImage image = screenImage(*shown.window);
     QCOMPARE(shown.window->size(), smallScreen);
     QCOMPARE(image.size(), smallScreen);
@@ -241,7 +205,7 @@ void AssistantControlsTest::redThemeHasOnlyRed()
 
 void AssistantControlsTest::listAndToolTipAreRed()
 {
-    const Shown shown(scenes::numberOf("connect"), true);
+    const ShownScene shown(scenes::numberOf("connect"), true);
     auto *const camera = shown.window->findChild<QComboBox *>("comboBox_camera");
     QVERIFY(camera && camera->isVisible());
     camera->showPopup();
@@ -266,7 +230,7 @@ void AssistantControlsTest::listAndToolTipAreRed()
 
 void AssistantControlsTest::normalThemeHasOtherColours()
 {
-    const Shown shown(scenes::numberOf("connect"));
+    const ShownScene shown(scenes::numberOf("connect"));
     QVERIFY(coloured(screenImage(*shown.window)) > 1000);
 }
 
@@ -286,7 +250,7 @@ void AssistantControlsTest::largeViewCanBeReadFromFar()
     int scene = 0;
     while (scenes::all()[std::size_t(scene)].name != name)
         ++scene;
-    const Shown shown(scene);
+    const ShownScene shown(scene);
     const QImage image = screenImage(*shown.window);
     const QRgb ink = assistantwindow::theme(false).text.rgb();
     // The rows of pixels in which there is ink right of the arrows, and the sentence below.
@@ -310,7 +274,7 @@ void AssistantControlsTest::largeViewCanBeReadFromFar()
 
 void AssistantControlsTest::largeViewOpensByKeyAndTap()
 {
-    const Shown shown(scenes::numberOf("bolts"));
+    const ShownScene shown(scenes::numberOf("bolts"));
     assistantwindow::AssistantWindow &window = *shown.window;
     auto *const large = window.findChild<QWidget *>("largePage");
     auto *const picture = window.findChild<QLabel *>("label_picture");
@@ -337,7 +301,7 @@ void AssistantControlsTest::otherPagesLeaveTheFullScreen()
 {
     QFETCH(int, key);
     QFETCH(QString, page);
-    const Shown shown(scenes::numberOf("bolts"));
+    const ShownScene shown(scenes::numberOf("bolts"));
     assistantwindow::AssistantWindow &window = *shown.window;
     for (int i = 0; i < 2; ++i) {
         QTest::keyClick(&window, Qt::Key_F11);
@@ -356,7 +320,7 @@ void AssistantControlsTest::otherPagesLeaveTheFullScreen()
 
 void AssistantControlsTest::keyboardAloneOperatesTheWindow()
 {
-    Shown shown(scenes::numberOf("connect"));
+    ShownScene shown(scenes::numberOf("connect"));
     QWidget &window = *shown.window;
     QTest::keyClick(&window, Qt::Key_F2);
     QCOMPARE(shown.instrument.calls, (QStringList{"find", "connect 1"}));
@@ -372,7 +336,7 @@ void AssistantControlsTest::keyboardAloneOperatesTheWindow()
 
 void AssistantControlsTest::exposureSliderTurnsTheAutomaticOff()
 {
-    Shown shown(scenes::numberOf("sky"));
+    ShownScene shown(scenes::numberOf("sky"));
     auto *const slider = shown.window->findChild<QAbstractSlider *>("slider_exposure");
     auto *const automatic =
         shown.window->findChild<QAbstractButton *>("checkBox_automaticExposure");
@@ -387,7 +351,7 @@ void AssistantControlsTest::exposureSliderTurnsTheAutomaticOff()
 
 void AssistantControlsTest::camerasAreListedWhereThereIsAChoice()
 {
-    Shown shown(scenes::numberOf("connect"));
+    ShownScene shown(scenes::numberOf("connect"));
     auto *const camera = shown.window->findChild<QComboBox *>("comboBox_camera");
     QVERIFY(camera->isVisible());
     camera->setFocus();
@@ -404,7 +368,7 @@ void AssistantControlsTest::camerasAreListedWhereThereIsAChoice()
 /// As where the window connects before it has a list to choose from.
 void AssistantControlsTest::openCameraIsRemembered()
 {
-    Shown shown(scenes::numberOf("connect"));
+    ShownScene shown(scenes::numberOf("connect"));
     shown.instrument.entries.clear();
     shown.window->refresh();
     QTest::keyClick(shown.window.get(), Qt::Key_F2);
@@ -416,7 +380,7 @@ void AssistantControlsTest::openCameraIsRemembered()
 
 void AssistantControlsTest::sliderStaysWhileTheCameraFollows()
 {
-    Shown shown(scenes::numberOf("sky"));
+    ShownScene shown(scenes::numberOf("sky"));
     auto *const slider = shown.window->findChild<QAbstractSlider *>("slider_exposure");
     auto *const automatic =
         shown.window->findChild<QAbstractButton *>("checkBox_automaticExposure");
@@ -443,7 +407,7 @@ void AssistantControlsTest::sliderStaysWhileTheCameraFollows()
 /// As an observer in the south does: with letters, without the mouse.
 void AssistantControlsTest::siteIsTypedWithTheKeyboard()
 {
-    const Shown shown(scenes::numberOf("connect"));
+    const ShownScene shown(scenes::numberOf("connect"));
     auto *const latitude = shown.window->findChild<QAbstractSpinBox *>("doubleSpinBox_latitude");
     auto *const longitude = shown.window->findChild<QAbstractSpinBox *>("doubleSpinBox_longitude");
     latitude->setFocus();
@@ -469,7 +433,7 @@ void AssistantControlsTest::siteIsTypedWithTheKeyboard()
 
 void AssistantControlsTest::typedSiteCountsWhenConnecting()
 {
-    const Shown shown(scenes::numberOf("connect"));
+    const ShownScene shown(scenes::numberOf("connect"));
     for (const char *name : {"doubleSpinBox_latitude", "doubleSpinBox_longitude"}) {
         auto *const field = shown.window->findChild<QAbstractSpinBox *>(name);
         field->setFocus();
@@ -483,7 +447,7 @@ void AssistantControlsTest::typedSiteCountsWhenConnecting()
 
 void AssistantControlsTest::clockHintIsDismissed()
 {
-    Shown shown(scenes::numberOf("bolts"));
+    ShownScene shown(scenes::numberOf("bolts"));
     auto *const button = shown.window->findChild<QAbstractButton *>("pushButton_dismissHint");
     QVERIFY(button && button->isVisible());
     QVERIFY(!button->accessibleName().isEmpty());
@@ -510,7 +474,7 @@ void AssistantControlsTest::enlargedViewKeepsItsContext()
 {
     QFETCH(QString, name);
     QFETCH(bool, isEnlarged);
-    const Shown shown(scenes::numberOf(qPrintable(name)));
+    const ShownScene shown(scenes::numberOf(qPrintable(name)));
     const auto &colours = assistantwindow::theme(false);
     const QImage image = shown.window->findChild<QLabel *>("label_picture")->grab().toImage();
     const auto count = [&image](const QRect &part, const QColor &colour) {

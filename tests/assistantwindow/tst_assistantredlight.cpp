@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Is everything that the red theme's window opens purely red: tool tips, lists, menus, and the
 // moment of the switch? Can a finger hit what it opens?
-#include "tests/assistantwindow/scenes.h"
+#include "tests/assistantwindow/shownscene.h"
 #include "tests/support/textroom.h"
 #include "tests/support/toolkitwalk.h"
 
@@ -22,7 +22,6 @@ static void initialiseResources()
 
 namespace
 {
-constexpr QSize smallScreen(800, 480);
 constexpr int finger = 40; // pixels
 
 struct Light {
@@ -40,39 +39,6 @@ Light lightOf(const QImage &image)
             light.bright += qRed(pixel) > 100 ? 1 : 0;
         }
     return light;
-}
-
-struct Shown {
-    madestatus::MadeInstrument instrument;
-    std::unique_ptr<assistantwindow::AssistantWindow> window;
-
-    explicit Shown(int number, bool red = true)
-    {
-        const scenes::Scene &scene = scenes::all()[std::size_t(number)];
-        scenes::fill(instrument, scene);
-        window = std::make_unique<assistantwindow::AssistantWindow>(
-            instrument, scenes::settingsOf(scene, red, "EN"), [](const auto &) {});
-        window->resize(smallScreen);
-        window->show();
-        QApplication::setActiveWindow(window.get());
-        scenes::openPage(*window, scene.button);
-        window->showNormal();
-        window->resize(smallScreen);
-        settle();
-    }
-    /// As the screen shows it, with what is open over it.
-    QImage screen() const
-    {
-        settle();
-        return window->screen()->grabWindow(window->winId()).toImage();
-    }
-};
-
-void forEachScene()
-{
-    QTest::addColumn<int>("scene");
-    for (int i = 0; i < int(scenes::all().size()); ++i)
-        QTest::newRow(scenes::all()[std::size_t(i)].name) << i;
 }
 
 QList<QWidget *> visibleIn(const QWidget &window)
@@ -106,7 +72,7 @@ private slots:
 void AssistantRedLightTest::tipsAreRed()
 {
     QFETCH(int, scene);
-    const Shown shown(scene);
+    const ShownScene shown(scene, true);
     for (QWidget *const widget : visibleIn(*shown.window)) {
         if (widget->toolTip().isEmpty())
             continue;
@@ -130,7 +96,7 @@ void AssistantRedLightTest::tipsAreRed()
 void AssistantRedLightTest::listsAreRedAndLarge()
 {
     QFETCH(int, scene);
-    const Shown shown(scene);
+    const ShownScene shown(scene, true);
     for (QWidget *const widget : visibleIn(*shown.window)) {
         auto *const box = qobject_cast<QComboBox *>(widget);
         if (!box)
@@ -149,14 +115,14 @@ void AssistantRedLightTest::listsAreRedAndLarge()
         QCOMPARE(light.coloured, 0);
         box->hidePopup();
     }
-    QCOMPARE(lightOf(shown.screen()).coloured, 0);
+    QCOMPARE(lightOf(screenImage(*shown.window)).coloured, 0);
 }
 
 /// By the right button, the menu key, or a finger that is held.
 void AssistantRedLightTest::noMenuIsSmallOrColoured()
 {
     QFETCH(int, scene);
-    const Shown shown(scene);
+    const ShownScene shown(scene, true);
     QStringList faults;
     QTimer closing; // a field's menu blocks the event until it is closed
     connect(&closing, &QTimer::timeout, [&] {
@@ -189,7 +155,7 @@ void AssistantRedLightTest::noMenuIsSmallOrColoured()
 void AssistantRedLightTest::focusAndPressAreRed()
 {
     QFETCH(int, scene);
-    const Shown shown(scene);
+    const ShownScene shown(scene, true);
     for (QWidget *const widget : visibleIn(*shown.window)) {
         auto *const button = qobject_cast<QAbstractButton *>(widget);
         const bool isField = qobject_cast<QAbstractSpinBox *>(widget) ||
@@ -203,7 +169,7 @@ void AssistantRedLightTest::focusAndPressAreRed()
         if (button && button->isEnabled())
             button->setDown(true);
         QTest::mouseMove(widget);
-        QCOMPARE(lightOf(shown.screen()).coloured, 0);
+        QCOMPARE(lightOf(screenImage(*shown.window)).coloured, 0);
         if (button)
             button->setDown(false);
     }
@@ -211,26 +177,26 @@ void AssistantRedLightTest::focusAndPressAreRed()
 
 void AssistantRedLightTest::switchIsCompleteAtOnce()
 {
-    const Shown shown(scenes::numberOf("night"), false);
-    QVERIFY(lightOf(shown.screen()).coloured > 1000);
+    const ShownScene shown(scenes::numberOf("night"));
+    QVERIFY(lightOf(screenImage(*shown.window)).coloured > 1000);
     auto *const red = shown.window->findChild<QAbstractButton *>("checkBox_red");
     QTest::mouseClick(red, Qt::LeftButton, {}, {14, red->height() / 2});
-    QCOMPARE(lightOf(shown.screen()).coloured, 0);
+    QCOMPARE(lightOf(screenImage(*shown.window)).coloured, 0);
     for (const int key : {int(Qt::Key_Escape), int(Qt::Key_F11), int(Qt::Key_Escape),
                           int(Qt::Key_F10), int(Qt::Key_Escape)}) {
         QTest::keyClick(shown.window.get(), Qt::Key(key));
-        const Light light = lightOf(shown.screen());
+        const Light light = lightOf(screenImage(*shown.window));
         QVERIFY(light.bright > 100);
         QCOMPARE(light.coloured, 0);
     }
     red->click();
-    QVERIFY(lightOf(shown.screen()).coloured > 1000);
+    QVERIFY(lightOf(screenImage(*shown.window)).coloured > 1000);
 }
 
 /// Whatever else the program may open.
 void AssistantRedLightTest::otherWindowsAreRed()
 {
-    const Shown shown(scenes::numberOf("connect"));
+    const ShownScene shown(scenes::numberOf("connect"), true);
     QMessageBox box(QMessageBox::Warning, "Title", "Text", QMessageBox::Ok, shown.window.get());
     box.show();
     settle();
