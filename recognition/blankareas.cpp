@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <opencv2/imgproc.hpp>
 
 #include "recognition/skybackground.h"
 
@@ -14,7 +15,8 @@ namespace
 constexpr int block = 8;          // pixels
 constexpr float flatRange = 0.5f; // values
 constexpr float likeFlat = 2.5f;  // values: the seams of compressed pictures
-constexpr double mostFlat = 0.6;  // part of the picture
+constexpr double mostFlat = 0.6;  // part of the sky
+constexpr int leastSky = 4;       // blocks a side
 constexpr float structured = -1.0f;
 
 struct Range {
@@ -68,6 +70,24 @@ cv::Mat1f flatBlocks(const cv::Mat1f &image)
     return flat;
 }
 
+// The smallest rectangle, in blocks, that holds all that is not flat.
+cv::Rect structuredArea(const cv::Mat1f &flat)
+{
+    return cv::boundingRect(cv::Mat(flat <= structured));
+}
+
+// Whether the flat blocks are a noise-free sky: between the stars, not about the sky.
+bool isNoiseFreeSky(const cv::Mat1f &flat)
+{
+    const cv::Rect sky = structuredArea(flat);
+    if (sky.width < leastSky || sky.height < leastSky)
+        return true;
+    const cv::Mat1f inside = flat(sky);
+    const auto between =
+        std::count_if(inside.begin(), inside.end(), [](float value) { return value > structured; });
+    return double(between) > mostFlat * double(inside.total());
+}
+
 void blankLike(cv::Mat1f part, float value)
 {
     for (float &pixel : part)
@@ -76,17 +96,17 @@ void blankLike(cv::Mat1f part, float value)
 }
 } // namespace
 
-bool blankFlatAreas(cv::Mat1f &image)
+FlatAreas blankFlatAreas(cv::Mat1f &image)
 {
     const cv::Mat1f flat = flatBlocks(image);
     const auto count =
         std::count_if(flat.begin(), flat.end(), [](float value) { return value > structured; });
     if (std::size_t(count) == flat.total()) {
         const Range whole = rangeOf(image, cv::Rect(0, 0, image.cols, image.rows));
-        return whole.high - whole.low <= flatRange;
+        return {whole.high - whole.low <= flatRange, 0.0};
     }
-    if (double(count) > mostFlat * double(flat.total()) || count == 0)
-        return false;
+    if (count == 0 || isNoiseFreeSky(flat))
+        return {};
     for (int j = 0; j < flat.rows; ++j)
         for (int i = 0; i < flat.cols; ++i) {
             if (flat(j, i) <= structured)
@@ -97,6 +117,6 @@ bool blankFlatAreas(cv::Mat1f &image)
                     if (flat(row, column) <= structured || (row == j && column == i))
                         blankLike(image(blockArea(image, column, row)), flat(j, i));
         }
-    return false;
+    return {false, double(cv::countNonZero(image <= blankValue)) / double(image.total())};
 }
 } // namespace recognition

@@ -6,8 +6,12 @@
 
 namespace recognition
 {
-/// Sets the pixels of flat areas to `blankValue`. Nothing is done where most of the picture is
-/// flat, as a noise-free sky is.
-/// @return whether the whole picture has one value
-bool blankFlatAreas(cv::Mat1f &image);
+struct FlatAreas {
+    bool isWhole = false;    ///< the whole picture has one value; nothing was set
+    double blankShare = 0.0; ///< part of the picture's pixels that were set
+};
+
+/// Sets the pixels of flat areas to `blankValue`, however wide a border is. Nothing is done where
+/// most of what lies between the stars is flat, as in a noise-free sky.
+FlatAreas blankFlatAreas(cv::Mat1f &image);
 } // namespace recognition

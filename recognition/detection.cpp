@@ -37,12 +37,19 @@ struct Spread {
     float median, deviation; // the deviation as one sigma of a normal distribution
 };
 
-std::vector<float> sampleOf(const cv::Mat1f &image)
+// Without as many zeros as there are pixels that show nothing.
+std::vector<float> sampleOf(const cv::Mat1f &image, double blankShare)
 {
     std::vector<float> sample;
     const std::size_t step = image.total() / sampled | 1; // odd: not always the same columns
-    for (std::size_t i = 0; i < image.total(); i += step)
-        sample.push_back(image.ptr<float>()[i]);
+    auto blank = std::size_t(blankShare * double(image.total() / step));
+    for (std::size_t i = 0; i < image.total(); i += step) {
+        const float value = image.ptr<float>()[i];
+        if (value == 0.0f && blank > 0)
+            --blank;
+        else
+            sample.push_back(value);
+    }
     return sample;
 }
 
@@ -187,11 +194,13 @@ void replaceHotPixels(cv::Mat1f &values, float noise)
     values *= noise;
 }
 
-Detection detect(const cv::Mat1f &normalised, int bin, double threshold)
+Detection detect(const cv::Mat1f &normalised, double blankShare, int bin, double threshold)
 {
     Detection out;
     const cv::Mat1f image = smoothed(normalised);
-    const std::vector<float> sample = sampleOf(image);
+    const std::vector<float> sample = sampleOf(image, blankShare);
+    if (sample.empty())
+        return out;
     const Spread spread = spreadOf(sample);
     out.noiseScale = std::max(1.0, double(spread.deviation));
     const float limit =

@@ -31,10 +31,11 @@ void removeHotPixels(cv::Mat1f &normalised);
 void replaceHotPixels(cv::Mat1f &values, float noise);
 
 /// Smooths and searches.
-/// @param normalised background 0, noise 1
+/// @param normalised background 0, noise 1; 0 where nothing is shown
+/// @param blankShare part of the pixels that show nothing, which tell nothing about the noise
 /// @param bin pixels of the frame along one of the picture's
 /// @param threshold of a peak in the smoothed picture, multiples of that picture's noise
-Detection detect(const cv::Mat1f &normalised, int bin, double threshold);
+Detection detect(const cv::Mat1f &normalised, double blankShare, int bin, double threshold);
 
 /// 2 x 2 pixels become one; noise 1 stays noise 1.
 cv::Mat1f halved(const cv::Mat1f &normalised);

@@ -42,12 +42,13 @@ void keepBrightest(std::vector<Candidate> &candidates, std::size_t most)
 }
 
 // Wide stars are found in coarser pictures of the same sky.
-DetectionResult search(cv::Mat1f &sky, int bin, const ExtractionOptions &options,
+// @param blankShare part of the sky's pixels that show nothing
+DetectionResult search(cv::Mat1f &sky, double blankShare, int bin, const ExtractionOptions &options,
                        MeasuredStars &stars)
 {
     const auto most = std::size_t(std::max(options.mostStars, 1));
     for (int level = 0; level <= coarserSearches; ++level) {
-        Detection found = detect(sky, bin, detectionThreshold);
+        Detection found = detect(sky, blankShare, bin, detectionThreshold);
         if (found.result != DetectionResult::Done)
             return level == 0 ? found.result : DetectionResult::Done;
         keepBrightest(found.candidates, candidatesAStar * most + 100);
@@ -105,7 +106,8 @@ Extraction extractStars(const cv::Mat &frame, const ExtractionOptions &options)
     cv::Mat1f sky = binnedFrame(frame, bin);
     const double full = fullScale(frame);
     const float corner = sky(0, 0);
-    if (blankFlatAreas(sky)) {
+    const FlatAreas flat = blankFlatAreas(sky);
+    if (flat.isWhole) {
         out.background = double(corner);
         out.status = double(corner) > nearFullScale * full ? ExtractionStatus::SaturatedSky
                                                            : ExtractionStatus::Black;
@@ -123,7 +125,7 @@ Extraction extractStars(const cv::Mat &frame, const ExtractionOptions &options)
     if (bin == 1)
         removeHotPixels(sky);
     MeasuredStars stars(frame, *background, bin);
-    if (search(sky, bin, options, stars) != DetectionResult::Done) {
+    if (search(sky, flat.blankShare, bin, options, stars) != DetectionResult::Done) {
         out.status = ExtractionStatus::NoSky;
         return out;
     }

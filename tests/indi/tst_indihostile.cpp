@@ -229,12 +229,13 @@ void IndiHostileTest::jpegFramesAreRight()
     QVERIFY2(cv::mean(difference)[0] < 2.0, qPrintable(QString::number(cv::mean(difference)[0])));
 }
 
-/// For the thread sanitizer, above all.
+/// For the sanitizers, above all. How often the client learns of a property before the server goes
+/// depends on how busy the machine is.
 void IndiHostileTest::serverGoesWhileWeSend()
 {
     const LeavingServer server;
     int known = 0;
-    for (int time = 0; time < 200; ++time) {
+    for (int time = 0; time < 5000 && known < 100; ++time) {
         framesources::IndiClient client("127.0.0.1", server.port(), "Camera");
         if (!client.connectServer()) // it had gone already
             continue;
@@ -245,7 +246,7 @@ void IndiHostileTest::serverGoesWhileWeSend()
         }
         known += client.has("PROPERTY_1") ? 1 : 0;
     }
-    QVERIFY2(known > 100, qPrintable(QString::number(known)));
+    QVERIFY2(known == 100, qPrintable(QString::number(known)));
 }
 
 namespace

@@ -4,6 +4,7 @@
 
 #include <QTest>
 #include <cmath>
+#include <opencv2/imgproc.hpp>
 #include <random>
 #include <thread>
 
@@ -75,6 +76,8 @@ private slots:
     void noMoreStarsThanWanted();
     void starsAtTheEdgeAreLeftOut();
     void hotPixelsAreNoStars();
+    void bordersMakeNoStars_data();
+    void bordersMakeNoStars();
     void measuringNeedsAStar_data();
     void measuringNeedsAStar();
     void manyThreads();
@@ -255,6 +258,49 @@ void ExtractionFramesTest::hotPixelsAreNoStars()
     cv::Mat1w lone = noisySky(64, 64, 6);
     lone(30, 31) = 60000;
     QVERIFY(!measureStar(lone, 30, 30, 10));
+}
+
+void ExtractionFramesTest::bordersMakeNoStars_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::addColumn<int>("height");
+    QTest::addColumn<bool>("softened"); // the noise of neighbours is no longer independent
+    for (const bool softened : {false, true}) {
+        const auto row = [softened](const char *border, int width, int height) {
+            QTest::addRow("%s%s", border, softened ? ", softened" : "")
+                << width << height << softened;
+        };
+        row("a narrow one", 640, 512);
+        row("two fifths of the picture", 820, 680);
+        row("four fifths of the picture", 1120, 960);
+    }
+}
+
+/// As where a picture of a narrow lens is brought to a coarser scale, in the value of its sky.
+void ExtractionFramesTest::bordersMakeNoStars()
+{
+    QFETCH(int, width);
+    QFETCH(int, height);
+    QFETCH(bool, softened);
+    cv::Mat1w sky = starField(520, 400);
+    if (softened)
+        cv::GaussianBlur(sky, sky, {3, 3}, 0.8);
+    const Extraction alone = extractStars(sky);
+    cv::Mat1w frame(height, width, std::uint16_t(cv::mean(sky)[0]));
+    sky.copyTo(frame(cv::Rect(60, 50, sky.cols, sky.rows)));
+    const Extraction found = extractStars(frame);
+    const auto sure = [](const Extraction &picture) { // noise may pass for the faintest
+        return std::count_if(picture.stars.begin(), picture.stars.end(),
+                             [](const DetectedStar &star) { return star.snr > 5.0; });
+    };
+    QCOMPARE(sure(found), sure(alone));
+    QVERIFY2(std::abs(found.noise / alone.noise - 1.0) < 0.1,
+             qPrintable(QString::number(found.noise)));
+    for (const DetectedStar &star : alone.stars)
+        QVERIFY(star.snr < 5.0 ||
+                std::any_of(found.stars.begin(), found.stars.end(), [&star](const auto &other) {
+                    return std::hypot(other.x - 60 - star.x, other.y - 50 - star.y) < 0.1;
+                }));
 }
 
 void ExtractionFramesTest::measuringNeedsAStar_data()
