@@ -8,7 +8,7 @@
 #include "cameracommand/actions.h"
 #include "cameracommand/grabbing.h"
 #include "cameracommand/lenswriting.h"
-#include "framesources/preparation.h"
+#include "framesources/lensfinder.h"
 #include "pictures/fitting.h"
 #include "pictures/grey.h"
 #include "recognition/extraction.h"
@@ -21,31 +21,21 @@ namespace
 constexpr int tries = 5; // frames, until the stars of one are recognised
 
 struct Checked {
-    recognition::Extraction extraction;
-    recognition::Recognition sky;
+    framesources::RecognisedLens lens;
     int binning = 1;
 };
 
 Checked checked(const framesources::NativeFrame &frame, const CameraCommandLine &wishes,
                 bool soften)
 {
-    cv::Mat grey = pictures::greyOf(frame.pixels, frame.mosaic);
-    if (soften)
-        grey = framesources::softened(grey);
-    recognition::RecognitionOptions options;
-    options.utcSeconds = wishes.date.value_or(frame.date.value_or(double(std::time(nullptr))));
-    options.leastScale = 0.5;
-    options.greatestScale = 200.0;
-    Checked out;
-    out.binning = frame.binning;
-    out.extraction = recognition::extractStars(grey);
-    out.sky = recognition::recognise(out.extraction.stars, grey.cols, grey.rows, options);
-    return out;
+    const double date = wishes.date.value_or(frame.date.value_or(double(std::time(nullptr))));
+    return {framesources::recogniseLens(pictures::greyOf(frame.pixels, frame.mosaic), date, soften),
+            frame.binning};
 }
 
 void print(const Checked &found)
 {
-    const recognition::Recognition &sky = found.sky;
+    const recognition::Recognition &sky = found.lens.sky;
     std::printf("scale: %.3f arcseconds a pixel%s\n", sky.scale / found.binning,
                 found.binning > 1 ? " of the sensor, unbinned" : "");
     if (sky.scale / found.binning > pictures::programScale * pictures::greatestEnlargement)
@@ -56,16 +46,19 @@ void print(const Checked &found)
     std::printf("hemisphere: %s\n",
                 sky.hemisphere == recognition::Hemisphere::North ? "north" : "south");
     std::printf("pole: %.1f, %.1f\n", sky.pole.x, sky.pole.y);
-    std::printf("stars: %zu found, %zu recognised\n", found.extraction.stars.size(),
+    std::printf("stars: %zu found, %zu recognised\n", found.lens.extraction.stars.size(),
                 sky.matched.size());
-    std::printf("focus: stars are %.1f pixels wide\n", found.extraction.fwhm);
+    std::printf("focus: stars are %.1f pixels wide\n", found.lens.extraction.fwhm);
+    if (found.lens.needsSoftening)
+        std::printf("stars are single pixels at the scale of the templates: soften = true\n");
 }
 
 int keepValues(const Checked &found, const CameraCommandLine &wishes,
                const std::optional<framesources::SourceSettings> &source)
 {
     const std::string path = virtualsky::skyFilePath();
-    const MeasuredLens lens{found.sky.scale / found.binning, found.sky.mirrored};
+    const MeasuredLens lens{found.lens.sky.scale / found.binning, found.lens.sky.mirrored,
+                            found.lens.needsSoftening};
     virtualsky::SkyWatch watch(path, [](const std::string &) {}); // its faults were said before
     const virtualsky::Source checked = source ? source->address.source : virtualsky::Source::Sky;
     const std::string reason = reasonToLeave(wishes.writing, checked, watch.current(), lens);
@@ -91,15 +84,15 @@ int checkLens(const CameraCommandLine &wishes)
         if (!frame)
             return failed;
         found = checked(*frame, wishes, source && source->soften);
-        if (found.sky.status == recognition::RecognitionStatus::Recognised)
+        if (found.lens.sky.status == recognition::RecognitionStatus::Recognised)
             break;
     }
     if (!camera)
         return failed;
-    if (found.sky.status != recognition::RecognitionStatus::Recognised) {
-        const std::string frame = recognition::reasonOf(found.extraction);
+    if (found.lens.sky.status != recognition::RecognitionStatus::Recognised) {
+        const std::string frame = recognition::reasonOf(found.lens.extraction);
         std::printf("not recognised: %s\n",
-                    (frame.empty() ? recognition::reason(found.sky) : frame).c_str());
+                    (frame.empty() ? recognition::reason(found.lens.sky) : frame).c_str());
         return failed;
     }
     print(found);

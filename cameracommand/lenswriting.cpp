@@ -104,9 +104,11 @@ bool writeLens(const std::string &skyFile, const MeasuredLens &lens)
     const std::optional<std::string> before = changeableText(skyFile);
     if (!before)
         return false;
-    // A new line comes first in its section: this leaves scale above mirrored.
-    std::string after =
-        withSkyValue(*before, section, "mirrored", lens.mirrored ? "true" : "false");
+    // A new line comes first in its section: this leaves scale above the others.
+    std::string after = *before;
+    if (lens.soften)
+        after = withSkyValue(after, section, "soften", "true");
+    after = withSkyValue(after, section, "mirrored", lens.mirrored ? "true" : "false");
     after = withSkyValue(after, section, "scale", text(lens.scale));
     try {
         virtualsky::parse(after);
@@ -125,5 +127,7 @@ bool writeLens(const std::string &skyFile, const MeasuredLens &lens)
     }
     for (const char *key : {"scale", "mirrored"})
         printChange(skyFile, *before, after, key);
+    if (lens.soften)
+        printChange(skyFile, *before, after, "soften");
     return true;
 }

@@ -10,6 +10,7 @@
 struct MeasuredLens {
     double scale = 0.0; ///< arcseconds a pixel of the sensor, unbinned
     bool mirrored = false;
+    bool soften = false; ///< its stars are single pixels at the programs' scale
 };
 
 enum class LensWriting { WhereItCounts, Always, Never };
@@ -23,6 +24,7 @@ enum class LensWriting { WhereItCounts, Always, Never };
 std::string reasonToLeave(LensWriting writing, virtualsky::Source checked,
                           const virtualsky::SkyState &state, const MeasuredLens &lens);
 
-/// Writes the keys `scale` and `mirrored` and prints which lines were changed and what stood there.
+/// Writes the keys `scale` and `mirrored`, and `soften` where it is needed, and prints which lines
+/// were changed and what stood there.
 /// @return false, with a message on standard error, if the file cannot be changed; it is as it was
 bool writeLens(const std::string &skyFile, const MeasuredLens &lens);

@@ -5,8 +5,6 @@
 #include <cstdio>
 
 #include "pictures/grey.h"
-#include "recognition/extraction.h"
-#include "recognition/recognise.h"
 
 namespace framesources
 {
@@ -25,6 +23,31 @@ double secondsNow()
 }
 } // namespace
 
+RecognisedLens recogniseLens(const cv::Mat &grey, double utcSeconds, bool soften)
+{
+    recognition::RecognitionOptions options;
+    options.utcSeconds = utcSeconds;
+    options.leastScale = finestScale;
+    options.greatestScale = coarsestScale;
+    const auto stars = [&options](const cv::Mat &picture) {
+        RecognisedLens out;
+        out.extraction = recognition::extractStars(picture);
+        out.sky = recognition::recognise(out.extraction.stars, picture.cols, picture.rows, options);
+        return out;
+    };
+    RecognisedLens plain = stars(soften ? softened(grey) : grey);
+    const bool isRecognised = plain.sky.status == recognition::RecognitionStatus::Recognised;
+    if (soften)
+        return plain;
+    if (isRecognised) {
+        plain.needsSoftening = needsSoftening(plain.extraction.fwhm, plain.sky.scale);
+        return plain;
+    }
+    RecognisedLens other = stars(softened(grey));
+    other.needsSoftening = other.sky.status == recognition::RecognitionStatus::Recognised;
+    return other.needsSoftening ? other : plain;
+}
+
 LensFinder::LensFinder(const SourceSettings &settings, Report reportLens)
     : scale(settings.scale),
       mirrored(settings.mirrored),
@@ -40,20 +63,16 @@ bool LensFinder::isOpen() const
 
 void LensFinder::recognise(const NativeFrame &frame)
 {
-    const cv::Mat plain = pictures::greyOf(frame.pixels, frame.mosaic);
-    const cv::Mat grey = soften ? softened(plain) : plain;
-    recognition::RecognitionOptions options;
-    options.utcSeconds = frame.date.value_or(secondsNow());
-    options.leastScale = finestScale;
-    options.greatestScale = coarsestScale;
-    const recognition::Recognition sky = recognition::recognise(
-        recognition::extractStars(grey).stars, grey.cols, grey.rows, options);
+    const RecognisedLens lens = recogniseLens(pictures::greyOf(frame.pixels, frame.mosaic),
+                                              frame.date.value_or(secondsNow()), soften);
+    const recognition::Recognition &sky = lens.sky;
     if (sky.status != recognition::RecognitionStatus::Recognised)
         return;
-    found = Lens{sky.scale / frame.binning, sky.mirrored};
-    char text[100];
-    std::snprintf(text, sizeof text, "the stars show %.2f arcseconds a pixel, %s", found->scale,
-                  sky.mirrored ? "mirrored" : "not mirrored");
+    found = Lens{sky.scale / frame.binning, sky.mirrored, lens.needsSoftening};
+    char text[150];
+    std::snprintf(text, sizeof text, "the stars show %.2f arcseconds a pixel, %s%s", found->scale,
+                  sky.mirrored ? "mirrored" : "not mirrored",
+                  lens.needsSoftening ? "; narrow as they are, they are softened" : "");
     report(text);
 }
 
@@ -75,7 +94,7 @@ Lens LensFinder::lensFor(const NativeFrame &frame)
         tried = Clock::now();
     }
     Lens lens;
-    lens.soften = soften;
+    lens.soften = soften || (found && found->soften);
     lens.scale = sensorScale() * frame.binning;
     lens.mirrored =
         mirrored == Mirrored::Auto ? found && found->mirrored : mirrored == Mirrored::True;

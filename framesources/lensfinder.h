@@ -7,9 +7,23 @@
 
 #include "framesources/preparation.h"
 #include "framesources/settings.h"
+#include "recognition/extraction.h"
+#include "recognition/recognise.h"
 
 namespace framesources
 {
+/// What the stars of a frame tell.
+struct RecognisedLens {
+    recognition::Extraction extraction;
+    recognition::Recognition sky;
+    /// Its stars are single pixels, here or at the program's scale, and were not softened.
+    bool needsSoftening = false;
+};
+
+/// Recognises the stars of a frame as it is; if that fails, softened.
+/// @param soften the settings say so: it is softened at once
+RecognisedLens recogniseLens(const cv::Mat &grey, double utcSeconds, bool soften);
+
 /// Settles what the settings leave open from the first frame whose stars are recognised, again when
 /// frames of another sensor come. Not thread-safe.
 class LensFinder

@@ -2,6 +2,7 @@
 // Grey, then the program's scale and size, then 8 bits.
 #include "framesources/preparation.h"
 
+#include <algorithm>
 #include <opencv2/imgproc.hpp>
 
 #include "pictures/fitting.h"
@@ -20,11 +21,18 @@ cv::Mat softened(const cv::Mat &grey)
     return out;
 }
 
+bool needsSoftening(double fwhm, double scale)
+{
+    constexpr double narrowest = 1.5; // pixels: hardly any light beside the pixel of the centre
+    return fwhm * std::min(1.0, scale / pictures::programScale) < narrowest;
+}
+
 cv::Mat prepared(const NativeFrame &frame, const Lens &lens)
 {
     const cv::Size size(virtualsky::sensorWidth, virtualsky::sensorHeight);
     const pictures::Fit fit = pictures::planFit(frame.pixels.size(), size, lens.scale);
-    cv::Mat out = pictures::resampled(pictures::greyOf(frame.pixels, frame.mosaic), fit);
+    cv::Mat out =
+        pictures::resampled(pictures::greyOf(frame.pixels, frame.mosaic), fit, lens.soften);
     if (lens.soften)
         out = softened(out);
     if (out.depth() == CV_16U)

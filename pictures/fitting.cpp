@@ -37,7 +37,7 @@ Fit planFit(cv::Size picture, cv::Size frame, double scale)
     return fit;
 }
 
-cv::Mat resampled(const cv::Mat &grey, const Fit &fit)
+cv::Mat resampled(const cv::Mat &grey, const Fit &fit, bool spread)
 {
     const cv::Mat region = grey(fit.region);
     if (fit.factor == 1.0)
@@ -54,6 +54,12 @@ cv::Mat resampled(const cv::Mat &grey, const Fit &fit)
         region.convertTo(wide, CV_16U, 256.0);
     else
         wide = region;
+    const int side = 2 * int(0.5 / factor) + 1; // pixels, the odd number nearest to 1 / factor
+    if (spread && side > 1) {
+        cv::Mat blurred; // `wide` may be the camera's own frame
+        cv::blur(wide, blurred, {side, side}, {-1, -1}, cv::BORDER_REPLICATE);
+        wide = blurred;
+    }
     cv::resize(wide, out, cv::Size(), factor, factor, cv::INTER_AREA);
     return out;
 }

@@ -25,7 +25,9 @@ Fit planFit(cv::Size picture, cv::Size frame, double scale);
 /// The region, resampled. Averages of 8-bit pixels are 16-bit, 256 times the values, so that what
 /// averaging gains is kept.
 /// @param grey 8 or 16 bit, one channel
-cv::Mat resampled(const cv::Mat &grey, const Fit &fit);
+/// @param spread before pixels are averaged, their light is spread over as much as makes one: a
+/// star narrower than that keeps its place, which would be rounded to whole pixels
+cv::Mat resampled(const cv::Mat &grey, const Fit &fit, bool spread = false);
 
 /// The picture in the middle of a frame, cropped, or surrounded by the level of its own sky.
 /// @param grey 8 bit, one channel

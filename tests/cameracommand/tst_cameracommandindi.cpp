@@ -47,6 +47,7 @@ private slots:
     void grabs();
     void records();
     void checkWritesTheLens();
+    void checkSoftensStarsOfOnePixel();
     void otherDeviceIsNamed();
     void listsTheDevices();
     void listOfAServerThatDoesNotAnswer();
@@ -155,6 +156,18 @@ void CameraCommandIndiTest::checkWritesTheLens()
     const double scale = replaced.match(again).captured(1).toDouble();
     QVERIFY2(std::abs(scale - 20.0) < 0.05, qPrintable(again));
     QVERIFY(server.set(SimulatedSensor()));
+}
+
+void CameraCommandIndiTest::checkSoftensStarsOfOnePixel()
+{
+    QVERIFY(
+        virtualsky::writeAtomically(path("sky.ini").toStdString(), "[camera]\nstream = false\n"));
+    const Result checked = run(camera() + QStringList{"check"});
+    QVERIFY2(checked.status == 0, qPrintable(checked.output + checked.errors));
+    QVERIFY2(checked.output.contains("soften = true (new)\n"), qPrintable(checked.output));
+    QFile file(path("sky.ini"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(file.readAll().contains("\nsoften = true\n"));
 }
 
 void CameraCommandIndiTest::otherDeviceIsNamed()

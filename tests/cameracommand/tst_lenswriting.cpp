@@ -95,6 +95,9 @@ void LensWritingTest::makesTheFile()
     const QString path = folder.filePath("new/sky.ini");
     QVERIFY(writeLens(path.toStdString(), lens));
     QCOMPARE(bytesOf(path), QByteArray("[camera]\nscale = 20.000\nmirrored = false\n"));
+    QVERIFY(writeLens(path.toStdString(), {20.0, false, true}));
+    QCOMPARE(bytesOf(path),
+             QByteArray("[camera]\nsoften = true\nscale = 20.000\nmirrored = false\n"));
 }
 
 void LensWritingTest::keepsLinkAndPermissions()

@@ -16,10 +16,11 @@ using virtualsky::Mirrored;
 namespace
 {
 /// The virtual sky's frame, as a camera with larger or smaller pixels sees it.
-NativeFrame skyFrame(double factor, bool mirrored)
+NativeFrame skyFrame(double factor, bool mirrored, double fwhm = 2.5)
 {
     virtualsky::SkyState state;
     state.date = 1795204800.0;
+    state.fwhm = fwhm;
     virtualsky::Scene scene;
     virtualsky::Sensor sensor;
     cv::Mat picture(960, 1280, CV_8UC1);
@@ -57,6 +58,8 @@ private slots:
     void onlyWhatIsLeftOpen();
     void binnedFramesOfOneSensor();
     void unknownSkyIsLeftAlone();
+    void narrowStarsAreSoftened_data();
+    void narrowStarsAreSoftened();
 };
 
 void LensFinderTest::found_data()
@@ -87,6 +90,27 @@ void LensFinderTest::found()
     NativeFrame dark = skyFrame(factor, false);
     dark.pixels = cv::Mat(dark.pixels.size(), CV_8UC1, cv::Scalar(0));
     QCOMPARE(finder.lensFor(dark).scale, lens.scale);
+}
+
+void LensFinderTest::narrowStarsAreSoftened_data()
+{
+    QTest::addColumn<double>("factor");
+    QTest::addColumn<double>("fwhm"); // pixels before the frame is resampled
+    QTest::addColumn<bool>("soften");
+    QTest::newRow("as wide as usual") << 1.0 << 2.5 << false;
+    QTest::newRow("of one pixel") << 1.0 << 0.5 << true;
+    QTest::newRow("wide, averaged to less than a pixel") << 2.0 << 0.5 << true;
+}
+
+void LensFinderTest::narrowStarsAreSoftened()
+{
+    QFETCH(double, factor);
+    QFETCH(double, fwhm);
+    LensFinder finder(settingsOf(LensScale::Kind::Auto, Mirrored::Auto), [](const auto &) {});
+    const framesources::Lens lens = finder.lensFor(skyFrame(factor, false, fwhm));
+    QVERIFY(!finder.isSearching());
+    QTEST(lens.soften, "soften");
+    QVERIFY(std::abs(lens.scale * factor - 30.45) < 0.1);
 }
 
 void LensFinderTest::givenIsUsed()

@@ -6,6 +6,7 @@
 #include <opencv2/imgproc.hpp>
 
 #include "framesources/preparation.h"
+#include "pictures/fitting.h"
 
 using framesources::Lens;
 using framesources::NativeFrame;
@@ -33,6 +34,9 @@ private slots:
     void mirroredIsTurnedBack();
     void neverMoreThanFourTimes();
     void softened();
+    void softenedStarsKeepTheirPlaces();
+    void softeningIsNeeded_data();
+    void softeningIsNeeded();
 };
 
 void PreparationTest::everyKind_data()
@@ -106,6 +110,45 @@ void PreparationTest::neverMoreThanFourTimes()
                  qPrintable(QString::number(middle(640, 1280) - middle(0, 640))));
         QCOMPARE(out.size(), cv::Size(1280, 960));
     }
+}
+
+/// Two stars of one pixel each, between the pixels of the program.
+void PreparationTest::softenedStarsKeepTheirPlaces()
+{
+    cv::Mat pixels(4000, 5000, CV_16UC1, cv::Scalar(0));
+    pixels.at<ushort>(2000, 1501) = 60000;
+    pixels.at<ushort>(2000, 3503) = 60000;
+    const auto distanceIn = [](const cv::Mat &frame) {
+        const auto middle = [&frame](int begin, int end) {
+            const cv::Moments moments = cv::moments(frame.colRange(begin, end));
+            return begin + moments.m10 / moments.m00;
+        };
+        return middle(500, 1000) - middle(0, 500);
+    };
+    const pictures::Fit fit =
+        pictures::planFit(pixels.size(), {1280, 960}, pictures::programScale / 5.0);
+    const double distance = distanceIn(pictures::resampled(pixels, fit, true));
+    QVERIFY2(std::abs(distance - 400.4) < 0.02, qPrintable(QString::number(distance)));
+    QVERIFY(std::abs(distanceIn(pictures::resampled(pixels, fit)) - 400.4) > 0.3); // as it is else
+}
+
+void PreparationTest::softeningIsNeeded_data()
+{
+    QTest::addColumn<double>("fwhm");
+    QTest::addColumn<double>("scale");
+    QTest::addColumn<bool>("needed");
+    QTest::newRow("the program's scale") << 2.0 << 30.45 << false;
+    QTest::newRow("the program's scale, stars of one pixel") << 1.0 << 30.45 << true;
+    QTest::newRow("averaged by two") << 4.0 << 15.2 << false;
+    QTest::newRow("averaged by five") << 2.5 << 6.0 << true;
+    QTest::newRow("enlarged") << 1.6 << 60.0 << false;
+}
+
+void PreparationTest::softeningIsNeeded()
+{
+    QFETCH(double, fwhm);
+    QFETCH(double, scale);
+    QTEST(framesources::needsSoftening(fwhm, scale), "needed");
 }
 
 void PreparationTest::softened()
