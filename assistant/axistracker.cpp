@@ -19,9 +19,11 @@ using recognition::EarthView;
 using recognition::Recognition;
 
 constexpr double allowedSigmas = 4.0;
-constexpr double allowedArcseconds = 1.5; // that are never taken for a bump
-constexpr int departuresOfABump = 3;      // in a row
-constexpr double scaleDifference = 0.02;  // relative, between frames of one camera
+constexpr double allowedArcseconds = 1.5;      // that are never taken for a bump
+constexpr int departuresOfABump = 3;           // in a row
+constexpr double leastGuessedTurn = 1.0;       // degrees
+constexpr double greatestGuessedSigma = 300.0; // arcseconds
+constexpr double scaleDifference = 0.02;       // relative, between frames of one camera
 /// The frame's centre is taken to be within this angle's sine of the axis: between two frames it
 /// moves by no more than the turn times this.
 constexpr double farthestAxis = 0.3;
@@ -221,6 +223,7 @@ AxisTracker::Event AxisTracker::solve()
     if (axis.status == AxisStatus::Found)
         improve(axis);
     known = std::move(axis);
+    early = known.status == AxisStatus::TooLittleTurn ? guess() : std::nullopt;
     if (known.status == AxisStatus::Found)
         updateDirection();
     return event;
@@ -258,6 +261,26 @@ void AxisTracker::improve(Axis &axis) const
     axis.rms = arcseconds(point->rms);
     axis.sigmaArcseconds = kept.front().frames.front().mapping.scaleAt(axis.place) *
                            std::sqrt(0.5 * (axis.covariance.xx + axis.covariance.yy));
+}
+
+std::optional<Axis> AxisTracker::guess() const
+{
+    if (turnedDegrees() < leastGuessedTurn)
+        return std::nullopt;
+    std::vector<EarthView> views;
+    for (const Place &one : kept)
+        views.emplace_back(one.frames.front(), kept.front().frames.front().pole);
+    std::vector<std::size_t> all(views.size());
+    std::iota(all.begin(), all.end(), std::size_t{0});
+    const auto point = recognition::fixedPointOf(views, all);
+    if (!point)
+        return std::nullopt;
+    Axis axis;
+    axis.place = point->pixel;
+    improve(axis);
+    if (!(axis.sigmaArcseconds > 0.0 && axis.sigmaArcseconds < greatestGuessedSigma))
+        return std::nullopt;
+    return axis;
 }
 
 AxisTracker::Event AxisTracker::add(const Recognition &frame)

@@ -52,6 +52,9 @@ public:
 
     /// Status Found, or why it is not known.
     const recognition::Axis &axis() const { return known; }
+    /// Where the axis seems to be after less turn than an axis needs: to be shown only, for a
+    /// tripod that yields looks like another axis over a short turn.
+    const std::optional<recognition::Axis> &earlyAxis() const { return early; }
     double turnedDegrees() const;
     std::size_t frames() const { return counted; }
     bool isEnough() const;
@@ -76,6 +79,7 @@ private:
     void thin();
     Event solve();
     void improve(recognition::Axis &axis) const;
+    std::optional<recognition::Axis> guess() const;
     Event startFrom(const recognition::Recognition &frame, Event event);
     void updateDirection();
 
@@ -87,6 +91,7 @@ private:
     std::size_t counted = 0;
     int departures = 0; ///< in a row
     recognition::Axis known;
+    std::optional<recognition::Axis> early;    ///< only while `known` is not found
     double directionX = 0.0, directionY = 0.0; ///< of the axis, across the Earth's axis
 };
 } // namespace assistant

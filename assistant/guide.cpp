@@ -339,11 +339,13 @@ void Guide::fillAxis(Status &status) const
     axis.turnedDegrees = tracker.turnedDegrees();
     axis.frames = tracker.frames();
     axis.enough = tracker.isEnough();
-    if (tracker.axis().status != recognition::AxisStatus::Found)
+    axis.isEarly = tracker.axis().status != recognition::AxisStatus::Found;
+    if (axis.isEarly && !tracker.earlyAxis())
         return;
-    axis.place = tracker.axis().place;
-    axis.covariance = tracker.axis().covariance;
-    axis.sigmaArcseconds = tracker.axis().sigmaArcseconds;
+    const recognition::Axis &shown = axis.isEarly ? *tracker.earlyAxis() : tracker.axis();
+    axis.place = shown.place;
+    axis.covariance = shown.covariance;
+    axis.sigmaArcseconds = shown.sigmaArcseconds;
 }
 
 void Guide::adviseStage(const Observation &observation, Status &status) const

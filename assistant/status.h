@@ -74,7 +74,9 @@ struct Advice {
 /// The RA axis as far as it is known.
 struct AxisProgress {
     std::optional<recognition::PixelPlace> place; ///< absent until it can be computed
-    recognition::Covariance covariance;           ///< pixels squared
+    bool isEarly =
+        false; ///< after little turn: shown with its ellipse, no figure is computed of it
+    recognition::Covariance covariance; ///< pixels squared
     double sigmaArcseconds = 0.0;
     double turnedDegrees = 0.0; ///< greatest minus least angle of all sharp frames
     std::size_t frames = 0;     ///< sharp frames that count

@@ -337,7 +337,7 @@ void paintMarks(QPainter &painter, const assistant::Status &status,
             taken.insert(taken.end(), names.begin(), names.end());
         }
         paintStars(canvas, taken);
-        if (status.axis.place)
+        if (status.axis.place && !status.axis.isEarly)
             paintLine(canvas, at, view.place(*status.axis.place));
         paintEllipse(canvas, at, status.poleCovariance, theme.pole);
         paintCross(canvas, at, theme.pole);

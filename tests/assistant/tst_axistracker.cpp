@@ -40,6 +40,8 @@ private slots:
     void manyFramesAreFewKept();
     void everySharpFrameCounts();
     void sigmaShrinksWithTurn();
+    void axisShowsEarly_data();
+    void axisShowsEarly();
     void coarserStepsLoseNothing();
     void turnsAddUp();
     void departureTellsMovedBolts();
@@ -98,6 +100,45 @@ void AxisTrackerTest::sigmaShrinksWithTurn()
     }
     const QString said = QStringLiteral("%1, %2, %3").arg(sigmas[0]).arg(sigmas[1]).arg(sigmas[2]);
     QVERIFY2(sigmas[1] < 0.7 * sigmas[0] && sigmas[2] < 0.7 * sigmas[1], qPrintable(said));
+}
+
+void AxisTrackerTest::axisShowsEarly_data()
+{
+    QTest::addColumn<bool>("south");
+    QTest::addColumn<unsigned>("seed");
+    for (const bool south : {false, true})
+        for (const unsigned seed : {1u, 2u, 3u, 4u})
+            QTest::addRow("%s, %u", south ? "south" : "north", seed) << south << seed;
+}
+
+/// From one degree on, with an ellipse that shrinks and that holds the axis.
+void AxisTrackerTest::axisShowsEarly()
+{
+    QFETCH(bool, south);
+    QFETCH(unsigned, seed);
+    virtualsky::SkyState sky = plainNight();
+    sky.latitude = south ? -35.0 : sky.latitude;
+    sky.seed = seed;
+    Eye eye(sky);
+    AxisTracker tracker;
+    std::vector<double> sigmas;
+    for (double angle = 0.0; angle <= 14.0; angle += 0.5) {
+        tracker.add(eye.lookAt(angle));
+        const auto &axis = tracker.earlyAxis();
+        if (tracker.turnedDegrees() < 1.0)
+            QVERIFY(!axis);
+        if (!axis)
+            continue;
+        const double off = std::hypot(axis->place.x - eye.axis().x, axis->place.y - eye.axis().y) *
+                           virtualsky::pixelScale;
+        QVERIFY2(off < 4.0 * axis->sigmaArcseconds,
+                 qPrintable(QString("%1, claimed %2").arg(off).arg(axis->sigmaArcseconds)));
+        sigmas.push_back(axis->sigmaArcseconds);
+    }
+    QVERIFY(sigmas.size() > 20);
+    QVERIFY2(sigmas.back() < 0.2 * sigmas.front(), qPrintable(QString::number(sigmas.front())));
+    tracker.add(eye.lookAt(16.0));
+    QVERIFY(!tracker.earlyAxis()); // it is known
 }
 
 /// As in a whole alignment: several frames a place at first, later one. The steps double at the
