@@ -337,6 +337,7 @@ void FrameDisplayTest::rateText_data()
     QTest::newRow("30.3") << 30 << 3 << "FPS : 30.3";
     QTest::newRow("saturated") << 2147483647 << -2147483647 - 1 << "FPS : 2147483647.-2147483648";
     QTest::newRow("negative") << -333 << -3 << "FPS : -333.-3";
+    QTest::newRow("the clock was set back by 2 s") << 0 << -5 << "FPS : 0.-5"; // as specified
 }
 
 void FrameDisplayTest::rateText()
