@@ -80,7 +80,7 @@ public:
     bool endsBy(int milliseconds)
     {
         const bool hasEnded = process.waitForFinished(patience);
-        const qint64 took = timer.elapsed();
+        took = timer.elapsed();
         errors += process.readAllStandardError();
         errors += "\nmilliseconds to its end: " + QByteArray::number(took);
         return hasEnded && took < milliseconds && process.exitStatus() == QProcess::NormalExit &&
@@ -88,6 +88,7 @@ public:
     }
 
     QByteArray errors; ///< what it wrote on standard error
+    qint64 took = 0;   ///< milliseconds from the signal to its end
 
 private:
     const QString file;
@@ -122,4 +123,8 @@ inline void runTogether(std::vector<HangingRun> &runs, const QStringList &option
         each([](HangingRun &run) { run.program->send(run.number); });
         each([](HangingRun &run) { run.ended = run.program->endsBy(longestEnd); });
     }
+    qint64 longest = 0;
+    for (const HangingRun &run : runs)
+        longest = std::max(longest, run.program->took);
+    qInfo("the slowest of %zu ends took %lld ms", runs.size(), static_cast<long long>(longest));
 }
