@@ -17,14 +17,14 @@ delays=(50 500 3000 8000) # microseconds
 
 # runs SERIES WORKER COUNT [VARIABLE=VALUE]: a folder of its own, since the settings are beside the program.
 runs() {
-  local folder=$scratch/$1-$2 wakes=${4:-} n status
+  local folder=$scratch/$1-$2 n status
   mkdir -p "$folder/home" && mkdir -m 700 "$folder/run" && cp "$program" "$folder/"
   for ((n = 0; n < $3; n++)); do
     status=0
     timeout 120 env QT_QPA_PLATFORM=offscreen QT_NO_GLIB=1 GST_PLUGIN_SYSTEM_PATH_1_0=/nothing GST_REGISTRY_FORK=no \
       LC_ALL=C.UTF-8 HOME="$folder/home" XDG_CONFIG_HOME="$folder/home" XDG_RUNTIME_DIR="$folder/run" \
       LD_LIBRARY_PATH="$build/tests/lib/recordingsdk" LD_PRELOAD="$preload" \
-      RELEASE_DELAY=${delays[n % 4]} $wakes \
+      RELEASE_DELAY="${delays[n % 4]}" "${@:4}" \
       "$folder/tst_sdkmatrix" id >"$folder/out" 2>&1 || status=$?
     echo "$status $(grep -a '^delayedrelease: [0-9]' "$folder/out" || true)" >>"$scratch/$1"
   done 2>/dev/null
