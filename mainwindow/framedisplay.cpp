@@ -39,10 +39,10 @@ void MainWindow::showImages()
     const QImage picture = session.frameQueue.takeOldest();
     if (!picture.isNull()) {
         sinceLastPicture.start();
-        displayImage = inPoolThread([&] {
-            return picture.scaled(scaledSide(picture.width(), zoomFactor),
-                                  scaledSide(picture.height(), zoomFactor), Qt::KeepAspectRatio,
-                                  Qt::SmoothTransformation);
+        const QSize side(scaledSide(picture.width(), zoomFactor),
+                         scaledSide(picture.height(), zoomFactor));
+        displayImage = side == picture.size() ? picture : inPoolThread([&] {
+            return picture.scaled(side, Qt::KeepAspectRatio, Qt::SmoothTransformation);
         });
         const QPixmap pixmap = QPixmap::fromImage(displayImage);
         ui->label_showImg->setPixmap(pixmap);

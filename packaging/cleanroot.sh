@@ -34,8 +34,10 @@ in_root_as() {
     HOME="/home/$1" DEB_BUILD_OPTIONS="${DEB_BUILD_OPTIONS:-}" sh -c "cd && $2"
 }
 
-# remove_root: unmounts and deletes `root`.
+# remove_root: unmounts and deletes `root`. A process that a program has left behind may still use a
+# device; it ends with the script.
 remove_root() {
-  awk -v root="$root/" 'index($2, root) == 1 { print $2 }' /proc/mounts | sort -r | xargs -r umount
+  awk -v root="$root/" 'index($2, root) == 1 { print $2 }' /proc/mounts | sort -r |
+    xargs -r umount --lazy
   rm -rf --one-file-system "$root"
 }

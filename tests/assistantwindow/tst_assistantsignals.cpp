@@ -6,11 +6,6 @@
 #include <QtTest>
 #include <csignal>
 
-namespace
-{
-constexpr int longestEnd = 5500; ///< milliseconds from the signal on
-} // namespace
-
 class AssistantSignalsTest : public QObject
 {
     Q_OBJECT
@@ -19,37 +14,40 @@ private slots:
     void initTestCase();
     void endsInTime_data();
     void endsInTime();
+
+private:
+    std::vector<HangingRun> runs;
+    QStringList names; ///< of the runs
 };
 
 void AssistantSignalsTest::initTestCase()
 {
     restoreSignals();
+    for (const auto &[number, name] : {std::pair(SIGTERM, "SIGTERM"), std::pair(SIGINT, "SIGINT")})
+        for (const char *const operation : allOperations) {
+            const char *const sign =
+                isCalledAtTheEnd(operation) ? "the camera is live" : "the library hangs";
+            runs.push_back({std::make_unique<HangingProgram>(operation, QString()), sign, number});
+            names.append(QString("%1, %2").arg(operation, name));
+        }
+    runTogether(runs, {"--connect"});
 }
 
 void AssistantSignalsTest::endsInTime_data()
 {
-    QTest::addColumn<QString>("operation");
-    QTest::addColumn<QByteArray>("sign"); // of the moment to send the signal
-    QTest::addColumn<int>("number");
-    const QByteArray hangs = "the library hangs", isLive = "the camera is live";
-    for (const char *const operation :
-         {"InitVELDIXResource", "ScanVELDIX", "OpenVELDIX", "SetVELDIXParam", "GetVELDIXLiveFrame"})
-        QTest::newRow(operation) << operation << hangs << SIGTERM;
-    QTest::newRow("a frame, SIGINT") << "GetVELDIXLiveFrame" << hangs << SIGINT;
-    QTest::newRow("stopping") << "StopVELDIXLive" << isLive << SIGTERM;
-    QTest::newRow("closing") << "CloseVELDIX" << isLive << SIGTERM;
+    QTest::addColumn<int>("run");
+    for (int i = 0; i < names.size(); ++i)
+        QTest::newRow(qPrintable(names[i])) << i;
 }
 
 void AssistantSignalsTest::endsInTime()
 {
-    QFETCH(QString, operation);
-    QFETCH(QByteArray, sign);
-    QFETCH(int, number);
-    HangingProgram program(operation, {});
-    program.start({"--connect"});
-    QVERIFY2(program.reaches(sign), program.errors);
-    program.send(number);
-    QVERIFY2(program.endsBy(longestEnd), program.errors);
+    QFETCH(int, run);
+    const HangingRun &wanted = runs[std::size_t(run)];
+    const QByteArray &errors = wanted.program->errors;
+    QVERIFY2(wanted.reached, errors);
+    QVERIFY2(errors.contains("the library hangs"), errors);
+    QVERIFY2(wanted.ended, errors);
 }
 
 QTEST_GUILESS_MAIN(AssistantSignalsTest)

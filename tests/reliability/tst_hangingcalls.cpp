@@ -10,25 +10,22 @@
 #include <QSettings>
 #include <QtTest>
 #include <csignal>
+#include <cstring>
+#include <unistd.h>
 
 namespace
 {
-constexpr int longestEnd = 5000; ///< milliseconds from the signal on
-
-QString settingsBeside(const QString &executable)
+/// The program again, in a folder of its own: each of several at once has its own settings.
+QString copyOfProgram(int number)
 {
-    return QFileInfo(executable).absolutePath() + "/Quorvandel.ini";
-}
-
-/// The program again, in a folder of its own: two run at once, each with its settings.
-QString secondProgram()
-{
-    const QFileInfo first(QStringLiteral(PROGRAM_FILE));
-    const QString second = first.absolutePath() + "/second/" + first.fileName();
-    QFile::remove(second);
+    const QFileInfo program(QStringLiteral(PROGRAM_FILE));
+    const QString folder = program.absolutePath() + '/' + QString::number(number);
+    const QString copy = folder + '/' + program.fileName();
+    QFile::remove(copy);
+    QFile::remove(settingsBeside(copy));
     const bool isThere =
-        QDir().mkpath(QFileInfo(second).absolutePath()) && QFile::copy(first.filePath(), second);
-    return isThere ? second : QString();
+        QDir().mkpath(folder) && ::link(qPrintable(program.filePath()), qPrintable(copy)) == 0;
+    return isThere ? copy : QString();
 }
 } // namespace
 
@@ -40,87 +37,69 @@ private slots:
     void initTestCase();
     void endsInTime_data();
     void endsInTime();
-    void hangingUpEndsItToo();
 
 private:
-    static void compareWithEnd(const HangingProgram &program, const QString &executable,
-                               const QString &operation);
-    QString executables[2]{QStringLiteral(PROGRAM_FILE), {}};
+    void add(const QString &operation, const QString &then, const QByteArray &sign, int number);
+
+    struct Row {
+        QString name, operation, executable;
+    };
+    std::vector<Row> rows;
+    std::vector<HangingRun> runs; ///< of the rows
 };
+
+void HangingCallsTest::add(const QString &operation, const QString &then, const QByteArray &sign,
+                           int number)
+{
+    const QString executable = copyOfProgram(int(rows.size()));
+    QVERIFY(!executable.isEmpty());
+    const QString name =
+        QStringList{operation, then, ::strsignal(number)}.join(", ").replace(", , ", ", ");
+    rows.push_back({name, operation, executable});
+    runs.push_back({std::make_unique<HangingProgram>(operation, then, executable), sign, number});
+}
 
 void HangingCallsTest::initTestCase()
 {
     restoreSignals();
-    executables[1] = secondProgram();
-    QVERIFY(!executables[1].isEmpty());
+    const QByteArray hangs = "the library hangs";
+    for (const int number : {SIGTERM, SIGINT})
+        for (const char *const operation : allOperations)
+            if (isCalledAtTheEnd(operation)) {
+                add(operation, "Disconnect", hangs, number);
+                add(operation, "as the window closes", "the camera is live", number);
+            } else {
+                add(operation, {}, hangs, number);
+            }
+    add("OpenVELDIX", {}, hangs, SIGHUP);
+    runTogether(runs);
 }
 
 void HangingCallsTest::endsInTime_data()
 {
-    QTest::addColumn<QString>("operation");
-    QTest::addColumn<QString>("then");    // what the user does while the camera is live
-    QTest::addColumn<QByteArray>("sign"); // of the moment to send the signal
-    const QByteArray hangs = "the library hangs";
-    for (const char *const operation :
-         {"InitVELDIXResource", "ScanVELDIX", "GetVELDIXId", "OpenVELDIX", "SetVELDIXReadMode",
-          "SetVELDIXStreamMode", "InitVELDIX", "SetVELDIXBitsMode", "SetVELDIXBinMode",
-          "SetVELDIXResolution", "GetVELDIXParam", "SetVELDIXParam", "BeginVELDIXLive",
-          "GetVELDIXLiveFrame"})
-        QTest::newRow(operation) << operation << QString() << hangs;
-    for (const char *const operation : {"StopVELDIXLive", "CloseVELDIX"}) {
-        QTest::addRow("%s at Disconnect", operation) << operation << "Disconnect" << hangs;
-        QTest::addRow("%s as the window closes", operation)
-            << operation << "as the window closes" << QByteArray("the camera is live");
-    }
+    QTest::addColumn<int>("row");
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        QTest::newRow(qPrintable(rows[i].name)) << int(i);
 }
 
-/// One program gets SIGTERM, the other SIGINT.
 void HangingCallsTest::endsInTime()
 {
-    QFETCH(QString, operation);
-    QFETCH(QString, then);
-    QFETCH(QByteArray, sign);
-    HangingProgram first(operation, then), second(operation, then, executables[1]);
-    HangingProgram *const programs[] = {&first, &second};
-    for (const QString &executable : executables)
-        QFile::remove(settingsBeside(executable));
-    for (HangingProgram *const program : programs)
-        program->start();
-    for (HangingProgram *const program : programs)
-        QVERIFY2(program->reaches(sign), program->errors);
-    for (const QString &executable : executables)
-        QVERIFY(!QFile::exists(settingsBeside(executable)));
+    QFETCH(int, row);
+    const auto &[name, operation, executable] = rows[std::size_t(row)];
+    const auto &[program, sign, number, reached, ended, savedEarly] = runs[std::size_t(row)];
+    QVERIFY2(reached, program->errors);
+    QVERIFY(!savedEarly);
+    QVERIFY2(program->errors.contains("the library hangs"), program->errors);
+    QVERIFY2(ended, program->errors);
 
-    first.send(SIGTERM);
-    second.send(SIGINT);
-    for (HangingProgram *const program : programs)
-        QVERIFY2(program->endsBy(longestEnd), program->errors);
-    for (int i = 0; i < 2; ++i)
-        compareWithEnd(*programs[i], executables[i], operation);
-}
-
-void HangingCallsTest::hangingUpEndsItToo()
-{
-    QFile::remove(settingsBeside(executables[0]));
-    HangingProgram program("OpenVELDIX", {});
-    program.start();
-    QVERIFY2(program.reaches("the library hangs"), program.errors);
-    program.send(SIGHUP);
-    QVERIFY2(program.endsBy(longestEnd), program.errors);
-    compareWithEnd(program, executables[0], "OpenVELDIX");
-}
-
-void HangingCallsTest::compareWithEnd(const HangingProgram &program, const QString &executable,
-                                      const QString &operation)
-{
     const QSettings file(settingsBeside(executable), QSettings::IniFormat);
     QCOMPARE(file.allKeys().size(), 12);
     // What was changed just before the call is saved; the first call comes before the window.
     QCOMPARE(file.value("STYLE/style").toString(),
              QString(operation == "InitVELDIXResource" ? "Color" : "Mono"));
     const bool byForce = operation != "BeginVELDIXLive" && operation != "GetVELDIXLiveFrame";
-    QCOMPARE(program.errors.contains("the program ends by force"), byForce);
-    QCOMPARE(program.errors.contains("the camera is not closed"), !byForce);
+    QCOMPARE(program->errors.contains("the program ends by force"), byForce);
+    QCOMPARE(program->errors.contains("the camera is not closed"), !byForce);
 }
 
 QTEST_GUILESS_MAIN(HangingCallsTest)

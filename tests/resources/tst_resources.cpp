@@ -184,7 +184,8 @@ void ResourcesTest::icon()
     for (const QSize &size : QIcon(QStringLiteral(":/images/Quorvandel.ico")).availableSizes()) {
         widths.insert(size.width());
     }
-    QCOMPARE(widths, (QSet<int>{16, 24, 32, 48, 64, 128, 256}));
+    // A larger one would be converted by the toolkit's threads (core/poolthread.h).
+    QCOMPARE(widths, (QSet<int>{16, 24, 32, 48, 64, 128}));
 }
 
 void ResourcesTest::starData_data()

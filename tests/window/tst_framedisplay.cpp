@@ -59,6 +59,7 @@ private slots:
     void zoom();
     void waitingPictureKeepsItsSize();
     void scalingIsSmooth();
+    void windowNeedsNoSemaphore();
     void picturesNeedNoSemaphore_data();
     void picturesNeedNoSemaphore();
     void templateAndEndNeedNoSemaphore();
@@ -132,6 +133,16 @@ void FrameDisplayTest::scalingIsSmooth()
     for (int y = 0; y < 24; ++y)
         for (int x = 0; x < 32; ++x)
             QVERIFY(std::abs(shown.pixelColor(x, y).red() - 127) <= 2);
+}
+
+/// Neither the window and its dialogs nor their icons.
+void FrameDisplayTest::windowNeedsNoSemaphore()
+{
+    waitsOfTheWindow = 0;
+    const CameraWindow w;
+    for (const int side : {16, 32, 48, 64, 128}) // as a window manager gets it
+        QVERIFY(!w.window->windowIcon().pixmap(side, side).toImage().isNull());
+    QCOMPARE(waitsOfTheWindow.load(), 0);
 }
 
 void FrameDisplayTest::picturesNeedNoSemaphore_data()
@@ -326,6 +337,7 @@ void FrameDisplayTest::rateText_data()
     QTest::newRow("30.3") << 30 << 3 << "FPS : 30.3";
     QTest::newRow("saturated") << 2147483647 << -2147483647 - 1 << "FPS : 2147483647.-2147483648";
     QTest::newRow("negative") << -333 << -3 << "FPS : -333.-3";
+    QTest::newRow("the clock was set back by 2 s") << 0 << -5 << "FPS : 0.-5";
 }
 
 void FrameDisplayTest::rateText()
