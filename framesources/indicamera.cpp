@@ -3,7 +3,11 @@
 #include "framesources/indicamera.h"
 
 #include <algorithm>
+#include <cmath>
 #include <thread>
+
+#include "framesources/indivalues.h"
+#include "pictures/grey.h"
 
 namespace framesources
 {
@@ -272,6 +276,19 @@ void IndiCamera::checkSilence()
     lose("no frames come");
 }
 
+/// Binning may change the pattern in a way that no device tells.
+std::string IndiCamera::streamPattern() const
+{
+    if (readout.binning > 1)
+        return {};
+    const auto offset = [this](const char *element) {
+        const double value = parseNumber(client->text("CCD_CFA", element)).value_or(0.0);
+        return std::abs(value) < 1e6 ? int(value) : 0;
+    };
+    return pictures::shiftedPattern(client->text("CCD_CFA", "CFA_TYPE"), offset("CFA_OFFSET_X"),
+                                    offset("CFA_OFFSET_Y"));
+}
+
 std::optional<NativeFrame> IndiCamera::takeFrame(const Wish &wish)
 {
     std::optional<IndiBlob> blob = client->takeBlob();
@@ -292,6 +309,7 @@ std::optional<NativeFrame> IndiCamera::takeFrame(const Wish &wish)
     else
         shape.size = readout.region.size() / readout.binning;
     shape.mosaic = client->has("CCD_CFA");
+    shape.pattern = streamPattern();
     std::string fault;
     std::optional<NativeFrame> frame = decodeBlob(*blob, shape, fault);
     if (!frame) {

@@ -46,6 +46,7 @@ private:
     void startExposure(double seconds);
     void stopFrames();
     void checkSilence();
+    std::string streamPattern() const;
     std::optional<NativeFrame> takeFrame(const Wish &wish);
     void lose(const std::string &reason);
     void say(const std::string &line);

@@ -3,6 +3,7 @@
 #include <QtTest>
 #include <opencv2/imgproc.hpp>
 
+#include "framesources/indicamera.h"
 #include "framesources/indiclient.h"
 #include "framesources/indiframe.h"
 #include "pictures/stretch.h"
@@ -111,6 +112,8 @@ private slots:
     void everyPixelIsDecoded();
     void everyPixelReachesTheProgram_data();
     void everyPixelReachesTheProgram();
+    void patternOfAStreamIsKnown_data();
+    void patternOfAStreamIsKnown();
     void settingsReachTheServer_data();
     void settingsReachTheServer();
     void pausesGrowAndBeginAgain();
@@ -162,12 +165,13 @@ void IndiFramesTest::everyPixelIsDecoded()
     std::optional<framesources::IndiBlob> blob;
     QTRY_VERIFY((client.waitForNews(std::chrono::milliseconds(10)), blob = client.takeBlob()));
     std::string fault;
-    const auto frame = framesources::decodeBlob(*blob, {wanted.size(), false}, fault);
+    const auto frame = framesources::decodeBlob(*blob, {wanted.size(), false, {}}, fault);
     QVERIFY2(frame, fault.c_str());
     QCOMPARE(frame->pixels.type(), wanted.type());
     QCOMPARE(frame->pixels.size(), wanted.size());
     QCOMPARE(cv::norm(frame->pixels, wanted, cv::NORM_INF), 0.0);
     QCOMPARE(frame->mosaic, isMosaic);
+    QCOMPARE(frame->pattern, std::string(isMosaic ? "RGGB" : ""));
 }
 
 void IndiFramesTest::everyPixelReachesTheProgram_data()
@@ -211,6 +215,43 @@ void IndiFramesTest::everyPixelReachesTheProgram()
     const cv::Mat frame = source.frame(patience);
     QVERIFY2(!frame.empty(), qPrintable(source.lines().join("\n")));
     QCOMPARE(cv::norm(frame, wanted, cv::NORM_INF), 0.0);
+}
+
+void IndiFramesTest::patternOfAStreamIsKnown_data()
+{
+    QTest::addColumn<QByteArray>("elements");
+    QTest::addColumn<QByteArray>("pattern");
+    const auto text = [](const QByteArray &name, const QByteArray &value) {
+        return "<defText name='" + name + "'>" + value + "</defText>";
+    };
+    const QByteArray type = text("CFA_TYPE", "\n RGGB\n");
+    QTest::newRow("as it stands") << type << QByteArray("RGGB");
+    QTest::newRow("offsets") << type + text("CFA_OFFSET_X", "1") + text("CFA_OFFSET_Y", "1")
+                             << QByteArray("BGGR");
+    QTest::newRow("no such pattern") << text("CFA_TYPE", "CMYG") << QByteArray();
+    QTest::newRow("no type") << text("CFA_OFFSET_X", "x") << QByteArray();
+}
+
+void IndiFramesTest::patternOfAStreamIsKnown()
+{
+    QFETCH(QByteArray, elements);
+    QFETCH(QByteArray, pattern);
+    const QByteArray bytes = rawBytes(ramp({40, 24}, CV_8UC1));
+    HostileServer server({}, blobOf(".stream", bytes, bytes.size()));
+    server.define("<defTextVector name='CCD_CFA' device='Camera' state='Ok' perm='rw'>" + elements +
+                  "</defTextVector>\n");
+    virtualsky::CameraAddress address;
+    address.source = virtualsky::Source::Indi;
+    address.host = "127.0.0.1";
+    address.port = server.port();
+    address.device = "Camera";
+    framesources::IndiCamera camera(address, true, [](const std::string &) {});
+    framesources::Wish wish;
+    wish.wanted = true;
+    std::optional<framesources::NativeFrame> frame;
+    QTRY_VERIFY((frame = camera.next(wish)));
+    QVERIFY(frame->mosaic);
+    QCOMPARE(frame->pattern, pattern.toStdString());
 }
 
 void IndiFramesTest::settingsReachTheServer_data()
