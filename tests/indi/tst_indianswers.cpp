@@ -39,11 +39,7 @@ public:
     Lateness()
     {
         timer.setTimerType(Qt::PreciseTimer);
-        QObject::connect(&timer, &QTimer::timeout, [this] {
-            const qint64 queued = IndiSource::queuedFor();
-            greatest = std::max(greatest, since.restart() - interval - (queued - queuedBefore));
-            queuedBefore = queued;
-        });
+        QObject::connect(&timer, &QTimer::timeout, [this] { look(); });
         timer.start(interval);
         forget();
     }
@@ -58,9 +54,21 @@ public:
         skip();
         greatest = 0;
     }
-    qint64 milliseconds() const { return greatest; }
+    /// Also of a call that ended just now, before any timer.
+    qint64 milliseconds()
+    {
+        look();
+        return greatest;
+    }
 
 private:
+    void look()
+    {
+        const qint64 queued = IndiSource::queuedFor();
+        greatest = std::max(greatest, since.restart() - interval - (queued - queuedBefore));
+        queuedBefore = queued;
+    }
+
     static constexpr int interval = 5; // milliseconds
     QTimer timer;
     QElapsedTimer since;
