@@ -33,7 +33,7 @@ int stream(int seconds)
     if (!server.start({"indi_test_video"}, videoCamera))
         return 1;
     IndiSource source(server.port, videoCamera);
-    source.exposure = 0.01;
+    source.exposure = 0.05;
     for (int i = 0; i < 5; ++i)
         if (source.frame().empty())
             return 1;
