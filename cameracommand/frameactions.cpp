@@ -45,14 +45,21 @@ int firstFree(const std::string &folder)
     return number;
 }
 
-/// An empty text = it is written.
+/// PNG is a picture to look at, FITS what the sensor saw: a mosaic stays one if its pattern is
+/// known, for programs that make colours of it.
+/// @return an empty text = it is written
 std::string write(const std::string &path, const framesources::NativeFrame &frame, double exposure)
 {
+    const bool raw = !frame.pattern.empty() && isFitsName(path);
+    const bool coloured = frame.pixels.channels() == 3 && !isFitsName(path);
+    const cv::Mat pixels =
+        raw || coloured ? frame.pixels : pictures::greyOf(frame.pixels, frame.mosaic);
     if (isFitsName(path))
-        return pictures::writeFits(path, pictures::greyOf(frame.pixels, frame.mosaic),
-                                   frame.date ? *frame.date : double(std::time(nullptr)), exposure);
+        return pictures::writeFits(path, pixels,
+                                   frame.date ? *frame.date : double(std::time(nullptr)), exposure,
+                                   frame.pattern);
     try {
-        if (cv::imwrite(path, frame.pixels))
+        if (cv::imwrite(path, pixels))
             return {};
     } catch (const std::exception &) { // no format that it knows
     }

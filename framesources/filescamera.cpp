@@ -17,7 +17,7 @@ constexpr auto scanPause = 1s; // between two looks for newer files
 NativeFrame frameOf(PictureFile &&file)
 {
     const cv::Size size = file.pixels.size();
-    return {std::move(file.pixels), file.mosaic, 1, size, file.date};
+    return {std::move(file.pixels), file.mosaic, 1, size, file.date, std::move(file.pattern)};
 }
 } // namespace
 

@@ -3,7 +3,11 @@
 #include "framesources/indicamera.h"
 
 #include <algorithm>
+#include <cmath>
 #include <thread>
+
+#include "framesources/indivalues.h"
+#include "pictures/grey.h"
 
 namespace framesources
 {
@@ -17,9 +21,10 @@ constexpr double connectPatience = 15.0;                // for the device to fin
 constexpr double definePatience = 2.0;                  // for what not every device has
 constexpr double readoutPatience = 1.5;                 // for a device to take region and binning
 constexpr int readoutTries = 3;                         // some refuse while they expose
-constexpr double silencePatience = 6.0;                 // beyond the exposure
+constexpr double silencePatience = 6.0;                 // of exposures, beyond their length
 constexpr double longestRemainder = 1.0;                // seconds of an exposure of another length
-constexpr double longestStreamed = 2.0;                 // seconds of an exposure
+constexpr double streamedRate = 50.0;   // frames a second: a limit near the camera's rate halves it
+constexpr double longestStreamed = 2.0; // seconds of an exposure
 
 double seconds(std::chrono::steady_clock::duration span)
 {
@@ -35,11 +40,12 @@ std::string listOf(const std::vector<std::string> &names)
 }
 } // namespace
 
-IndiCamera::IndiCamera(virtualsky::CameraAddress cameraAddress, bool useStream, Report reportLine)
+IndiCamera::IndiCamera(virtualsky::CameraAddress cameraAddress, bool useStream, Report reportLine,
+                       const StreamChoice::Pauses &pauses)
     : address(std::move(cameraAddress)),
       report(std::move(reportLine)),
       retryAt(Clock::now()),
-      streamFails(!useStream)
+      choice(useStream, pauses)
 {
 }
 
@@ -60,6 +66,8 @@ double IndiCamera::sinceStage() const
 void IndiCamera::lose(const std::string &reason)
 {
     client.reset();
+    if (streaming && choice.hasFailed())
+        choice.fell(Clock::now());
     present = false;
     stage = Stage::Lost;
     streaming = exposing = false;
@@ -150,6 +158,7 @@ void IndiCamera::setUp()
     readoutsSent = 0;
     exposure = 0.0;
     present = true;
+    choice.connected(Clock::now());
     say("connected");
 }
 
@@ -211,6 +220,10 @@ void IndiCamera::startStream(double wanted)
             values.emplace_back("STREAMING_DIVISOR_VALUE", 1.0);
         client->sendNumbers("STREAMING_EXPOSURE", values);
     }
+    // INDI's own limit is ten; a network that is too slow for this one gets fewer.
+    if (const auto limit = client->number("LIMITS", "LIMITS_PREVIEW_FPS");
+        limit && limit->value < streamedRate)
+        client->sendNumbers("LIMITS", {{"LIMITS_PREVIEW_FPS", streamedRate}});
     switched.insert("CCD_VIDEO_STREAM"); // on from now on, whatever is defined later
     client->sendSwitch("CCD_VIDEO_STREAM", "STREAM_ON");
     streaming = true;
@@ -228,7 +241,7 @@ void IndiCamera::startExposure(double wanted)
 
 void IndiCamera::startFrames(const Wish &wish)
 {
-    const bool canStream = client->has("CCD_VIDEO_STREAM") && !streamFails;
+    const bool canStream = client->has("CCD_VIDEO_STREAM") && choice.isUsed(Clock::now());
     const bool canExpose = client->has("CCD_EXPOSURE");
     const bool stream = canStream && (!canExpose || wish.exposureSeconds <= longestStreamed);
     if (streaming && stream && wish.exposureSeconds == exposure)
@@ -256,20 +269,34 @@ void IndiCamera::stopFrames()
     streaming = exposing = false;
 }
 
-/// No frame for too long: a stream that does not begin gives way to single exposures, else the
-/// connection counts as lost.
+/// No frame for too long: a stream gives way to single exposures, else the connection counts as
+/// lost.
 void IndiCamera::checkSilence()
 {
-    if (seconds(Clock::now() - lastFrame) < exposure + silencePatience)
+    const double patience = streaming ? choice.patience() : silencePatience;
+    if (seconds(Clock::now() - lastFrame) < exposure + patience)
         return;
-    if (streaming && !streamFails && client->has("CCD_EXPOSURE") && client->isConnected()) {
-        say("the video stream has no frames; single exposures are used");
+    if (streaming && client->has("CCD_EXPOSURE") && client->isConnected()) {
+        if (choice.fell(Clock::now()))
+            say("the video stream has no frames; single exposures are used");
         stopFrames();
-        streamFails = true;
         lastFrame = Clock::now();
         return;
     }
     lose("no frames come");
+}
+
+/// Binning may change the pattern in a way that no device tells.
+std::string IndiCamera::streamPattern() const
+{
+    if (readout.binning > 1)
+        return {};
+    const auto offset = [this](const char *element) {
+        const double value = parseNumber(client->text("CCD_CFA", element)).value_or(0.0);
+        return std::abs(value) < 1e6 ? int(value) : 0;
+    };
+    return pictures::shiftedPattern(client->text("CCD_CFA", "CFA_TYPE"), offset("CFA_OFFSET_X"),
+                                    offset("CFA_OFFSET_Y"));
 }
 
 std::optional<NativeFrame> IndiCamera::takeFrame(const Wish &wish)
@@ -279,7 +306,11 @@ std::optional<NativeFrame> IndiCamera::takeFrame(const Wish &wish)
         return std::nullopt;
     lastFrame = Clock::now();
     pause = 0.0;
-    if (exposing) { // the next exposure runs while this one is decoded
+    const bool isStreamed = blob->format.compare(0, 7, ".stream") == 0;
+    if (streaming && isStreamed && choice.came(lastFrame))
+        say("the video stream has frames again");
+    const bool isLate = exposing && isStreamed && choice.hasFailed(); // of the stream that ended
+    if (exposing && !isLate) { // the next exposure runs while this one is decoded
         exposing = false;
         startFrames(wish);
     }
@@ -292,6 +323,7 @@ std::optional<NativeFrame> IndiCamera::takeFrame(const Wish &wish)
     else
         shape.size = readout.region.size() / readout.binning;
     shape.mosaic = client->has("CCD_CFA");
+    shape.pattern = streamPattern();
     std::string fault;
     std::optional<NativeFrame> frame = decodeBlob(*blob, shape, fault);
     if (!frame) {

@@ -12,6 +12,7 @@
 #include "framesources/indiframe.h"
 #include "framesources/indisettings.h"
 #include "framesources/nativecamera.h"
+#include "framesources/streamchoice.h"
 #include "virtualcamera/cameraaddress.h"
 
 namespace framesources
@@ -22,7 +23,8 @@ class IndiCamera : public NativeCamera
 {
 public:
     /// @param useStream the device's video is used where it has one
-    IndiCamera(virtualsky::CameraAddress cameraAddress, bool useStream, Report reportLine);
+    IndiCamera(virtualsky::CameraAddress cameraAddress, bool useStream, Report reportLine,
+               const StreamChoice::Pauses &pauses = {});
     /// A device left exposing or streaming would go on for nobody.
     ~IndiCamera() override;
 
@@ -46,6 +48,7 @@ private:
     void startExposure(double seconds);
     void stopFrames();
     void checkSilence();
+    std::string streamPattern() const;
     std::optional<NativeFrame> takeFrame(const Wish &wish);
     void lose(const std::string &reason);
     void say(const std::string &line);
@@ -69,7 +72,7 @@ private:
     Clock::time_point readoutSent;
     int readoutsSent = 0;
     bool streaming = false, exposing = false;
-    bool streamFails;      // or is not wanted
+    StreamChoice choice;
     double exposure = 0.0; // sent, seconds
 };
 } // namespace framesources

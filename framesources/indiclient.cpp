@@ -156,6 +156,15 @@ std::optional<bool> IndiClient::isOn(const std::string &property, const std::str
     return on == found->second.switches.end() ? std::nullopt : std::optional(on->second);
 }
 
+std::string IndiClient::text(const std::string &property, const std::string &element) const
+{
+    const auto found = connection->values.properties.find(property);
+    if (found == connection->values.properties.end())
+        return {};
+    const auto text = found->second.texts.find(element);
+    return text == found->second.texts.end() ? std::string() : text->second;
+}
+
 std::optional<IndiBlob> IndiClient::takeBlob()
 {
     const auto blob = std::exchange(connection->values.blob, std::nullopt);

@@ -59,6 +59,9 @@ public:
     /// Of a switch; nothing if there is no such element.
     std::optional<bool> isOn(const std::string &property, const std::string &element) const;
 
+    /// Of a text; empty if there is no such element.
+    std::string text(const std::string &property, const std::string &element) const;
+
     /// The latest picture that was not taken yet.
     std::optional<IndiBlob> takeBlob();
     /// From now on the server sends the pictures of the first sensor.

@@ -26,6 +26,8 @@ std::optional<NativeFrame> decodeRaw(const IndiBlob &blob, const StreamShape &st
     if (type == CV_8UC3)
         cv::cvtColor(frame.pixels, frame.pixels, cv::COLOR_RGB2BGR);
     frame.mosaic = stream.mosaic && type != CV_8UC3;
+    if (frame.mosaic)
+        frame.pattern = stream.pattern;
     return frame;
 }
 } // namespace
@@ -42,7 +44,8 @@ std::optional<NativeFrame> decodeBlob(IndiBlob &blob, const StreamShape &stream,
     }
     PictureFile picture = decodePicture(blob.bytes);
     if (picture.complaint.empty())
-        return NativeFrame{std::move(picture.pixels), picture.mosaic, 1, {}, picture.date};
+        return NativeFrame{std::move(picture.pixels), picture.mosaic, 1, {}, picture.date,
+                           std::move(picture.pattern)};
     fault = "a frame cannot be read: " + picture.complaint;
     return std::nullopt;
 }

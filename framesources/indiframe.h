@@ -13,6 +13,7 @@ namespace framesources
 struct StreamShape {
     cv::Size size; ///< pixels
     bool mosaic = false;
+    std::string pattern; ///< as in `NativeFrame`
 };
 
 /// Decodes a FITS file, a JPEG picture or a raw frame of a stream (8 bits grey, 16 bits grey, or

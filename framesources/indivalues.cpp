@@ -225,6 +225,8 @@ void IndiValues::setElements(XMLEle *message, Property &property)
         } else if (tag == "defSwitch" ||
                    (tag == "oneSwitch" && property.switches.count(name) != 0)) {
             property.switches[name] = trimmed(text) == "On";
+        } else if (tag == "defText" || (tag == "oneText" && property.texts.count(name) != 0)) {
+            property.texts[name] = trimmed(text);
         }
     }
 }

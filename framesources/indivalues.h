@@ -39,6 +39,7 @@ public:
         IndiState state = IndiState::Idle;
         std::map<std::string, IndiNumber> numbers;
         std::map<std::string, bool> switches;
+        std::map<std::string, std::string> texts;
     };
     std::map<std::string, Property> properties; // of the device
     std::vector<std::string> names;             // of devices

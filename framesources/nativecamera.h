@@ -18,6 +18,7 @@ struct NativeFrame {
     int binning = 1;     ///< sensor pixels that make one, each way
     cv::Size sensor;     ///< all its pixels, of which these may be a part; other lenses differ
     std::optional<double> date; ///< middle of the exposure, UTC seconds since 1970
+    std::string pattern{};      ///< of a mosaic, from the top left: "RGGB", ...; empty: unknown
 };
 
 /// The program's settings; the camera maps them to its own.

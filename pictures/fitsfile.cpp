@@ -3,6 +3,7 @@
 #include "pictures/fitsfile.h"
 
 #include "pictures/depth.h"
+#include "pictures/grey.h"
 
 #include <cmath>
 #include <cstring>
@@ -164,6 +165,16 @@ std::optional<double> dateOf(OpenFits &fits)
     return begin;
 }
 
+// XBAYROFF and YBAYROFF: where the pattern begins.
+std::string patternOf(OpenFits &fits)
+{
+    const auto offset = [&fits](const char *key) {
+        const double value = fits.number(key).value_or(0.0);
+        return std::abs(value) < longestSide ? int(value) : 0;
+    };
+    return shiftedPattern(fits.text("BAYERPAT"), offset("XBAYROFF"), offset("YBAYROFF"));
+}
+
 std::string fitsFault(int status)
 {
     char text[FLEN_STATUS] = "";
@@ -197,6 +208,8 @@ PictureFile decodeFits(std::string &bytes)
         out.mosaic = shape.planes == 1 && !fits.text("BAYERPAT").empty();
         if (fits.text("ROWORDER") == "BOTTOM-UP")
             cv::flip(out.pixels, out.pixels, 0);
+        else if (out.mosaic) // programs disagree about the pattern of rows in the other order
+            out.pattern = patternOf(fits);
     } catch (const std::exception &error) { // too large for the memory
         out.pixels.release();
         out.complaint = std::string("It is a FITS file that cannot be read: ") + error.what();
@@ -216,10 +229,10 @@ std::optional<double> dateOfFits(std::string &bytes)
     return fits.status == 0 ? dateOf(fits) : std::nullopt;
 }
 
-std::string writeFits(const std::string &path, const cv::Mat &grey, std::optional<double> date,
-                      double exposure)
+std::string writeFits(const std::string &path, const cv::Mat &picture, std::optional<double> date,
+                      double exposure, const std::string &pattern)
 {
-    const cv::Mat pixels = grey.isContinuous() ? grey : grey.clone();
+    const cv::Mat pixels = picture.isContinuous() ? picture : picture.clone();
     const bool deep = pixels.depth() == CV_16U;
     long sides[2] = {pixels.cols, pixels.rows};
     fitsfile *file = nullptr;
@@ -237,6 +250,9 @@ std::string writeFits(const std::string &path, const cv::Mat &grey, std::optiona
         fits_write_key(file, TDOUBLE, "EXPTIME", &exposure, "seconds", &status);
     char order[] = "TOP-DOWN";
     fits_write_key(file, TSTRING, "ROWORDER", order, "the first row is the top one", &status);
+    if (!pattern.empty())
+        fits_write_key(file, TSTRING, "BAYERPAT", const_cast<char *>(pattern.c_str()),
+                       "from the top left", &status);
     fits_write_img(file, deep ? TUSHORT : TBYTE, 1, LONGLONG(pixels.total()),
                    const_cast<unsigned char *>(pixels.ptr()), &status);
     int closing = 0;

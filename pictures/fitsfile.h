@@ -26,9 +26,10 @@ PictureFile decodeFits(std::string &bytes);
 std::optional<double> dateOfFits(std::string &bytes);
 
 /// Writes 8 or 16 bits of one channel; replaces a file of that name.
+/// @param pattern of a mosaic; empty = it is grey
 /// @param date the middle of the exposure, UTC seconds since 1970
 /// @param exposure seconds; 0 = unknown
 /// @return what went wrong; empty = nothing
-std::string writeFits(const std::string &path, const cv::Mat &grey, std::optional<double> date,
-                      double exposure);
+std::string writeFits(const std::string &path, const cv::Mat &picture, std::optional<double> date,
+                      double exposure, const std::string &pattern = {});
 } // namespace pictures

@@ -3,6 +3,7 @@
 #include "pictures/grey.h"
 
 #include <opencv2/imgproc.hpp>
+#include <set>
 
 namespace pictures
 {
@@ -14,6 +15,19 @@ cv::Mat greyOfMosaic(const cv::Mat &mosaic)
     cv::sepFilter2D(mosaic, grey, -1, kernel, kernel, cv::Point(-1, -1), 0.0,
                     cv::BORDER_REFLECT_101);
     return grey;
+}
+
+std::string shiftedPattern(const std::string &pattern, int columns, int rows)
+{
+    static const std::set<std::string> known = {"RGGB", "GRBG", "GBRG", "BGGR"};
+    if (known.count(pattern) == 0)
+        return {};
+    std::string out;
+    for (const int place : {0, 1, 2, 3}) {
+        const int row = (place / 2 + rows % 2 + 2) % 2, column = (place + columns % 2 + 2) % 2;
+        out += pattern[std::size_t(2 * row + column)];
+    }
+    return out;
 }
 
 cv::Mat greyOf(const cv::Mat &picture, bool mosaic)

@@ -11,6 +11,7 @@ struct PictureFile {
     bool mosaic = false;        ///< the pixels of a Bayer sensor, by the file's own account
     std::optional<double> date; ///< UTC seconds since 1970
     std::string complaint;      ///< why there are no pixels
+    std::string pattern;        ///< of a mosaic, from the top left: "RGGB", ...; empty: unknown
 };
 
 /// Reads a PNG, JPEG, TIFF or FITS file, grey or colour: 8 or 16 bits; FITS and TIFF also 32 bits

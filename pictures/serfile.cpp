@@ -174,6 +174,8 @@ PictureFile SerFile::frame(int number)
         return out;
     }
     out.mosaic = head.colour >= 8 && head.colour <= 19;
+    if (out.mosaic && head.colour <= 11) // above: other colours than red, green and blue
+        out.pattern = std::array{"RGGB", "GRBG", "GBRG", "BGGR"}[std::size_t(head.colour) - 8];
     const std::size_t index = std::size_t(number);
     if (index < ticks.size() && ticks[index] > 0)
         out.date = double(ticks[index]) / ticksPerSecond - unixEpoch;

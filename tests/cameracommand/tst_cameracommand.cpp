@@ -7,6 +7,7 @@
 #include <opencv2/imgcodecs.hpp>
 #include <opencv2/imgproc.hpp>
 
+#include "pictures/fitsfile.h"
 #include "pictures/picturefile.h"
 #include "virtualcamera/skyfile.h"
 
@@ -27,6 +28,8 @@ private slots:
     void init();
     void grabsTheSky_data();
     void grabsTheSky();
+    void grabsAMosaic_data();
+    void grabsAMosaic();
     void checkOfTheSky();
     void checkWritesTheLens_data();
     void checkWritesTheLens();
@@ -96,6 +99,42 @@ void CameraCommandTest::grabsTheSky()
         QVERIFY(std::abs(picture.date.value_or(0.0) - double(time(nullptr))) < 600.0);
     const Result recognised = run({path(name)}, RECOGNISE_PROGRAM);
     QVERIFY2(recognised.status == 0, qPrintable(recognised.output));
+}
+
+void CameraCommandTest::grabsAMosaic_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("isKnown"); // the pattern
+    QTest::newRow("PNG") << "a.png" << true;
+    QTest::newRow("FITS") << "a.fits" << true;
+    QTest::newRow("FITS, a pattern that is none") << "a.fits" << false;
+}
+
+/// A PNG picture is one to look at, FITS has what the sensor saw.
+void CameraCommandTest::grabsAMosaic()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, isKnown);
+    cv::Mat mosaic(60, 80, CV_16UC1);
+    for (int y = 0; y < mosaic.rows; ++y)
+        for (int x = 0; x < mosaic.cols; ++x)
+            mosaic.at<ushort>(y, x) = ushort(x % 2 == 0 && y % 2 == 0   ? 4000
+                                             : x % 2 == 1 && y % 2 == 1 ? 8000
+                                                                        : 10000);
+    QCOMPARE(pictures::writeFits(path("sensor.fits").toStdString(), mosaic, {}, 0.0,
+                                 isKnown ? "RGGB" : "CMYG"),
+             std::string());
+    QTest::qWait(400); // files younger than that may still be being written
+    const Result grabbed = run({"--camera", "files:" + path("sensor.fits"), "grab", path(name)});
+    QVERIFY2(grabbed.status == 0, qPrintable(grabbed.errors));
+    QCOMPARE(grabbed.output, path(name) + ": 80 x 60 pixels, 16 bits\n");
+    const PictureFile picture = readPicture(path(name).toStdString());
+    QCOMPARE(picture.pixels.type(), CV_16UC1);
+    const bool isRaw = name == "a.fits" && isKnown;
+    QCOMPARE(picture.pattern, std::string(isRaw ? "RGGB" : ""));
+    QCOMPARE(picture.mosaic, isRaw);
+    const cv::Mat grey(60, 80, CV_16UC1, cv::Scalar(8000)); // 4000 / 4 + 10000 / 2 + 8000 / 4
+    QCOMPARE(cv::norm(picture.pixels, isRaw ? mosaic : grey, cv::NORM_INF), 0.0);
 }
 
 void CameraCommandTest::checkOfTheSky()

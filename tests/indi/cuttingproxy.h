@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A network between client and server that breaks after a number of bytes.
+// A network between client and server that breaks after a number of bytes, or garbles pictures.
 #pragma once
 
 #include <QTcpServer>
@@ -7,6 +7,7 @@
 #include <atomic>
 #include <netinet/in.h>
 #include <poll.h>
+#include <random>
 #include <sys/socket.h>
 #include <thread>
 #include <unistd.h>
@@ -35,6 +36,8 @@ public:
     void cutAfter(int bytes) { left = bytes; }
     bool isCut() const { return left == 0; }
     void heal() { left = -1; }
+    /// From the server, whether one byte of 64 within the pictures becomes another.
+    void garble(bool on) { isGarbling = on; }
 
 private:
     static bool isReadable(int socket, int milliseconds)
@@ -82,6 +85,8 @@ private:
         ssize_t got = most > 0 ? ::read(from, bytes, most) : 0;
         if (got <= 0)
             return false;
+        if (counted)
+            spoil(bytes, got);
         for (ssize_t sent = 0; sent < got;) {
             const ssize_t now = ::send(to, bytes + sent, std::size_t(got - sent), MSG_NOSIGNAL);
             if (now <= 0)
@@ -95,9 +100,22 @@ private:
         return true;
     }
 
+    void spoil(char *bytes, ssize_t count)
+    {
+        constexpr int longestMarkup = 1000; // bytes without a tag's end
+        for (char *byte = bytes; byte != bytes + count; ++byte) {
+            sinceTag = *byte == '<' || *byte == '>' ? 0 : sinceTag + 1;
+            if (isGarbling && sinceTag > longestMarkup && random() % 64 == 0 && *byte != '\n')
+                *byte = char(random() | 64); // no tag begins here
+        }
+    }
+
     const quint16 targetPort;
     const LoopbackListener listener;
     std::atomic<int> left{-1}; // bytes; -1 = no end
+    std::atomic<bool> isGarbling{false};
+    int sinceTag = 0; // bytes
+    std::mt19937 random{11};
     std::atomic<bool> stop{false};
     std::thread thread;
 };

@@ -56,6 +56,19 @@ public:
     }
     /// Ends each connection after so many good frames, 0: at once, -1: not at all.
     void leaveAfter(int frames) { framesAllowed = frames; }
+    /// From now on each client is told of video, with these frames; an exposure has one good frame.
+    void offerStream(const QByteArray &frame)
+    {
+        define("<defSwitchVector name='CCD_VIDEO_STREAM' device='Camera' state='Ok' perm='rw' "
+               "rule='OneOfMany'><defSwitch name='STREAM_ON'>Off</defSwitch>"
+               "<defSwitch name='STREAM_OFF'>On</defSwitch></defSwitchVector>\n");
+        const QMutexLocker lock(&mutex);
+        streamed = frame;
+    }
+    /// Whether video has no frames.
+    void mute(bool on) { isMute = on; }
+    /// Ends the connection.
+    void drop() { ++drops; }
     /// From now on more is defined to each client.
     void define(const QByteArray &properties)
     {
@@ -128,6 +141,12 @@ private:
         return true;
     }
 
+    QByteArray streamedFrame() const
+    {
+        const QMutexLocker lock(&mutex);
+        return streamed;
+    }
+
     void run()
     {
         while (!stop) {
@@ -155,12 +174,18 @@ private:
         bool done = false;
         int frames = 0;
         Clock::time_point sent = Clock::now();
-        while (!stop && isRenamed == renamed) {
+        const int before = drops;
+        const QByteArray video = streamedFrame();
+        bool isVideo = false, isExposing = false;
+        while (!stop && isRenamed == renamed && drops == before) {
             pollfd wait = {client, POLLIN, 0};
             if (::poll(&wait, 1, 5) > 0) {
                 if (!hear(client, asked))
                     return;
-                if (!done && asked.contains("CCD_EXPOSURE")) { // it wants frames
+                isExposing |= asked.contains("CCD_EXPOSURE_VALUE");
+                if (asked.contains("STREAM_O"))
+                    isVideo = asked.lastIndexOf("STREAM_ON") > asked.lastIndexOf("STREAM_OFF");
+                if (!done && (isVideo || asked.contains("CCD_EXPOSURE"))) { // it wants frames
                     done = true;
                     if (harms++ == 0 && !send(client, harm, renamed))
                         return;
@@ -169,6 +194,13 @@ private:
             if (!done || Clock::now() - sent < std::chrono::milliseconds(pause))
                 continue;
             sent = Clock::now();
+            if (!video.isEmpty()) {
+                if (isVideo ? !isMute && !send(client, video, renamed)
+                            : isExposing && !send(client, good, renamed))
+                    return;
+                isExposing = false;
+                continue;
+            }
             if (!send(client, good, renamed) || ++frames == allowed)
                 return;
         }
@@ -180,9 +212,10 @@ private:
     std::atomic<bool> stop{false};
     std::atomic<bool> isRenamed{false};
     std::atomic<int> harms{0}, clients{0};
-    std::atomic<int> framesAllowed{-1};
+    std::atomic<int> framesAllowed{-1}, drops{0};
+    std::atomic<bool> isMute{false};
     mutable QMutex mutex; // guards what follows
-    QByteArray more, said;
+    QByteArray more, said, streamed;
     std::vector<std::chrono::steady_clock::time_point> cameAt;
     std::thread thread;
 };

@@ -12,13 +12,17 @@
 #include <QtTest>
 #include <cmath>
 #include <csignal>
+#include <fcntl.h>
 #include <memory>
 #include <sys/prctl.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include "framesources/indiclient.h"
 
 constexpr char simulatedCamera[] = "CCD Simulator";
+constexpr char videoCamera[] = "Video Camera"; ///< of 1280 x 960 pixels, our own
 
 /// The lens and the sensor of the simulated camera.
 struct SimulatedSensor {
@@ -61,8 +65,16 @@ public:
     ~IndiServer() { end(); }
 
     /// True once the camera is there.
-    bool start(const QStringList &drivers = {"indi_simulator_ccd"})
+    bool start(const QStringList &drivers = {"indi_simulator_ccd"},
+               const char *device = simulatedCamera)
     {
+        return launch(drivers) && bool(client(device));
+    }
+
+    /// True once the server runs.
+    bool launch(const QStringList &drivers = {"indi_simulator_ccd"})
+    {
+        ::mkfifo(fifo().constData(), 0600);
         process = std::make_unique<ServerProcess>();
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert("PATH", GSC_FOLDER ":" + environment.value("PATH"));
@@ -72,10 +84,20 @@ public:
         process->setProcessEnvironment(environment);
         process->setStandardOutputFile(QProcess::nullDevice());
         process->setStandardErrorFile(QProcess::nullDevice());
-        process->start("indiserver",
-                       QStringList{"-p", QString::number(port), "-u", home.filePath("socket")} +
-                           drivers);
-        return process->waitForStarted() && bool(client());
+        process->start("indiserver", QStringList{"-p", QString::number(port), "-u",
+                                                 home.filePath("socket"), "-f", fifo()} +
+                                         drivers);
+        return process->waitForStarted();
+    }
+
+    /// Starts or stops a driver: "start DRIVER -n NAME".
+    void tell(const QByteArray &command) const
+    {
+        const int file = ::open(fifo().constData(), O_WRONLY | O_NONBLOCK);
+        const QByteArray line = command + '\n';
+        if (file < 0 || ::write(file, line.constData(), std::size_t(line.size())) != line.size())
+            qWarning("the server is not told: %s", command.constData());
+        ::close(file);
     }
 
     /// A client that knows the camera; null if it does not appear.
@@ -201,6 +223,8 @@ private:
         constexpr double arcsecond = 4.84813681109536e-6; // radians
         return pixel * 1e-3 / (sensor.scale * arcsecond);
     }
+
+    QByteArray fifo() const { return QFile::encodeName(home.filePath("commands")); }
 
     const QTemporaryDir home;
     std::unique_ptr<QProcess> process;

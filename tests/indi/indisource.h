@@ -64,7 +64,6 @@ public:
     qint64 slowest = 0;
     std::unique_ptr<framesources::ThreadedSource> source;
 
-private:
     /// How long this thread was ready to run and did not, milliseconds.
     static qint64 queuedFor()
     {
@@ -74,6 +73,7 @@ private:
                    : 0;
     }
 
+private:
     struct Log { // outlives the source with its thread
         mutable QMutex mutex;
         QStringList lines;

@@ -3,6 +3,7 @@
 #include <QtTest>
 #include <opencv2/imgproc.hpp>
 
+#include "framesources/indicamera.h"
 #include "framesources/indiclient.h"
 #include "framesources/indiframe.h"
 #include "pictures/stretch.h"
@@ -75,6 +76,16 @@ QByteArray fitsOf(const cv::Mat &grey, const QByteArray &pattern = {})
     return bytes;
 }
 
+virtualsky::CameraAddress addressOf(const HostileServer &server)
+{
+    virtualsky::CameraAddress address;
+    address.source = virtualsky::Source::Indi;
+    address.host = "127.0.0.1";
+    address.port = server.port();
+    address.device = "Camera";
+    return address;
+}
+
 QByteArray zlibOf(const QByteArray &bytes)
 {
     return qCompress(bytes).mid(4); // without Qt's own length
@@ -111,9 +122,13 @@ private slots:
     void everyPixelIsDecoded();
     void everyPixelReachesTheProgram_data();
     void everyPixelReachesTheProgram();
+    void patternOfAStreamIsKnown_data();
+    void patternOfAStreamIsKnown();
     void settingsReachTheServer_data();
     void settingsReachTheServer();
     void pausesGrowAndBeginAgain();
+    void silentStreamIsTriedAgain_data();
+    void silentStreamIsTriedAgain();
 };
 
 void IndiFramesTest::everyPixelIsDecoded_data()
@@ -162,12 +177,13 @@ void IndiFramesTest::everyPixelIsDecoded()
     std::optional<framesources::IndiBlob> blob;
     QTRY_VERIFY((client.waitForNews(std::chrono::milliseconds(10)), blob = client.takeBlob()));
     std::string fault;
-    const auto frame = framesources::decodeBlob(*blob, {wanted.size(), false}, fault);
+    const auto frame = framesources::decodeBlob(*blob, {wanted.size(), false, {}}, fault);
     QVERIFY2(frame, fault.c_str());
     QCOMPARE(frame->pixels.type(), wanted.type());
     QCOMPARE(frame->pixels.size(), wanted.size());
     QCOMPARE(cv::norm(frame->pixels, wanted, cv::NORM_INF), 0.0);
     QCOMPARE(frame->mosaic, isMosaic);
+    QCOMPARE(frame->pattern, std::string(isMosaic ? "RGGB" : ""));
 }
 
 void IndiFramesTest::everyPixelReachesTheProgram_data()
@@ -213,6 +229,38 @@ void IndiFramesTest::everyPixelReachesTheProgram()
     QCOMPARE(cv::norm(frame, wanted, cv::NORM_INF), 0.0);
 }
 
+void IndiFramesTest::patternOfAStreamIsKnown_data()
+{
+    QTest::addColumn<QByteArray>("elements");
+    QTest::addColumn<QByteArray>("pattern");
+    const auto text = [](const QByteArray &name, const QByteArray &value) {
+        return "<defText name='" + name + "'>" + value + "</defText>";
+    };
+    const QByteArray type = text("CFA_TYPE", "\n RGGB\n");
+    QTest::newRow("as it stands") << type << QByteArray("RGGB");
+    QTest::newRow("offsets") << type + text("CFA_OFFSET_X", "1") + text("CFA_OFFSET_Y", "1")
+                             << QByteArray("BGGR");
+    QTest::newRow("no such pattern") << text("CFA_TYPE", "CMYG") << QByteArray();
+    QTest::newRow("no type") << text("CFA_OFFSET_X", "x") << QByteArray();
+}
+
+void IndiFramesTest::patternOfAStreamIsKnown()
+{
+    QFETCH(QByteArray, elements);
+    QFETCH(QByteArray, pattern);
+    const QByteArray bytes = rawBytes(ramp({40, 24}, CV_8UC1));
+    HostileServer server({}, blobOf(".stream", bytes, bytes.size()));
+    server.define("<defTextVector name='CCD_CFA' device='Camera' state='Ok' perm='rw'>" + elements +
+                  "</defTextVector>\n");
+    framesources::IndiCamera camera(addressOf(server), true, [](const std::string &) {});
+    framesources::Wish wish;
+    wish.wanted = true;
+    std::optional<framesources::NativeFrame> frame;
+    QTRY_VERIFY((frame = camera.next(wish)));
+    QVERIFY(frame->mosaic);
+    QCOMPARE(frame->pattern, pattern.toStdString());
+}
+
 void IndiFramesTest::settingsReachTheServer_data()
 {
     QTest::addColumn<double>("exposure"); // seconds
@@ -242,6 +290,11 @@ void IndiFramesTest::settingsReachTheServer_data()
     const QByteArray own = numberDefinition("CCD_GAIN", "GAIN", "0", "400");
     row("gain", 0.05, 25.0, own, "CCD_GAIN", "GAIN", "100");
     row("gain beyond the slider's end", 0.05, 200.0, own, "CCD_GAIN", "GAIN", "400");
+    row("rate of the video", 0.05, 50.0,
+        "<defSwitchVector name='CCD_VIDEO_STREAM' device='Camera' state='Ok' perm='rw' "
+        "rule='OneOfMany'><defSwitch name='STREAM_ON'>Off</defSwitch></defSwitchVector>" +
+            numberDefinition("LIMITS", "LIMITS_PREVIEW_FPS", "1", "120"),
+        "LIMITS", "LIMITS_PREVIEW_FPS", "50");
     row("gain among other controls", 0.05, 25.0,
         numberDefinition("CCD_CONTROLS", "Gain", "-20", "60"), "CCD_CONTROLS", "Gain", "0");
 }
@@ -281,6 +334,61 @@ void IndiFramesTest::pausesGrowAndBeginAgain()
         QVERIFY2(pause >= wanted[i] && pause < wanted[i] + 0.45,
                  qPrintable(QString("%1: %2 s, not %3").arg(i).arg(pause).arg(wanted[i])));
     }
+}
+
+void IndiFramesTest::silentStreamIsTriedAgain_data()
+{
+    QTest::addColumn<bool>("isSilent"); // when it is tried
+    QTest::addColumn<bool>("isDropped");
+    QTest::addColumn<double>("firstPause"); // seconds
+    QTest::newRow("after a while") << false << false << 1.0;
+    QTest::newRow("after a new connection") << false << true << 3600.0;
+    QTest::newRow("in vain, after a while") << true << false << 1.0;
+    QTest::newRow("in vain, after a new connection") << true << true << 3600.0;
+}
+
+/// With shortened pauses. A frame of the stream is brighter than an exposure.
+void IndiFramesTest::silentStreamIsTriedAgain()
+{
+    QFETCH(bool, isSilent);
+    QFETCH(bool, isDropped);
+    QFETCH(double, firstPause);
+    const cv::Mat dark(24, 40, CV_8UC1, cv::Scalar(50)), bright(24, 40, CV_8UC1, cv::Scalar(200));
+    HostileServer server({}, blobOf(".fits", fitsOf(dark), fitsOf(dark).size()));
+    server.offerStream(blobOf(".stream", rawBytes(bright), bright.rows * bright.cols));
+    framesources::StreamChoice::Pauses pauses;
+    pauses.silence = 0.6;
+    pauses.attempt = isSilent ? 0.3 : 5.0;
+    pauses.connection = 0.5;
+    pauses.first = firstPause;
+    QStringList lines;
+    framesources::IndiCamera camera(
+        addressOf(server), true,
+        [&lines](const std::string &line) { lines.append(QString::fromStdString(line)); }, pauses);
+    framesources::Wish wish;
+    wish.exposureSeconds = 0.05;
+    wish.wanted = true;
+    const auto comes = [&](int value) { // such a frame
+        return comesTrue([&] {
+            const auto frame = camera.next(wish);
+            return frame && frame->pixels.at<uchar>(0, 0) == value;
+        });
+    };
+    server.mute(true);
+    QVERIFY2(comes(50), qPrintable(lines.join("\n")));
+    const auto tries = [&server] { return server.heard().count("'STREAM_ON'>On"); };
+    server.mute(isSilent);
+    if (isDropped)
+        server.drop();
+    if (!isSilent) {
+        QVERIFY2(comes(200), qPrintable(lines.join("\n")));
+        QCOMPARE(lines.last(), QString("the video stream has frames again"));
+    } else {
+        QTRY_VERIFY((camera.next(wish), tries() >= 2));
+        QVERIFY2(comes(50), qPrintable(lines.join("\n"))); // one that was waiting, perhaps
+        QVERIFY2(comes(50), qPrintable(lines.join("\n")));
+    }
+    QCOMPARE(server.connections(), isDropped ? 2 : 1);
 }
 
 QTEST_GUILESS_MAIN(IndiFramesTest)

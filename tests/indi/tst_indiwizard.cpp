@@ -5,17 +5,12 @@
 #include "core/settingsfile.h"
 #include "resources/resources.h"
 #include "tests/indi/simulatedmount.h"
-#include "tests/support/patience.h"
 #include "tests/support/sessionwindow.h"
 #include "tools/tour/person.h"
 
-#include <QAction>
 #include <QApplication>
-#include <QLabel>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <QtTest>
-#include <utility>
 
 namespace
 {
@@ -25,28 +20,6 @@ double apart(QPointF a, QPointF b)
 }
 } // namespace
 
-/// How late the GUI thread gets to a timer: as late as to a key or the mouse.
-class Lateness
-{
-public:
-    Lateness()
-    {
-        timer.setTimerType(Qt::PreciseTimer);
-        QObject::connect(&timer, &QTimer::timeout,
-                         [this] { greatest = std::max(greatest, since.restart() - interval); });
-        since.start();
-        timer.start(interval);
-    }
-    /// Milliseconds, the greatest since the last call.
-    qint64 take() { return std::exchange(greatest, 0); }
-
-private:
-    static constexpr int interval = 10; // milliseconds
-    QTimer timer;
-    QElapsedTimer since;
-    qint64 greatest = 0;
-};
-
 class IndiWizardTest : public QObject
 {
     Q_OBJECT
@@ -54,7 +27,6 @@ class IndiWizardTest : public QObject
 private slots:
     void initTestCase();
     void windowAloneAligns();
-    void windowAnswersWhileTheServerIsLost();
     void cleanupTestCase();
 
 private:
@@ -118,53 +90,6 @@ void IndiWizardTest::windowAloneAligns()
     } catch (const std::exception &problem) {
         QFAIL(problem.what());
     }
-    window.close();
-}
-
-/// 100 milliseconds are what a person hardly notices; a busy machine takes longer without any fault
-/// of the program's, but a call that waits for the server would take seconds.
-void IndiWizardTest::windowAnswersWhileTheServerIsLost()
-{
-    constexpr qint64 blocked = 1000; // milliseconds
-    SessionWindow window;
-    window.resize(1280, 800);
-    window.show();
-    auto &picture = *window.findChild<QLabel *>("label_showImg");
-    const auto showsAnother = [&picture](qint64 than) {
-        return picture.pixmap(Qt::ReturnByValue).cacheKey() != than;
-    };
-    const auto framesCome = [&] {
-        const qint64 now = picture.pixmap(Qt::ReturnByValue).cacheKey();
-        return QTest::qWaitFor([&] { return showsAnother(now); }, patience);
-    };
-    IndiServer &server = mount->server;
-    const QStringList drivers = {"indi_simulator_ccd", "indi_simulator_telescope"};
-    window.findChild<QAction *>("actionConnect")->trigger();
-    QVERIFY(framesCome());
-    Lateness lateness;
-    const auto report = [&](const char *phase) {
-        const qint64 late = lateness.take();
-        qInfo("%s: the window is at most %lld ms late", phase, late);
-        return late;
-    };
-    QTest::qWait(3000);
-    QVERIFY(report("frames come") < blocked);
-    server.end();
-    QTest::qWait(5000);
-    QVERIFY(report("server killed") < blocked);
-    const auto phases = [&](const char *phase) { // while the test itself waits, nothing is measured
-        QTest::qWait(50);
-        lateness.take();
-        const bool come = framesCome() && framesCome();
-        return report(phase) < blocked && come;
-    };
-    QVERIFY(server.start(drivers));
-    QVERIFY(phases("server back"));
-    server.signal(SIGSTOP);
-    QTest::qWait(10000); // longer than a silence is borne
-    QVERIFY(report("server stopped") < blocked);
-    server.signal(SIGCONT);
-    QVERIFY(phases("server goes on"));
     window.close();
 }
 

@@ -26,6 +26,8 @@ private slots:
     void dateOfTheHeaderAlone();
     void noPicture();
     void cutOff();
+    void patternOfTheFirstPixel_data();
+    void patternOfTheFirstPixel();
     void writtenAndRead_data();
     void writtenAndRead();
     void writeFaultIsNamed();
@@ -131,25 +133,63 @@ void FitsFileTest::cutOff()
     }
 }
 
+void FitsFileTest::patternOfTheFirstPixel_data()
+{
+    QTest::addColumn<QByteArray>("cards");
+    QTest::addColumn<QByteArray>("pattern");
+    const auto row = [](const char *name, const QByteArray &cards, const char *pattern) {
+        QTest::newRow(name) << cards << QByteArray(pattern);
+    };
+    row("as it stands", {}, "RGGB");
+    row("one column on", "XBAYROFF=                    1", "GRBG");
+    row("one row on", "YBAYROFF=                    1", "GBRG");
+    row("one row back", "YBAYROFF=                   -1", "GBRG");
+    row("two columns on", "XBAYROFF=                    2", "RGGB");
+    row("an offset out of the world", "XBAYROFF=               1.E300", "RGGB");
+    row("rows in the other order", "ROWORDER= 'BOTTOM-UP'", "");
+}
+
+void FitsFileTest::patternOfTheFirstPixel()
+{
+    QFETCH(QByteArray, cards);
+    QFETCH(QByteArray, pattern);
+    QByteArray bytes = QByteArray::fromStdString(goldenBytes("bayer.fits"));
+    const QByteArray end = QByteArray("END").leftJustified(80), more = cards.leftJustified(80);
+    const int place = bytes.indexOf(end + QByteArray(80, ' '));
+    QVERIFY(place > 0);
+    if (!cards.isEmpty())
+        bytes.replace(place, 160, more + end);
+    std::string file = bytes.toStdString();
+    const PictureFile picture = pictures::decodeFits(file);
+    QVERIFY(picture.mosaic);
+    QCOMPARE(picture.pattern, pattern.toStdString());
+}
+
 void FitsFileTest::writtenAndRead_data()
 {
+    QTest::addColumn<QByteArray>("pattern");
     QTest::addColumn<bool>("deep");
-    QTest::newRow("8 bits") << false;
-    QTest::newRow("16 bits") << true;
+    QTest::newRow("8 bits") << QByteArray() << false;
+    QTest::newRow("16 bits") << QByteArray() << true;
+    QTest::newRow("a mosaic") << QByteArray("GBRG") << true;
 }
 
 void FitsFileTest::writtenAndRead()
 {
+    QFETCH(QByteArray, pattern);
     QFETCH(bool, deep);
     const QTemporaryDir folder;
     const std::string path = folder.filePath("a [1](2).fits").toStdString();
     const cv::Mat golden = readPicture(goldenPath(deep ? "uint16.fits" : "uint8.fits")).pixels;
     for (int time = 0; time < 2; ++time) // the second time over the first
-        QCOMPARE(pictures::writeFits(path, golden, evening, 3.0), std::string());
+        QCOMPARE(pictures::writeFits(path, golden, evening, 3.0, pattern.toStdString()),
+                 std::string());
     const PictureFile read = readPicture(path);
     QCOMPARE(read.pixels.type(), golden.type());
     QCOMPARE(cv::norm(read.pixels, golden, cv::NORM_INF), 0.0);
     QVERIFY(std::abs(read.date.value_or(0.0) - evening) < 1e-3);
+    QCOMPARE(read.mosaic, !pattern.isEmpty());
+    QCOMPARE(read.pattern, pattern.toStdString());
 }
 
 void FitsFileTest::writeFaultIsNamed()

@@ -29,6 +29,7 @@ class GreyTest : public QObject
     Q_OBJECT
 
 private slots:
+    void patternsAreShifted();
     void everyPatternGivesOneSky_data();
     void everyPatternGivesOneSky();
     void starsStay_data() { everyPatternGivesOneSky_data(); }
@@ -36,6 +37,16 @@ private slots:
     void coloursAreWeighted();
     void greyIsNotCopied();
 };
+
+void GreyTest::patternsAreShifted()
+{
+    for (const auto &[columns, rows, wanted] :
+         {std::tuple(0, 0, "RGGB"), std::tuple(1, 0, "GRBG"), std::tuple(0, 1, "GBRG"),
+          std::tuple(1, 1, "BGGR"), std::tuple(-1, 2, "GRBG"), std::tuple(4, -3, "GBRG")})
+        QCOMPARE(pictures::shiftedPattern("RGGB", columns, rows), std::string(wanted));
+    for (const char *other : {"", "RGBG", "rggb", "RGGBX", "CMYG"})
+        QCOMPARE(pictures::shiftedPattern(other, 0, 0), std::string());
+}
 
 void GreyTest::everyPatternGivesOneSky_data()
 {

@@ -74,6 +74,7 @@ void SerFileTest::mosaic()
 {
     const PictureFile frame = pictures::SerFile(goldenPath("bayer12.ser")).frame(0);
     QVERIFY(frame.mosaic);
+    QCOMPARE(frame.pattern, std::string("RGGB"));
     QVERIFY(!frame.date);
     QCOMPARE(differences<ushort>(frame.pixels, [](int x, int y) { return goldenValue(x, y); }), 0);
 }

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+// When are a device's frames taken from its video stream, and when by single exposures?
+#pragma once
+
+#include <chrono>
+
+namespace framesources
+{
+/// A stream that is silent for too long gives way to single exposures. It is tried again a moment
+/// after a new connection, and after pauses that grow. Until it was steady it is given up soon, so
+/// that a try costs few frames; so is a stream that goes on with a new connection. After a try that
+/// failed a new connection is no reason for another one: the try may be what ended the last one.
+class StreamChoice
+{
+public:
+    using Time = std::chrono::steady_clock::time_point;
+
+    struct Pauses {              ///< seconds
+        double silence = 6.0;    ///< of a stream, beyond the exposure
+        double attempt = 2.0;    ///< the same until it was steady again
+        double connection = 5.0; ///< after it; by then exposures have come
+        double first = 60.0;     ///< then twice as long each time
+        double longest = 16 * 60.0;
+        double steady = 120.0; ///< of a stream; after it the pauses begin again
+    };
+
+    /// @param isWanted false: never
+    StreamChoice(bool isWanted, const Pauses &some)
+        : wanted(isWanted), pauses(some), pause(some.first)
+    {
+    }
+
+    bool hasFailed() const { return failed; }
+    bool isUsed(Time now) const { return wanted && (!failed || now >= retryAt); }
+    /// How long a stream may be silent, seconds beyond the exposure.
+    double patience() const { return onProbation ? pauses.attempt : pauses.silence; }
+
+    void connected(Time now);
+    /// A frame of the stream came. False: it came before, too, since the last failure.
+    bool came(Time now);
+    /// False: it had not come since the last failure.
+    bool fell(Time now);
+
+private:
+    const bool wanted;
+    const Pauses pauses;
+    bool failed = false;      // the latest that is known of the stream
+    bool onProbation = false; // from a failure or a loss until it was steady
+    bool tryFailed = false, wasConnected = false;
+    double pause;        // seconds until the next try
+    Time retryAt, since; // valid while failed; since when the stream comes
+};
+} // namespace framesources
