@@ -257,6 +257,7 @@ void AxisTracker::improve(Axis &axis) const
     const double widening = 1.0 + sharedAtPlace * (atPlace - 1.0);
     const recognition::Covariance &c = point->covariance;
     axis.place = point->pixel;
+    axis.shared.clear();
     axis.covariance = {widening * c.xx, widening * c.xy, widening * c.yy};
     axis.rms = arcseconds(point->rms);
     axis.sigmaArcseconds = kept.front().frames.front().mapping.scaleAt(axis.place) *

@@ -30,8 +30,11 @@ std::optional<FrameError> withSite(const Recognition &frame, const Axis &axis,
 {
     const recognition::MountErrorOptions options = {*settings.site, airOf(settings),
                                                     settings.target};
-    const auto whole = recognition::mountError(frame, axis, options);
-    Axis exact = axis;
+    // The parts are kept apart, as for frames that come after those that the axis was found by.
+    Axis independent = axis;
+    independent.shared.clear();
+    const auto whole = recognition::mountError(frame, independent, options);
+    Axis exact = independent;
     exact.covariance = {};
     const auto byFrame = recognition::mountError(frame, exact, options);
     if (!whole || !byFrame)

@@ -131,9 +131,16 @@ void fill(const Consensus &consensus, const Frames &frames, const Indices &numbe
     axis.rms = consensus.point.rms / astrometry::arcsecond;
     axis.sigmaArcseconds = frames.front()->mapping.scaleAt(axis.place) *
                            std::sqrt(0.5 * (axis.covariance.xx + axis.covariance.yy));
-    for (std::size_t i = 0; i < frames.size(); ++i)
-        if (std::find(consensus.used.begin(), consensus.used.end(), i) == consensus.used.end())
+    for (std::size_t i = 0; i < frames.size(); ++i) {
+        const auto at = std::find(consensus.used.begin(), consensus.used.end(), i);
+        if (at == consensus.used.end()) {
             axis.bumped.push_back(numbers[i]);
+            continue;
+        }
+        const auto number = static_cast<std::size_t>(at - consensus.used.begin());
+        axis.shared.push_back(
+            {frames[i]->utcSeconds, frames[i]->pole, consensus.point.shared[number]});
+    }
 }
 } // namespace
 
@@ -167,6 +174,16 @@ Axis axisOfTurns(const std::vector<Recognition> &given)
     else
         axis.status = AxisStatus::Bumped;
     return axis;
+}
+
+Covariance sharedError(const Axis &axis, const Recognition &frame)
+{
+    const auto at =
+        std::find_if(axis.shared.begin(), axis.shared.end(), [&frame](const SharedError &one) {
+            return one.utcSeconds == frame.utcSeconds && one.pole.x == frame.pole.x &&
+                   one.pole.y == frame.pole.y;
+        });
+    return at == axis.shared.end() ? Covariance{} : at->covariance;
 }
 
 std::string reason(const Axis &axis)

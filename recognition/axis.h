@@ -26,6 +26,15 @@ enum class AxisStatus {
     Bumped           ///< the frames do not agree on one axis, and no majority does
 };
 
+/// What the axis has in common with one of the frames that it was found by.
+struct SharedError {
+    double utcSeconds; ///< of the frame
+    PixelPlace pole;   ///< of the frame
+    /// Between the axis' place and the frame's mapping there, pixels squared: with the covariances
+    /// of both it makes that of the axis' direction in this frame's sky.
+    Covariance covariance;
+};
+
 struct Axis {
     AxisStatus status = AxisStatus::TooFewFrames;
     PixelPlace place = {0.0, 0.0}; ///< pixels; possibly outside the frame
@@ -41,6 +50,8 @@ struct Axis {
     /// Whether the frames could have contradicted each other: two alone never do.
     bool checked = false;
     double rms = 0.0; ///< arcseconds, by which the frames disagree, both axes
+    /// Of the frames that count. For `mountError`; whoever moves `place` must clear it.
+    std::vector<SharedError> shared;
 };
 
 /// The RA axis from frames between which it turned, either way, in any number of steps; the sky
@@ -49,6 +60,10 @@ struct Axis {
 /// where refraction matters (below 30 degrees of latitude).
 /// The axis is the pixel that shows, in every frame, the same direction fixed to the Earth.
 Axis axisOfTurns(const std::vector<Recognition> &frames);
+
+/// What the axis' place and a frame's mapping there have in common, pixels squared: nothing unless
+/// the axis was found by that frame.
+Covariance sharedError(const Axis &axis, const Recognition &frame);
 
 /// A sentence about the outcome that a person can act on.
 std::string reason(const Axis &axis);

@@ -16,6 +16,10 @@ struct FixedPoint {
     Covariance covariance; ///< pixels squared
     double x, y;           ///< the direction: components across the Earth's axis
     double rms;            ///< radians, of the frames' disagreement, both axes
+    /// Of each frame: what its own error and the pixel's have in common, pixels squared. The
+    /// direction that the pixel shows in that frame is as uncertain as the sum of the pixel's
+    /// covariance, the frame's own and this.
+    std::vector<Covariance> shared;
 };
 
 /// A frame, made linear about a pixel. Directions are their components x and y across the Earth's
@@ -30,8 +34,8 @@ public:
     double turnAgainst(const EarthView &other) const;
     /// One sigma of a direction by this frame's mapping, radians, one axis.
     double sigma() const { return error; }
-    /// The same without what all frames have in common.
-    double ownSigma() const { return ownError; }
+    /// Of a direction, x and y, without what all frames have in common; radians squared.
+    const Covariance &ownCovariance() const { return own; }
     /// Between the direction that the point's pixel shows here and the point's own, radians.
     double distance(const FixedPoint &point) const;
 
@@ -55,7 +59,8 @@ private:
     double rotation;                // Earth rotation angle, radians
     PixelPlace origin;
     Linear values;
-    double error, ownError; // radians
+    double error; // radians
+    Covariance own;
 };
 
 /// By weighted least squares over the chosen frames; nothing if they do not fix a point.

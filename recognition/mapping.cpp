@@ -35,6 +35,23 @@ std::size_t termCount(MappingModel model)
     return counts[static_cast<std::size_t>(model)];
 }
 
+std::optional<std::size_t> distortionTerm(MappingModel model)
+{
+    switch (model) {
+    case MappingModel::Radial:
+        return 2;
+    case MappingModel::AffineRadial:
+        return 3;
+    default:
+        return std::nullopt;
+    }
+}
+
+std::size_t freeNumbers(MappingModel model)
+{
+    return 2 * termCount(model) - (distortionTerm(model) ? 1 : 0);
+}
+
 void evaluateTerms(MappingModel model, Complex z, Complex *out)
 {
     const Complex c = std::conj(z);
@@ -157,36 +174,55 @@ Covariance SkyMapping::ownCovarianceAt(PixelPlace pixel) const
     return covarianceAt(pixel, 0.0);
 }
 
-// In the plane, radians squared: the rivals' distances from the fit, by their probabilities.
-Covariance SkyMapping::disagreementAt(PixelPlace pixel) const
+// In the plane, radians squared, by the noise alone.
+Covariance SkyMapping::covarianceAt(Complex units, const Solution &solution) const
 {
-    Covariance sum;
+    Complex values[mostTerms];
+    evaluateTerms(solution.terms, units, values);
+    const std::size_t n = termCount(solution.terms);
+    std::array<Complex, mostTerms> columns = {}; // the values' row times the inverse
+    double leverage = 0.0;
+    for (std::size_t k = 0; k < n; ++k) {
+        for (std::size_t i = 0; i < n; ++i)
+            columns[k] += values[i] * solution.inverse[i * mostTerms + k];
+        leverage += std::real(columns[k] * std::conj(values[k]));
+    }
+    const Covariance &noise = solution.noise;
+    Covariance c = {leverage * noise.xx, leverage * noise.xy, leverage * noise.yy};
+    if (const auto term = distortionTerm(solution.terms)) {
+        // What a free twist would add; by the noise's lesser axis, so that the rest stays positive.
+        const double lesser =
+            0.5 * (noise.xx + noise.yy) - std::hypot(0.5 * (noise.xx - noise.yy), noise.xy);
+        const Complex twist = Complex(0.0, 1.0) * solution.coefficients[1] * columns[*term] /
+                              std::abs(solution.coefficients[1]);
+        const double share = lesser / std::real(solution.inverse[*term * mostTerms + *term]);
+        c.xx -= share * twist.real() * twist.real();
+        c.xy -= share * twist.real() * twist.imag();
+        c.yy -= share * twist.imag() * twist.imag();
+    }
+    return c;
+}
+
+// The models' own, by their probabilities, and their distances from the one that was chosen.
+Covariance SkyMapping::covarianceAt(PixelPlace pixel, double commonVariance) const
+{
+    const Complex units = unitsOf(pixel);
     const Complex here = planeOf(pixel);
+    Covariance plane = {commonVariance, 0.0, commonVariance};
+    const auto add = [&plane](double probability, const Covariance &c, Complex distance) {
+        plane.xx += probability * (c.xx + distance.real() * distance.real());
+        plane.xy += probability * (c.xy + distance.real() * distance.imag());
+        plane.yy += probability * (c.yy + distance.imag() * distance.imag());
+    };
+    double chosen = 1.0;
     for (const Rival &rival : fit.rivals) {
         if (rival.probability == 0.0)
             continue;
-        const Complex d = polynomialAt(rival.terms, rival.coefficients, unitsOf(pixel)) - here;
-        sum.xx += rival.probability * d.real() * d.real();
-        sum.xy += rival.probability * d.real() * d.imag();
-        sum.yy += rival.probability * d.imag() * d.imag();
+        chosen -= rival.probability;
+        add(rival.probability, covarianceAt(units, rival),
+            polynomialAt(rival.terms, rival.coefficients, units) - here);
     }
-    return sum;
-}
-
-Covariance SkyMapping::covarianceAt(PixelPlace pixel, double commonVariance) const
-{
-    Complex values[mostTerms];
-    evaluateTerms(fit.terms, unitsOf(pixel), values);
-    const std::size_t n = termCount(fit.terms);
-    double leverage = 0.0;
-    for (std::size_t i = 0; i < n; ++i)
-        for (std::size_t k = 0; k < n; ++k)
-            leverage +=
-                std::real(values[i] * fit.inverse[i * mostTerms + k] * std::conj(values[k]));
-    const Covariance others = disagreementAt(pixel);
-    const Covariance plane = {leverage * fit.noise.xx + others.xx + commonVariance,
-                              leverage * fit.noise.xy + others.xy,
-                              leverage * fit.noise.yy + others.yy + commonVariance};
+    add(chosen, covarianceAt(units, fit), 0.0);
     const Jacobian j = jacobianAt(pixel);
     const double d = j.determinant();
     const double xx = j.yy / d;

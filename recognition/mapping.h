@@ -30,7 +30,7 @@ struct Covariance {
 /// Which terms the polynomial has, in rising order of freedom.
 enum class MappingModel {
     Similarity,   ///< 1, z: scale, rotation and shift
-    Radial,       ///< and z |z|^2: distortion of the third order about the centre
+    Radial,       ///< and z |z|^2, drawn out and not twisted: distortion of the third order
     Affine,       ///< 1, z, conj z
     AffineRadial, ///< 1, z, conj z, z |z|^2
     Quadratic,    ///< all terms up to the second order
@@ -74,19 +74,21 @@ public:
     struct Frame {
         astrometry::Vector3 right, down, forward;
     };
-    /// The fit of another model to the same stars.
-    struct Rival {
-        double probability = 0.0; ///< that it is this one's model
+    /// One model's polynomial and how well it is known.
+    struct Solution {
         MappingModel terms = MappingModel::Similarity;
         std::array<Complex, mostTerms> coefficients = {};
+        /// Inverse of the normal matrix, row by row; times `noise` the coefficients' covariance if
+        /// they were all free.
+        std::array<Complex, mostTerms *mostTerms> inverse = {};
+        Covariance noise; ///< radians squared, of a star of unit weight, in the plane
+    };
+    /// Another model for the same stars.
+    struct Rival : Solution {
+        double probability = 0.0; ///< that it is this one's model
     };
     static constexpr std::size_t mostRivals = 5;
-    struct Fit {
-        MappingModel terms = MappingModel::Similarity;
-        std::array<Complex, mostTerms> coefficients = {};
-        /// Inverse of the normal matrix, row by row; times `noise` the coefficients' covariance.
-        std::array<Complex, mostTerms *mostTerms> inverse = {};
-        Covariance noise;    ///< radians squared, of a star of unit weight, in the plane
+    struct Fit : Solution {
         double floor2 = 0.0; ///< radians squared, added on each axis
         std::array<Rival, mostRivals> rivals = {};
     };
@@ -111,7 +113,7 @@ private:
     };
     Jacobian jacobianAt(PixelPlace pixel) const;
     Covariance covarianceAt(PixelPlace pixel, double commonVariance) const;
-    Covariance disagreementAt(PixelPlace pixel) const;
+    Covariance covarianceAt(Complex units, const Solution &solution) const;
 
     Frame axes = {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}};
     PixelPlace centre = {0.0, 0.0};
@@ -122,6 +124,13 @@ private:
 
 /// How many terms a model has.
 std::size_t termCount(MappingModel model);
+
+/// The term, of the models that have only one of the third order, whose coefficient has the phase
+/// of the second term's: a lens draws the picture out, it does not twist it.
+std::optional<std::size_t> distortionTerm(MappingModel model);
+
+/// How many real numbers a model has: two a term, one for a lens's distortion.
+std::size_t freeNumbers(MappingModel model);
 
 /// The terms' values at z.
 /// @param out at least termCount(model) numbers

@@ -17,7 +17,7 @@ constexpr double biweightSigmas = 6.0;  // Tukey's constant, in sigmas of a star
 constexpr double leastVariance = 1e-24; // radians squared a pixel squared
 constexpr double roundStars = 12.0;     // so many stars' worth of roundness in the noise
 
-Complex residualOf(const SkyMapping::Fit &fit, const FitPoint &point)
+Complex residualOf(const SkyMapping::Solution &fit, const FitPoint &point)
 {
     std::array<Complex, SkyMapping::mostTerms> terms;
     evaluateTerms(fit.terms, point.pixel, terms.data());
@@ -36,7 +36,7 @@ struct Candidate {
 Candidate judged(const PolynomialFit &fit)
 {
     const double n = 2.0 * fit.weights;
-    const double k = 2.0 * static_cast<double>(termCount(fit.fit.terms));
+    const double k = static_cast<double>(freeNumbers(fit.fit.terms));
     const double misfit = n * std::log(fit.chiSquared / n + 1e-30);
     const double penalty = k * std::log(n);
     // McQuarrie (1999), Statistics & Probability Letters 44, 79: the correction for small samples.
@@ -59,8 +59,7 @@ void addRivals(std::vector<Candidate> &candidates)
     }
     auto &rivals = candidates.front().fit.fit.rivals;
     for (std::size_t i = 1; i < candidates.size(); ++i)
-        rivals[i - 1] = {odds[i - 1] / sum, candidates[i].fit.fit.terms,
-                         candidates[i].fit.fit.coefficients};
+        rivals[i - 1] = {candidates[i].fit.fit, odds[i - 1] / sum};
 }
 } // namespace
 
@@ -95,14 +94,14 @@ std::optional<PolynomialFit> fitBestModel(const std::vector<FitPoint> &points)
     return candidates.front().fit;
 }
 
-void weighRobustly(const SkyMapping::Fit &fit, std::vector<FitPoint> &points)
+void weighRobustly(const SkyMapping::Solution &fit, std::vector<FitPoint> &points)
 {
     constexpr double medianOfTwoAxes = 1.3863; // of chi squared with two degrees of freedom
     std::vector<double> squares;
     for (const FitPoint &p : points)
         squares.push_back(std::norm(residualOf(fit, p)) / p.variance);
     const double n = static_cast<double>(points.size());
-    const double used = static_cast<double>(termCount(fit.terms));
+    const double used = 0.5 * static_cast<double>(freeNumbers(fit.terms));
     const double freedom = std::max(n - used, 1.0) / n;
     // Stars without any error leave no scatter to judge by.
     const double variance = std::max(medianOf(squares) / medianOfTwoAxes / freedom, leastVariance);
@@ -112,7 +111,7 @@ void weighRobustly(const SkyMapping::Fit &fit, std::vector<FitPoint> &points)
     }
 }
 
-Covariance noiseOf(const SkyMapping::Fit &fit, const std::vector<FitPoint> &points)
+Covariance noiseOf(const SkyMapping::Solution &fit, const std::vector<FitPoint> &points)
 {
     Covariance sum;
     double weights = 0.0;
@@ -124,7 +123,8 @@ Covariance noiseOf(const SkyMapping::Fit &fit, const std::vector<FitPoint> &poin
         sum.yy += weight * r.imag() * r.imag();
         weights += p.weight;
     }
-    const double freedom = std::max(weights - static_cast<double>(termCount(fit.terms)), 1.0);
+    const double used = 0.5 * static_cast<double>(freeNumbers(fit.terms));
+    const double freedom = std::max(weights - used, 1.0);
     const double student = 2.0 * freedom > 4.0 ? freedom / (freedom - 1.0) : 3.0;
     const double round = 0.5 * (sum.xx + sum.yy) / freedom;
     const double own = freedom / (freedom + roundStars);

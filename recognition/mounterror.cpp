@@ -74,6 +74,16 @@ double propagated(double byX, double byY, const Covariance &c)
     return std::sqrt(std::max(byX * byX * c.xx + 2.0 * byX * byY * c.xy + byY * byY * c.yy, 0.0));
 }
 
+// Of the axis' place among the frame's stars, pixels squared. A frame by which the axis was found
+// is not independent of it.
+Covariance covarianceOf(const Recognition &frame, const Axis &axis)
+{
+    const Covariance mapped = frame.mapping.covarianceAt(axis.place);
+    const Covariance shared = sharedError(axis, frame);
+    return {axis.covariance.xx + mapped.xx + shared.xx, axis.covariance.xy + mapped.xy + shared.xy,
+            axis.covariance.yy + mapped.yy + shared.yy};
+}
+
 // Of `up` (xx) and `east` (yy), arcseconds squared.
 Covariance propagated(const Offset &byX, const Offset &byY, const Covariance &c)
 {
@@ -95,9 +105,7 @@ std::optional<MountError> mountError(const Recognition &frame, const Axis &axis,
         return std::nullopt;
     const AxisInHorizon view(frame, options);
     const Offset offset = view.offsetOf(axis.place);
-    const Covariance mapped = frame.mapping.covarianceAt(axis.place);
-    const Covariance c = {axis.covariance.xx + mapped.xx, axis.covariance.xy + mapped.xy,
-                          axis.covariance.yy + mapped.yy};
+    const Covariance c = covarianceOf(frame, axis);
     constexpr double step = 0.5; // pixels
     const Offset right = view.offsetOf({axis.place.x + step, axis.place.y});
     const Offset left = view.offsetOf({axis.place.x - step, axis.place.y});

@@ -61,6 +61,22 @@ void addToNormals(const Vector &terms, std::size_t n, const FitPoint &point, Mat
             normal[i * most + j] += weighted * terms[j];
     }
 }
+
+// The least squares under the condition that the lens does not twist: closest to the free ones in
+// the metric of the normal matrix.
+void removeTwist(SkyMapping::Solution &solution)
+{
+    const auto term = distortionTerm(solution.terms);
+    const double scale = std::abs(solution.coefficients[1]);
+    if (!term || !(scale > 0.0))
+        return;
+    const Complex phase = solution.coefficients[1] / scale;
+    const double twist = std::imag(std::conj(phase) * solution.coefficients[*term]);
+    const double variance = std::real(solution.inverse[*term * most + *term]);
+    for (std::size_t i = 0; i < termCount(solution.terms); ++i)
+        solution.coefficients[i] -=
+            Complex(0.0, twist / variance) * phase * solution.inverse[i * most + *term];
+}
 } // namespace
 
 std::optional<PolynomialFit> fitPolynomial(MappingModel model, const std::vector<FitPoint> &points)
@@ -87,11 +103,12 @@ std::optional<PolynomialFit> fitPolynomial(MappingModel model, const std::vector
         for (std::size_t row = 0; row < n; ++row)
             result.fit.inverse[row * most + column] = unit[row];
     }
+    removeTwist(result.fit);
     for (const FitPoint &point : points) {
         evaluateTerms(model, point.pixel, terms.data());
         Complex residual = point.plane;
         for (std::size_t i = 0; i < n; ++i)
-            residual -= right[i] * terms[i];
+            residual -= result.fit.coefficients[i] * terms[i];
         result.chiSquared += point.weight / point.variance * std::norm(residual);
     }
     return result;

@@ -24,6 +24,7 @@ struct PolynomialFit {
     double weights = 0.0;    ///< sum of the robust weights
 };
 
-/// Nothing if the points do not fix all the terms.
+/// Distortion alone is drawn out and not twisted (see `distortionTerm`). Nothing if the points do
+/// not fix all the terms.
 std::optional<PolynomialFit> fitPolynomial(MappingModel model, const std::vector<FitPoint> &points);
 } // namespace recognition

@@ -230,6 +230,8 @@ void Refiner::setNoise(const std::vector<FitPoint> &fitted)
     const double floor =
         astrometry::arcsecond * (options.observer ? systematicError : systematicErrorWithoutSite);
     best.fit.noise = noiseOf(best.fit, fitted);
+    for (SkyMapping::Rival &rival : best.fit.rivals)
+        rival.noise = noiseOf(rival, fitted);
     best.fit.floor2 = floor * floor;
 }
 

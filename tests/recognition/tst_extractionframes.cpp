@@ -6,7 +6,6 @@
 #include <cmath>
 #include <opencv2/imgproc.hpp>
 #include <random>
-#include <thread>
 
 using namespace recognition;
 
@@ -80,7 +79,6 @@ private slots:
     void bordersMakeNoStars();
     void measuringNeedsAStar_data();
     void measuringNeedsAStar();
-    void manyThreads();
 };
 
 void ExtractionFramesTest::framesThatCannotBeUsed_data()
@@ -336,26 +334,6 @@ void ExtractionFramesTest::measuringNeedsAStar()
     QCOMPARE(bool(star), found);
     if (star)
         QVERIFY(std::hypot(star->x - 60.3, star->y - 60.7) < 0.03);
-}
-
-void ExtractionFramesTest::manyThreads()
-{
-    const cv::Mat1w frame = starField(500, 400);
-    const Extraction alone = extractStars(frame);
-    std::vector<Extraction> found(4);
-    std::vector<std::thread> threads;
-    for (Extraction &one : found)
-        threads.emplace_back([&one, &frame] {
-            for (int i = 0; i < 5; ++i)
-                one = extractStars(frame);
-        });
-    for (std::thread &thread : threads)
-        thread.join();
-    for (const Extraction &one : found) {
-        QCOMPARE(one.stars.size(), alone.stars.size());
-        for (std::size_t i = 0; i < alone.stars.size(); ++i)
-            QCOMPARE(one.stars[i].x, alone.stars[i].x);
-    }
 }
 
 QTEST_GUILESS_MAIN(ExtractionFramesTest)

@@ -9,7 +9,6 @@
 #include <cmath>
 #include <limits>
 #include <random>
-#include <thread>
 
 using namespace recognition;
 using goldenfields::Field;
@@ -42,7 +41,6 @@ class RecogniseTest : public QObject
     Q_OBJECT
 
 private slots:
-    void manyThreads(); // before the indices of the hemispheres are built
     void blind_data();
     void blind();
     void starsAreNamedRightly_data();
@@ -62,30 +60,6 @@ private slots:
     void starsHaveNames_data();
     void starsHaveNames();
 };
-
-// The first calls of all, at the same time: the same results as one after the other.
-void RecogniseTest::manyThreads()
-{
-    const std::vector<Field> &fields = goldenfields::all();
-    constexpr std::size_t rounds = 2;
-    std::vector<Recognition> found(rounds * fields.size());
-    std::vector<std::thread> threads;
-    for (std::size_t i = 0; i < found.size(); ++i)
-        threads.emplace_back([&fields, &found, i] {
-            const Field &field = fields[i % fields.size()];
-            found[i] = recognised(field, optionsOf(field));
-        });
-    for (std::thread &thread : threads)
-        thread.join();
-    for (std::size_t i = 0; i < found.size(); ++i) {
-        const Field &field = fields[i % fields.size()];
-        const Recognition alone = recognised(field, optionsOf(field));
-        QVERIFY2(found[i].status == RecognitionStatus::Recognised, field.name.constData());
-        QVERIFY(alone.matched.size() == found[i].matched.size());
-        QVERIFY(alone.pole.x == found[i].pole.x && alone.pole.y == found[i].pole.y);
-        QVERIFY(alone.chance == found[i].chance);
-    }
-}
 
 void RecogniseTest::blind_data()
 {
