@@ -25,7 +25,7 @@ std::string shiftedPattern(const std::string &pattern, int columns, int rows)
     std::string out;
     for (const int place : {0, 1, 2, 3}) {
         const int row = (place / 2 + rows % 2 + 2) % 2, column = (place + columns % 2 + 2) % 2;
-        out += pattern[std::size_t(2 * row + column)];
+        out += pattern.at(static_cast<std::size_t>(row * 2) + static_cast<std::size_t>(column));
     }
     return out;
 }

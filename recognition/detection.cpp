@@ -42,7 +42,7 @@ std::vector<float> sampleOf(const cv::Mat1f &image, double blankShare)
 {
     std::vector<float> sample;
     const std::size_t step = image.total() / sampled | 1; // odd: not always the same columns
-    auto blank = std::size_t(blankShare * double(image.total() / step));
+    auto blank = std::size_t(blankShare * double(image.total()) / double(step));
     for (std::size_t i = 0; i < image.total(); i += step) {
         const float value = image.ptr<float>()[i];
         if (value == 0.0f && blank > 0)
