@@ -75,7 +75,7 @@ struct Advice {
 struct AxisProgress {
     std::optional<recognition::PixelPlace> place; ///< absent until it can be computed
     bool isEarly =
-        false; ///< after little turn: shown with its ellipse, no figure is computed of it
+        false; ///< after little turn: shown with its ellipse, no error is computed from it
     recognition::Covariance covariance; ///< pixels squared
     double sigmaArcseconds = 0.0;
     double turnedDegrees = 0.0; ///< greatest minus least angle of all sharp frames
