@@ -74,8 +74,8 @@ struct Advice {
 /// The RA axis as far as it is known.
 struct AxisProgress {
     std::optional<recognition::PixelPlace> place; ///< absent until it can be computed
-    bool isEarly =
-        false; ///< after little turn: shown with its ellipse, no error is computed from it
+    /// After little turn: shown with its ellipse, no error is computed from it.
+    bool isEarly = false;
     recognition::Covariance covariance; ///< pixels squared
     double sigmaArcseconds = 0.0;
     double turnedDegrees = 0.0; ///< greatest minus least angle of all sharp frames
