@@ -25,11 +25,11 @@ struct Checked {
     int binning = 1;
 };
 
-Checked checked(const framesources::NativeFrame &frame, const CameraCommandLine &wishes,
-                bool soften)
+/// As the camera sees it, whatever the settings say of softening.
+Checked checked(const framesources::NativeFrame &frame, const CameraCommandLine &wishes)
 {
     const double date = wishes.date.value_or(frame.date.value_or(double(std::time(nullptr))));
-    return {framesources::recogniseLens(pictures::greyOf(frame.pixels, frame.mosaic), date, soften),
+    return {framesources::recogniseLens(pictures::greyOf(frame.pixels, frame.mosaic), date, false),
             frame.binning};
 }
 
@@ -83,7 +83,7 @@ int checkLens(const CameraCommandLine &wishes)
         const auto frame = awaitFrame(*camera, wishes);
         if (!frame)
             return failed;
-        found = checked(*frame, wishes, source && source->soften);
+        found = checked(*frame, wishes);
         if (found.lens.sky.status == recognition::RecognitionStatus::Recognised)
             break;
     }

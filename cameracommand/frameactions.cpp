@@ -50,14 +50,15 @@ int firstFree(const std::string &folder)
 /// @return an empty text = it is written
 std::string write(const std::string &path, const framesources::NativeFrame &frame, double exposure)
 {
-    const bool raw = !frame.pattern.empty() && isFitsName(path);
+    // Binning mixes the colours, whatever the file says.
+    const bool raw = frame.binning == 1 && !frame.pattern.empty() && isFitsName(path);
     const bool coloured = frame.pixels.channels() == 3 && !isFitsName(path);
     const cv::Mat pixels =
         raw || coloured ? frame.pixels : pictures::greyOf(frame.pixels, frame.mosaic);
     if (isFitsName(path))
         return pictures::writeFits(path, pixels,
                                    frame.date ? *frame.date : double(std::time(nullptr)), exposure,
-                                   frame.pattern);
+                                   raw ? frame.pattern : std::string());
     try {
         if (cv::imwrite(path, pixels))
             return {};

@@ -106,8 +106,9 @@ bool writeLens(const std::string &skyFile, const MeasuredLens &lens)
         return false;
     // A new line comes first in its section: this leaves scale above the others.
     std::string after = *before;
-    if (lens.soften)
-        after = withSkyValue(after, section, "soften", "true");
+    const bool hasSoften = lens.soften || skyLine(*before, section, "soften");
+    if (hasSoften)
+        after = withSkyValue(after, section, "soften", lens.soften ? "true" : "false");
     after = withSkyValue(after, section, "mirrored", lens.mirrored ? "true" : "false");
     after = withSkyValue(after, section, "scale", text(lens.scale));
     try {
@@ -127,7 +128,7 @@ bool writeLens(const std::string &skyFile, const MeasuredLens &lens)
     }
     for (const char *key : {"scale", "mirrored"})
         printChange(skyFile, *before, after, key);
-    if (lens.soften)
+    if (hasSoften)
         printChange(skyFile, *before, after, "soften");
     return true;
 }

@@ -23,7 +23,8 @@ double secondsNow()
 }
 } // namespace
 
-RecognisedLens recogniseLens(const cv::Mat &grey, double utcSeconds, bool soften)
+RecognisedLens recogniseLens(const cv::Mat &grey, double utcSeconds, bool soften,
+                             std::optional<double> scale)
 {
     recognition::RecognitionOptions options;
     options.utcSeconds = utcSeconds;
@@ -40,7 +41,8 @@ RecognisedLens recogniseLens(const cv::Mat &grey, double utcSeconds, bool soften
     if (soften)
         return plain;
     if (isRecognised) {
-        plain.needsSoftening = needsSoftening(plain.extraction.fwhm, plain.sky.scale);
+        plain.needsSoftening =
+            needsSoftening(plain.extraction.fwhm, grey.size(), scale.value_or(plain.sky.scale));
         return plain;
     }
     RecognisedLens other = stars(softened(grey));
@@ -63,8 +65,11 @@ bool LensFinder::isOpen() const
 
 void LensFinder::recognise(const NativeFrame &frame)
 {
+    std::optional<double> used;
+    if (scale.kind != LensScale::Kind::Auto)
+        used = sensorScale() * frame.binning;
     const RecognisedLens lens = recogniseLens(pictures::greyOf(frame.pixels, frame.mosaic),
-                                              frame.date.value_or(secondsNow()), soften);
+                                              frame.date.value_or(secondsNow()), soften, used);
     const recognition::Recognition &sky = lens.sky;
     if (sky.status != recognition::RecognitionStatus::Recognised)
         return;

@@ -22,7 +22,10 @@ struct RecognisedLens {
 
 /// Recognises the stars of a frame as it is; if that fails, softened.
 /// @param soften the settings say so: it is softened at once
-RecognisedLens recogniseLens(const cv::Mat &grey, double utcSeconds, bool soften);
+/// @param scale that it will be resampled by: arcseconds a pixel, 0 = not to be changed; nothing =
+/// the one that its stars show
+RecognisedLens recogniseLens(const cv::Mat &grey, double utcSeconds, bool soften,
+                             std::optional<double> scale = std::nullopt);
 
 /// Settles what the settings leave open from the first frame whose stars are recognised, again when
 /// frames of another sensor come. Not thread-safe.

@@ -12,6 +12,11 @@
 
 namespace framesources
 {
+namespace
+{
+const cv::Size programSize(virtualsky::sensorWidth, virtualsky::sensorHeight);
+} // namespace
+
 // By 1 2 1, both ways.
 cv::Mat softened(const cv::Mat &grey)
 {
@@ -21,16 +26,16 @@ cv::Mat softened(const cv::Mat &grey)
     return out;
 }
 
-bool needsSoftening(double fwhm, double scale)
+bool needsSoftening(double fwhm, cv::Size frame, double scale)
 {
     constexpr double narrowest = 1.5; // pixels: hardly any light beside the pixel of the centre
-    return fwhm * std::min(1.0, scale / pictures::programScale) < narrowest;
+    const double factor = pictures::planFit(frame, programSize, scale).factor;
+    return fwhm * std::min(1.0, factor) < narrowest;
 }
 
 cv::Mat prepared(const NativeFrame &frame, const Lens &lens)
 {
-    const cv::Size size(virtualsky::sensorWidth, virtualsky::sensorHeight);
-    const pictures::Fit fit = pictures::planFit(frame.pixels.size(), size, lens.scale);
+    const pictures::Fit fit = pictures::planFit(frame.pixels.size(), programSize, lens.scale);
     cv::Mat out =
         pictures::resampled(pictures::greyOf(frame.pixels, frame.mosaic), fit, lens.soften);
     if (lens.soften)
@@ -38,9 +43,9 @@ cv::Mat prepared(const NativeFrame &frame, const Lens &lens)
     if (out.depth() == CV_16U)
         out = pictures::stretched(out);
     if (!lens.mirrored)
-        return pictures::centred(out, size);
+        return pictures::centred(out, programSize);
     cv::Mat upright; // `out` may be the camera's own frame
     cv::flip(out, upright, 1);
-    return pictures::centred(upright, size);
+    return pictures::centred(upright, programSize);
 }
 } // namespace framesources

@@ -19,10 +19,11 @@ struct Lens {
 /// as high.
 cv::Mat softened(const cv::Mat &grey);
 
-/// Whether stars look like faults of the sensor once a frame is averaged to the program's scale.
+/// Whether stars look like faults of the sensor once a frame is resampled.
 /// @param fwhm their full width at half maximum, pixels of the frame
-/// @param scale arcseconds a pixel of the frame
-bool needsSoftening(double fwhm, double scale);
+/// @param frame its size, pixels
+/// @param scale arcseconds a pixel of the frame; 0 = not to be changed
+bool needsSoftening(double fwhm, cv::Size frame, double scale);
 
 /// A grey frame of 1280 x 960 pixels and 8 bits. Frames of 16 bits, and averages, are stretched so
 /// that faint stars stay visible; other frames of 8 bits keep their values.

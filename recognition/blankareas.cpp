@@ -15,7 +15,7 @@ namespace
 constexpr int block = 8;          // pixels
 constexpr float flatRange = 0.5f; // values
 constexpr float likeFlat = 2.5f;  // values: the seams of compressed pictures
-constexpr double mostFlat = 0.6;  // part of the sky
+constexpr double mostFlat = 0.6;  // part of the sky, or of the picture
 constexpr int leastSky = 4;       // blocks a side
 constexpr float structured = -1.0f;
 
@@ -96,7 +96,7 @@ void blankLike(cv::Mat1f part, float value)
 }
 } // namespace
 
-FlatAreas blankFlatAreas(cv::Mat1f &image)
+FlatAreas blankFlatAreas(cv::Mat1f &image, float saturated)
 {
     const cv::Mat1f flat = flatBlocks(image);
     const auto count =
@@ -105,7 +105,9 @@ FlatAreas blankFlatAreas(cv::Mat1f &image)
         const Range whole = rangeOf(image, cv::Rect(0, 0, image.cols, image.rows));
         return {whole.high - whole.low <= flatRange, 0.0};
     }
-    if (count == 0 || isNoiseFreeSky(flat))
+    const auto bright = std::count_if(flat.begin(), flat.end(),
+                                      [saturated](float value) { return value > saturated; });
+    if (count == 0 || double(bright) > mostFlat * double(flat.total()) || isNoiseFreeSky(flat))
         return {};
     for (int j = 0; j < flat.rows; ++j)
         for (int i = 0; i < flat.cols; ++i) {

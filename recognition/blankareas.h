@@ -12,6 +12,8 @@ struct FlatAreas {
 };
 
 /// Sets the pixels of flat areas to `blankValue`, however wide a border is. Nothing is done where
-/// most of what lies between the stars is flat, as in a noise-free sky.
-FlatAreas blankFlatAreas(cv::Mat1f &image);
+/// most of what lies between the stars is flat, as in a noise-free sky, or most of the picture is
+/// saturated.
+/// @param saturated value above which a flat area is
+FlatAreas blankFlatAreas(cv::Mat1f &image, float saturated);
 } // namespace recognition

@@ -106,7 +106,7 @@ Extraction extractStars(const cv::Mat &frame, const ExtractionOptions &options)
     cv::Mat1f sky = binnedFrame(frame, bin);
     const double full = fullScale(frame);
     const float corner = sky(0, 0);
-    const FlatAreas flat = blankFlatAreas(sky);
+    const FlatAreas flat = blankFlatAreas(sky, float(nearFullScale * full));
     if (flat.isWhole) {
         out.background = double(corner);
         out.status = double(corner) > nearFullScale * full ? ExtractionStatus::SaturatedSky

@@ -137,9 +137,10 @@ void CameraCommandIndiTest::checkWritesTheLens()
     QVERIFY2(checked.status == 0, qPrintable(checked.output + checked.errors));
     const QRegularExpression said("scale: (30\\.[45]\\d\\d) arcseconds a pixel\n"
                                   "mirrored: false\nroll: .* degrees\nhemisphere: north\n"
-                                  "pole: .*\nstars: .*\nfocus: .*\n"
+                                  "pole: .*\nstars: .*\nfocus: .*\n.*soften = true\n"
                                   ".*, line 3: scale = (.*) \\(new\\)\n"
-                                  ".*, line 4: mirrored = false \\(new\\)\n$");
+                                  ".*, line 4: mirrored = false \\(new\\)\n"
+                                  ".*, line 6: soften = true \\(as before\\)\n$");
     const QRegularExpressionMatch match = said.match(checked.output);
     QVERIFY2(match.hasMatch(), qPrintable(checked.output));
     QCOMPARE(match.captured(1), match.captured(2));

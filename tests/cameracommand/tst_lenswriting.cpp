@@ -98,6 +98,9 @@ void LensWritingTest::makesTheFile()
     QVERIFY(writeLens(path.toStdString(), {20.0, false, true}));
     QCOMPARE(bytesOf(path),
              QByteArray("[camera]\nsoften = true\nscale = 20.000\nmirrored = false\n"));
+    QVERIFY(writeLens(path.toStdString(), lens)); // another lens
+    QCOMPARE(bytesOf(path),
+             QByteArray("[camera]\nsoften = false\nscale = 20.000\nmirrored = false\n"));
 }
 
 void LensWritingTest::keepsLinkAndPermissions()

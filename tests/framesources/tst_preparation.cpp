@@ -141,6 +141,7 @@ void PreparationTest::softeningIsNeeded_data()
     QTest::newRow("the program's scale, stars of one pixel") << 1.0 << 30.45 << true;
     QTest::newRow("averaged by two") << 4.0 << 15.2 << false;
     QTest::newRow("averaged by five") << 2.5 << 6.0 << true;
+    QTest::newRow("a fine scale that stays") << 2.5 << 0.0 << false;
     QTest::newRow("enlarged") << 1.6 << 60.0 << false;
 }
 
@@ -148,7 +149,7 @@ void PreparationTest::softeningIsNeeded()
 {
     QFETCH(double, fwhm);
     QFETCH(double, scale);
-    QTEST(framesources::needsSoftening(fwhm, scale), "needed");
+    QTEST(framesources::needsSoftening(fwhm, {1280, 960}, scale), "needed");
 }
 
 void PreparationTest::softened()

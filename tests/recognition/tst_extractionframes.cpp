@@ -67,6 +67,7 @@ private slots:
     void framesThatCannotBeUsed();
     void emptyPictures_data();
     void emptyPictures();
+    void saturatedPartIsNoBorder();
     void brightSkyKeepsItsStars();
     void sizes_data();
     void sizes();
@@ -139,6 +140,16 @@ void ExtractionFramesTest::emptyPictures()
     QCOMPARE(found.status, status);
     QVERIFY(!reasonOf(found).empty());
     QVERIFY(found.stars.size() < 6);
+}
+
+/// Twilight on one side.
+void ExtractionFramesTest::saturatedPartIsNoBorder()
+{
+    cv::Mat frame(480, 640, CV_8UC1);
+    cv::RNG(3).fill(frame, cv::RNG::NORMAL, cv::Scalar::all(150), cv::Scalar::all(5));
+    frame(cv::Rect(0, 0, 480, 480)).setTo(255);
+    const Extraction found = extractStars(frame);
+    QCOMPARE(found.status, ExtractionStatus::SaturatedSky);
 }
 
 void ExtractionFramesTest::brightSkyKeepsItsStars()
