@@ -13,6 +13,7 @@ class GuideTest : public QObject
 private slots:
     void stagesEndByThemselves_data();
     void stagesEndByThemselves();
+    void axisShowsBeforeItIsKnown();
     void startsAreAligned();
     void axisEndsAtEnoughTurn();
     void figuresHoldWhileBoltsAndAxisMove();
@@ -61,6 +62,27 @@ void GuideTest::stagesEndByThemselves()
     QVERIFY(status.firstError.has_value());
     status = nextThatSays(mount, AdviceCode::TurnBolts);
     QVERIFY(says(status, AdviceCode::TurnBolts));
+}
+
+/// After five degrees the axis is shown, and no error is computed from it.
+void GuideTest::axisShowsBeforeItIsKnown()
+{
+    PaintedMount mount(plainNight(), settingsFor(plainNight()));
+    Status status = nextThatSays(mount, AdviceCode::TurnAxis);
+    for (int i = 0; i < 10; ++i) {
+        virtualsky::SkyState sky = mount.sky();
+        sky.raAngle += 0.5;
+        mount.setSky(sky);
+        status = mount.next();
+    }
+    QVERIFY(status.stage == Stage::Axis);
+    QVERIFY(status.axis.place && status.axis.isEarly && !status.axis.enough);
+    QVERIFY(status.axis.sigmaArcseconds > 0.0 && status.axis.covariance.xx > 0.0);
+    QVERIFY(!status.error);
+    const auto truth = *mount.truth().axis;
+    const double off = std::hypot(status.axis.place->x - truth.x, status.axis.place->y - truth.y) *
+                       virtualsky::pixelScale;
+    QVERIFY2(off < 4.0 * status.axis.sigmaArcseconds, qPrintable(QString::number(off)));
 }
 
 /// The bar for whole alignments, on painted frames; through the window: tst_assistantstarts.

@@ -108,6 +108,13 @@ public:
                                                     status.pole->y + away * std::sin(angle)};
     }
 
+    void setEarlyAxis(double arcseconds, double angle)
+    {
+        setError(arcseconds, angle);
+        status.error.reset();
+        status.axis.isEarly = true;
+    }
+
     QImage with(QColor Theme::*mark)
     {
         const Theme colours = drawing::only(mark);
@@ -200,6 +207,7 @@ private slots:
     void ellipses();
     void arrowFromPoleToAxis_data() { everyPicture(); }
     void arrowFromPoleToAxis();
+    void earlyAxisHasNoArrow();
     void arrowToThePoleOutside_data();
     void arrowToThePoleOutside();
 
@@ -420,6 +428,20 @@ void AssistantMarksTest::ellipses()
                          crossing(2.0 * longer - 8.0, 0.0) > 20,
                      "it is filled, and its middle seen through");
     }
+}
+
+void AssistantMarksTest::earlyAxisHasNoArrow()
+{
+    Picture picture(skyOf(false, false), enlargements[0]);
+    picture.setEarlyAxis(enlargements[0].error, 0.6);
+    const QImage image = picture.with(&Theme::axis);
+    Expected expected(image);
+    const QPointF unit(std::cos(0.6), std::sin(0.6));
+    const QPointF axis =
+        picture.pole() + unit * enlargements[0].error * picture.pixelsPerArcsecond();
+    QVERIFY(light(image, axis) > 30);
+    expected.allow({axis - QPointF(7, 7), QSizeF(14, 14)});
+    QCOMPARE(expected.strays(), 0);
 }
 
 void AssistantMarksTest::arrowFromPoleToAxis()
