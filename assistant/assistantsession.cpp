@@ -15,9 +15,9 @@ namespace
 {
 using State = CameraLink::State;
 
-constexpr std::chrono::milliseconds rounds(200); // between looks at the requests
-constexpr double clockLook = 10.0;               // seconds between looks at the clock's state
-constexpr int shortWait = 2000; // milliseconds, of the destructor, for the guide's last frame
+constexpr std::chrono::milliseconds requestRounds(200); // between looks at the requests
+constexpr double clockLook = 10.0; // seconds between looks at the clock's state
+constexpr int shortWait = 2000;    // milliseconds, of the destructor, for the guide's last frame
 
 QImage pictureOf(const cv::Mat &frame)
 {
@@ -181,7 +181,7 @@ bool AssistantSession::close(int milliseconds)
 void AssistantSession::run()
 {
     while (!quit) {
-        const auto taken = newest.take(rounds);
+        const auto taken = newest.take(requestRounds);
         obey();
         if (taken && !quit)
             lookAt(*taken);

@@ -17,9 +17,9 @@ namespace
 {
 using State = CameraLink::State;
 
-constexpr std::chrono::milliseconds rounds(100); // between looks at the frames
-constexpr double retry = 2.0;                    // seconds between attempts to connect
-constexpr int closingPoll = 50;                  // milliseconds
+constexpr std::chrono::milliseconds frameRounds(100); // between looks at the frames
+constexpr double retry = 2.0;                         // seconds between attempts to connect
+constexpr int closingPoll = 50;                       // milliseconds
 constexpr std::size_t mostCameras = 64;
 } // namespace
 
@@ -127,7 +127,7 @@ void CameraOperator::set(State state)
 CameraOperator::Orders CameraOperator::takeOrders()
 {
     std::unique_lock<std::mutex> lock(mutex);
-    ordered.wait_for(lock, rounds, [this] {
+    ordered.wait_for(lock, frameRounds, [this] {
         return pending.quit || pending.find || pending.connect || pending.disconnect ||
                pending.exposure || pending.gain;
     });

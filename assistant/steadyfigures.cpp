@@ -9,7 +9,7 @@ namespace assistant
 {
 namespace
 {
-constexpr double movedSigmas = 3.0;
+constexpr double drivenSigmas = 3.0;
 constexpr double driftSigmas = 3.0; // from which a drift shortens the mean
 constexpr double noticedLag = 0.3;  // of a single frame's standard error
 } // namespace
@@ -92,7 +92,7 @@ bool SteadyFigures::hasMoved(const FrameError &error) const
         return false;
     const FrameError before = mean(usable(drift()));
     const auto differs = [](double by, double variance) {
-        return std::abs(by) > movedSigmas * std::sqrt(variance);
+        return std::abs(by) > drivenSigmas * std::sqrt(variance);
     };
     return error.hasSite != before.hasSite ||
            differs(error.x - before.x, error.frame.xx + before.frame.xx) ||

@@ -12,8 +12,8 @@ namespace assistantwindow
 namespace
 {
 constexpr double share = 0.3; // of the picture's width and height
-constexpr double margin = 8.0;
-constexpr std::size_t mostRings = 20;
+constexpr double edgeMargin = 8.0;
+constexpr std::size_t mostStarRings = 20;
 constexpr double lengths[] = {300.0, 120.0, 60.0, 30.0, 20.0, 10.0, 5.0, 2.0, 1.0}; // arcseconds
 } // namespace
 
@@ -24,9 +24,9 @@ QRectF overviewBox(const QSizeF &frame, const QRectF &bounds, const QPointF &axi
     const bool isAbove = axis.y()<centre.y(), isRight = axis.x()> centre.x();
     // Near the middle the axis is under neither corner.
     const bool isFar = axis.x() - centre.x() > bounds.width() * 0.1;
-    const double left = isAbove && isRight && isFar ? bounds.left() + margin
-                                                    : bounds.right() - margin - size.width();
-    return {QPointF(left, bounds.top() + margin), size};
+    const double left = isAbove && isRight && isFar ? bounds.left() + edgeMargin
+                                                    : bounds.right() - edgeMargin - size.width();
+    return {QPointF(left, bounds.top() + edgeMargin), size};
 }
 
 void paintOverview(QPainter &painter, const QImage &picture, const assistant::Status &status,
@@ -47,7 +47,7 @@ void paintOverview(QPainter &painter, const QImage &picture, const assistant::St
     painter.setPen(QPen(theme.star, 1.0));
     std::size_t ringed = 0; // the brightest come first
     for (const recognition::MatchedStar &match : status.sky->matched)
-        if (match.detected < status.stars.size() && ringed++ < mostRings)
+        if (match.detected < status.stars.size() && ringed++ < mostStarRings)
             painter.drawEllipse(
                 view.place(status.stars[match.detected].x, status.stars[match.detected].y), 2.5,
                 2.5);

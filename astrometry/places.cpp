@@ -6,6 +6,8 @@
 
 #include <cmath>
 
+#include "astrometry/refraction.h"
+
 namespace astrometry
 {
 namespace
@@ -13,7 +15,6 @@ namespace
 constexpr double secondsPerDay = 86400.0;
 constexpr double unixEpochJulianDate = 2440587.5;
 constexpr double milliarcsecond = arcsecond / 1000.0;
-constexpr double wavelengthMicrometres = 0.55;
 
 struct JulianDate {
     double day, fraction;

@@ -11,7 +11,6 @@ namespace astrometry
 {
 namespace
 {
-constexpr double wavelengthMicrometres = 0.55;
 } // namespace
 
 RefractionConstants refractionConstants(double pressure, double temperature, double humidity)

@@ -10,13 +10,16 @@
 
 namespace astrometry
 {
+/// Green light, which the eye and the sensor see best.
+constexpr double wavelengthMicrometres = 0.55;
+
 /// The two constants of the refraction formula, radians: A tan z + B tan^3 z.
 struct RefractionConstants {
     double a = 0.0;
     double b = 0.0;
 };
 
-/// For green light (0.55 micrometres), by ERFA's refco.
+/// For `wavelengthMicrometres`, by ERFA's refco.
 /// @param pressure hectopascals  @param temperature degrees Celsius  @param humidity 0 to 1
 RefractionConstants refractionConstants(double pressure, double temperature, double humidity);
 

@@ -11,7 +11,7 @@
 
 namespace
 {
-constexpr int pause = 20; ///< longest wait of one poll, milliseconds
+constexpr int longestPoll = 20; ///< longest wait of one poll, milliseconds
 
 /// Calls StopVELDIXLive in a thread of its own.
 class Stopper : public QThread
@@ -95,10 +95,10 @@ CameraClosing::State CameraClosing::poll(int milliseconds)
 
 CameraClosing::State CameraClosing::finish()
 {
-    State last = poll(std::min(patience, pause));
+    State last = poll(std::min(patience, longestPoll));
     while (isUnderWay()) {
         QThread::msleep(1);
-        last = poll(pause);
+        last = poll(longestPoll);
     }
     return last;
 }

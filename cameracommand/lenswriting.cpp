@@ -23,7 +23,7 @@ using virtualsky::Mirrored;
 using virtualsky::SkyState;
 using virtualsky::Source;
 
-constexpr char section[] = "camera";
+constexpr char cameraSection[] = "camera";
 constexpr double sameScale = 0.01; // two checks of one lens differ by less, as a part of the scale
 
 std::string text(double number)
@@ -73,8 +73,8 @@ std::optional<std::string> changeableText(const std::string &path)
 void printChange(const std::string &path, const std::string &before, const std::string &after,
                  const char *key)
 {
-    const std::optional<SkyLine> old = skyLine(before, section, key),
-                                 now = skyLine(after, section, key);
+    const std::optional<SkyLine> old = skyLine(before, cameraSection, key),
+                                 now = skyLine(after, cameraSection, key);
     if (now)
         std::printf("%s, line %d: %s (%s)\n", path.c_str(), now->number, now->text.c_str(),
                     !old                     ? "new"
@@ -106,11 +106,11 @@ bool writeLens(const std::string &skyFile, const MeasuredLens &lens)
         return false;
     // A new line comes first in its section: this leaves scale above the others.
     std::string after = *before;
-    const bool hasSoften = lens.soften || skyLine(*before, section, "soften");
+    const bool hasSoften = lens.soften || skyLine(*before, cameraSection, "soften");
     if (hasSoften)
-        after = withSkyValue(after, section, "soften", lens.soften ? "true" : "false");
-    after = withSkyValue(after, section, "mirrored", lens.mirrored ? "true" : "false");
-    after = withSkyValue(after, section, "scale", text(lens.scale));
+        after = withSkyValue(after, cameraSection, "soften", lens.soften ? "true" : "false");
+    after = withSkyValue(after, cameraSection, "mirrored", lens.mirrored ? "true" : "false");
+    after = withSkyValue(after, cameraSection, "scale", text(lens.scale));
     try {
         virtualsky::parse(after);
     } catch (const virtualsky::SkyFileError &error) {

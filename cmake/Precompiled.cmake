@@ -1,8 +1,7 @@
 # SPDX-License-Identifier: MIT
 # Precompiled headers: reading the toolkit's headers is most of the compile time. There is one set for
 # each group of the toolkit's modules, since its headers differ with the modules that are linked. The
-# tests always use them. The programs and libraries do so in the sanitizer builds alone: the others
-# show that every file includes what it uses.
+# tests always use them. The programs and libraries do so in the sanitizer builds alone.
 
 # qt_group(TARGET RESULT): the largest module whose headers a target gets by what it links, directly or
 # not: Widgets, Gui, Core or empty.

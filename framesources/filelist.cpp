@@ -64,7 +64,7 @@ std::vector<std::string> expanded(const std::string &pattern)
 }
 
 // A folder's name as a pattern of itself.
-std::string escaped(const std::string &path)
+std::string globEscaped(const std::string &path)
 {
     std::string text;
     for (const char c : path)
@@ -85,7 +85,7 @@ std::vector<ListedFile> matchingFiles(const std::string &pattern)
     if (auto one = listed(pattern))
         return {*one};
     const bool folder = isFolder(pattern);
-    for (const std::string &path : expanded(folder ? escaped(pattern) + "/*" : pattern))
+    for (const std::string &path : expanded(folder ? globEscaped(pattern) + "/*" : pattern))
         if (!folder || isPictureName(path))
             if (auto file = listed(path))
                 files.push_back(std::move(*file));

@@ -10,8 +10,8 @@ namespace framesources
 namespace
 {
 using namespace std::chrono_literals;
-constexpr double shortestPause = 1.0 / 30.0, longestPause = 10.0; // seconds
-constexpr auto slice = 20ms;                                      // of waiting
+constexpr double shortestPause = 1.0 / 30.0, longestFramePause = 10.0; // seconds
+constexpr auto waitSlice = 20ms;                                       // of waiting
 constexpr auto scanPause = 1s; // between two looks for newer files
 
 NativeFrame frameOf(PictureFile &&file)
@@ -26,7 +26,7 @@ double pauseBetween(virtualsky::Pace pace, double exposureSeconds, std::optional
 {
     double pause = exposureSeconds;
     if (pace == virtualsky::Pace::Own && earlier && later)
-        pause = std::min(*later - *earlier, longestPause);
+        pause = std::min(*later - *earlier, longestFramePause);
     return std::max(pause, shortestPause);
 }
 
@@ -118,7 +118,7 @@ std::optional<NativeFrame> FilesCamera::nextOfOpenFile()
 std::optional<NativeFrame> FilesCamera::next(const Wish &wish)
 {
     if (!wish.wanted) {
-        std::this_thread::sleep_for(slice);
+        std::this_thread::sleep_for(waitSlice);
         if (!isPresent())
             scan();
         return std::nullopt;
@@ -128,7 +128,7 @@ std::optional<NativeFrame> FilesCamera::next(const Wish &wish)
             return std::nullopt; // a video that is open now, or a file that was left out
     const NativeFrame *const coming = ready ? &*ready : last ? &*last : nullptr;
     if (!coming) {
-        std::this_thread::sleep_for(slice);
+        std::this_thread::sleep_for(waitSlice);
         return std::nullopt;
     }
     const bool again = !ready;

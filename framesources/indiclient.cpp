@@ -14,7 +14,7 @@ namespace
 {
 using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
-constexpr milliseconds connectPatience{2000};
+constexpr milliseconds socketPatience{2000};
 constexpr milliseconds longestReading{100}; // on end, of a server that never pauses
 
 std::string escaped(const std::string &text)
@@ -73,7 +73,7 @@ IndiClient::~IndiClient() = default;
 
 bool IndiClient::connectServer()
 {
-    if (!connection->socket.open(host, port, connectPatience))
+    if (!connection->socket.open(host, port, socketPatience))
         return false;
     send("<getProperties version='1.7'/>\n");
     return true;

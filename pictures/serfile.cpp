@@ -16,7 +16,7 @@ namespace
 {
 constexpr std::int64_t headerBytes = 178, tickBytes = 8;
 constexpr char signature[] = "LUCAM-RECORDER";
-constexpr std::int32_t longestSide = 32767;
+constexpr std::int32_t longestFrameSide = 32767;
 constexpr double ticksPerSecond = 1e7;
 constexpr double unixEpoch = 62135596800.0; // seconds from 0001-01-01 to 1970-01-01
 
@@ -112,7 +112,7 @@ void SerFile::readHeader()
     head.depth = int32At(&bytes[34]);
     head.frames = int32At(&bytes[38]);
     if (!isKnownColour(head.colour) || head.depth < 1 || head.depth > 16 || head.width < 1 ||
-        head.height < 1 || head.width > longestSide || head.height > longestSide) {
+        head.height < 1 || head.width > longestFrameSide || head.height > longestFrameSide) {
         fault = "It is a SER file of a kind that cannot be read.";
         return;
     }

@@ -12,7 +12,6 @@ namespace recognition
 {
 namespace
 {
-constexpr double leastFwhm = 0.7;    // pixels; narrower is a hot pixel
 constexpr double widestSigma = 16.0; // pixels
 constexpr int windowMargin = 2;      // pixels
 constexpr double windowSigmas = 4.0;

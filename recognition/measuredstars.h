@@ -12,6 +12,8 @@
 
 namespace recognition
 {
+constexpr double leastFwhm = 0.7; ///< pixels; narrower is a hot pixel
+
 struct MeasuredStar {
     DetectedStar star;
     double elongation; ///< length over width

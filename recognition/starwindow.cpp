@@ -13,10 +13,9 @@ namespace recognition
 {
 namespace
 {
-constexpr int leastRadius = 2, largestRadius = 64; // pixels
+constexpr int leastRadius = 2, widestWindow = 64; // pixels
 constexpr int margin = 6; // pixels about the place that the star's light may reach into
 constexpr double leastSnr = 5.0;
-constexpr double leastFwhm = 0.7;        // pixels; narrower is a hot pixel
 constexpr double usualSigma = 1.2;       // pixels, to begin with
 constexpr double leastNoise = 0.2886751; // rounding to whole values
 
@@ -69,7 +68,7 @@ cv::Point brightestPlace(const cv::Mat1f &values, double x, double y, int radius
 
 std::optional<DetectedStar> measureStar(const cv::Mat &frame, double x, double y, int radius)
 {
-    if (checkFrame(frame) != ExtractionStatus::Ok || radius < leastRadius || radius > largestRadius)
+    if (checkFrame(frame) != ExtractionStatus::Ok || radius < leastRadius || radius > widestWindow)
         return std::nullopt;
     Window window = readWindow(frame, x, y, radius + margin);
     if (window.values.empty())

@@ -13,8 +13,8 @@ namespace
 using astrometry::Vector3;
 using Complex = std::complex<double>;
 
-constexpr std::size_t mostStars = 80; // of the frame, that odds are computed from
-constexpr double distractors = 0.55;  // part of the frame's stars that need be in no catalogue
+constexpr std::size_t mostOddsStars = 80; // of the frame, that odds are computed from
+constexpr double distractors = 0.55;      // part of the frame's stars that need be in no catalogue
 const double logOfStray = std::log(distractors); // odds of a star that is in no catalogue
 constexpr double lensDistortion = 0.0015;        // pixels a pixel of distance from the known stars
 constexpr double searchSigmas = 3.5;
@@ -128,7 +128,7 @@ Verifier::Verifier(const Hypothesis &hypothesis, const FrameStars &frameStars,
       frame(frameStars),
       stars(poleStars),
       places(starPlaces),
-      brightest(brightestFor(std::min(frame.size(), mostStars), given.pose, frame, stars)),
+      brightest(brightestFor(std::min(frame.size(), mostOddsStars), given.pose, frame, stars)),
       middle(0.0)
 {
     for (const auto &[star, catalogue] : given.triangle)
@@ -250,7 +250,7 @@ Verification Verifier::run()
     Verification result;
     result.pairs.assign(given.triangle.begin(), given.triangle.end());
     const double expected = std::max(static_cast<double>(expectedStars()), leastExpected);
-    const std::size_t n = std::min(frame.size(), mostStars);
+    const std::size_t n = std::min(frame.size(), mostOddsStars);
     for (std::size_t i = 0; i < n; ++i)
         if (!ofTriangle(i))
             result.logOdds += addStar(i, expected, result.pairs);

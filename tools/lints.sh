@@ -24,14 +24,16 @@ licence_lint() {
   }
 }
 
-# tidy CONFIG FOLDERS: clang-tidy for the sources in folders that the regular expression fits. No build
-# compiles everything, so that what the toolkit's generators make is made first.
+# tidy CONFIG FOLDERS: clang-tidy for the sources in folders that the regular expression fits. The build
+# folder names each source by itself; nothing is compiled there, but what the toolkit's generators
+# make is made first.
 tidy() {
-  local generated
-  generated=$(ninja -C build/release -t targets all |
+  local generated build=build/sources
+  [ -f $build/build.ninja ] || cmake --preset dev -B $build >/dev/null || return
+  generated=$(ninja -C $build -t targets all |
     sed -nE 's/^([A-Za-z0-9_-]*_autogen|.*\.moc|.*\/moc_[a-z]*\.cpp):.*/\1/p')
   # shellcheck disable=SC2086 # a list
-  ninja -C build/release $generated >/dev/null && python3 tools/tidy.py build/release "$1" "$2"
+  ninja -C $build $generated >/dev/null && python3 tools/tidy.py $build "$1" "$2"
 }
 
 tidy_lint() {

@@ -20,8 +20,8 @@ using recognition::Recognition;
 
 namespace
 {
-constexpr double date = 1795204800.0;
-constexpr int width = 1280, height = 960;
+constexpr double skyDate = 1795204800.0;
+constexpr int frameWidth = 1280, frameHeight = 960;
 constexpr double scale = 30.45;  // arcseconds a pixel
 constexpr double farthest = 8.0; // degrees of the frame's centre from the pole
 constexpr double faintestSnr = 5.0;
@@ -58,9 +58,10 @@ public:
         const double focalLength = 1.0 / std::tan(scale * astrometry::arcsecond);
         const double x = dot(sky, right) * focalLength / ahead;
         const double y = dot(sky, down) * focalLength / ahead;
-        const double corner = 0.5 * std::hypot(width, height);
+        const double corner = 0.5 * std::hypot(frameWidth, frameHeight);
         const double factor = 1.0 + drawnOut * (x * x + y * y) / (corner * corner);
-        return PixelPlace{x * factor + 0.5 * (width - 1), y * factor + 0.5 * (height - 1)};
+        return PixelPlace{x * factor + 0.5 * (frameWidth - 1),
+                          y * factor + 0.5 * (frameHeight - 1)};
     }
     PixelPlace pole() const { return placeOf({0.0, 0.0, sign}).value(); }
 
@@ -82,7 +83,7 @@ std::vector<Seen> starsIn(const Camera &camera, const std::vector<Vector3> &plac
     for (const Vector3 &place : places) {
         const double magnitude = (star++)->vMagnitude;
         const auto at = camera.placeOf(place);
-        if (at && at->x > 4.0 && at->y > 4.0 && at->x < width - 5 && at->y < height - 5)
+        if (at && at->x > 4.0 && at->y > 4.0 && at->x < frameWidth - 5 && at->y < frameHeight - 5)
             seen.push_back({magnitude, *at});
     }
     std::sort(seen.begin(), seen.end(),
@@ -115,7 +116,7 @@ std::vector<DetectedStar> measured(const std::vector<Seen> &seen, std::size_t co
 FewStarsTally tallyFewStars(const FewStarsCase &which, int frames)
 {
     const astrometry::CatalogueView catalogue = astrometry::catalogue();
-    const auto places = astrometry::apparentPlaces(catalogue.begin(), catalogue.end(), date);
+    const auto places = astrometry::apparentPlaces(catalogue.begin(), catalogue.end(), skyDate);
     std::mt19937_64 random(21);
     std::uniform_int_distribution<int> number(which.least, which.most);
     FewStarsTally tally;
@@ -127,9 +128,9 @@ FewStarsTally tallyFewStars(const FewStarsCase &which, int frames)
         if (seen.size() < count)
             continue;
         recognition::RecognitionOptions options;
-        options.utcSeconds = date;
+        options.utcSeconds = skyDate;
         const Recognition found =
-            recognition::recognise(measured(seen, count, random), width, height, options);
+            recognition::recognise(measured(seen, count, random), frameWidth, frameHeight, options);
         if (found.status != recognition::RecognitionStatus::Recognised) {
             ++tally.lost;
             continue;

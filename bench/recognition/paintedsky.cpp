@@ -11,7 +11,7 @@ namespace
 {
 using astrometry::Vector3;
 
-constexpr double sky = 20.0, noise = 3.0;
+constexpr double skyLevel = 20.0, noiseSigma = 3.0;
 
 /// The picture's axes as directions on the sky: x to the right, y down, z forward.
 struct View {
@@ -65,12 +65,12 @@ cv::Mat paintSky(const PaintedSky &picture, cv::Point2d *pole)
 {
     const View view = viewOf(picture);
     cv::Mat1f light(picture.height, picture.width);
-    cv::RNG(picture.seed).fill(light, cv::RNG::NORMAL, sky, noise);
+    cv::RNG(picture.seed).fill(light, cv::RNG::NORMAL, skyLevel, noiseSigma);
     const astrometry::CatalogueView all = astrometry::catalogue();
     const std::vector<Vector3> places =
         astrometry::apparentPlaces(all.begin(), all.end(), picture.utcSeconds);
     const double sigma = picture.fwhm / 2.3548200450309493;
-    const double limit = 5.0 * noise * 2.0 * sigma * std::sqrt(3.141592653589793);
+    const double limit = 5.0 * noiseSigma * 2.0 * sigma * std::sqrt(3.141592653589793);
     const double halfDiagonal = std::hypot(picture.width, picture.height) / 2.0 + 20.0;
     const double least = std::cos(std::atan(halfDiagonal / view.focal));
     for (std::size_t i = 0; i < places.size(); ++i) {

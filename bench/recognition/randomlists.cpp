@@ -17,10 +17,10 @@ constexpr int mostStars = 60;
 constexpr int leastStarsOfShort = 5, mostStarsOfShort = 12;
 constexpr std::uint64_t firstShort = 1000000; // list
 
-class Draw
+class ListDraw
 {
 public:
-    explicit Draw(std::mt19937_64 &engine) : random(engine) {}
+    explicit ListDraw(std::mt19937_64 &engine) : random(engine) {}
     double between(double low, double high)
     {
         return std::uniform_real_distribution<double>(low, high)(random);
@@ -38,7 +38,7 @@ struct Layout {
 };
 
 /// Short lists are the likelier ones to be mistaken for the sky: half have 8 stars or fewer.
-int starsOf(std::uint64_t number, Draw &draw)
+int starsOf(std::uint64_t number, ListDraw &draw)
 {
     const bool isShort = number >= firstShort;
     const double least = isShort ? leastStarsOfShort + 1.0 : 1.0;
@@ -46,7 +46,8 @@ int starsOf(std::uint64_t number, Draw &draw)
     return int(std::exp(draw.between(std::log(least), std::log(most)))) - 1;
 }
 
-PixelPlace placeOf(const Layout &layout, int i, const std::vector<DetectedStar> &before, Draw &draw)
+PixelPlace placeOf(const Layout &layout, int i, const std::vector<DetectedStar> &before,
+                   ListDraw &draw)
 {
     const double midX = 0.5 * layout.width, midY = 0.5 * layout.height;
     const PixelPlace even = {draw.between(0.0, layout.width), draw.between(0.0, layout.height)};
@@ -89,7 +90,7 @@ std::string nameOf(ListKind kind)
 RandomList randomList(std::uint64_t number)
 {
     std::mt19937_64 random(virtualsky::frameSeed(11, number));
-    Draw draw(random);
+    ListDraw draw(random);
     RandomList list;
     list.kind = ListKind(number % listKinds);
     list.width = draw.whole(1, 5000);
@@ -128,7 +129,7 @@ void spoil(std::vector<DetectedStar> &stars, std::mt19937_64 &random)
                                  0.0,
                                  -1.0,
                                  1e-300};
-    Draw draw(random);
+    ListDraw draw(random);
     for (DetectedStar &star : stars) {
         double *const members[] = {&star.x, &star.y, &star.flux, &star.snr, &star.fwhm};
         if (draw.whole(0, 1) == 0)
