@@ -40,6 +40,7 @@ class AxisTrackerTest : public QObject
 private slots:
     void manyFramesAreFewKept();
     void everySharpFrameCounts();
+    void framesThatDisagreeDoNotCount();
     void onlySharpFramesCount_data();
     void onlySharpFramesCount();
     void onlySharpFramesImproveTheAxis_data();
@@ -83,12 +84,29 @@ void AxisTrackerTest::everySharpFrameCounts()
             QCOMPARE(tracker.isNewAngle(frame), round == 0);
             QVERIFY(tracker.add(frame) == AxisTracker::Event::None);
         }
+        QCOMPARE(tracker.frames(), 9 * std::min(round + 1, AxisTracker::mostAtPlace));
         sigmas.push_back(tracker.axis().sigmaArcseconds);
     }
     const QString said = QStringLiteral("%1, %2, %3").arg(sigmas[0]).arg(sigmas[1]).arg(sigmas[3]);
     QVERIFY2(sigmas[1] < 0.95 * sigmas[0] && sigmas[3] < 0.8 * sigmas[0], qPrintable(said));
     QVERIFY2(sigmas[3] > 0.5 * sigmas[0], qPrintable(said));
     QCOMPARE(sigmas[4], sigmas[3]);
+}
+
+/// A gust of 6" during one frame is too small for a bump.
+void AxisTrackerTest::framesThatDisagreeDoNotCount()
+{
+    Eye eye(plainNight());
+    AxisTracker tracker;
+    for (int angle = 0; angle <= 14; angle += 2) {
+        tracker.add(eye.lookAt(angle));
+        if (angle == 6)
+            QVERIFY(tracker.add(eye.lookAt(angle, 0.3 + 6.0 / 3600.0)) == AxisTracker::Event::None);
+    }
+    QCOMPARE(tracker.frames(), std::size_t(9)); // the axis is not known yet
+    QVERIFY(tracker.add(eye.lookAt(16.0)) == AxisTracker::Event::None);
+    QVERIFY(tracker.axis().status == recognition::AxisStatus::Found);
+    QCOMPARE(tracker.frames(), std::size_t(9));
 }
 
 void AxisTrackerTest::onlySharpFramesCount_data()
