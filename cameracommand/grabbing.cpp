@@ -48,9 +48,12 @@ std::optional<SourceSettings> chosenSource(const CameraCommandLine &wishes)
     settings.stream = sky.stream;
     settings.soften = sky.soften;
     const char *const variable = std::getenv(virtualsky::cameraVariable);
+    const bool hasVariable = variable && *variable;
     std::optional<virtualsky::CameraAddress> address = wishes.camera;
-    if (!address && variable)
+    if (!address && hasVariable)
         address = virtualsky::parseCameraAddress(variable);
+    if (!address && hasVariable)
+        return std::nullopt; // the shipped library refuses it, as in the programs
     if (!address && makersLibraryIsThere())
         return std::nullopt;
     if (!address && sky.source == Source::Indi)

@@ -40,6 +40,8 @@ private slots:
     void recordsFrames();
     void badCommands_data();
     void badCommands();
+    void refusesABadEnvironment_data();
+    void refusesABadEnvironment();
     void listNamesWhatIsMissing();
     void listOutlivesTheMakersLibrary_data();
     void listOutlivesTheMakersLibrary();
@@ -322,6 +324,43 @@ void CameraCommandTest::badCommands()
     QCOMPARE(result.status, status);
     QCOMPARE(result.errors.isEmpty(), status == 0);
     QVERIFY(status == 0 || result.errors.contains("quorvandel-camera: "));
+}
+
+void CameraCommandTest::refusesABadEnvironment_data()
+{
+    QTest::addColumn<QString>("source");
+    QTest::addColumn<QByteArray>("address"); // in the environment
+    QTest::addColumn<bool>("refused");
+    for (const char *source : {"sky", "files", "indi"}) {
+        QTest::addRow("%s, no address", source) << QString(source) << QByteArray("webcam") << true;
+        QTest::addRow("%s, half of one", source)
+            << QString(source) << QByteArray("indi://") << true;
+    }
+    QTest::newRow("sky, empty") << QString("sky") << QByteArray("") << false;
+    QTest::newRow("files, empty") << QString("files") << QByteArray("") << false;
+}
+
+/// As the programs do, whatever the sky file names; an empty variable is none.
+void CameraCommandTest::refusesABadEnvironment()
+{
+    QFETCH(QString, source);
+    QFETCH(QByteArray, address);
+    QFETCH(bool, refused);
+    QVERIFY(cv::imwrite(path("a.png").toStdString(), photograph));
+    QTest::qWait(400); // files younger than that may still be being written
+    QVERIFY(virtualsky::writeAtomically(
+        path("sky.ini").toStdString(),
+        QString("[camera]\nsource = %1\nfiles = %2\nindi = 127.0.0.1:1/CCD\n")
+            .arg(source, path("a.png"))
+            .toStdString()));
+    qputenv("QUORVANDEL_CAMERA", address);
+    const Result grabbed = run({"grab", path("b.png")});
+    qunsetenv("QUORVANDEL_CAMERA");
+    QCOMPARE(grabbed.status, refused ? 1 : 0);
+    QCOMPARE(QFile::exists(path("b.png")), !refused);
+    QVERIFY2(grabbed.errors.contains("QUORVANDEL_CAMERA: must be ") == refused &&
+                 grabbed.errors.contains("; there is no camera\n") == refused,
+             qPrintable(grabbed.errors));
 }
 
 void CameraCommandTest::listNamesWhatIsMissing()
