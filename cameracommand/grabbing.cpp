@@ -22,10 +22,10 @@ using framesources::SourceSettings;
 using virtualsky::Source;
 
 /// Whether the loader finds a library of the maker's name, which the program prefers: also one
-/// that cannot be used.
+/// that cannot be used. One that can stays loaded, since some crash as they are unloaded.
 bool makersLibraryIsThere()
 {
-    if (!canLoadSafely(makersLibrary))
+    if (!canLoadSafely(makersLibrary) || ::dlopen(makersLibrary, RTLD_NOW | RTLD_LOCAL))
         return true;
     void *const library = ::dlopen(makersLibrary, RTLD_LAZY | RTLD_LOCAL);
     if (library)
