@@ -220,8 +220,7 @@ AxisTracker::Event AxisTracker::solve()
         }
         event = Event::Bumped;
     }
-    if (axis.status == AxisStatus::Found)
-        improve(axis);
+    counted = axis.status == AxisStatus::Found ? improve(axis) : framesKept();
     known = std::move(axis);
     early = known.status == AxisStatus::TooLittleTurn ? guess() : std::nullopt;
     if (known.status == AxisStatus::Found)
@@ -229,8 +228,17 @@ AxisTracker::Event AxisTracker::solve()
     return event;
 }
 
+std::size_t AxisTracker::framesKept() const
+{
+    const auto sum = [](std::size_t frames, const Place &one) {
+        return frames + one.frames.size();
+    };
+    return std::accumulate(kept.begin(), kept.end(), std::size_t{0}, sum);
+}
+
 /// By all frames of the places, but those that show the axis elsewhere than the first ones do.
-void AxisTracker::improve(Axis &axis) const
+/// @return how many frames the axis rests on
+std::size_t AxisTracker::improve(Axis &axis) const
 {
     std::vector<EarthView> views;
     double x = 0.0, y = 0.0;
@@ -250,7 +258,7 @@ void AxisTracker::improve(Axis &axis) const
     std::iota(all.begin(), all.end(), std::size_t{0});
     const auto point = recognition::fixedPointOf(views, all);
     if (!point)
-        return;
+        return kept.size(); // the axis stays that of the first frames
     const auto sum = [](std::size_t angles, const Place &one) { return angles + one.angles; };
     const double angles = double(std::accumulate(kept.begin(), kept.end(), std::size_t{0}, sum));
     const double atPlace = std::max(double(views.size()) / angles, 1.0);
@@ -262,6 +270,7 @@ void AxisTracker::improve(Axis &axis) const
     axis.rms = arcseconds(point->rms);
     axis.sigmaArcseconds = kept.front().frames.front().mapping.scaleAt(axis.place) *
                            std::sqrt(0.5 * (axis.covariance.xx + axis.covariance.yy));
+    return views.size();
 }
 
 std::optional<Axis> AxisTracker::guess() const
@@ -299,7 +308,6 @@ AxisTracker::Event AxisTracker::add(const Recognition &frame)
         return startFrom(frame, Event::Bumped);
     if (departures > 0)
         return Event::None;
-    ++counted;
     if (const auto place = placeOf(turn)) {
         if (kept[*place].frames.size() >= mostAtPlace)
             return Event::None;

@@ -56,6 +56,7 @@ public:
     /// tripod that yields looks like another axis over a short turn.
     const std::optional<recognition::Axis> &earlyAxis() const { return early; }
     double turnedDegrees() const;
+    /// That the axis rests on, or, before it is known, that are kept for it.
     std::size_t frames() const { return counted; }
     bool isEnough() const;
     /// Arcseconds between the direction that the axis' pixel shows in this frame and the one that
@@ -78,7 +79,8 @@ private:
     void keep(const recognition::Recognition &frame, double turn);
     void thin();
     Event solve();
-    void improve(recognition::Axis &axis) const;
+    std::size_t framesKept() const;
+    std::size_t improve(recognition::Axis &axis) const;
     std::optional<recognition::Axis> guess() const;
     Event startFrom(const recognition::Recognition &frame, Event event);
     void updateDirection();

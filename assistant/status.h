@@ -79,7 +79,7 @@ struct AxisProgress {
     recognition::Covariance covariance; ///< pixels squared
     double sigmaArcseconds = 0.0;
     double turnedDegrees = 0.0; ///< greatest minus least angle of all sharp frames
-    std::size_t frames = 0;     ///< sharp frames that count
+    std::size_t frames = 0;     ///< that count: sharp, and not more of one place than needed
     bool enough = false;
 };
 

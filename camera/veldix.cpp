@@ -73,6 +73,34 @@ bool resolveAll(void *library, const QString &libraryName)
     return complete;
 }
 
+template <auto *operation> const char *nameOf()
+{
+    return std::find_if(symbols.begin(), symbols.end(),
+                        [](const Symbol &s) { return s.set == set<operation>; })
+        ->name;
+}
+
+/// Null until somebody observes the calls. Written before any thread starts; then only read.
+void (*callObserver)(const char *operation) = nullptr;
+
+/// One call into the library.
+template <auto *operation> class Observed
+{
+public:
+    Observed()
+    {
+        if (callObserver)
+            callObserver(nameOf<operation>());
+    }
+    ~Observed()
+    {
+        if (callObserver)
+            callObserver(nullptr);
+    }
+    Observed(const Observed &) = delete;
+    Observed &operator=(const Observed &) = delete;
+};
+
 /// Whether the operation's latest call threw: a camera that throws for every frame fills no log.
 template <auto *operation> Relaxed<bool> threw;
 
@@ -81,9 +109,7 @@ template <auto *operation> void logThrown(const char *what)
     if (threw<operation>)
         return;
     threw<operation> = true;
-    const auto symbol = std::find_if(symbols.begin(), symbols.end(),
-                                     [](const Symbol &s) { return s.set == set<operation>; });
-    qCritical("%s threw an exception: %s", symbol->name, what ? what : "");
+    qCritical("%s threw an exception: %s", nameOf<operation>(), what ? what : "");
 }
 
 /// The result of the library's function; `failed` if no library is loaded or the function throws.
@@ -93,6 +119,7 @@ Result call(Result failed, Arguments... arguments)
     if (!function<operation>)
         return failed;
     try {
+        const Observed<operation> observed;
         const Result result = function<operation>(arguments...);
         threw<operation> = false;
         return result;
@@ -218,6 +245,11 @@ std::uint32_t InitVELDIXResource()
         loaded = outcome == Outcome::Loaded;
     }
     return call<InitVELDIXResource>(veldixError);
+}
+
+void observeCalls(void (*observer)(const char *operation))
+{
+    callObserver = observer;
 }
 
 QString libraryFault()

@@ -34,6 +34,9 @@ constexpr int maxIdSize = 256;
 /// lacks a function or cannot be loaded is reported in a critical log line. One that exists but
 /// cannot be loaded counts as a library without cameras: the result is 0.
 std::uint32_t InitVELDIXResource();
+/// Calls `observer` on the thread of each later operation: before the call into the library with
+/// the operation's name, after it with null. Call it before any thread starts.
+void observeCalls(void (*observer)(const char *operation));
 /// Why the library cannot be used, for a person; empty if it can. For the thread that called
 /// InitVELDIXResource.
 QString libraryFault();

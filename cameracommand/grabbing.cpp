@@ -22,10 +22,10 @@ using framesources::SourceSettings;
 using virtualsky::Source;
 
 /// Whether the loader finds a library of the maker's name, which the program prefers: also one
-/// that cannot be used.
+/// that cannot be used. One that can stays loaded, since some crash as they are unloaded.
 bool makersLibraryIsThere()
 {
-    if (!canLoadSafely(makersLibrary))
+    if (!canLoadSafely(makersLibrary) || ::dlopen(makersLibrary, RTLD_NOW | RTLD_LOCAL))
         return true;
     void *const library = ::dlopen(makersLibrary, RTLD_LAZY | RTLD_LOCAL);
     if (library)
@@ -48,9 +48,12 @@ std::optional<SourceSettings> chosenSource(const CameraCommandLine &wishes)
     settings.stream = sky.stream;
     settings.soften = sky.soften;
     const char *const variable = std::getenv(virtualsky::cameraVariable);
+    const bool hasVariable = variable && *variable;
     std::optional<virtualsky::CameraAddress> address = wishes.camera;
-    if (!address && variable)
+    if (!address && hasVariable)
         address = virtualsky::parseCameraAddress(variable);
+    if (!address && hasVariable)
+        return std::nullopt; // the shipped library refuses it, as in the programs
     if (!address && makersLibraryIsThere())
         return std::nullopt;
     if (!address && sky.source == Source::Indi)

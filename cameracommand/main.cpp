@@ -5,6 +5,7 @@
 #include <opencv2/core/utils/logger.hpp>
 
 #include "cameracommand/actions.h"
+#include "cameracommand/libraryguard.h"
 
 int main(int argc, char *argv[])
 {
@@ -16,11 +17,11 @@ int main(int argc, char *argv[])
     case Wish::List:
         return listCameras(wishes);
     case Wish::Grab:
-        return grabFrame(wishes);
+        return runGuarded(grabFrame, wishes);
     case Wish::Record:
-        return recordFrames(wishes);
+        return runGuarded(recordFrames, wishes);
     case Wish::Check:
-        return checkLens(wishes);
+        return runGuarded(checkLens, wishes);
     case Wish::Help:
         return std::fputs(cameraCommandHelp, stdout) < 0 ? failed : succeeded;
     case Wish::Version:

@@ -3,6 +3,7 @@
 #include "bench/assistant/mountonsky.h"
 
 #include <ctime>
+#include <opencv2/imgproc.hpp>
 
 namespace
 {
@@ -14,6 +15,14 @@ double cpuSeconds()
     timespec now = {};
     clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
     return double(now.tv_sec) + 1e-9 * double(now.tv_nsec);
+}
+
+/// Along x alone.
+void drawOut(cv::Mat &frame, double sigma)
+{
+    const cv::Mat along = cv::getGaussianKernel(31, sigma).t();
+    const cv::Mat across = cv::Mat::ones(1, 1, CV_64F);
+    cv::sepFilter2D(frame, frame, -1, along, across);
 }
 } // namespace
 
@@ -43,6 +52,8 @@ assistant::Status PaintedMount::next()
     frame.create(virtualsky::sensorHeight, virtualsky::sensorWidth, type);
     sensor.render(state, scene.starsAt(state, utc()), {}, {exposure * 1e-6, gain, ++number},
                   frame.data);
+    if (trail > 0.0)
+        drawOut(frame, trail);
     if (state.picture == virtualsky::Picture::Black)
         frame.setTo(cv::Scalar::all(0));
     if (state.picture == virtualsky::Picture::Saturated)

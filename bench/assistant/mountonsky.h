@@ -49,6 +49,8 @@ public:
     /// Whether the guide is told that the computer's clock is synchronised.
     void setClockSynchronised(bool on) { clockSynchronised = on; }
     void setExposure(double microseconds) { exposure = microseconds; }
+    /// The stars are drawn out along x by a Gaussian of so many pixels (one sigma); 0: not at all.
+    void setTrail(double pixels) { trail = pixels; }
     /// Processor time of the last frame's way to its status, seconds.
     double lastLatency() const { return latency; }
     /// The next observation without a frame.
@@ -68,6 +70,7 @@ private:
     bool clockBehind = false;
     bool clockSynchronised = true;
     double exposure = 200000.0; // microseconds
+    double trail = 0.0;         // pixels
     double latency = 0.0;
     std::uint64_t number = 0;
 };

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-// Does the tracker keep a bounded choice of frames, and find bumps and slips?
+// Does the tracker keep a bounded choice of frames, all of them sharp, and find bumps and slips?
 #include "assistant/axistracker.h"
 #include "assistant/slipwatch.h"
 #include "tests/assistant/guidetest.h"
 
+#include "recognition/extraction.h"
 #include "recognition/recognise.h"
 
 using namespace assistant;
@@ -39,6 +40,11 @@ class AxisTrackerTest : public QObject
 private slots:
     void manyFramesAreFewKept();
     void everySharpFrameCounts();
+    void framesThatDisagreeDoNotCount();
+    void onlySharpFramesCount_data();
+    void onlySharpFramesCount();
+    void onlySharpFramesImproveTheAxis_data();
+    void onlySharpFramesImproveTheAxis();
     void sigmaShrinksWithTurn();
     void axisShowsEarly_data();
     void axisShowsEarly();
@@ -78,12 +84,96 @@ void AxisTrackerTest::everySharpFrameCounts()
             QCOMPARE(tracker.isNewAngle(frame), round == 0);
             QVERIFY(tracker.add(frame) == AxisTracker::Event::None);
         }
+        QCOMPARE(tracker.frames(), 9 * std::min(round + 1, AxisTracker::mostAtPlace));
         sigmas.push_back(tracker.axis().sigmaArcseconds);
     }
     const QString said = QStringLiteral("%1, %2, %3").arg(sigmas[0]).arg(sigmas[1]).arg(sigmas[3]);
     QVERIFY2(sigmas[1] < 0.95 * sigmas[0] && sigmas[3] < 0.8 * sigmas[0], qPrintable(said));
     QVERIFY2(sigmas[3] > 0.5 * sigmas[0], qPrintable(said));
     QCOMPARE(sigmas[4], sigmas[3]);
+}
+
+/// A gust of 6" during one frame is too small for a bump.
+void AxisTrackerTest::framesThatDisagreeDoNotCount()
+{
+    Eye eye(plainNight());
+    AxisTracker tracker;
+    for (int angle = 0; angle <= 14; angle += 2) {
+        tracker.add(eye.lookAt(angle));
+        if (angle == 6)
+            QVERIFY(tracker.add(eye.lookAt(angle, 0.3 + 6.0 / 3600.0)) == AxisTracker::Event::None);
+    }
+    QCOMPARE(tracker.frames(), std::size_t(9)); // the axis is not known yet
+    QVERIFY(tracker.add(eye.lookAt(16.0)) == AxisTracker::Event::None);
+    QVERIFY(tracker.axis().status == recognition::AxisStatus::Found);
+    QCOMPARE(tracker.frames(), std::size_t(9));
+}
+
+void AxisTrackerTest::onlySharpFramesCount_data()
+{
+    QTest::addColumn<double>("trail");      // pixels
+    QTest::addColumn<double>("elongation"); // that it makes
+    QTest::addColumn<double>("turn");       // degrees, before the frame
+    QTest::addColumn<bool>("counts");
+    for (const double turn : {0.2, 6.0}) {
+        const char *const how = turn > 1.0 ? "searched" : "followed";
+        QTest::addRow("round, %s", how) << 0.0 << 1.09 << turn << true;
+        QTest::addRow("just sharp, %s", how) << 1.19 << 1.48 << turn << true;
+        QTest::addRow("just trailed, %s", how) << 1.25 << 1.52 << turn << false;
+        QTest::addRow("trailed, %s", how) << 1.55 << 1.74 << turn << false;
+    }
+}
+
+/// While the axis is measured: a frame that the turning draws out is recognised and left out, and a
+/// sharp one at the same angle counts.
+void AxisTrackerTest::onlySharpFramesCount()
+{
+    QFETCH(double, trail);
+    QFETCH(double, elongation);
+    QFETCH(double, turn);
+    QFETCH(bool, counts);
+    PaintedMount mount(plainNight(), settingsFor(plainNight()));
+    const Status before = nextThatSays(mount, AdviceCode::TurnAxis);
+    QCOMPARE(before.axis.frames, std::size_t(1));
+    mount.setTrail(trail);
+    virtualsky::SkyState sky = mount.sky();
+    sky.raAngle += turn;
+    mount.setSky(sky);
+    Status after = mount.next();
+    QVERIFY(after.sky->status == recognition::RecognitionStatus::Recognised);
+    const double seen = recognition::extractStars(mount.lastFrame()).elongation;
+    QVERIFY2(std::abs(seen - elongation) < 0.01, qPrintable(QString::number(seen)));
+    QCOMPARE(after.axis.frames, std::size_t(counts ? 2 : 1));
+    QCOMPARE(after.axis.turnedDegrees > 5.0, counts && turn > 5.0);
+    mount.setTrail(0.0);
+    after = mount.next();
+    QCOMPARE(after.axis.frames, std::size_t(counts ? 3 : 2));
+    QCOMPARE(after.axis.turnedDegrees > 5.0, turn > 5.0);
+}
+
+void AxisTrackerTest::onlySharpFramesImproveTheAxis_data()
+{
+    QTest::addColumn<double>("trail"); // pixels
+    QTest::addColumn<bool>("counts");
+    QTest::newRow("sharp") << 1.1 << true;
+    QTest::newRow("trailed") << 1.4 << false;
+}
+
+/// While the bolts are turned.
+void AxisTrackerTest::onlySharpFramesImproveTheAxis()
+{
+    QFETCH(double, trail);
+    QFETCH(bool, counts);
+    PaintedMount mount(plainNight(), settingsFor(plainNight()));
+    QVERIFY(turnAxisAsTold(mount));
+    const std::size_t before = mount.next().axis.frames;
+    mount.setTrail(trail);
+    virtualsky::SkyState sky = mount.sky();
+    sky.raAngle += 6.0;
+    mount.setSky(sky);
+    const Status after = mount.next();
+    QVERIFY(after.stage == Stage::Bolts);
+    QCOMPARE(after.axis.frames, before + (counts ? 1 : 0));
 }
 
 void AxisTrackerTest::sigmaShrinksWithTurn()

@@ -1,172 +1,17 @@
 // SPDX-License-Identifier: MIT
 // Is each mark over the picture where the sky has it, in every enlargement and in a mirrored
 // picture?
-//
-// The picture is black and one mark white, so that each lit pixel is that mark's. Where a mark must
-// be comes from the virtual camera's own optics and from the widget's size, not from the window.
-#include "assistantwindow/overview.h"
-#include "assistantwindow/skypicture.h"
 #include "assistantwindow/starlabel.h"
-#include "tests/assistantwindow/drawing.h"
-#include "tests/assistantwindow/madestatus.h"
-#include "tests/support/paintedtexts.h"
-
-#include <QtTest>
-#include <map>
+#include "tests/assistantwindow/markedpicture.h"
 
 using namespace assistantwindow;
+using namespace markedpicture;
 using drawing::Expected;
-using drawing::light;
 using drawing::Points;
 using recognition::Covariance;
 
 namespace
 {
-constexpr QSize widgetSize(640, 480);
-constexpr double degree = drawing::pi / 180.0;
-
-/// An enlargement: the error that leads to it, and the arcseconds from the pole to the nearer
-/// border; 0: the whole frame.
-struct Enlargement {
-    const char *name;
-    double error, radius;
-    double gridStep; ///< degrees; 0: no grid
-};
-constexpr Enlargement enlargements[] = {
-    {"whole", 5000.0, 0.0, 2.0}, {"30'", 1500.0, 3000.0, 0.5}, {"10'", 500.0, 1000.0, 0.25},
-    {"3'", 150.0, 300.0, 0.0},   {"1'", 50.0, 100.0, 0.0},     {"15\"", 12.0, 35.0, 0.0},
-};
-
-struct Sky {
-    bool south, mirrored;
-    assistant::Status status;
-    virtualsky::Point pole; ///< the camera's own truth, frame pixels, before mirroring
-};
-
-Sky makeSky(bool south, bool mirrored)
-{
-    Sky sky{south, mirrored, {}, {}};
-    virtualsky::SkyState state = skyframes::skyOf(south, skyframes::november2026);
-    state.roll = 35.0;
-    cv::Mat frame = skyframes::frameOf(state, skyframes::november2026, 1);
-    sky.pole = *virtualsky::truth(state, skyframes::november2026).pole;
-    if (mirrored)
-        cv::flip(frame, frame, 1);
-    sky.status.stars = recognition::extractStars(frame).stars;
-    sky.status.sky = std::make_shared<recognition::Recognition>(
-        skyframes::recognised(frame, skyframes::november2026));
-    sky.status.pole = sky.status.sky->pole;
-    sky.status.poleCovariance = sky.status.sky->poleCovariance;
-    sky.status.stage = assistant::Stage::Bolts;
-    return sky;
-}
-
-const Sky &skyOf(bool south, bool mirrored)
-{
-    static std::map<std::pair<bool, bool>, Sky> made;
-    auto found = made.find({south, mirrored});
-    if (found == made.end())
-        found = made.emplace(std::make_pair(south, mirrored), makeSky(south, mirrored)).first;
-    return found->second;
-}
-
-/// The window's widget with a black picture and one white mark.
-class Picture
-{
-public:
-    Picture(const Sky &theSky, const Enlargement &enlargement) : sky(theSky), status(theSky.status)
-    {
-        const double half = widgetSize.height() / 2.0;
-        const bool isWhole = enlargement.radius <= 0.0;
-        scale = isWhole ? double(widgetSize.width()) / virtualsky::sensorWidth
-                        : half / enlargement.radius * arcsecondsPerPixel();
-        const QPointF pole(status.pole->x, status.pole->y);
-        origin = isWhole
-                     ? QPointF(0.5, 0.5) * scale
-                     : QPointF(widgetSize.width() / 2.0, widgetSize.height() / 2.0) - pole * scale;
-        isEnlarged = !isWhole;
-        setError(enlargement.error, 0.6);
-    }
-
-    /// Frame to widget pixels.
-    QPointF place(double x, double y) const { return origin + QPointF(x, y) * scale; }
-    /// Of the truth, which knows no mirror.
-    QPointF placeOf(const virtualsky::Point &truth) const
-    {
-        return place(sky.mirrored ? virtualsky::sensorWidth - 1.0 - truth.x : truth.x, truth.y);
-    }
-    QPointF pole() const { return place(status.pole->x, status.pole->y); }
-    /// Widget pixels an arcsecond, at the pole.
-    double pixelsPerArcsecond() const { return scale / arcsecondsPerPixel(); }
-
-    /// The axis `arcseconds` from the pole, in a direction of the picture.
-    void setError(double arcseconds, double angle)
-    {
-        status.error = madestatus::figuresOf({arcseconds, 0.0}, false);
-        const double away = arcseconds / arcsecondsPerPixel();
-        status.axis.place = recognition::PixelPlace{status.pole->x + away * std::cos(angle),
-                                                    status.pole->y + away * std::sin(angle)};
-    }
-
-    void setEarlyAxis(double arcseconds, double angle)
-    {
-        setError(arcseconds, angle);
-        status.error.reset();
-        status.axis.isEarly = true;
-    }
-
-    QImage with(QColor Theme::*mark)
-    {
-        const Theme colours = drawing::only(mark);
-        Snapshot snapshot;
-        snapshot.status = status;
-        snapshot.picture =
-            QImage(virtualsky::sensorWidth, virtualsky::sensorHeight, QImage::Format_Grayscale8);
-        snapshot.picture.fill(0);
-        SkyPicture widget;
-        widget.resize(widgetSize);
-        widget.setTheme(colours);
-        widget.show(snapshot);
-        texts = paintedTexts(widget);
-        return widget.grab().toImage();
-    }
-    /// The whole frame in a corner, and the scale bar: not under test here.
-    void hideContext(Expected &expected) const
-    {
-        if (!isEnlarged)
-            return;
-        const QPointF axis = place(status.axis.place->x, status.axis.place->y);
-        const QRectF bounds(0.0, 0.0, widgetSize.width(), widgetSize.height());
-        expected.hide(overviewBox({virtualsky::sensorWidth, virtualsky::sensorHeight}, bounds, axis)
-                          .adjusted(-1, -1, 1, 1));
-        expected.hide(QRectF(0, widgetSize.height() - 45, widgetSize.width() * 0.35, 45));
-    }
-    void allowTexts(Expected &expected) const
-    {
-        for (const PaintedText &text : texts)
-            expected.allow(text.box);
-    }
-
-    const Sky &sky;
-    assistant::Status status;
-    std::vector<PaintedText> texts; ///< of the last picture
-    double scale = 1.0;             ///< widget pixels a frame pixel
-
-private:
-    /// Of the camera, at the pole: the gnomonic projection stretches with the distance from its
-    /// centre.
-    double arcsecondsPerPixel() const
-    {
-        const double off =
-            std::hypot(sky.pole.x - virtualsky::centreX, sky.pole.y - virtualsky::centreY) *
-            virtualsky::pixelScale / 3600.0 * degree;
-        return virtualsky::pixelScale * std::pow(std::cos(std::atan(off)), 1.5);
-    }
-
-    QPointF origin;
-    bool isEnlarged;
-};
-
 /// What the virtual camera's lens makes of a circle about the pole.
 Points declinationCircle(const Picture &picture, double degrees)
 {
@@ -205,14 +50,6 @@ private slots:
     void rings();
     void ellipses_data();
     void ellipses();
-    void arrowFromPoleToAxis_data() { everyPicture(); }
-    void arrowFromPoleToAxis();
-    void earlyAxisHasNoArrow();
-    void arrowToThePoleOutside_data();
-    void arrowToThePoleOutside();
-
-private:
-    static void everyPicture();
 };
 
 void AssistantMarksTest::initTestCase()
@@ -226,19 +63,6 @@ void AssistantMarksTest::initTestCase()
                 mirrored ? virtualsky::sensorWidth - 1.0 - sky.pole.x : sky.pole.x, sky.pole.y};
             QVERIFY(skyframes::error(*sky.status.pole, truth) < 5.0);
         }
-}
-
-void AssistantMarksTest::everyPicture()
-{
-    QTest::addColumn<bool>("south");
-    QTest::addColumn<bool>("mirrored");
-    QTest::addColumn<int>("enlargement");
-    for (const bool south : {false, true})
-        for (const bool mirrored : {false, true})
-            for (int i = 0; i < int(std::size(enlargements)); ++i)
-                QTest::addRow("%s, %s%s", enlargements[i].name, south ? "south" : "north",
-                              mirrored ? ", mirrored" : "")
-                    << south << mirrored << i;
 }
 
 void AssistantMarksTest::grid()
@@ -428,84 +252,6 @@ void AssistantMarksTest::ellipses()
                          crossing(2.0 * longer - 8.0, 0.0) > 20,
                      "it is filled, and its middle seen through");
     }
-}
-
-void AssistantMarksTest::earlyAxisHasNoArrow()
-{
-    Picture picture(skyOf(false, false), enlargements[0]);
-    picture.setEarlyAxis(enlargements[0].error, 0.6);
-    const QImage image = picture.with(&Theme::axis);
-    Expected expected(image);
-    const QPointF unit(std::cos(0.6), std::sin(0.6));
-    const QPointF axis =
-        picture.pole() + unit * enlargements[0].error * picture.pixelsPerArcsecond();
-    QVERIFY(light(image, axis) > 30);
-    expected.allow({axis - QPointF(7, 7), QSizeF(14, 14)});
-    QCOMPARE(expected.strays(), 0);
-}
-
-void AssistantMarksTest::arrowFromPoleToAxis()
-{
-    QFETCH(bool, south);
-    QFETCH(bool, mirrored);
-    QFETCH(int, enlargement);
-    for (const double angle : {0.6, 2.3, -2.9}) {
-        Picture picture(skyOf(south, mirrored), enlargements[enlargement]);
-        picture.setError(enlargements[enlargement].error, angle);
-        const QImage image = picture.with(&Theme::axis);
-        Expected expected(image);
-        const QPointF pole = picture.pole();
-        const QPointF unit(std::cos(angle), std::sin(angle)), across(-unit.y(), unit.x());
-        const double length = enlargements[enlargement].error * picture.pixelsPerArcsecond();
-        QVERIFY(length > 40.0);
-        const QPointF axis = pole + unit * length;
-        QVERIFY(expected.curve(drawing::segment(pole + unit * 7.0, axis - unit * 8.0), 7.0) > 0.99);
-        // The head is at the axis, the tail at the pole.
-        QVERIFY(light(image, axis - unit * 12.0 + across * 4.0) > 90);
-        QVERIFY(light(image, axis - unit * 12.0 - across * 4.0) > 90);
-        QVERIFY(light(image, pole + unit * 12.0 + across * 4.0) < 40);
-        expected.allow({axis - QPointF(7, 7), QSizeF(14, 14)});
-        QCOMPARE(expected.strays(), 0);
-    }
-}
-
-void AssistantMarksTest::arrowToThePoleOutside_data()
-{
-    QTest::addColumn<bool>("recognised");
-    QTest::addColumn<double>("degrees"); // 0 up, positive clockwise
-    QTest::newRow("pole in the stars, to the right") << true << 90.0;
-    QTest::newRow("pole in the stars, down") << true << 180.0;
-    QTest::newRow("advice, up") << false << 0.0;
-    QTest::newRow("advice, left") << false << -90.0;
-}
-
-/// At the border that the pole is beyond, and nothing else in its colour.
-void AssistantMarksTest::arrowToThePoleOutside()
-{
-    QFETCH(bool, recognised);
-    QFETCH(double, degrees);
-    Picture picture(skyOf(false, false), enlargements[0]);
-    const QPointF unit(std::sin(degrees * degree), -std::cos(degrees * degree));
-    picture.status.error.reset();
-    picture.status.axis = {};
-    picture.status.pole.reset();
-    if (recognised) {
-        picture.status.pole = recognition::PixelPlace{virtualsky::centreX + 2000.0 * unit.x(),
-                                                      virtualsky::centreY + 2000.0 * unit.y()};
-    } else {
-        picture.status.sky = std::make_shared<recognition::Recognition>();
-        picture.status.advice = {{assistant::AdviceCode::PoleThatWay, 6.2, degrees, {}}};
-    }
-    const QImage image = picture.with(&Theme::pole);
-    Expected expected(image);
-    const QPointF centre(widgetSize.width() / 2.0, widgetSize.height() / 2.0);
-    const double half = std::abs(unit.x()) > 0.5 ? centre.x() : centre.y();
-    const QPointF tip = centre + unit * (half - 14.0);
-    QVERIFY(expected.curve(drawing::segment(tip - unit * 2.0, tip - unit * 54.0), 25.0) > 0.99);
-    const QPointF across(-unit.y(), unit.x());
-    QVERIFY(light(image, tip - unit * 24.0 + across * 18.0) > 90); // the head is outwards
-    QVERIFY(light(image, tip - unit * 48.0 + across * 18.0) < 40);
-    QCOMPARE(expected.strays(), 0);
 }
 
 QTEST_MAIN(AssistantMarksTest)

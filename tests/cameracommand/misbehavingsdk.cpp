@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A camera library whose list of cameras goes wrong, in the way that the environment names.
+// A camera library that goes wrong in the way that the environment names; otherwise its frames are
+// grey.
 #include <csignal>
 #include <cstdint>
 #include <cstdlib>
@@ -70,4 +71,83 @@ EXPORTED std::uint32_t GetVELDIXId(std::int32_t, char *id)
         throw std::runtime_error("no answer");
     std::strcpy(id, is("long ID") ? std::string(5000, 'x').c_str() : "QUORVANDEL-0815");
     return is("no ID") ? 1 : 0;
+}
+
+EXPORTED void *OpenVELDIX(const char *)
+{
+    misbehaveIn("OpenVELDIX");
+    static int camera;
+    return &camera;
+}
+
+EXPORTED std::uint32_t SetVELDIXReadMode(void *, std::uint32_t)
+{
+    return 0;
+}
+
+EXPORTED std::uint32_t SetVELDIXStreamMode(void *, std::uint8_t)
+{
+    return 0;
+}
+
+EXPORTED std::uint32_t InitVELDIX(void *)
+{
+    misbehaveIn("InitVELDIX");
+    return 0;
+}
+
+EXPORTED std::uint32_t SetVELDIXBitsMode(void *, std::uint32_t)
+{
+    return 0;
+}
+
+EXPORTED std::uint32_t SetVELDIXBinMode(void *, std::uint32_t, std::uint32_t)
+{
+    return 0;
+}
+
+EXPORTED std::uint32_t SetVELDIXResolution(void *, std::uint32_t, std::uint32_t, std::uint32_t,
+                                           std::uint32_t)
+{
+    return 0;
+}
+
+EXPORTED double GetVELDIXParam(void *, std::int32_t)
+{
+    return 0.0;
+}
+
+EXPORTED std::uint32_t SetVELDIXParam(void *, std::int32_t, double)
+{
+    return 0;
+}
+
+EXPORTED std::uint32_t BeginVELDIXLive(void *)
+{
+    misbehaveIn("BeginVELDIXLive");
+    return 0;
+}
+
+EXPORTED std::uint32_t GetVELDIXLiveFrame(void *, std::uint32_t *width, std::uint32_t *height,
+                                          std::uint32_t *bits, std::uint32_t *channels,
+                                          std::uint8_t *frame)
+{
+    misbehaveIn("GetVELDIXLiveFrame");
+    *width = 1280;
+    *height = 960;
+    *bits = 8;
+    *channels = 1;
+    std::memset(frame, 40, std::size_t(*width) * *height);
+    return 0;
+}
+
+EXPORTED std::uint32_t StopVELDIXLive(void *)
+{
+    return 0;
+}
+
+EXPORTED std::uint32_t CloseVELDIX(void *)
+{
+    misbehaveIn("CloseVELDIX");
+    return 0;
 }

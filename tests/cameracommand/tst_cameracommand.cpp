@@ -1,23 +1,16 @@
 // SPDX-License-Identifier: MIT
 // Does the finished command grab, record and check, from the virtual sky and from files, with the
 // exit statuses that its man page gives?
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
+#include <memory>
 #include <opencv2/imgcodecs.hpp>
 #include <opencv2/imgproc.hpp>
 
 #include "pictures/fitsfile.h"
 #include "pictures/picturefile.h"
+#include "tests/cameracommand/commandrun.h"
 #include "virtualcamera/skyfile.h"
-
-namespace
-{
-struct Result {
-    int status = -1;
-    QString output, errors;
-};
-} // namespace
 
 class CameraCommandTest : public QObject
 {
@@ -40,20 +33,11 @@ private slots:
     void recordsFrames();
     void badCommands_data();
     void badCommands();
+    void refusesABadEnvironment_data();
+    void refusesABadEnvironment();
     void listNamesWhatIsMissing();
-    void listOutlivesTheMakersLibrary_data();
-    void listOutlivesTheMakersLibrary();
 
 private:
-    Result run(const QStringList &arguments, const char *program = CAMERA_PROGRAM)
-    {
-        QProcess process;
-        process.start(program, arguments);
-        process.waitForFinished(120000);
-        return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
-                QString::fromLocal8Bit(process.readAllStandardOutput()),
-                QString::fromLocal8Bit(process.readAllStandardError())};
-    }
     QString path(const QString &name) const { return folder->filePath(name); }
 
     void takePhotograph();
@@ -324,56 +308,46 @@ void CameraCommandTest::badCommands()
     QVERIFY(status == 0 || result.errors.contains("quorvandel-camera: "));
 }
 
+void CameraCommandTest::refusesABadEnvironment_data()
+{
+    QTest::addColumn<QString>("source");
+    QTest::addColumn<QByteArray>("address"); // in the environment
+    QTest::addColumn<bool>("refused");
+    for (const char *source : {"sky", "files", "indi"})
+        QTest::addRow("%s, no address", source) << QString(source) << QByteArray("webcam") << true;
+    QTest::newRow("files, half of one") << QString("files") << QByteArray("indi://") << true;
+    QTest::newRow("files, empty") << QString("files") << QByteArray("") << false;
+}
+
+/// As the programs do, whatever the sky file names; an empty variable is none.
+void CameraCommandTest::refusesABadEnvironment()
+{
+    QFETCH(QString, source);
+    QFETCH(QByteArray, address);
+    QFETCH(bool, refused);
+    QVERIFY(cv::imwrite(path("a.png").toStdString(), photograph));
+    QTest::qWait(400); // files younger than that may still be being written
+    QVERIFY(virtualsky::writeAtomically(
+        path("sky.ini").toStdString(),
+        QString("[camera]\nsource = %1\nfiles = %2\nindi = 127.0.0.1:1/CCD\n")
+            .arg(source, path("a.png"))
+            .toStdString()));
+    qputenv("QUORVANDEL_CAMERA", address);
+    const Result grabbed = run({"grab", path("b.png")});
+    qunsetenv("QUORVANDEL_CAMERA");
+    QCOMPARE(grabbed.status, refused ? 1 : 0);
+    QCOMPARE(QFile::exists(path("b.png")), !refused);
+    QVERIFY2(grabbed.errors.contains("QUORVANDEL_CAMERA: must be ") == refused &&
+                 grabbed.errors.contains("; there is no camera\n") == refused,
+             qPrintable(grabbed.errors));
+}
+
 void CameraCommandTest::listNamesWhatIsMissing()
 {
     const Result listed = run({"list", "127.0.0.1:1"});
     QCOMPARE(listed.status, 1);
     QVERIFY2(listed.output.contains("maker's library: "), qPrintable(listed.output));
     QVERIFY2(listed.output.contains("INDI on 127.0.0.1:1: "), qPrintable(listed.output));
-}
-
-void CameraCommandTest::listOutlivesTheMakersLibrary_data()
-{
-    QTest::addColumn<QString>("way");
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<int>("status");
-    const auto row = [](const char *way, const QString &line, int status = 1) {
-        QTest::newRow(way) << QString(way) << line << status;
-    };
-    row("well", "QUORVANDEL-0815", 0);
-    const QString unusable = "it is there and cannot be used: ";
-    row("abort", unusable + "it crashes as it is loaded: Aborted");
-    row("crashes in InitVELDIXResource",
-        unusable + "it crashes in InitVELDIXResource: Segmentation fault");
-    row("crashes in ScanVELDIX", unusable + "it crashes in ScanVELDIX: Segmentation fault");
-    row("aborts in ScanVELDIX", unusable + "it crashes in ScanVELDIX: Aborted");
-    row("crashes in GetVELDIXId", unusable + "it crashes in GetVELDIXId: Segmentation fault");
-    row("ends in ScanVELDIX", unusable + "it ends its process in ScanVELDIX, with status 3");
-    row("does not start", "it is there and cannot be used: it does not start");
-    row("throws at the start", "it is there and cannot be used: it threw an exception: no bus");
-    row("throws a number",
-        "it is there and cannot be used: it threw an exception: no std::exception");
-    row("throws for an ID", "it is there and cannot be used: it threw an exception: no answer");
-    row("no ID", "a camera without an ID");
-    row("long ID", "a camera that cannot be used: its ID of 5000 characters is too long");
-    row("too many", "QUORVANDEL-0815", 0);
-}
-
-void CameraCommandTest::listOutlivesTheMakersLibrary()
-{
-    QFETCH(QString, way);
-    QFETCH(QString, line);
-    QFETCH(int, status);
-    qputenv("LD_LIBRARY_PATH", MISBEHAVING_FOLDER);
-    qputenv("MISBEHAVING_SDK", way.toUtf8());
-    const Result listed = run({"list", "127.0.0.1:1"});
-    const Result grabbed = run({"grab", path("a.png")});
-    qunsetenv("MISBEHAVING_SDK");
-    qunsetenv("LD_LIBRARY_PATH");
-    QVERIFY2(listed.output.startsWith("maker's library: " + line + '\n'),
-             qPrintable(listed.output));
-    QCOMPARE(listed.status, status);
-    QCOMPARE(grabbed.status, 1); // it ends in order: that library has no frames
 }
 
 QTEST_GUILESS_MAIN(CameraCommandTest)

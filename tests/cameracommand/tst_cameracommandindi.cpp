@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Does the finished command list, grab, record and check on a living INDI server with Debian's
 // drivers?
-#include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -12,16 +11,12 @@
 #include "pictures/picturefile.h"
 #include "recognition/extraction.h"
 #include "recognition/recognise.h"
+#include "tests/cameracommand/commandrun.h"
 #include "tests/indi/indiserver.h"
 #include "virtualcamera/skyfile.h"
 
 namespace
 {
-struct Result {
-    int status = -1;
-    QString output, errors;
-};
-
 constexpr char mine[] = "# mine\n[camera]\nstream = false # stars of one pixel\nsoften = true\n";
 
 /// The scale of a grabbed frame; 0 = its stars are not recognised.
@@ -54,15 +49,6 @@ private slots:
     void listWithoutAServer();
 
 private:
-    Result run(const QStringList &arguments) const
-    {
-        QProcess process;
-        process.start(CAMERA_PROGRAM, arguments);
-        process.waitForFinished(120000);
-        return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
-                QString::fromLocal8Bit(process.readAllStandardOutput()),
-                QString::fromLocal8Bit(process.readAllStandardError())};
-    }
     QString host() const { return QStringLiteral("127.0.0.1:%1").arg(server.port); }
     QStringList camera(const QString &device = simulatedCamera) const
     {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// INDI's own server with its simulated camera, on a free port of this machine.
+// INDI's own server with its simulated camera, on a free port of this machine's loopback address.
 #pragma once
 
 #include <QElapsedTimer>
@@ -79,6 +79,7 @@ public:
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert("PATH", GSC_FOLDER ":" + environment.value("PATH"));
         environment.insert("HOME", home.path()); // the drivers keep their settings there
+        environment.insert("LD_PRELOAD", GSC_FOLDER "/libloopbackbind.so");
         for (auto variable = variables.begin(); variable != variables.end(); ++variable)
             environment.insert(variable.key(), variable.value());
         process->setProcessEnvironment(environment);
@@ -186,6 +187,24 @@ public:
         for (int i = 0; i < 200 && !one.has(property); ++i)
             one.waitForNews(std::chrono::milliseconds(50));
         return one.has(property);
+    }
+
+    /// Whether no other machine can reach it.
+    bool listensOnLoopbackAlone() const
+    {
+        QFile sockets("/proc/net/tcp"); // of IPv4, the only ones that the server has
+        if (!sockets.open(QIODevice::ReadOnly))
+            return false;
+        const QByteArray own = ':' + QByteArray::number(port, 16).toUpper().rightJustified(4, '0');
+        int listening = 0, loopback = 0;
+        for (const QByteArray &line : sockets.readAll().split('\n')) {
+            const QList<QByteArray> fields = line.simplified().split(' ');
+            if (fields.size() < 4 || !fields[1].endsWith(own) || fields[3] != "0A")
+                continue;
+            ++listening;
+            loopback += fields[1].startsWith("0100007F:") ? 1 : 0; // 127.0.0.1, little-endian
+        }
+        return listening == 1 && loopback == 1;
     }
 
     void signal(int number) const { ::kill(pid_t(process->processId()), number); }

@@ -124,6 +124,7 @@ void IndiSensorsTest::initTestCase()
     if (!IndiServer::isInstalled())
         QSKIP("indi-bin is not installed");
     QVERIFY(server.start());
+    QVERIFY(server.listensOnLoopbackAlone());
     lens.variables["GSC_SPREAD"] = "1";
     QVERIFY(lens.start());
 }

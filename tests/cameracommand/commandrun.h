@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+// What does a command print, and with which exit status does it end?
+#pragma once
+
+#include <QProcess>
+#include <QString>
+#include <QStringList>
+
+struct Result {
+    int status = -1; ///< after a crash
+    QString output, errors;
+};
+
+inline Result run(const QStringList &arguments, const char *program = CAMERA_PROGRAM)
+{
+    QProcess process;
+    process.start(program, arguments);
+    process.waitForFinished(120000);
+    return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+            QString::fromLocal8Bit(process.readAllStandardOutput()),
+            QString::fromLocal8Bit(process.readAllStandardError())};
+}
