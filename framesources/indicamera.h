@@ -39,16 +39,12 @@ private:
     void awaitDevice();
     void awaitConnection();
     void setUp();
-    void applySwitches();
     std::optional<NativeFrame> work(const Wish &wish);
     void applyGain(double gain);
     void applyReadout(const Wish &wish);
     void startFrames(const Wish &wish);
-    void startStream(double seconds);
-    void startExposure(double seconds);
     void stopFrames();
     void checkSilence();
-    std::string streamPattern() const;
     std::optional<NativeFrame> takeFrame(const Wish &wish);
     void lose(const std::string &reason);
     void say(const std::string &line);
@@ -64,7 +60,7 @@ private:
     double pause = 0.0; // seconds before the next try
     std::string lastSaid;
     unsigned removals = 0;
-    std::set<std::string> switched; // properties of `applySwitches` that were seen
+    std::set<std::string> switched; // properties of `requestSwitches` that were seen
 
     double gain = -1.0; // sent to the device, in the program's units
     cv::Size sensor;    // as the device says
