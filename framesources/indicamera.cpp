@@ -63,8 +63,8 @@ double IndiCamera::sinceStage() const
 void IndiCamera::lose(const std::string &reason)
 {
     client.reset();
-    if (streaming && choice.hasFailed())
-        choice.fell(Clock::now());
+    if (streaming && choice.lost(Clock::now()))
+        streamFault = "the connection ended before the video stream had a frame";
     present = false;
     stage = Stage::Lost;
     streaming = exposing = false;
@@ -133,11 +133,12 @@ void IndiCamera::setUp()
     requestSwitches(*client, switched);
     client->askForPictures();
     stage = Stage::Ready;
-    stageBegan = lastFrame = Clock::now();
+    stageBegan = Clock::now();
     gain = -1.0;
     readout = {};
     readoutsSent = 0;
     exposure = 0.0;
+    silence = {};
     present = true;
     choice.connected(Clock::now());
     say("connected");
@@ -175,28 +176,41 @@ void IndiCamera::applyReadout(const Wish &wish)
     requestReadout(*client, readout);
 }
 
+/// A stream that has failed is used all the same where there is nothing else.
+bool IndiCamera::isStreamDue(double exposureSeconds) const
+{
+    if (!client->has("CCD_VIDEO_STREAM"))
+        return false;
+    return !client->has("CCD_EXPOSURE") ||
+           (exposureSeconds <= longestStreamed && choice.isUsed(Clock::now()));
+}
+
 void IndiCamera::startFrames(const Wish &wish)
 {
-    const bool canStream = client->has("CCD_VIDEO_STREAM") && choice.isUsed(Clock::now());
-    const bool canExpose = client->has("CCD_EXPOSURE");
-    const bool stream = canStream && (!canExpose || wish.exposureSeconds <= longestStreamed);
+    const bool stream = isStreamDue(wish.exposureSeconds);
     if (streaming && stream && wish.exposureSeconds == exposure)
         return;
-    const double remainder = exposure - seconds(Clock::now() - lastFrame);
+    const double remainder = exposure - seconds(Clock::now() - exposureSent);
     if (streaming || (exposing && wish.exposureSeconds < exposure && remainder > longestRemainder &&
                       client->has("CCD_ABORT_EXPOSURE")))
         stopFrames();
     if (exposing)
         return;
     exposure = wish.exposureSeconds;
-    lastFrame = Clock::now();
+    exposureSent = Clock::now();
+    silence = {};
     if (stream) {
         switched.insert("CCD_VIDEO_STREAM"); // on from now on, whatever is defined later
         requestStream(*client, exposure);
+        choice.began();
+        isUnreadable = false;
         streaming = true;
     } else {
         exposing = requestExposure(*client, exposure);
+        if (!streamFault.empty())
+            say(streamFault + "; single exposures are used");
     }
+    streamFault.clear();
 }
 
 void IndiCamera::stopFrames()
@@ -205,18 +219,26 @@ void IndiCamera::stopFrames()
     streaming = exposing = false;
 }
 
+void IndiCamera::listen()
+{
+    const Clock::time_point began = Clock::now();
+    client->waitForNews(slice);
+    silence += Clock::now() - began;
+}
+
 /// No frame for too long: a stream gives way to single exposures, else the connection counts as
 /// lost.
 void IndiCamera::checkSilence()
 {
     const double patience = streaming ? choice.patience() : silencePatience;
-    if (seconds(Clock::now() - lastFrame) < exposure + patience)
+    if (seconds(silence) < exposure + patience)
         return;
     if (streaming && client->has("CCD_EXPOSURE") && client->isConnected()) {
         if (choice.fell(Clock::now()))
-            say("the video stream has no frames; single exposures are used");
+            streamFault = isUnreadable ? "the video stream has no frames that can be read"
+                                       : "the video stream has no frames";
         stopFrames();
-        lastFrame = Clock::now();
+        silence = {};
         return;
     }
     lose("no frames come");
@@ -227,12 +249,9 @@ std::optional<NativeFrame> IndiCamera::takeFrame(const Wish &wish)
     std::optional<IndiBlob> blob = client->takeBlob();
     if (!blob)
         return std::nullopt;
-    lastFrame = Clock::now();
-    pause = 0.0;
     const bool isStreamed = blob->format.compare(0, 7, ".stream") == 0;
-    if (streaming && isStreamed && choice.came(lastFrame))
-        say("the video stream has frames again");
-    const bool isLate = exposing && isStreamed && choice.hasFailed(); // of the stream that ended
+    // A frame of video that has been switched off is no answer to an exposure.
+    const bool isLate = exposing && isStreamed && client->has("CCD_VIDEO_STREAM");
     if (exposing && !isLate) { // the next exposure runs while this one is decoded
         exposing = false;
         startFrames(wish);
@@ -240,9 +259,17 @@ std::optional<NativeFrame> IndiCamera::takeFrame(const Wish &wish)
     std::string fault;
     std::optional<NativeFrame> frame = decodeBlob(*blob, streamShape(*client, readout), fault);
     if (!frame) {
+        isUnreadable = true;
         say(fault);
         return frame;
     }
+    pause = 0.0;
+    if (!isLate) {
+        silence = {};
+        isUnreadable = false;
+    }
+    if (streaming && isStreamed && choice.came(Clock::now()))
+        say("the video stream has frames again");
     frame->binning = binningOf(readout, frame->pixels.size());
     frame->sensor = sensor.area() > 0 ? sensor : frame->pixels.size();
     return frame;
@@ -252,7 +279,7 @@ std::optional<NativeFrame> IndiCamera::work(const Wish &wish)
 {
     if (!wish.wanted) {
         stopFrames();
-        lastFrame = Clock::now();
+        silence = {};
         client->takeBlob();
         client->waitForNews(slice);
         return std::nullopt;
@@ -261,7 +288,7 @@ std::optional<NativeFrame> IndiCamera::work(const Wish &wish)
     applyGain(wish.gain);
     applyReadout(wish);
     startFrames(wish);
-    client->waitForNews(slice);
+    listen();
     std::optional<NativeFrame> frame = takeFrame(wish);
     if (!frame)
         checkSilence();

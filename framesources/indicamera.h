@@ -42,8 +42,10 @@ private:
     std::optional<NativeFrame> work(const Wish &wish);
     void applyGain(double gain);
     void applyReadout(const Wish &wish);
+    bool isStreamDue(double exposureSeconds) const;
     void startFrames(const Wish &wish);
     void stopFrames();
+    void listen();
     void checkSilence();
     std::optional<NativeFrame> takeFrame(const Wish &wish);
     void lose(const std::string &reason);
@@ -56,7 +58,7 @@ private:
 
     std::unique_ptr<IndiClient> client;
     Stage stage = Stage::Lost;
-    Clock::time_point stageBegan, retryAt, lastFrame;
+    Clock::time_point stageBegan, retryAt;
     double pause = 0.0; // seconds before the next try
     std::string lastSaid;
     unsigned removals = 0;
@@ -69,6 +71,12 @@ private:
     int readoutsSent = 0;
     bool streaming = false, exposing = false;
     StreamChoice choice;
-    double exposure = 0.0; // sent, seconds
+    std::string streamFault; // why it was given up; empty once that was said
+    double exposure = 0.0;   // sent, seconds
+    Clock::time_point exposureSent;
+    // Of waiting for the device since the latest frame. What this thread does with a frame, or the
+    // caller does between two calls, is no silence of the device.
+    Clock::duration silence{};
+    bool isUnreadable = false; // what came in that time
 };
 } // namespace framesources
