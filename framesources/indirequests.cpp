@@ -76,9 +76,10 @@ void requestStream(IndiClient &client, double seconds)
         client.sendNumbers("STREAMING_EXPOSURE", values);
     }
     // INDI's own limit is ten; a network that is too slow for this one gets fewer.
-    if (const auto limit = client.number("LIMITS", "LIMITS_PREVIEW_FPS");
-        limit && limit->value < streamedRate)
-        client.sendNumbers("LIMITS", {{"LIMITS_PREVIEW_FPS", streamedRate}});
+    if (const auto limit = client.number("LIMITS", "LIMITS_PREVIEW_FPS"); limit)
+        if (const double rate = withinLimits(streamedRate, limit->least, limit->most);
+            limit->value < rate)
+            client.sendNumbers("LIMITS", {{"LIMITS_PREVIEW_FPS", rate}});
     client.sendSwitch("CCD_VIDEO_STREAM", "STREAM_ON");
 }
 

@@ -67,6 +67,8 @@ public:
     }
     /// Whether video has no frames.
     void mute(bool on) { isMute = on; }
+    /// From now on no client is told of exposures.
+    void withholdExposures() { hasExposures = false; }
     /// Whether video goes on when it is switched off; exposures then wait for its end.
     void linger(bool on) { lingers = on; }
     /// Ends the connection.
@@ -105,8 +107,9 @@ private:
         return "<defSwitchVector name='CONNECTION' rule='OneOfMany'" + head +
                "><defSwitch name='CONNECT' label=''>On</defSwitch>"
                "<defSwitch name='DISCONNECT' label=''>Off</defSwitch></defSwitchVector>\n"
-               "<defNumberVector name='CCD_EXPOSURE'" +
-               head + ">" + number("CCD_EXPOSURE_VALUE", "1") +
+               "<defNumberVector name='" +
+               (hasExposures ? "CCD_EXPOSURE'" : "SOMETHING'") + head + ">" +
+               number("CCD_EXPOSURE_VALUE", "1") +
                "</defNumberVector>\n<defNumberVector name='CCD_INFO'" + head + ">" +
                number("CCD_MAX_X", sensorWidth) + number("CCD_MAX_Y", sensorHeight) +
                "</defNumberVector>\n<defNumberVector name='CCD_BINNING'" + head + ">" +
@@ -217,7 +220,7 @@ private:
     std::atomic<bool> isRenamed{false};
     std::atomic<int> harms{0}, clients{0};
     std::atomic<int> framesAllowed{-1}, drops{0};
-    std::atomic<bool> isMute{false}, lingers{false};
+    std::atomic<bool> isMute{false}, lingers{false}, hasExposures{true};
     mutable QMutex mutex; // guards what follows
     QByteArray more, said, streamed;
     std::vector<std::chrono::steady_clock::time_point> cameAt;

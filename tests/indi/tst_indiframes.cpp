@@ -237,11 +237,16 @@ void IndiFramesTest::settingsReachTheServer_data()
     const QByteArray own = numberDefinition("CCD_GAIN", "GAIN", "0", "400");
     row("gain", 0.05, 25.0, own, "CCD_GAIN", "GAIN", "100");
     row("gain beyond the slider's end", 0.05, 200.0, own, "CCD_GAIN", "GAIN", "400");
-    row("rate of the video", 0.05, 50.0,
-        "<defSwitchVector name='CCD_VIDEO_STREAM' device='Camera' state='Ok' perm='rw' "
-        "rule='OneOfMany'><defSwitch name='STREAM_ON'>Off</defSwitch></defSwitchVector>" +
-            numberDefinition("LIMITS", "LIMITS_PREVIEW_FPS", "1", "120"),
-        "LIMITS", "LIMITS_PREVIEW_FPS", "50");
+    const auto rate = [&row](const char *name, const char *least, const char *most,
+                             const char *value) {
+        row(name, 0.05, 50.0,
+            "<defSwitchVector name='CCD_VIDEO_STREAM' device='Camera' state='Ok' perm='rw' "
+            "rule='OneOfMany'><defSwitch name='STREAM_ON'>Off</defSwitch></defSwitchVector>" +
+                numberDefinition("LIMITS", "LIMITS_PREVIEW_FPS", least, most),
+            "LIMITS", "LIMITS_PREVIEW_FPS", value);
+    };
+    rate("rate of the video", "1", "120", "50");
+    rate("rate of the video within the device's limits", "1", "30", "30");
     row("gain among other controls", 0.05, 25.0,
         numberDefinition("CCD_CONTROLS", "Gain", "-20", "60"), "CCD_CONTROLS", "Gain", "0");
 }

@@ -69,6 +69,7 @@ private slots:
     void ownWorkIsNoSilence();
     void lateFramesAnswerNoExposure();
     void videoThatEndsItsDriver();
+    void videoIsAllThatThereIs();
 };
 
 void IndiStreamTest::silentStreamIsTriedAgain_data()
@@ -176,6 +177,21 @@ void IndiStreamTest::videoThatEndsItsDriver()
     QCOMPARE(lines.filter("taken the device back").size(), 1);
     QCOMPARE(lines.last(), QString("the connection ended before the video stream had a frame; "
                                    "single exposures are used"));
+}
+
+/// Then its failures are no reason to wait.
+void IndiStreamTest::videoIsAllThatThereIs()
+{
+    framesources::StreamChoice::Pauses pauses;
+    pauses.connection = pauses.first = 3600.0;
+    Video video(pauses);
+    video.server.withholdExposures();
+    video.server.mute(true);
+    QTRY_VERIFY((video.camera.next(video.wish), video.heard("STREAM_ON") == 1));
+    video.server.drop();
+    QTRY_VERIFY((video.camera.next(video.wish), video.server.connections() == 2));
+    video.server.mute(false);
+    QVERIFY2(video.comes(streamed), qPrintable(video.lines.join("\n")));
 }
 
 QTEST_GUILESS_MAIN(IndiStreamTest)
