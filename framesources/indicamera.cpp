@@ -280,8 +280,8 @@ std::optional<NativeFrame> IndiCamera::work(const Wish &wish)
     if (!wish.wanted) {
         stopFrames();
         silence = {};
-        client->takeBlob();
         client->waitForNews(slice);
+        client->takeBlob();
         return std::nullopt;
     }
     requestSwitches(*client, switched);

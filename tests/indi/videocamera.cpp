@@ -20,7 +20,11 @@ class VideoCamera : public INDI::CCD
 public:
     ~VideoCamera() override { StopStreaming(); }
 
-    const char *getDefaultName() override { return "Video Camera"; }
+    const char *getDefaultName() override
+    {
+        const char *const name = std::getenv("VIDEO_CAMERA_NAME");
+        return name ? name : "Video Camera";
+    }
 
     bool initProperties() override
     {
