@@ -3,11 +3,9 @@
 #include "framesources/indicamera.h"
 
 #include <algorithm>
-#include <cmath>
 #include <thread>
 
-#include "framesources/indivalues.h"
-#include "pictures/grey.h"
+#include "framesources/indirequests.h"
 
 namespace framesources
 {
@@ -23,8 +21,7 @@ constexpr double readoutPatience = 1.5;                 // for a device to take 
 constexpr int readoutTries = 3;                         // some refuse while they expose
 constexpr double silencePatience = 6.0;                 // of exposures, beyond their length
 constexpr double longestRemainder = 1.0;                // seconds of an exposure of another length
-constexpr double streamedRate = 50.0;   // frames a second: a limit near the camera's rate halves it
-constexpr double longestStreamed = 2.0; // seconds of an exposure
+constexpr double longestStreamed = 2.0;                 // seconds of an exposure
 
 double seconds(std::chrono::steady_clock::duration span)
 {
@@ -66,8 +63,8 @@ double IndiCamera::sinceStage() const
 void IndiCamera::lose(const std::string &reason)
 {
     client.reset();
-    if (streaming && choice.hasFailed())
-        choice.fell(Clock::now());
+    if (streaming && choice.lost(Clock::now()))
+        streamFault = "the connection ended before the video stream had a frame";
     present = false;
     stage = Stage::Lost;
     streaming = exposing = false;
@@ -130,33 +127,18 @@ IndiCamera::~IndiCamera()
         stopFrames();
 }
 
-/// Those that the device has; each once, since a device may define them after it is connected.
-/// What it is not asked for stays as its owner set it.
-void IndiCamera::applySwitches()
-{
-    static constexpr std::pair<const char *, const char *> switches[] = {
-        {"CCD_VIDEO_STREAM", "STREAM_OFF"}, // left on by a program that is gone
-        {"UPLOAD_MODE", "UPLOAD_CLIENT"},
-        {"CCD_TRANSFER_FORMAT", "FORMAT_FITS"},
-        {"CCD_COMPRESSION", "INDI_DISABLED"},
-        {"CCD_FRAME_TYPE", "FRAME_LIGHT"}};
-    for (const auto &[property, element] : switches)
-        if (const auto on = client->isOn(property, element);
-            on && switched.insert(property).second && !*on)
-            client->sendSwitch(property, element);
-}
-
 void IndiCamera::setUp()
 {
     switched.clear();
-    applySwitches();
+    requestSwitches(*client, switched);
     client->askForPictures();
     stage = Stage::Ready;
-    stageBegan = lastFrame = Clock::now();
+    stageBegan = Clock::now();
     gain = -1.0;
     readout = {};
     readoutsSent = 0;
     exposure = 0.0;
+    silence = {};
     present = true;
     choice.connected(Clock::now());
     say("connected");
@@ -165,18 +147,8 @@ void IndiCamera::setUp()
 /// A device may define its gain after it is connected.
 void IndiCamera::applyGain(double wanted)
 {
-    if (wanted == gain)
-        return;
-    static constexpr std::pair<const char *, const char *> places[] = {{"CCD_GAIN", "GAIN"},
-                                                                       {"CCD_CONTROLS", "Gain"}};
-    for (const auto &[property, element] : places)
-        if (const auto limits = client->number(property, element); limits) {
-            gain = wanted;
-            if (limits->most > limits->least)
-                client->sendNumbers(property,
-                                    {{element, deviceGain(gain, limits->least, limits->most)}});
-            return;
-        }
+    if (wanted != gain && requestGain(*client, wanted))
+        gain = wanted;
 }
 
 /// Region and binning; only where the device lets both be set.
@@ -201,72 +173,57 @@ void IndiCamera::applyReadout(const Wish &wish)
     readout = wanted;
     readoutSent = Clock::now();
     ++readoutsSent;
-    if (binning)
-        client->sendNumbers("CCD_BINNING", {{"HOR_BIN", double(readout.binning)},
-                                            {"VER_BIN", double(readout.binning)}});
-    client->sendNumbers("CCD_FRAME", {{"X", double(readout.region.x)},
-                                      {"Y", double(readout.region.y)},
-                                      {"WIDTH", double(readout.region.width)},
-                                      {"HEIGHT", double(readout.region.height)}});
+    requestReadout(*client, readout);
 }
 
-void IndiCamera::startStream(double wanted)
+/// A stream that has failed is used all the same where there is nothing else.
+bool IndiCamera::isStreamDue(double exposureSeconds) const
 {
-    if (const auto limits = client->number("STREAMING_EXPOSURE", "STREAMING_EXPOSURE_VALUE")) {
-        const auto divisor = client->number("STREAMING_EXPOSURE", "STREAMING_DIVISOR_VALUE");
-        IndiClient::Values values = {
-            {"STREAMING_EXPOSURE_VALUE", withinLimits(wanted, limits->least, limits->most)}};
-        if (divisor)
-            values.emplace_back("STREAMING_DIVISOR_VALUE", 1.0);
-        client->sendNumbers("STREAMING_EXPOSURE", values);
-    }
-    // INDI's own limit is ten; a network that is too slow for this one gets fewer.
-    if (const auto limit = client->number("LIMITS", "LIMITS_PREVIEW_FPS");
-        limit && limit->value < streamedRate)
-        client->sendNumbers("LIMITS", {{"LIMITS_PREVIEW_FPS", streamedRate}});
-    switched.insert("CCD_VIDEO_STREAM"); // on from now on, whatever is defined later
-    client->sendSwitch("CCD_VIDEO_STREAM", "STREAM_ON");
-    streaming = true;
-}
-
-void IndiCamera::startExposure(double wanted)
-{
-    const auto limits = client->number("CCD_EXPOSURE", "CCD_EXPOSURE_VALUE");
-    if (!limits)
-        return;
-    client->sendNumbers("CCD_EXPOSURE", {{"CCD_EXPOSURE_VALUE",
-                                          withinLimits(wanted, limits->least, limits->most)}});
-    exposing = true;
+    if (!client->has("CCD_VIDEO_STREAM"))
+        return false;
+    return !client->has("CCD_EXPOSURE") ||
+           (exposureSeconds <= longestStreamed && choice.isUsed(Clock::now()));
 }
 
 void IndiCamera::startFrames(const Wish &wish)
 {
-    const bool canStream = client->has("CCD_VIDEO_STREAM") && choice.isUsed(Clock::now());
-    const bool canExpose = client->has("CCD_EXPOSURE");
-    const bool stream = canStream && (!canExpose || wish.exposureSeconds <= longestStreamed);
+    const bool stream = isStreamDue(wish.exposureSeconds);
     if (streaming && stream && wish.exposureSeconds == exposure)
         return;
-    const double remainder = exposure - seconds(Clock::now() - lastFrame);
+    const double remainder = exposure - seconds(Clock::now() - exposureSent);
     if (streaming || (exposing && wish.exposureSeconds < exposure && remainder > longestRemainder &&
                       client->has("CCD_ABORT_EXPOSURE")))
         stopFrames();
     if (exposing)
         return;
     exposure = wish.exposureSeconds;
-    lastFrame = Clock::now();
-    if (stream)
-        startStream(exposure);
-    else
-        startExposure(exposure);
+    exposureSent = Clock::now();
+    silence = {};
+    if (stream) {
+        switched.insert("CCD_VIDEO_STREAM"); // on from now on, whatever is defined later
+        requestStream(*client, exposure);
+        choice.began();
+        isUnreadable = false;
+        streaming = true;
+    } else {
+        exposing = requestExposure(*client, exposure);
+        if (!streamFault.empty())
+            say(streamFault + "; single exposures are used");
+    }
+    streamFault.clear();
 }
 
 void IndiCamera::stopFrames()
 {
-    if (streaming)
-        client->sendSwitch("CCD_VIDEO_STREAM", "STREAM_OFF");
-    if (exposing && client->has("CCD_ABORT_EXPOSURE"))
-        client->sendSwitch("CCD_ABORT_EXPOSURE", "ABORT");
+    requestEnd(*client, streaming, exposing);
     streaming = exposing = false;
+}
+
+void IndiCamera::listen()
+{
+    const Clock::time_point began = Clock::now();
+    client->waitForNews(slice);
+    silence += Clock::now() - began;
 }
 
 /// No frame for too long: a stream gives way to single exposures, else the connection counts as
@@ -274,29 +231,17 @@ void IndiCamera::stopFrames()
 void IndiCamera::checkSilence()
 {
     const double patience = streaming ? choice.patience() : silencePatience;
-    if (seconds(Clock::now() - lastFrame) < exposure + patience)
+    if (seconds(silence) < exposure + patience)
         return;
     if (streaming && client->has("CCD_EXPOSURE") && client->isConnected()) {
         if (choice.fell(Clock::now()))
-            say("the video stream has no frames; single exposures are used");
+            streamFault = isUnreadable ? "the video stream has no frames that can be read"
+                                       : "the video stream has no frames";
         stopFrames();
-        lastFrame = Clock::now();
+        silence = {};
         return;
     }
     lose("no frames come");
-}
-
-/// Binning may change the pattern in a way that no device tells.
-std::string IndiCamera::streamPattern() const
-{
-    if (readout.binning > 1)
-        return {};
-    const auto offset = [this](const char *element) {
-        const double value = parseNumber(client->text("CCD_CFA", element)).value_or(0.0);
-        return std::abs(value) < 1e6 ? int(value) : 0;
-    };
-    return pictures::shiftedPattern(client->text("CCD_CFA", "CFA_TYPE"), offset("CFA_OFFSET_X"),
-                                    offset("CFA_OFFSET_Y"));
 }
 
 std::optional<NativeFrame> IndiCamera::takeFrame(const Wish &wish)
@@ -304,32 +249,27 @@ std::optional<NativeFrame> IndiCamera::takeFrame(const Wish &wish)
     std::optional<IndiBlob> blob = client->takeBlob();
     if (!blob)
         return std::nullopt;
-    lastFrame = Clock::now();
-    pause = 0.0;
     const bool isStreamed = blob->format.compare(0, 7, ".stream") == 0;
-    if (streaming && isStreamed && choice.came(lastFrame))
-        say("the video stream has frames again");
-    const bool isLate = exposing && isStreamed && choice.hasFailed(); // of the stream that ended
+    // A frame of video that has been switched off is no answer to an exposure.
+    const bool isLate = exposing && isStreamed && client->has("CCD_VIDEO_STREAM");
     if (exposing && !isLate) { // the next exposure runs while this one is decoded
         exposing = false;
         startFrames(wish);
     }
-    const auto width = client->number("CCD_STREAM_FRAME", "WIDTH");
-    const auto height = client->number("CCD_STREAM_FRAME", "HEIGHT");
-    StreamShape shape;
-    if (width && height && width->value >= 1.0 && width->value < 65536.0 && height->value >= 1.0 &&
-        height->value < 65536.0)
-        shape.size = cv::Size(int(width->value), int(height->value));
-    else
-        shape.size = readout.region.size() / readout.binning;
-    shape.mosaic = client->has("CCD_CFA");
-    shape.pattern = streamPattern();
     std::string fault;
-    std::optional<NativeFrame> frame = decodeBlob(*blob, shape, fault);
+    std::optional<NativeFrame> frame = decodeBlob(*blob, streamShape(*client, readout), fault);
     if (!frame) {
+        isUnreadable = true;
         say(fault);
         return frame;
     }
+    pause = 0.0;
+    if (!isLate) {
+        silence = {};
+        isUnreadable = false;
+    }
+    if (streaming && isStreamed && choice.came(Clock::now()))
+        say("the video stream has frames again");
     frame->binning = binningOf(readout, frame->pixels.size());
     frame->sensor = sensor.area() > 0 ? sensor : frame->pixels.size();
     return frame;
@@ -339,16 +279,16 @@ std::optional<NativeFrame> IndiCamera::work(const Wish &wish)
 {
     if (!wish.wanted) {
         stopFrames();
-        lastFrame = Clock::now();
-        client->takeBlob();
+        silence = {};
         client->waitForNews(slice);
+        client->takeBlob();
         return std::nullopt;
     }
-    applySwitches();
+    requestSwitches(*client, switched);
     applyGain(wish.gain);
     applyReadout(wish);
     startFrames(wish);
-    client->waitForNews(slice);
+    listen();
     std::optional<NativeFrame> frame = takeFrame(wish);
     if (!frame)
         checkSilence();

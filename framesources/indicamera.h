@@ -39,16 +39,14 @@ private:
     void awaitDevice();
     void awaitConnection();
     void setUp();
-    void applySwitches();
     std::optional<NativeFrame> work(const Wish &wish);
     void applyGain(double gain);
     void applyReadout(const Wish &wish);
+    bool isStreamDue(double exposureSeconds) const;
     void startFrames(const Wish &wish);
-    void startStream(double seconds);
-    void startExposure(double seconds);
     void stopFrames();
+    void listen();
     void checkSilence();
-    std::string streamPattern() const;
     std::optional<NativeFrame> takeFrame(const Wish &wish);
     void lose(const std::string &reason);
     void say(const std::string &line);
@@ -60,11 +58,11 @@ private:
 
     std::unique_ptr<IndiClient> client;
     Stage stage = Stage::Lost;
-    Clock::time_point stageBegan, retryAt, lastFrame;
+    Clock::time_point stageBegan, retryAt;
     double pause = 0.0; // seconds before the next try
     std::string lastSaid;
     unsigned removals = 0;
-    std::set<std::string> switched; // properties of `applySwitches` that were seen
+    std::set<std::string> switched; // properties of `requestSwitches` that were seen
 
     double gain = -1.0; // sent to the device, in the program's units
     cv::Size sensor;    // as the device says
@@ -73,6 +71,12 @@ private:
     int readoutsSent = 0;
     bool streaming = false, exposing = false;
     StreamChoice choice;
-    double exposure = 0.0; // sent, seconds
+    std::string streamFault; // why it was given up; empty once that was said
+    double exposure = 0.0;   // sent, seconds
+    Clock::time_point exposureSent;
+    // Of waiting for the device since the latest frame. What this thread does with a frame, or the
+    // caller does between two calls, is no silence of the device.
+    Clock::duration silence{};
+    bool isUnreadable = false; // what came in that time
 };
 } // namespace framesources

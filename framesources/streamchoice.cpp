@@ -29,6 +29,7 @@ bool StreamChoice::came(Time now)
 {
     const bool isNew = failed;
     failed = false;
+    hasCome = true;
     if (isNew) {
         since = now;
     } else if (onProbation && now - since > span(pauses.steady)) {

@@ -9,7 +9,8 @@ namespace framesources
 /// A stream that is silent for too long gives way to single exposures. It is tried again a moment
 /// after a new connection, and after pauses that grow. Until it was steady it is given up soon, so
 /// that a try costs few frames; so is a stream that goes on with a new connection. After a try that
-/// failed a new connection is no reason for another one: the try may be what ended the last one.
+/// failed a new connection is no reason for another one: the try may be what ended the last one. A
+/// connection that ends before the stream's first frame is such a failure.
 class StreamChoice
 {
 public:
@@ -30,16 +31,20 @@ public:
     {
     }
 
-    bool hasFailed() const { return failed; }
     bool isUsed(Time now) const { return wanted && (!failed || now >= retryAt); }
     /// How long a stream may be silent, seconds beyond the exposure.
     double patience() const { return onProbation ? pauses.attempt : pauses.silence; }
 
     void connected(Time now);
+    /// The stream was switched on.
+    void began() { hasCome = false; }
     /// A frame of the stream came. False: it came before, too, since the last failure.
     bool came(Time now);
     /// False: it had not come since the last failure.
     bool fell(Time now);
+    /// The connection was lost while the stream was on. As `fell`, but false where a frame had come
+    /// since the stream began: that says nothing against it.
+    bool lost(Time now) { return !hasCome && fell(now); }
 
 private:
     const bool wanted;
@@ -47,7 +52,8 @@ private:
     bool failed = false;      // the latest that is known of the stream
     bool onProbation = false; // from a failure or a loss until it was steady
     bool tryFailed = false, wasConnected = false;
-    double pause;        // seconds until the next try
-    Time retryAt, since; // valid while failed; since when the stream comes
+    bool hasCome = false; // a frame since the stream was switched on
+    double pause;         // seconds until the next try
+    Time retryAt, since;  // valid while failed; since when the stream comes
 };
 } // namespace framesources

@@ -67,6 +67,10 @@ public:
     }
     /// Whether video has no frames.
     void mute(bool on) { isMute = on; }
+    /// From now on no client is told of exposures.
+    void withholdExposures() { hasExposures = false; }
+    /// Whether video goes on when it is switched off; exposures then wait for its end.
+    void linger(bool on) { lingers = on; }
     /// Ends the connection.
     void drop() { ++drops; }
     /// From now on more is defined to each client.
@@ -103,8 +107,9 @@ private:
         return "<defSwitchVector name='CONNECTION' rule='OneOfMany'" + head +
                "><defSwitch name='CONNECT' label=''>On</defSwitch>"
                "<defSwitch name='DISCONNECT' label=''>Off</defSwitch></defSwitchVector>\n"
-               "<defNumberVector name='CCD_EXPOSURE'" +
-               head + ">" + number("CCD_EXPOSURE_VALUE", "1") +
+               "<defNumberVector name='" +
+               (hasExposures ? "CCD_EXPOSURE'" : "SOMETHING'") + head + ">" +
+               number("CCD_EXPOSURE_VALUE", "1") +
                "</defNumberVector>\n<defNumberVector name='CCD_INFO'" + head + ">" +
                number("CCD_MAX_X", sensorWidth) + number("CCD_MAX_Y", sensorHeight) +
                "</defNumberVector>\n<defNumberVector name='CCD_BINNING'" + head + ">" +
@@ -176,7 +181,7 @@ private:
         Clock::time_point sent = Clock::now();
         const int before = drops;
         const QByteArray video = streamedFrame();
-        bool isVideo = false, isExposing = false;
+        bool isVideoOn = false, hadVideo = false, isExposing = false;
         while (!stop && isRenamed == renamed && drops == before) {
             pollfd wait = {client, POLLIN, 0};
             if (::poll(&wait, 1, 5) > 0) {
@@ -184,8 +189,9 @@ private:
                     return;
                 isExposing |= asked.contains("CCD_EXPOSURE_VALUE");
                 if (asked.contains("STREAM_O"))
-                    isVideo = asked.lastIndexOf("STREAM_ON") > asked.lastIndexOf("STREAM_OFF");
-                if (!done && (isVideo || asked.contains("CCD_EXPOSURE"))) { // it wants frames
+                    isVideoOn = asked.lastIndexOf("STREAM_ON") > asked.lastIndexOf("STREAM_OFF");
+                hadVideo |= isVideoOn;
+                if (!done && (isVideoOn || asked.contains("CCD_EXPOSURE"))) { // it wants frames
                     done = true;
                     if (harms++ == 0 && !send(client, harm, renamed))
                         return;
@@ -195,10 +201,11 @@ private:
                 continue;
             sent = Clock::now();
             if (!video.isEmpty()) {
+                const bool isVideo = isVideoOn || (hadVideo && lingers);
                 if (isVideo ? !isMute && !send(client, video, renamed)
                             : isExposing && !send(client, good, renamed))
                     return;
-                isExposing = false;
+                isExposing &= isVideo;
                 continue;
             }
             if (!send(client, good, renamed) || ++frames == allowed)
@@ -213,7 +220,7 @@ private:
     std::atomic<bool> isRenamed{false};
     std::atomic<int> harms{0}, clients{0};
     std::atomic<int> framesAllowed{-1}, drops{0};
-    std::atomic<bool> isMute{false};
+    std::atomic<bool> isMute{false}, lingers{false}, hasExposures{true};
     mutable QMutex mutex; // guards what follows
     QByteArray more, said, streamed;
     std::vector<std::chrono::steady_clock::time_point> cameAt;

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QElapsedTimer>
-#include <QFile>
 #include <QMutex>
 #include <QStringList>
 #include <QtTest>
@@ -11,6 +10,7 @@
 
 #include "framesources/nativecameras.h"
 #include "framesources/threadedsource.h"
+#include "tests/support/processortimes.h"
 
 class IndiSource
 {
@@ -40,11 +40,12 @@ public:
         waiting.start();
         do {
             QElapsedTimer call;
-            const qint64 queued = queuedFor();
+            const ProcessorTimes before = ProcessorTimes::now();
             call.start();
             (void)source->behaviour();
             const unsigned channels = source->frame({{}, {exposure, gain, 1}}, out.data);
-            slowest = std::max(slowest, call.elapsed() - (queuedFor() - queued));
+            const qint64 elapsed = call.elapsed();
+            slowest = std::max(slowest, elapsed - takenByOthers(before, ProcessorTimes::now()));
             if (channels == 1)
                 return out;
             QTest::qSleep(10);
@@ -60,18 +61,9 @@ public:
     }
 
     double exposure = 0.3, gain = 50.0;
-    /// Milliseconds, of all calls; without the time in which other processes had the processor.
+    /// Milliseconds, of all calls; without `takenByOthers`.
     qint64 slowest = 0;
     std::unique_ptr<framesources::ThreadedSource> source;
-
-    /// How long this thread was ready to run and did not, milliseconds.
-    static qint64 queuedFor()
-    {
-        QFile file("/proc/thread-self/schedstat"); // nanoseconds run, queued, and how often
-        return file.open(QIODevice::ReadOnly)
-                   ? file.readAll().split(' ').value(1).toLongLong() / 1000000
-                   : 0;
-    }
 
 private:
     struct Log { // outlives the source with its thread

@@ -23,9 +23,18 @@ class LosableCamera
 {
 public:
     explicit LosableCamera(bool hasVideo = false)
-        : driver(hasVideo ? "indi_test_video" : "indi_simulator_ccd"),
-          device(hasVideo ? videoCamera : simulatedCamera)
+        : driver(driverOf(hasVideo)), device(hasVideo ? videoCamera : simulatedCamera)
     {
+    }
+
+    /// From now on the other camera has the device's name, that of the simulated one. True once it
+    /// is there.
+    bool replace(bool hasVideo)
+    {
+        server.end();
+        driver = driverOf(hasVideo);
+        server.variables["VIDEO_CAMERA_NAME"] = device;
+        return server.start({driver}, device);
     }
 
     /// True once the camera is there.
@@ -74,7 +83,12 @@ public:
         }
     }
 
-    const QByteArray driver;
+    static const char *driverOf(bool hasVideo)
+    {
+        return hasVideo ? "indi_test_video" : "indi_simulator_ccd";
+    }
+
+    QByteArray driver;
     const char *const device;
     IndiServer server;
     CuttingProxy proxy{server.port};

@@ -14,6 +14,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QFileInfo>
 #include <QLabel>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -21,6 +22,7 @@
 #include <QtTest>
 #include <functional>
 #include <optional>
+#include <thread>
 #include <utility>
 
 // Q_INIT_RESOURCE must be used in the global namespace.
@@ -31,8 +33,8 @@ static void initialiseAssistantResources()
 
 namespace
 {
-/// How late the GUI thread gets to a timer: as late as to a key or the mouse. Without the time in
-/// which other processes had the processor.
+/// How late the GUI thread gets to a timer: as late as to a key or the mouse. Without
+/// `takenByOthers`.
 class Lateness
 {
 public:
@@ -47,7 +49,7 @@ public:
     void skip()
     {
         since.restart();
-        queuedBefore = IndiSource::queuedFor();
+        before = ProcessorTimes::now();
     }
     void forget()
     {
@@ -64,16 +66,19 @@ public:
 private:
     void look()
     {
-        const qint64 queued = IndiSource::queuedFor();
-        greatest = std::max(greatest, since.restart() - interval - (queued - queuedBefore));
-        queuedBefore = queued;
+        const ProcessorTimes now = ProcessorTimes::now();
+        greatest = std::max(greatest, since.restart() - interval - takenByOthers(before, now));
+        before = now;
     }
 
     static constexpr int interval = 5; // milliseconds
     QTimer timer;
     QElapsedTimer since;
-    qint64 greatest = 0, queuedBefore = 0;
+    qint64 greatest = 0;
+    ProcessorTimes before;
 };
+
+constexpr char noVideo[] = "[camera]\nstream = false\n";
 
 /// One program's window that is connected to its camera.
 struct Program {
@@ -91,6 +96,9 @@ class IndiAnswersTest : public QObject
 
 private slots:
     void initTestCase();
+    void onlyOthersAreTakenOff_data();
+    void onlyOthersAreTakenOff();
+    void ourThreadsAreCounted();
     void windowAnswers_data();
     void windowAnswers();
     void cleanupTestCase();
@@ -98,11 +106,15 @@ private slots:
 private:
     void openWizard();
     void openAssistant();
+    void change(bool toVideo);
     bool pictureComes();
+
+    QString sky() const { return folder.filePath("sky.ini"); }
 
     const QTemporaryDir folder;
     LosableCamera camera;
     QString opened;
+    bool isVideo = false;
     std::optional<assistantwindow::SessionInstrument> instrument;
     Program program;
 };
@@ -114,9 +126,8 @@ void IndiAnswersTest::initTestCase()
     initialiseResources();
     initialiseAssistantResources();
     QVERIFY(camera.start());
-    const QString sky = folder.filePath("sky.ini"); // without a lens the simulated video is silent
-    QVERIFY(virtualsky::writeAtomically(sky.toStdString(), "[camera]\nstream = false\n"));
-    qputenv("QUORVANDEL_SKY", QFile::encodeName(sky));
+    QVERIFY(virtualsky::writeAtomically(sky().toStdString(), noVideo));
+    qputenv("QUORVANDEL_SKY", QFile::encodeName(sky()));
     qputenv("QUORVANDEL_CAMERA",
             QStringLiteral("indi://127.0.0.1:%1/CCD Simulator").arg(camera.port()).toUtf8());
 }
@@ -155,19 +166,73 @@ void IndiAnswersTest::openAssistant()
     };
 }
 
+/// To our own camera with its video on, or to exposures of the simulated one, whose video is silent
+/// without a lens. The program keeps its camera.
+void IndiAnswersTest::change(bool toVideo)
+{
+    isVideo = toVideo;
+    QVERIFY(camera.replace(toVideo));
+    QVERIFY(virtualsky::writeAtomically(sky().toStdString(),
+                                        toVideo ? "[camera]\nstream = true\n" : noVideo));
+    const auto client = camera.server.client(camera.device);
+    QVERIFY(client);
+    QTRY_VERIFY((client->waitForNews(std::chrono::milliseconds(10)),
+                 !toVideo || client->isOn("CCD_VIDEO_STREAM", "STREAM_ON").value_or(false)));
+}
+
 bool IndiAnswersTest::pictureComes()
 {
     const qint64 now = program.picture();
     return comesTrue([&] { return program.picture() != now; });
 }
 
+void IndiAnswersTest::onlyOthersAreTakenOff_data()
+{
+    QTest::addColumn<qint64>("queued"); // milliseconds
+    QTest::addColumn<qint64>("ours");
+    QTest::addColumn<qint64>("taken");
+    QTest::newRow("others alone") << qint64(50) << qint64(0) << qint64(50);
+    QTest::newRow("some of it ours, perhaps") << qint64(50) << qint64(20) << qint64(30);
+    QTest::newRow("all of it ours, perhaps") << qint64(50) << qint64(80) << qint64(0);
+    QTest::newRow("nothing waited for") << qint64(0) << qint64(80) << qint64(0);
+}
+
+void IndiAnswersTest::onlyOthersAreTakenOff()
+{
+    QFETCH(qint64, queued);
+    QFETCH(qint64, ours);
+    QFETCH(qint64, taken);
+    constexpr qint64 millisecond = 1000000;
+    const ProcessorTimes before = {7 * millisecond, 3 * millisecond};
+    const ProcessorTimes after = {before.queued + queued * millisecond,
+                                  before.ours + ours * millisecond};
+    QCOMPARE(takenByOthers(before, after), taken);
+}
+
+void IndiAnswersTest::ourThreadsAreCounted()
+{
+    constexpr qint64 work = 50000000; // nanoseconds
+    const ProcessorTimes before = ProcessorTimes::now();
+    std::thread([] {
+        timespec run = {};
+        while (run.tv_sec == 0 && run.tv_nsec < work)
+            ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &run);
+    }).join();
+    QVERIFY(ProcessorTimes::now().ours - before.ours >= work);
+}
+
 void IndiAnswersTest::windowAnswers_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<Loss>("loss");
-    for (const char *name : {"quorvandel", "quorvandel-assistant"})
+    QTest::addColumn<bool>("hasVideo");
+    const bool canHaveVideo = QFileInfo::exists(GSC_FOLDER "/indi_test_video");
+    for (const char *name : {"quorvandel", "quorvandel-assistant"}) {
         for (const NamedLoss &one : losses)
-            QTest::addRow("%s, %s", name, one.name) << name << one.loss;
+            QTest::addRow("%s, %s", name, one.name) << name << one.loss << false;
+        if (canHaveVideo)
+            QTest::addRow("%s, video, network cut", name) << name << Loss::Cut << true;
+    }
 }
 
 /// 100 milliseconds are what a person hardly notices. A call that waits for the server or the
@@ -176,6 +241,7 @@ void IndiAnswersTest::windowAnswers()
 {
     QFETCH(QString, name);
     QFETCH(Loss, loss);
+    QFETCH(bool, hasVideo);
     constexpr qint64 bound = 400; // milliseconds; the window's own work on a slow machine is less
     if (name != opened) {
         if (program.close)
@@ -183,6 +249,8 @@ void IndiAnswersTest::windowAnswers()
         opened = name;
         name == "quorvandel" ? openWizard() : openAssistant();
     }
+    if (hasVideo != isVideo)
+        change(hasVideo);
     QVERIFY(pictureComes());
     Lateness lateness;
     QTest::qWait(300);

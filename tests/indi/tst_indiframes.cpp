@@ -7,6 +7,7 @@
 #include "framesources/indiclient.h"
 #include "framesources/indiframe.h"
 #include "pictures/stretch.h"
+#include "tests/indi/blobs.h"
 #include "tests/indi/hostileserver.h"
 #include "tests/indi/indisource.h"
 #include "tests/support/patience.h"
@@ -16,11 +17,6 @@ Q_DECLARE_METATYPE(cv::Mat)
 namespace
 {
 const cv::Size programSize(1280, 960);
-
-QByteArray blobOf(const QByteArray &format, const QByteArray &bytes, int said)
-{
-    return HostileServer::blob(format, QByteArray::number(said), bytes.toBase64());
-}
 
 /// Every row, column and channel differs: nothing that is turned, mirrored or exchanged goes
 /// unnoticed.
@@ -37,53 +33,6 @@ cv::Mat ramp(cv::Size size, int type)
                     out.ptr<ushort>(y)[x * out.channels() + channel] = ushort(value % 65521);
             }
     return out;
-}
-
-QByteArray rawBytes(const cv::Mat &pixels) // little-endian, as streams are
-{
-    return QByteArray(reinterpret_cast<const char *>(pixels.data),
-                      int(pixels.total() * pixels.elemSize()));
-}
-
-QByteArray card(const QByteArray &keyword, const QByteArray &value)
-{
-    return (keyword.leftJustified(8) + "= " + value.rightJustified(20)).leftJustified(80);
-}
-
-/// FITS Standard 4.0, sections 3 and 5: big-endian, unsigned 16 bits by BZERO.
-QByteArray fitsOf(const cv::Mat &grey, const QByteArray &pattern = {})
-{
-    constexpr int block = 2880;
-    const bool isWide = grey.depth() == CV_16U;
-    QByteArray bytes = card("SIMPLE", "T") + card("BITPIX", isWide ? "16" : "8") +
-                       card("NAXIS", "2") + card("NAXIS1", QByteArray::number(grey.cols)) +
-                       card("NAXIS2", QByteArray::number(grey.rows));
-    if (isWide)
-        bytes += card("BZERO", "32768") + card("BSCALE", "1");
-    if (!pattern.isEmpty())
-        bytes += QByteArray("BAYERPAT= '" + pattern + "    '").leftJustified(80);
-    bytes += QByteArray("END").leftJustified(80);
-    bytes = bytes.leftJustified((bytes.size() + block - 1) / block * block);
-    for (int y = 0; y < grey.rows; ++y)
-        for (int x = 0; x < grey.cols; ++x)
-            if (isWide) {
-                const int stored = int(grey.at<ushort>(y, x)) - 32768;
-                bytes.append(char(stored >> 8)).append(char(stored));
-            } else {
-                bytes.append(char(grey.at<uchar>(y, x)));
-            }
-    bytes.append(QByteArray((block - bytes.size() % block) % block, '\0'));
-    return bytes;
-}
-
-virtualsky::CameraAddress addressOf(const HostileServer &server)
-{
-    virtualsky::CameraAddress address;
-    address.source = virtualsky::Source::Indi;
-    address.host = "127.0.0.1";
-    address.port = server.port();
-    address.device = "Camera";
-    return address;
 }
 
 QByteArray zlibOf(const QByteArray &bytes)
@@ -127,8 +76,6 @@ private slots:
     void settingsReachTheServer_data();
     void settingsReachTheServer();
     void pausesGrowAndBeginAgain();
-    void silentStreamIsTriedAgain_data();
-    void silentStreamIsTriedAgain();
 };
 
 void IndiFramesTest::everyPixelIsDecoded_data()
@@ -290,11 +237,16 @@ void IndiFramesTest::settingsReachTheServer_data()
     const QByteArray own = numberDefinition("CCD_GAIN", "GAIN", "0", "400");
     row("gain", 0.05, 25.0, own, "CCD_GAIN", "GAIN", "100");
     row("gain beyond the slider's end", 0.05, 200.0, own, "CCD_GAIN", "GAIN", "400");
-    row("rate of the video", 0.05, 50.0,
-        "<defSwitchVector name='CCD_VIDEO_STREAM' device='Camera' state='Ok' perm='rw' "
-        "rule='OneOfMany'><defSwitch name='STREAM_ON'>Off</defSwitch></defSwitchVector>" +
-            numberDefinition("LIMITS", "LIMITS_PREVIEW_FPS", "1", "120"),
-        "LIMITS", "LIMITS_PREVIEW_FPS", "50");
+    const auto rate = [&row](const char *name, const char *least, const char *most,
+                             const char *value) {
+        row(name, 0.05, 50.0,
+            "<defSwitchVector name='CCD_VIDEO_STREAM' device='Camera' state='Ok' perm='rw' "
+            "rule='OneOfMany'><defSwitch name='STREAM_ON'>Off</defSwitch></defSwitchVector>" +
+                numberDefinition("LIMITS", "LIMITS_PREVIEW_FPS", least, most),
+            "LIMITS", "LIMITS_PREVIEW_FPS", value);
+    };
+    rate("rate of the video", "1", "120", "50");
+    rate("rate of the video within the device's limits", "1", "30", "30");
     row("gain among other controls", 0.05, 25.0,
         numberDefinition("CCD_CONTROLS", "Gain", "-20", "60"), "CCD_CONTROLS", "Gain", "0");
 }
@@ -334,61 +286,6 @@ void IndiFramesTest::pausesGrowAndBeginAgain()
         QVERIFY2(pause >= wanted[i] && pause < wanted[i] + 0.45,
                  qPrintable(QString("%1: %2 s, not %3").arg(i).arg(pause).arg(wanted[i])));
     }
-}
-
-void IndiFramesTest::silentStreamIsTriedAgain_data()
-{
-    QTest::addColumn<bool>("isSilent"); // when it is tried
-    QTest::addColumn<bool>("isDropped");
-    QTest::addColumn<double>("firstPause"); // seconds
-    QTest::newRow("after a while") << false << false << 1.0;
-    QTest::newRow("after a new connection") << false << true << 3600.0;
-    QTest::newRow("in vain, after a while") << true << false << 1.0;
-    QTest::newRow("in vain, after a new connection") << true << true << 3600.0;
-}
-
-/// With shortened pauses. A frame of the stream is brighter than an exposure.
-void IndiFramesTest::silentStreamIsTriedAgain()
-{
-    QFETCH(bool, isSilent);
-    QFETCH(bool, isDropped);
-    QFETCH(double, firstPause);
-    const cv::Mat dark(24, 40, CV_8UC1, cv::Scalar(50)), bright(24, 40, CV_8UC1, cv::Scalar(200));
-    HostileServer server({}, blobOf(".fits", fitsOf(dark), fitsOf(dark).size()));
-    server.offerStream(blobOf(".stream", rawBytes(bright), bright.rows * bright.cols));
-    framesources::StreamChoice::Pauses pauses;
-    pauses.silence = 0.6;
-    pauses.attempt = isSilent ? 0.3 : 5.0;
-    pauses.connection = 0.5;
-    pauses.first = firstPause;
-    QStringList lines;
-    framesources::IndiCamera camera(
-        addressOf(server), true,
-        [&lines](const std::string &line) { lines.append(QString::fromStdString(line)); }, pauses);
-    framesources::Wish wish;
-    wish.exposureSeconds = 0.05;
-    wish.wanted = true;
-    const auto comes = [&](int value) { // such a frame
-        return comesTrue([&] {
-            const auto frame = camera.next(wish);
-            return frame && frame->pixels.at<uchar>(0, 0) == value;
-        });
-    };
-    server.mute(true);
-    QVERIFY2(comes(50), qPrintable(lines.join("\n")));
-    const auto tries = [&server] { return server.heard().count("'STREAM_ON'>On"); };
-    server.mute(isSilent);
-    if (isDropped)
-        server.drop();
-    if (!isSilent) {
-        QVERIFY2(comes(200), qPrintable(lines.join("\n")));
-        QCOMPARE(lines.last(), QString("the video stream has frames again"));
-    } else {
-        QTRY_VERIFY((camera.next(wish), tries() >= 2));
-        QVERIFY2(comes(50), qPrintable(lines.join("\n"))); // one that was waiting, perhaps
-        QVERIFY2(comes(50), qPrintable(lines.join("\n")));
-    }
-    QCOMPARE(server.connections(), isDropped ? 2 : 1);
 }
 
 QTEST_GUILESS_MAIN(IndiFramesTest)

@@ -26,6 +26,8 @@ private slots:
     void newConnectionIsAReason();
     void failedTryIsNoReasonAtTheNextConnection();
     void steadyStreamBeginsAgain();
+    void lossBeforeTheFirstFrameIsAFailure();
+    void lossAfterAFrameIsNone();
 };
 
 void StreamChoiceTest::unwantedIsNeverUsed()
@@ -123,6 +125,33 @@ void StreamChoiceTest::steadyStreamBeginsAgain()
     (void)choice.came(at(2221.0));
     (void)choice.fell(at(2222.0));
     QVERIFY(choice.isUsed(at(2222.0 + 60.0)));
+}
+
+/// A driver that ends whenever its video is switched on.
+void StreamChoiceTest::lossBeforeTheFirstFrameIsAFailure()
+{
+    StreamChoice choice(true, {});
+    double now = 1000.0;
+    for (const double pause : {5.0, 120.0, 240.0, 480.0}) { // the first by the new connection
+        choice.began();
+        QCOMPARE(choice.lost(at(now)), now == 1000.0);
+        choice.connected(at(now));
+        QVERIFY(!choice.isUsed(at(now + pause - 0.1)));
+        now += pause;
+        QVERIFY(choice.isUsed(at(now)));
+    }
+}
+
+void StreamChoiceTest::lossAfterAFrameIsNone()
+{
+    StreamChoice choice(true, {});
+    choice.began();
+    (void)choice.came(at(1000.0));
+    QVERIFY(!choice.lost(at(1001.0)));
+    QVERIFY(choice.isUsed(at(1001.0)));
+    choice.began(); // the frame was of the connection before
+    QVERIFY(choice.lost(at(1002.0)));
+    QVERIFY(!choice.isUsed(at(1002.0)));
 }
 
 QTEST_GUILESS_MAIN(StreamChoiceTest)

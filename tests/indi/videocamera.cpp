@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 // A camera for INDI's server, on INDI's own library for drivers: 1280 x 960 pixels of 8 bits, with
-// video of 30 frames a second and single exposures.
+// video of 30 frames a second and single exposures. With VIDEO_CAMERA_DIES in its environment it
+// ends when video is switched on.
 #include <atomic>
 #include <chrono>
+#include <cstdlib>
 #include <libindi/indiccd.h>
 #include <libindi/stream/streammanager.h>
 #include <thread>
@@ -18,7 +20,11 @@ class VideoCamera : public INDI::CCD
 public:
     ~VideoCamera() override { StopStreaming(); }
 
-    const char *getDefaultName() override { return "Video Camera"; }
+    const char *getDefaultName() override
+    {
+        const char *const name = std::getenv("VIDEO_CAMERA_NAME");
+        return name ? name : "Video Camera";
+    }
 
     bool initProperties() override
     {
@@ -68,6 +74,8 @@ public:
 
     bool StartStreaming() override
     {
+        if (std::getenv("VIDEO_CAMERA_DIES"))
+            std::_Exit(1);
         StopStreaming();
         isStreaming = true;
         thread = std::thread([this] {
