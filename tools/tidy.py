@@ -7,13 +7,13 @@
 BUILD is a build folder with a compile_commands.json, CONFIG the file with the checks, FOLDERS a regular
 expression for the folders, relative to the project's root.
 
-clang-tidy spends nearly all its time on the toolkit's headers, so sources of one folder that are
-compiled with the same options are read as one file. Sources that define the same name at file scope
-are kept apart. Where that is not enough and a joined file does not compile, its sources are
-checked one by one.
+clang-tidy spends nearly all its time on the toolkit's headers, so many sources are read as one file,
+with the options of them all. Sources that define the same name at file scope, or whose options
+contradict each other, are kept apart. Where that is not enough and a joined file does not compile, its
+halves are checked by themselves.
 """
-import collections
 import concurrent.futures
+import functools
 import json
 import os
 import re
@@ -27,82 +27,136 @@ COMMENT_OR_STRING = re.compile(r'//[^\n]*|/\*.*?\*/|"(?:\\.|[^"\\\n])*"', re.S)
 NAMED = re.compile(
     r"^(?:class|struct|union|enum(?: class)?|using(?= +\w+ =)|#define) +(\w+)"  # types and macros
     r"|^(?!using|namespace)[A-Za-z_][^#;={}()\n]*?[ *&>](\w+)(?:\[[^\]]*\])* *(?:\(|=|\{|;)", re.M)
-JOINED_MOST = 12
+INCLUDED = re.compile(r'^#include "([^"]+\.h)"', re.M)
+JOINED_MOST = 24
 
 
-def names(path):
-    """What a source defines at the left margin, which is the file scope, and its namespaces'."""
+def text_of(path):
     with open(path, encoding="utf-8") as file:
-        text = COMMENT_OR_STRING.sub('""', file.read())
-    return {name for match in NAMED.finditer(text) for name in match.groups() if name} - {"main"}
+        return file.read()
 
 
-def sources(build, folders):
-    """(folder, options) -> sources, each once."""
-    wanted = re.compile(folders)
-    found = collections.defaultdict(list)
-    seen = set()
-    with open(os.path.join(build, "compile_commands.json"), encoding="utf-8") as file:
-        commands = json.load(file)
-    for entry in commands:
-        path = os.path.relpath(os.path.join(entry["directory"], entry["file"]))
-        folder = os.path.dirname(path)
-        if path in seen or not wanted.fullmatch(folder):
-            continue
-        seen.add(path)
-        found[folder, DROPPED.sub("", entry["command"]), entry["directory"]].append(path)
+@functools.lru_cache(None)
+def names(path):
+    """name -> file, for what a source defines at the left margin, which is the file scope, and its
+    namespaces', and for the headers of tests and benchmarks that it includes."""
+    text = text_of(path)
+    own = {name for match in NAMED.finditer(COMMENT_OR_STRING.sub('""', text))
+           for name in match.groups() if name}
+    found = {name: path for name in own - {"main"}}
+    for header in INCLUDED.findall(text):
+        for place in (header, os.path.join(os.path.dirname(path), header)):
+            if "/" in os.path.dirname(place) and os.path.isfile(place):
+                found.update(names(os.path.normpath(place)))
     return found
 
 
-def joined(paths):
-    """Groups of sources that define different names."""
+class Options:
+    """A compiler's options, as those that must be equal and those that can be joined: definitions of
+    different macros, and folders of headers."""
+
+    def __init__(self, command):
+        self.fixed, self.macros, self.folders = [], {}, {}
+        words = iter(shlex.split(command)[1:])
+        for word in words:
+            if word.startswith("-D"):
+                macro, _, value = word[2:].partition("=")
+                self.macros[macro] = value
+            elif word.startswith("-I"):
+                self.folders[word] = [word]
+            elif word == "-isystem":
+                folder = next(words)
+                self.folders[folder] = [word, folder]
+            else:
+                self.fixed.append(word)
+
+    def fits(self, other):
+        """Whether they can be joined. Texts may differ: those are paths, which no check looks at."""
+        return self.fixed == other.fixed and all(
+            value == self.macros.get(macro, value) or value.startswith('"')
+            for macro, value in other.macros.items())
+
+    def join(self, other):
+        self.macros = {**other.macros, **self.macros}
+        self.folders.update(other.folders)
+
+    def words(self):
+        return (self.fixed + [f"-D{macro}={value}" if value else f"-D{macro}"
+                              for macro, value in self.macros.items()]
+                + [word for words in self.folders.values() for word in words])
+
+
+def sources(build, folders):
+    """(path, options, folder of the build) of each source, once."""
+    wanted = re.compile(folders)
+    seen = set()
+    for entry in json.loads(text_of(os.path.join(build, "compile_commands.json"))):
+        path = os.path.relpath(os.path.join(entry["directory"], entry["file"]))
+        if path not in seen and wanted.fullmatch(os.path.dirname(path)):
+            seen.add(path)
+            yield path, Options(DROPPED.sub("", entry["command"])), entry["directory"]
+
+
+class Group:
+    """Sources that define different names and are compiled with options that fit."""
+
+    def __init__(self, options, directory):
+        self.paths, self.names, self.options, self.directory = [], {}, options, directory
+
+    def accepts(self, path, options):
+        return (len(self.paths) < JOINED_MOST and self.options.fits(options) and
+                all(self.names.get(name, file) == file for name, file in names(path).items()))
+
+    def add(self, path, options):
+        self.paths.append(path)
+        self.names.update(names(path))
+        self.options.join(options)
+
+
+def joined(found):
     groups = []
-    for path in sorted(paths):
-        own = names(path)
-        for group in groups:
-            if len(group[0]) < JOINED_MOST and not own & group[1]:
-                group[0].append(path)
-                group[1].update(own)
-                break
-        else:
-            groups.append(([path], set(own)))
-    return [group[0] for group in groups]
+    for path, options, directory in sorted(found, key=lambda each: each[0]):
+        group = next((each for each in groups if each.accepts(path, options)), None)
+        if group is None:
+            group = Group(options, directory)
+            groups.append(group)
+        group.add(path, options)
+    return groups
 
 
 class Run:
-    def __init__(self, number, key, paths, config, folders):
-        self.folder, self.command, self.directory = key
-        self.paths, self.config, self.folders = paths, config, folders
-        self.file = os.path.abspath(f"build/tidy/{self.folder.replace('/', '-')}-{number}.cpp")
+    def __init__(self, number, group, config, folders):
+        self.paths, self.options, self.directory = group.paths, group.options.words(), group.directory
+        self.config, self.folders = config, folders
+        self.file = os.path.abspath(f"build/tidy/{number}.cpp")
 
-    def tidy(self, paths, file):
-        with open(file, "w", encoding="utf-8") as text:
+    def tidy(self, paths):
+        with open(self.file, "w", encoding="utf-8") as text:
             for number, path in enumerate(paths):
                 text.write(f"#undef main\n#define main main_{number}\n")
                 text.write(f'#include "{os.path.abspath(path)}"\n')
         filters = "|".join(re.escape(os.path.abspath(path)) for path in paths)
         headers = re.escape(os.getcwd()) + f"/({self.folders})/[^/]*\\.h"
-        options = shlex.split(self.command)[1:]
         return subprocess.run(
             ["clang-tidy", "--quiet", f"--config-file={self.config}",
-             f"--header-filter=^({filters}|{headers})$", file, "--"] + options,
+             f"--header-filter=^({filters}|{headers})$", self.file, "--"] + self.options,
             cwd=self.directory, text=True, stdout=subprocess.PIPE, stderr=subprocess.PIPE, check=False)
 
-    def result(self):
+    def result(self, paths=None):
         """What is wrong with these sources; empty = nothing."""
-        runs = [self.tidy(self.paths, self.file)]
-        if "[clang-diagnostic-error]" in runs[0].stdout and len(self.paths) > 1:
-            runs = [self.tidy([path], self.file) for path in self.paths]
-        return "".join(run.stdout or run.stderr for run in runs if run.returncode != 0)
+        paths = paths or self.paths
+        run = self.tidy(paths)
+        if "[clang-diagnostic-error]" in run.stdout and len(paths) > 1:
+            half = len(paths) // 2
+            return self.result(paths[:half]) + self.result(paths[half:])
+        return (run.stdout or run.stderr) if run.returncode != 0 else ""
 
 
 def main():
     build, config, folders = sys.argv[1:]
     os.makedirs("build/tidy", exist_ok=True)
-    runs = []
-    for key, paths in sources(build, folders).items():
-        for group in joined(paths):
-            runs.append(Run(len(runs), key, group, os.path.abspath(config), folders))
+    runs = [Run(number, group, os.path.abspath(config), folders)
+            for number, group in enumerate(joined(sources(build, folders)))]
     if not runs:
         sys.exit(f"no sources in {folders}")
     runs.sort(key=lambda run: -len(run.paths))
