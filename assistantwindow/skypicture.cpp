@@ -45,9 +45,9 @@ SkyPicture::SkyPicture(QWidget *parent)
 void SkyPicture::show(const Snapshot &snapshot, const std::optional<BoltLegs> &legs)
 {
     ways = legs;
-    if (snapshot.status.frame != brightFrame || bright.isNull() || snapshot.picture.isNull()) {
+    if (const qint64 key = snapshot.picture.cacheKey(); key != brightKey) {
         bright = brightened(snapshot.picture);
-        brightFrame = snapshot.status.frame;
+        brightKey = key;
     }
     shown = snapshot;
     const auto &error = shown.status.error;

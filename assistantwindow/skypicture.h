@@ -46,8 +46,8 @@ private:
     void placeButton();
 
     Snapshot shown;
-    QImage bright; ///< of the frame `brightFrame`
-    std::uint64_t brightFrame = 0;
+    QImage bright;        ///< of the picture whose cache key is `brightKey`
+    qint64 brightKey = 0; ///< 0 for none
     std::optional<BoltLegs> ways;
     QString caption, captionReason;
     QPushButton *dismissButton;

@@ -71,11 +71,16 @@ QImage brightened(const QImage &picture)
     const bool isGrey = picture.format() == QImage::Format_Grayscale8;
     QImage result = isGrey ? QImage(picture.size(), QImage::Format_RGB888)
                            : picture.convertToFormat(QImage::Format_RGB888);
-    for (int y = 0; y < result.height(); ++y) {
-        const uchar *const grey = picture.constScanLine(y);
-        uchar *const line = result.scanLine(y);
-        for (int x = 0; x < 3 * result.width(); ++x)
-            line[x] = curve[isGrey ? grey[x / 3] : line[x]];
+    const int width = result.width(), height = result.height();
+    for (int y = 0; y < height; ++y) {
+        uchar *out = result.scanLine(y);
+        if (isGrey) {
+            const uchar *const grey = picture.constScanLine(y);
+            for (int x = 0; x < width; ++x, out += 3)
+                out[0] = out[1] = out[2] = curve[grey[x]];
+        } else {
+            std::transform(out, out + 3 * width, out, [&curve](uchar v) { return curve[v]; });
+        }
     }
     return result;
 }

@@ -22,7 +22,6 @@ private slots:
     void boltsAreNoTurn();
     void cameraSlipsInTheAxisStage();
     void cameraSlipsWhileTheBoltsTurn();
-    void turnsAreNoSlips();
     void wrongHemisphere();
     void clockJumps_data();
     void clockJumps();
@@ -290,28 +289,6 @@ void GuideFaultsTest::cameraSlipsWhileTheBoltsTurn()
     QVERIFY(reported);
     QVERIFY(status.stage == Stage::Bolts);
     QVERIFY(isTrue(status, mount));
-}
-
-/// Bolts at rest, turned before and turned after: the axis' turn alone is no slip.
-void GuideFaultsTest::turnsAreNoSlips()
-{
-    constexpr std::uint64_t starts = 5;
-    for (std::uint64_t start = 200; start < 200 + starts; ++start) {
-        const virtualsky::SkyState sky = startingSky(start);
-        PaintedMount mount(sky, settingsFor(sky));
-        QVERIFY(turnAxisAsTold(mount));
-        for (int i = 0; i < 90; ++i) {
-            virtualsky::SkyState moved = mount.sky();
-            if (i % 30 < 10)
-                moved.boltAltitude -= 0.004;
-            else
-                moved.raAngle += i < 60 ? 0.7 : -0.4;
-            mount.setSky(moved);
-            const Status status = mount.next();
-            QVERIFY2(!says(status, AdviceCode::AxisSlipped), qPrintable(QString::number(start)));
-            QVERIFY(status.stage == Stage::Bolts);
-        }
-    }
 }
 
 void GuideFaultsTest::wrongHemisphere()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Can every control be used with a finger alone and with the keyboard alone, and is the red theme
 // red in every pixel?
+#include "tests/assistantwindow/light.h"
 #include "tests/assistantwindow/shownscene.h"
 #include "tests/support/textroom.h"
 
@@ -77,25 +78,6 @@ QRect handleOf(QSlider &slider)
             QTest::mouseRelease(&slider, Qt::LeftButton, {}, {x, y});
         }
     return area;
-}
-
-/// How many pixels are not purely red.
-int coloured(const QImage &image)
-{
-    int count = 0;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            count += qGreen(image.pixel(x, y)) != 0 || qBlue(image.pixel(x, y)) != 0 ? 1 : 0;
-    return count;
-}
-
-bool isLit(const QImage &image)
-{
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            if (qRed(image.pixel(x, y)) > 100)
-                return true;
-    return false;
 }
 } // namespace
 
@@ -199,8 +181,8 @@ void AssistantControlsTest::redThemeHasOnlyRed()
     const QImage image = screenImage(*shown.window);
     QCOMPARE(shown.window->size(), smallScreen);
     QCOMPARE(image.size(), smallScreen);
-    QVERIFY(isLit(image));
-    QCOMPARE(coloured(image), 0);
+    QVERIFY(lightOf(image).bright > 0);
+    QCOMPARE(lightOf(image).coloured, 0);
 }
 
 void AssistantControlsTest::listAndToolTipAreRed()
@@ -212,8 +194,8 @@ void AssistantControlsTest::listAndToolTipAreRed()
     QTRY_VERIFY(QApplication::activePopupWidget());
     QWidget &list = *QApplication::activePopupWidget();
     const QImage image = screenImage(list);
-    QVERIFY(isLit(image));
-    QCOMPARE(coloured(image), 0);
+    QVERIFY(lightOf(image).bright > 0);
+    QCOMPARE(lightOf(image).coloured, 0);
     camera->hidePopup();
     auto *const settings = shown.window->findChild<QAbstractButton *>("pushButton_settings");
     QToolTip::showText(settings->mapToGlobal(settings->rect().center()), settings->toolTip(),
@@ -224,14 +206,14 @@ void AssistantControlsTest::listAndToolTipAreRed()
             tip = window;
     QVERIFY(tip);
     const QImage text = tip->grab().toImage(); // it may close at any time
-    QVERIFY(isLit(text));
-    QCOMPARE(coloured(text), 0);
+    QVERIFY(lightOf(text).bright > 0);
+    QCOMPARE(lightOf(text).coloured, 0);
 }
 
 void AssistantControlsTest::normalThemeHasOtherColours()
 {
     const ShownScene shown(scenes::numberOf("connect"));
-    QVERIFY(coloured(screenImage(*shown.window)) > 1000);
+    QVERIFY(lightOf(screenImage(*shown.window)).coloured > 1000);
 }
 
 void AssistantControlsTest::largeViewCanBeReadFromFar_data()

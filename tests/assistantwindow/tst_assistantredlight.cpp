@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Is everything that the red theme's window opens purely red: tool tips, lists, menus, and the
 // moment of the switch? Can a finger hit what it opens?
+#include "tests/assistantwindow/light.h"
 #include "tests/assistantwindow/shownscene.h"
 #include "tests/support/textroom.h"
 #include "tests/support/toolkitwalk.h"
@@ -23,23 +24,6 @@ static void initialiseResources()
 namespace
 {
 constexpr int finger = 40; // pixels
-
-struct Light {
-    int coloured = 0; ///< pixels with green or blue
-    int bright = 0;   ///< pixels that can be seen
-};
-
-Light lightOf(const QImage &image)
-{
-    Light light;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x) {
-            const QRgb pixel = image.pixel(x, y);
-            light.coloured += qGreen(pixel) != 0 || qBlue(pixel) != 0 ? 1 : 0;
-            light.bright += qRed(pixel) > 100 ? 1 : 0;
-        }
-    return light;
-}
 
 QList<QWidget *> visibleIn(const QWidget &window)
 {
