@@ -27,6 +27,8 @@ COMMENT_OR_STRING = re.compile(r'//[^\n]*|/\*.*?\*/|"(?:\\.|[^"\\\n])*"', re.S)
 NAMED = re.compile(
     r"^(?:class|struct|union|enum(?: class)?|using(?= +\w+ =)|#define) +(\w+)"  # types and macros
     r"|^(?!using|namespace)[A-Za-z_][^#;={}()\n]*?[ *&>](\w+)(?:\[[^\]]*\])* *(?:\(|=|\{|;)", re.M)
+OPENED = re.compile(r"^using namespace ([\w:]+);", re.M)
+BROUGHT = re.compile(r"^using ([\w:]+::(\w+));", re.M)
 INCLUDED = re.compile(r'^#include "([^"]+\.h)"', re.M)
 JOINED_MOST = 24
 
@@ -38,17 +40,24 @@ def text_of(path):
 
 @functools.lru_cache(None)
 def names(path):
-    """name -> file, for what a source defines at the left margin, which is the file scope, and its
-    namespaces', and for the headers of tests and benchmarks that it includes."""
+    """name -> origin, for what a source defines or brings by `using` at the left margin, which is the file
+    scope and its namespaces', and for the headers of tests and benchmarks that it includes."""
     text = text_of(path)
     own = {name for match in NAMED.finditer(COMMENT_OR_STRING.sub('""', text))
            for name in match.groups() if name}
     found = {name: path for name in own - {"main"}}
+    found.update((name, whole) for whole, name in BROUGHT.findall(text))
     for header in INCLUDED.findall(text):
         for place in (header, os.path.join(os.path.dirname(path), header)):
             if "/" in os.path.dirname(place) and os.path.isfile(place):
                 found.update(names(os.path.normpath(place)))
     return found
+
+
+@functools.lru_cache(None)
+def opened(path):
+    """The namespaces that a source opens."""
+    return frozenset(OPENED.findall(text_of(path)))
 
 
 class Options:
@@ -98,13 +107,14 @@ def sources(build, folders):
 
 
 class Group:
-    """Sources that define different names and are compiled with options that fit."""
+    """Sources that define different names, open the same namespaces and have options that fit."""
 
     def __init__(self, options, directory):
         self.paths, self.names, self.options, self.directory = [], {}, options, directory
 
     def accepts(self, path, options):
         return (len(self.paths) < JOINED_MOST and self.options.fits(options) and
+                opened(path) == opened(self.paths[0]) and
                 all(self.names.get(name, file) == file for name, file in names(path).items()))
 
     def add(self, path, options):
