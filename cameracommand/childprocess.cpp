@@ -91,8 +91,11 @@ private:
 
     bool hasEnded()
     {
-        if (!isOver)
-            isOver = ::waitpid(child, &status, WNOHANG) == child;
+        if (isOver)
+            return true;
+        const pid_t ended = ::waitpid(child, &status, WNOHANG);
+        isStatusKnown = ended == child;
+        isOver = isStatusKnown || (ended < 0 && errno != EINTR); // or other code has waited for it
         return isOver;
     }
 
@@ -110,6 +113,8 @@ private:
     }
     std::string howItEnded() const
     {
+        if (!isStatusKnown)
+            return "it ends its process" + inCall();
         if (WIFSIGNALED(status))
             return "it crashes" + inCall() + ": " + ::strsignal(WTERMSIG(status));
         return "it ends its process" + inCall() + ", with status " +
@@ -124,7 +129,8 @@ private:
         if (isOver)
             return;
         ::kill(child, SIGKILL);
-        ::waitpid(child, &status, 0);
+        while (::waitpid(child, &status, 0) < 0 && errno == EINTR)
+            continue;
     }
 
     const pid_t child;
@@ -132,8 +138,9 @@ private:
     const std::chrono::milliseconds patience;
     ChildEnd result;
     std::string unread;
-    bool isFinished = false; // it told its status
-    bool isOver = false;     // the process
+    bool isFinished = false;    // it told its status
+    bool isOver = false;        // the process; its number may be another's from now on
+    bool isStatusKnown = false; // of a process that is over
     int status = 0;
 };
 
@@ -193,6 +200,8 @@ ChildEnd runInChild(const std::function<int(const ChildReport &)> &work,
         end.fault = std::strerror(errno);
         return end;
     }
+    // Who started this process may have ignored the signal: then no child leaves a status.
+    std::signal(SIGCHLD, SIG_DFL);
     const pid_t parent = ::getpid();
     const pid_t child = ::fork();
     if (child == 0) {

@@ -39,7 +39,8 @@ struct ChildEnd {
 
 /// Runs the work in a child process, which then ends by exit(), so that libraries give back what
 /// they hold; what they do then does not count. Only calls that the child announced count as
-/// hanging. The child ends with its parent. Call it before any thread starts.
+/// hanging. The child ends with its parent. Call it before any thread starts. SIGCHLD is at its
+/// default from then on.
 /// @param patience for each call
 ChildEnd runInChild(const std::function<int(const ChildReport &)> &work,
                     std::chrono::milliseconds patience);

@@ -5,6 +5,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 #include "cameracommand/childprocess.h"
@@ -18,6 +19,7 @@ class ChildProcessTest : public QObject
 private slots:
     void ends_data();
     void ends();
+    void endsWithoutAStatus();
     void linesOutliveACrash();
     void endsWithItsParent();
     void cleanup();
@@ -36,6 +38,10 @@ void ChildProcessTest::ends_data()
     QTest::addColumn<bool>("inCall");
     QTest::addColumn<bool>("returns");
     QTest::addColumn<QByteArray>("fault");
+    for (const QByteArray way : {"return", "crash"})
+        QTest::addRow("SIGCHLD is ignored: %s", way.constData())
+            << way << (way == "crash") << (way == "return")
+            << QByteArray(way == "crash" ? "it crashes in Scan: Segmentation fault" : "");
     QTest::newRow("returns") << QByteArray("return") << false << true << QByteArray();
     QTest::newRow("a slow call") << QByteArray("slow") << true << true << QByteArray();
     QTest::newRow("own work, longer than the patience")
@@ -70,11 +76,35 @@ void ChildProcessTest::ends()
             ::_exit(3);
         return 7;
     };
+    if (QByteArray(QTest::currentDataTag()).startsWith("SIGCHLD is ignored"))
+        std::signal(SIGCHLD, SIG_IGN); // as a program inherits it
+    QElapsedTimer passed;
+    passed.start();
     const ChildEnd end = runInChild(work, std::chrono::milliseconds(1000));
+    QVERIFY2(way != "return" || passed.elapsed() < 1500,
+             qPrintable(QString::number(passed.elapsed())));
     QCOMPARE(end.fate, returns ? Fate::Returned : Fate::Failed);
     QCOMPARE(end.status, returns ? 7 : 0);
     QCOMPARE(QByteArray::fromStdString(end.fault), fault);
     QCOMPARE(end.call, std::string(inCall ? "Scan" : ""));
+}
+
+/// Other code takes it: a number that is nobody's any more is neither awaited nor killed.
+void ChildProcessTest::endsWithoutAStatus()
+{
+    const auto work = [](const ChildReport &) {
+        ::_exit(3);
+        return 0;
+    };
+    std::thread other([] {
+        for (int i = 0; i < 20000 && ::waitpid(-1, nullptr, 0) < 0; ++i)
+            ::usleep(500);
+    });
+    const ChildEnd end = runInChild(work, std::chrono::milliseconds(1000));
+    other.join();
+    QCOMPARE(end.fate, Fate::Failed);
+    QVERIFY2(QByteArray::fromStdString(end.fault).startsWith("it ends its process"),
+             end.fault.c_str());
 }
 
 void ChildProcessTest::linesOutliveACrash()
