@@ -6,6 +6,7 @@
 #include <memory>
 #include <opencv2/imgcodecs.hpp>
 #include <opencv2/imgproc.hpp>
+#include <unistd.h>
 
 #include "pictures/fitsfile.h"
 #include "pictures/picturefile.h"
@@ -28,6 +29,8 @@ private slots:
     void checkWritesTheLens();
     void checkOfACoarseLens_data();
     void checkOfACoarseLens();
+    void checkWritesWithoutAReader_data();
+    void checkWritesWithoutAReader();
     void checkSaysWhatDoesNotLast();
     void checkFailsWithoutStars();
     void recordsFrames();
@@ -234,6 +237,40 @@ void CameraCommandTest::checkOfACoarseLens()
     QVERIFY2(checked.output.contains("\ntoo coarse for the star templates: frames are enlarged 4 "
                                      "times at most\n") == isTooCoarse,
              qPrintable(checked.output));
+}
+
+void CameraCommandTest::checkWritesWithoutAReader_data()
+{
+    QTest::addColumn<bool>("isNamed"); // the camera; then the maker's library is not used
+    QTest::newRow("a camera that is named") << true;
+    QTest::newRow("the sky file's camera") << false;
+}
+
+/// As in "quorvandel-camera check | head -1".
+void CameraCommandTest::checkWritesWithoutAReader()
+{
+    QFETCH(bool, isNamed);
+    const QString text = "[camera]\nsource = files\nfiles = " + path("a.png") + '\n';
+    QVERIFY(virtualsky::writeAtomically(path("sky.ini").toStdString(), text.toStdString()));
+    QVERIFY(cv::imwrite(path("a.png").toStdString(), photograph));
+    QTest::qWait(400); // files younger than that may still be being written
+    const auto closeReader = [] {
+        int pipe[2];
+        if (::pipe(pipe) == 0 && ::dup2(pipe[1], STDOUT_FILENO) >= 0) {
+            ::close(pipe[0]);
+            ::close(pipe[1]);
+        }
+    };
+    const QStringList camera = {"--camera", "files:" + path("a.png")};
+    const Result checked =
+        run((isNamed ? camera : QStringList()) + QStringList{"check"}, CAMERA_PROGRAM, closeReader);
+    QCOMPARE(checked.errors, QString());
+    QCOMPARE(checked.status, 0);
+    QFile file(path("sky.ini"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray after = file.readAll();
+    QVERIFY2(after.contains("\nscale = 20.") && after.contains("\nmirrored = true"),
+             after.constData());
 }
 
 void CameraCommandTest::checkSaysWhatDoesNotLast()
