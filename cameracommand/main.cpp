@@ -12,6 +12,7 @@ int main(int argc, char *argv[])
 {
     // Whoever reads the output may leave before the values are in the sky file.
     std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN); // a file that grows too large is a write that fails
     cv::utils::logging::setLogLevel(cv::utils::logging::LOG_LEVEL_SILENT);
     const CameraCommandLine wishes = parseCameraCommandLine({argv + 1, argv + argc});
     QCoreApplication application(argc, argv); // tells where the shipped library is

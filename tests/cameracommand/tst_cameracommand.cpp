@@ -6,6 +6,7 @@
 #include <memory>
 #include <opencv2/imgcodecs.hpp>
 #include <opencv2/imgproc.hpp>
+#include <sys/resource.h>
 #include <unistd.h>
 
 #include "pictures/fitsfile.h"
@@ -34,6 +35,8 @@ private slots:
     void checkSaysWhatDoesNotLast();
     void checkFailsWithoutStars();
     void recordsFrames();
+    void keepsTheEarlierFile_data();
+    void keepsTheEarlierFile();
     void badCommands_data();
     void badCommands();
     void refusesABadEnvironment_data();
@@ -317,6 +320,41 @@ void CameraCommandTest::recordsFrames()
     QCOMPARE(run({"--camera", "sky", "record", path("night"), "--frames", "2"}).status, 0);
     QCOMPARE(QFileInfo(path("night/frame-000002.fits")).lastModified(), before);
     QCOMPARE(QDir(path("night")).entryList(QDir::Files).last(), QString("frame-000004.fits"));
+}
+
+void CameraCommandTest::keepsTheEarlierFile_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("name"); // of the file that cannot be written
+    QTest::addColumn<QStringList>("left");
+    QTest::newRow("PNG") << QStringList{"grab", "a.png"} << "a.png" << QStringList{"a.png"};
+    QTest::newRow("FITS") << QStringList{"grab", "a.fits"} << "a.fits" << QStringList{"a.fits"};
+    QTest::newRow("a frame of a folder")
+        << QStringList{"record", "."} << "./frame-000001.fits" << QStringList();
+}
+
+/// As on a full device: no part of a file is left, and the one of before stays.
+void CameraCommandTest::keepsTheEarlierFile()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, name);
+    QFETCH(QStringList, left);
+    QVERIFY(QDir(path(".")).mkdir("target"));
+    const auto inTarget = [this](const QString &one) { return path("target/" + one); };
+    QVERIFY(left.isEmpty() || virtualsky::writeAtomically(inTarget(name).toStdString(), "before"));
+    const auto limitFiles = [] {
+        const rlimit few{50000, 50000}; // bytes
+        ::setrlimit(RLIMIT_FSIZE, &few);
+    };
+    const QStringList command = {arguments[0], inTarget(arguments[1])};
+    const Result result = run(QStringList{"--camera", "sky", "--exposure", "500"} + command,
+                              CAMERA_PROGRAM, limitFiles);
+    QCOMPARE(result.errors,
+             "quorvandel-camera: " + inTarget(name) + ": it cannot be written: File too large\n");
+    QCOMPARE(result.status, 1);
+    QCOMPARE(QDir(path("target")).entryList(QDir::Files | QDir::Hidden), left);
+    QFile file(inTarget(name));
+    QVERIFY(left.isEmpty() || (file.open(QIODevice::ReadOnly) && file.readAll() == "before"));
 }
 
 void CameraCommandTest::badCommands_data()
