@@ -3,6 +3,7 @@
 #include "framesources/indicamera.h"
 
 #include <algorithm>
+#include <cmath>
 #include <thread>
 
 #include "framesources/indirequests.h"
@@ -166,8 +167,8 @@ void IndiCamera::applyReadout(const Wish &wish)
     const Readout wanted = planReadout(sensor, most, wish.scale, wish.whole);
     if (wanted != readout)
         readoutsSent = 0;
-    else if (!binning || int(binning->value) == wanted.binning || readoutsSent >= readoutTries ||
-             seconds(Clock::now() - readoutSent) < readoutPatience)
+    else if (!binning || std::floor(binning->value) == wanted.binning ||
+             readoutsSent >= readoutTries || seconds(Clock::now() - readoutSent) < readoutPatience)
         return;
     stopFrames();
     readout = wanted;

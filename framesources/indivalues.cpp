@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <cstdint>
 #include <iterator>
 #include <zlib.h>
@@ -140,6 +141,8 @@ std::optional<double> parseNumber(std::string_view text)
             break;
         text.remove_prefix(1);
     }
+    if (!std::isfinite(total)) // "nan", "inf", and a sum of parts that is too great
+        return std::nullopt;
     return isNegative ? -total : total;
 }
 
