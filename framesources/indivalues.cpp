@@ -42,12 +42,16 @@ bool isOneOf(std::string_view tag, std::string_view prefix)
 
 void takeState(XMLEle *message, IndiState &state)
 {
-    static const std::map<std::string, IndiState> states = {{"Idle", IndiState::Idle},
-                                                            {"Ok", IndiState::Ok},
-                                                            {"Busy", IndiState::Busy},
-                                                            {"Alert", IndiState::Alert}};
-    if (const auto found = states.find(attribute(message, "state")); found != states.end())
-        state = found->second;
+    // Nothing of it is destroyed: a camera's thread may outlive main().
+    static constexpr std::pair<std::string_view, IndiState> states[] = {
+        {"Idle", IndiState::Idle},
+        {"Ok", IndiState::Ok},
+        {"Busy", IndiState::Busy},
+        {"Alert", IndiState::Alert}};
+    const std::string_view name = findXMLAttValu(message, "state");
+    for (const auto &[text, meant] : states)
+        if (name == text)
+            state = meant;
 }
 
 void addName(std::vector<std::string> &names, const std::string &name)
