@@ -30,7 +30,7 @@ enum Mark : char { Call = 'c', Line = 'l', End = 'e' };
 class Listener
 {
 public:
-    Listener(pid_t childProcess, int descriptor, std::chrono::milliseconds forEachCall)
+    Listener(pid_t childProcess, int descriptor, const Patience &forEachCall)
         : child(childProcess), pipe(descriptor), patience(forEachCall)
     {
     }
@@ -40,7 +40,7 @@ public:
         // Counted by looks and not by a clock: neither process may have run meanwhile.
         std::chrono::milliseconds silence(0);
         // The pipe may stay open: a library may have started processes.
-        while (!isFinished && (hasEnded() || silence < patience)) {
+        while (!isFinished && (hasEnded() || silence < patience(result.call))) {
             const bool wasOver = isOver;
             const bool isNews = read(wasOver ? std::chrono::milliseconds(0) : look);
             silence = isNews || result.call.empty() ? std::chrono::milliseconds(0) : silence + look;
@@ -107,7 +107,8 @@ private:
     }
     std::string howItHangs() const
     {
-        const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(patience);
+        const auto seconds =
+            std::chrono::duration_cast<std::chrono::seconds>(patience(result.call));
         return "it does not return within " + std::to_string(seconds.count()) + " seconds" +
                inCall();
     }
@@ -135,7 +136,7 @@ private:
 
     const pid_t child;
     const int pipe;
-    const std::chrono::milliseconds patience;
+    const Patience &patience;
     ChildEnd result;
     std::string unread;
     bool isFinished = false;    // it told its status
@@ -190,8 +191,7 @@ void ChildReport::finish(int status) const
     write(End, std::to_string(status));
 }
 
-ChildEnd runInChild(const std::function<int(const ChildReport &)> &work,
-                    std::chrono::milliseconds patience)
+ChildEnd runInChild(const std::function<int(const ChildReport &)> &work, const Patience &patience)
 {
     std::fflush(nullptr); // or the child prints it again
     ChildEnd end;

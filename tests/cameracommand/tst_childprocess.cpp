@@ -9,6 +9,7 @@
 #include <unistd.h>
 
 #include "cameracommand/childprocess.h"
+#include "cameracommand/libraryguard.h"
 
 using Fate = ChildEnd::Fate;
 
@@ -20,6 +21,9 @@ private slots:
     void ends_data();
     void ends();
     void endsWithoutAStatus();
+    void eachCallHasItsPatience();
+    void patienceWithTheLibrary_data();
+    void patienceWithTheLibrary();
     void linesOutliveACrash();
     void endsWithItsParent();
     void cleanup();
@@ -105,6 +109,49 @@ void ChildProcessTest::endsWithoutAStatus()
     QCOMPARE(end.fate, Fate::Failed);
     QVERIFY2(QByteArray::fromStdString(end.fault).startsWith("it ends its process"),
              end.fault.c_str());
+}
+
+void ChildProcessTest::eachCallHasItsPatience()
+{
+    const auto work = [](const ChildReport &report) {
+        for (const char *call : {"Open", "Scan"}) {
+            report.call(call);
+            ::usleep(1500000);
+        }
+        return 0;
+    };
+    const auto patience = [](const std::string &call) {
+        return std::chrono::milliseconds(call == "Open" ? 60000 : 1000);
+    };
+    QCOMPARE(runInChild(work, patience).fault,
+             std::string("it does not return within 1 seconds in Scan"));
+}
+
+void ChildProcessTest::patienceWithTheLibrary_data()
+{
+    QTest::addColumn<QByteArray>("call");
+    QTest::addColumn<double>("exposure"); // seconds
+    QTest::addColumn<int>("patience");    // milliseconds
+    const auto row = [](const char *call, double exposure, int patience) {
+        QTest::addRow("%s, %g s", call, exposure) << QByteArray(call) << exposure << patience;
+    };
+    for (const char *call : {"", "loading", "ScanVELDIX", "GetVELDIXLiveFrame"}) {
+        row(call, 0.0, 10000);
+        row(call, 1.0, 12000);
+        row(call, 30.0, 70000);
+    }
+    for (const char *call : {"OpenVELDIX", "InitVELDIX"}) {
+        row(call, 0.0, 30000);
+        row(call, 30.0, 90000);
+    }
+}
+
+void ChildProcessTest::patienceWithTheLibrary()
+{
+    QFETCH(QByteArray, call);
+    QFETCH(double, exposure);
+    QFETCH(int, patience);
+    QCOMPARE(patienceFor(call.toStdString(), exposure).count(), std::int64_t(patience));
 }
 
 void ChildProcessTest::linesOutliveACrash()

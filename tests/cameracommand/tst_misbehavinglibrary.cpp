@@ -137,7 +137,7 @@ void MisbehavingLibraryTest::commandsOutliveTheMakersLibrary()
 /// One for each command; they wait for ten seconds while the other tests run.
 void MisbehavingLibraryTest::startHanging()
 {
-    const char *const calls[] = {"ScanVELDIX", "InitVELDIXResource", "OpenVELDIX"};
+    const char *const calls[] = {"ScanVELDIX", "InitVELDIXResource", "BeginVELDIXLive"};
     int number = 0;
     for (const char *command : {"grab", "record", "check"}) {
         auto process = std::make_unique<QProcess>();
@@ -159,7 +159,7 @@ void MisbehavingLibraryTest::commandsLeaveAHangingLibrary_data()
     QTest::newRow("record") << "record"
                             << "InitVELDIXResource";
     QTest::newRow("check") << "check"
-                           << "OpenVELDIX";
+                           << "BeginVELDIXLive";
 }
 
 void MisbehavingLibraryTest::commandsLeaveAHangingLibrary()
