@@ -7,9 +7,9 @@
 
 namespace pictures
 {
-/// Writes a file of another name in the same folder and renames it once all bytes are there. An
-/// earlier file stays until then; its permissions are kept. A link is followed to a file that
-/// exists. The process must ignore SIGXFSZ.
+/// Writes a file without a name, or with a temporary one, in the same folder; it gets its name once
+/// all bytes are there. An earlier file stays until then; its permissions are kept. A link is
+/// followed to a file that exists. The process must ignore SIGXFSZ.
 /// @return what went wrong; empty = nothing
 std::string writeWhole(const std::string &path, std::string_view bytes);
 } // namespace pictures
