@@ -78,8 +78,11 @@ struct AxisProgress {
     bool isEarly = false;
     recognition::Covariance covariance; ///< pixels squared
     double sigmaArcseconds = 0.0;
-    double turnedDegrees = 0.0; ///< greatest minus least angle of all sharp frames
-    std::size_t frames = 0;     ///< that count: sharp, and not more of one place than needed
+    /// Greatest minus least angle of the first frames of all kept places.
+    double turnedDegrees = 0.0;
+    /// That count: sharp, not more of one place than needed, and without those that show the axis
+    /// elsewhere than the first ones.
+    std::size_t frames = 0;
     bool enough = false;
 };
 

@@ -30,7 +30,7 @@ enum Mark : char { Call = 'c', Line = 'l', End = 'e' };
 class Listener
 {
 public:
-    Listener(pid_t childProcess, int descriptor, std::chrono::milliseconds forEachCall)
+    Listener(pid_t childProcess, int descriptor, const Patience &forEachCall)
         : child(childProcess), pipe(descriptor), patience(forEachCall)
     {
     }
@@ -40,7 +40,7 @@ public:
         // Counted by looks and not by a clock: neither process may have run meanwhile.
         std::chrono::milliseconds silence(0);
         // The pipe may stay open: a library may have started processes.
-        while (!isFinished && (hasEnded() || silence < patience)) {
+        while (!isFinished && (hasEnded() || silence < patience(result.call))) {
             const bool wasOver = isOver;
             const bool isNews = read(wasOver ? std::chrono::milliseconds(0) : look);
             silence = isNews || result.call.empty() ? std::chrono::milliseconds(0) : silence + look;
@@ -91,8 +91,11 @@ private:
 
     bool hasEnded()
     {
-        if (!isOver)
-            isOver = ::waitpid(child, &status, WNOHANG) == child;
+        if (isOver)
+            return true;
+        const pid_t ended = ::waitpid(child, &status, WNOHANG);
+        isStatusKnown = ended == child;
+        isOver = isStatusKnown || (ended < 0 && errno != EINTR); // or other code has waited for it
         return isOver;
     }
 
@@ -104,12 +107,15 @@ private:
     }
     std::string howItHangs() const
     {
-        const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(patience);
+        const auto seconds =
+            std::chrono::duration_cast<std::chrono::seconds>(patience(result.call));
         return "it does not return within " + std::to_string(seconds.count()) + " seconds" +
                inCall();
     }
     std::string howItEnded() const
     {
+        if (!isStatusKnown)
+            return "it ends its process" + inCall();
         if (WIFSIGNALED(status))
             return "it crashes" + inCall() + ": " + ::strsignal(WTERMSIG(status));
         return "it ends its process" + inCall() + ", with status " +
@@ -124,16 +130,18 @@ private:
         if (isOver)
             return;
         ::kill(child, SIGKILL);
-        ::waitpid(child, &status, 0);
+        while (::waitpid(child, &status, 0) < 0 && errno == EINTR)
+            continue;
     }
 
     const pid_t child;
     const int pipe;
-    const std::chrono::milliseconds patience;
+    const Patience &patience;
     ChildEnd result;
     std::string unread;
-    bool isFinished = false; // it told its status
-    bool isOver = false;     // the process
+    bool isFinished = false;    // it told its status
+    bool isOver = false;        // the process; its number may be another's from now on
+    bool isStatusKnown = false; // of a process that is over
     int status = 0;
 };
 
@@ -183,8 +191,7 @@ void ChildReport::finish(int status) const
     write(End, std::to_string(status));
 }
 
-ChildEnd runInChild(const std::function<int(const ChildReport &)> &work,
-                    std::chrono::milliseconds patience)
+ChildEnd runInChild(const std::function<int(const ChildReport &)> &work, const Patience &patience)
 {
     std::fflush(nullptr); // or the child prints it again
     ChildEnd end;
@@ -193,6 +200,8 @@ ChildEnd runInChild(const std::function<int(const ChildReport &)> &work,
         end.fault = std::strerror(errno);
         return end;
     }
+    // Who started this process may have ignored the signal: then no child leaves a status.
+    std::signal(SIGCHLD, SIG_DFL);
     const pid_t parent = ::getpid();
     const pid_t child = ::fork();
     if (child == 0) {

@@ -37,9 +37,18 @@ struct ChildEnd {
     std::vector<std::string> lines; ///< told before that
 };
 
+/// How long a call may take.
+using Patience = std::function<std::chrono::milliseconds(const std::string &call)>;
+
 /// Runs the work in a child process, which then ends by exit(), so that libraries give back what
 /// they hold; what they do then does not count. Only calls that the child announced count as
-/// hanging. The child ends with its parent. Call it before any thread starts.
-/// @param patience for each call
-ChildEnd runInChild(const std::function<int(const ChildReport &)> &work,
-                    std::chrono::milliseconds patience);
+/// hanging. The child ends with its parent. Call it before any thread starts. SIGCHLD is at its
+/// default from then on.
+ChildEnd runInChild(const std::function<int(const ChildReport &)> &work, const Patience &patience);
+
+/// The same with one patience for all calls.
+inline ChildEnd runInChild(const std::function<int(const ChildReport &)> &work,
+                           std::chrono::milliseconds patience)
+{
+    return runInChild(work, [patience](const std::string &) { return patience; });
+}

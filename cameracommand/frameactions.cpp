@@ -5,11 +5,13 @@
 #include <ctime>
 #include <opencv2/imgcodecs.hpp>
 #include <sys/stat.h>
+#include <vector>
 
 #include "cameracommand/actions.h"
 #include "cameracommand/grabbing.h"
 #include "pictures/fitsfile.h"
 #include "pictures/grey.h"
+#include "pictures/wholefile.h"
 
 namespace
 {
@@ -59,12 +61,10 @@ std::string write(const std::string &path, const framesources::NativeFrame &fram
         return pictures::writeFits(path, pixels,
                                    frame.date ? *frame.date : double(std::time(nullptr)), exposure,
                                    raw ? frame.pattern : std::string());
-    try {
-        if (cv::imwrite(path, pixels))
-            return {};
-    } catch (const std::exception &) { // no format that it knows
-    }
-    return "it cannot be written";
+    std::vector<unsigned char> bytes;
+    if (!cv::imencode(".png", pixels, bytes))
+        return "it cannot be encoded";
+    return pictures::writeWhole(path, {reinterpret_cast<const char *>(bytes.data()), bytes.size()});
 }
 } // namespace
 

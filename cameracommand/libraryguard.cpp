@@ -2,7 +2,7 @@
 // Observes the calls of a command in a child process.
 #include "cameracommand/libraryguard.h"
 
-#include <chrono>
+#include <cmath>
 #include <cstdlib>
 
 #include "camera/veldix.h"
@@ -19,14 +19,14 @@ bool isShippedLibraryAsked(const CameraCommandLine &wishes)
     const char *const variable = std::getenv(virtualsky::cameraVariable);
     return wishes.camera || (variable && *variable);
 }
-
-/// For each call: some return only with the next frame.
-std::chrono::milliseconds patienceFor(const CameraCommandLine &wishes)
-{
-    constexpr std::chrono::seconds least(10);
-    return least + 2 * std::chrono::milliseconds(long(1000.0 * wishes.exposureSeconds));
-}
 } // namespace
+
+std::chrono::milliseconds patienceFor(const std::string &call, double exposureSeconds)
+{
+    const bool opens = call == "OpenVELDIX" || call == "InitVELDIX";
+    const std::chrono::seconds least(opens ? 30 : 10);
+    return least + 2 * std::chrono::milliseconds(std::llround(1000.0 * exposureSeconds));
+}
 
 int runGuarded(int (*command)(const CameraCommandLine &), const CameraCommandLine &wishes)
 {
@@ -37,7 +37,9 @@ int runGuarded(int (*command)(const CameraCommandLine &), const CameraCommandLin
         observeCalls([](const char *operation) { told->call(operation); });
         return command(wishes);
     };
-    const ChildEnd end = runInChild(observed, patienceFor(wishes));
+    const ChildEnd end = runInChild(observed, [&wishes](const std::string &call) {
+        return patienceFor(call, wishes.exposureSeconds);
+    });
     if (end.fate == ChildEnd::Fate::Returned)
         return end.status;
     complain((end.call.empty() ? "the command failed: " : "the camera library cannot be used: ") +

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The command quorvandel-camera: its arguments, and its exit status.
 #include <QCoreApplication>
+#include <csignal>
 #include <cstdio>
 #include <opencv2/core/utils/logger.hpp>
 
@@ -9,6 +10,9 @@
 
 int main(int argc, char *argv[])
 {
+    // Whoever reads the output may leave before the values are in the sky file.
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN); // a file that grows too large is a write that fails
     cv::utils::logging::setLogLevel(cv::utils::logging::LOG_LEVEL_SILENT);
     const CameraCommandLine wishes = parseCameraCommandLine({argv + 1, argv + argc});
     QCoreApplication application(argc, argv); // tells where the shipped library is

@@ -3,6 +3,7 @@
 #include "framesources/indicamera.h"
 
 #include <algorithm>
+#include <cmath>
 #include <thread>
 
 #include "framesources/indirequests.h"
@@ -139,6 +140,7 @@ void IndiCamera::setUp()
     readoutsSent = 0;
     exposure = 0.0;
     silence = {};
+    isFaultSaid = false;
     present = true;
     choice.connected(Clock::now());
     say("connected");
@@ -166,8 +168,8 @@ void IndiCamera::applyReadout(const Wish &wish)
     const Readout wanted = planReadout(sensor, most, wish.scale, wish.whole);
     if (wanted != readout)
         readoutsSent = 0;
-    else if (!binning || int(binning->value) == wanted.binning || readoutsSent >= readoutTries ||
-             seconds(Clock::now() - readoutSent) < readoutPatience)
+    else if (!binning || std::floor(binning->value) == wanted.binning ||
+             readoutsSent >= readoutTries || seconds(Clock::now() - readoutSent) < readoutPatience)
         return;
     stopFrames();
     readout = wanted;
@@ -203,7 +205,7 @@ void IndiCamera::startFrames(const Wish &wish)
         switched.insert("CCD_VIDEO_STREAM"); // on from now on, whatever is defined later
         requestStream(*client, exposure);
         choice.began();
-        isUnreadable = false;
+        isUnreadable = isFaultSaid = false;
         streaming = true;
     } else {
         exposing = requestExposure(*client, exposure);
@@ -216,6 +218,7 @@ void IndiCamera::startFrames(const Wish &wish)
 void IndiCamera::stopFrames()
 {
     requestEnd(*client, streaming, exposing);
+    isFaultSaid &= !streaming;
     streaming = exposing = false;
 }
 
@@ -260,7 +263,9 @@ std::optional<NativeFrame> IndiCamera::takeFrame(const Wish &wish)
     std::optional<NativeFrame> frame = decodeBlob(*blob, streamShape(*client, readout), fault);
     if (!frame) {
         isUnreadable = true;
-        say(fault);
+        if (!isFaultSaid) // the next ones may be of other sizes, 50 a second
+            say(fault);
+        isFaultSaid = true;
         return frame;
     }
     pause = 0.0;

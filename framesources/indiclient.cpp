@@ -2,7 +2,11 @@
 // Reads a server's messages and writes ours.
 #include "framesources/indiclient.h"
 
+#include <algorithm>
 #include <charconv>
+#include <iterator>
+#include <string_view>
+#include <utility>
 
 #include "framesources/indireader.h"
 #include "framesources/indisocket.h"
@@ -19,14 +23,19 @@ constexpr milliseconds longestReading{100}; // on end, of a server that never pa
 
 std::string escaped(const std::string &text)
 {
-    static const std::map<char, const char *> entities = {
+    // Nothing of it is destroyed: a camera's thread may outlive main().
+    static constexpr std::pair<char, std::string_view> entities[] = {
         {'&', "&amp;"}, {'<', "&lt;"}, {'>', "&gt;"}, {'\'', "&apos;"}, {'"', "&quot;"}};
     std::string out;
-    for (const char c : text)
-        if (const auto entity = entities.find(c); entity != entities.end())
+    for (const char c : text) {
+        const auto *const entity =
+            std::find_if(std::begin(entities), std::end(entities),
+                         [c](const auto &candidate) { return candidate.first == c; });
+        if (entity != std::end(entities))
             out += entity->second;
         else
             out += c;
+    }
     return out;
 }
 

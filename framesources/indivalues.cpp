@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <cstdint>
 #include <iterator>
 #include <zlib.h>
@@ -41,12 +42,16 @@ bool isOneOf(std::string_view tag, std::string_view prefix)
 
 void takeState(XMLEle *message, IndiState &state)
 {
-    static const std::map<std::string, IndiState> states = {{"Idle", IndiState::Idle},
-                                                            {"Ok", IndiState::Ok},
-                                                            {"Busy", IndiState::Busy},
-                                                            {"Alert", IndiState::Alert}};
-    if (const auto found = states.find(attribute(message, "state")); found != states.end())
-        state = found->second;
+    // Nothing of it is destroyed: a camera's thread may outlive main().
+    static constexpr std::pair<std::string_view, IndiState> states[] = {
+        {"Idle", IndiState::Idle},
+        {"Ok", IndiState::Ok},
+        {"Busy", IndiState::Busy},
+        {"Alert", IndiState::Alert}};
+    const std::string_view name = findXMLAttValu(message, "state");
+    for (const auto &[text, meant] : states)
+        if (name == text)
+            state = meant;
 }
 
 void addName(std::vector<std::string> &names, const std::string &name)
@@ -140,6 +145,8 @@ std::optional<double> parseNumber(std::string_view text)
             break;
         text.remove_prefix(1);
     }
+    if (!std::isfinite(total)) // "nan", "inf", and a sum of parts that is too great
+        return std::nullopt;
     return isNegative ? -total : total;
 }
 

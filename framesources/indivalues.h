@@ -20,7 +20,7 @@ struct EncodedBlob {
     long size = 0;      ///< bytes uncompressed, as the sender says
 };
 
-/// Of a number in a message, such as "12.5" or "-0:30:36", whatever the program's locale.
+/// Of a finite number in a message, such as "12.5" or "-0:30:36", whatever the program's locale.
 std::optional<double> parseNumber(std::string_view text);
 
 /// The bytes of a picture; as far as they can be decoded.

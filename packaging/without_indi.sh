@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Builds the camera library and the camera command without INDI, in build/without-indi, and checks
-# that both run, need nothing of INDI, and say what is missing.
+# Builds the camera library, the camera command and both programs without INDI, in
+# build/without-indi, and checks that they run, need nothing of INDI, and say what is missing.
 #   packaging/without_indi.sh
 set -u
 cd "$(dirname "$0")/.." || exit 1
@@ -34,9 +34,16 @@ check "it is configured" cmake --preset release -B "$build" -DQUORVANDEL_INDI=OF
 check "the configuration says that INDI is left out" \
   grep -qE '^QUORVANDEL_HAS_INDI:INTERNAL=OFF$' "$build/CMakeCache.txt"
 check "it is built" \
-  cmake --build "$build" -j "$(nproc)" --target quorvandel-camera veldix framesourcesmodule
+  cmake --build "$build" -j "$(nproc)" --target \
+  quorvandel-camera veldix framesourcesmodule quorvandel quorvandel-assistant
 check "nothing of it needs INDI's library" \
-  needs_no_indi "$build/bin/quorvandel-camera" "$build/lib/quorvandel/quorvandel-framesources.so"
+  needs_no_indi "$build/bin/quorvandel-camera" "$build/lib/quorvandel/quorvandel-framesources.so" \
+  "$build/bin/quorvandel" "$build/bin/quorvandel-assistant"
+for program in quorvandel quorvandel-assistant; do
+  check "$program runs, and ends when it is asked to" \
+    env HOME="$scratch/home" QT_QPA_PLATFORM=offscreen \
+    timeout --preserve-status --kill-after 20 5 "$build/bin/$program"
+done
 check "the list says that INDI is missing" says "this program was built without INDI" list
 indi="indi://localhost/CCD Simulator"
 check "a camera of INDI is refused by name" \

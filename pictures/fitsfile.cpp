@@ -4,12 +4,13 @@
 
 #include "pictures/depth.h"
 #include "pictures/grey.h"
+#include "pictures/wholefile.h"
 
 #include <cmath>
+#include <cstdlib>
 #include <cstring>
 #include <fitsio.h>
 #include <opencv2/imgproc.hpp>
-#include <unistd.h>
 #include <vector>
 
 #include "astrometry/utcdate.h"
@@ -181,6 +182,54 @@ std::string fitsFault(int status)
     fits_get_errstatus(status, text);
     return text;
 }
+
+/// A FITS file that is written to memory.
+class NewFits
+{
+public:
+    explicit NewFits(std::size_t dataBytes)
+    {
+        constexpr std::size_t block = 2880, blocks = 4; // of header and padding
+        fits_create_memfile(&file, &data, &allocated, dataBytes + blocks * block, &std::realloc,
+                            &status);
+    }
+    ~NewFits()
+    {
+        close();
+        std::free(data);
+    }
+    NewFits(const NewFits &) = delete;
+    NewFits &operator=(const NewFits &) = delete;
+
+    /// Its bytes; valid while this lives. Nothing is added afterwards.
+    std::string_view finish()
+    {
+        LONGLONG end = 0;
+        fits_get_hduaddrll(file, nullptr, nullptr, &end, &status);
+        close();
+        const bool isWhole = status == 0 && end > 0 && std::size_t(end) <= allocated;
+        if (status == 0 && !isWhole)
+            status = WRITE_ERROR;
+        return {static_cast<const char *>(data), isWhole ? std::size_t(end) : 0};
+    }
+
+    fitsfile *file = nullptr;
+    int status = 0;
+
+private:
+    void close()
+    {
+        int closing = 0;
+        if (file)
+            fits_close_file(file, &closing);
+        file = nullptr;
+        status = status != 0 ? status : closing;
+        fits_clear_errmsg();
+    }
+
+    void *data = nullptr;
+    std::size_t allocated = 0;
+};
 } // namespace
 
 bool isFits(std::string_view bytes)
@@ -235,30 +284,25 @@ std::string writeFits(const std::string &path, const cv::Mat &picture, std::opti
     const cv::Mat pixels = picture.isContinuous() ? picture : picture.clone();
     const bool deep = pixels.depth() == CV_16U;
     long sides[2] = {pixels.cols, pixels.rows};
-    fitsfile *file = nullptr;
-    int status = 0;
-    ::unlink(path.c_str());
-    fits_create_diskfile(&file, path.c_str(), &status);
-    fits_create_img(file, deep ? USHORT_IMG : BYTE_IMG, 2, sides, &status);
+    NewFits fits(pixels.total() * pixels.elemSize());
+    int &status = fits.status;
+    fits_create_img(fits.file, deep ? USHORT_IMG : BYTE_IMG, 2, sides, &status);
     if (date) {
         const std::string begin = astrometry::formatDate(*date - exposure / 2.0);
         const std::string plain = begin.substr(0, begin.size() - 1); // FITS has no Z
-        fits_write_key(file, TSTRING, "DATE-OBS", const_cast<char *>(plain.c_str()),
+        fits_write_key(fits.file, TSTRING, "DATE-OBS", const_cast<char *>(plain.c_str()),
                        "UTC, start of the exposure", &status);
     }
     if (exposure > 0.0)
-        fits_write_key(file, TDOUBLE, "EXPTIME", &exposure, "seconds", &status);
+        fits_write_key(fits.file, TDOUBLE, "EXPTIME", &exposure, "seconds", &status);
     char order[] = "TOP-DOWN";
-    fits_write_key(file, TSTRING, "ROWORDER", order, "the first row is the top one", &status);
+    fits_write_key(fits.file, TSTRING, "ROWORDER", order, "the first row is the top one", &status);
     if (!pattern.empty())
-        fits_write_key(file, TSTRING, "BAYERPAT", const_cast<char *>(pattern.c_str()),
+        fits_write_key(fits.file, TSTRING, "BAYERPAT", const_cast<char *>(pattern.c_str()),
                        "from the top left", &status);
-    fits_write_img(file, deep ? TUSHORT : TBYTE, 1, LONGLONG(pixels.total()),
+    fits_write_img(fits.file, deep ? TUSHORT : TBYTE, 1, LONGLONG(pixels.total()),
                    const_cast<unsigned char *>(pixels.ptr()), &status);
-    int closing = 0;
-    if (file)
-        fits_close_file(file, &closing);
-    fits_clear_errmsg();
-    return status != 0 ? fitsFault(status) : closing != 0 ? fitsFault(closing) : std::string();
+    const std::string_view bytes = fits.finish();
+    return status != 0 ? fitsFault(status) : writeWhole(path, bytes);
 }
 } // namespace pictures

@@ -25,7 +25,7 @@ PictureFile decodeFits(std::string &bytes);
 /// That date alone; the bytes may end behind the header.
 std::optional<double> dateOfFits(std::string &bytes);
 
-/// Writes 8 or 16 bits of one channel; replaces a file of that name.
+/// Writes 8 or 16 bits of one channel; a file of that name is replaced or stays.
 /// @param pattern of a mosaic; empty = it is grey
 /// @param date the middle of the exposure, UTC seconds since 1970
 /// @param exposure seconds; 0 = unknown

@@ -2,8 +2,10 @@
 // Colours to grey.
 #include "pictures/grey.h"
 
+#include <algorithm>
+#include <iterator>
 #include <opencv2/imgproc.hpp>
-#include <set>
+#include <string_view>
 
 namespace pictures
 {
@@ -19,8 +21,8 @@ cv::Mat greyOfMosaic(const cv::Mat &mosaic)
 
 std::string shiftedPattern(const std::string &pattern, int columns, int rows)
 {
-    static const std::set<std::string> known = {"RGGB", "GRBG", "GBRG", "BGGR"};
-    if (known.count(pattern) == 0)
+    static constexpr std::string_view known[] = {"RGGB", "GRBG", "GBRG", "BGGR"};
+    if (std::find(std::begin(known), std::end(known), pattern) == std::end(known))
         return {};
     std::string out;
     for (const int place : {0, 1, 2, 3}) {

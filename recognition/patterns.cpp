@@ -129,11 +129,12 @@ void PatternIndex::sortIntoCells(std::vector<Pattern> &&unsorted)
 
 const HemisphereIndex &hemisphereIndex(Hemisphere hemisphere)
 {
+    // Never destroyed: a thread that recognises may outlive main().
     if (hemisphere == Hemisphere::North) {
-        static const HemisphereIndex north(Hemisphere::North);
-        return north;
+        static const auto *const north = new HemisphereIndex(Hemisphere::North);
+        return *north;
     }
-    static const HemisphereIndex south(Hemisphere::South);
-    return south;
+    static const auto *const south = new HemisphereIndex(Hemisphere::South);
+    return *south;
 }
 } // namespace recognition

@@ -5,15 +5,32 @@
 #include <QProcess>
 #include <QString>
 #include <QStringList>
+#include <functional>
+
+/// Changes its process between fork and exec.
+class PreparedProcess : public QProcess
+{
+public:
+    std::function<void()> prepare;
+
+protected:
+    void setupChildProcess() override
+    {
+        if (prepare)
+            prepare();
+    }
+};
 
 struct Result {
     int status = -1; ///< after a crash
     QString output, errors;
 };
 
-inline Result run(const QStringList &arguments, const char *program = CAMERA_PROGRAM)
+inline Result run(const QStringList &arguments, const char *program = CAMERA_PROGRAM,
+                  const std::function<void()> &prepare = {})
 {
-    QProcess process;
+    PreparedProcess process;
+    process.prepare = prepare;
     process.start(program, arguments);
     process.waitForFinished(120000);
     return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,

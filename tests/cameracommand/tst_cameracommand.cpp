@@ -6,6 +6,8 @@
 #include <memory>
 #include <opencv2/imgcodecs.hpp>
 #include <opencv2/imgproc.hpp>
+#include <sys/resource.h>
+#include <unistd.h>
 
 #include "pictures/fitsfile.h"
 #include "pictures/picturefile.h"
@@ -28,9 +30,13 @@ private slots:
     void checkWritesTheLens();
     void checkOfACoarseLens_data();
     void checkOfACoarseLens();
+    void checkWritesWithoutAReader_data();
+    void checkWritesWithoutAReader();
     void checkSaysWhatDoesNotLast();
     void checkFailsWithoutStars();
     void recordsFrames();
+    void keepsTheEarlierFile_data();
+    void keepsTheEarlierFile();
     void badCommands_data();
     void badCommands();
     void refusesABadEnvironment_data();
@@ -236,6 +242,40 @@ void CameraCommandTest::checkOfACoarseLens()
              qPrintable(checked.output));
 }
 
+void CameraCommandTest::checkWritesWithoutAReader_data()
+{
+    QTest::addColumn<bool>("isNamed"); // the camera; then the maker's library is not used
+    QTest::newRow("a camera that is named") << true;
+    QTest::newRow("the sky file's camera") << false;
+}
+
+/// As in "quorvandel-camera check | head -1".
+void CameraCommandTest::checkWritesWithoutAReader()
+{
+    QFETCH(bool, isNamed);
+    const QString text = "[camera]\nsource = files\nfiles = " + path("a.png") + '\n';
+    QVERIFY(virtualsky::writeAtomically(path("sky.ini").toStdString(), text.toStdString()));
+    QVERIFY(cv::imwrite(path("a.png").toStdString(), photograph));
+    QTest::qWait(400); // files younger than that may still be being written
+    const auto closeReader = [] {
+        int pipe[2];
+        if (::pipe(pipe) == 0 && ::dup2(pipe[1], STDOUT_FILENO) >= 0) {
+            ::close(pipe[0]);
+            ::close(pipe[1]);
+        }
+    };
+    const QStringList camera = {"--camera", "files:" + path("a.png")};
+    const Result checked =
+        run((isNamed ? camera : QStringList()) + QStringList{"check"}, CAMERA_PROGRAM, closeReader);
+    QCOMPARE(checked.errors, QString());
+    QCOMPARE(checked.status, 0);
+    QFile file(path("sky.ini"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray after = file.readAll();
+    QVERIFY2(after.contains("\nscale = 20.") && after.contains("\nmirrored = true"),
+             after.constData());
+}
+
 void CameraCommandTest::checkSaysWhatDoesNotLast()
 {
     const QByteArray before = qgetenv("XDG_RUNTIME_DIR");
@@ -280,6 +320,41 @@ void CameraCommandTest::recordsFrames()
     QCOMPARE(run({"--camera", "sky", "record", path("night"), "--frames", "2"}).status, 0);
     QCOMPARE(QFileInfo(path("night/frame-000002.fits")).lastModified(), before);
     QCOMPARE(QDir(path("night")).entryList(QDir::Files).last(), QString("frame-000004.fits"));
+}
+
+void CameraCommandTest::keepsTheEarlierFile_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("name"); // of the file that cannot be written
+    QTest::addColumn<QStringList>("left");
+    QTest::newRow("PNG") << QStringList{"grab", "a.png"} << "a.png" << QStringList{"a.png"};
+    QTest::newRow("FITS") << QStringList{"grab", "a.fits"} << "a.fits" << QStringList{"a.fits"};
+    QTest::newRow("a frame of a folder")
+        << QStringList{"record", "."} << "./frame-000001.fits" << QStringList();
+}
+
+/// As on a full device: no part of a file is left, and the one of before stays.
+void CameraCommandTest::keepsTheEarlierFile()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, name);
+    QFETCH(QStringList, left);
+    QVERIFY(QDir(path(".")).mkdir("target"));
+    const auto inTarget = [this](const QString &one) { return path("target/" + one); };
+    QVERIFY(left.isEmpty() || virtualsky::writeAtomically(inTarget(name).toStdString(), "before"));
+    const auto limitFiles = [] {
+        const rlimit few{50000, 50000}; // bytes
+        ::setrlimit(RLIMIT_FSIZE, &few);
+    };
+    const QStringList command = {arguments[0], inTarget(arguments[1])};
+    const Result result = run(QStringList{"--camera", "sky", "--exposure", "500"} + command,
+                              CAMERA_PROGRAM, limitFiles);
+    QCOMPARE(result.errors,
+             "quorvandel-camera: " + inTarget(name) + ": it cannot be written: File too large\n");
+    QCOMPARE(result.status, 1);
+    QCOMPARE(QDir(path("target")).entryList(QDir::Files | QDir::Hidden), left);
+    QFile file(inTarget(name));
+    QVERIFY(left.isEmpty() || (file.open(QIODevice::ReadOnly) && file.readAll() == "before"));
 }
 
 void CameraCommandTest::badCommands_data()

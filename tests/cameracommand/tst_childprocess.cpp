@@ -5,9 +5,11 @@
 #include <csignal>
 #include <cstdlib>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 #include "cameracommand/childprocess.h"
+#include "cameracommand/libraryguard.h"
 
 using Fate = ChildEnd::Fate;
 
@@ -18,6 +20,10 @@ class ChildProcessTest : public QObject
 private slots:
     void ends_data();
     void ends();
+    void endsWithoutAStatus();
+    void eachCallHasItsPatience();
+    void patienceWithTheLibrary_data();
+    void patienceWithTheLibrary();
     void linesOutliveACrash();
     void endsWithItsParent();
     void cleanup();
@@ -36,6 +42,10 @@ void ChildProcessTest::ends_data()
     QTest::addColumn<bool>("inCall");
     QTest::addColumn<bool>("returns");
     QTest::addColumn<QByteArray>("fault");
+    for (const QByteArray way : {"return", "crash"})
+        QTest::addRow("SIGCHLD is ignored: %s", way.constData())
+            << way << (way == "crash") << (way == "return")
+            << QByteArray(way == "crash" ? "it crashes in Scan: Segmentation fault" : "");
     QTest::newRow("returns") << QByteArray("return") << false << true << QByteArray();
     QTest::newRow("a slow call") << QByteArray("slow") << true << true << QByteArray();
     QTest::newRow("own work, longer than the patience")
@@ -70,11 +80,78 @@ void ChildProcessTest::ends()
             ::_exit(3);
         return 7;
     };
+    if (QByteArray(QTest::currentDataTag()).startsWith("SIGCHLD is ignored"))
+        std::signal(SIGCHLD, SIG_IGN); // as a program inherits it
+    QElapsedTimer passed;
+    passed.start();
     const ChildEnd end = runInChild(work, std::chrono::milliseconds(1000));
+    QVERIFY2(way != "return" || passed.elapsed() < 1500,
+             qPrintable(QString::number(passed.elapsed())));
     QCOMPARE(end.fate, returns ? Fate::Returned : Fate::Failed);
     QCOMPARE(end.status, returns ? 7 : 0);
     QCOMPARE(QByteArray::fromStdString(end.fault), fault);
     QCOMPARE(end.call, std::string(inCall ? "Scan" : ""));
+}
+
+/// Other code takes it: a number that is nobody's any more is neither awaited nor killed.
+void ChildProcessTest::endsWithoutAStatus()
+{
+    const auto work = [](const ChildReport &) {
+        ::_exit(3);
+        return 0;
+    };
+    std::thread other([] {
+        for (int i = 0; i < 20000 && ::waitpid(-1, nullptr, 0) < 0; ++i)
+            ::usleep(500);
+    });
+    const ChildEnd end = runInChild(work, std::chrono::milliseconds(1000));
+    other.join();
+    QCOMPARE(end.fate, Fate::Failed);
+    QVERIFY2(QByteArray::fromStdString(end.fault).startsWith("it ends its process"),
+             end.fault.c_str());
+}
+
+void ChildProcessTest::eachCallHasItsPatience()
+{
+    const auto work = [](const ChildReport &report) {
+        for (const char *call : {"Open", "Scan"}) {
+            report.call(call);
+            ::usleep(1500000);
+        }
+        return 0;
+    };
+    const auto patience = [](const std::string &call) {
+        return std::chrono::milliseconds(call == "Open" ? 60000 : 1000);
+    };
+    QCOMPARE(runInChild(work, patience).fault,
+             std::string("it does not return within 1 seconds in Scan"));
+}
+
+void ChildProcessTest::patienceWithTheLibrary_data()
+{
+    QTest::addColumn<QByteArray>("call");
+    QTest::addColumn<double>("exposure"); // seconds
+    QTest::addColumn<int>("patience");    // milliseconds
+    const auto row = [](const char *call, double exposure, int patience) {
+        QTest::addRow("%s, %g s", call, exposure) << QByteArray(call) << exposure << patience;
+    };
+    for (const char *call : {"", "loading", "ScanVELDIX", "GetVELDIXLiveFrame"}) {
+        row(call, 0.0, 10000);
+        row(call, 1.0, 12000);
+        row(call, 30.0, 70000);
+    }
+    for (const char *call : {"OpenVELDIX", "InitVELDIX"}) {
+        row(call, 0.0, 30000);
+        row(call, 30.0, 90000);
+    }
+}
+
+void ChildProcessTest::patienceWithTheLibrary()
+{
+    QFETCH(QByteArray, call);
+    QFETCH(double, exposure);
+    QFETCH(int, patience);
+    QCOMPARE(patienceFor(call.toStdString(), exposure).count(), std::int64_t(patience));
 }
 
 void ChildProcessTest::linesOutliveACrash()

@@ -3,10 +3,23 @@
 // call?
 #include <QTemporaryDir>
 #include <QtTest>
+#include <csignal>
 #include <map>
 #include <memory>
+#include <unistd.h>
 
+#include "pictures/picturefile.h"
 #include "tests/cameracommand/commandrun.h"
+
+namespace
+{
+/// Whether nobody but its parent may still have it.
+bool hasEnded(const QByteArray &process)
+{
+    QFile file("/proc/" + process + "/stat");
+    return !file.open(QIODevice::ReadOnly) || file.readAll().contains(") Z ");
+}
+} // namespace
 
 class MisbehavingLibraryTest : public QObject
 {
@@ -21,6 +34,8 @@ private slots:
     void commandsOutliveTheMakersLibrary();
     void commandsLeaveAHangingLibrary_data();
     void commandsLeaveAHangingLibrary();
+    void endsAtAnInterrupt_data();
+    void endsAtAnInterrupt();
     void cleanupTestCase() { hanging.clear(); }
 
 private:
@@ -137,7 +152,7 @@ void MisbehavingLibraryTest::commandsOutliveTheMakersLibrary()
 /// One for each command; they wait for ten seconds while the other tests run.
 void MisbehavingLibraryTest::startHanging()
 {
-    const char *const calls[] = {"ScanVELDIX", "InitVELDIXResource", "OpenVELDIX"};
+    const char *const calls[] = {"ScanVELDIX", "InitVELDIXResource", "BeginVELDIXLive"};
     int number = 0;
     for (const char *command : {"grab", "record", "check"}) {
         auto process = std::make_unique<QProcess>();
@@ -159,7 +174,7 @@ void MisbehavingLibraryTest::commandsLeaveAHangingLibrary_data()
     QTest::newRow("record") << "record"
                             << "InitVELDIXResource";
     QTest::newRow("check") << "check"
-                           << "OpenVELDIX";
+                           << "BeginVELDIXLive";
 }
 
 void MisbehavingLibraryTest::commandsLeaveAHangingLibrary()
@@ -175,6 +190,46 @@ void MisbehavingLibraryTest::commandsLeaveAHangingLibrary()
                          "return within 10 seconds in " +
                          call + '\n';
     QVERIFY2(errors.endsWith(line.toUtf8()), errors.constData());
+}
+
+void MisbehavingLibraryTest::endsAtAnInterrupt_data()
+{
+    QTest::addColumn<QString>("way");
+    QTest::addColumn<bool>("hasFrames");
+    QTest::newRow("while frames are written") << "well" << true;
+    QTest::newRow("in a call that hangs") << "hangs in GetVELDIXLiveFrame" << false;
+}
+
+/// By the keyboard, which signals to the command and its child at once.
+void MisbehavingLibraryTest::endsAtAnInterrupt()
+{
+    QFETCH(QString, way);
+    QFETCH(bool, hasFrames);
+    PreparedProcess process;
+    process.prepare = [] { ::setpgid(0, 0); };
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("LD_LIBRARY_PATH", MISBEHAVING_FOLDER);
+    environment.insert("MISBEHAVING_SDK", way);
+    process.setProcessEnvironment(environment);
+    process.start(CAMERA_PROGRAM, {"record", path("night"), "--frames", "1000"});
+    const QDir night(path("night"));
+    const auto files = [&night] { return night.entryList(QDir::Files | QDir::Hidden); };
+    QTRY_VERIFY_WITH_TIMEOUT(hasFrames ? files().size() > 2 : night.exists(), 60000);
+    const auto group = pid_t(process.processId());
+    QFile children(QString("/proc/%1/task/%1/children").arg(group));
+    QVERIFY(children.open(QIODevice::ReadOnly));
+    const QByteArray child = children.readAll().trimmed();
+    QVERIFY(child.toInt() > 0);
+    QCOMPARE(::kill(-group, SIGINT), 0);
+    QVERIFY(process.waitForFinished(60000));
+    QCOMPARE(process.exitStatus(), QProcess::CrashExit);
+    QCOMPARE(process.exitCode(), SIGINT);
+    QCOMPARE(process.readAllStandardError(), QByteArray());
+    QTRY_VERIFY(hasEnded(child));
+    for (const QString &name : files()) {
+        const PictureFile picture = readPicture(night.filePath(name).toStdString());
+        QVERIFY2(picture.complaint.empty(), qPrintable(name));
+    }
 }
 
 QTEST_GUILESS_MAIN(MisbehavingLibraryTest)

@@ -57,6 +57,7 @@ public:
     /// Ends each connection after so many good frames, 0: at once, -1: not at all.
     void leaveAfter(int frames) { framesAllowed = frames; }
     /// From now on each client is told of video, with these frames; an exposure has one good frame.
+    /// Once a client has been told, its video has other frames at once.
     void offerStream(const QByteArray &frame)
     {
         define("<defSwitchVector name='CCD_VIDEO_STREAM' device='Camera' state='Ok' perm='rw' "
@@ -65,6 +66,7 @@ public:
         const QMutexLocker lock(&mutex);
         streamed = frame;
     }
+    int streamedFrames() const { return streamedSoFar; }
     /// Whether video has no frames.
     void mute(bool on) { isMute = on; }
     /// From now on no client is told of exposures.
@@ -180,7 +182,7 @@ private:
         int frames = 0;
         Clock::time_point sent = Clock::now();
         const int before = drops;
-        const QByteArray video = streamedFrame();
+        const bool hasVideo = !streamedFrame().isEmpty();
         bool isVideoOn = false, hadVideo = false, isExposing = false;
         while (!stop && isRenamed == renamed && drops == before) {
             pollfd wait = {client, POLLIN, 0};
@@ -200,11 +202,12 @@ private:
             if (!done || Clock::now() - sent < std::chrono::milliseconds(pause))
                 continue;
             sent = Clock::now();
-            if (!video.isEmpty()) {
+            if (hasVideo) {
                 const bool isVideo = isVideoOn || (hadVideo && lingers);
-                if (isVideo ? !isMute && !send(client, video, renamed)
+                if (isVideo ? !isMute && !send(client, streamedFrame(), renamed)
                             : isExposing && !send(client, good, renamed))
                     return;
+                streamedSoFar += isVideo && !isMute ? 1 : 0;
                 isExposing &= isVideo;
                 continue;
             }
@@ -219,7 +222,7 @@ private:
     std::atomic<bool> stop{false};
     std::atomic<bool> isRenamed{false};
     std::atomic<int> harms{0}, clients{0};
-    std::atomic<int> framesAllowed{-1}, drops{0};
+    std::atomic<int> framesAllowed{-1}, drops{0}, streamedSoFar{0};
     std::atomic<bool> isMute{false}, lingers{false}, hasExposures{true};
     mutable QMutex mutex; // guards what follows
     QByteArray more, said, streamed;

@@ -77,9 +77,12 @@ public:
         ::mkfifo(fifo().constData(), 0600);
         process = std::make_unique<ServerProcess>();
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("PATH", GSC_FOLDER ":" + environment.value("PATH"));
+        environment.insert("PATH", folder + ':' + environment.value("PATH"));
         environment.insert("HOME", home.path()); // the drivers keep their settings there
-        environment.insert("LD_PRELOAD", GSC_FOLDER "/libloopbackbind.so");
+        // By its name: paths that are preloaded end at blanks.
+        environment.insert("LD_PRELOAD", "libloopbackbind.so");
+        environment.insert("LD_LIBRARY_PATH",
+                           folder + ':' + environment.value("LD_LIBRARY_PATH", folder));
         for (auto variable = variables.begin(); variable != variables.end(); ++variable)
             environment.insert(variable.key(), variable.value());
         process->setProcessEnvironment(environment);
@@ -232,6 +235,8 @@ public:
     const quint16 port;
     /// Of the server and its drivers; set before `start`.
     QMap<QString, QString> variables;
+    /// Of our programs and our library for the server; set before `start`.
+    QString folder = GSC_FOLDER;
 
 private:
     static constexpr double pixel = 3.75;       // micrometres

@@ -98,6 +98,12 @@ void IndiHostileTest::goodFramesComeThrough_data()
     row("negative sensor",
         "<setNumberVector device='Camera' name='CCD_INFO'><oneNumber name='CCD_MAX_X'>-5"
         "</oneNumber><oneNumber name='CCD_MAX_Y'>-1e300</oneNumber></setNumberVector>\n");
+    for (const char *value : {"nan", "inf", "1e300", "-1e300", "1e999"})
+        row(qPrintable(QString("a binning of %1").arg(value)),
+            QByteArray("<defNumberVector device='Camera' name='CCD_BINNING'>"
+                       "<defNumber name='HOR_BIN' min='VALUE' max='VALUE'>VALUE</defNumber>"
+                       "</defNumberVector>\n")
+                .replace("VALUE", value));
     row("device taken back", "<delProperty device='Camera'/>\n");
     row("property taken back", "<delProperty device='Camera' name='CCD1'/>\n");
     row("no XML", randomBytes(5000, 9));

@@ -115,6 +115,7 @@ private slots:
     void videoEndsWithTheSource();
 
 private:
+    const QTemporaryDir links;
     IndiServer server;
     IndiServer lens; ///< its stars are no single pixels
 };
@@ -126,7 +127,10 @@ void IndiSensorsTest::initTestCase()
     QVERIFY(server.start());
     QVERIFY(server.listensOnLoopbackAlone());
     lens.variables["GSC_SPREAD"] = "1";
+    lens.folder = links.filePath("a checkout with blanks");
+    QVERIFY(QFile::link(GSC_FOLDER, lens.folder));
     QVERIFY(lens.start());
+    QVERIFY(lens.listensOnLoopbackAlone());
 }
 
 void IndiSensorsTest::recognisedAtTheProgramsScale_data()

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "framesources/indisettings.h"
+#include "framesources/indivalues.h"
 #include "framesources/threadedsource.h"
 
 using framesources::Readout;
@@ -24,6 +25,8 @@ private slots:
     void limits();
     void serial_data();
     void serial();
+    void number_data();
+    void number();
 };
 
 void IndiSettingsTest::readout_data()
@@ -160,6 +163,32 @@ void IndiSettingsTest::serial()
     QTEST(serial, "expected");
     const QRegularExpression form("^[A-Za-z0-9_]{1,26}$");
     QVERIFY(form.match(QString::fromLatin1(serial)).hasMatch());
+}
+
+void IndiSettingsTest::number_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<bool>("isNumber");
+    QTest::addColumn<double>("value");
+    const auto row = [](const char *text, double value) {
+        QTest::newRow(text) << QByteArray(text) << true << value;
+    };
+    row(" 12.5\n", 12.5);
+    row("-0:30:36", -0.51);
+    row("1e300", 1e300);
+    for (const char *text :
+         {"", "x", "nan", "-nan", "inf", "-infinity", "1e999", "12:nan", "1.79e308:1e308"})
+        QTest::newRow(text) << QByteArray(text) << false << 0.0;
+}
+
+void IndiSettingsTest::number()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(bool, isNumber);
+    QFETCH(double, value);
+    const auto number = framesources::parseNumber(text.toStdString());
+    QCOMPARE(bool(number), isNumber);
+    QVERIFY(!isNumber || std::abs(*number - value) <= 1e-12 * std::abs(value));
 }
 
 QTEST_GUILESS_MAIN(IndiSettingsTest)

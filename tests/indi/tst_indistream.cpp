@@ -66,6 +66,7 @@ private slots:
     void silentStreamIsTriedAgain_data();
     void silentStreamIsTriedAgain();
     void unreadableStreamGivesWay();
+    void eachStreamHasOneLineOfFaults();
     void ownWorkIsNoSilence();
     void lateFramesAnswerNoExposure();
     void videoThatEndsItsDriver();
@@ -123,6 +124,29 @@ void IndiStreamTest::unreadableStreamGivesWay()
              (QStringList{
                  "connected", "a streamed frame of 936 bytes does not fit 40 x 24 pixels",
                  "the video stream has no frames that can be read; single exposures are used"}));
+}
+
+/// Whatever its frames lack, and although good ones come in between.
+void IndiStreamTest::eachStreamHasOneLineOfFaults()
+{
+    Video video({}, streamedFrame({39, 24}));
+    const auto streamSome = [&video](int width) {
+        video.server.offerStream(streamedFrame({width, 24}));
+        const int before = video.server.streamedFrames();
+        QTRY_VERIFY((video.camera.next(video.wish), video.server.streamedFrames() > before + 2));
+    };
+    for (const int width : {39, 38, sensorSize.width, 37, 36})
+        streamSome(width);
+    const QStringList first = {"connected",
+                               "a streamed frame of 936 bytes does not fit 40 x 24 pixels"};
+    QCOMPARE(video.lines, first);
+    video.server.drop();
+    QTRY_VERIFY((video.camera.next(video.wish), video.server.connections() == 2));
+    for (const int width : {35, 34})
+        streamSome(width);
+    QCOMPARE(video.lines.mid(first.size() + 1).size(), 2); // behind the loss
+    QCOMPARE(video.lines.at(first.size() + 1), QString("connected"));
+    QVERIFY2(video.lines.last().startsWith("a streamed frame of "), qPrintable(video.lines.last()));
 }
 
 /// The caller may look for stars between two calls, for longer than a stream may be silent.

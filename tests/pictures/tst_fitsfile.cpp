@@ -31,6 +31,7 @@ private slots:
     void writtenAndRead_data();
     void writtenAndRead();
     void writeFaultIsNamed();
+    void replacesWhatALinkNames();
 };
 
 void FitsFileTest::pixels_data()
@@ -195,7 +196,27 @@ void FitsFileTest::writtenAndRead()
 void FitsFileTest::writeFaultIsNamed()
 {
     const cv::Mat picture(10, 10, CV_8UC1, cv::Scalar(1));
-    QVERIFY(!pictures::writeFits("/nowhere/a.fits", picture, {}, 0.0).empty());
+    QCOMPARE(pictures::writeFits("/nowhere/a.fits", picture, {}, 0.0),
+             std::string("it cannot be written: No such file or directory"));
+}
+
+void FitsFileTest::replacesWhatALinkNames()
+{
+    const QTemporaryDir folder;
+    const QString name(250, 'a'), path = folder.filePath(name + ".fit");
+    const QString link = folder.filePath("link.fits");
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("before") == 6);
+    file.close();
+    QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner));
+    QVERIFY(QFile::link(path, link));
+    const cv::Mat picture(10, 10, CV_8UC1, cv::Scalar(1));
+    QCOMPARE(pictures::writeFits(link.toStdString(), picture, {}, 0.0), std::string());
+    QVERIFY(QFileInfo(link).isSymLink());
+    QCOMPARE(cv::norm(readPicture(path.toStdString()).pixels, picture, cv::NORM_INF), 0.0);
+    QCOMPARE(QFileInfo(path).size() % 2880, qint64(0));
+    QVERIFY(!(QFileInfo(path).permissions() & QFile::ReadOther));
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
 }
 
 QTEST_GUILESS_MAIN(FitsFileTest)

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+// How does a file get new bytes, all of them or none?
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace pictures
+{
+/// Writes a file without a name, or with a temporary one, in the same folder; it gets its name once
+/// all bytes are there. An earlier file stays until then; its permissions are kept. A link is
+/// followed to a file that exists. The process must ignore SIGXFSZ.
+/// @return what went wrong; empty = nothing
+std::string writeWhole(const std::string &path, std::string_view bytes);
+} // namespace pictures
