@@ -97,8 +97,9 @@ void FrameRateTest::defaults()
     QCOMPARE(state.roiWidth, 0U);
     state.sdkReady = true;
     state.cameraConnected = true;
+    state.liveMode = true;
     setCameraDefaults(state);
-    QVERIFY(!state.sdkReady && !state.cameraConnected);
+    QVERIFY(!state.sdkReady && !state.cameraConnected && !state.liveMode);
     QCOMPARE(QByteArray(state.cameraId), QByteArray());
     QCOMPARE(state.exposure, 20000.0);
     QCOMPARE(state.gain, 1.0);

@@ -196,7 +196,7 @@ void TemplateOverlayTest::absurdZoom_data()
     QTest::newRow("not a number") << std::numeric_limits<float>::quiet_NaN();
     QTest::newRow("infinite") << std::numeric_limits<float>::infinity();
     QTest::newRow("thousand million") << 1e9f;
-    QTest::newRow("just too large") << 5.13f;
+    QTest::newRow("just too large on one side") << 5.13f;
 }
 
 void TemplateOverlayTest::absurdZoom()
@@ -205,8 +205,9 @@ void TemplateOverlayTest::absurdZoom()
     LogRecorder recorder;
     for (const PlacedTemplate &placed :
          {turnTemplate(mask(north), 30, zoom, {640, 480}),
-          flatTemplate(mask(north), zoom, {640, 480}), turnTemplate(QImage(), 30, 1.0f, {640, 480}),
-          flatTemplate(QImage(), 1.0f, {640, 480})}) {
+          flatTemplate(mask(north), zoom, {640, 480}), flatTemplate(mask(south), zoom, {640, 480}),
+          flatTemplate(mask(south.transposed()), zoom, {640, 480}),
+          turnTemplate(QImage(), 30, 1.0f, {640, 480}), flatTemplate(QImage(), 1.0f, {640, 480})}) {
         QVERIFY(placed.image.isNull());
         QVERIFY(placed.geometry.isNull());
     }

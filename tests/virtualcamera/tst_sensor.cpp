@@ -19,6 +19,8 @@ private slots:
     void imageWidth_data();
     void imageWidth();
     void lightIsIntegratedOverPixels();
+    void faintLightIsLeftOut_data();
+    void faintLightIsLeftOut();
     void backgroundIsDarkGrey();
     void weather_data();
     void weather();
@@ -132,6 +134,33 @@ void SensorTest::lightIsIntegratedOverPixels()
     QVERIFY(std::abs(inside.at(640, 480) - dark - std::min(all, 255.0 - dark)) < 0.07 * all);
     QCOMPARE(between.at(640, 480), between.at(641, 480));
     QVERIFY(std::abs(between.at(640, 480) - dark - std::min(all / 2.0, 255.0 - dark)) < 0.07 * all);
+}
+
+void SensorTest::faintLightIsLeftOut_data()
+{
+    QTest::addColumn<double>("peak"); // electrons in the middle pixel
+    QTest::addColumn<int>("lit");     // pixels
+    QTest::newRow("fainter than the faintest trace") << 0.019 << 1;
+    // It falls to that at sigma * sqrt(2 ln(0.022 / 0.02)) = 1.5, and one pixel is added.
+    QTest::newRow("brighter") << 0.022 << 7 * 7;
+}
+
+/// At a gain that shows much less: 0.02 electrons give 14.
+void SensorTest::faintLightIsLeftOut()
+{
+    QFETCH(double, peak);
+    QFETCH(int, lit);
+    SkyState state = darkState();
+    state.fwhm = 8.0;
+    state.seeing = 0.0;
+    const double sigma = imageSigma(state);
+    const double electrons = peak * 2.0 * pi * sigma * sigma;
+    const double magnitude = 0.0; // so bright that the sky stays dark
+    const Frame frame = oneStar(state, magnitude, electrons / starRate(state, magnitude), 200.0);
+    const int dark = frame.at(0, 0);
+    QCOMPARE(int(std::count_if(frame.values.begin(), frame.values.end(),
+                               [dark](int value) { return value > dark; })),
+             lit);
 }
 
 void SensorTest::backgroundIsDarkGrey()

@@ -110,7 +110,8 @@ void ExerciseTest::canBeDone_data()
 void ExerciseTest::canBeDone()
 {
     QFETCH(double, latitude);
-    std::mt19937 random(2);
+    // Among this seed's draws is one less than a pixel too close to the lower edge.
+    std::mt19937 random(17);
     double least = 1e9;
     double most = 0.0;
     for (int i = 0; i < 300; ++i) {

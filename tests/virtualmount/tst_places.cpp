@@ -14,6 +14,22 @@ QRect outer(const QRect &place, const QMargins &frame)
     return {place.topLeft(),
             place.size() + QSize(frame.left() + frame.right(), frame.top() + frame.bottom())};
 }
+
+/// Places windows as a window manager does, away from the screen's corner.
+class PlacingWindows : public QObject
+{
+public:
+    bool placed = false;
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (auto *const window = qobject_cast<QWidget *>(watched);
+            window && event->type() == QEvent::Show) {
+            window->move(70, 80);
+            placed = true;
+        }
+        return false;
+    }
+};
 } // namespace
 Q_DECLARE_METATYPE(QMargins)
 
@@ -27,6 +43,7 @@ private slots:
     void noMoreThanThePictureNeeds();
     void forScripts_data();
     void forScripts();
+    void frameOfAWindow();
 };
 
 void PlacesTest::neitherLeavesTheScreen_data()
@@ -87,5 +104,23 @@ void PlacesTest::forScripts()
     QCOMPARE(geometriesText({beside, QRect(4, 30, 900, 700), QRect(950, 30, 414, 644)}), text);
 }
 
-QTEST_APPLESS_MAIN(PlacesTest)
+void PlacesTest::frameOfAWindow()
+{
+    QWidget window;
+    window.setGeometry(100, 200, 300, 400);
+    window.show();
+    const QRect outside = window.frameGeometry();
+    const QMargins frame(100 - outside.left(), 200 - outside.top(), outside.right() - 399,
+                         outside.bottom() - 599);
+    QVERIFY(!frame.isNull());
+    PlacingWindows placing;
+    qApp->installEventFilter(&placing);
+    QElapsedTimer time;
+    time.start();
+    QCOMPARE(windowFrame(), frame);
+    QVERIFY2(time.elapsed() < 500, "waits although the frame is there");
+    QVERIFY(placing.placed);
+}
+
+QTEST_MAIN(PlacesTest)
 #include "tst_places.moc"

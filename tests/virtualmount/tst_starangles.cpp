@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QtTest>
 #include <limits>
+#include <utility>
 
 using virtualsky::SkyState;
 
@@ -115,6 +116,10 @@ void StarAnglesTest::noTriangle()
     QVERIFY(!virtualmount::anglesError(angles, SkyState(), 0.0));
     angles.angleBAP = 16.0;
     angles.angleABP = std::numeric_limits<double>::quiet_NaN();
+    QVERIFY(!virtualmount::anglesError(angles, SkyState(), 0.0));
+    angles.angleABP = 0.0;
+    QVERIFY(!virtualmount::anglesError(angles, SkyState(), 0.0));
+    std::swap(angles.angleBAP, angles.angleABP);
     QVERIFY(!virtualmount::anglesError(angles, SkyState(), 0.0));
 }
 

@@ -54,6 +54,7 @@ private slots:
     void connectMeanwhile();
     void closeWindowMeanwhile();
     void closeWindowAtOnce();
+    void closeWindowOfALibraryThatHangs();
     void boxMeanwhile();
     void stopBlocksToo();
     void callReturnsWhileStopBlocks();
@@ -151,6 +152,21 @@ void BlockedDisconnectionTest::closeWindowAtOnce()
              qPrintable(QString::number(time.elapsed())));
     QVERIFY(!w.session().camera.cameraConnected);
     QCOMPARE(sdkCalls(), closing);
+}
+
+/// The end of the program does not wait again for the call.
+void BlockedDisconnectionTest::closeWindowOfALibraryThatHangs()
+{
+    const BlockedWindow w;
+    const LogRecorder log;
+    w.window->hurry(100);
+    QVERIFY(w.window->close());
+    QCOMPARE(log.texts(QtCriticalMsg), QStringList(complaint));
+    w.window->hurry(patience);
+    QElapsedTimer time;
+    time.start();
+    QVERIFY(!w.window->stopCaptureAndWait());
+    QVERIFY2(time.elapsed() < patience / 2, qPrintable(QString::number(time.elapsed())));
 }
 
 /// The wizard does not disappear while the user answers a box.

@@ -56,6 +56,7 @@ private slots:
     void readsAsTheToolkit();
     void readsAnyBytesAsTheToolkit();
     void tooLongEntries();
+    void longestEntry();
 };
 
 void IniScannerTest::readsAsTheToolkit_data()
@@ -85,6 +86,7 @@ void IniScannerTest::readsAsTheToolkit_data()
                                    "[g]\n\"a=b\"=c\n",
                                    "[g]\na=\\",
                                    "[g]\na=\\xzz\n",
+                                   "[g]\na=\\x09\\x49\\xaf\\xFA\\71\\xag\\xFG\\18\n",
                                    "[g]\na=@@b\n"})
         QTest::newRow(QByteArray(text).toPercentEncoding()) << QByteArray(text);
 }
@@ -127,6 +129,16 @@ void IniScannerTest::tooLongEntries()
         QCOMPARE(scanned("[g]\na=1\nb=" + QByteArray(quote) + longText + "\nc=2\n", 100),
                  Values({{"g/a", {"1"}}, {"g/c", {"2"}}}));
     QCOMPARE(scanned(longText + "\n[g]\nc=2\n", 100), Values({{"g/c", {"2"}}}));
+    // What follows on the same line does not become an entry of its own.
+    QCOMPARE(scanned("[g]\nb=" + longText + "=y\nc=2\n", 100), Values({{"g/c", {"2"}}}));
+}
+
+void IniScannerTest::longestEntry()
+{
+    const QByteArray entry = "b=" + QByteArray(98, 'x');
+    const Values whole = {{"b", {QString(98, 'x')}}};
+    QCOMPARE(scanned(entry + "\n", 100), whole);
+    QCOMPARE(scanned(entry + "\n", 99), Values());
 }
 
 QTEST_GUILESS_MAIN(IniScannerTest)

@@ -210,7 +210,9 @@ void TemplateControlsTest::zoomActions()
     w.trigger(qPrintable(action));
     for (const char *const each : {"action100", "action75", "action50"})
         QCOMPARE(w.child<QAction>(each).isChecked(), action == each);
-    QCOMPARE(w.child<QLabel>("directionArrow").pixmap(Qt::ReturnByValue).size(), arrow);
+    const auto &arrowLabel = w.child<QLabel>("directionArrow");
+    QCOMPARE(arrowLabel.pixmap(Qt::ReturnByValue).size(), arrow);
+    QCOMPARE(arrowLabel.size(), arrow);
     QCOMPARE(w.label.geometry(), mask);
     QCOMPARE(w.label.pixmap(Qt::ReturnByValue).size(), mask.size());
     QTRY_COMPARE(w.child<QLabel>("label_showImg").pixmap(Qt::ReturnByValue).size(), picture);
