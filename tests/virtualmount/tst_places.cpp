@@ -2,6 +2,10 @@
 // Do the program and the virtual mount fit on the screen completely, frames included?
 #include "virtualmount/places.h"
 
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QEvent>
+#include <QWidget>
 #include <QtTest>
 
 using namespace virtualmount;
