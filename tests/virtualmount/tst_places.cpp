@@ -119,10 +119,15 @@ void PlacesTest::frameOfAWindow()
     QVERIFY(!frame.isNull());
     PlacingWindows placing;
     qApp->installEventFilter(&placing);
-    QElapsedTimer time;
-    time.start();
-    QCOMPARE(windowFrame(), frame);
-    QVERIFY2(time.elapsed() < 500, "waits although the frame is there");
+    // A busy machine may delay one try; a wait delays them all.
+    bool waits = true;
+    for (int i = 0; i < 10 && waits; ++i) {
+        QElapsedTimer time;
+        time.start();
+        QCOMPARE(windowFrame(), frame);
+        waits = time.elapsed() >= 500;
+    }
+    QVERIFY2(!waits, "waits although the frame is there");
     QVERIFY(placing.placed);
 }
 
