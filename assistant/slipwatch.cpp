@@ -23,11 +23,6 @@ constexpr double movedSigmas = 4.0;
 constexpr double movedArcseconds = 1.5;
 constexpr double slipSigmas = 5.0;
 constexpr double slipArcseconds = 5.0; // of the axis' place, below which no slip counts
-
-double arcseconds(double radians)
-{
-    return radians / astrometry::arcsecond;
-}
 } // namespace
 
 void SlipWatch::reset()
@@ -49,7 +44,7 @@ bool SlipWatch::fieldMovedAlone(const Recognition &frame, PixelPlace at) const
         std::hypot(now.linear().x - then.linear().x, now.linear().y - then.linear().y);
     const double noise = movedSigmas * std::hypot(now.sigma(), then.sigma());
     return std::abs(now.turnAgainst(then)) < restingTurn &&
-           arcseconds(moved - noise) > movedArcseconds;
+           (moved - noise) / astrometry::arcsecond > movedArcseconds;
 }
 
 double SlipWatch::turned() const
@@ -71,7 +66,8 @@ bool SlipWatch::disagrees(const recognition::Axis &axis) const
         return false;
     // Frames that agree on no pixel were taken while the bolts moved as well.
     const bool agree = std::all_of(views.begin(), views.end(), [&](const EarthView &view) {
-        return arcseconds(view.distance(*point) - movedSigmas * view.sigma()) <= movedArcseconds;
+        const double certain = view.distance(*point) - movedSigmas * view.sigma();
+        return certain / astrometry::arcsecond <= movedArcseconds;
     });
     if (!agree)
         return false;

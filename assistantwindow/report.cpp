@@ -13,7 +13,7 @@ namespace assistantwindow
 {
 namespace
 {
-QString text(const char *source)
+QString reportText(const char *source)
 {
     return QCoreApplication::translate("Report", source);
 }
@@ -33,13 +33,13 @@ QString sidedText(const std::optional<recognition::Measured> &measured, const ch
     const QString size = measuredText(measured, locale);
     if (!measured || size == dash() || std::round(measured->arcseconds * 10.0) == 0.0)
         return size;
-    return text(measured->arcseconds > 0.0 ? ifPositive : ifNegative).arg(size);
+    return reportText(measured->arcseconds > 0.0 ? ifPositive : ifNegative).arg(size);
 }
 
 QString perHour(double arcseconds, const QLocale &locale)
 {
     const QString size = angleText(arcseconds, locale);
-    return size == dash() ? size : text(QT_TRANSLATE_NOOP("Report", "%1 an hour")).arg(size);
+    return size == dash() ? size : reportText(QT_TRANSLATE_NOOP("Report", "%1 an hour")).arg(size);
 }
 
 /// Both rotations, "15.7″, 31.5″ an hour".
@@ -50,7 +50,7 @@ QString rotationText(double total, const QLocale &locale)
     if (level == dash())
         return level;
     const QString both = level + QStringLiteral(", ") + angleText(high, locale);
-    return text(QT_TRANSLATE_NOOP("Report", "%1 an hour")).arg(both);
+    return reportText(QT_TRANSLATE_NOOP("Report", "%1 an hour")).arg(both);
 }
 
 QString siteText(const astrometry::Site &site, const QLocale &locale)
@@ -79,23 +79,25 @@ std::vector<ReportRow> reportRows(const assistant::Report &report, const QLocale
 {
     const double total = report.after.total.arcseconds;
     std::vector<ReportRow> rows = {
-        {text(QT_TRANSLATE_NOOP("Report", "Error before")),
+        {reportText(QT_TRANSLATE_NOOP("Report", "Error before")),
          measuredText(report.before.total, locale)},
-        {text(QT_TRANSLATE_NOOP("Report", "Error now")), measuredText(report.after.total, locale)},
-        {text(QT_TRANSLATE_NOOP("Report", "in altitude")),
+        {reportText(QT_TRANSLATE_NOOP("Report", "Error now")),
+         measuredText(report.after.total, locale)},
+        {reportText(QT_TRANSLATE_NOOP("Report", "in altitude")),
          sidedText(report.after.altitude, QT_TRANSLATE_NOOP("Report", "axis %1 above the pole"),
                    QT_TRANSLATE_NOOP("Report", "axis %1 below the pole"), locale)},
-        {text(QT_TRANSLATE_NOOP("Report", "in azimuth")),
+        {reportText(QT_TRANSLATE_NOOP("Report", "in azimuth")),
          sidedText(report.after.azimuth, QT_TRANSLATE_NOOP("Report", "axis %1 east of the pole"),
                    QT_TRANSLATE_NOOP("Report", "axis %1 west of the pole"), locale)},
-        {text(QT_TRANSLATE_NOOP("Report", "Aimed at")), aimText(report.aim, locale)},
-        {text(QT_TRANSLATE_NOOP("Report", "Drift in declination, anywhere, at most")),
+        {reportText(QT_TRANSLATE_NOOP("Report", "Aimed at")), aimText(report.aim, locale)},
+        {reportText(QT_TRANSLATE_NOOP("Report", "Drift in declination, anywhere, at most")),
          perHour(assistant::driftOf(total).declination, locale)},
-        {text(QT_TRANSLATE_NOOP(
+        {reportText(QT_TRANSLATE_NOOP(
              "Report", "Angle of field rotation at most, at the equator and at declination 60°")),
          rotationText(total, locale)},
-        {text(QT_TRANSLATE_NOOP("Report", "Time taken")), durationText(report.seconds)},
-        {text(QT_TRANSLATE_NOOP("Report", "Date and site")), momentText(report.utcSeconds, locale)},
+        {reportText(QT_TRANSLATE_NOOP("Report", "Time taken")), durationText(report.seconds)},
+        {reportText(QT_TRANSLATE_NOOP("Report", "Date and site")),
+         momentText(report.utcSeconds, locale)},
     };
     if (report.site)
         rows.back().value += QStringLiteral("; ") + siteText(*report.site, locale);
@@ -143,7 +145,7 @@ QImage reportPicture(const assistant::Report &report, const QLocale &locale)
     painter.setFont(title);
     painter.setPen(colours.text);
     painter.drawText(QRectF(40, 24, 920, 50), Qt::AlignLeft | Qt::AlignVCenter,
-                     text(QT_TRANSLATE_NOOP("Report", "Polar alignment")));
+                     reportText(QT_TRANSLATE_NOOP("Report", "Polar alignment")));
     paintReport(painter, QRectF(24, 90, 952, 530), report, locale, colours);
     return picture;
 }

@@ -9,10 +9,6 @@
 
 namespace astrometry
 {
-namespace
-{
-} // namespace
-
 RefractionConstants refractionConstants(double pressure, double temperature, double humidity)
 {
     RefractionConstants constants;

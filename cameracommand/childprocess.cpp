@@ -21,7 +21,8 @@ namespace
 using Clock = std::chrono::steady_clock;
 using Fate = ChildEnd::Fate;
 constexpr auto endPatience = std::chrono::seconds(2); // for what libraries do at the end
-constexpr std::chrono::milliseconds look(50);         // at the pipe
+constexpr auto killPatience = std::chrono::seconds(1);
+constexpr std::chrono::milliseconds look(50); // at the pipe
 
 /// What a line in the pipe is; its first character.
 enum Mark : char { Call = 'c', Line = 'l', End = 'e' };
@@ -130,8 +131,9 @@ private:
         if (isOver)
             return;
         ::kill(child, SIGKILL);
-        while (::waitpid(child, &status, 0) < 0 && errno == EINTR)
-            continue;
+        // A process that waits within the kernel, for a broken cable say, is left to it.
+        for (const auto last = Clock::now() + killPatience; !hasEnded() && Clock::now() < last;)
+            ::usleep(2000);
     }
 
     const pid_t child;
@@ -170,9 +172,9 @@ void ChildReport::write(char mark, std::string text) const
     const std::string line = mark + text + '\n';
     for (std::size_t done = 0; done < line.size();) {
         const ssize_t written = ::write(pipe, line.data() + done, line.size() - done);
-        if (written < 0)
+        if (written < 0 && errno != EINTR)
             return;
-        done += std::size_t(written);
+        done += written > 0 ? std::size_t(written) : 0;
     }
 }
 

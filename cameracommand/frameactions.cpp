@@ -62,8 +62,12 @@ std::string write(const std::string &path, const framesources::NativeFrame &fram
                                    frame.date ? *frame.date : double(std::time(nullptr)), exposure,
                                    raw ? frame.pattern : std::string());
     std::vector<unsigned char> bytes;
-    if (!cv::imencode(".png", pixels, bytes))
-        return "it cannot be encoded";
+    try {
+        if (!cv::imencode(".png", pixels, bytes))
+            return "it cannot be encoded";
+    } catch (const cv::Exception &error) {
+        return "it cannot be encoded: " + error.err;
+    }
     return pictures::writeWhole(path, {reinterpret_cast<const char *>(bytes.data()), bytes.size()});
 }
 } // namespace

@@ -269,6 +269,7 @@ std::optional<NativeFrame> IndiCamera::takeFrame(const Wish &wish)
         return frame;
     }
     pause = 0.0;
+    isFaultSaid &= streaming; // an exposure's next fault is reported again
     if (!isLate) {
         silence = {};
         isUnreadable = false;

@@ -78,6 +78,6 @@ private:
     // caller does between two calls, is no silence of the device.
     Clock::duration silence{};
     bool isUnreadable = false; // what came in that time
-    bool isFaultSaid = false;  // of this stream's frames, or of the exposures since it
+    bool isFaultSaid = false;  // of this stream's frames, or of the exposures since a good one
 };
 } // namespace framesources

@@ -39,12 +39,23 @@ std::string underFreeName(const std::filesystem::path &folder, const Create &cre
     return {};
 }
 
+bool writeAll(int descriptor, std::string_view bytes)
+{
+    while (!bytes.empty()) {
+        const ssize_t written = ::write(descriptor, bytes.data(), bytes.size());
+        if (written < 0 && errno != EINTR)
+            return false;
+        bytes.remove_prefix(written > 0 ? std::size_t(written) : 0);
+    }
+    return true;
+}
+
 /// A file beside another. It has no name where the file system has such files: then nothing of it
 /// is left if the process is killed.
 struct FileBeside {
-    explicit FileBeside(const std::filesystem::path &file)
+    FileBeside(const std::filesystem::path &file, bool isUnnamed)
         : folder(file.has_parent_path() ? file.parent_path() : "."),
-          descriptor(::access(openFiles, X_OK) == 0
+          descriptor(isUnnamed && ::access(openFiles, X_OK) == 0
                          ? ::open(folder.c_str(), O_TMPFILE | O_WRONLY | O_CLOEXEC, newMode)
                          : -1)
     {
@@ -66,17 +77,6 @@ struct FileBeside {
     }
     FileBeside(const FileBeside &) = delete;
     FileBeside &operator=(const FileBeside &) = delete;
-
-    bool write(std::string_view bytes) const
-    {
-        while (!bytes.empty()) {
-            const ssize_t written = ::write(descriptor, bytes.data(), bytes.size());
-            if (written < 0 && errno != EINTR)
-                return false;
-            bytes.remove_prefix(written > 0 ? std::size_t(written) : 0);
-        }
-        return true;
-    }
 
     /// Replaces `file`.
     bool rename(const std::filesystem::path &file)
@@ -108,19 +108,57 @@ struct FileBeside {
     int descriptor;
     std::string name; // temporary; empty: it has none
 };
-} // namespace
 
-std::string writeWhole(const std::string &name, std::string_view bytes)
+/// @param earlier  the file that is replaced; none: null
+bool replace(const std::filesystem::path &file, const struct stat *earlier, std::string_view bytes,
+             bool isUnnamed)
 {
+    FileBeside beside(file, isUnnamed);
+    if (beside.descriptor < 0)
+        return false;
+    if (earlier) { // a refusal of its owner or mode is no failure
+        const int owned = ::fchown(beside.descriptor, earlier->st_uid, earlier->st_gid);
+        const int allowed = ::fchmod(beside.descriptor, earlier->st_mode & 0777);
+        static_cast<void>(owned + allowed);
+    }
+    return writeAll(beside.descriptor, bytes) && beside.rename(file);
+}
+
+/// Into a pipe or a device, which no other file can replace.
+bool writeInto(const std::string &name, std::string_view bytes)
+{
+    const int descriptor = ::open(name.c_str(), O_WRONLY | O_CLOEXEC);
+    if (descriptor < 0)
+        return false;
+    const bool isWritten = writeAll(descriptor, bytes);
+    const int error = errno;
+    const bool isClosed = ::close(descriptor) == 0;
+    if (!isWritten)
+        errno = error;
+    return isWritten && isClosed;
+}
+
+bool write(const std::string &name, std::string_view bytes)
+{
+    struct stat status = {};
+    const bool isThere = ::stat(name.c_str(), &status) == 0;
+    if (isThere && !S_ISREG(status.st_mode))
+        return writeInto(name, bytes);
+    if (isThere && ::access(name.c_str(), W_OK) != 0)
+        return false; // its folder may permit more than the file does
     std::error_code isNew;
     std::filesystem::path file = std::filesystem::canonical(name, isNew);
     if (isNew)
         file = name;
-    FileBeside beside(file);
-    struct stat status = {};
-    if (beside.descriptor >= 0 && ::stat(file.c_str(), &status) == 0)
-        ::fchmod(beside.descriptor, status.st_mode & 0777); // a refusal is no failure
-    if (beside.descriptor >= 0 && beside.write(bytes) && beside.rename(file))
+    const struct stat *const earlier = isThere ? &status : nullptr;
+    // Where a file without a name cannot get one, it has one from the start.
+    return replace(file, earlier, bytes, true) || replace(file, earlier, bytes, false);
+}
+} // namespace
+
+std::string writeWhole(const std::string &name, std::string_view bytes)
+{
+    if (write(name, bytes))
         return {};
     return std::string("it cannot be written: ") + std::strerror(errno);
 }

@@ -3,6 +3,7 @@
 #include "recognition/fieldstars.h"
 
 #include "astrometry/catalogue.h"
+#include "recognition/pose.h"
 
 #include <algorithm>
 #include <cmath>
@@ -53,7 +54,6 @@ FieldStars::FieldStars(const std::vector<std::size_t> &catalogueIndices,
                        const std::vector<Vector3> &places, const SkyMapping::Frame &plane,
                        double blendRadius)
 {
-    constexpr double leastForward = 0.1736; // cos 80 degrees
     for (std::size_t i = 0; i < places.size(); ++i) {
         const double forward = dot(places[i], plane.forward);
         if (forward > leastForward)

@@ -4,6 +4,8 @@
 
 #include <cmath>
 
+#include "recognition/pose.h"
+
 namespace recognition
 {
 namespace
@@ -11,8 +13,7 @@ namespace
 using astrometry::Vector3;
 using Complex = SkyMapping::Complex;
 
-constexpr double leastForward = 0.1736; // cos 80 degrees
-constexpr double step = 1e-3;           // pixels, of the Jacobian's differences
+constexpr double step = 1e-3; // pixels, of the Jacobian's differences
 constexpr int mostNewtonSteps = 25;
 constexpr double newtonTolerance = 1e-7; // pixels
 constexpr double farthest = 50.0;        // units from the frame's centre, of the inverse

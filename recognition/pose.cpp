@@ -11,8 +11,6 @@ namespace
 using astrometry::Matrix3;
 using astrometry::Vector3;
 
-constexpr double leastForward = 0.1736; // cos 80 degrees
-
 Vector3 ray(CentredPixel p, double focalLength)
 {
     const double factor = 1.0 / std::sqrt(p.x * p.x + p.y * p.y + focalLength * focalLength);

@@ -30,6 +30,7 @@ licence_lint() {
 tidy() {
   local generated build=build/sources
   [ -f $build/build.ninja ] || cmake --preset dev -DQUORVANDEL_WERROR=OFF -B $build >/dev/null || return
+  ninja -C $build build.ninja >/dev/null || return # its list of targets may be old
   generated=$(ninja -C $build -t targets all |
     sed -nE 's/^([A-Za-z0-9_-]*_autogen|.*\.moc|.*\/moc_[a-z]*\.cpp):.*/\1/p')
   # shellcheck disable=SC2086 # a list

@@ -83,7 +83,11 @@ stage() {
   return $status
 }
 
-# configured PRESET: configures a build folder once; CMake itself notices later changes.
+# configured PRESET: configures a build folder, and again if the presets have changed; CMake itself
+# notices other changes.
 configured() {
-  [ -f "build/$1/build.ninja" ] || stage "Configuring the $1 build" cmake --preset "$1"
+  local made=build/$1/build.ninja
+  if [ ! -f "$made" ] || [ CMakePresets.json -nt "$made" ]; then
+    stage "Configuring the $1 build" cmake --preset "$1"
+  fi
 }

@@ -7,6 +7,7 @@
 #include <opencv2/imgcodecs.hpp>
 #include <opencv2/imgproc.hpp>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include "pictures/fitsfile.h"
@@ -37,6 +38,7 @@ private slots:
     void recordsFrames();
     void keepsTheEarlierFile_data();
     void keepsTheEarlierFile();
+    void writesIntoAPipe();
     void badCommands_data();
     void badCommands();
     void refusesABadEnvironment_data();
@@ -355,6 +357,22 @@ void CameraCommandTest::keepsTheEarlierFile()
     QCOMPARE(QDir(path("target")).entryList(QDir::Files | QDir::Hidden), left);
     QFile file(inTarget(name));
     QVERIFY(left.isEmpty() || (file.open(QIODevice::ReadOnly) && file.readAll() == "before"));
+}
+
+/// Which no other file replaces: its reader would wait for ever.
+void CameraCommandTest::writesIntoAPipe()
+{
+    QCOMPARE(::mkfifo(path("pipe.png").toUtf8(), 0600), 0);
+    QProcess reader;
+    reader.start("cat", {path("pipe.png")});
+    QVERIFY(reader.waitForStarted());
+    const Result result = run({"--camera", "sky", "--exposure", "500", "grab", path("pipe.png")});
+    QVERIFY2(result.status == 0, qPrintable(result.errors));
+    QVERIFY(reader.waitForFinished());
+    QVERIFY(reader.readAllStandardOutput().startsWith("\x89PNG"));
+    struct stat status = {};
+    QCOMPARE(::stat(path("pipe.png").toUtf8(), &status), 0);
+    QVERIFY(S_ISFIFO(status.st_mode));
 }
 
 void CameraCommandTest::badCommands_data()

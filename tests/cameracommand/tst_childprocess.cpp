@@ -72,8 +72,8 @@ void ChildProcessTest::ends()
         report.call(inCall ? "Scan" : nullptr);
         if (way == "slow")
             ::usleep(300000);
-        if (way == "long")
-            ::usleep(2500000);
+        if (way == "long") // where it is a call, it is not awaited
+            ::usleep(inCall ? 60000000 : 2500000);
         if (way == "crash")
             std::raise(SIGSEGV);
         if (way == "end")
@@ -82,18 +82,23 @@ void ChildProcessTest::ends()
     };
     if (QByteArray(QTest::currentDataTag()).startsWith("SIGCHLD is ignored"))
         std::signal(SIGCHLD, SIG_IGN); // as a program inherits it
-    QElapsedTimer passed;
-    passed.start();
-    const ChildEnd end = runInChild(work, std::chrono::milliseconds(1000));
-    QVERIFY2(way != "return" || passed.elapsed() < 1500,
-             qPrintable(QString::number(passed.elapsed())));
+    ChildEnd end;
+    // A busy machine may delay one try; a wait for an end that has been delays them all.
+    qint64 passed = 0;
+    for (int i = 0; i == 0 || (i < 5 && way == "return" && passed >= 1500); ++i) {
+        QElapsedTimer time;
+        time.start();
+        end = runInChild(work, std::chrono::milliseconds(1000));
+        passed = time.elapsed();
+    }
+    QVERIFY2(way != "return" || passed < 1500, qPrintable(QString::number(passed)));
     QCOMPARE(end.fate, returns ? Fate::Returned : Fate::Failed);
     QCOMPARE(end.status, returns ? 7 : 0);
     QCOMPARE(QByteArray::fromStdString(end.fault), fault);
     QCOMPARE(end.call, std::string(inCall ? "Scan" : ""));
 }
 
-/// Other code takes it: a number that is nobody's any more is neither awaited nor killed.
+/// Other code takes it: an end that nobody can tell is no endless wait.
 void ChildProcessTest::endsWithoutAStatus()
 {
     const auto work = [](const ChildReport &) {
@@ -116,7 +121,7 @@ void ChildProcessTest::eachCallHasItsPatience()
     const auto work = [](const ChildReport &report) {
         for (const char *call : {"Open", "Scan"}) {
             report.call(call);
-            ::usleep(1500000);
+            ::usleep(std::string(call) == "Open" ? 1500000 : 60000000);
         }
         return 0;
     };

@@ -67,6 +67,12 @@ public:
         streamed = frame;
     }
     int streamedFrames() const { return streamedSoFar; }
+    /// From now on these are the good frames.
+    void answer(const QByteArray &frame)
+    {
+        const QMutexLocker lock(&mutex);
+        good = frame;
+    }
     /// Whether video has no frames.
     void mute(bool on) { isMute = on; }
     /// From now on no client is told of exposures.
@@ -148,6 +154,12 @@ private:
         return true;
     }
 
+    QByteArray goodFrame() const
+    {
+        const QMutexLocker lock(&mutex);
+        return good;
+    }
+
     QByteArray streamedFrame() const
     {
         const QMutexLocker lock(&mutex);
@@ -205,18 +217,18 @@ private:
             if (hasVideo) {
                 const bool isVideo = isVideoOn || (hadVideo && lingers);
                 if (isVideo ? !isMute && !send(client, streamedFrame(), renamed)
-                            : isExposing && !send(client, good, renamed))
+                            : isExposing && !send(client, goodFrame(), renamed))
                     return;
                 streamedSoFar += isVideo && !isMute ? 1 : 0;
                 isExposing &= isVideo;
                 continue;
             }
-            if (!send(client, good, renamed) || ++frames == allowed)
+            if (!send(client, goodFrame(), renamed) || ++frames == allowed)
                 return;
         }
     }
 
-    const QByteArray harm, good, sensorWidth, sensorHeight;
+    const QByteArray harm, sensorWidth, sensorHeight;
     const int pause; // milliseconds
     const LoopbackListener listener;
     std::atomic<bool> stop{false};
@@ -225,7 +237,7 @@ private:
     std::atomic<int> framesAllowed{-1}, drops{0}, streamedSoFar{0};
     std::atomic<bool> isMute{false}, lingers{false}, hasExposures{true};
     mutable QMutex mutex; // guards what follows
-    QByteArray more, said, streamed;
+    QByteArray good, more, said, streamed;
     std::vector<std::chrono::steady_clock::time_point> cameAt;
     std::thread thread;
 };

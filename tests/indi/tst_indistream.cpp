@@ -67,6 +67,7 @@ private slots:
     void silentStreamIsTriedAgain();
     void unreadableStreamGivesWay();
     void eachStreamHasOneLineOfFaults();
+    void faultsBetweenGoodExposures();
     void ownWorkIsNoSilence();
     void lateFramesAnswerNoExposure();
     void videoThatEndsItsDriver();
@@ -149,6 +150,27 @@ void IndiStreamTest::eachStreamHasOneLineOfFaults()
     QVERIFY2(video.lines.last().startsWith("a streamed frame of "), qPrintable(video.lines.last()));
 }
 
+/// Each is reported: nothing else would say why the picture stands still.
+void IndiStreamTest::faultsBetweenGoodExposures()
+{
+    HostileServer server({}, exposedFrame());
+    QStringList lines;
+    framesources::IndiCamera camera(
+        addressOf(server), false,
+        [&lines](const std::string &line) { lines.append(QString::fromStdString(line)); }, {});
+    framesources::Wish wish;
+    wish.exposureSeconds = 0.05;
+    wish.wanted = true;
+    int reported = 1; // that it is connected
+    for (const char *const format : {".fits", ".unknown"}) {
+        server.answer(exposedFrame());
+        QVERIFY2(comesTrue([&] { return bool(camera.next(wish)); }), qPrintable(lines.join("\n")));
+        server.answer(blobOf(format, "nothing", 7));
+        QTRY_COMPARE((camera.next(wish), int(lines.size())), reported + 1);
+        ++reported;
+    }
+}
+
 /// The caller may look for stars between two calls, for longer than a stream may be silent.
 void IndiStreamTest::ownWorkIsNoSilence()
 {
@@ -157,7 +179,8 @@ void IndiStreamTest::ownWorkIsNoSilence()
     Video video(pauses);
     QVERIFY2(video.comes(streamed), qPrintable(video.lines.join("\n")));
     video.server.mute(true);
-    QTRY_VERIFY(!video.camera.next(video.wish)); // none is on its way
+    int empty = 0; // looks in a row: none is on its way
+    QTRY_VERIFY((empty = video.camera.next(video.wish) ? 0 : empty + 1) >= 5);
     QTest::qSleep(1500);
     QVERIFY(!video.camera.next(video.wish));
     video.server.mute(false);
