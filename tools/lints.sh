@@ -24,17 +24,19 @@ licence_lint() {
   }
 }
 
-# tidy CONFIG FOLDERS: clang-tidy for the sources in folders that the regular expression fits. The build
-# folder names each source by itself; nothing is compiled there, but what the toolkit's generators
-# make is made first.
+# tidy CONFIG FOLDERS: clang-tidy for the sources in folders that the regular expression fits. A build
+# folder that is never built names each source by itself; what the toolkit's generators make is made in
+# the release build, where what it depends on is there.
 tidy() {
-  local generated build=build/sources
-  [ -f $build/build.ninja ] || cmake --preset dev -DQUORVANDEL_WERROR=OFF -B $build >/dev/null || return
-  ninja -C $build build.ninja >/dev/null || return # its list of targets may be old
-  generated=$(ninja -C $build -t targets all |
+  local generated listed=build/sources
+  mkdir -p build/tidy
+  cmake --preset dev -DQUORVANDEL_WERROR=OFF -B $listed >/dev/null &&
+    sed "s,/$listed\\b,/build/release,g" $listed/compile_commands.json >build/tidy/compile_commands.json &&
+    ninja -C build/release build.ninja >/dev/null || return # its list of targets may be old
+  generated=$(ninja -C build/release -t targets all |
     sed -nE 's/^([A-Za-z0-9_-]*_autogen|.*\.moc|.*\/moc_[a-z]*\.cpp):.*/\1/p')
   # shellcheck disable=SC2086 # a list
-  ninja -C $build $generated >/dev/null && python3 tools/tidy.py $build "$1" "$2"
+  ninja -C build/release $generated >/dev/null && python3 tools/tidy.py build/tidy "$1" "$2"
 }
 
 tidy_lint() {

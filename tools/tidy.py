@@ -4,7 +4,7 @@
 
     tools/tidy.py BUILD CONFIG FOLDERS
 
-BUILD is a build folder with a compile_commands.json, CONFIG the file with the checks, FOLDERS a regular
+BUILD is a folder with a compile_commands.json, CONFIG the file with the checks, FOLDERS a regular
 expression for the folders, relative to the project's root.
 
 clang-tidy spends nearly all its time on the toolkit's headers, so many sources are read as one file,
