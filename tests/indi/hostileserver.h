@@ -27,10 +27,10 @@ public:
     HostileServer(QByteArray harmSent, QByteArray goodSent, int width = 40, int height = 24,
                   int pauseBetween = 50)
         : harm(std::move(harmSent)),
-          good(std::move(goodSent)),
           sensorWidth(QByteArray::number(width)),
           sensorHeight(QByteArray::number(height)),
-          pause(pauseBetween)
+          pause(pauseBetween),
+          good(std::move(goodSent))
     {
         thread = std::thread([this] { run(); });
     }
