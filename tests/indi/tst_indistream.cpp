@@ -161,8 +161,8 @@ void IndiStreamTest::faultsBetweenGoodExposures()
     framesources::Wish wish;
     wish.exposureSeconds = 0.05;
     wish.wanted = true;
-    int reported = 1; // that it is connected
-    for (const char *const format : {".fits", ".unknown"}) {
+    int reported = 1;                                       // that it is connected
+    for (const char *const format : {".fits", ".stream"}) { // the faults differ
         server.answer(exposedFrame());
         QVERIFY2(comesTrue([&] { return bool(camera.next(wish)); }), qPrintable(lines.join("\n")));
         server.answer(blobOf(format, "nothing", 7));

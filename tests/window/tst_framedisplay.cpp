@@ -3,6 +3,7 @@
 #include "tests/window/camerawindow.h"
 #include "widgets/magnifierwidget.h"
 
+#include <QAction>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QScrollArea>
