@@ -19,7 +19,7 @@ bool isMissing(const QDoubleSpinBox &field)
     return field.value() < field.minimum() + 1.0;
 }
 
-QString siteText(const char *source)
+QString panelText(const char *source)
 {
     return QCoreApplication::translate("SitePanel", source);
 }
@@ -96,12 +96,12 @@ void SitePanel::commit()
 void SitePanel::retranslate()
 {
     latitudeName->setText(
-        siteText(QT_TRANSLATE_NOOP("SitePanel", "Latitude: north positive, or N, S")));
+        panelText(QT_TRANSLATE_NOOP("SitePanel", "Latitude: north positive, or N, S")));
     longitudeName->setText(
-        siteText(QT_TRANSLATE_NOOP("SitePanel", "Longitude: east positive, or E, W")));
+        panelText(QT_TRANSLATE_NOOP("SitePanel", "Longitude: east positive, or E, W")));
     latitude->setName(latitudeName->text());
     longitude->setName(longitudeName->text());
-    use->setText(siteText(QT_TRANSLATE_NOOP(
+    use->setText(panelText(QT_TRANSLATE_NOOP(
         "SitePanel", "With the site, the assistant says which way each bolt must go.")));
 }
 } // namespace assistantwindow

@@ -42,9 +42,9 @@ std::string format(const SkyState &state);
 /// @throws SkyFileError if it cannot be read, is no ordinary file, or is larger than that
 std::string readText(const std::string &path);
 
-/// Writes a new file beside the old one and renames it, so that a reader gets either the old or the
-/// new text. A symbolic link is kept: its target is written. The permissions stay. Creates the
-/// folder (mode 0700) if it is missing. False = failed, see errno.
+/// As files::replaceFile, so that a reader gets either the old or the new text. A symbolic link is
+/// kept: its target is written. Creates the folder (mode 0700) if it is missing. False = failed,
+/// see errno.
 bool writeAtomically(const std::string &name, std::string_view text);
 
 /// $QUORVANDEL_SKY, or quorvandel/sky.ini in $XDG_RUNTIME_DIR, or sky.ini in /tmp/quorvandel-UID,

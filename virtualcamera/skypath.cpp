@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <mutex>
 
+#include "files/wholefile.h"
 #include "virtualcamera/privatefolder.h"
 #include "virtualcamera/skyfile.h"
 
@@ -58,17 +59,6 @@ std::string behindLinks(std::string path)
     return {};
 }
 
-bool writeAll(int file, std::string_view text)
-{
-    while (!text.empty()) {
-        const ssize_t written = ::write(file, text.data(), text.size());
-        if (written < 0 && errno != EINTR)
-            return false;
-        if (written > 0)
-            text.remove_prefix(static_cast<std::size_t>(written));
-    }
-    return true;
-}
 // The folder in /tmp, where anybody may have put one. What is said is said once in a process.
 std::string sharedPlace()
 {
@@ -116,24 +106,9 @@ std::string readText(const std::string &path)
 
 bool writeAtomically(const std::string &name, std::string_view text)
 {
+    constexpr mode_t newMode = 0600;
     const std::string path = behindLinks(name);
-    if (path.empty() || !makeFolders(path))
-        return false;
-    std::string aside = path + ".XXXXXX";
-    const int file = ::mkstemp(aside.data());
-    if (file < 0)
-        return false;
-    struct stat status = {};
-    if (::stat(path.c_str(), &status) == 0)
-        ::fchmod(file, status.st_mode & 07777); // the owner's wish; a refusal is no failure
-    const bool written = writeAll(file, text);
-    const bool closed = ::close(file) == 0;
-    if (written && closed && std::rename(aside.c_str(), path.c_str()) == 0)
-        return true;
-    const int reason = errno;
-    ::unlink(aside.c_str());
-    errno = reason;
-    return false;
+    return !path.empty() && makeFolders(path) && files::replaceFile(path, text, newMode);
 }
 
 std::string skyFilePath()
