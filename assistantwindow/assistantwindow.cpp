@@ -133,7 +133,7 @@ void AssistantWindow::addShortcuts()
     add(Qt::Key_F10, [this] { openSettings(); });
     add(Qt::Key_F11, [this] { currentWidget() == largePage ? openMain() : openLarge(); });
     add(Qt::Key_Escape, [this] { openMain(); });
-    add(Qt::CTRL + Qt::Key_Q, [this] { close(); });
+    add(QStringLiteral("Ctrl+Q"), [this] { close(); });
 }
 
 void AssistantWindow::connectCamera()

@@ -16,10 +16,10 @@ constexpr double farthest = 3600.0;                 // arcseconds
 struct Unit {
     const char *one, *many;
 };
-constexpr Unit degrees{QT_TRANSLATE_NOOP("Speech", "1 degree"),
-                       QT_TRANSLATE_N_NOOP("Speech", "%n degrees")};
-constexpr Unit minutes{QT_TRANSLATE_NOOP("Speech", "1 minute"),
-                       QT_TRANSLATE_N_NOOP("Speech", "%n minutes")};
+constexpr Unit inDegrees{QT_TRANSLATE_NOOP("Speech", "1 degree"),
+                         QT_TRANSLATE_N_NOOP("Speech", "%n degrees")};
+constexpr Unit inMinutes{QT_TRANSLATE_NOOP("Speech", "1 minute"),
+                         QT_TRANSLATE_N_NOOP("Speech", "%n minutes")};
 
 QString counted(const Unit &unit, double number)
 {
@@ -32,9 +32,9 @@ QString sizeInWords(double arcseconds)
 {
     const double size = std::abs(arcseconds);
     if (size >= 3570.0)
-        return counted(degrees, size / 3600.0);
+        return counted(inDegrees, size / 3600.0);
     if (size >= 57.5)
-        return counted(minutes, size / 60.0);
+        return counted(inMinutes, size / 60.0);
     const int fives = int(std::max(5.0, std::round(size / 5.0) * 5.0));
     return QCoreApplication::translate("Speech", "%n seconds", nullptr, fives);
 }

@@ -88,7 +88,7 @@ std::unique_ptr<framesources::NativeCamera> openCamera(const CameraCommandLine &
 std::optional<framesources::NativeFrame> awaitFrame(framesources::NativeCamera &camera,
                                                     const CameraCommandLine &wishes)
 {
-    using Clock = std::chrono::steady_clock;
+    using SteadyClock = std::chrono::steady_clock;
     const std::chrono::duration<double> patience(30.0 + 2.0 * wishes.exposureSeconds);
     framesources::Wish wish;
     wish.exposureSeconds = wishes.exposureSeconds;
@@ -96,13 +96,13 @@ std::optional<framesources::NativeFrame> awaitFrame(framesources::NativeCamera &
     wish.whole = true;
     wish.wanted = true;
     constexpr std::chrono::seconds absencePatience(8); // some tries to connect
-    const Clock::time_point begin = Clock::now();
-    Clock::time_point seen = begin;
-    while (Clock::now() - begin < patience && Clock::now() - seen < absencePatience) {
+    const SteadyClock::time_point begin = SteadyClock::now();
+    SteadyClock::time_point seen = begin;
+    while (SteadyClock::now() - begin < patience && SteadyClock::now() - seen < absencePatience) {
         if (auto frame = camera.next(wish))
             return frame;
         if (camera.isPresent())
-            seen = Clock::now();
+            seen = SteadyClock::now();
     }
     complain("no frame came");
     return std::nullopt;

@@ -7,12 +7,23 @@ target_compile_options(quorvandel_options INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wshadow
   -ffp-contract=off # the same results on every processor
   $<$<BOOL:${QUORVANDEL_WERROR}>:-Werror>)
+if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+  # QSKIP without arguments is the toolkit's.
+  target_compile_options(quorvandel_options INTERFACE -Wno-gnu-zero-variadic-macro-arguments)
+endif()
 if(QUORVANDEL_SANITIZE)
   target_compile_options(quorvandel_options INTERFACE
     -fsanitize=${QUORVANDEL_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+  # GCC's names for them; Clang has none.
+  if(QUORVANDEL_SANITIZE STREQUAL "thread")
+    target_compile_definitions(quorvandel_options INTERFACE __SANITIZE_THREAD__)
+  elseif(QUORVANDEL_SANITIZE MATCHES "address")
+    target_compile_definitions(quorvandel_options INTERFACE __SANITIZE_ADDRESS__)
+  endif()
   if(QUORVANDEL_SANITIZE STREQUAL "thread" AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     # The sanitizer's own code hides from GCC what is initialised.
     target_compile_options(quorvandel_options INTERFACE -Wno-maybe-uninitialized)
   endif()
-  target_link_options(quorvandel_options INTERFACE -fsanitize=${QUORVANDEL_SANITIZE})
+  target_link_options(quorvandel_options INTERFACE -fsanitize=${QUORVANDEL_SANITIZE}
+    $<$<CXX_COMPILER_ID:Clang>:-fuse-ld=lld>)
 endif()

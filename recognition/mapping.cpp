@@ -13,7 +13,7 @@ namespace
 using astrometry::Vector3;
 using Complex = SkyMapping::Complex;
 
-constexpr double step = 1e-3; // pixels, of the Jacobian's differences
+constexpr double jacobianStep = 1e-3; // pixels, of the Jacobian's differences
 constexpr int mostNewtonSteps = 25;
 constexpr double newtonTolerance = 1e-7; // pixels
 constexpr double farthest = 50.0;        // units from the frame's centre, of the inverse
@@ -124,12 +124,12 @@ Vector3 SkyMapping::skyOf(PixelPlace pixel) const
 
 SkyMapping::Jacobian SkyMapping::jacobianAt(PixelPlace p) const
 {
-    const Complex alongX =
-        (planeOf(PixelPlace{p.x + step, p.y}) - planeOf(PixelPlace{p.x - step, p.y})) /
-        (2.0 * step);
-    const Complex alongY =
-        (planeOf(PixelPlace{p.x, p.y + step}) - planeOf(PixelPlace{p.x, p.y - step})) /
-        (2.0 * step);
+    const Complex alongX = (planeOf(PixelPlace{p.x + jacobianStep, p.y}) -
+                            planeOf(PixelPlace{p.x - jacobianStep, p.y})) /
+                           (2.0 * jacobianStep);
+    const Complex alongY = (planeOf(PixelPlace{p.x, p.y + jacobianStep}) -
+                            planeOf(PixelPlace{p.x, p.y - jacobianStep})) /
+                           (2.0 * jacobianStep);
     return {alongX.real(), alongY.real(), alongX.imag(), alongY.imag()};
 }
 

@@ -3,7 +3,7 @@
 # Sourced by tools/stages.sh.
 
 # The minimum sets: to build, to run, to run without a screen, for the tests, for the lints, for
-# the Debian package.
+# the sanitizer builds, for the Debian package.
 packages_build="cmake ninja-build g++ qtbase5-dev qttools5-dev qttools5-dev-tools qtmultimedia5-dev
   libopencv-core-dev libopencv-imgproc-dev libopencv-imgcodecs-dev liberfa-dev libsep-dev
   libcfitsio-dev libindi-dev zlib1g-dev libqt5texttospeech5-dev"
@@ -12,6 +12,7 @@ packages_run="libqt5multimedia5-plugins gstreamer1.0-plugins-good fonts-dejavu-c
 packages_unseen="xvfb"
 packages_test="desktop-file-utils appstream mandoc libbenchmark-dev indi-bin"
 packages_lint="clang-format clang-tidy python3"
+packages_sanitize="clang lld llvm" # GCC alone would do, in three times the time
 packages_package="build-essential debhelper dpkg-dev file xz-utils"
 
 missing_packages() {
@@ -79,4 +80,12 @@ install_packages() {
   stage "Reading the package lists" patiently "${apt[@]}" update || return 1
   # shellcheck disable=SC2086 # the list is meant to be split
   stage "Installing the packages" patiently "${apt[@]}" install -y --no-install-recommends $missing
+}
+
+# install_sanitizers: installs the compiler of the sanitizer builds. Its runtime has a package of its own
+# on systems newer than Ubuntu 22.04.
+install_sanitizers() {
+  # shellcheck disable=SC2086 # the list is meant to be split
+  install_packages $packages_sanitize || return 1
+  if apt-cache show libclang-rt-dev >/dev/null 2>&1; then install_packages libclang-rt-dev; fi
 }

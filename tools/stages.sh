@@ -83,11 +83,12 @@ stage() {
   return $status
 }
 
-# configured PRESET: configures a build folder, and again if the presets have changed; CMake itself
-# notices other changes.
+# configured PRESET: configures a build folder, and from the beginning if the presets have changed: of
+# an old cache CMake keeps only a part where the compiler is another. It notices other changes itself.
 configured() {
   local made=build/$1/build.ninja
   if [ ! -f "$made" ] || [ CMakePresets.json -nt "$made" ]; then
+    rm -rf "build/$1/CMakeCache.txt" "build/$1/CMakeFiles"
     stage "Configuring the $1 build" cmake --preset "$1"
   fi
 }

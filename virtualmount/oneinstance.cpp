@@ -16,7 +16,8 @@ namespace virtualmount
 {
 namespace
 {
-constexpr int patience = 5000; // milliseconds to wait for an answer from a process that is starting
+constexpr int startPatience =
+    5000; // milliseconds to wait for an answer from a process that is starting
 constexpr char raiseRequest[] = "raise\n";
 constexpr char findRequest[] = "find\n";
 constexpr char answer[] = "here\n";
@@ -59,11 +60,11 @@ bool answers(const QString &name, const char *request)
 {
     QLocalSocket socket;
     socket.connectToServer(name);
-    if (!socket.waitForConnected(patience))
+    if (!socket.waitForConnected(startPatience))
         return false;
     socket.write(request);
     while (!socket.canReadLine())
-        if (!socket.waitForReadyRead(patience))
+        if (!socket.waitForReadyRead(startPatience))
             return false;
     return socket.readLine() == answer;
 }
@@ -78,7 +79,8 @@ OneInstance::OneInstance(const QString &skyFile)
 
 bool OneInstance::isOpenElsewhere(bool raise)
 {
-    for (const QDeadlineTimer deadline(patience); !deadline.hasExpired(); QThread::msleep(50)) {
+    for (const QDeadlineTimer deadline(startPatience); !deadline.hasExpired();
+         QThread::msleep(50)) {
         if (lock.tryLock() || lock.error() != QLockFile::LockFailedError)
             return false;
         if (answers(name, raise ? raiseRequest : findRequest))

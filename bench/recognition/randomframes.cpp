@@ -59,9 +59,9 @@ cv::Mat randomFrame(std::uint64_t number)
 {
     constexpr int types[] = {CV_8UC1, CV_8UC3, CV_16UC1, CV_16UC3};
     cv::RNG numbers(virtualsky::frameSeed(13, number));
-    const int width = numbers.uniform(32, 332), height = numbers.uniform(32, 232);
-    cv::Mat whole(height, width, types[numbers.uniform(0, 4)]);
+    const int columns = numbers.uniform(32, 332), rows = numbers.uniform(32, 232);
+    cv::Mat whole(rows, columns, types[numbers.uniform(0, 4)]);
     fill(whole, numbers);
     const int cut = numbers.uniform(0, 9); // columns
-    return whole(cv::Rect(0, 0, std::max(32, width - cut), height));
+    return whole(cv::Rect(0, 0, std::max(32, columns - cut), rows));
 }

@@ -50,7 +50,8 @@ __attribute__((constructor)) void load()
     if (isWay("a throwing constructor"))
         throw std::runtime_error("the library is not licensed");
     if (isWay("a hang at the first load")) {
-        for (bool first = createsFile(); first;)
+        const bool isFirst = createsFile();
+        while (isFirst)
             pause();
         return;
     }
