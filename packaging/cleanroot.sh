@@ -21,6 +21,7 @@ unpack_clean_root() {
     tar -C "$root" -xf "$base" || return
   fi
   chmod 755 "$root"
+  printf '127.0.0.1\tlocalhost\n::1\tlocalhost\n' >"$root/etc/hosts" # as an installed system has it
   mount -t proc proc "$root/proc" && cp /etc/resolv.conf "$root/etc/resolv.conf" &&
     mount --bind "$cache/archives" "$root/var/cache/apt/archives"
 }

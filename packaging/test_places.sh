@@ -5,10 +5,11 @@
 # too, and under two other umasks. The system is minimal: ./test itself installs what it needs, git is
 # not there, and nothing is beside the checkout.
 #   packaging/test_places.sh [NAME... | --quick]   these tests, or all of the release build; by default
-#                                                  those that a place has made fail
+#                                                  six that depend on the place
 # Needs root, debootstrap and the network. QUORVANDEL_PLACES=PATTERN leaves out the places whose names
-# do not match. With QUORVANDEL_CCACHE=FOLDER all places share the compiler's cache in FOLDER, which
-# becomes writable for everybody. The last line is the number of places where the tests passed and failed.
+# do not match; one of root's must come first, since ./test installs what it needs there. With
+# QUORVANDEL_CCACHE=FOLDER all places share the compiler's cache in FOLDER, which becomes writable for
+# everybody. The last line is the number of places where the tests passed and failed.
 set -u
 cd "$(dirname "$0")/.." || exit 1
 
