@@ -3,21 +3,25 @@
 # namespace of its own, so that all mounts end with the script.
 #
 # The caller sets `root`, an empty folder, and `cache`, where the downloaded system and packages are
-# kept. QUORVANDEL_MIRROR names another mirror than Debian's.
+# kept. QUORVANDEL_MIRROR names another mirror than Debian's, QUORVANDEL_SUITE another release than this
+# system's.
 
 # unpack_clean_root: a minimal system in `root`, which can install packages.
 unpack_clean_root() {
   # shellcheck disable=SC1091 # the system's own file
   . /etc/os-release
-  local mirror=${QUORVANDEL_MIRROR:-http://deb.debian.org/debian} base=$cache/$VERSION_CODENAME.tar
+  local mirror=${QUORVANDEL_MIRROR:-http://deb.debian.org/debian}
+  local suite=${QUORVANDEL_SUITE:-$VERSION_CODENAME} base
+  base=$cache/$suite.tar
   mkdir -p "$cache/archives/partial"
   if [ ! -f "$base" ]; then
-    debootstrap --variant=minbase "$VERSION_CODENAME" "$root" "$mirror" &&
+    debootstrap --variant=minbase "$suite" "$root" "$mirror" &&
       tar -C "$root" --one-file-system -cf "$base.part" . && mv "$base.part" "$base" || return
   else
     tar -C "$root" -xf "$base" || return
   fi
   chmod 755 "$root"
+  printf '127.0.0.1\tlocalhost\n::1\tlocalhost\n' >"$root/etc/hosts" # as an installed system has it
   mount -t proc proc "$root/proc" && cp /etc/resolv.conf "$root/etc/resolv.conf" &&
     mount --bind "$cache/archives" "$root/var/cache/apt/archives"
 }

@@ -10,7 +10,7 @@ packages_build="cmake ninja-build g++ qtbase5-dev qttools5-dev qttools5-dev-tool
 packages_run="libqt5multimedia5-plugins gstreamer1.0-plugins-good fonts-dejavu-core fonts-liberation
   fonts-noto-cjk xdg-utils qtspeech5-speechd-plugin"
 packages_unseen="xvfb"
-packages_test="desktop-file-utils appstream mandoc libbenchmark-dev indi-bin"
+packages_test="desktop-file-utils appstream mandoc libbenchmark-dev indi-bin make"
 packages_lint="clang-format clang-tidy python3"
 packages_sanitize="clang lld llvm" # GCC alone would do, in three times the time
 packages_package="build-essential debhelper dpkg-dev file xz-utils"

@@ -19,6 +19,8 @@ progress_of() {
   fi
 }
 
+progress_interval=60 # seconds between two lines where there is no terminal
+
 # show_progress TEXT LOG OWNER: shows progress until the process OWNER ends. On a terminal it updates
 # one line; otherwise it adds a line every minute.
 show_progress() {
@@ -28,7 +30,7 @@ show_progress() {
     if [ -t 1 ]; then
       line="$text ... $(progress_of "$log"), log: $log"
       printf '\r\033[K%s' "${line:0:$((width - 1))}"
-    elif [ $seconds -gt 0 ] && [ $((seconds % 60)) -eq 0 ]; then
+    elif [ $seconds -gt 0 ] && [ $((seconds % progress_interval)) -eq 0 ]; then
       printf '    %s\n' "$(progress_of "$log")"
     fi
     sleep 1 >/dev/null 2>&1

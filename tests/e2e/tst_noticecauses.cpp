@@ -3,7 +3,7 @@
 #include "core/savetrouble.h"
 #include "geometry/starfinder.h"
 #include "tests/e2e/noticewindow.h"
-#include "tests/support/ordinaryuser.h"
+#include "tests/support/reachablecopy.h"
 #include "widgets/magnifierwidget.h"
 
 #include <QAction>
@@ -379,5 +379,10 @@ void NoticeCausesTest::settingsNotKept()
     QCOMPARE(saveTrouble(folder), SaveTrouble::NotAFile);
 }
 
-QTEST_MAIN(NoticeCausesTest)
+int main(int argc, char *argv[])
+{
+    if (const auto status = statusOfCopy(argv))
+        return *status;
+    QTEST_MAIN_IMPL(NoticeCausesTest)
+}
 #include "tst_noticecauses.moc"

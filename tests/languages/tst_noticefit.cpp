@@ -39,6 +39,7 @@ private slots:
     void fits_data();
     void fits();
     void tooNarrow();
+    void rightEnd();
 
 private:
     std::unique_ptr<SessionWindow> open(QSize size, const char *language = nullptr) const;
@@ -125,6 +126,18 @@ void NoticeFitTest::tooNarrow()
     QCOMPARE(label->text(), text); // what a screen reader speaks
     label->showSentence(QString());
     QVERIFY(label->toolTip().isEmpty());
+    window->close();
+}
+
+/// Behind the other two, and nothing but the grip for resizing behind it.
+void NoticeFitTest::rightEnd()
+{
+    constexpr int grip = 24;
+    const auto window = open(smallest);
+    const QRect place = window->findChild<QLabel *>("label_notice")->geometry();
+    for (const char *const other : {"positionLabel", "fpsLabel"})
+        QVERIFY(window->findChild<QLabel *>(other)->geometry().right() < place.left());
+    QVERIFY(place.right() > window->statusBar()->width() - grip);
     window->close();
 }
 

@@ -154,13 +154,16 @@ void SourceTreeTest::fileThatCannotBeRead()
     const QString checkout = scratch.filePath(checkoutName);
     QVERIFY(makeCheckout(checkout, 0644, 0755));
     QVERIFY(write(checkout + "/secret", "x", 0));
+    const QString functions = scratch.filePath("sourcetree.sh"); // the project may be out of reach
+    QVERIFY(QFile::copy(PROJECT_SOURCE_DIR "/packaging/sourcetree.sh", functions));
+    chmod(QFile::encodeName(functions).constData(), 0644);
     chmod(QFile::encodeName(scratch.path()).constData(), 0755);
     QString user = "exec ";
     if (geteuid() == 0) { // can read every file
         user += "setpriv --reuid 65534 --regid 65534 --clear-groups ";
         QCOMPARE(chown(QFile::encodeName(target.path()).constData(), 65534, 65534), 0);
     }
-    const QString script = user + "bash -c \"" + QString(layOut).replace("\"$1\"", "'$1'") + '"';
+    const QString script = user + "bash -c \". '" + functions + "'; lay_out_sources '$1'\"";
     const QString result = run(checkout, "022", script, {target.path()});
     QVERIFY2(result.startsWith("bash fails") && result.contains("secret"), qPrintable(result));
 }

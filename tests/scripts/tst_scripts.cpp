@@ -64,6 +64,8 @@ private slots:
     void initTestCase();
     void progress_data();
     void progress();
+    void aLongStageMoves_data();
+    void aLongStageMoves();
     void aStageThatSucceeds();
     void aStageThatFails();
     void stagesOfAScriptThatStopsAtErrors();
@@ -118,6 +120,32 @@ void ScriptsTest::progress()
     QFETCH(QString, text);
     write("log", log);
     QCOMPARE(bash("progress_of log").text, text);
+}
+
+void ScriptsTest::aLongStageMoves_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<QString>("line");
+    QTest::newRow("on a terminal") << "script -qefc 'bash staged' said >/dev/null </dev/null"
+                                   << "Doing it ... 25 % (1 of 4), log: build/logs/Doing-it.log";
+    QTest::newRow("in a file") << "bash staged >said"
+                               << "Doing it ... (log: build/logs/Doing-it.log)\n"
+                                  "    25 % (1 of 4)\n";
+}
+
+/// The stage ends as soon as its progress is seen, or fails.
+void ScriptsTest::aLongStageMoves()
+{
+    QFETCH(QString, command);
+    QFETCH(QString, line);
+    write("staged", ". tools/stages.sh; progress_interval=1\n"
+                    "stage 'Doing it' bash -c 'echo \"[1/4] Building a\"; for i in {1..200}; do "
+                    "grep -q \"25 %\" said && exit; sleep 0.1; done; exit 1'\n");
+    QFile::remove(path("said"));
+    const Outcome outcome = bash(command + "; status=$?; cat said; exit $status");
+    QVERIFY2(outcome.text.contains(line), qPrintable(outcome.text));
+    QVERIFY2(outcome.text.contains("Doing it ... done (0 s)"), qPrintable(outcome.text));
+    QCOMPARE(outcome.status, 0);
 }
 
 void ScriptsTest::aStageThatSucceeds()
