@@ -194,8 +194,12 @@ void ManualTest::fromTheMenu()
     if (!expected.isLocalFile())
         QSKIP("the build folder is outside the source tree");
     FileTaker taker;
+    const LogRecorder log;
     window.findChild<QAction *>("actionQuorvandel_Manual")->trigger();
     QCOMPARE(taker.urls, QList<QUrl>{expected});
+    QCOMPARE(log.texts(QtWarningMsg).filter("it lies at"), QStringList());
+    // The launcher may find no browser.
+    QCOMPARE(window.statusBar()->currentMessage(), "Quorvandel Manual: " + expected.toLocalFile());
 }
 
 /// The test's platform cannot open a page, like a system without a launcher.
