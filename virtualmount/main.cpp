@@ -4,9 +4,11 @@
 #include "app/terminationsignals.h"
 #include "core/languages.h"
 #include "virtualcamera/skyfile.h"
+#include "virtualmount/exercise.h"
 #include "virtualmount/mountwindow.h"
 #include "virtualmount/oneinstance.h"
 #include "virtualmount/places.h"
+#include "virtualmount/skydocument.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -79,6 +81,8 @@ int main(int argc, char *argv[])
     OneInstance instance(skyFile);
     if (instance.isOpenElsewhere(!behind)) {
         puts("The virtual mount's window is open already.");
+        if (isAligned(SkyDocument(skyFile).state()))
+            puts("Its mount is aligned already: \"New exercise\" moves it away from the pole.");
         return 0;
     }
     MountWindow window(skyFile);
