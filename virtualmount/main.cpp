@@ -42,10 +42,16 @@ void describe(QCommandLineParser &options)
          QStringLiteral("code")});
 }
 
+QRect availableScreen()
+{
+    return QGuiApplication::primaryScreen()->availableGeometry();
+}
+
 void printPlaces(MountWindow &window)
 {
     window.ensurePolished();
-    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    const QRect screen = availableScreen();
+    window.fitScreen(screen.height());
     puts(geometriesText(sharedScreen(screen, window.sizeHint(), windowFrame())).constData());
 }
 } // namespace
@@ -86,6 +92,7 @@ int main(int argc, char *argv[])
         return 0;
     }
     MountWindow window(skyFile);
+    window.fitScreen(availableScreen().height());
     const TerminationSignals closing(window); // passing clouds are reset
     if (options.isSet(QStringLiteral("without-angles")))
         window.leaveOutAngles();

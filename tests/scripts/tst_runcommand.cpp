@@ -101,7 +101,7 @@ void RunCommandTest::opensBothAndEndsBoth()
     QTRY_VERIFY(isPainted("build/logs/mount.log", "virtualmount::MountWindow"));
     const std::vector<pid_t> mounts = programsWith(sky.toUtf8(), "bin/quorvandel-mount");
     QCOMPARE(mounts.size(), std::size_t(1));
-    // The platform's screen of 800 x 800 is too narrow for both windows.
+    // The platform's screen of 800 x 600 is too narrow for both windows.
     QVERIFY(optionsOf(mounts.front()).contains("--behind"));
     const QByteArray program =
         options.isEmpty() ? "bin/quorvandel" : "bin/quorvandel-assistant"; // not the mount
