@@ -60,12 +60,12 @@ MountWindow::MountWindow(const QString &skyFile, QWidget *parent)
     auto *const column = new QVBoxLayout(central);
     column->setContentsMargins(8, 4, 8, 2);
     column->setSpacing(3);
+    area->setWidget(central);
+    setCentralWidget(area);
     for (QWidget *const panel :
          {axisPanel(), boltPanel(), sitePanel(), weatherPanel(), faultPanel(), truthPanel()})
         column->addWidget(panel);
     column->addStretch(1);
-    area->setWidget(central);
-    setCentralWidget(area);
     addStatusLine();
     new ReturnPresses(*this); // owned by the window
 

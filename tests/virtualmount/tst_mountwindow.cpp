@@ -192,6 +192,10 @@ void MountWindowTest::fitsBesideTheMainWindow()
     QVERIFY2(size.width() >= 360 && size.width() <= 420, qPrintable(QString::number(size.width())));
     QVERIFY2(size.height() <= 700, qPrintable(QString::number(size.height())));
     QCOMPARE(shown.window.windowTitle(), QString("Quorvandel Virtual Mount"));
+    // As its place on the screen is computed before it is shown.
+    virtualmount::MountWindow hidden(file.path());
+    hidden.ensurePolished();
+    QCOMPARE(hidden.sizeHint(), size);
 }
 
 /// In every size that a title bar or a window list may request.
