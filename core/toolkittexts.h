@@ -11,8 +11,9 @@ struct ToolkitText {
 };
 
 inline constexpr ToolkitText sharedToolkitTexts[] = {
-    // The modifier key, shown beside the entries of the fields' context menus.
+    // The modifier keys, shown beside the entries of the fields' context menus.
     {"QShortcut", QT_TRANSLATE_NOOP("QShortcut", "Ctrl")},
+    {"QShortcut", QT_TRANSLATE_NOOP("QShortcut", "Shift")},
     // The fields' context menus.
     {"QLineEdit", QT_TRANSLATE_NOOP("QLineEdit", "&Undo")},
     {"QLineEdit", QT_TRANSLATE_NOOP("QLineEdit", "&Redo")},

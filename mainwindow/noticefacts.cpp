@@ -14,6 +14,7 @@
 
 #include <QDial>
 #include <QLabel>
+#include <QStatusBar>
 #include <QTabWidget>
 #include <QtMath>
 #include <cmath>
@@ -42,6 +43,14 @@ TemplatePlace placeThrough(QPointF starA, QPointF starB, const StarCatalogue &ca
                              catalogue.starAY - catalogue.starBY);
     return {starB, direction(starA - starB) - direction(onTemplate), south};
 }
+
+/// A message such as F1's is painted left of the notice, which leaves it half of the bar, or all of
+/// it while there is nothing to notice.
+void shareWithMessage(NoticeLabel &notice, const QStatusBar &bar)
+{
+    const int besideMessage = notice.text().isEmpty() ? 0 : bar.width() / 2;
+    notice.setMaximumWidth(bar.currentMessage().isEmpty() ? QWIDGETSIZE_MAX : besideMessage);
+}
 } // namespace
 
 void MainWindow::buildNotice()
@@ -49,6 +58,8 @@ void MainWindow::buildNotice()
     noticeLabel = new NoticeLabel(ui->statusBar);
     noticeLabel->setObjectName(QStringLiteral("label_notice"));
     ui->statusBar->addPermanentWidget(noticeLabel, 1);
+    connect(ui->statusBar, &QStatusBar::messageChanged, noticeLabel,
+            [this] { shareWithMessage(*noticeLabel, *ui->statusBar); });
 }
 
 void MainWindow::showNotice()
@@ -57,6 +68,7 @@ void MainWindow::showNotice()
         sinceLastPicture.start();
     const auto notice = noticeFor(noticeFacts());
     noticeLabel->showSentence(notice ? noticeText(*notice) : QString());
+    shareWithMessage(*noticeLabel, *ui->statusBar);
 }
 
 NoticeFacts MainWindow::noticeFacts() const

@@ -4,9 +4,11 @@
 #include "app/terminationsignals.h"
 #include "core/languages.h"
 #include "virtualcamera/skyfile.h"
+#include "virtualmount/exercise.h"
 #include "virtualmount/mountwindow.h"
 #include "virtualmount/oneinstance.h"
 #include "virtualmount/places.h"
+#include "virtualmount/skydocument.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -40,10 +42,16 @@ void describe(QCommandLineParser &options)
          QStringLiteral("code")});
 }
 
+QRect availableScreen()
+{
+    return QGuiApplication::primaryScreen()->availableGeometry();
+}
+
 void printPlaces(MountWindow &window)
 {
     window.ensurePolished();
-    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    const QRect screen = availableScreen();
+    window.fitScreen(screen.height());
     puts(geometriesText(sharedScreen(screen, window.sizeHint(), windowFrame())).constData());
 }
 } // namespace
@@ -79,9 +87,12 @@ int main(int argc, char *argv[])
     OneInstance instance(skyFile);
     if (instance.isOpenElsewhere(!behind)) {
         puts("The virtual mount's window is open already.");
+        if (isAligned(SkyDocument(skyFile).state()))
+            puts("Its mount is aligned already: \"New exercise\" moves it away from the pole.");
         return 0;
     }
     MountWindow window(skyFile);
+    window.fitScreen(availableScreen().height());
     const TerminationSignals closing(window); // passing clouds are reset
     if (options.isSet(QStringLiteral("without-angles")))
         window.leaveOutAngles();

@@ -6,6 +6,7 @@
 #include "virtualmount/fields.h"
 #include "virtualmount/mounticon.h"
 #include "virtualmount/mounttexts.h"
+#include "virtualmount/panelarea.h"
 #include "widgets/returnpresses.h"
 
 #include <QAbstractItemView>
@@ -53,12 +54,14 @@ MountWindow::MountWindow(const QString &skyFile, QWidget *parent)
     beginCounts();
     setWindowTitle(tr("Quorvandel Virtual Mount"));
     setWindowIcon(mountIcon());
-    auto *const central = new QWidget(this);
+    area = new PanelArea(this);
+    auto *const central = new QWidget(area);
     central->setObjectName(QStringLiteral("centralWidget"));
     auto *const column = new QVBoxLayout(central);
     column->setContentsMargins(8, 4, 8, 2);
     column->setSpacing(3);
-    setCentralWidget(central);
+    area->setWidget(central);
+    setCentralWidget(area);
     for (QWidget *const panel :
          {axisPanel(), boltPanel(), sitePanel(), weatherPanel(), faultPanel(), truthPanel()})
         column->addWidget(panel);
@@ -78,6 +81,11 @@ MountWindow::MountWindow(const QString &skyFile, QWidget *parent)
     focusBolts();
     setTruthShown(false);
     refresh();
+}
+
+void MountWindow::fitScreen(int height)
+{
+    area->setScreenHeight(height);
 }
 
 void MountWindow::watch()

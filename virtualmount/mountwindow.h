@@ -27,6 +27,8 @@ class QSlider;
 
 namespace virtualmount
 {
+class PanelArea;
+
 /// Edits one sky file live and stores nothing else. Shows the file's contents, whoever wrote them.
 class MountWindow : public QMainWindow
 {
@@ -36,6 +38,9 @@ public:
     explicit MountWindow(const QString &skyFile, QWidget *parent = nullptr);
     /// Beside a program that does not use the built-in star angles: the truth leaves them out.
     void leaveOutAngles();
+    /// The panels scroll if they are higher than a screen allows.
+    /// \param height pixels of the screen that are available to windows
+    void fitScreen(int height);
 
 protected:
     /// Resets passing clouds to the value before them.
@@ -121,6 +126,7 @@ private:
     QTimer poll, ticker;
     QElapsedTimer sinceTick, sincePassing;
 
+    PanelArea *area = nullptr;
     std::vector<std::function<void(const SkyState &)>> fields; ///< each shows a state
     QDial *dial = nullptr;
     QLabel *angle = nullptr, *altitudeCount = nullptr, *azimuthCount = nullptr;

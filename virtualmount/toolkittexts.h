@@ -9,7 +9,6 @@ namespace virtualmount
 {
 inline constexpr ToolkitText toolkitTexts[] = {
     // Keys as named in tool tips.
-    {"QShortcut", QT_TRANSLATE_NOOP("QShortcut", "Shift")},
     {"QShortcut", QT_TRANSLATE_NOOP("QShortcut", "Up")},
     {"QShortcut", QT_TRANSLATE_NOOP("QShortcut", "Down")},
     {"QShortcut", QT_TRANSLATE_NOOP("QShortcut", "Left")},

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Opens the manual, or shows where it is.
+// Opens the manual and shows where it is.
 #include "widgets/openmanual.h"
 
 #include <QDesktopServices>
@@ -9,10 +9,9 @@
 
 void openManual(const QUrl &page, const QString &title, QStatusBar &bar)
 {
-    if (QDesktopServices::openUrl(page))
-        return;
     constexpr int shownFor = 30000; // milliseconds: long enough to copy it by hand
     const QString place = page.toDisplayString(QUrl::PreferLocalFile);
-    qWarning() << "no program opens the manual; it lies at" << place;
+    if (!QDesktopServices::openUrl(page))
+        qWarning() << "no program opens the manual; it lies at" << place;
     bar.showMessage(title + QLatin1String(": ") + place, shownFor);
 }

@@ -370,6 +370,10 @@
         <source>Ctrl</source>
         <translation>Strg</translation>
     </message>
+    <message>
+        <source>Shift</source>
+        <translation>Umschalt</translation>
+    </message>
 </context>
 <context>
     <name>Report</name>

@@ -370,6 +370,10 @@
         <source>Ctrl</source>
         <translation>Ctrl</translation>
     </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
 </context>
 <context>
     <name>Report</name>

@@ -696,7 +696,7 @@
     </message>
     <message>
         <source>Tracking angle in degrees</source>
-        <translation>Verfolgungswinkel in Grad</translation>
+        <translation>Drehwinkel in Grad</translation>
     </message>
     <message>
         <source>Turn on by one degree</source>
@@ -1034,6 +1034,10 @@ Möchten Sie es trotzdem löschen?</translation>
     <message>
         <source>Ctrl</source>
         <translation>Strg</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Umschalt</translation>
     </message>
 </context>
 <context>

@@ -1035,6 +1035,10 @@ Le supprimer quand même ?</translation>
         <source>Ctrl</source>
         <translation>Ctrl</translation>
     </message>
+    <message>
+        <source>Shift</source>
+        <translation>Maj</translation>
+    </message>
 </context>
 <context>
     <name>QSidebar</name>

@@ -1035,6 +1035,10 @@ Eliminarlo comunque?</translation>
         <source>Ctrl</source>
         <translation>Ctrl</translation>
     </message>
+    <message>
+        <source>Shift</source>
+        <translation>Maiusc</translation>
+    </message>
 </context>
 <context>
     <name>QSidebar</name>

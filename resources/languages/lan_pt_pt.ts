@@ -1035,6 +1035,10 @@ Quer eliminá-lo mesmo assim?</translation>
         <source>Ctrl</source>
         <translation>Ctrl</translation>
     </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
 </context>
 <context>
     <name>QSidebar</name>

@@ -1035,6 +1035,10 @@ Do you want to delete it anyway?</source>
         <source>Ctrl</source>
         <translation>Ctrl</translation>
     </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
 </context>
 <context>
     <name>QSidebar</name>

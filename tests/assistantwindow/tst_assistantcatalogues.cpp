@@ -31,8 +31,12 @@ const QMap<QString, QSet<QString>> &loanWords()
 {
     static const QMap<QString, QSet<QString>> words{
         {"FR", {"Altitude", "1 minute", "%n minutes"}},
-        {"PT", {"Altitude"}},
+        {"PT", {"Altitude", "Shift"}},
         {"IT", {"Camera"}},
+        {"ZH", {"Shift"}},
+        {"JA", {"Shift"}},
+        {"RU", {"Shift"}},
+        {"KO", {"Shift"}},
     };
     return words;
 }

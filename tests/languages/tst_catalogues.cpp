@@ -53,8 +53,12 @@ const QMap<QString, QSet<QString>> &loanWords()
         {"DE", {"Gain", "Traffic", "Position:", "Zoom", "Name", "Computer"}},
         {"FR", {"Latitude", "Longitude", "Gain", "Zoom", "Question", "Position:", "Type"}},
         {"ES", {"Zoom", "Error", "&No"}},
-        {"PT", {"Zoom", "Latitude", "Longitude"}},
+        {"PT", {"Zoom", "Latitude", "Longitude", "Shift"}},
         {"IT", {"File", "Zoom", "Computer", "&No"}},
+        {"ZH", {"Shift"}},
+        {"JA", {"Shift"}},
+        {"RU", {"Shift"}},
+        {"KO", {"Shift"}},
     };
     return words;
 }

@@ -14,6 +14,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QHeaderView>
+#include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -172,6 +173,11 @@ void ToolkitTextsTest::areTranslated()
     QVERIFY(catalogue.load(cataloguePath("lan", languages.at(std::size_t(number)))));
     for (const auto &[context, text] : shownTexts)
         QVERIFY2(seen.contains(catalogue.translate(context, text)), text);
+    // The keys beside "Redo" in a field's menu, which depend on the desktop.
+    const QKeySequence redo(int(Qt::CTRL) + int(Qt::SHIFT) + int(Qt::Key_Z));
+    QCOMPARE(redo.toString(QKeySequence::NativeText),
+             catalogue.translate("QShortcut", "Ctrl") + '+' +
+                 catalogue.translate("QShortcut", "Shift") + "+Z");
 }
 
 QTEST_MAIN(ToolkitTextsTest)

@@ -5,17 +5,20 @@
 #include "resources/resources.h"
 #include "tests/support/logrecorder.h"
 #include "tests/support/sessionwindow.h"
+#include "tests/support/textroom.h"
 
 #include <QAction>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QImage>
 #include <QRegularExpression>
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTranslator>
+#include <algorithm>
 
 namespace
 {
@@ -78,6 +81,8 @@ private slots:
     void ofThisBuild();
     void fromTheMenu();
     void whereItLiesWithoutALauncher();
+    void itsPlaceIsSeen_data();
+    void itsPlaceIsSeen();
     void linksLeadSomewhere_data();
     void linksLeadSomewhere();
     void bothLanguagesHaveTheSamePages();
@@ -194,8 +199,12 @@ void ManualTest::fromTheMenu()
     if (!expected.isLocalFile())
         QSKIP("the build folder is outside the source tree");
     FileTaker taker;
+    const LogRecorder log;
     window.findChild<QAction *>("actionQuorvandel_Manual")->trigger();
     QCOMPARE(taker.urls, QList<QUrl>{expected});
+    QCOMPARE(log.texts(QtWarningMsg).filter("it lies at"), QStringList());
+    // The launcher may find no browser.
+    QCOMPARE(window.statusBar()->currentMessage(), "Quorvandel Manual: " + expected.toLocalFile());
 }
 
 /// The test's platform cannot open a page, like a system without a launcher.
@@ -207,6 +216,40 @@ void ManualTest::whereItLiesWithoutALauncher()
     window.findChild<QAction *>("actionQuorvandel_Manual")->trigger();
     QCOMPARE(window.statusBar()->currentMessage(), "Quorvandel Manual: " + place);
     QCOMPARE(log.texts(QtWarningMsg).filter("it lies at").filter(place).size(), 1);
+}
+
+void ManualTest::itsPlaceIsSeen_data()
+{
+    QTest::addColumn<bool>("hasNotice");
+    QTest::newRow("alone") << false;
+    QTest::newRow("beside a notice") << true;
+}
+
+/// At the left end of the status bar, once the read-outs have made room; a notice stays.
+void ManualTest::itsPlaceIsSeen()
+{
+    QFETCH(bool, hasNotice);
+    SessionWindow window;
+    window.resize(800, 480);
+    window.show();
+    const auto &notice = *window.findChild<QLabel *>("label_notice");
+    window.ownSession.camera.sdkReady = !hasNotice;
+    QTRY_COMPARE(notice.text().isEmpty(), !hasNotice);
+    window.findChild<QAction *>("actionQuorvandel_Manual")->trigger();
+    settle();
+    QStatusBar &bar = *window.statusBar();
+    const int whole = QFontMetrics(bar.font()).horizontalAdvance(bar.currentMessage());
+    QVERIFY2(notice.x() >= std::min(whole, bar.width() / 2 - 40),
+             qPrintable(QString::number(notice.x())));
+    QCOMPARE(notice.width() > 300, hasNotice);
+    const QImage picture = bar.grab(QRect(0, 0, notice.x(), bar.height())).toImage();
+    int ink = 0;
+    for (int x = 4; x < picture.width(); ++x)
+        ink += picture.pixel(x, picture.height() / 2) != picture.pixel(0, picture.height() / 2);
+    QVERIFY2(ink > 50, qPrintable(QString::number(ink)));
+    bar.clearMessage();
+    settle();
+    QVERIFY2(notice.width() > 400, qPrintable(QString::number(notice.width())));
 }
 
 void ManualTest::linksLeadSomewhere_data()

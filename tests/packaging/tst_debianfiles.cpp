@@ -72,6 +72,7 @@ private slots:
     void whatItIsBuiltFromIsWhatTheScriptsInstall();
     void recommendsWhatTheProgramCanDoWithout_data();
     void recommendsWhatTheProgramCanDoWithout();
+    void dependsOnALauncher();
     void theStarDataHaveALineOfTheirOwn();
     void theManualIsInTheListOfDocuments_data();
     void theManualIsInTheListOfDocuments();
@@ -101,8 +102,8 @@ void DebianFilesTest::recommendsWhatTheProgramCanDoWithout_data()
 {
     QTest::addColumn<QString>("package");
     for (const char *const name :
-         {"xdg-utils", "www-browser", "fonts-noto-cjk", "fonts-liberation",
-          "libqt5multimedia5-plugins", "gstreamer1.0-plugins-good", "qtspeech5-speechd-plugin"})
+         {"www-browser", "fonts-noto-cjk", "fonts-liberation", "libqt5multimedia5-plugins",
+          "gstreamer1.0-plugins-good", "qtspeech5-speechd-plugin"})
         QTest::newRow(name) << QString(name);
 }
 
@@ -113,6 +114,14 @@ void DebianFilesTest::recommendsWhatTheProgramCanDoWithout()
     QCOMPARE(binary.value("Package"), QString("quorvandel"));
     QVERIFY(packagesIn(binary.value("Recommends")).contains(package));
     QVERIFY(!packagesIn(binary.value("Depends")).contains(package));
+}
+
+/// Without it F1 would do nothing.
+void DebianFilesTest::dependsOnALauncher()
+{
+    const Stanza binary = stanzasOf("debian/control").value(1);
+    QVERIFY(packagesIn(binary.value("Depends")).contains("xdg-utils"));
+    QVERIFY(packagesOf("packages_run").contains("xdg-utils"));
 }
 
 /// Each paragraph on files is about files that are there, and the measured stars name their source.

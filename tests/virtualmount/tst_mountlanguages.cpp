@@ -7,12 +7,14 @@
 #include "tests/support/textroom.h"
 #include "tests/support/toolkitwalk.h"
 #include "tests/virtualmount/mountwindowtest.h"
+#include "virtualmount/panelarea.h"
 #include "virtualmount/places.h"
 
 #include <QAbstractSpinBox>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QSet>
 #include <QSlider>
 #include <QStyleOptionComboBox>
@@ -79,6 +81,8 @@ private slots:
     void everyTextFits();
     void anAlignedStartFits_data() { everyTextFits_data(); }
     void anAlignedStartFits();
+    void aLowScreen_data() { everyTextFits_data(); }
+    void aLowScreen();
     void mnemonicsAreUnique_data() { everyTextFits_data(); }
     void mnemonicsAreUnique();
     void nothingIsLeftInEnglish_data();
@@ -159,6 +163,37 @@ void MountLanguagesTest::anAlignedStartFits()
     QString button = named<QAbstractButton>(shown.window, "newExercise").text();
     button.remove(QRegularExpression("\\(&.\\)")).remove('&');
     QVERIFY2(textOf(shown.window, "truth").contains(button), qPrintable(button));
+}
+
+/// The panels scroll there, and nothing is cut off beside the scroll bar.
+void MountLanguagesTest::aLowScreen()
+{
+    QFETCH(int, number);
+    QVERIFY(installTranslator("mount", languages.at(std::size_t(number))));
+    const SkyFileFixture file;
+    ShownWindow shown(file.path());
+    virtualmount::MountWindow &window = shown.window;
+    auto &area = *window.findChild<virtualmount::PanelArea *>();
+    QCOMPARE(area.verticalScrollBar()->maximum(), 0);
+    const QMargins frame(1, 20, 1, 5);
+    const QRect screen(0, 0, 800, 480);
+    window.fitScreen(screen.height());
+    const virtualmount::WindowGeometries places =
+        virtualmount::sharedScreen(screen, window.sizeHint(), frame);
+    settle(); // the smallest size follows
+    window.resize(places.mount.size());
+    settle();
+    QCOMPARE(window.size(), places.mount.size());
+    QCOMPARE((lacksIn(window) + cutTexts(window)).join("; "), QString());
+    QVERIFY2(area.widget()->width() <= area.viewport()->width(),
+             qPrintable(QString::number(area.widget()->width())));
+    // The Tab key leads to the last panel.
+    const auto &exercise = named<QAbstractButton>(window, "newExercise");
+    QVERIFY(exercise.visibleRegion().isEmpty());
+    for (int presses = 0; presses < 40 && !exercise.hasFocus(); ++presses)
+        press(Qt::Key_Tab);
+    QCOMPARE(exercise.visibleRegion().boundingRect().size(), exercise.size());
+    QVERIFY(contextMenuOf(*area.verticalScrollBar(), {2, 2}).isEmpty());
 }
 
 void MountLanguagesTest::mnemonicsAreUnique()

@@ -187,11 +187,17 @@ void MountWindowTest::everythingHasAName()
 void MountWindowTest::fitsBesideTheMainWindow()
 {
     const SkyFileFixture file;
+    // Its place on the screen is computed before any is shown.
+    virtualmount::MountWindow hidden(file.path());
+    hidden.ensurePolished();
+    const QSize planned = hidden.sizeHint();
     const ShownWindow shown(file.path());
     const QSize size = shown.window.size();
     QVERIFY2(size.width() >= 360 && size.width() <= 420, qPrintable(QString::number(size.width())));
     QVERIFY2(size.height() <= 700, qPrintable(QString::number(size.height())));
     QCOMPARE(shown.window.windowTitle(), QString("Quorvandel Virtual Mount"));
+    QCOMPARE(size, planned);
+    QCOMPARE(named<QWidget>(shown.window, "centralWidget").sizeHint().width(), size.width());
 }
 
 /// In every size that a title bar or a window list may request.

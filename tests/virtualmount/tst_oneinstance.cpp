@@ -29,6 +29,7 @@ struct Sky {
 /// The program on a sky file; it ends with its object.
 struct Mount {
     QProcess process;
+    QByteArray said;
 
     Mount(const Sky &sky, const QStringList &arguments) : Mount(sky, sky.file.path(), arguments) {}
     Mount(const Sky &sky, const QString &skyFile, const QStringList &arguments)
@@ -50,8 +51,10 @@ struct Mount {
     bool ends() { return process.waitForFinished(patience); }
     bool endsSinceThereIsOne()
     {
-        return ends() && process.exitCode() == 0 &&
-               process.readAllStandardOutput().contains("is open already");
+        if (!ends() || process.exitCode() != 0)
+            return false;
+        said = process.readAllStandardOutput();
+        return said.contains("is open already");
     }
 };
 } // namespace
@@ -63,6 +66,8 @@ class OneInstanceTest : public QObject
 private slots:
     void aSecondStartFindsIt_data();
     void aSecondStartFindsIt();
+    void itSaysThatTheMountIsAligned_data();
+    void itSaysThatTheMountIsAligned();
     void theSameByALink();
     void anotherSkyHasItsOwn();
     void ofManyAtOnceOneStays();
@@ -87,6 +92,28 @@ void OneInstanceTest::aSecondStartFindsIt()
     Mount second(sky, arguments);
     QVERIFY(second.endsSinceThereIsOne());
     QCOMPARE(first.process.state(), QProcess::Running);
+}
+
+void OneInstanceTest::itSaysThatTheMountIsAligned_data()
+{
+    QTest::addColumn<QByteArray>("bolts");
+    QTest::addColumn<bool>("aligned");
+    QTest::newRow("aligned") << QByteArray("bolt_altitude = 0.01\nbolt_azimuth = 0\n") << true;
+    QTest::newRow("not aligned") << QByteArray("bolt_altitude = 1\nbolt_azimuth = 0\n") << false;
+}
+
+/// The window itself has been open since it was not.
+void OneInstanceTest::itSaysThatTheMountIsAligned()
+{
+    QFETCH(QByteArray, bolts);
+    QFETCH(bool, aligned);
+    const Sky sky;
+    Mount first(sky, {});
+    QTRY_VERIFY_WITH_TIMEOUT(sky.hasAWindow(), patience);
+    sky.file.writeText("[mount]\n" + bolts);
+    Mount second(sky, {});
+    QVERIFY(second.endsSinceThereIsOne());
+    QCOMPARE(second.said.contains("is aligned already"), aligned);
 }
 
 void OneInstanceTest::theSameByALink()

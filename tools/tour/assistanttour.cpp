@@ -52,9 +52,10 @@ virtualsky::SkyState startingSky(bool south)
 void placeSideBySide(QWidget &window, virtualmount::MountWindow &mount)
 {
     mount.ensurePolished();
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    mount.fitScreen(screen.height());
     const virtualmount::WindowGeometries places =
-        virtualmount::sharedScreen(QGuiApplication::primaryScreen()->availableGeometry(),
-                                   mount.sizeHint(), virtualmount::windowFrame());
+        virtualmount::sharedScreen(screen, mount.sizeHint(), virtualmount::windowFrame());
     window.resize(places.program.size());
     window.move(places.program.topLeft()); // of the frame
     mount.resize(places.mount.size());

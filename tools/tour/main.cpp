@@ -145,9 +145,10 @@ std::unique_ptr<Album> albumFor(const QCommandLineParser &options, const QString
 void placeSideBySide(MainWindow &window, virtualmount::MountWindow &mount, Person::Options &how)
 {
     mount.ensurePolished();
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    mount.fitScreen(screen.height());
     const virtualmount::WindowGeometries places =
-        virtualmount::sharedScreen(QGuiApplication::primaryScreen()->availableGeometry(),
-                                   mount.sizeHint(), virtualmount::windowFrame());
+        virtualmount::sharedScreen(screen, mount.sizeHint(), virtualmount::windowFrame());
     window.resize(places.program.size());
     window.move(places.program.topLeft()); // of the frame
     mount.resize(places.mount.size());
