@@ -24,8 +24,8 @@ constexpr double medianAllowed = 35.0;
 /// With the angles of the sky's own date only clicks, template and centroids are left.
 constexpr double worstOfDate = 25.0;
 constexpr double medianOfDate = 10.0;
-/// Hemispheres, zooms, answers and styles.
-constexpr int rowsOfOneDate = 2 * 3 * 2 * 2;
+/// Hemispheres, zooms and answers; the style follows from them.
+constexpr int rowsOfOneDate = 2 * 3 * 2;
 
 struct Result {
     QString date, hemisphere;
@@ -35,14 +35,11 @@ struct Result {
     double before, after; ///< arcseconds
 };
 
-/// Fewer rows where a sanitizer slows everything down: each choice still occurs.
-bool isReduced()
+/// All rows; else every second one, chosen so that any two choices meet under each sky, and any
+/// four under one of the first two.
+bool isComplete()
 {
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-    return true;
-#else
-    return false;
-#endif
+    return qEnvironmentVariableIsSet("QUORVANDEL_ALL_ALIGNMENTS");
 }
 
 double median(std::vector<double> values)
@@ -85,18 +82,18 @@ void AlignmentTest::aligns_data()
     QTest::addColumn<int>("zoom");
     QTest::addColumn<bool>("reuse");
     QTest::addColumn<bool>("mono");
-    int number = 0;
     const struct {
         const char *date;
         bool anglesOfDate;
     } skies[] = {{"2024-05-23", false}, {"2026-11-20", false}, {"2026-11-20", true}};
-    for (const auto &[date, ofDate] : skies)
+    for (int sky = 0; sky < 3; ++sky)
         for (const bool south : {false, true})
             for (const int zoom : {100, 75, 50})
                 for (const bool reuse : {false, true})
                     for (const bool mono : {false, true}) {
-                        if (isReduced() && number++ % 11 != 0)
+                        if (!isComplete() && (sky + south + zoom / 25 + reuse + mono) % 2 != 0)
                             continue;
+                        const auto &[date, ofDate] = skies[sky];
                         QTest::addRow("%s%s %s %d%% %s %s", date, ofDate ? " angles of date" : "",
                                       south ? "south" : "north", zoom,
                                       reuse ? "reuse" : "three picks", mono ? "mono" : "colour")
@@ -194,8 +191,8 @@ void AlignmentTest::cleanupTestCase()
         const double middle = median(errors);
         printf("  median %.1f, worst %.1f of %zu\n", middle,
                *std::max_element(errors.begin(), errors.end()), errors.size());
-        // The median speaks of the whole table: three rows of a reduced one have none to speak of.
-        if (sky.allowed > 0.0 && int(errors.size()) == rowsOfOneDate)
+        // A median of one row by itself would say nothing.
+        if (sky.allowed > 0.0 && int(errors.size()) >= rowsOfOneDate)
             QVERIFY2(middle <= sky.allowed, qPrintable(QString::number(middle)));
     }
     QFile::remove(settingsFilePath());
