@@ -72,3 +72,11 @@ inline virtualsky::SkyState plainNight(bool south = false)
     sky.boltAzimuth = -0.4;
     return sky;
 }
+
+/// Turns the mount's RA axis.
+inline void turn(MountOnSky &mount, double degrees)
+{
+    virtualsky::SkyState sky = mount.sky();
+    sky.raAngle += degrees;
+    mount.setSky(sky);
+}

@@ -66,9 +66,10 @@ void NoticesTest::rightAlignment()
         Person person = w.person(seed);
         person.arrived = [&](const QString &name) {
             ends.append(name);
-            QTest::qWait(oneLook); // the notice seen last may be from before the last action
-            if (!w.notice().isEmpty())
-                said.insert(name, w.notice());
+            // The notice seen last may be from before the last action.
+            const QString notice = w.nextNotice();
+            if (!notice.isEmpty())
+                said.insert(name, notice);
         };
         person.align();
         person.disconnectCamera();
@@ -110,10 +111,7 @@ void NoticesTest::wrongTemplate()
     QMap<QString, QString> said;
     try {
         Person person = w.person();
-        person.arrived = [&](const QString &name) {
-            QTest::qWait(oneLook);
-            said.insert(name, w.notice());
-        };
+        person.arrived = [&](const QString &name) { said.insert(name, w.nextNotice()); };
         person.connectCamera();
         person.prepare();
         person.setExposure();

@@ -12,6 +12,10 @@
 #include <QtTest>
 #include <map>
 
+/// As fast as the camera sends small frames, milliseconds; without it, the frames alone take a
+/// core.
+constexpr int frameInterval = 30;
+
 QString settingsPath()
 {
     return QCoreApplication::applicationDirPath() + "/Quorvandel.ini";
@@ -27,6 +31,7 @@ CameraWindow::CameraWindow(const QByteArray &settings, const std::function<void(
             qFatal("the settings file cannot be written");
     }
     sdk().reset();
+    sdk().setFrameInterval(frameInterval);
     if (beforeStart)
         beforeStart();
     window = std::make_unique<SessionWindow>();
