@@ -42,17 +42,9 @@ void describe(QCommandLineParser &options)
          QStringLiteral("code")});
 }
 
-QRect availableScreen()
-{
-    return QGuiApplication::primaryScreen()->availableGeometry();
-}
-
 void printPlaces(MountWindow &window)
 {
-    window.ensurePolished();
-    const QRect screen = availableScreen();
-    window.fitScreen(screen.height());
-    puts(geometriesText(sharedScreen(screen, window.sizeHint(), windowFrame())).constData());
+    puts(geometriesText(window.shareScreen()).constData());
 }
 } // namespace
 
@@ -92,7 +84,7 @@ int main(int argc, char *argv[])
         return 0;
     }
     MountWindow window(skyFile);
-    window.fitScreen(availableScreen().height());
+    window.fitScreen(QGuiApplication::primaryScreen()->availableGeometry().height());
     const TerminationSignals closing(window); // passing clouds are reset
     if (options.isSet(QStringLiteral("without-angles")))
         window.leaveOutAngles();

@@ -20,9 +20,11 @@
 #include <QDial>
 #include <QDir>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 #include <cmath>
 #include <utility>
@@ -86,6 +88,14 @@ MountWindow::MountWindow(const QString &skyFile, QWidget *parent)
 void MountWindow::fitScreen(int height)
 {
     area->setScreenHeight(height);
+}
+
+WindowGeometries MountWindow::shareScreen()
+{
+    ensurePolished();
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    fitScreen(screen.height());
+    return sharedScreen(screen, sizeHint(), windowFrame());
 }
 
 void MountWindow::watch()

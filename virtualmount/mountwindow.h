@@ -3,6 +3,7 @@
 #pragma once
 
 #include "virtualmount/mountmodel.h"
+#include "virtualmount/places.h"
 #include "virtualmount/skydocument.h"
 #include "widgets/wheelguard.h"
 
@@ -41,6 +42,8 @@ public:
     /// The panels scroll if they are higher than a screen allows.
     /// \param height pixels of the screen that are available to windows
     void fitScreen(int height);
+    /// Fits the primary screen, and divides it between this window and the program's.
+    WindowGeometries shareScreen();
 
 protected:
     /// Resets passing clouds to the value before them.

@@ -16,8 +16,8 @@ namespace virtualmount
 {
 namespace
 {
-constexpr int startPatience =
-    5000; // milliseconds to wait for an answer from a process that is starting
+/// Milliseconds to wait for an answer from a process that is starting.
+constexpr int startPatience = 5000;
 constexpr char raiseRequest[] = "raise\n";
 constexpr char findRequest[] = "find\n";
 constexpr char answer[] = "here\n";

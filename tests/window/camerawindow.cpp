@@ -12,8 +12,7 @@
 #include <QtTest>
 #include <map>
 
-/// As fast as the camera sends small frames, milliseconds; without it, the frames alone take a
-/// core.
+/// Milliseconds, as a camera sends small frames; without it, the frames alone take a core.
 constexpr int frameInterval = 30;
 
 QString settingsPath()

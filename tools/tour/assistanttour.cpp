@@ -12,14 +12,12 @@
 #include "tools/tour/ending.h"
 #include "virtualcamera/skyfile.h"
 #include "virtualmount/mountwindow.h"
-#include "virtualmount/places.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFile>
 #include <QLabel>
-#include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
 #include <cstdio>
@@ -51,11 +49,7 @@ virtualsky::SkyState startingSky(bool south)
 
 void placeSideBySide(QWidget &window, virtualmount::MountWindow &mount)
 {
-    mount.ensurePolished();
-    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-    mount.fitScreen(screen.height());
-    const virtualmount::WindowGeometries places =
-        virtualmount::sharedScreen(screen, mount.sizeHint(), virtualmount::windowFrame());
+    const virtualmount::WindowGeometries places = mount.shareScreen();
     window.resize(places.program.size());
     window.move(places.program.topLeft()); // of the frame
     mount.resize(places.mount.size());

@@ -14,14 +14,12 @@
 #include "tools/tour/touroptions.h"
 #include "virtualcamera/skyfile.h"
 #include "virtualmount/mountwindow.h"
-#include "virtualmount/places.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFile>
 #include <QLabel>
-#include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
 #include <cstdio>
@@ -144,11 +142,7 @@ std::unique_ptr<Album> albumFor(const QCommandLineParser &options, const QString
 /// small enough to fit.
 void placeSideBySide(MainWindow &window, virtualmount::MountWindow &mount, Person::Options &how)
 {
-    mount.ensurePolished();
-    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-    mount.fitScreen(screen.height());
-    const virtualmount::WindowGeometries places =
-        virtualmount::sharedScreen(screen, mount.sizeHint(), virtualmount::windowFrame());
+    const virtualmount::WindowGeometries places = mount.shareScreen();
     window.resize(places.program.size());
     window.move(places.program.topLeft()); // of the frame
     mount.resize(places.mount.size());
