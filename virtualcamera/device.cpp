@@ -105,20 +105,23 @@ double Device::exposureSeconds() const
     return values[ExposureMicroseconds] * 1e-6;
 }
 
-double Device::period(double slowSeconds) const
+double Device::period(const Behaviour &behaviour) const
 {
-    return framePeriod(exposureSeconds(), values[UsbTraffic], values[Speed]) + slowSeconds;
+    const double own = behaviour.unthrottled
+                           ? 0.0
+                           : framePeriod(exposureSeconds(), values[UsbTraffic], values[Speed]);
+    return own + behaviour.slowSeconds;
 }
 
 bool Device::beginLive()
 {
-    const double slow = source.behaviour().slowSeconds;
+    const Behaviour behaviour = source.behaviour();
     const std::lock_guard<std::mutex> lock(mutex);
     if (!initialised || streamMode != 1)
         return false;
     live = true;
     frameNumber = 0;
-    clock.begin(steadySeconds(), period(slow));
+    clock.begin(steadySeconds(), period(behaviour));
     return true;
 }
 
@@ -136,8 +139,8 @@ bool Device::takeFrame(FrameShape &shape, std::uint8_t *buffer)
     const std::lock_guard<std::mutex> lock(mutex);
     if (!live || behaviour.unplugged)
         return false;
-    clock.setPeriod(period(behaviour.slowSeconds));
-    if (!clock.take(steadySeconds()) && !behaviour.unthrottled)
+    clock.setPeriod(period(behaviour));
+    if (!clock.take(steadySeconds()))
         return false;
     const unsigned channels =
         source.frame({area, {exposureSeconds(), values[Gain], frameNumber + 1}}, buffer);

@@ -40,7 +40,7 @@ public:
 
 private:
     double exposureSeconds() const;
-    double period(double slowSeconds) const;
+    double period(const Behaviour &behaviour) const;
 
     FrameSource &source;
     mutable std::mutex mutex; // guards everything below

@@ -27,6 +27,8 @@ void FrameClock::setPeriod(double period)
 
 bool FrameClock::take(double now)
 {
+    if (length <= 0.0)
+        return true;
     const double finished = std::floor((now - started) / length);
     if (!(finished >= 1.0))
         return false;

@@ -16,7 +16,7 @@ struct Behaviour {
     unsigned cameras = 1;     ///< 0 to 2
     bool unplugged = false;   ///< no frames, and no camera is found
     double slowSeconds = 0.0; ///< added to the time of every frame
-    bool unthrottled = false; ///< the source alone decides when a frame is there
+    bool unthrottled = false; ///< exposures take no time: the source decides when a frame is there
 };
 
 struct FrameRequest {

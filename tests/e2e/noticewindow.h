@@ -118,7 +118,7 @@ private:
         virtualsky::SkyState sky = practiceSky(south);
         sky.boltAltitude = 0.5;
         sky.boltAzimuth = -0.4;
-        sky.unthrottled = true;
+        hurry(sky);
         return sky;
     }
 };

@@ -4,6 +4,7 @@
 #include "core/settingsfile.h"
 #include "resources/resources.h"
 #include "tests/support/sessionwindow.h"
+#include "tools/practicesky.h"
 #include "tools/tour/person.h"
 
 #include <QApplication>
@@ -125,7 +126,7 @@ void AlignmentTest::aligns()
     const std::optional<double> anglesAt = anglesOfDate ? sky.date : std::nullopt;
     sky.boltAltitude = startOff;
     sky.boltAzimuth = -startOff;
-    sky.unthrottled = true;
+    hurry(sky);
     Knobs knobs(qEnvironmentVariable("QUORVANDEL_SKY").toStdString(), sky);
 
     // A centre from an earlier night is saved, so the program asks whether to use it.

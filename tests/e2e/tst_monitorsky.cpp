@@ -5,6 +5,7 @@
 #include "core/settingsfile.h"
 #include "resources/resources.h"
 #include "tests/support/sessionwindow.h"
+#include "tools/practicesky.h"
 #include "tools/tour/person.h"
 
 #include <QApplication>
@@ -104,7 +105,7 @@ void MonitorSkyTest::monitor(bool south)
     sky.running = false;
     sky.boltAltitude = 0.5;
     sky.boltAzimuth = -0.4;
-    sky.unthrottled = true;
+    hurry(sky);
     QFile::remove(settingsFilePath());
     knobs = std::make_unique<Knobs>(qEnvironmentVariable("QUORVANDEL_SKY").toStdString(), sky);
     window = std::make_unique<SessionWindow>();

@@ -67,7 +67,7 @@ void TourEndingTest::theLastStepsAreSeenFromNear()
     virtualsky::SkyState sky = practiceSky(false);
     sky.boltAltitude = 0.8;
     sky.boltAzimuth = -0.9;
-    sky.unthrottled = true;
+    hurry(sky);
     sky.noise = false;
     Knobs knobs(qEnvironmentVariable("QUORVANDEL_SKY").toStdString(), sky);
     SessionWindow window;

@@ -19,6 +19,7 @@ private slots:
     void missedFramesAreNotKept();
     void shorterPeriodActsAtOnce();
     void longerPeriodActsAtOnce();
+    void withoutAPeriodAFrameIsAlwaysReady();
     void skyTime_data();
     void skyTime();
     void newDateStartsAnew();
@@ -98,6 +99,17 @@ void ClocksTest::longerPeriodActsAtOnce()
     clock.setPeriod(2.0);
     QVERIFY(!clock.take(1.9));
     QVERIFY(clock.take(2.1));
+}
+
+void ClocksTest::withoutAPeriodAFrameIsAlwaysReady()
+{
+    FrameClock clock;
+    clock.begin(0.0, 0.0);
+    QVERIFY(clock.take(0.0));
+    QVERIFY(clock.take(0.0));
+    clock.setPeriod(1.0);
+    QVERIFY(!clock.take(0.5));
+    QVERIFY(clock.take(1.0));
 }
 
 void ClocksTest::skyTime_data()

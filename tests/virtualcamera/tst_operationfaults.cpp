@@ -71,6 +71,7 @@ private slots:
     void badHandlesAreRefused();
     void frameNeverBlocks();
     void frameRate();
+    void slowFrames_data();
     void slowFrames();
     void unpluggedCamera();
     void channelsAndPictures_data();
@@ -169,15 +170,23 @@ void OperationFaultsTest::frameRate()
     QCOMPARE(veldix().close(camera), 0u);
 }
 
+void OperationFaultsTest::slowFrames_data()
+{
+    QTest::addColumn<QByteArray>("section");
+    QTest::newRow("exposures") << QByteArray("");
+    QTest::newRow("unthrottled") << QByteArray("[camera]\nunthrottled = true\n");
+}
+
 void OperationFaultsTest::slowFrames()
 {
-    setSky("[faults]\nslow = 600\n");
+    QFETCH(QByteArray, section);
+    setSky((section + "[faults]\nslow = 600\n").constData());
     void *const camera = veldix().openLive();
     QCOMPARE(veldix().setParam(camera, exposureControl, 1000.0), 0u);
     VeldixFrame frame;
     QTest::qSleep(100);
     QVERIFY(frame.fetch(veldix(), camera) != 0u);
-    setSky("[faults]\nslow = 0\n");
+    setSky((section + "[faults]\nslow = 0\n").constData());
     QCOMPARE(frame.fetch(veldix(), camera), 0u);
     QCOMPARE(veldix().close(camera), 0u);
 }

@@ -43,7 +43,8 @@ virtualsky::SkyState startingSky(bool south, bool isUnthrottled, bool isQuiet)
     virtualsky::SkyState sky = practiceSky(south);
     sky.boltAltitude = altitudeOff;
     sky.boltAzimuth = azimuthOff;
-    sky.unthrottled = isUnthrottled;
+    if (isUnthrottled)
+        hurry(sky);
     sky.noise = !isQuiet; // pictures without noise are small files
     return sky;
 }
