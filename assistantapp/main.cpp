@@ -4,6 +4,7 @@
 #include "app/terminationsignals.h"
 #include "assistant/settingsstore.h"
 #include "assistantapp/options.h"
+#include "assistantwindow/assistantresources.h"
 #include "assistantwindow/assistantwindow.h"
 #include "assistantwindow/sessioninstrument.h"
 #include "camera/cameraoption.h"
@@ -15,13 +16,6 @@
 #include <QStandardPaths>
 #include <cstdio>
 #include <cstdlib>
-
-// Q_INIT_RESOURCE must be used in the global namespace.
-static void initialiseAssistantResources()
-{
-    Q_INIT_RESOURCE(assistantwindow);
-    Q_INIT_RESOURCE(assistant_catalogues);
-}
 
 namespace
 {

@@ -63,12 +63,12 @@ private:
     std::vector<double> columns, rows;
 };
 
-struct Shape {
+struct StarShape {
     double mean, larger, smaller; // variances
 };
 
 // Without the weight: the inverses of the matrices of two Gaussians add in their product.
-Shape shapeOf(const Sums &sum, double sigma)
+StarShape shapeOf(const Sums &sum, double sigma)
 {
     const double xx = sum.xx / sum.light, yy = sum.yy / sum.light, xy = sum.xy / sum.light;
     const double middle = 0.5 * (xx + yy), half = std::hypot(0.5 * (xx - yy), xy);
@@ -92,7 +92,7 @@ std::optional<Moments> measureMoments(const cv::Mat1f &values, double x, double 
         const Sums sum = weight.apply(values, atX, atY, sigma);
         if (!(sum.light > 0.0))
             return std::nullopt;
-        const Shape shape = shapeOf(sum, sigma);
+        const StarShape shape = shapeOf(sum, sigma);
         const double star = std::clamp(shape.mean, 0.0, 4.0 * sigma * sigma);
         const double factor = (sigma * sigma + star) / (sigma * sigma);
         const double dx = sum.x / sum.light * factor, dy = sum.y / sum.light * factor;

@@ -8,9 +8,10 @@ BUILD is a folder with a compile_commands.json, CONFIG the file with the checks,
 expression for the folders, relative to the project's root.
 
 clang-tidy spends nearly all its time on the toolkit's headers, so many sources are read as one file,
-with the options of them all. Sources that define the same name at file scope, or whose options
-contradict each other, are kept apart. Where that is not enough and a joined file does not compile, its
-halves are checked by themselves.
+with the options of them all. It begins with the project's headers, so that what a source opens or
+defines is not yet there. Sources that define the same name at file scope, or whose options contradict
+each other, are kept apart. Where that is not enough and a joined file does not compile, the sources at
+fault are checked separately.
 """
 import concurrent.futures
 import functools
@@ -21,21 +22,36 @@ import shlex
 import subprocess
 import sys
 
-# GCC's precompiled headers, which clang cannot read, and what differs between sources of one target.
-DROPPED = re.compile(r" -Winvalid-pch| -include \S+/cmake_pch\.hxx| -o \S+| -M[TF] \S+| -MD| -c \S+$")
+# GCC's precompiled headers, which clang cannot read, what differs between sources of one target, and
+# what concerns the generated code alone.
+DROPPED = re.compile(r" -Winvalid-pch| -include \S+/cmake_pch\.hxx| -o \S+| -M[TF] \S+| -MD| -c \S+$"
+                     r"| -g\b| -fPI[CE]")
 COMMENT_OR_STRING = re.compile(r'//[^\n]*|/\*.*?\*/|"(?:\\.|[^"\\\n])*"', re.S)
 NAMED = re.compile(
     r"^(?:class|struct|union|enum(?: class)?|using(?= +\w+ =)|#define) +(\w+)"  # types and macros
+    r"|^Q_DECLARE_METATYPE\((\w+)"
     r"|^(?!using|namespace)[A-Za-z_][^#;={}()\n]*?[ *&>](\w+)(?:\[[^\]]*\])* *(?:\(|=|\{|;)", re.M)
-OPENED = re.compile(r"^using namespace ([\w:]+);", re.M)
+OPENED = re.compile(r"^using namespace [\w:]+;", re.M)
 BROUGHT = re.compile(r"^using ([\w:]+::(\w+));", re.M)
 INCLUDED = re.compile(r'^#include "([^"]+\.h)"', re.M)
-JOINED_MOST = 24
+EXPORTED = re.compile(r'^(?:#define \w+ )?extern "C"', re.M)
+ERROR = re.compile(r"^([^\s:]+):\d+:\d+: error: .*\[clang-diagnostic-error\]$", re.M)
+JOINED_MOST = 60
 
 
 def text_of(path):
     with open(path, encoding="utf-8") as file:
         return file.read()
+
+
+@functools.lru_cache(None)
+def headers(path):
+    """The project's headers that a file includes."""
+    found = []
+    for header in INCLUDED.findall(text_of(path)):
+        places = header, os.path.normpath(os.path.join(os.path.dirname(path), header))
+        found += [place for place in places if os.path.isfile(place)][:1]
+    return found
 
 
 @functools.lru_cache(None)
@@ -47,17 +63,20 @@ def names(path):
            for name in match.groups() if name}
     found = {name: path for name in own - {"main"}}
     found.update((name, whole) for whole, name in BROUGHT.findall(text))
-    for header in INCLUDED.findall(text):
-        for place in (header, os.path.join(os.path.dirname(path), header)):
-            if "/" in os.path.dirname(place) and os.path.isfile(place):
-                found.update(names(os.path.normpath(place)))
+    for header in headers(path):
+        if "/" in os.path.dirname(header):
+            found.update(names(header))
     return found
 
 
-@functools.lru_cache(None)
-def opened(path):
-    """The namespaces that a source opens."""
-    return frozenset(OPENED.findall(text_of(path)))
+def opens(path):
+    """Whether a source opens a namespace."""
+    return OPENED.search(text_of(path)) is not None
+
+
+def exports(path):
+    """Whether a source defines functions with C's linkage, which headers may declare with another."""
+    return EXPORTED.search(text_of(path)) is not None
 
 
 class Options:
@@ -107,14 +126,14 @@ def sources(build, folders):
 
 
 class Group:
-    """Sources that define different names, open the same namespaces and have options that fit."""
+    """Sources that define different names and have options that fit."""
 
     def __init__(self, options, directory):
         self.paths, self.names, self.options, self.directory = [], {}, options, directory
 
     def accepts(self, path, options):
         return (len(self.paths) < JOINED_MOST and self.options.fits(options) and
-                opened(path) == opened(self.paths[0]) and
+                exports(path) == exports(self.paths[0]) and
                 all(self.names.get(name, file) == file for name, file in names(path).items()))
 
     def add(self, path, options):
@@ -124,8 +143,9 @@ class Group:
 
 
 def joined(found):
+    """Groups of sources; those that open a namespace come last."""
     groups = []
-    for path, options, directory in sorted(found, key=lambda each: each[0]):
+    for path, options, directory in sorted(found, key=lambda each: (opens(each[0]), each[0])):
         group = next((each for each in groups if each.accepts(path, options)), None)
         if group is None:
             group = Group(options, directory)
@@ -142,14 +162,17 @@ class Run:
 
     def tidy(self, paths):
         with open(self.file, "w", encoding="utf-8") as text:
+            for header in dict.fromkeys(header for path in paths for header in headers(path)):
+                text.write(f'#include "{os.path.abspath(header)}"\n')
             for number, path in enumerate(paths):
                 text.write(f"#undef main\n#define main main_{number}\n")
                 text.write(f'#include "{os.path.abspath(path)}"\n')
         filters = "|".join(re.escape(os.path.abspath(path)) for path in paths)
-        headers = re.escape(os.getcwd()) + f"/({self.folders})/[^/]*\\.h"
+        wanted = re.escape(os.getcwd()) + f"/({self.folders})/[^/]*\\.h"
         return subprocess.run(
             ["clang-tidy", "--quiet", f"--config-file={self.config}",
-             f"--header-filter=^({filters}|{headers})$", self.file, "--"] + self.options,
+             f"--header-filter=^({filters}|{wanted})$", self.file, "--", "-ferror-limit=0"]
+            + self.options,
             cwd=self.directory, text=True, stdout=subprocess.PIPE, stderr=subprocess.PIPE, check=False)
 
     def result(self, paths=None):
@@ -157,8 +180,11 @@ class Run:
         paths = paths or self.paths
         run = self.tidy(paths)
         if "[clang-diagnostic-error]" in run.stdout and len(paths) > 1:
-            half = len(paths) // 2
-            return self.result(paths[:half]) + self.result(paths[half:])
+            named = {os.path.relpath(path) for path in ERROR.findall(run.stdout)}
+            faulty = [path for path in paths if path in named]
+            if len(faulty) in (0, len(paths)):
+                faulty = paths[:len(paths) // 2]
+            return self.result([path for path in paths if path not in faulty]) + self.result(faulty)
         return (run.stdout or run.stderr) if run.returncode != 0 else ""
 
 

@@ -16,7 +16,8 @@ class FrameClock
 public:
     /// Starts live mode and the first exposure.
     void begin(double now, double period);
-    /// Sets the frame period, including that of the running exposure. With 0 a frame is always ready.
+    /// Sets the frame period, including that of the running exposure. With 0 a frame is always
+    /// ready.
     void setPeriod(double period);
     /// True once per finished frame; of several missed frames only the latest counts.
     bool take(double now);

@@ -12,7 +12,7 @@
 namespace
 {
 constexpr double patience = 10.0; // seconds
-constexpr std::chrono::milliseconds poll(5);
+constexpr std::chrono::milliseconds pollInterval(5);
 
 const std::string &skyPath()
 {
@@ -86,6 +86,6 @@ assistant::Status LibraryMount::next()
         }
         if (steadyNow() - asked > patience)
             return now.status;
-        std::this_thread::sleep_for(poll);
+        std::this_thread::sleep_for(pollInterval);
     }
 }

@@ -31,7 +31,7 @@ void turnBolts(MountOnSky &mount, const Status &status, const HandSpeeds &speeds
     mount.setSky(sky);
 }
 
-AlignmentResult failed(const MountOnSky &mount, const std::string &why)
+AlignmentResult failure(const MountOnSky &mount, const std::string &why)
 {
     AlignmentResult result;
     result.whyNot = why;
@@ -77,18 +77,18 @@ std::optional<Status> nextFigure(MountOnSky &mount, int frames)
 AlignmentResult alignAsTold(MountOnSky &mount, double goal, const HandSpeeds &speeds)
 {
     if (!turnAxisAsTold(mount, speeds.axis))
-        return failed(mount, "the axis was not found");
+        return failure(mount, "the axis was not found");
     const double began = mount.seconds();
     std::optional<Status> last;
     for (int look = 0; look < looks;) {
         const double before = mount.seconds();
         last = nextFigure(mount);
         if (!last)
-            return failed(mount, "no figure");
+            return failure(mount, "no figure");
         if (!last->error->altitude || !last->error->azimuth)
-            return failed(mount, "no altitude or azimuth");
+            return failure(mount, "no altitude or azimuth");
         if (mount.seconds() - began > 2.0 * longestStage)
-            return failed(mount, "no end");
+            return failure(mount, "no end");
         if (last->error->total.arcseconds < goal)
             break;
         look += last->error->total.arcseconds < 60.0;
@@ -99,7 +99,7 @@ AlignmentResult alignAsTold(MountOnSky &mount, double goal, const HandSpeeds &sp
     for (int i = 0; i < settlingFrames; ++i)
         last = nextFigure(mount);
     if (!last)
-        return failed(mount, "the figure went");
+        return failure(mount, "the figure went");
     result.finished = true;
     result.seconds = mount.seconds();
     const virtualsky::Truth truth = mount.truth();

@@ -8,10 +8,10 @@
 #include <vector>
 
 #include "virtualcamera/mount.h"
+#include "virtualcamera/vector3.h"
 
 namespace
 {
-constexpr double pi = 3.141592653589793;
 constexpr double edge = 4.0; // pixels within which a star counts as cut off
 
 class Draw
@@ -39,12 +39,13 @@ virtualsky::SkyState mountAtRandom(Draw &draw, bool south, double date)
     state.longitude = draw.between(-180.0, 180.0);
     state.date = date;
     state.running = false;
-    const double bolt = 4.0 * std::sqrt(draw.between(0.0, 1.0)), way = draw.between(0.0, 2.0 * pi);
+    const double bolt = 4.0 * std::sqrt(draw.between(0.0, 1.0)),
+                 way = draw.between(0.0, 2.0 * virtualsky::pi);
     state.boltAltitude = bolt * std::cos(way);
     state.boltAzimuth =
-        bolt * std::sin(way) / std::cos(state.latitude * pi / 180.0); // at the horizon
+        bolt * std::sin(way) / std::cos(state.latitude * virtualsky::pi / 180.0); // at the horizon
     const double off = 4.0 * 3600.0 / virtualsky::pixelScale * std::sqrt(draw.between(0.0, 1.0));
-    const double where = draw.between(0.0, 2.0 * pi);
+    const double where = draw.between(0.0, 2.0 * virtualsky::pi);
     state.axisX = off * std::cos(where);
     state.axisY = off * std::sin(where);
     state.roll = draw.between(-180.0, 180.0);
@@ -62,7 +63,7 @@ struct Light {
 /// The part of a star's flux that is below full scale.
 double unclipped(double flux, double sigma, double headroom)
 {
-    const double area = 2.0 * pi * sigma * sigma, peak = flux / area;
+    const double area = 2.0 * virtualsky::pi * sigma * sigma, peak = flux / area;
     return peak <= headroom ? flux : headroom * area * (1.0 + std::log(peak / headroom));
 }
 
@@ -124,7 +125,7 @@ int starsAbove(const RandomSky &sky, double sigmas)
     virtualsky::Scene scene;
     const Light light = lightOf(sky);
     const double sigma = virtualsky::imageSigma(sky.state);
-    const double pixels = 4.0 * pi * sigma * sigma; // whose noise counts
+    const double pixels = 4.0 * virtualsky::pi * sigma * sigma; // whose noise counts
     std::vector<virtualsky::Point> counted;
     if (light.headroom <= 0.0)
         return 0;

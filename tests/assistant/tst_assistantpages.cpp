@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Do the ring, the large view and the end of an alignment show what is true and what matters?
+#include "assistantwindow/assistantresources.h"
 #include "assistantwindow/largepage.h"
 #include "assistantwindow/mainpage.h"
 #include "assistantwindow/report.h"
@@ -71,19 +72,12 @@ bool differ(const QImage &a, const QImage &b)
 }
 } // namespace
 
-// Q_INIT_RESOURCE must be used in the global namespace.
-static void initialiseResources()
-{
-    Q_INIT_RESOURCE(assistantwindow);
-    Q_INIT_RESOURCE(assistant_catalogues);
-}
-
 class AssistantPagesTest : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { initialiseResources(); }
+    void initTestCase() { initialiseAssistantResources(); }
     void ringIsFullWhenItIsEnough_data();
     void ringIsFullWhenItIsEnough();
     void turnIsNotRoundedUp();

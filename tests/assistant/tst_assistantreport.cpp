@@ -120,7 +120,7 @@ void AssistantReportTest::guidedFieldTurns()
 void AssistantReportTest::aimNamesPoleAndAir()
 {
     using recognition::Hemisphere;
-    Settings settings;
+    assistant::Settings settings;
     QVERIFY(aimOf(settings, Hemisphere::North).pole == Aim::Pole::Seen);
     settings.site = astrometry::Site{40.0, 116.0};
     settings.pressure = 850.0;

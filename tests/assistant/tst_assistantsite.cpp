@@ -2,6 +2,7 @@
 // What is kept of the site, from the option, the other program's settings, the keys; and of the
 // camera?
 #include "assistant/settingsstore.h"
+#include "assistantwindow/assistantresources.h"
 #include "assistantwindow/sessioninstrument.h"
 #include "core/settingsfile.h"
 #include "tests/assistantwindow/scenes.h"
@@ -13,19 +14,12 @@
 
 using AssistantSettings = assistant::Settings;
 
-// Q_INIT_RESOURCE must be used in the global namespace.
-static void initialiseResources()
-{
-    Q_INIT_RESOURCE(assistantwindow);
-    Q_INIT_RESOURCE(assistant_catalogues);
-}
-
 class AssistantSiteTest : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { initialiseResources(); }
+    void initTestCase() { initialiseAssistantResources(); }
     void optionIsKept();
     void openCameraIsKept();
     void otherProgramsLatitudeIsTakenOver();

@@ -55,8 +55,8 @@ void BeginningTest::staysThroughChanges()
     QFETCH(bool, siteAtFirst);
     QFETCH(double, pressureAtFirst);
     const virtualsky::SkyState sky = plainNight(south);
-    const Settings right = settingsFor(sky);
-    Settings atFirst = right;
+    const assistant::Settings right = settingsFor(sky);
+    assistant::Settings atFirst = right;
     atFirst.pressure = pressureAtFirst;
     if (!siteAtFirst)
         atFirst.site.reset();
@@ -77,7 +77,7 @@ void BeginningTest::staysThroughChanges()
 void BeginningTest::refractedPole()
 {
     const virtualsky::SkyState sky = plainNight();
-    Settings settings = settingsFor(sky);
+    assistant::Settings settings = settingsFor(sky);
     PaintedMount mount(sky, settings);
     QVERIFY(turnAxisAsTold(mount));
     QVERIFY(isOf(sky, *nextFigure(mount)));
@@ -94,7 +94,7 @@ void BeginningTest::clockIsSet()
 {
     virtualsky::SkyState sky = plainNight();
     sky.refraction = false;
-    Settings settings = settingsFor(sky);
+    assistant::Settings settings = settingsFor(sky);
     PaintedMount mount(sky, settings);
     mount.setClockError(3600.0);
     QVERIFY(turnAxisAsTold(mount));

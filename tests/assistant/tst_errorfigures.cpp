@@ -92,8 +92,9 @@ void ErrorFiguresTest::refractionIsAlongTheVertical_data()
 void ErrorFiguresTest::refractionIsAlongTheVertical()
 {
     QFETCH(double, latitude);
-    const astrometry::Vector3 lifted = astrometry::refracted(
-        astrometry::direction(0.0, std::abs(latitude) * astrometry::degree), airOf(Settings()));
+    const astrometry::Vector3 lifted =
+        astrometry::refracted(astrometry::direction(0.0, std::abs(latitude) * astrometry::degree),
+                              airOf(assistant::Settings()));
     const double lift = (std::asin(lifted.z) / astrometry::degree - std::abs(latitude)) * 3600.0;
     QVERIFY(lift > 8.0); // 10" at 80 degrees, ten minutes at 5
     int compared = 0;
@@ -185,7 +186,7 @@ void ErrorFiguresTest::claimNearThePole()
 
 void ErrorFiguresTest::observerNeedsItsHemisphere()
 {
-    Settings settings;
+    assistant::Settings settings;
     QVERIFY(!observerOf(settings, recognition::Hemisphere::North));
     settings.site = astrometry::Site{-30.0, 20.0};
     QVERIFY(!observerOf(settings, recognition::Hemisphere::North));

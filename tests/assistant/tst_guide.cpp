@@ -180,7 +180,7 @@ void GuideTest::farOffTheFiguresAreTheBolts()
 void GuideTest::refractedPoleIsAnother()
 {
     const virtualsky::SkyState sky = plainNight();
-    Settings settings = settingsFor(sky);
+    assistant::Settings settings = settingsFor(sky);
     settings.target = recognition::PoleTarget::Refracted;
     PaintedMount mount(sky, settings);
     QVERIFY(turnAxisAsTold(mount));
@@ -197,7 +197,7 @@ void GuideTest::refractedPoleIsAnother()
 void GuideTest::withoutSiteOnlyTheTotal()
 {
     virtualsky::SkyState sky = plainNight();
-    Settings settings = settingsFor(sky);
+    assistant::Settings settings = settingsFor(sky);
     settings.site.reset();
     PaintedMount mount(sky, settings);
     QVERIFY(turnAxisAsTold(mount));
@@ -216,7 +216,7 @@ void GuideTest::withoutSiteOnlyTheTotal()
 void GuideTest::settingsMayChange()
 {
     const virtualsky::SkyState sky = plainNight(true);
-    Settings settings = settingsFor(sky);
+    assistant::Settings settings = settingsFor(sky);
     const auto site = settings.site;
     settings.site.reset();
     PaintedMount mount(sky, settings);
@@ -232,7 +232,7 @@ void GuideTest::settingsMayChange()
 void GuideTest::siteMayComeWhileTheAxisTurns()
 {
     const virtualsky::SkyState sky = plainNight();
-    Settings settings = settingsFor(sky);
+    assistant::Settings settings = settingsFor(sky);
     const auto site = settings.site;
     settings.site.reset();
     PaintedMount mount(sky, settings);

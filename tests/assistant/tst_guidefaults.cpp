@@ -77,7 +77,7 @@ void GuideFaultsTest::badFrames()
         sky.fwhm = 20.0;
     if (fault == 3)
         sky.clouds = 1.0;
-    const Settings settings = settingsFor(sky);
+    const assistant::Settings settings = settingsFor(sky);
     Guide guide(settings);
     guide.setAutomaticExposure(false);
     PaintedMount mount(sky, settings);
@@ -198,7 +198,7 @@ void GuideFaultsTest::cameraSlipsWhileTheBoltsTurn()
 void GuideFaultsTest::wrongHemisphere()
 {
     const virtualsky::SkyState sky = plainNight();
-    Settings settings = settingsFor(sky);
+    assistant::Settings settings = settingsFor(sky);
     settings.site->latitude *= -1.0;
     PaintedMount mount(sky, settings);
     QVERIFY(turnAxisAsTold(mount));

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Does a person align the mount with the assistant's window alone, on the virtual camera?
+#include "assistantwindow/assistantresources.h"
 #include "tests/assistantwindow/desk.h"
 
 #include <QAbstractButton>
@@ -8,12 +9,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QtTest>
-
-// Q_INIT_RESOURCE must be used in the global namespace.
-static void initialiseResources()
-{
-    Q_INIT_RESOURCE(assistantwindow);
-}
 
 namespace
 {
@@ -25,7 +20,7 @@ class AssistantAlignmentTest : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { initialiseResources(); }
+    void initTestCase() { initialiseAssistantResources(); }
     void windowAloneAligns_data();
     void windowAloneAligns();
     void errorLabelsAreDashesBeforeTheyAreValid();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Can every control be used with a finger alone and with the keyboard alone, and is the red theme
 // red in every pixel?
+#include "assistantwindow/assistantresources.h"
 #include "tests/assistantwindow/light.h"
 #include "tests/assistantwindow/shownscene.h"
 #include "tests/support/textroom.h"
@@ -15,12 +16,6 @@
 #include <QSet>
 #include <QSlider>
 #include <QToolTip>
-
-// Q_INIT_RESOURCE must be used in the global namespace.
-static void initialiseResources()
-{
-    Q_INIT_RESOURCE(assistantwindow);
-}
 
 namespace
 {
@@ -86,7 +81,7 @@ class AssistantControlsTest : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { initialiseResources(); }
+    void initTestCase() { initialiseAssistantResources(); }
     void fingerCanHitEveryControl_data() { forEachScene(); }
     void fingerCanHitEveryControl();
     void fingerHitsWhatIsDrawn_data();

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Does every stage and page fit a small screen and a large one, in every language?
+#include "assistantwindow/assistantresources.h"
 #include "assistantwindow/languagenames.h"
 #include "core/languages.h"
 #include "tests/assistantwindow/scenes.h"
@@ -8,19 +9,12 @@
 #include <QDir>
 #include <QLocale>
 
-// Q_INIT_RESOURCE must be used in the global namespace.
-static void initialiseResources()
-{
-    Q_INIT_RESOURCE(assistantwindow);
-    Q_INIT_RESOURCE(assistant_catalogues);
-}
-
 class AssistantFitTest : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { initialiseResources(); }
+    void initTestCase() { initialiseAssistantResources(); }
     void fits_data();
     void fits();
 };

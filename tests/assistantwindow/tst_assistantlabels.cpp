@@ -1,19 +1,13 @@
 // SPDX-License-Identifier: MIT
 // What do the window's labels say in each state and fault, and is no number shown that is not
 // right?
+#include "assistantwindow/assistantresources.h"
 #include "tests/assistant/guidetest.h"
 #include "tests/assistantwindow/windowedguide.h"
 
 using assistant::AdviceCode;
-using assistant::Settings;
 using assistant::Stage;
 using assistant::Status;
-
-// Q_INIT_RESOURCE must be used in the global namespace.
-static void initialiseResources()
-{
-    Q_INIT_RESOURCE(assistantwindow);
-}
 
 namespace
 {
@@ -57,7 +51,7 @@ class AssistantLabelsTest : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { initialiseResources(); }
+    void initTestCase() { initialiseAssistantResources(); }
     void signsAreTheBolts_data();
     void signsAreTheBolts();
     void withoutSiteTotalAlone();
@@ -110,7 +104,7 @@ void AssistantLabelsTest::signsAreTheBolts()
 void AssistantLabelsTest::withoutSiteTotalAlone()
 {
     const virtualsky::SkyState sky = plainNight();
-    Settings settings = settingsFor(sky);
+    assistant::Settings settings = settingsFor(sky);
     settings.site.reset();
     WindowedGuide guide(sky, settings);
     // Without a site the pole is the one that the air shows.
@@ -236,7 +230,7 @@ void AssistantLabelsTest::cameraSlips()
 void AssistantLabelsTest::wrongHemisphereInTheSite()
 {
     const virtualsky::SkyState sky = plainNight();
-    Settings settings = settingsFor(sky);
+    assistant::Settings settings = settingsFor(sky);
     settings.site->latitude *= -1.0;
     WindowedGuide guide(sky, settings);
     guide.watchesTruth = false; // the air of the site is not that of the sky

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Is every sentence seen in full in every language, and does a switch of the language change all?
 #include "assistantwindow/advicetexts.h"
+#include "assistantwindow/assistantresources.h"
 #include "assistantwindow/languagenames.h"
 #include "assistantwindow/report.h"
 #include "core/languages.h"
@@ -12,13 +13,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QSlider>
-
-// Q_INIT_RESOURCE must be used in the global namespace.
-static void initialiseResources()
-{
-    Q_INIT_RESOURCE(assistantwindow);
-    Q_INIT_RESOURCE(assistant_catalogues);
-}
 
 namespace
 {
@@ -144,7 +138,7 @@ class AssistantLanguageTest : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { initialiseResources(); }
+    void initTestCase() { initialiseAssistantResources(); }
     void cleanup() { installRequestedLanguage(QStringLiteral("assistant"), "EN"); }
     void adviceIsSeenInFull_data() { forEachLanguageAndTheme(); }
     void adviceIsSeenInFull();

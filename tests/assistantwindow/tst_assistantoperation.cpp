@@ -2,6 +2,7 @@
 // Is a mount aligned with a finger alone, and with keys alone; and does the window speak and go on
 // when the camera is unplugged or its library hangs? On the virtual camera.
 #include "assistantwindow/advicetexts.h"
+#include "assistantwindow/assistantresources.h"
 #include "assistantwindow/display.h"
 #include "tests/assistantwindow/desk.h"
 #include "tests/assistantwindow/fingers.h"
@@ -14,12 +15,6 @@
 #include <QLineEdit>
 #include <QtTest>
 #include <atomic>
-
-// Q_INIT_RESOURCE must be used in the global namespace.
-static void initialiseResources()
-{
-    Q_INIT_RESOURCE(assistantwindow);
-}
 
 namespace
 {
@@ -109,7 +104,7 @@ class AssistantOperationTest : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { initialiseResources(); }
+    void initTestCase() { initialiseAssistantResources(); }
     void fingerAloneAligns();
     void keysAloneAlign();
     void unpluggedAndBack();

@@ -17,7 +17,7 @@ using drawing::Points;
 
 namespace
 {
-using History = std::deque<assistant::History::Point>;
+using Samples = std::deque<assistant::History::Point>;
 
 constexpr QSize plotSize(420, 180);
 constexpr QSize smallScreen(800, 480);
@@ -57,7 +57,7 @@ std::vector<Run> litColumns(const QImage &image)
 class Plot
 {
 public:
-    explicit Plot(const History &history, double goal = 20.0) : points(history), goalOf(goal) {}
+    explicit Plot(const Samples &history, double goal = 20.0) : points(history), goalOf(goal) {}
 
     QImage with(QColor Theme::*mark)
     {
@@ -76,7 +76,7 @@ public:
     std::vector<PaintedText> texts;
 
 private:
-    History points;
+    Samples points;
     double goalOf;
 };
 
@@ -175,7 +175,7 @@ void AssistantPanelTest::plotShowsEachPoint()
     QFETCH(double, first);
     QFETCH(double, last);
     const Scale scale;
-    History history;
+    Samples history;
     Points places;
     for (int ago = 290; ago >= 0; --ago) {
         // Straight in the logarithm, with a step in the middle.
@@ -200,7 +200,7 @@ void AssistantPanelTest::plotShowsEachPoint()
 void AssistantPanelTest::plotLeavesOutWhatIsOld()
 {
     const Scale scale;
-    History history;
+    Samples history;
     for (int ago = 500; ago >= 0; --ago)
         history.push_back(point(ago, ago > 300 ? 3000.0 : 30.0));
     const std::vector<Run> columns = litColumns(Plot(history).with(&Theme::lit));
@@ -225,7 +225,7 @@ void AssistantPanelTest::plotShowsTheGoal()
 void AssistantPanelTest::gapsAloneAreHatched()
 {
     const Scale scale;
-    History history;
+    Samples history;
     for (int ago = 280; ago >= 20; --ago)
         if (ago > 200 || ago < 120)
             history.push_back(point(ago, 100.0));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Is everything that the red theme's window opens purely red: tool tips, lists, menus, and the
 // moment of the switch? Can a finger hit what it opens?
+#include "assistantwindow/assistantresources.h"
 #include "tests/assistantwindow/light.h"
 #include "tests/assistantwindow/shownscene.h"
 #include "tests/support/textroom.h"
@@ -14,12 +15,6 @@
 #include <QMessageBox>
 #include <QScreen>
 #include <QToolTip>
-
-// Q_INIT_RESOURCE must be used in the global namespace.
-static void initialiseResources()
-{
-    Q_INIT_RESOURCE(assistantwindow);
-}
 
 namespace
 {
@@ -40,7 +35,7 @@ class AssistantRedLightTest : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { initialiseResources(); }
+    void initTestCase() { initialiseAssistantResources(); }
     void tipsAreRed_data() { forEachScene(); }
     void tipsAreRed();
     void listsAreRedAndLarge_data() { forEachScene(); }

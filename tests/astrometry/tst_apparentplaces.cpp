@@ -72,7 +72,8 @@ void ApparentPlacesTest::agreeWithAstropy()
     QCOMPARE(star.raDegrees, golden.ra);
     QCOMPARE(star.decDegrees, golden.dec);
     const Vector3 place = apparentPlaces(&star, &star + 1, golden.utcSeconds).front();
-    const Vector3 wanted = direction(golden.cirsRa * degree, golden.cirsDec * degree);
+    const Vector3 wanted =
+        direction(golden.cirsRa * astrometry::degree, golden.cirsDec * astrometry::degree);
     const double error = angleBetween(place, wanted) / arcsecond;
     QVERIFY2(error < toleranceArcseconds, qPrintable(QString::number(error)));
 }
@@ -91,7 +92,7 @@ void ApparentPlacesTest::equationOfOriginsAgreesWithAstropy()
 {
     QFETCH(double, date);
     QFETCH(double, wanted);
-    const double difference = equationOfOrigins(date) / degree - wanted;
+    const double difference = equationOfOrigins(date) / astrometry::degree - wanted;
     QVERIFY(std::abs(std::remainder(difference, 360.0)) * 3600.0 < 0.01);
 }
 

@@ -2,6 +2,7 @@
 // How late do the windows of both programs answer while their camera by INDI is lost and comes
 // back?
 #include "app/stylesheet.h"
+#include "assistantwindow/assistantresources.h"
 #include "assistantwindow/assistantwindow.h"
 #include "assistantwindow/sessioninstrument.h"
 #include "core/settingsfile.h"
@@ -24,12 +25,6 @@
 #include <optional>
 #include <thread>
 #include <utility>
-
-// Q_INIT_RESOURCE must be used in the global namespace.
-static void initialiseAssistantResources()
-{
-    Q_INIT_RESOURCE(assistantwindow);
-}
 
 namespace
 {

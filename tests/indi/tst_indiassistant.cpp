@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Does a person align a mount with the assistant's window on INDI's simulated camera, while INDI's
 // simulated telescope turns in RA?
+#include "assistantwindow/assistantresources.h"
 #include "assistantwindow/assistantwindow.h"
 #include "assistantwindow/sessioninstrument.h"
 #include "recognition/extraction.h"
@@ -13,12 +14,6 @@
 
 #include <QTemporaryDir>
 #include <QtTest>
-
-// Q_INIT_RESOURCE must be used in the global namespace.
-static void initialiseResources()
-{
-    Q_INIT_RESOURCE(assistantwindow);
-}
 
 namespace
 {
@@ -49,7 +44,7 @@ void IndiAssistantTest::initTestCase()
 {
     if (!SimulatedMount::isInstalled())
         QSKIP("indi-bin is not installed");
-    initialiseResources();
+    initialiseAssistantResources();
     const QString sky = folder.filePath("sky.ini");
     mount = std::make_unique<SimulatedMount>(sky, latitude, longitude);
     knobs = std::make_unique<Knobs>(sky.toStdString(), mount->sky());

@@ -70,7 +70,7 @@ void delayedStep(int, siginfo_t *, void *context)
     errno = savedErrno;
 }
 
-__attribute__((constructor)) void begin()
+__attribute__((constructor)) void readDelay()
 {
     const char *const microseconds = std::getenv("RELEASE_DELAY");
     delayMicroseconds = microseconds ? std::atol(microseconds) : 0;

@@ -16,7 +16,7 @@ namespace
 /// Milliseconds: ten seconds would be the limit of loading.
 constexpr int unloadLimit = 8000;
 
-enum Status { Loaded = 0, Refused = 3, NotLoaded = 4 };
+enum LoadStatus { Loaded = 0, Refused = 3, NotLoaded = 4 };
 
 /// What the child process does: the trial, then the load.
 int probeAndLoad(const char *library)

@@ -14,7 +14,8 @@ constexpr double toleranceArcseconds = 0.05;
 
 Vector3 horizonOf(double altitudeDegrees, double azimuthDegrees)
 {
-    const Vector3 northFirst = direction(azimuthDegrees * degree, altitudeDegrees * degree);
+    const Vector3 northFirst =
+        astrometry::direction(azimuthDegrees * degree, altitudeDegrees * degree);
     return {northFirst.y, northFirst.x, northFirst.z};
 }
 } // namespace
@@ -142,8 +143,8 @@ void AstrometryTest::templateStarsAreInTheCatalogue()
     QFETCH(double, dec);
     const CatalogueStar &found = templateStar(south, static_cast<TemplateStar>(star));
     QVERIFY(std::abs(found.vMagnitude - magnitude) < 0.1);
-    QVERIFY(angleBetween(direction(found.raDegrees * degree, found.decDegrees * degree),
-                         direction(ra * degree, dec * degree)) < arcsecond);
+    QVERIFY(angleBetween(astrometry::direction(found.raDegrees * degree, found.decDegrees * degree),
+                         astrometry::direction(ra * degree, dec * degree)) < arcsecond);
 }
 
 void AstrometryTest::skyTurnsWestwards()

@@ -240,7 +240,7 @@ void SkyFileTest::roundTrip()
     state.trackingSince = 1716465600.0;
     state.fail = OperationSet(0x8421);
     state.seed = 4294967295u;
-    state.picture = Picture::Black;
+    state.picture = virtualsky::Picture::Black;
     state.refraction = true;
     const SkyState back = parse(format(state));
     QCOMPARE(format(back), format(state));

@@ -2,6 +2,7 @@
 // Runs the assistant's complete alignment automatically in the real window, and prints the mount's
 // true error before and after.
 #include "app/startup.h"
+#include "assistantwindow/assistantresources.h"
 #include "assistantwindow/assistantwindow.h"
 #include "assistantwindow/sessioninstrument.h"
 #include "core/languages.h"
@@ -22,13 +23,6 @@
 #include <QTest>
 #include <cstdio>
 #include <memory>
-
-// Q_INIT_RESOURCE must be used in the global namespace.
-static void initialiseAssistantResources()
-{
-    Q_INIT_RESOURCE(assistantwindow);
-    Q_INIT_RESOURCE(assistant_catalogues);
-}
 
 namespace
 {
