@@ -5,16 +5,37 @@
 #include "camera/frameformat.h"
 
 #include <QtDebug>
+#include <new>
 #include <opencv2/imgproc.hpp>
+#include <sys/mman.h>
+
+namespace
+{
+constexpr int frameRows = int(frameHeightDefault);
+constexpr int frameColumns = int(frameWidthDefault);
+constexpr int enlargedRows = frameRows * enlargement;
+constexpr int enlargedColumns = frameColumns * enlargement;
+
+/// Zeroed bytes, of which the system provides each page when it is first used.
+std::shared_ptr<std::uint8_t> pages(std::size_t bytes)
+{
+    void *const start =
+        mmap(nullptr, bytes, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    if (start == MAP_FAILED)
+        throw std::bad_alloc();
+    return {static_cast<std::uint8_t *>(start),
+            [bytes](std::uint8_t *mapped) { munmap(mapped, bytes); }};
+}
+} // namespace
 
 FrameMatrices::FrameMatrices()
+    : greyPages(pages(std::size_t(enlargedRows) * enlargedColumns)),
+      colourPages(pages(std::size_t(enlargedRows) * enlargedColumns * 3)),
+      colourFrame(frameRows, frameColumns, CV_8UC3),
+      enlargedGrey(enlargedRows, enlargedColumns, CV_8UC1, greyPages.get()),
+      enlargedColour(enlargedRows, enlargedColumns, CV_8UC3, colourPages.get()),
+      magnifierCrop(cropSide, cropSide, CV_8UC3)
 {
-    const int rows = int(frameHeightDefault);
-    const int columns = int(frameWidthDefault);
-    colourFrame.create(rows, columns, CV_8UC3);
-    enlargedGrey.create(rows * enlargement, columns * enlargement, CV_8UC1);
-    enlargedColour.create(rows * enlargement, columns * enlargement, CV_8UC3);
-    magnifierCrop.create(cropSide, cropSide, CV_8UC3);
 }
 
 std::unique_ptr<QImage> MatToQImage(const cv::Mat *mat)

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QImage>
+#include <cstdint>
 #include <memory>
 #include <opencv2/core.hpp>
 
@@ -12,12 +13,20 @@ constexpr int enlargement = 5;
 
 /// The matrices of one capture thread, rows x columns. The large ones are only allocated: no page
 /// of them is touched before it is needed.
-struct FrameMatrices {
+class FrameMatrices
+{
+    // Only the part round one star is ever used. Memory straight from the system costs nothing for the
+    // rest, not even where a sanitizer's allocator marks each byte that it hands out.
+    std::shared_ptr<std::uint8_t> greyPages, colourPages;
+
+public:
+    /// @throws std::bad_alloc
     FrameMatrices();
 
-    cv::Mat colourFrame;                  ///< 960 x 1280, 3 channels, blue green red
-    cv::Mat enlargedGrey, enlargedColour; ///< 4800 x 6400
-    cv::Mat magnifierCrop;                ///< 200 x 200, 3 channels, blue green red
+    cv::Mat colourFrame;    ///< 960 x 1280, 3 channels, blue green red
+    cv::Mat enlargedGrey;   ///< 4800 x 6400, 1 channel
+    cv::Mat enlargedColour; ///< 4800 x 6400, 3 channels, blue green red
+    cv::Mat magnifierCrop;  ///< 200 x 200, 3 channels, blue green red
 };
 
 /// Converts an 8-bit matrix of one or three channels (blue, green, red); null, with a critical log

@@ -4,6 +4,8 @@
 
 #include "core/locker.h"
 
+#include <new>
+
 namespace
 {
 cv::Mat matrixOver(FrameBuffer &buffer, const FrameFormat &format)
@@ -15,9 +17,18 @@ cv::Mat matrixOver(FrameBuffer &buffer, const FrameFormat &format)
 }
 } // namespace
 
+/// Zeroed by the system, page by page as they are used, which is long after the program's start.
+LatestFrame::Buffer LatestFrame::blackBuffer()
+{
+    auto *const memory = static_cast<FrameBuffer *>(std::calloc(1, sizeof(FrameBuffer)));
+    if (!memory)
+        throw std::bad_alloc();
+    return Buffer(memory);
+}
+
 LatestFrame::LatestFrame()
-    : fetching(std::make_unique<FrameBuffer>()),
-      latest(std::make_unique<FrameBuffer>()),
+    : fetching(blackBuffer()),
+      latest(blackBuffer()),
       frame(matrixOver(*latest, {frameWidthDefault, frameHeightDefault, 8, 1}))
 {
 }

@@ -5,6 +5,7 @@
 #include "camera/frameformat.h"
 
 #include <QMutex>
+#include <cstdlib>
 #include <memory>
 #include <opencv2/core.hpp>
 
@@ -30,8 +31,14 @@ public:
     cv::Mat copy() const;
 
 private:
+    struct Free {
+        void operator()(FrameBuffer *buffer) const { std::free(buffer); }
+    };
+    using Buffer = std::unique_ptr<FrameBuffer, Free>;
+    /// @throws std::bad_alloc
+    static Buffer blackBuffer();
+
     mutable QMutex mutex; ///< guards `frame` and the swap of the buffers
-    std::unique_ptr<FrameBuffer> fetching;
-    std::unique_ptr<FrameBuffer> latest;
+    Buffer fetching, latest;
     cv::Mat frame; ///< header over `latest`
 };

@@ -177,12 +177,18 @@ void logUnusable(const QByteArray &files, const QString &reason)
               files.constData(), qPrintable(reason));
 }
 
+/// Whether the loader may find a file: it searches its folders for a name without a path.
+bool mayExist(const QString &name)
+{
+    return !name.contains('/') || QFile::exists(name);
+}
+
 /// Loads one library, which then stays loaded.
 /// \param reason receives why it was not loaded
 Outcome loadFrom(const QString &name, QString &reason)
 {
     const QByteArray file = QFile::encodeName(name);
-    if (!canLoadSafely(file)) {
+    if (mayExist(name) && !canLoadSafely(file)) {
         logUnusable(file, QStringLiteral("it ends or holds up the program as it is loaded"));
         return Outcome::Unusable;
     }

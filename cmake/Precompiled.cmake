@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # Precompiled headers: reading the toolkit's headers is most of the compile time. There is one set for
 # each group of the toolkit's modules, since its headers differ with the modules that are linked. The
-# tests always use them. The programs and libraries do so in the sanitizer builds alone.
+# tests always use them, one set for all. The programs and libraries do so in the sanitizer builds alone.
 
 # qt_group(TARGET RESULT): the largest module whose headers a target gets by what it links, directly or
 # not: Widgets, Gui, Core or empty.
@@ -34,20 +34,28 @@ function(qt_group TARGET RESULT)
   endforeach()
 endfunction()
 
-# precompile(TARGET [TEST]): lets a target use the headers of its group; TEST adds those of Qt Test.
+# precompile(TARGET [TEST]): lets a target use the headers of its group; a test gets Widgets, Network
+# and Qt Test, and links what it uses of them.
 function(precompile TARGET)
-  qt_group(${TARGET} group)
-  if(NOT group)
-    return()
+  set(test OFF)
+  if("TEST" IN_LIST ARGN)
+    set(test ON)
+    set(group Widgets)
+  else()
+    qt_group(${TARGET} group)
+    if(NOT group)
+      return()
+    endif()
   endif()
   set(headers <Qt${group}> <opencv2/core.hpp>)
   set(modules Qt5::${group})
   set(host precompiled${group})
-  if("TEST" IN_LIST ARGN)
+  if(test)
     list(PREPEND headers <QtTest>)
     list(APPEND modules Qt5::Test Qt5::Network)
     string(APPEND host Test)
-    target_link_libraries(${TARGET} PRIVATE Qt5::Network) # <QtTest> differs with it
+    target_link_libraries(${TARGET} PRIVATE ${modules})
+    target_link_options(${TARGET} PRIVATE LINKER:--as-needed)
   endif()
   if(NOT TARGET ${host})
     set(source ${CMAKE_BINARY_DIR}/precompiled/${host}.cpp)

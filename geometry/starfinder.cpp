@@ -87,12 +87,14 @@ std::vector<FieldStar> findStars(const cv::Mat &frame)
     cv::threshold(flat, bright, thresholdOf(flat), 255, cv::THRESH_BINARY);
     std::vector<cv::Point> pixels;
     cv::findNonZero(bright, pixels);
+    // Given once for all: without a mask, each call would allocate one of the frame's size.
+    cv::Mat mask = cv::Mat::zeros(bright.rows + 2, bright.cols + 2, CV_8UC1);
     std::vector<FieldStar> stars;
     for (const cv::Point &pixel : pixels) {
         if (bright.at<uchar>(pixel) == 0) // part of an area that is already counted
             continue;
         cv::Rect extent;
-        const int area = cv::floodFill(bright, pixel, cv::Scalar(0), &extent, {}, {}, 8);
+        const int area = cv::floodFill(bright, mask, pixel, cv::Scalar(0), &extent, {}, {}, 8);
         if (area < smallestStar || area > largestStar)
             continue;
         double peak = 0.0;
