@@ -21,7 +21,7 @@ namespace
 {
 constexpr int closingPatience = 12000; // milliseconds
 constexpr int leastScreenHeight = 520; // pixels, below which the window fills the screen
-constexpr int misuse = 2;              // exit status for a bad option
+constexpr int badOption = 2;           // exit status for a bad option
 
 /// Where the recorded frames go unless the user chooses.
 void chooseFolder(assistant::Settings &settings)
@@ -51,7 +51,7 @@ int main(int argc, char *argv[])
     if (const QString text = assistantapp::printedFor(given); !text.isEmpty())
         return std::fputs(qPrintable(text), stdout) < 0 ? EXIT_FAILURE : EXIT_SUCCESS;
     if (!takeCameraOption(argc, argv))
-        return misuse;
+        return badOption;
     prepareApplication();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("quorvandel-assistant"));
@@ -59,7 +59,7 @@ int main(int argc, char *argv[])
     const assistantapp::Options options = assistantapp::parse(QApplication::arguments().mid(1));
     if (!options.fault.isEmpty()) {
         std::fprintf(stderr, "quorvandel-assistant: %s\n", qPrintable(options.fault));
-        return misuse;
+        return badOption;
     }
     initialiseAssistantResources();
     assistant::Settings settings = assistant::loadSettings(assistant::settingsPath());

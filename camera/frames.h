@@ -15,8 +15,8 @@ constexpr int enlargement = 5;
 /// of them is touched before it is needed.
 class FrameMatrices
 {
-    // Only the part round one star is ever used. Memory straight from the system costs nothing for the
-    // rest, not even where a sanitizer's allocator marks each byte that it hands out.
+    // Only the part round one star is ever used. Memory straight from the system costs nothing for
+    // the rest, not even where a sanitizer's allocator marks each byte that it hands out.
     std::shared_ptr<std::uint8_t> greyPages, colourPages;
 
 public:

@@ -31,12 +31,13 @@ NAMED = re.compile(
     r"^(?:class|struct|union|enum(?: class)?|using(?= +\w+ =)|#define) +(\w+)"  # types and macros
     r"|^Q_DECLARE_METATYPE\((\w+)"
     r"|^(?!using|namespace)[A-Za-z_][^#;={}()\n]*?[ *&>](\w+)(?:\[[^\]]*\])* *(?:\(|=|\{|;)", re.M)
+ALIAS = re.compile(r"^using +(\w+) += +[^;]+;", re.M)
 OPENED = re.compile(r"^using namespace [\w:]+;", re.M)
 BROUGHT = re.compile(r"^using ([\w:]+::(\w+));", re.M)
 INCLUDED = re.compile(r'^#include "([^"]+\.h)"', re.M)
 EXPORTED = re.compile(r'^(?:#define \w+ )?extern "C"', re.M)
 ERROR = re.compile(r"^([^\s:]+):\d+:\d+: error: .*\[clang-diagnostic-error\]$", re.M)
-JOINED_MOST = 60
+JOINED_MOST = 120
 
 
 def text_of(path):
@@ -61,7 +62,10 @@ def names(path):
     text = text_of(path)
     own = {name for match in NAMED.finditer(COMMENT_OR_STRING.sub('""', text))
            for name in match.groups() if name}
-    found = {name: path for name in own - {"main"}}
+    found = {name: path for name in own - {"main", "operator"}}
+    for alias in ALIAS.finditer(text):
+        if f"Q_DECLARE_METATYPE({alias[1]}" not in text:
+            found[alias[1]] = alias[0]  # may be repeated
     found.update((name, whole) for whole, name in BROUGHT.findall(text))
     for header in headers(path):
         if "/" in os.path.dirname(header):

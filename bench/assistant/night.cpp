@@ -14,7 +14,6 @@
 
 namespace
 {
-constexpr double degree = 3.141592653589793 / 180.0;
 constexpr double turnBack = 6.0 * 3600.0; // seconds
 
 double residentMebibytes()
@@ -59,7 +58,8 @@ NightResult nightAtRest(const virtualsky::SkyState &sky, double hours, double in
             continue;
         ++night.figures;
         totals.push_back(status.error->total.arcseconds);
-        const double onSky = std::cos((std::abs(sky.latitude) + sky.boltAltitude) * degree);
+        const double onSky =
+            std::cos((std::abs(sky.latitude) + sky.boltAltitude) * virtualsky::degree);
         const double up = status.error->altitude->arcseconds - 3600.0 * sky.boltAltitude;
         const double east = (status.error->azimuth->arcseconds - 3600.0 * sky.boltAzimuth) * onSky;
         night.worstDrift = std::max({night.worstDrift, std::abs(up), std::abs(east)});

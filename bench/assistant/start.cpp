@@ -5,12 +5,12 @@
 #include "virtualcamera/noise.h"
 #include "virtualcamera/optics.h"
 #include "virtualcamera/sensor.h"
+#include "virtualcamera/vector3.h"
 
 #include <cmath>
 
 namespace
 {
-constexpr double pi = 3.141592653589793;
 constexpr double november2026 = 1795204800.0;
 
 class Draw
@@ -37,12 +37,12 @@ virtualsky::SkyState startingSky(std::uint64_t number)
     sky.longitude = draw.between(-180.0, 180.0);
     sky.date = november2026 + draw.between(0.0, 3.15e7);
     const double bolt = 5.0 * std::sqrt(draw.between(0.0, 1.0));
-    const double way = draw.between(0.0, 2.0 * pi);
+    const double way = draw.between(0.0, 2.0 * virtualsky::pi);
     sky.boltAltitude = bolt * std::cos(way);
     sky.boltAzimuth =
-        bolt * std::sin(way) / std::cos(sky.latitude * pi / 180.0); // about the vertical
+        bolt * std::sin(way) / std::cos(sky.latitude * virtualsky::degree); // about the vertical
     const double off = 2.0 * 3600.0 / virtualsky::pixelScale * std::sqrt(draw.between(0.0, 1.0));
-    const double where = draw.between(0.0, 2.0 * pi);
+    const double where = draw.between(0.0, 2.0 * virtualsky::pi);
     sky.axisX = off * std::cos(where);
     sky.axisY = off * std::sin(where);
     sky.roll = draw.between(-180.0, 180.0);

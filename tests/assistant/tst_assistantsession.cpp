@@ -2,6 +2,7 @@
 // Does the session connect, report what goes wrong with the camera, and go on when it can?
 #include "bench/assistant/librarymount.h"
 #include "tests/assistant/guidetest.h"
+#include "tests/support/patience.h"
 
 #include <QElapsedTimer>
 #include <functional>
@@ -10,8 +11,7 @@ using namespace assistant;
 
 namespace
 {
-constexpr int patience = 30000; // milliseconds
-constexpr int promptly = 50;    // milliseconds a call may take, on a busy machine
+constexpr int promptly = 50; // milliseconds a call may take, on a busy machine
 } // namespace
 
 class AssistantSessionTest : public QObject
@@ -62,7 +62,7 @@ void AssistantSessionTest::namesCamerasAndConnects()
     QVERIFY(session.latest().status.sky != nullptr);
     session.connectCamera();
     QVERIFY(comes([&] { return session.latest().status.stage == Stage::Axis; }));
-    const Snapshot now = session.latest();
+    const assistant::Snapshot now = session.latest();
     QCOMPARE(now.picture.size(), QSize(1280, 960));
     QCOMPARE(now.picture.format(), QImage::Format_Grayscale8);
     QVERIFY(now.status.frame > 0);

@@ -231,7 +231,8 @@ void AssistantSettingsTest::latitudeOfTheWizard()
 
 void AssistantSettingsTest::pathIsTheUsers()
 {
-    QCOMPARE(settingsPath(), qEnvironmentVariable("XDG_CONFIG_HOME") + "/quorvandel-assistant.ini");
+    QCOMPARE(assistant::settingsPath(),
+             qEnvironmentVariable("XDG_CONFIG_HOME") + "/quorvandel-assistant.ini");
 }
 
 QTEST_GUILESS_MAIN(AssistantSettingsTest)

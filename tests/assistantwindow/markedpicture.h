@@ -7,6 +7,7 @@
 
 #include "assistantwindow/overview.h"
 #include "assistantwindow/skypicture.h"
+#include "astrometry/vector3.h"
 #include "tests/assistantwindow/drawing.h"
 #include "tests/assistantwindow/madestatus.h"
 #include "tests/support/paintedtexts.h"
@@ -17,7 +18,7 @@
 namespace markedpicture
 {
 inline constexpr QSize widgetSize(640, 480);
-inline constexpr double degree = drawing::pi / 180.0;
+using astrometry::degree;
 
 /// An enlargement: the error that leads to it, and the arcseconds from the pole to the nearer
 /// border; 0: the whole frame.

@@ -12,7 +12,7 @@
 
 namespace
 {
-constexpr int patience = 60000; // milliseconds
+constexpr int longPatience = 60000; // milliseconds
 } // namespace
 
 class AssistantAlignmentTest : public QObject
@@ -71,14 +71,14 @@ void AssistantAlignmentTest::connectsAgainAndStartsAgain()
     desk.hands->connectCamera();
     QCOMPARE(stage.text(), QStringLiteral("Axis"));
     desk.hands->click("pushButton_connect");
-    QTRY_COMPARE_WITH_TIMEOUT(stage.text(), QStringLiteral("Camera"), patience);
+    QTRY_COMPARE_WITH_TIMEOUT(stage.text(), QStringLiteral("Camera"), longPatience);
     QCOMPARE(desk.named<QAbstractButton>("pushButton_connect").text(), QStringLiteral("Connect"));
     desk.hands->connectCamera();
     desk.hands->turnAxis();
     QVERIFY(desk.hands->number("label_totalError"));
     desk.hands->click("pushButton_startAgain");
-    QTRY_VERIFY_WITH_TIMEOUT(!desk.hands->number("label_totalError"), patience);
-    QTRY_COMPARE_WITH_TIMEOUT(stage.text(), QStringLiteral("Axis"), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(!desk.hands->number("label_totalError"), longPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(stage.text(), QStringLiteral("Axis"), longPatience);
     QVERIFY(desk.named<QLabel>("label_axisTurn").text() != QStringLiteral("—"));
 }
 
@@ -100,7 +100,7 @@ void AssistantAlignmentTest::siteEnteredLaterGivesBolts()
         QTest::keyClick(field, Qt::Key_Return);
     }
     QTest::keyClick(desk.window.get(), Qt::Key_Escape);
-    QTRY_VERIFY_WITH_TIMEOUT(desk.hands->number("label_altitudeError"), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(desk.hands->number("label_altitudeError"), longPatience);
     QTRY_VERIFY(!desk.named<QAbstractButton>("pushButton_site").isVisible());
 }
 

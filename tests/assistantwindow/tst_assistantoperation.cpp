@@ -51,7 +51,7 @@ struct Hang {
 
 using assistant::AdviceCode;
 
-constexpr int patience = 60000; // milliseconds
+constexpr int longPatience = 60000; // milliseconds
 const char *const figures[] = {"label_totalError", "label_altitudeError", "label_azimuthError"};
 
 bool hasNumbers(const Desk &desk)
@@ -125,7 +125,7 @@ void AssistantOperationTest::fingerAloneAligns()
         return widget.mapTo(desk.window.get(), widget.rect().center());
     };
     finger.press(middle("doubleSpinBox_latitude_step3")); // held, it repeats
-    QTRY_VERIFY_WITH_TIMEOUT(latitude.value() >= 18.0, patience);
+    QTRY_VERIFY_WITH_TIMEOUT(latitude.value() >= 18.0, longPatience);
     finger.lift();
     for (int i = 0; i < 20 && latitude.value() > 22.5; ++i)
         QVERIFY(finger.tap("doubleSpinBox_latitude_step0"));
@@ -137,7 +137,8 @@ void AssistantOperationTest::fingerAloneAligns()
     QVERIFY(site && site->latitude == 22.0 && site->longitude == 3.0);
 
     QVERIFY(finger.tap("pushButton_connect"));
-    QTRY_COMPARE_WITH_TIMEOUT(desk.hands->text("label_stage"), QStringLiteral("Axis"), patience);
+    QTRY_COMPARE_WITH_TIMEOUT(desk.hands->text("label_stage"), QStringLiteral("Axis"),
+                              longPatience);
     desk.hands->turnAxis(); // knobs of the mount, none of the window
     QVERIFY(finger.tap("label_picture"));
     QVERIFY(desk.named<QWidget>("largePage").isVisible() && desk.window->isFullScreen());
@@ -146,7 +147,7 @@ void AssistantOperationTest::fingerAloneAligns()
     QVERIFY(desk.named<QWidget>("largePage").isVisible());
     finger.tap(desk.window->rect().center()); // anywhere
     QVERIFY(desk.named<QWidget>("mainPage").isVisible() && !desk.window->isFullScreen());
-    QTRY_VERIFY_WITH_TIMEOUT(says(desk, AdviceCode::Aligned), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(says(desk, AdviceCode::Aligned), longPatience);
     QVERIFY2(desk.knobs->poleError() < 15.0, qPrintable(QString::number(desk.knobs->poleError())));
 
     auto &slider = desk.named<QAbstractSlider>("slider_exposure");
@@ -177,7 +178,8 @@ void AssistantOperationTest::fingerAloneAligns()
     QVERIFY(desk.window->currentSettings().redTheme);
     QVERIFY(finger.tap("pushButton_settingsBack"));
     QVERIFY(finger.tap("pushButton_connect"));
-    QTRY_COMPARE_WITH_TIMEOUT(desk.hands->text("label_stage"), QStringLiteral("Camera"), patience);
+    QTRY_COMPARE_WITH_TIMEOUT(desk.hands->text("label_stage"), QStringLiteral("Camera"),
+                              longPatience);
 }
 
 /// Tab, Space, letters, arrows and the function keys; the mouse rests.
@@ -198,7 +200,8 @@ void AssistantOperationTest::keysAloneAlign()
     QVERIFY(pressByKeys("pushButton_connect"));
     const auto &site = desk.window->currentSettings().site;
     QVERIFY(site && site->latitude == -34.0 && site->longitude == 149.0);
-    QTRY_COMPARE_WITH_TIMEOUT(desk.hands->text("label_stage"), QStringLiteral("Axis"), patience);
+    QTRY_COMPARE_WITH_TIMEOUT(desk.hands->text("label_stage"), QStringLiteral("Axis"),
+                              longPatience);
     desk.hands->turnAxis();
     QVERIFY(pressByKeys("pushButton_largeView"));
     QVERIFY(desk.named<QWidget>("largePage").isVisible());
@@ -209,7 +212,7 @@ void AssistantOperationTest::keysAloneAlign()
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_F11);
     QVERIFY(desk.named<QWidget>("mainPage").isVisible() && !desk.window->isFullScreen());
     desk.hands->turnBolts();
-    QTRY_VERIFY_WITH_TIMEOUT(says(desk, AdviceCode::Aligned), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(says(desk, AdviceCode::Aligned), longPatience);
     QVERIFY2(desk.knobs->poleError() < 15.0, qPrintable(QString::number(desk.knobs->poleError())));
 
     QVERIFY(tabTo("slider_exposure"));
@@ -234,9 +237,10 @@ void AssistantOperationTest::keysAloneAlign()
     QCOMPARE(desk.window->currentSettings().target, recognition::PoleTarget::Refracted);
     QVERIFY(pressByKeys("pushButton_settingsBack"));
     QVERIFY(pressByKeys("pushButton_startAgain"));
-    QTRY_VERIFY_WITH_TIMEOUT(hasDashes(desk), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(hasDashes(desk), longPatience);
     QVERIFY(pressByKeys("pushButton_connect"));
-    QTRY_COMPARE_WITH_TIMEOUT(desk.hands->text("label_stage"), QStringLiteral("Camera"), patience);
+    QTRY_COMPARE_WITH_TIMEOUT(desk.hands->text("label_stage"), QStringLiteral("Camera"),
+                              longPatience);
 }
 
 void AssistantOperationTest::unpluggedAndBack()
@@ -244,18 +248,18 @@ void AssistantOperationTest::unpluggedAndBack()
     const Desk desk(false, true);
     desk.hands->connectCamera();
     desk.hands->turnAxis();
-    QTRY_VERIFY_WITH_TIMEOUT(hasNumbers(desk) && isTrue(desk), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(hasNumbers(desk) && isTrue(desk), longPatience);
     desk.knobs->edit().unplugged = true;
     desk.knobs->write();
-    QTRY_VERIFY_WITH_TIMEOUT(hasDashes(desk), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(hasDashes(desk), longPatience);
     QTRY_VERIFY_WITH_TIMEOUT(says(desk, AdviceCode::CameraLost) || says(desk, AdviceCode::NoCamera),
-                             patience);
+                             longPatience);
     QCOMPARE(desk.hands->text("label_uncertainty"), assistantwindow::dash());
     QTest::qWait(1000);
     QVERIFY(hasDashes(desk));
     desk.knobs->edit().unplugged = false;
     desk.knobs->write();
-    QTRY_VERIFY_WITH_TIMEOUT(hasNumbers(desk), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(hasNumbers(desk), longPatience);
     QVERIFY2(isTrue(desk), qPrintable(desk.hands->text("label_totalError")));
     QVERIFY(!says(desk, AdviceCode::CameraLost));
 }
@@ -266,12 +270,12 @@ void AssistantOperationTest::hangsAndComesBack()
     const Desk desk(false, true);
     desk.hands->connectCamera();
     desk.hands->turnAxis();
-    QTRY_VERIFY_WITH_TIMEOUT(hasNumbers(desk) && isTrue(desk), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(hasNumbers(desk) && isTrue(desk), longPatience);
     {
         const Hang hang;
-        QTRY_VERIFY_WITH_TIMEOUT(hung, patience);
-        QTRY_VERIFY_WITH_TIMEOUT(hasDashes(desk), patience);
-        QTRY_VERIFY_WITH_TIMEOUT(says(desk, AdviceCode::CameraHangs), patience);
+        QTRY_VERIFY_WITH_TIMEOUT(hung, longPatience);
+        QTRY_VERIFY_WITH_TIMEOUT(hasDashes(desk), longPatience);
+        QTRY_VERIFY_WITH_TIMEOUT(says(desk, AdviceCode::CameraHangs), longPatience);
         QElapsedTimer timer;
         timer.start();
         for (const char *const name : {"pushButton_settings", "pushButton_settingsBack"})
@@ -279,7 +283,7 @@ void AssistantOperationTest::hangsAndComesBack()
         QVERIFY(timer.elapsed() < 1000);
         QVERIFY(hasDashes(desk) && says(desk, AdviceCode::CameraHangs));
     }
-    QTRY_VERIFY_WITH_TIMEOUT(hasNumbers(desk), patience);
+    QTRY_VERIFY_WITH_TIMEOUT(hasNumbers(desk), longPatience);
     QVERIFY2(isTrue(desk), qPrintable(desk.hands->text("label_totalError")));
     QVERIFY(!says(desk, AdviceCode::CameraHangs));
 }

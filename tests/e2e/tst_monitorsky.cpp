@@ -4,6 +4,7 @@
 #include "app/stylesheet.h"
 #include "core/settingsfile.h"
 #include "resources/resources.h"
+#include "tests/support/patience.h"
 #include "tests/support/sessionwindow.h"
 #include "tools/practicesky.h"
 #include "tools/tour/person.h"
@@ -25,7 +26,6 @@ constexpr double starTolerance = 1.0;
 constexpr double poleTolerance = 2.5;
 /// A star is searched for within this distance from its search position, along x and y.
 constexpr double searchHalf = 20.0;
-constexpr int patience = 20000;
 
 double distance(QPointF a, QPointF b)
 {

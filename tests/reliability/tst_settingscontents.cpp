@@ -41,7 +41,7 @@ private:
 };
 
 /// What was read, as it is stored.
-QStringList textsOf(const Settings &s)
+QStringList textsOf(const ::Settings &s)
 {
     const auto number = [](double value) { return QString::number(value, 'g', 6); };
     return {s.styleName,
@@ -61,7 +61,7 @@ QStringList textsOf(const Settings &s)
 void isReadAndSaved(const QByteArray &bytes, const QStringList &expected)
 {
     const File file(bytes);
-    Settings settings;
+    ::Settings settings;
     settings.styleName = "not read"; // what is not in the file is as at first
     QVERIFY(readSettings(file.path(), settings));
     QCOMPARE(textsOf(settings), expected);
@@ -167,7 +167,7 @@ void SettingsContentsTest::rubbishIsReadAlike()
 {
     QFETCH(QByteArray, bytes);
     const File file(bytes);
-    Settings first, second;
+    ::Settings first, second;
     QVERIFY(readSettings(file.path(), first));
     writeSettings(file.path(), first);
     QVERIFY(readSettings(file.path(), second));

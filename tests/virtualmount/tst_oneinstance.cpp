@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Does a second start of the virtual mount find the existing window?
+#include "tests/support/patience.h"
 #include "tests/virtualmount/mounttest.h"
 
 #include <QDir>
@@ -12,7 +13,6 @@
 
 namespace
 {
-constexpr int patience = 30'000; // milliseconds
 
 /// A sky file and the folder in which its windows find each other.
 struct Sky {
@@ -88,7 +88,7 @@ void OneInstanceTest::aSecondStartFindsIt()
     QFETCH(QStringList, arguments);
     const Sky sky;
     Mount first(sky, {});
-    QTRY_VERIFY_WITH_TIMEOUT(sky.hasAWindow(), patience);
+    QTRY_VERIFY(sky.hasAWindow());
     Mount second(sky, arguments);
     QVERIFY(second.endsSinceThereIsOne());
     QCOMPARE(first.process.state(), QProcess::Running);
@@ -109,7 +109,7 @@ void OneInstanceTest::itSaysThatTheMountIsAligned()
     QFETCH(bool, aligned);
     const Sky sky;
     Mount first(sky, {});
-    QTRY_VERIFY_WITH_TIMEOUT(sky.hasAWindow(), patience);
+    QTRY_VERIFY(sky.hasAWindow());
     sky.file.writeText("[mount]\n" + bolts);
     Mount second(sky, {});
     QVERIFY(second.endsSinceThereIsOne());
@@ -122,7 +122,7 @@ void OneInstanceTest::theSameByALink()
     const QString link = sky.meeting.filePath("link");
     QVERIFY(QFile::link(QFileInfo(sky.file.path()).path(), link));
     Mount first(sky, {});
-    QTRY_VERIFY_WITH_TIMEOUT(sky.hasAWindow(), patience);
+    QTRY_VERIFY(sky.hasAWindow());
     Mount second(sky, link + "/sky.ini", {});
     QVERIFY(second.endsSinceThereIsOne());
 }
@@ -151,7 +151,7 @@ void OneInstanceTest::ofManyAtOnceOneStays()
             return mount->process.state() != QProcess::NotRunning;
         });
     };
-    QTRY_COMPARE_WITH_TIMEOUT(running(), std::ptrdiff_t(1), patience);
+    QTRY_COMPARE(running(), std::ptrdiff_t(1));
     QVERIFY(sky.hasAWindow());
 }
 
@@ -168,7 +168,7 @@ void OneInstanceTest::notAfterItsEnd()
     const Sky sky;
     {
         Mount first(sky, {});
-        QTRY_VERIFY_WITH_TIMEOUT(sky.hasAWindow(), patience);
+        QTRY_VERIFY(sky.hasAWindow());
         if (killed)
             first.process.kill();
         else
@@ -187,7 +187,7 @@ void OneInstanceTest::placesAreToldAllTheSame()
 {
     const Sky sky;
     Mount first(sky, {});
-    QTRY_VERIFY_WITH_TIMEOUT(sky.hasAWindow(), patience);
+    QTRY_VERIFY(sky.hasAWindow());
     Mount asking(sky, {"--places"});
     QVERIFY(asking.ends());
     const QString said = asking.process.readAllStandardOutput();

@@ -37,7 +37,7 @@ public:
     }
 };
 
-void pause()
+void pauseBriefly()
 {
     std::this_thread::sleep_for(std::chrono::milliseconds(1));
 }
@@ -193,7 +193,7 @@ void BlockedDisconnectionTest::stopBlocksToo()
     const auto release = qScopeGuard([&goOn] { goOn = true; });
     sdk().observe("StopVELDIXLive", [&goOn] {
         while (!goOn)
-            pause();
+            pauseBriefly();
     });
     const LogRecorder log;
     QElapsedTimer time;
@@ -223,7 +223,7 @@ void BlockedDisconnectionTest::callReturnsWhileStopBlocks()
     sdk().observe("StopVELDIXLive", [&goOn] {
         sdk().releaseFetches();
         while (!goOn)
-            pause();
+            pauseBriefly();
     });
     const LogRecorder log;
     w.trigger("actionConnect");
