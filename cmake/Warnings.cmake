@@ -26,5 +26,5 @@ if(QUORVANDEL_SANITIZE)
     target_compile_options(quorvandel_options INTERFACE -Wno-maybe-uninitialized)
   endif()
   target_link_options(quorvandel_options INTERFACE -fsanitize=${QUORVANDEL_SANITIZE}
-    $<$<CXX_COMPILER_ID:Clang>:-fuse-ld=lld>)
+    "$<$<CXX_COMPILER_ID:Clang>:-fuse-ld=lld;LINKER:--threads=1>")
 endif()
