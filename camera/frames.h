@@ -11,12 +11,12 @@
 constexpr int cropSide = 200;
 constexpr int enlargement = 5;
 
-/// The matrices of one capture thread, rows x columns. The large ones are only allocated: no page
-/// of them is touched before it is needed.
+/// The matrices of one capture thread, rows x columns. Of the enlarged ones only the part round a
+/// star is ever used. Their memory comes straight from the system, so that the rest costs nothing,
+/// not even where a sanitizer's allocator marks each byte that it hands out. It lives as long as
+/// this object or a copy of it: a matrix header alone does not keep it.
 class FrameMatrices
 {
-    // Only the part round one star is ever used. Memory straight from the system costs nothing for
-    // the rest, not even where a sanitizer's allocator marks each byte that it hands out.
     std::shared_ptr<std::uint8_t> greyPages, colourPages;
 
 public:

@@ -17,7 +17,7 @@ cv::Mat matrixOver(FrameBuffer &buffer, const FrameFormat &format)
 }
 } // namespace
 
-/// Zeroed by the system, page by page as they are used, which is long after the program's start.
+/// A block of this size comes zeroed from the system; nothing writes to it before the first frame.
 LatestFrame::Buffer LatestFrame::blackBuffer()
 {
     auto *const memory = static_cast<FrameBuffer *>(std::calloc(1, sizeof(FrameBuffer)));

@@ -15,6 +15,7 @@ class LatestFrame
 {
 public:
     /// Starts with a black frame of the default size, in which no star can be picked.
+    /// @throws std::bad_alloc
     LatestFrame();
 
     /// The buffer for the next frame. Capture thread only.

@@ -26,5 +26,6 @@ if(QUORVANDEL_SANITIZE)
     target_compile_options(quorvandel_options INTERFACE -Wno-maybe-uninitialized)
   endif()
   target_link_options(quorvandel_options INTERFACE -fsanitize=${QUORVANDEL_SANITIZE}
+    # Several files are linked at a time.
     "$<$<CXX_COMPILER_ID:Clang>:-fuse-ld=lld;LINKER:--threads=1>")
 endif()

@@ -87,7 +87,7 @@ std::vector<FieldStar> findStars(const cv::Mat &frame)
     cv::threshold(flat, bright, thresholdOf(flat), 255, cv::THRESH_BINARY);
     std::vector<cv::Point> pixels;
     cv::findNonZero(bright, pixels);
-    // Given once for all: without a mask, each call would allocate one of the frame's size.
+    // One mask for all areas: without it, each call would allocate one of the frame's size.
     cv::Mat mask = cv::Mat::zeros(bright.rows + 2, bright.cols + 2, CV_8UC1);
     std::vector<FieldStar> stars;
     for (const cv::Point &pixel : pixels) {

@@ -5,6 +5,7 @@
 #include "bench/assistant/mountonsky.h"
 #include "bench/assistant/person.h"
 #include "bench/assistant/start.h"
+#include "virtualcamera/vector3.h"
 
 #include <algorithm>
 #include <cmath>

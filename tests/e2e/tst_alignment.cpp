@@ -26,7 +26,7 @@ constexpr double medianAllowed = 35.0;
 constexpr double worstOfDate = 25.0;
 constexpr double medianOfDate = 10.0;
 /// The fewest rows of one sky that are held to a median: two for each zoom.
-constexpr int rowsOfOneDate = 3 * 2;
+constexpr int rowsOfOneSky = 3 * 2;
 
 struct Result {
     QString date, hemisphere;
@@ -37,8 +37,8 @@ struct Result {
 };
 
 /// Whether a row is run: all are if the environment says so; else every fourth, chosen so that any
-/// two choices meet under each sky. Each zoom has, under each sky, one answer to hemisphere, reuse
-/// and style, and its opposite.
+/// two choices meet under each sky. There each zoom has two rows, which differ in hemisphere, reuse
+/// and style.
 bool isRun(int sky, int zoom, bool south, bool reuse, bool mono)
 {
     if (qEnvironmentVariableIsSet("QUORVANDEL_ALL_ALIGNMENTS"))
@@ -197,7 +197,7 @@ void AlignmentTest::cleanupTestCase()
         printf("  median %.1f, worst %.1f of %zu\n", middle,
                *std::max_element(errors.begin(), errors.end()), errors.size());
         // A median of one row by itself would say nothing.
-        if (sky.allowed > 0.0 && int(errors.size()) >= rowsOfOneDate)
+        if (sky.allowed > 0.0 && int(errors.size()) >= rowsOfOneSky)
             QVERIFY2(middle <= sky.allowed, qPrintable(QString::number(middle)));
     }
     QFile::remove(settingsFilePath());

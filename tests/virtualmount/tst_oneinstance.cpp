@@ -13,7 +13,6 @@
 
 namespace
 {
-
 /// A sky file and the folder in which its windows find each other.
 struct Sky {
     SkyFileFixture file;
