@@ -2,6 +2,7 @@
 // Does a person align the mount with the assistant's window alone, on the virtual camera?
 #include "assistantwindow/assistantresources.h"
 #include "tests/assistantwindow/desk.h"
+#include "tests/support/patience.h"
 
 #include <QAbstractButton>
 #include <QDir>
@@ -9,11 +10,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QtTest>
-
-namespace
-{
-constexpr int longPatience = 60000; // milliseconds
-} // namespace
 
 class AssistantAlignmentTest : public QObject
 {

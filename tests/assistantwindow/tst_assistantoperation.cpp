@@ -6,6 +6,7 @@
 #include "assistantwindow/display.h"
 #include "tests/assistantwindow/desk.h"
 #include "tests/assistantwindow/fingers.h"
+#include "tests/support/patience.h"
 
 #include <QAbstractButton>
 #include <QAbstractSlider>
@@ -51,7 +52,6 @@ struct Hang {
 
 using assistant::AdviceCode;
 
-constexpr int longPatience = 60000; // milliseconds
 const char *const figures[] = {"label_totalError", "label_altitudeError", "label_azimuthError"};
 
 bool hasNumbers(const Desk &desk)
