@@ -23,7 +23,7 @@ struct Row {
     const char *text;
 };
 
-constexpr Row rows[] = {
+constexpr Row adviceRows[] = {
     {AdviceCode::ConnectCamera, AdviceMood::Calm, Number::None,
      QT_TRANSLATE_NOOP("Advice", "Point the camera at the pole and press Connect.")},
     {AdviceCode::NoCamera, AdviceMood::Warning, Number::None,
@@ -92,10 +92,10 @@ constexpr Row rows[] = {
 
 const Row &rowOf(AdviceCode code)
 {
-    for (const Row &row : rows)
+    for (const Row &row : adviceRows)
         if (row.code == code)
             return row;
-    return rows[0];
+    return adviceRows[0];
 }
 
 QString numberText(Number number, const assistant::Advice &advice, const QLocale &locale)

@@ -11,7 +11,7 @@ namespace
 using astrometry::Vector3;
 using recognition::PixelPlace;
 
-constexpr double step = 60.0 * astrometry::arcsecond;
+constexpr double legStep = 60.0 * astrometry::arcsecond;
 
 /// Where the axis' pixel goes by a step towards a direction of the sky: pixels.
 std::optional<PixelPlace> moveTowards(const Vector3 &goal, const PixelPlace &from,
@@ -24,8 +24,8 @@ std::optional<PixelPlace> moveTowards(const Vector3 &goal, const PixelPlace &fro
     const double size = length(across);
     if (!(size > 1e-9))
         return {};
-    const Vector3 there = {here.x + across.x * step / size, here.y + across.y * step / size,
-                           here.z + across.z * step / size};
+    const Vector3 there = {here.x + across.x * legStep / size, here.y + across.y * legStep / size,
+                           here.z + across.z * legStep / size};
     const auto pixel = mapping.pixelOf(scaled(there, 1.0 / length(there)));
     if (!pixel)
         return {};

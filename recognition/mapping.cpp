@@ -16,7 +16,7 @@ using Complex = SkyMapping::Complex;
 constexpr double jacobianStep = 1e-3; // pixels, of the Jacobian's differences
 constexpr int mostNewtonSteps = 25;
 constexpr double newtonTolerance = 1e-7; // pixels
-constexpr double farthest = 50.0;        // units from the frame's centre, of the inverse
+constexpr double inverseReach = 50.0;    // units from the frame's centre, of the inverse
 
 Complex polynomialAt(MappingModel terms,
                      const std::array<Complex, SkyMapping::mostTerms> &coefficients, Complex z)
@@ -149,7 +149,7 @@ std::optional<PixelPlace> SkyMapping::pixelOf(const Vector3 &sky) const
         const double dy = (j.xx * error.imag() - j.yx * error.real()) / determinant;
         pixel.x += dx;
         pixel.y += dy;
-        if (!(std::hypot(pixel.x - centre.x, pixel.y - centre.y) < farthest * unit))
+        if (!(std::hypot(pixel.x - centre.x, pixel.y - centre.y) < inverseReach * unit))
             return std::nullopt;
         if (std::hypot(dx, dy) < newtonTolerance)
             return pixel;

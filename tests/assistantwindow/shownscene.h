@@ -3,12 +3,11 @@
 #pragma once
 
 #include "tests/assistantwindow/scenes.h"
+#include "tests/assistantwindow/smallscreen.h"
 #include "tests/support/textroom.h"
 
 #include <QScreen>
 #include <memory>
-
-constexpr QSize smallScreen(800, 480);
 
 /// A row for each scene; column "scene" is its number.
 inline void forEachScene()

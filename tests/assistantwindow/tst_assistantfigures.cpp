@@ -6,6 +6,7 @@
 #include "assistantwindow/indicators.h"
 #include "assistantwindow/largepage.h"
 #include "assistantwindow/mainpage.h"
+#include "tests/assistantwindow/figurevalues.h"
 
 #include <QtTest>
 #include <cmath>
@@ -16,10 +17,6 @@ using assistant::AdviceCode;
 
 namespace
 {
-constexpr double noNumber = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
-const QLocale english(QLocale::English);
-
 assistant::ErrorFigures figures(double total, std::optional<double> altitude = {},
                                 std::optional<double> azimuth = {})
 {

@@ -6,6 +6,7 @@
 #include "assistantwindow/report.h"
 #include "core/languages.h"
 #include "tests/assistantwindow/scenes.h"
+#include "tests/assistantwindow/smallscreen.h"
 #include "tests/support/paintedtexts.h"
 #include "tests/support/textroom.h"
 
@@ -20,7 +21,6 @@ using assistant::Advice;
 using assistant::AdviceCode;
 using assistantwindow::AssistantWindow;
 
-constexpr QSize smallScreen(800, 480);
 constexpr int codes = int(AdviceCode::RecordingFull) + 1; // the enumeration's last one
 
 /// With the longest number or text that a night may bring.

@@ -6,6 +6,7 @@
 #include "assistantwindow/largepage.h"
 #include "core/languages.h"
 #include "tests/assistantwindow/drawing.h"
+#include "tests/assistantwindow/smallscreen.h"
 #include "tests/support/paintedtexts.h"
 
 #include <QtTest>
@@ -20,7 +21,6 @@ namespace
 using Samples = std::deque<assistant::History::Point>;
 
 constexpr QSize plotSize(420, 180);
-constexpr QSize smallScreen(800, 480);
 constexpr double now = 1000.0; // seconds
 
 assistant::History::Point point(double secondsAgo, double arcseconds)

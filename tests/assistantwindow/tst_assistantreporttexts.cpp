@@ -10,7 +10,7 @@ using assistant::Aim;
 
 namespace
 {
-const QLocale english(QLocale::English, QLocale::UnitedKingdom);
+const QLocale british(QLocale::English, QLocale::UnitedKingdom);
 
 QString valueOf(const std::vector<ReportRow> &rows, const QString &name)
 {
@@ -36,7 +36,7 @@ private slots:
 
 void AssistantReportTextsTest::momentIsLocal()
 {
-    const QString text = momentText(1795204800.0, english); // 2026-11-20, 20:00 UTC
+    const QString text = momentText(1795204800.0, british); // 2026-11-20, 20:00 UTC
     QVERIFY2(text.contains("21/11/2026 01:45") && text.endsWith("(UTC+5:45)"), qPrintable(text));
 }
 
@@ -59,7 +59,7 @@ void AssistantReportTextsTest::aims()
 {
     QFETCH(int, pole);
     QFETCH(double, pressure);
-    QTEST(aimText({Aim::Pole(pole), pressure, -4.0}, english), "text");
+    QTEST(aimText({Aim::Pole(pole), pressure, -4.0}, british), "text");
 }
 
 void AssistantReportTextsTest::rowsHoldAll()
@@ -70,11 +70,11 @@ void AssistantReportTextsTest::rowsHoldAll()
     report.aim = {Aim::Pole::Refracted, 850.0, 12.0};
     report.after.total = {60.0, 1.0};
     report.seconds = 343.0;
-    const std::vector<ReportRow> rows = reportRows(report, english);
+    const std::vector<ReportRow> rows = reportRows(report, british);
     QCOMPARE(valueOf(rows, "Time taken"), QStringLiteral("5:43"));
-    QCOMPARE(valueOf(rows, "Aimed at"), aimText(report.aim, english));
+    QCOMPARE(valueOf(rows, "Aimed at"), aimText(report.aim, british));
     QCOMPARE(valueOf(rows, "Date and site"),
-             momentText(report.utcSeconds, english) + "; 33.900° S, 18.400° E");
+             momentText(report.utcSeconds, british) + "; 33.900° S, 18.400° E");
     QCOMPARE(valueOf(rows, "Drift in declination, anywhere, at most"),
              QStringLiteral("15.8″ an hour"));
     QCOMPARE(
@@ -84,9 +84,9 @@ void AssistantReportTextsTest::rowsHoldAll()
 
 void AssistantReportTextsTest::withoutSite()
 {
-    const std::vector<ReportRow> rows = reportRows({}, english);
+    const std::vector<ReportRow> rows = reportRows({}, british);
     QCOMPARE(valueOf(rows, "in altitude"), dash());
-    QCOMPARE(valueOf(rows, "Date and site"), momentText(0.0, english));
+    QCOMPARE(valueOf(rows, "Date and site"), momentText(0.0, british));
 }
 
 QTEST_MAIN(AssistantReportTextsTest)

@@ -8,6 +8,7 @@
 #include "assistantwindow/siteentry.h"
 #include "assistantwindow/starlabel.h"
 #include "core/languages.h"
+#include "tests/assistantwindow/figurevalues.h"
 
 #include <QSet>
 #include <QtTest>
@@ -19,9 +20,7 @@ using assistant::AdviceCode;
 
 namespace
 {
-constexpr double noNumber = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
-const QLocale english(QLocale::English), german(QLocale::German);
+const QLocale german(QLocale::German);
 
 /// Every code of the enumeration, by its last one.
 std::vector<AdviceCode> allCodes()

@@ -4,17 +4,13 @@
 #include "assistantwindow/starlabel.h"
 #include "assistantwindow/theme.h"
 #include "assistantwindow/view.h"
+#include "tests/assistantwindow/figurevalues.h"
 
 #include <QtTest>
 #include <cmath>
 #include <limits>
 
 using namespace assistantwindow;
-
-namespace
-{
-constexpr double noNumber = std::numeric_limits<double>::quiet_NaN();
-} // namespace
 
 class AssistantViewTest : public QObject
 {

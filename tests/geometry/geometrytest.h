@@ -10,10 +10,13 @@
 #include <QTest>
 #include <QVector>
 #include <cmath>
+#include <limits>
 #include <opencv2/core.hpp>
 
 namespace geometrytest
 {
+constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
+
 /// Both not-a-number, equal, or at most the tolerance apart.
 inline bool within(double actual, double expected, double tolerance)
 {

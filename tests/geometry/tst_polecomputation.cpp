@@ -4,8 +4,6 @@
 
 #include "tests/geometry/geometrytest.h"
 
-#include <limits>
-
 using namespace geometrytest;
 
 class PoleComputationTest : public QObject
@@ -22,11 +20,6 @@ private slots:
     void goldenByReference();
     void goldenTemplatePoles();
 };
-
-namespace
-{
-const double notANumber = std::numeric_limits<double>::quiet_NaN();
-} // namespace
 
 void PoleComputationTest::byReference_data()
 {

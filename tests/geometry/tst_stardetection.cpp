@@ -34,7 +34,6 @@ const QString centroidOutside = QStringLiteral("critical: GetGravityCenter - Out
 const QString centroidFaint = QStringLiteral("warning: GetGravityCenter - Too low SNR, Keep stay");
 const QString preciseOutside = QStringLiteral("critical: GetPreciseStarPos - Out of Whole FOV");
 const QString noStar = QStringLiteral("critical: GetPreciseStarPos - No Star in the ROI Area.");
-const double notANumber = std::numeric_limits<double>::quiet_NaN();
 const double infinity = std::numeric_limits<double>::infinity();
 
 /// 100 x 80 pixels of one brightness, with squares of 3 x 3 brighter pixels on top. The median

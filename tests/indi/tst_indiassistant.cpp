@@ -12,17 +12,14 @@
 #include "tools/tour/assistanthands.h"
 #include "virtualcamera/skyfile.h"
 
+#include <QLineF>
 #include <QTemporaryDir>
 #include <QtTest>
+#include <cmath>
 
 namespace
 {
 constexpr double latitude = 47.0, longitude = 8.0;
-
-double apart(QPointF a, QPointF b)
-{
-    return std::hypot(a.x() - b.x(), a.y() - b.y());
-}
 } // namespace
 
 class IndiAssistantTest : public QObject
@@ -77,7 +74,8 @@ void IndiAssistantTest::telescopePointsWhereTheSkyFileSays()
                                           std::cos(dec) * std::sin(ra), std::sin(dec)};
         const auto pixel = virtualsky::PlaceInPicture(sky, now).ofCirs(cirs);
         QVERIFY(pixel);
-        const double off = apart({pixel->x, pixel->y}, {virtualsky::centreX, virtualsky::centreY});
+        const double off =
+            std::hypot(pixel->x - virtualsky::centreX, pixel->y - virtualsky::centreY);
         QVERIFY2(off < 0.5, qPrintable(QString::number(off)));
     }
 }
@@ -105,7 +103,7 @@ void IndiAssistantTest::windowAloneAligns()
         knobs->turnRaAxisTo(42.0); // further turning improves the axis
         QTRY_VERIFY_WITH_TIMEOUT(status().axis.turnedDegrees > 40.0 && status().pole, 60000);
         const auto place = *status().axis.place;
-        const double axisOff = apart({place.x, place.y}, knobs->axis());
+        const double axisOff = QLineF({place.x, place.y}, knobs->axis()).length();
         const auto first = hands.number("label_altitudeError");
         QVERIFY(first);
         qInfo("axis off by %.2f pixels; altitude error %.1f, truly %.1f arcseconds", axisOff,
@@ -118,7 +116,7 @@ void IndiAssistantTest::windowAloneAligns()
         }
         const double truth = knobs->poleError();
         const auto pole = *status().pole;
-        const double poleOff = apart({pole.x, pole.y}, knobs->pole());
+        const double poleOff = QLineF({pole.x, pole.y}, knobs->pole()).length();
         qInfo("pole off by %.2f pixels; aligned to %.1f arcseconds", poleOff, truth);
         QVERIFY(poleOff < 1.0);
         QVERIFY2(truth < virtualsky::pixelScale, qPrintable(QString::number(truth)));

@@ -15,9 +15,6 @@
 
 namespace
 {
-constexpr int returnPatience = 5000; // milliseconds from the harm's end to a frame
-constexpr qint64 callPatience = 100; // of every call
-
 QByteArray golden()
 {
     QFile file(QStringLiteral(PROJECT_SOURCE_DIR "/tests/pictures/golden/uint16.fits"));

@@ -12,9 +12,6 @@
 
 namespace
 {
-constexpr int returnPatience = 5000; // milliseconds from the server's return to a frame
-constexpr qint64 callPatience = 100; // of every call
-
 framesources::SourceSettings exposures()
 {
     framesources::SourceSettings settings;

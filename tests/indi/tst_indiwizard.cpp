@@ -9,16 +9,9 @@
 #include "tools/tour/person.h"
 
 #include <QApplication>
+#include <QLineF>
 #include <QTemporaryDir>
 #include <QtTest>
-
-namespace
-{
-double apart(QPointF a, QPointF b)
-{
-    return std::hypot(a.x() - b.x(), a.y() - b.y());
-}
-} // namespace
 
 class IndiWizardTest : public QObject
 {
@@ -74,14 +67,14 @@ void IndiWizardTest::windowAloneAligns()
         person.confirmTemplate();
         person.findAxis();
         const QPointF axis = window.ownSession.alignmentPoints.savedAxisCenter.load();
-        const double axisOff = apart(axis, knobs->axis());
+        const double axisOff = QLineF(axis, knobs->axis()).length();
         qInfo("axis off by %.2f pixels", axisOff);
         QVERIFY(axisOff < 1.0);
         person.placePoleStar();
         person.startMonitor();
         person.fineAdjust();
         const QPointF pole = window.ownSession.monitorPositions.poleCurrent.load();
-        const double poleOff = apart(pole, knobs->pole());
+        const double poleOff = QLineF(pole, knobs->pole()).length();
         const double truth = knobs->poleError();
         qInfo("pole off by %.2f pixels; aligned to %.1f arcseconds", poleOff, truth);
         QVERIFY(poleOff < 1.0);

@@ -13,7 +13,7 @@ namespace
 {
 using Stanza = QMap<QString, QString>; ///< the fields of a paragraph
 
-QString textOf(const QString &name)
+QString projectText(const QString &name)
 {
     QFile file(QStringLiteral(PROJECT_SOURCE_DIR "/") + name);
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
@@ -23,7 +23,7 @@ QString textOf(const QString &name)
 QList<Stanza> stanzasOf(const QString &name)
 {
     QList<Stanza> stanzas;
-    for (const QString &paragraph : textOf(name).split("\n\n", Qt::SkipEmptyParts)) {
+    for (const QString &paragraph : projectText(name).split("\n\n", Qt::SkipEmptyParts)) {
         Stanza fields;
         QString field;
         for (const QString &line : paragraph.split('\n', Qt::SkipEmptyParts)) {
@@ -82,7 +82,7 @@ private slots:
 
 void DebianFilesTest::thePackageHasThisVersion()
 {
-    const QString changes = textOf("debian/changelog");
+    const QString changes = projectText("debian/changelog");
     QVERIFY2(changes.startsWith("quorvandel (" VERSION "-"), qPrintable(changes.left(60)));
 }
 
@@ -182,7 +182,7 @@ void DebianFilesTest::itsOwnTestIsDeclared()
     const QSet<QString> needed = packagesIn(test.value("Depends"));
     for (const char *const name : {"@", "@builddeps@", "xvfb", "xauth"})
         QVERIFY2(needed.contains(name), name);
-    const QString tour = textOf("debian/tests/tour");
+    const QString tour = projectText("debian/tests/tour");
     for (const char *const word : {"quorvandel-tour", "quorvandel-assistant-tour", "--south"})
         QVERIFY2(tour.contains(word), word);
     QCOMPARE(QProcess::execute("sh", {"-n", PROJECT_SOURCE_DIR "/debian/tests/tour"}), 0);
@@ -197,7 +197,8 @@ void DebianFilesTest::theRulesDoNotDependOnTheUmask()
     const QString commands = QString::fromUtf8(make.readAllStandardOutput());
     for (const char *const command : {"umask 022 && dh build ", "umask 022 && dh binary "})
         QVERIFY2(commands.contains(command), qPrintable(commands));
-    QVERIFY(textOf("debian/rules").contains("export DEB_BUILD_MAINT_OPTIONS = hardening=+all\n"));
+    QVERIFY(
+        projectText("debian/rules").contains("export DEB_BUILD_MAINT_OPTIONS = hardening=+all\n"));
 }
 
 QTEST_GUILESS_MAIN(DebianFilesTest)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Are the stars of frames with known stars found, and are they where they are?
+#include "foundstars.h"
 #include "recognition/extraction.h"
 
 #include <QFile>
@@ -9,8 +10,6 @@
 #include <opencv2/imgproc.hpp>
 
 using namespace recognition;
-
-Q_DECLARE_METATYPE(recognition::ExtractionStatus)
 
 namespace
 {
@@ -24,7 +23,7 @@ struct Golden {
 
 const QString folder = QStringLiteral(TEST_SOURCE_DIR "/golden/");
 
-cv::Mat frameOf(const QString &name)
+cv::Mat goldenFrame(const QString &name)
 {
     return cv::imread((folder + name + ".png").toStdString(),
                       cv::IMREAD_ANYDEPTH | cv::IMREAD_ANYCOLOR);
@@ -128,7 +127,7 @@ void ExtractionTest::starsAreFound()
     // The structure of clouds counts as noise.
     const double sureSnr = name == "clouds" ? 30.0 : 8.0;
     const double part = name == "clouds" ? 0.5 : 0.8;
-    const cv::Mat frame = frameOf(name);
+    const cv::Mat frame = goldenFrame(name);
     const std::vector<Golden> golden = goldenOf(name);
     QVERIFY(!frame.empty() && golden.size() >= 20);
     const Extraction found = extractStars(frame);
@@ -166,7 +165,7 @@ void ExtractionTest::placesAreAsExactAsTheNoiseAllows_data()
 void ExtractionTest::placesAreAsExactAsTheNoiseAllows()
 {
     QFETCH(QString, name);
-    const Extraction found = extractStars(frameOf(name));
+    const Extraction found = extractStars(goldenFrame(name));
     double squares = 0.0;
     int compared = 0;
     for (const Golden &star : goldenOf(name)) {
@@ -201,7 +200,7 @@ void ExtractionTest::brightnessAndWidth()
 {
     QFETCH(QString, name);
     QFETCH(double, fwhm);
-    const Extraction found = extractStars(frameOf(name));
+    const Extraction found = extractStars(goldenFrame(name));
     QVERIFY2(std::abs(found.fwhm - fwhm) < 0.06 * fwhm, qPrintable(QString::number(found.fwhm)));
     QVERIFY2(found.elongation < 1.4, qPrintable(QString::number(found.elongation)));
     double light = 0.0, significance = 0.0;
@@ -235,7 +234,7 @@ void ExtractionTest::saturatedStarsAreMarked_data()
 void ExtractionTest::saturatedStarsAreMarked()
 {
     QFETCH(QString, name);
-    const Extraction found = extractStars(frameOf(name));
+    const Extraction found = extractStars(goldenFrame(name));
     int marked = 0;
     for (const Golden &star : goldenOf(name)) {
         const DetectedStar *one = foundNear(found.stars, star, 1.0);
@@ -273,7 +272,7 @@ void ExtractionTest::levelAndNoise()
     if (name.isEmpty())
         cv::RNG(5).fill(frame, cv::RNG::NORMAL, level, noise);
     else
-        frame = frameOf(name);
+        frame = goldenFrame(name);
     const Extraction found = extractStars(frame);
     QVERIFY2(std::abs(found.background - level) < 0.1 * noise,
              qPrintable(QString::number(found.background)));
@@ -304,7 +303,7 @@ void ExtractionTest::framesOfNoUse()
     QFETCH(ExtractionStatus, status);
     QFETCH(int, most);
     QFETCH(QByteArray, word);
-    const Extraction found = extractStars(frameOf(name));
+    const Extraction found = extractStars(goldenFrame(name));
     QCOMPARE(found.status, status);
     QVERIFY2(int(found.stars.size()) <= most, qPrintable(QString::number(found.stars.size())));
     QVERIFY2(reasonOf(found).find(word.toStdString()) != std::string::npos,
@@ -329,7 +328,7 @@ void ExtractionTest::oneStarIsMeasured_data()
 void ExtractionTest::oneStarIsMeasured()
 {
     QFETCH(QString, name);
-    const cv::Mat frame = frameOf(name);
+    const cv::Mat frame = goldenFrame(name);
     const int radius = name == "wide" ? 12 : 8;
     double squares = 0.0;
     int compared = 0;

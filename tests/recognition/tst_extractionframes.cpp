@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Does the extraction take frames of every kind, size and content, and say what is wrong with them?
+#include "foundstars.h"
 #include "recognition/extraction.h"
 
 #include <QTest>
@@ -8,8 +9,6 @@
 #include <random>
 
 using namespace recognition;
-
-Q_DECLARE_METATYPE(recognition::ExtractionStatus)
 
 Q_DECLARE_METATYPE(cv::Mat)
 
@@ -45,15 +44,6 @@ cv::Mat1w starField(int width, int height, int apart = 40)
             addStar(frame, x + 0.01 * (y % 37), y + 0.02 * (x % 23),
                     3000.0 + 10.0 * std::min(x, 1500));
     return frame;
-}
-
-bool isSane(const Extraction &found, const cv::Mat &frame)
-{
-    return std::all_of(found.stars.begin(), found.stars.end(), [&frame](const DetectedStar &star) {
-        return star.x > 0 && star.y > 0 && star.x < frame.cols - 1 && star.y < frame.rows - 1 &&
-               std::isfinite(star.flux) && star.flux > 0 && star.snr > 0 && star.fwhm > 0 &&
-               std::isfinite(star.snr) && std::isfinite(star.fwhm);
-    });
 }
 
 } // namespace

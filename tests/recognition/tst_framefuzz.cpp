@@ -3,6 +3,7 @@
 //
 // QUORVANDEL_FUZZ_FRAMES sets how many frames are tried.
 #include "bench/recognition/randomframes.h"
+#include "foundstars.h"
 #include "recognition/extraction.h"
 #include "recognition/recognise.h"
 
@@ -15,7 +16,7 @@ using namespace recognition;
 
 namespace
 {
-constexpr double date = 1795204800.0;
+constexpr double frameDate = 1795204800.0;
 
 int framesToTry()
 {
@@ -26,15 +27,6 @@ int framesToTry()
     bool given = false;
     const int wanted = qEnvironmentVariableIntValue("QUORVANDEL_FUZZ_FRAMES", &given);
     return given ? wanted : usual;
-}
-
-bool isSane(const Extraction &found, const cv::Mat &frame)
-{
-    return std::all_of(found.stars.begin(), found.stars.end(), [&frame](const DetectedStar &star) {
-        return star.x > 0 && star.y > 0 && star.x < frame.cols - 1 && star.y < frame.rows - 1 &&
-               std::isfinite(star.flux) && star.flux > 0 && star.snr > 0 && star.fwhm > 0 &&
-               std::isfinite(star.snr) && std::isfinite(star.fwhm);
-    });
 }
 } // namespace
 
@@ -59,7 +51,7 @@ void FrameFuzzTest::randomFrames()
         const auto star = measureStar(frame, x, y, int(random() % 70));
         QVERIFY(!star || (star->x >= 0 && star->x <= frame.cols - 1 && star->snr >= 5.0));
         RecognitionOptions options;
-        options.utcSeconds = date;
+        options.utcSeconds = frameDate;
         const Recognition result = recognise(found.stars, frame.cols, frame.rows, options);
         QVERIFY2(result.status != RecognitionStatus::Recognised, qPrintable(QString::number(i)));
     }

@@ -22,7 +22,7 @@ RecognitionOptions optionsOf(const Field &field)
     return options;
 }
 
-Recognition recognised(const Field &field, const RecognitionOptions &options)
+Recognition recognisedField(const Field &field, const RecognitionOptions &options)
 {
     return recognise(field.stars, field.width, field.height, options);
 }
@@ -73,7 +73,7 @@ void RecogniseTest::blind()
 {
     QFETCH(int, field);
     const Field &golden = goldenfields::all()[std::size_t(field)];
-    const Recognition found = recognised(golden, optionsOf(golden));
+    const Recognition found = recognisedField(golden, optionsOf(golden));
     QVERIFY2(found.status == RecognitionStatus::Recognised, reason(found).c_str());
     const double error = std::hypot(found.pole.x - golden.pole.x, found.pole.y - golden.pole.y);
     QVERIFY2(error < golden.allowed,
@@ -100,7 +100,7 @@ void RecogniseTest::starsAreNamedRightly()
 {
     QFETCH(int, field);
     const Field &golden = goldenfields::all()[std::size_t(field)];
-    const Recognition found = recognised(golden, optionsOf(golden));
+    const Recognition found = recognisedField(golden, optionsOf(golden));
     int right = 0, wrong = 0, real = 0;
     for (const int star : golden.catalogue)
         real += star >= 0;
@@ -120,7 +120,7 @@ void RecogniseTest::mappingGoesBothWays()
 {
     QFETCH(int, field);
     const Field &golden = goldenfields::all()[std::size_t(field)];
-    const Recognition found = recognised(golden, optionsOf(golden));
+    const Recognition found = recognisedField(golden, optionsOf(golden));
     for (int y = 0; y <= 4; ++y)
         for (int x = 0; x <= 4; ++x) {
             const PixelPlace pixel = {golden.width * x / 4.0, golden.height * y / 4.0};
@@ -169,7 +169,7 @@ void RecogniseTest::whatIsKnownIsHeeded()
         options.mirrored = mirrored == 1;
     options.leastScale = least;
     options.greatestScale = greatest;
-    const Recognition result = recognised(golden, options);
+    const Recognition result = recognisedField(golden, options);
     QCOMPARE(result.status == RecognitionStatus::Recognised, found);
 }
 
@@ -188,7 +188,7 @@ void RecogniseTest::claimCoversTheError()
             field.stars[k].x = exact[k].x + error(random);
             field.stars[k].y = exact[k].y + error(random);
         }
-        const Recognition found = recognised(field, optionsOf(field));
+        const Recognition found = recognisedField(field, optionsOf(field));
         QVERIFY(found.status == RecognitionStatus::Recognised);
         const double dx = found.pole.x - field.pole.x;
         const double dy = found.pole.y - field.pole.y;
@@ -207,9 +207,9 @@ void RecogniseTest::refractionLiftsThePole()
 {
     const Field &field = fieldNamed("finder north");
     RecognitionOptions options = optionsOf(field);
-    const Recognition plain = recognised(field, options);
+    const Recognition plain = recognisedField(field, options);
     options.observer = Observer{{40.0, 116.0}, astrometry::refractionConstants(1010, 10, 0.5)};
-    const Recognition lifted = recognised(field, options);
+    const Recognition lifted = recognisedField(field, options);
     QVERIFY(lifted.status == RecognitionStatus::Recognised);
     QVERIFY(lifted.observed && !plain.observed);
     const double shift =
@@ -289,7 +289,7 @@ void RecogniseTest::unusableStarsAreIgnored()
     field.stars[10].fwhm = nan;
     field.stars[11].snr = nan;
     field.stars[12].flux = nan;
-    const Recognition found = recognised(field, optionsOf(field));
+    const Recognition found = recognisedField(field, optionsOf(field));
     QVERIFY(found.status == RecognitionStatus::Recognised);
     QVERIFY(std::hypot(found.pole.x - field.pole.x, found.pole.y - field.pole.y) < field.allowed);
     for (const MatchedStar &star : found.matched)
@@ -300,7 +300,7 @@ void RecogniseTest::unusableStarsAreIgnored()
 void RecogniseTest::exactPlacesAreNoTrouble()
 {
     const Field &field = fieldNamed("finder north");
-    const Recognition first = recognised(field, optionsOf(field));
+    const Recognition first = recognisedField(field, optionsOf(field));
     std::vector<DetectedStar> exact;
     for (const MatchedStar &star : first.matched)
         exact.push_back(
@@ -317,17 +317,17 @@ void RecogniseTest::theAcceptedChanceIsHeeded()
 {
     const Field &field = fieldNamed("few stars");
     RecognitionOptions options = optionsOf(field);
-    const Recognition found = recognised(field, options);
+    const Recognition found = recognisedField(field, options);
     QVERIFY(found.status == RecognitionStatus::Recognised);
     options.acceptedChance = found.chance / 1e6;
-    QVERIFY(recognised(field, options).status == RecognitionStatus::NoMatch);
+    QVERIFY(recognisedField(field, options).status == RecognitionStatus::NoMatch);
 }
 
 // Stars where the mapping puts them, moved by known errors.
 void RecogniseTest::residualsAreThoseOfTheStars()
 {
     const Field &field = fieldNamed("finder north");
-    const Recognition before = recognised(field, optionsOf(field));
+    const Recognition before = recognisedField(field, optionsOf(field));
     std::mt19937 random(20261122);
     constexpr double sigma = 0.4; // pixels, of one axis
     std::normal_distribution<double> error(0.0, sigma);

@@ -16,7 +16,7 @@ using goldenfields::Field;
 
 namespace
 {
-Recognition recognised(const Field &field)
+Recognition recognisedField(const Field &field)
 {
     RecognitionOptions options;
     options.utcSeconds = field.utcSeconds;
@@ -60,12 +60,12 @@ void RecognitionThreadsTest::recognising()
     std::vector<std::thread> threads;
     for (std::size_t i = 0; i < found.size(); ++i)
         threads.emplace_back(
-            [&fields, &found, i] { found[i] = recognised(fields[i % fields.size()]); });
+            [&fields, &found, i] { found[i] = recognisedField(fields[i % fields.size()]); });
     for (std::thread &thread : threads)
         thread.join();
     for (std::size_t i = 0; i < found.size(); ++i) {
         const Field &field = fields[i % fields.size()];
-        const Recognition alone = recognised(field);
+        const Recognition alone = recognisedField(field);
         QVERIFY2(found[i].status == RecognitionStatus::Recognised, field.name.constData());
         QVERIFY(alone.matched.size() == found[i].matched.size());
         QVERIFY(alone.pole.x == found[i].pole.x && alone.pole.y == found[i].pole.y);

@@ -9,8 +9,14 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QMetaType>
+#include <functional>
 #include <sys/stat.h>
 #include <unistd.h>
+
+/// What a row does to the place before the window uses it.
+using Arrange = std::function<void()>;
+Q_DECLARE_METATYPE(Arrange)
 
 inline void put(const QByteArray &bytes)
 {

@@ -144,7 +144,6 @@ void SettingsMatrixTest::content()
 
 namespace
 {
-using Arrange = std::function<void()>;
 enum class After { NoFile, Unchanged, Saved };
 const QByteArray monoFile = "[STYLE]\nstyle=Mono\n";
 
@@ -153,7 +152,6 @@ QByteArray place8Bit()
     return settingsFilePath().toLocal8Bit();
 }
 } // namespace
-Q_DECLARE_METATYPE(Arrange)
 Q_DECLARE_METATYPE(After)
 
 /// What else may be there instead of our file, or in which kind of folder.

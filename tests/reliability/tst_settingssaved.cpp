@@ -21,9 +21,6 @@
 #include <sys/mount.h>
 #include <sys/resource.h>
 
-using Arrange = std::function<void()>;
-Q_DECLARE_METATYPE(Arrange)
-
 namespace
 {
 constexpr int longestClosing = 2000; ///< milliseconds

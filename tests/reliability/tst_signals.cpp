@@ -16,7 +16,7 @@
 namespace
 {
 /// The folder of the program under test, with its settings file.
-QString settingsPath()
+QString programSettings()
 {
     return QFileInfo(QStringLiteral(PROGRAM_FILE)).absolutePath() + "/Quorvandel.ini";
 }
@@ -95,7 +95,7 @@ void SignalsTest::initTestCase()
 
 void SignalsTest::init()
 {
-    QFile::remove(settingsPath());
+    QFile::remove(programSettings());
 }
 
 void SignalsTest::signalClosesTheWindow_data()
@@ -111,12 +111,12 @@ void SignalsTest::signalClosesTheWindow()
     QFETCH(int, number);
     Program program;
     QVERIFY(program.isReady());
-    QVERIFY(!QFile::exists(settingsPath()));
+    QVERIFY(!QFile::exists(programSettings()));
     program.send(number);
     QVERIFY(program.ends());
     QCOMPARE(program.process.exitStatus(), QProcess::NormalExit);
     QCOMPARE(program.process.exitCode(), 0);
-    const QSettings file(settingsPath(), QSettings::IniFormat);
+    const QSettings file(programSettings(), QSettings::IniFormat);
     QCOMPARE(file.allKeys().size(), 12);
     QCOMPARE(file.value("ZOOM/factor").toString(), QString("1"));
 }
@@ -131,7 +131,7 @@ void SignalsTest::manySignals()
     QVERIFY(program.ends());
     QCOMPARE(program.process.exitStatus(), QProcess::NormalExit);
     QCOMPARE(program.process.exitCode(), 0);
-    const QSettings file(settingsPath(), QSettings::IniFormat);
+    const QSettings file(programSettings(), QSettings::IniFormat);
     QCOMPARE(file.allKeys().size(), 12);
 }
 
@@ -156,7 +156,7 @@ void SignalsTest::otherSignalsStay()
     program.send(SIGUSR1);
     QVERIFY(program.ends());
     QCOMPARE(program.process.exitStatus(), QProcess::CrashExit);
-    QVERIFY(!QFile::exists(settingsPath()));
+    QVERIFY(!QFile::exists(programSettings()));
 }
 
 /// A thread cannot be ended inside a library: the process exits without it, with everything saved.
@@ -171,7 +171,7 @@ void SignalsTest::endsThoughTheCameraLibraryHangs()
     QVERIFY(program.errors.contains("the camera is not closed"));
     QCOMPARE(program.process.exitStatus(), QProcess::NormalExit);
     QCOMPARE(program.process.exitCode(), 0);
-    const QSettings file(settingsPath(), QSettings::IniFormat);
+    const QSettings file(programSettings(), QSettings::IniFormat);
     QCOMPARE(file.allKeys().size(), 12);
 }
 

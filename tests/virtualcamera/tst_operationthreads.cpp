@@ -19,7 +19,7 @@ private slots:
 
 namespace
 {
-void setSky(const char *text)
+void writeSky(const char *text)
 {
     static QTemporaryDir folder;
     const std::string path = folder.filePath("sky.ini").toStdString();
@@ -30,7 +30,7 @@ void setSky(const char *text)
 
 void OperationThreadsTest::everythingAtOnce()
 {
-    setSky("[camera]\nunthrottled = true\n");
+    writeSky("[camera]\nunthrottled = true\n");
     VeldixLibrary veldix;
     void *const shared = veldix.openLive();
     QVERIFY(shared);
@@ -63,8 +63,8 @@ void OperationThreadsTest::everythingAtOnce()
     });
     for (int i = 0; i < 30 || frames < 5 || openings < 5; ++i) {
         QVERIFY(i < 3000);
-        setSky(i % 2 ? "[camera]\nunthrottled = true\nchannels = 3\n"
-                     : "[camera]\nunthrottled = true\n[site]\nlatitude = -30\n");
+        writeSky(i % 2 ? "[camera]\nunthrottled = true\nchannels = 3\n"
+                       : "[camera]\nunthrottled = true\n[site]\nlatitude = -30\n");
         QTest::qSleep(10);
     }
     stop = true;
@@ -77,7 +77,7 @@ void OperationThreadsTest::everythingAtOnce()
 
 void OperationThreadsTest::closedUnderTheFetch()
 {
-    setSky("[camera]\nunthrottled = true\n");
+    writeSky("[camera]\nunthrottled = true\n");
     VeldixLibrary veldix;
     for (int round = 0; round < 20; ++round) {
         void *const camera = veldix.openLive();

@@ -23,7 +23,7 @@ Q_DECLARE_METATYPE(Arrange)
 
 namespace
 {
-constexpr auto name = "quorvandel-7";
+constexpr auto folderName = "quorvandel-7";
 
 void makeFolder(const QByteArray &path, mode_t mode)
 {
@@ -88,20 +88,21 @@ void PrivateFolderTest::folder()
     QFETCH(Arrange, arrange);
     QFETCH(bool, isUsual);
     const QTemporaryDir place;
-    const QString usual = place.filePath(name);
+    const QString usual = place.filePath(folderName);
     arrange(usual.toLocal8Bit());
-    const QString found = QString::fromStdString(privateFolder(place.path().toStdString(), name));
+    const QString found =
+        QString::fromStdString(privateFolder(place.path().toStdString(), folderName));
     QCOMPARE(found == usual, isUsual);
     QVERIFY(isOwn0700(found));
     QVERIFY2(found.startsWith(usual), qPrintable(found));
-    QCOMPARE(QString::fromStdString(privateFolder(place.path().toStdString(), name)), found);
+    QCOMPARE(QString::fromStdString(privateFolder(place.path().toStdString(), folderName)), found);
 }
 
 /// What others have put there under such a name is not used either.
 void PrivateFolderTest::lookalikes()
 {
     const QTemporaryDir place;
-    const QByteArray usual = place.filePath(name).toLocal8Bit();
+    const QByteArray usual = place.filePath(folderName).toLocal8Bit();
     makeFolder(usual, 0777);
     makeFolder(usual + "-aaaaaa", 0777);
     makeFolder(usual + "-a", 0700); // of somebody else's numbering
@@ -110,15 +111,16 @@ void PrivateFolderTest::lookalikes()
         makeFolder(usual + "-aaaaac", 0700);
         QVERIFY(chown(usual + "-aaaaac", 65534, 65534) == 0);
     }
-    const QString found = QString::fromStdString(privateFolder(place.path().toStdString(), name));
+    const QString found =
+        QString::fromStdString(privateFolder(place.path().toStdString(), folderName));
     QVERIFY(isOwn0700(found));
     QVERIFY(!found.contains("-aaaa") && !found.endsWith("-a"));
-    QCOMPARE(QString::fromStdString(privateFolder(place.path().toStdString(), name)), found);
+    QCOMPARE(QString::fromStdString(privateFolder(place.path().toStdString(), folderName)), found);
 }
 
 void PrivateFolderTest::nowhere()
 {
-    QCOMPARE(privateFolder("/proc/no/such/folder", name), std::string());
+    QCOMPARE(privateFolder("/proc/no/such/folder", folderName), std::string());
 }
 
 void PrivateFolderTest::theUserIsTold_data()

@@ -12,7 +12,7 @@ using virtualsky::SkyState;
 
 namespace
 {
-constexpr double evening = 1795204800.0; // 2026-11-20T20:00:00Z
+constexpr double beginning = 1795204800.0; // 2026-11-20T20:00:00Z
 constexpr int draws = 3000;
 
 /// How far counts are from an even spread: 9 on average for ten parts, above 28 once in a thousand.
@@ -52,7 +52,7 @@ void ExerciseTest::changesBoltsAndRollAlone()
                                        "tracking = true\n[weather]\nclouds = 0.3\n");
     SkyState expected = state;
     std::mt19937 random(3);
-    beginExercise(state, evening, random);
+    beginExercise(state, beginning, random);
     QVERIFY(state.boltAltitude != expected.boltAltitude);
     QVERIFY(state.boltAzimuth != expected.boltAzimuth);
     QVERIFY(state.roll != expected.roll);
@@ -78,7 +78,7 @@ void ExerciseTest::isSpreadEvenly()
     int west = 0;
     int both = 0;
     for (int i = 0; i < draws; ++i) {
-        beginExercise(state, evening, random);
+        beginExercise(state, beginning, random);
         QVERIFY(std::abs(state.boltAltitude) <= 3.0 && std::abs(state.boltAzimuth) <= 3.0);
         QVERIFY(std::abs(state.roll) <= 180.0);
         ++azimuths.at(partOf(state.boltAzimuth, -3.0, 3.0000001));
@@ -117,8 +117,8 @@ void ExerciseTest::canBeDone()
     for (int i = 0; i < 300; ++i) {
         SkyState state;
         state.latitude = latitude;
-        beginExercise(state, evening, random);
-        const virtualsky::Truth truth = virtualsky::truth(state, evening);
+        beginExercise(state, beginning, random);
+        const virtualsky::Truth truth = virtualsky::truth(state, beginning);
         least = std::min(least, truth.poleError);
         most = std::max(most, truth.poleError);
         for (const auto &star : {truth.starA, truth.starB})
@@ -135,7 +135,7 @@ void ExerciseTest::endsWhereNoneCanBeDone()
     state.axisX = 2000.0;
     state.axisY = 2000.0;
     std::mt19937 random(2);
-    beginExercise(state, evening, random);
+    beginExercise(state, beginning, random);
     QVERIFY(std::abs(state.boltAltitude) <= 3.0 && state.boltAltitude != 0.6);
     QVERIFY(std::abs(state.boltAzimuth) <= 3.0 && state.boltAzimuth != -1.0);
 }

@@ -2,8 +2,8 @@
 // How does a test bring the window to the point where monitor mode is prepared?
 #pragma once
 
-#include "geometry/starcatalogue.h"
 #include "tests/window/camerawindow.h"
+#include "tests/window/regioncatalogue.h"
 
 #include <QLabel>
 #include <QSlider>
@@ -16,11 +16,6 @@ inline const QPointF axis(640, 480);
 inline bool isNear(QPointF a, QPointF b, double tolerance = pixelTolerance)
 {
     return std::abs(a.x() - b.x()) <= tolerance && std::abs(a.y() - b.y()) <= tolerance;
-}
-
-inline const StarCatalogue &catalogueOf(const QString &region)
-{
-    return region == "South" ? southCatalogue : northCatalogue;
 }
 
 inline QPointF templateB(const QString &region)

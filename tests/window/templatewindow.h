@@ -2,11 +2,11 @@
 // How does a test reach the template over the picture, and what should it look like?
 #pragma once
 
-#include "geometry/starcatalogue.h"
 #include "geometry/templateoverlay.h"
 #include "geometry/templatepole.h"
 #include "mainwindow/pointtext.h"
 #include "tests/window/camerawindow.h"
+#include "tests/window/regioncatalogue.h"
 
 #include <QImage>
 #include <QLabel>
@@ -61,11 +61,6 @@ public:
 inline QByteArray regionSetting(const QString &region)
 {
     return "[REGION]\nregion=" + region.toUtf8() + '\n';
-}
-
-inline StarCatalogue &catalogueOf(const QString &region)
-{
-    return region == "South" ? southCatalogue : northCatalogue;
 }
 
 /// The hemisphere's mask with the pole's mark: what the window shows, unrotated.

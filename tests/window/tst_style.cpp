@@ -7,15 +7,13 @@
 #include "tests/support/mainwindowprobe.h"
 #include "tests/support/sessionwindow.h"
 #include "tests/window/windowtest.h"
+#include "tests/window/wizardnames.h"
 
 #include <QGraphicsDropShadowEffect>
 #include <memory>
 
 namespace
 {
-const char *const lampNames[] = {"label_starPos1_icon", "label_starPos2_icon",
-                                 "label_starPos3_icon"};
-
 /// The lamps as letters: C or M for the style, upper case lit, lower case dark; ? for none.
 QString lampPattern(const QWidget &window)
 {

@@ -4,6 +4,7 @@
 #include "mainwindow/wizardtable.h"
 #include "tests/support/patience.h"
 #include "tests/window/freshwindowtest.h"
+#include "tests/window/wizardnames.h"
 
 #include <QPushButton>
 #include <QRadioButton>
@@ -13,8 +14,6 @@
 
 namespace
 {
-constexpr int stepCount = 13;
-
 struct PageRow {
     const char *name, *tip, *north, *south, *ask, *askText, *buttons;
 };

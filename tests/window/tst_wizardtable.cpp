@@ -2,6 +2,7 @@
 // What does entering each step change, and which button leads to which step?
 #include "tests/support/logrecorder.h"
 #include "tests/window/freshwindowtest.h"
+#include "tests/window/wizardnames.h"
 
 #include <QRadioButton>
 #include <QTabWidget>
@@ -9,9 +10,6 @@
 namespace
 {
 const char *const sectionNames[] = {"region", "setting", "confirm", "rough", "precise"};
-const char *const lampNames[] = {"label_starPos1_icon", "label_starPos2_icon",
-                                 "label_starPos3_icon"};
-constexpr int stepCount = 13;
 
 /// What a step does, written as a row: '1' on, '0' off, '-' unchanged.
 struct StepRow {
