@@ -1,14 +1,14 @@
 # SPDX-License-Identifier: MIT
-# Joined tests: a build that joins sources compiles the tests of a folder as one, up to twelve at a time,
-# and links them to one executable. That takes a third of the time. Each test keeps a file of its own, a
-# hard link, whose name says which test runs. The test's own target is still there, to build it alone.
+# Joined tests: a build that joins sources compiles the tests of a folder as one and links them to one
+# executable, up to 24 at a time; that takes a third of the time. Each test keeps a file of its own, a hard
+# link, whose name says which test runs. The test's own target is still there, to build it alone.
 
 set(joined_tests_most 24)
 
-# join_test(TARGET DEPENDENT...): lets a test be built with the others of its folder, for the targets
-# DEPENDENT. A test of which `stands_alone` holds is built by itself.
-function(join_test TARGET)
-  set_property(TARGET ${TARGET} PROPERTY DEPENDENTS ${ARGN})
+# join_test(TARGET DEPENDENT): lets a test be built with the others of its folder on which the target
+# DEPENDENT depends too, or by itself if it `stands_alone`.
+function(join_test TARGET DEPENDENT)
+  set_property(TARGET ${TARGET} PROPERTY DEPENDENT ${DEPENDENT})
   get_property(found DIRECTORY PROPERTY JOINED_TESTS)
   set_property(DIRECTORY APPEND PROPERTY JOINED_TESTS ${TARGET})
   if(NOT found)
@@ -16,8 +16,8 @@ function(join_test TARGET)
   endif()
 endfunction()
 
-# stands_alone(TARGET RESULT): whether a test is built in a way of its own. ALONE marks those that
-# replace a function for the whole executable.
+# stands_alone(TARGET RESULT): whether a test has to be built by itself. The property ALONE marks one that
+# replaces a function in the whole executable; others need other headers or a form of their own.
 function(stands_alone TARGET RESULT)
   set(${RESULT} OFF PARENT_SCOPE)
   foreach(property IN ITEMS ALONE AUTOUIC DISABLE_PRECOMPILE_HEADERS)
@@ -28,40 +28,35 @@ function(stands_alone TARGET RESULT)
   endforeach()
 endfunction()
 
-# join_tests_of_folder(): joins the tests of this folder, apart for each list of dependents.
+# join_tests_of_folder(): joins the tests of the current folder.
 function(join_tests_of_folder)
   get_property(tests DIRECTORY PROPERTY JOINED_TESTS)
-  set(keys)
+  set(dependents)
   foreach(test IN LISTS tests)
-    get_target_property(dependents ${test} DEPENDENTS)
+    get_target_property(dependent ${test} DEPENDENT)
     stands_alone(${test} alone)
-    if(NOT CMAKE_UNITY_BUILD OR alone)
-      foreach(dependent IN LISTS dependents)
-        add_dependencies(${dependent} ${test})
-      endforeach()
+    if(alone OR NOT CMAKE_UNITY_BUILD)
+      add_dependencies(${dependent} ${test})
     else()
-      string(MAKE_C_IDENTIFIER "${dependents}" key)
-      list(APPEND keys ${key})
-      list(APPEND tests_${key} ${test})
-      set(dependents_${key} ${dependents})
+      list(APPEND dependents ${dependent})
+      list(APPEND tests_of_${dependent} ${test})
     endif()
   endforeach()
-  list(REMOVE_DUPLICATES keys)
+  list(REMOVE_DUPLICATES dependents)
   file(RELATIVE_PATH folder ${CMAKE_SOURCE_DIR} ${CMAKE_CURRENT_SOURCE_DIR})
   string(MAKE_C_IDENTIFIER ${folder} folder)
   set(number 0)
-  foreach(key IN LISTS keys)
-    list(LENGTH tests_${key} count)
+  foreach(dependent IN LISTS dependents)
+    # Groups of about one size.
+    list(LENGTH tests_of_${dependent} count)
     math(EXPR groups "(${count} + ${joined_tests_most} - 1) / ${joined_tests_most}")
     math(EXPR size "(${count} + ${groups} - 1) / ${groups}")
     math(EXPR last "${count} - 1")
     foreach(first RANGE 0 ${last} ${size})
-      list(SUBLIST tests_${key} ${first} ${size} group)
+      list(SUBLIST tests_of_${dependent} ${first} ${size} group)
       math(EXPR number "${number} + 1")
       joined_executable(${folder}_${number} ${group})
-      foreach(dependent IN LISTS dependents_${key})
-        add_dependencies(${dependent} ${folder}_${number})
-      endforeach()
+      add_dependencies(${dependent} ${folder}_${number})
     endforeach()
   endforeach()
 endfunction()
@@ -127,7 +122,7 @@ ${rows}    }, argc, argv);
   set_target_properties(${NAME} PROPERTIES
     RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests/joined UNITY_BUILD OFF)
   target_include_directories(${NAME} PRIVATE ${CMAKE_CURRENT_BINARY_DIR} ${CMAKE_CURRENT_SOURCE_DIR})
-  # A test's class may have members of its file alone, and its file is the whole executable's here.
+  # GCC warns of a class with members from an unnamed namespace outside the compiled file itself.
   target_compile_options(${NAME} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
   target_compile_definitions(${NAME} PRIVATE ${macros})
   target_link_libraries(${NAME} PRIVATE ${libraries})

@@ -10,7 +10,7 @@
 
 namespace
 {
-constexpr int allRecognised = 0, notAll = 1, misuse = 2;
+constexpr int allRecognised = 0, notAll = 1, badUsage = 2;
 
 void say(const PictureReport &report, bool json)
 {
@@ -70,7 +70,7 @@ int main(int argc, char *argv[])
         std::fprintf(stderr,
                      "quorvandel-recognise: %s\nquorvandel-recognise --help lists the options.\n",
                      wishes.complaint.c_str());
-        return misuse;
+        return badUsage;
     case CommandLine::Wish::Recognise:
         break;
     }

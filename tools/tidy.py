@@ -37,7 +37,7 @@ BROUGHT = re.compile(r"^using ([\w:]+::(\w+));", re.M)
 INCLUDED = re.compile(r'^#include "([^"]+\.h)"', re.M)
 EXPORTED = re.compile(r'^(?:#define \w+ )?extern "C"', re.M)
 ERROR = re.compile(r"^([^\s:]+):\d+:\d+: error: .*\[clang-diagnostic-error\]$", re.M)
-JOINED_MOST = 120
+JOINED_MOST = 240
 
 
 def text_of(path):

@@ -47,6 +47,21 @@ inline recognition::Recognition recognised(const cv::Mat &frame, double utcSecon
                                   options);
 }
 
+/// A frame after the RA axis turned and time passed.
+inline recognition::Recognition turned(virtualsky::SkyState state, double raAngle,
+                                       double secondsLater, unsigned number)
+{
+    state.raAngle = raAngle;
+    const double time = *state.date + secondsLater;
+    return recognised(frameOf(state, time, number), time);
+}
+
+/// Where the axis truly is in the frame.
+inline virtualsky::Point axisOf(const virtualsky::SkyState &state)
+{
+    return virtualsky::truth(state, *state.date).axis.value();
+}
+
 /// Squared distance of a place from the truth in standard errors: 4 on the two-sigma ellipse.
 inline double claimed(const recognition::PixelPlace &place, const recognition::Covariance &c,
                       const virtualsky::Point &truth)

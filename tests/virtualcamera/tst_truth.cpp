@@ -209,7 +209,7 @@ void TruthTest::centroidsAgree()
     const Truth seen = truth(state, may2024);
     const Point place =
         *std::array{seen.starA, seen.starB, seen.starD}[static_cast<std::size_t>(star)];
-    Scene scene;
+    virtualsky::Scene scene;
     std::vector<ImagedStar> stars = scene.starsAt(state, may2024);
     // Neighbours would shift the plain centroid.
     stars.erase(

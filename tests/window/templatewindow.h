@@ -72,7 +72,7 @@ inline QImage markedMask(const QString &region)
     return mask;
 }
 
-inline bool shows(const QLabel &label, const QImage &picture)
+inline bool showsPicture(const QLabel &label, const QImage &picture)
 {
     const auto pixels = [](const QImage &image) {
         return image.convertToFormat(QImage::Format_ARGB32_Premultiplied);

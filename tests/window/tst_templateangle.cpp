@@ -10,7 +10,7 @@ namespace
 bool isTurned(const QLabel &label, const QImage &mask, int angle, double zoom, QPoint middlePixel)
 {
     const PlacedTemplate turned = turnTemplate(mask, angle, float(zoom), middlePixel);
-    return label.geometry() == turned.geometry && shows(label, turned.image);
+    return label.geometry() == turned.geometry && showsPicture(label, turned.image);
 }
 } // namespace
 
