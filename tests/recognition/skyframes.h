@@ -5,6 +5,7 @@
 #include <QTest>
 #include <cmath>
 #include <opencv2/core.hpp>
+#include <random>
 
 #include "recognition/extraction.h"
 #include "recognition/recognise.h"
@@ -26,6 +27,14 @@ inline virtualsky::SkyState skyOf(bool south, double date)
     state.date = date;
     state.running = false;
     return state;
+}
+
+/// Puts the axis up to `reach` pixels from the picture's centre, across and down.
+inline void scatterAxis(virtualsky::SkyState &state, double reach, std::mt19937 &random)
+{
+    std::uniform_real_distribution<double> place(-reach, reach);
+    state.axisX = place(random);
+    state.axisY = place(random);
 }
 
 inline cv::Mat frameOf(const virtualsky::SkyState &state, double utcSeconds, unsigned number,

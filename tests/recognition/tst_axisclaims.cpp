@@ -81,13 +81,11 @@ void AxisClaimsTest::threeFrames()
     QFETCH(bool, south);
     QFETCH(double, date);
     std::mt19937 random(south ? 11 : 12);
-    std::uniform_real_distribution<double> place(-150.0, 150.0);
     constexpr int trials = 12;
     Agreement agreement;
     for (unsigned trial = 0; trial < trials; ++trial) {
         SkyState state = skyOf(south, date);
-        state.axisX = place(random);
-        state.axisY = place(random);
+        scatterAxis(state, 150.0, random);
         const std::vector<Recognition> frames = {turned(state, -30.0, 0.0, 3 * trial),
                                                  turned(state, 0.0, 45.0, 3 * trial + 1),
                                                  turned(state, 30.0, 120.0, 3 * trial + 2)};

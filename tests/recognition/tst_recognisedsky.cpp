@@ -43,14 +43,12 @@ void RecognisedSkyTest::poleAgreesWithTheTruth()
     QFETCH(bool, south);
     QFETCH(double, date);
     std::mt19937 random(south ? 21 : 22);
-    std::uniform_real_distribution<double> place(-200.0, 200.0);
     std::uniform_real_distribution<double> angle(0.0, 360.0);
     constexpr int trials = 25;
     Agreement agreement;
     for (unsigned trial = 0; trial < trials; ++trial) {
         SkyState state = skyOf(south, date);
-        state.axisX = place(random);
-        state.axisY = place(random);
+        scatterAxis(state, 200.0, random);
         state.roll = angle(random);
         const Recognition found = recognised(frameOf(state, date, trial), date);
         QVERIFY2(found.status == RecognitionStatus::Recognised, reason(found).c_str());
