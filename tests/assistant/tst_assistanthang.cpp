@@ -30,7 +30,8 @@ void AssistantHangTest::hangIsReported()
     };
     QVERIFY(QTest::qWaitFor(hangs, 60000));
     const Status status = session.latest().status;
-    QVERIFY(status.advice.front().first >= CameraOperator::silence);
+    const double silent = status.advice.front().first;
+    QVERIFY(silent >= CameraOperator::silence && silent < 60.0);
     QVERIFY(!status.error);
     QElapsedTimer timer;
     timer.start();

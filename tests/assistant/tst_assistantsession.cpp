@@ -2,6 +2,7 @@
 // Does the session connect, report what goes wrong with the camera, and go on when it can?
 #include "bench/assistant/librarymount.h"
 #include "tests/assistant/guidetest.h"
+#include "tests/support/logrecorder.h"
 #include "tests/support/patience.h"
 
 #include <QElapsedTimer>
@@ -153,14 +154,18 @@ void AssistantSessionTest::unpluggedAndBack()
     QVERIFY(comes([&] { return session.link().exposure == 100000.0; }));
     virtualsky::SkyState unplugged = mount.sky();
     unplugged.unplugged = true;
+    const LogRecorder log;
     mount.setSky(unplugged);
     QVERIFY(comes([&] { return showsFirst(session, AdviceCode::CameraLost); }));
+    QVERIFY(
+        log.contains(QtWarningMsg, "no frame from the camera: it is closed and looked for again"));
     const Status lost = session.latest().status;
     QVERIFY(lost.stage == Stage::Bolts);
     QVERIFY(!lost.error && !lost.pole);
     QVERIFY(lost.axis.place.has_value());
     QVERIFY(lost.sky != nullptr);
-    QVERIFY(lost.advice.front().first >= CameraOperator::silence);
+    const double silent = lost.advice.front().first;
+    QVERIFY(silent >= CameraOperator::silence && silent < patience / 1000.0);
     unplugged.unplugged = false;
     mount.setSky(unplugged);
     QVERIFY(comes([&] { return session.latest().status.error.has_value(); }));

@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLockFile>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QtTest>
 #include <csignal>
@@ -22,6 +23,7 @@ class AssistantSettingsTest : public QObject
 
 private slots:
     void comesBackAsSaved();
+    void keysStayTheSame();
     void rubbishIsLeftOut_data();
     void rubbishIsLeftOut();
     void nothingButRegularFiles();
@@ -70,6 +72,27 @@ void AssistantSettingsTest::comesBackAsSaved()
     QVERIFY(saveSettings(path(), saved));
     QVERIFY(!loadSettings(path()).site);
     QCOMPARE(loadSettings(path()).recordingFolder, saved.recordingFolder);
+}
+
+/// A user's file outlives the version that wrote it.
+void AssistantSettingsTest::keysStayTheSame()
+{
+    const QString place = folder.filePath("keys.ini");
+    AssistantSettings saved;
+    saved.site = astrometry::Site{-33.9, 151.2};
+    saved.language = saved.cameraId = saved.recordingFolder = QStringLiteral("x");
+    QVERIFY(saveSettings(place, saved));
+    const QSettings file(place, QSettings::IniFormat);
+    QStringList keys = file.allKeys();
+    keys.sort();
+    const QStringList expected = {"assistant/camera",          "assistant/goal",
+                                  "assistant/language",        "assistant/pole",
+                                  "assistant/pressure",        "assistant/recording",
+                                  "assistant/recordingFolder", "assistant/recordingLimit",
+                                  "assistant/redTheme",        "assistant/site",
+                                  "assistant/sound",           "assistant/speech",
+                                  "assistant/temperature"};
+    QCOMPARE(keys, expected);
 }
 
 void AssistantSettingsTest::rubbishIsLeftOut_data()

@@ -33,6 +33,8 @@ private slots:
     void steadyAtRest();
     void claimHoldsWhileBoltsTurn_data();
     void claimHoldsWhileBoltsTurn();
+    void bothDirectionsAreTreatedAlike_data();
+    void bothDirectionsAreTreatedAlike();
     void movementBeginsAgain();
     void historyIsBounded();
     void historyLeavesOutWhatIsNotKnown();
@@ -284,6 +286,34 @@ void ErrorFiguresTest::claimHoldsWhileBoltsTurn()
     QVERIFY2(claim < 1.25, qPrintable(figures)); // that of a single frame is 1
     if (speed == 0.0)
         QVERIFY2(claim < 0.7, qPrintable(figures)); // a half, and the noise's own drift
+}
+
+void ErrorFiguresTest::bothDirectionsAreTreatedAlike_data()
+{
+    claimHoldsWhileBoltsTurn_data();
+}
+
+/// An axis that moves along x is shown like one that moves along y.
+void ErrorFiguresTest::bothDirectionsAreTreatedAlike()
+{
+    QFETCH(double, speed);
+    std::mt19937 random(5);
+    std::normal_distribution<double> noise;
+    SteadyFigures alongX, alongY;
+    for (int i = 0; i < 300; ++i) {
+        FrameError error;
+        error.x = speed * 0.2 * i + noise(random);
+        error.y = noise(random);
+        error.frame = {1.0, 0.0, 1.5};
+        FrameError turned = error;
+        std::swap(turned.x, turned.y);
+        std::swap(turned.frame.xx, turned.frame.yy);
+        const FrameError x = alongX.add(error, 0.2 * i), y = alongY.add(turned, 0.2 * i);
+        QCOMPARE(y.y, x.x);
+        QCOMPARE(y.x, x.y);
+        QCOMPARE(y.frame.yy, x.frame.xx);
+        QCOMPARE(y.frame.xx, x.frame.yy);
+    }
 }
 
 void ErrorFiguresTest::movementBeginsAgain()

@@ -54,6 +54,7 @@ private slots:
     void plotBreaksWhereNothingWasMeasured();
     void gapIsHatched();
     void goodBoltShowsItsArrow();
+    void arrowsAreStraight();
     void largeRowsAreNamed();
     void askedExposureWaitsForTheCamera();
     void windowLeavesRoomBesideIt_data();
@@ -295,6 +296,25 @@ void AssistantFiguresTest::goodBoltShowsItsArrow()
     QVERIFY(up != down);                             // the side is visible
     QVERIFY(up != drawn(Way::Stay, Way::Stay, 0.0)); // besides the tick
     QVERIFY(up != drawn(Way::Up, Way::Up, 0.0));     // and the bolt is not to be turned
+}
+
+/// Up and down are the same on both sides, left and right above and below.
+void AssistantFiguresTest::arrowsAreStraight()
+{
+    for (const double degrees : {0.0, 90.0, 180.0, -90.0}) {
+        BoltArrow arrow(&Theme::altitude);
+        arrow.resize(64, 64);
+        arrow.show(Way::Up, Way::Up, degrees);
+        const QImage drawn = arrow.grab().toImage().convertToFormat(QImage::Format_RGB32);
+        const bool isUpright = degrees == 0.0 || degrees == 180.0;
+        const QImage mirrored = drawn.mirrored(isUpright, !isUpright);
+        int different = 0;
+        for (int y = 0; y < drawn.height(); ++y)
+            for (int x = 0; x < drawn.width(); ++x)
+                different +=
+                    std::abs(qGray(drawn.pixel(x, y)) - qGray(mirrored.pixel(x, y))) > 8 ? 1 : 0;
+        QCOMPARE(different, 0);
+    }
 }
 
 void AssistantFiguresTest::largeRowsAreNamed()

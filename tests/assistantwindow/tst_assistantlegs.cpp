@@ -4,7 +4,10 @@
 #include "assistantwindow/boltlegs.h"
 #include "assistantwindow/marks.h"
 #include "assistantwindow/theme.h"
+#include "core/languages.h"
+#include "tests/assistantwindow/drawing.h"
 #include "tests/assistantwindow/madestatus.h"
+#include "tests/support/paintedtexts.h"
 #include "virtualcamera/truth.h"
 
 #include <QPainter>
@@ -54,6 +57,9 @@ private slots:
     void legsAreTheBoltsWays();
     void noneWithoutSiteOrFigures();
     void pictureShowsBoth();
+    void arrowHeadsPointAlongTheirLegs();
+    void legsAreNamed_data();
+    void legsAreNamed();
     void shortLegShowsItsDirection();
 };
 
@@ -128,6 +134,79 @@ void AssistantLegsTest::pictureShowsBoth()
         QVERIFY(count(legs, colour) > 40);
         QCOMPARE(count({}, colour), 0);
     }
+}
+
+/// From the axis to the pole, by the corner.
+void AssistantLegsTest::arrowHeadsPointAlongTheirLegs()
+{
+    const assistant::Status status = statusOf(offSky(false, 30.0));
+    const auto legs = assistantwindow::boltLegs(status, astrometry::Site{40.0, 116.0});
+    QVERIFY(legs.has_value());
+    const auto placeOf = [](const PixelPlace &place) {
+        return QPointF(place.x + 0.5, place.y + 0.5);
+    };
+    const struct {
+        QColor assistantwindow::Theme::*ink;
+        QPointF from, to;
+    } all[] = {{&assistantwindow::Theme::altitude, placeOf(legs->axis), placeOf(legs->corner)},
+               {&assistantwindow::Theme::azimuth, placeOf(legs->corner), placeOf(legs->pole)}};
+    for (const auto &leg : all) {
+        const assistantwindow::Theme colours = drawing::only(leg.ink);
+        QImage image(1280, 960, QImage::Format_RGB32);
+        image.fill(Qt::black);
+        QPainter painter(&image);
+        assistantwindow::paintMarks(painter, status, legs, {}, QRectF(image.rect()), colours);
+        painter.end();
+        const QPointF way = leg.to - leg.from;
+        const QPointF unit = way / std::hypot(way.x(), way.y()), across(-unit.y(), unit.x());
+        for (const double side : {-1.0, 1.0}) {
+            QVERIFY(drawing::light(image, leg.to - unit * 5.5 + across * (side * 4.0)) > 90);
+            QVERIFY(drawing::light(image, leg.to + unit * 4.0 + across * (side * 4.0)) < 40);
+        }
+    }
+}
+
+void AssistantLegsTest::legsAreNamed_data()
+{
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<QString>("altitude");
+    QTest::addColumn<QString>("azimuth");
+    QTest::newRow("English") << "EN"
+                             << "Altitude"
+                             << "Azimuth";
+    QTest::newRow("Russian") << "RU"
+                             << "Высота"
+                             << "Азимут";
+    QTest::newRow("Chinese") << "ZH"
+                             << "高度"
+                             << "方位";
+}
+
+/// In the language of the figures beside the picture.
+void AssistantLegsTest::legsAreNamed()
+{
+    QFETCH(QString, code);
+    QFETCH(QString, altitude);
+    QFETCH(QString, azimuth);
+    Q_INIT_RESOURCE(assistant_catalogues);
+    QVERIFY(installTranslator("assistant", languageOf(code)));
+    const assistant::Status status = statusOf(offSky(false, 30.0));
+    const auto legs = assistantwindow::boltLegs(status, astrometry::Site{40.0, 116.0});
+    const assistantwindow::Theme &colours = assistantwindow::theme(false);
+    TextKeeper keeper({1280, 960});
+    QPainter painter(&keeper);
+    assistantwindow::paintMarks(painter, status, legs, {}, {0.0, 0.0, 1280.0, 960.0}, colours);
+    painter.end();
+    QVERIFY(installTranslator("assistant", languages.front()));
+    const auto textIn = [&keeper](const QColor &colour) {
+        QString text;
+        for (const PaintedText &each : keeper.texts)
+            if (each.colour == colour)
+                text += each.text;
+        return text;
+    };
+    QCOMPARE(textIn(colours.altitude), altitude);
+    QCOMPARE(textIn(colours.azimuth), azimuth);
 }
 
 void AssistantLegsTest::shortLegShowsItsDirection()

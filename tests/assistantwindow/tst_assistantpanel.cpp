@@ -138,6 +138,7 @@ private slots:
     void gapsAloneAreHatched();
     void figuresAreLarge_data();
     void figuresAreLarge();
+    void wordsAreBelowTheirArrows();
 };
 
 /// In the logarithm: as far from 1' to 1 degree as from 1" to 1'.
@@ -288,6 +289,43 @@ void AssistantPanelTest::figuresAreLarge()
             QVERIFY2(height >= smallScreen.height() / 5, qPrintable(QString::number(height)));
         QVERIFY(cutTexts(paintedTexts(page)).isEmpty());
     }
+}
+
+void AssistantPanelTest::wordsAreBelowTheirArrows()
+{
+    Display display = displayOf(100.0, -200.0, true);
+    display.ways = {Way::Down, Way::East, Way::Down, Way::East};
+    LargePage page;
+    page.resize(smallScreen);
+    page.show(display);
+    const std::vector<PaintedText> texts = paintedTexts(page);
+    const auto boxOf = [&texts](const QString &text) {
+        for (const PaintedText &each : texts)
+            if (each.text == text)
+                return each.box;
+        return QRectF();
+    };
+    const LargeContent content = largeContent(display);
+    QCOMPARE(content.rows.size(), std::size_t(2));
+    for (const LargeRow &row : content.rows) {
+        const QRectF word = boxOf(row.word), number = boxOf(row.number);
+        QVERIFY2(!word.isEmpty() && !number.isEmpty(), qPrintable(row.word));
+        QVERIFY(word.right() < number.left());
+        QVERIFY(word.top() > number.center().y());
+        QVERIFY(word.bottom() < page.height());
+    }
+    // A word is much nearer to its own arrow than to the other bolt's.
+    const auto inkOf = [&page](QColor Theme::*ink) {
+        const Theme colours = drawing::only(ink);
+        page.setTheme(colours);
+        const std::vector<Run> rows = litRows(page.grab(QRect(0, 0, 130, 480)).toImage());
+        page.setTheme(theme(false));
+        return rows;
+    };
+    const std::vector<Run> altitude = inkOf(&Theme::altitude), azimuth = inkOf(&Theme::azimuth);
+    QCOMPARE(altitude.size(), std::size_t(2)); // the arrow and its word
+    QCOMPARE(azimuth.size(), std::size_t(2));
+    QVERIFY(1.5 * (altitude[1].first - altitude[0].last) < azimuth[0].first - altitude[1].last);
 }
 
 QTEST_MAIN(AssistantPanelTest)

@@ -32,6 +32,7 @@ private slots:
     void aims();
     void rowsHoldAll();
     void withoutSite();
+    void theTitleIsAboveTheNames();
 };
 
 void AssistantReportTextsTest::momentIsLocal()
@@ -87,6 +88,28 @@ void AssistantReportTextsTest::withoutSite()
     const std::vector<ReportRow> rows = reportRows({}, british);
     QCOMPARE(valueOf(rows, "in altitude"), dash());
     QCOMPARE(valueOf(rows, "Date and site"), momentText(0.0, british));
+}
+
+/// At the same margin, apart from them.
+void AssistantReportTextsTest::theTitleIsAboveTheNames()
+{
+    const QImage picture = reportPicture({}, british);
+    const auto inkOf = [&picture](int top, int bottom) {
+        QRect ink;
+        for (int y = top; y < bottom; ++y)
+            for (int x = 0; x < picture.width(); ++x)
+                if (picture.pixel(x, y) != picture.pixel(0, 0))
+                    ink |= QRect(x, y, 1, 1);
+        return ink;
+    };
+    const int half = picture.height() / 2;
+    int gap = inkOf(0, half).top();
+    while (!inkOf(gap, gap + 12).isNull()) // of twelve empty rows
+        ++gap;
+    const QRect title = inkOf(0, gap), names = inkOf(gap, picture.height());
+    QVERIFY(title.height() > 20 && title.width() > 100 && title.bottom() < half / 2);
+    QVERIFY2(std::abs(title.left() - names.left()) < 8,
+             qPrintable(QString("%1, %2").arg(title.left()).arg(names.left())));
 }
 
 QTEST_MAIN(AssistantReportTextsTest)

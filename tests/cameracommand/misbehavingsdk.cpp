@@ -3,6 +3,7 @@
 // grey.
 #include <csignal>
 #include <cstdint>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <stdexcept>
@@ -46,6 +47,18 @@ void misbehaveIn(const std::string &call)
     while (is(("hangs in " + call).c_str()))
         ::pause();
 }
+
+bool isClosed = false;
+
+/// What a call for an open camera returns: no call may follow that closes it. "refuses InitVELDIX",
+/// for example.
+std::uint32_t resultOf(const std::string &call)
+{
+    if (isClosed)
+        std::abort();
+    misbehaveIn(call);
+    return is(("refuses " + call).c_str()) ? 1 : 0;
+}
 } // namespace
 
 EXPORTED std::uint32_t InitVELDIXResource()
@@ -77,39 +90,40 @@ EXPORTED void *OpenVELDIX(const char *)
 {
     misbehaveIn("OpenVELDIX");
     static int camera;
+    isClosed = false;
     return &camera;
 }
 
-EXPORTED std::uint32_t SetVELDIXReadMode(void *, std::uint32_t)
+EXPORTED std::uint32_t SetVELDIXReadMode(void *, std::uint32_t mode)
 {
-    return 0;
+    // Its only one; the result of success is the camera's own.
+    return resultOf("SetVELDIXReadMode") == 0 && mode == 0 ? 7 : 0xffffffff;
 }
 
 EXPORTED std::uint32_t SetVELDIXStreamMode(void *, std::uint8_t)
 {
-    return 0;
+    return resultOf("SetVELDIXStreamMode");
 }
 
 EXPORTED std::uint32_t InitVELDIX(void *)
 {
-    misbehaveIn("InitVELDIX");
-    return 0;
+    return resultOf("InitVELDIX");
 }
 
 EXPORTED std::uint32_t SetVELDIXBitsMode(void *, std::uint32_t)
 {
-    return 0;
+    return resultOf("SetVELDIXBitsMode");
 }
 
 EXPORTED std::uint32_t SetVELDIXBinMode(void *, std::uint32_t, std::uint32_t)
 {
-    return 0;
+    return resultOf("SetVELDIXBinMode");
 }
 
 EXPORTED std::uint32_t SetVELDIXResolution(void *, std::uint32_t, std::uint32_t, std::uint32_t,
                                            std::uint32_t)
 {
-    return 0;
+    return resultOf("SetVELDIXResolution");
 }
 
 EXPORTED double GetVELDIXParam(void *, std::int32_t)
@@ -124,30 +138,35 @@ EXPORTED std::uint32_t SetVELDIXParam(void *, std::int32_t, double)
 
 EXPORTED std::uint32_t BeginVELDIXLive(void *)
 {
-    misbehaveIn("BeginVELDIXLive");
-    return 0;
+    return resultOf("BeginVELDIXLive");
 }
 
 EXPORTED std::uint32_t GetVELDIXLiveFrame(void *, std::uint32_t *width, std::uint32_t *height,
                                           std::uint32_t *bits, std::uint32_t *channels,
                                           std::uint8_t *frame)
 {
-    misbehaveIn("GetVELDIXLiveFrame");
+    const std::uint32_t result = resultOf("GetVELDIXLiveFrame");
     *width = 1280;
     *height = 960;
     *bits = 8;
     *channels = 1;
     std::memset(frame, 40, std::size_t(*width) * *height);
-    return 0;
+    static bool isFirst = true;
+    const char *const way = std::getenv("MISBEHAVING_SDK");
+    if (isFirst && way)
+        std::sscanf(way, "first says %u x %u, %u", width, height, channels);
+    isFirst = false;
+    return result;
 }
 
 EXPORTED std::uint32_t StopVELDIXLive(void *)
 {
-    return 0;
+    return resultOf("StopVELDIXLive");
 }
 
 EXPORTED std::uint32_t CloseVELDIX(void *)
 {
-    misbehaveIn("CloseVELDIX");
-    return 0;
+    const std::uint32_t result = resultOf("CloseVELDIX");
+    isClosed = true;
+    return result;
 }

@@ -136,7 +136,7 @@ void CameraCommandTest::checkOfTheSky()
     const QRegularExpression scale(
         "scale: (30\\.[45]\\d\\d) arcseconds a pixel\nmirrored: false\n");
     QVERIFY2(scale.match(checked.output).hasMatch(), qPrintable(checked.output));
-    for (const char *line : {"roll: ", "stars: ", "focus: "})
+    for (const char *line : {"hemisphere: north\n", "roll: ", "stars: ", "focus: "})
         QVERIFY2(checked.output.contains(line), line);
     // Its values would be taken for those of the next camera by INDI.
     QVERIFY2(checked.output.endsWith(path("sky.ini") +

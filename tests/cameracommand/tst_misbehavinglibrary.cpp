@@ -32,6 +32,10 @@ private slots:
     void listOutlivesTheMakersLibrary();
     void commandsOutliveTheMakersLibrary_data();
     void commandsOutliveTheMakersLibrary();
+    void refusedCamerasAreClosedOnce_data();
+    void refusedCamerasAreClosedOnce();
+    void framesOfOtherSizesAreLeftOut_data();
+    void framesOfOtherSizesAreLeftOut();
     void commandsLeaveAHangingLibrary_data();
     void commandsLeaveAHangingLibrary();
     void endsAtAnInterrupt_data();
@@ -147,6 +151,41 @@ void MisbehavingLibraryTest::commandsOutliveTheMakersLibrary()
     const QString line = "quorvandel-camera: the camera library cannot be used: " + fault + '\n';
     QVERIFY2(fault.isEmpty() || result.errors.endsWith(line), qPrintable(result.errors));
     QVERIFY(!fault.isEmpty() || QFile::exists(path("a.png")));
+}
+
+void MisbehavingLibraryTest::refusedCamerasAreClosedOnce_data()
+{
+    QTest::addColumn<QString>("call");
+    for (const char *call :
+         {"SetVELDIXReadMode", "SetVELDIXStreamMode", "InitVELDIX", "SetVELDIXBitsMode",
+          "SetVELDIXBinMode", "SetVELDIXResolution", "BeginVELDIXLive"})
+        QTest::newRow(call) << QString(call);
+}
+
+void MisbehavingLibraryTest::refusedCamerasAreClosedOnce()
+{
+    QFETCH(QString, call);
+    const Result result = runWith("refuses " + call, {"grab", path("a.png")});
+    QCOMPARE(result.status, 1);
+    QVERIFY2(
+        result.errors.endsWith("quorvandel-camera: there is no camera, or it cannot be opened\n"),
+        qPrintable(result.errors));
+}
+
+void MisbehavingLibraryTest::framesOfOtherSizesAreLeftOut_data()
+{
+    QTest::addColumn<QString>("frame");
+    for (const char *frame : {"0 x 960, 1", "1280 x 0, 1", "1281 x 960, 1", "1280 x 961, 1",
+                              "1280 x 960, 0", "1280 x 960, 2", "1280 x 960, 4"})
+        QTest::newRow(frame) << QString(frame);
+}
+
+void MisbehavingLibraryTest::framesOfOtherSizesAreLeftOut()
+{
+    QFETCH(QString, frame);
+    const Result result = runWith("first says " + frame, {"grab", path("a.png")});
+    QVERIFY2(result.status == 0, qPrintable(result.errors));
+    QCOMPARE(result.output, path("a.png") + ": 1280 x 960 pixels, 8 bits\n");
 }
 
 /// One for each command; they wait for ten seconds while the other tests run.

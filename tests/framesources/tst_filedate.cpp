@@ -76,6 +76,8 @@ private slots:
     void dateIsFound();
     void damagedFilesHaveNone_data();
     void damagedFilesHaveNone();
+    void entriesBehindTheirDirectoryAreNone();
+    void aCompleteHeaderIsReadOnce();
     void largeFolderIsPutInOrderQuickly();
 
 private:
@@ -128,6 +130,32 @@ void FileDateTest::damagedFilesHaveNone()
     QVERIFY(!framesources::dateInFile(write("damaged", bytes).toStdString()));
     QVERIFY(!framesources::dateInFile(folder.filePath("absent").toStdString()));
     QVERIFY(!framesources::dateInFile(folder.path().toStdString()));
+}
+
+void FileDateTest::entriesBehindTheirDirectoryAreNone()
+{
+    const auto dateOf = [this](quint16 entries) {
+        const QByteArray bytes = tiff(0).replace(8, 2, little(entries));
+        return framesources::dateInFile(write("directory", bytes).toStdString());
+    };
+    QCOMPARE(dateOf(2), std::optional(date));
+    QVERIFY(!dateOf(0));
+}
+
+/// A picture without a date is not searched for one behind its header.
+void FileDateTest::aCompleteHeaderIsReadOnce()
+{
+    QByteArray header;
+    for (const char *card : {"SIMPLE  =                    T", "BITPIX  =                    8",
+                             "NAXIS   =                    2", "NAXIS1  =                 3000",
+                             "NAXIS2  =                 2000"})
+        header += QByteArray(card).leftJustified(80);
+    header = (header + "END").leftJustified(2880);
+    const QString path = write("undated", header + QByteArray(pixels, '\0'));
+    const qint64 before = bytesRead();
+    QVERIFY(!framesources::dateInFile(path.toStdString()));
+    const qint64 read = bytesRead() - before;
+    QVERIFY2(read < 200000, qPrintable(QString::number(read)));
 }
 
 void FileDateTest::largeFolderIsPutInOrderQuickly()

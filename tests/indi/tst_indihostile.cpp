@@ -54,6 +54,7 @@ class IndiHostileTest : public QObject
 private slots:
     void goodFramesComeThrough_data();
     void goodFramesComeThrough();
+    void picturesAreAskedForFirst();
     void lossIsOnlyWhatACameraNeeds_data();
     void lossIsOnlyWhatACameraNeeds();
     void renamedDeviceIsNamedAndComesBack();
@@ -81,6 +82,7 @@ void IndiHostileTest::goodFramesComeThrough_data()
     row("no base64", HostileServer::blob(".fits", "3000", QByteArray(4000, '*')));
     row("base64 cut",
         HostileServer::blob(".fits", number(fits.size()), fits.toBase64().left(3001)));
+    row("base64 without its padding", HostileServer::blob(".fits", "3000", "QQ"));
     row("base64 signs inside", HostileServer::blob(".fits", "3000", QByteArray(4000, '=')));
     row("header alone", blobOf(".fits", fits.left(2880)));
     row("huge FITS", blobOf(".fits", QByteArray(fits).replace("NAXIS1  =                   40",
@@ -133,6 +135,25 @@ void IndiHostileTest::goodFramesComeThrough()
     for (int i = 0; i < 3; ++i)
         QVERIFY2(!source.frame(returnPatience).empty(), qPrintable(source.lines().join("\n")));
     QVERIFY2(source.slowest < callPatience, qPrintable(QString::number(source.slowest)));
+}
+
+/// By each connection; some servers send them without being asked.
+void IndiHostileTest::picturesAreAskedForFirst()
+{
+    HostileServer server("", blobOf(".fits", golden()));
+    IndiSource source(server.port(), "Camera");
+    source.exposure = 0.05;
+    int asked = 0;
+    for (int connection = 1; connection <= 2; ++connection) {
+        QVERIFY(!source.frame(patience).empty());
+        QTRY_VERIFY(server.heard().indexOf("'CCD_EXPOSURE'", asked) > 0);
+        const QByteArray heard = server.heard().mid(asked);
+        const int place = heard.indexOf(">Also</enableBLOB>");
+        QVERIFY2(place > 0 && place < heard.indexOf("'CCD_EXPOSURE'"), heard.constData());
+        asked += heard.size();
+        server.drop();
+        QTRY_COMPARE(server.connections(), connection + 1);
+    }
 }
 
 void IndiHostileTest::lossIsOnlyWhatACameraNeeds_data()

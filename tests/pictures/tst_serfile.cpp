@@ -19,6 +19,7 @@ private slots:
     void cutFileEndsEarlier();
     void brokenHeaders_data();
     void brokenHeaders();
+    void filesThatCannotBeOpened();
     void names();
 };
 
@@ -126,6 +127,15 @@ void SerFileTest::brokenHeaders()
     pictures::SerFile broken(file.fileName().toStdString());
     QCOMPARE(QByteArray::fromStdString(broken.complaint()), complaint);
     QCOMPARE(QByteArray::fromStdString(broken.frame(0).complaint), complaint);
+}
+
+void SerFileTest::filesThatCannotBeOpened()
+{
+    const QTemporaryDir folder;
+    const std::string path = folder.path().toStdString();
+    QCOMPARE(pictures::SerFile(path + "/absent.ser").complaint(),
+             std::string("It cannot be read: No such file or directory."));
+    QCOMPARE(pictures::SerFile(path).complaint(), std::string("It is not an ordinary file."));
 }
 
 void SerFileTest::names()

@@ -295,12 +295,15 @@ void RecogniseCommandTest::pictureIsDrawn()
     QCOMPARE(found.status, 0);
     const cv::Mat picture = cv::imread(drawn.toStdString());
     QCOMPARE(picture.size(), cv::Size(1280, 960));
-    // The cross's right arm is red, and rings are green.
+    // The cross's arms are red, and rings are green.
     const QJsonObject object = found.object();
     const int x = int(std::lround(object["pole_x"].toDouble()));
     const int y = int(std::lround(object["pole_y"].toDouble()));
-    const cv::Vec3b arm = picture.at<cv::Vec3b>(y, x + 12);
-    QVERIFY(arm[2] > 180 && arm[1] < 120 && arm[0] < 120);
+    for (const auto [right, down] : {std::pair(12, 0), {-12, 0}, {0, 12}, {0, -12}}) {
+        const cv::Vec3b arm = picture.at<cv::Vec3b>(y + down, x + right);
+        QVERIFY2(arm[2] > 180 && arm[1] < 120 && arm[0] < 120,
+                 qPrintable(QString("%1, %2").arg(right).arg(down)));
+    }
     int green = 0;
     for (int j = 0; j < picture.rows; ++j)
         for (int i = 0; i < picture.cols; ++i) {

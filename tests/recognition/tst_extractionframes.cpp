@@ -70,6 +70,8 @@ private slots:
     void bordersMakeNoStars();
     void measuringNeedsAStar_data();
     void measuringNeedsAStar();
+    void measuringBeginsInsideTheFrame_data();
+    void measuringBeginsInsideTheFrame();
 };
 
 void ExtractionFramesTest::framesThatCannotBeUsed_data()
@@ -335,6 +337,34 @@ void ExtractionFramesTest::measuringNeedsAStar()
     QCOMPARE(bool(star), found);
     if (star)
         QVERIFY(std::hypot(star->x - 60.3, star->y - 60.7) < 0.03);
+}
+
+void ExtractionFramesTest::measuringBeginsInsideTheFrame_data()
+{
+    QTest::addColumn<double>("starX");
+    QTest::addColumn<double>("starY");
+    QTest::addColumn<double>("x"); // the last place inside
+    QTest::addColumn<double>("y");
+    QTest::addColumn<double>("stepX"); // from there to the first outside
+    QTest::addColumn<double>("stepY");
+    QTest::newRow("left") << 6.0 << 80.0 << -0.25 << 80.0 << -0.25 << 0.0;
+    QTest::newRow("right") << 153.0 << 80.0 << 159.25 << 80.0 << 0.25 << 0.0;
+    QTest::newRow("top") << 80.0 << 6.0 << 80.0 << -0.25 << 0.0 << -0.25;
+    QTest::newRow("bottom") << 80.0 << 153.0 << 80.0 << 159.25 << 0.0 << 0.25;
+}
+
+void ExtractionFramesTest::measuringBeginsInsideTheFrame()
+{
+    QFETCH(double, starX);
+    QFETCH(double, starY);
+    QFETCH(double, x);
+    QFETCH(double, y);
+    QFETCH(double, stepX);
+    QFETCH(double, stepY);
+    cv::Mat1w frame = noisySky(160, 160, 2);
+    addStar(frame, starX, starY, 6000);
+    QVERIFY(measureStar(frame, x, y, 12));
+    QVERIFY(!measureStar(frame, x + stepX, y + stepY, 12));
 }
 
 QTEST_GUILESS_MAIN(ExtractionFramesTest)

@@ -57,6 +57,8 @@ private slots:
     void exactPlacesAreNoTrouble();
     void theAcceptedChanceIsHeeded();
     void residualsAreThoseOfTheStars();
+    void reasonsInFull_data();
+    void reasonsInFull();
     void starsHaveNames_data();
     void starsHaveNames();
 };
@@ -352,6 +354,29 @@ void RecogniseTest::residualsAreThoseOfTheStars()
     const double rms = std::sqrt(squares / double(found.matched.size())) * found.scale;
     QVERIFY2(std::abs(found.rms / rms - 1.0) < 0.08,
              qPrintable(QStringLiteral("%1, not %2").arg(found.rms).arg(rms)));
+}
+
+void RecogniseTest::reasonsInFull_data()
+{
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("recognised") << int(RecognitionStatus::Recognised) << "Recognised 2 of 7 stars.";
+    QTest::newRow("too few") << int(RecognitionStatus::TooFewStars)
+                             << "Too few stars: 7 found, at least 8 needed. Expose longer, raise "
+                                "the gain, or use a wider field.";
+    QTest::newRow("invalid") << int(RecognitionStatus::InvalidOptions)
+                             << "The size of the frame, the range of scales, the date or the "
+                                "accepted chance is out of range.";
+}
+
+void RecogniseTest::reasonsInFull()
+{
+    QFETCH(int, status);
+    Recognition result;
+    result.status = RecognitionStatus(status);
+    result.extracted = 7;
+    result.matched.resize(2);
+    QTEST(QString::fromStdString(reason(result)), "text");
 }
 
 void RecogniseTest::starsHaveNames_data()

@@ -26,6 +26,7 @@ private slots:
     void photograph_data();
     void photograph();
     void followsDriftAndShifts();
+    void theBrightestStarsAreFollowed();
     void followerFindsALostField();
     void followerReportsClouds();
     void followerMeetsAnotherPicture_data();
@@ -110,6 +111,29 @@ void RecognisedSkyTest::followsDriftAndShifts()
             QVERIFY(std::hypot(follower.stars()[star.detected].x - star.place.x,
                                follower.stars()[star.detected].y - star.place.y) < 2.0);
     }
+}
+
+void RecognisedSkyTest::theBrightestStarsAreFollowed()
+{
+    const SkyState state = skyOf(false, november2026);
+    Follower follower({});
+    const cv::Mat frame = frameOf(state, november2026, 1);
+    Recognition first = follower.follow(frame, november2026);
+    constexpr std::size_t brightest = 10;
+    QVERIFY(first.matched.size() > brightest);
+    const std::vector<DetectedStar> stars = follower.stars();
+    std::sort(first.matched.begin(), first.matched.end(),
+              [&stars](const MatchedStar &a, const MatchedStar &b) {
+                  return stars[a.detected].flux > stars[b.detected].flux;
+              });
+    const Recognition second = follower.follow(frame, november2026 + 1.0);
+    QVERIFY(follower.followed());
+    for (std::size_t i = 0; i < brightest; ++i)
+        QVERIFY2(std::any_of(second.matched.begin(), second.matched.end(),
+                             [&](const MatchedStar &star) {
+                                 return star.catalogue == first.matched[i].catalogue;
+                             }),
+                 qPrintable(QString::number(i)));
 }
 
 void RecognisedSkyTest::followerFindsALostField()

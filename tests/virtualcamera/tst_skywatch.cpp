@@ -59,6 +59,7 @@ private slots:
     void badFileKeepsTheLastGoodState();
     void faultIsReportedOnce();
     void sameFaultAfterAGoodFileIsReportedAgain();
+    void sameFaultAfterTheFileWasRemovedIsReportedAgain();
     void badFileAtTheStartIsTheDefaults();
     void removedFileIsTheDefaults();
     void strangeFilesAreReported_data();
@@ -173,6 +174,18 @@ void SkyWatchTest::sameFaultAfterAGoodFileIsReportedAgain()
         QCOMPARE(f.latitude(), 5.0);
     }
     QCOMPARE(f.reports.size(), 3);
+}
+
+void SkyWatchTest::sameFaultAfterTheFileWasRemovedIsReportedAgain()
+{
+    Fixture f;
+    for (int i = 1; i <= 3; ++i) {
+        f.write("[site]\nlatitude = 95\n");
+        f.watch.current();
+        QCOMPARE(f.reports.size(), i);
+        QVERIFY(QFile::remove(QString::fromStdString(f.path)));
+        QCOMPARE(f.latitude(), 40.0);
+    }
 }
 
 void SkyWatchTest::badFileAtTheStartIsTheDefaults()

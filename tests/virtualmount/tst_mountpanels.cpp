@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Is the title of each of the virtual mount's panels above all that is in the panel?
 #include "app/stylesheet.h"
+#include "core/languages.h"
 #include "resources/resources.h"
 #include "tests/virtualmount/mountwindowtest.h"
 
@@ -16,11 +17,16 @@ private slots:
     void titlesAreAboveTheFirstRow();
     void nothingOverlaps();
     void theDialIsAboveItsAngle();
+    void namesAreLeftOfWhatTheyName();
+    void errorsAreNamed();
+    void theTruthButtonHasRoomForBothTexts_data();
+    void theTruthButtonHasRoomForBothTexts();
 };
 
 void MountPanelsTest::initTestCase()
 {
     initialiseResources();
+    Q_INIT_RESOURCE(mount_catalogues);
     applyStyleSheet(*qApp, QStringLiteral(":/qss/default.qss"));
 }
 
@@ -86,6 +92,62 @@ void MountPanelsTest::theDialIsAboveItsAngle()
     const QRect angle = named<QWidget>(shown.window, "angle").geometry();
     QVERIFY(dial.bottom() < angle.top());
     QVERIFY(dial.left() < angle.right() && angle.left() < dial.right());
+}
+
+void MountPanelsTest::namesAreLeftOfWhatTheyName()
+{
+    const SkyFileFixture file;
+    const ShownWindow shown(file.path());
+    int names = 0;
+    for (const auto *const label : shown.window.findChildren<QLabel *>()) {
+        if (!label->buddy())
+            continue;
+        ++names;
+        // The dial is above both.
+        const QRect field = label->buddy()->objectName() == "dial"
+                                ? named<QWidget>(shown.window, "angle").geometry()
+                                : label->buddy()->geometry();
+        QVERIFY2(label->geometry().right() < field.left(), qPrintable(label->text()));
+        QVERIFY2(label->y() <= field.bottom() && field.top() <= label->geometry().bottom(),
+                 qPrintable(label->text()));
+    }
+    QVERIFY2(names >= 4, qPrintable(QString::number(names)));
+}
+
+/// For a screen reader.
+void MountPanelsTest::errorsAreNamed()
+{
+    const SkyFileFixture file;
+    const ShownWindow shown(file.path());
+    QCOMPARE(named<QLabel>(shown.window, "truth").accessibleName(),
+             QStringLiteral("Remaining error"));
+    QCOMPARE(named<QLabel>(shown.window, "angles").accessibleName(),
+             QStringLiteral("Error of the star angles"));
+}
+
+void MountPanelsTest::theTruthButtonHasRoomForBothTexts_data()
+{
+    QTest::addColumn<int>("number");
+    for (std::size_t i = 0; i < languages.size(); ++i)
+        QTest::newRow(languages[i].code) << int(i);
+}
+
+/// Otherwise the buttons beside it would move at each click.
+void MountPanelsTest::theTruthButtonHasRoomForBothTexts()
+{
+    QFETCH(int, number);
+    QVERIFY(installTranslator("mount", languages.at(std::size_t(number))));
+    const SkyFileFixture file;
+    const ShownWindow shown(file.path());
+    const auto &button = named<QAbstractButton>(shown.window, "showTruth");
+    QStringList texts;
+    for (int i = 0; i < 2; ++i) {
+        texts.append(button.text());
+        QVERIFY2(button.minimumWidth() >= button.sizeHint().width(), qPrintable(button.text()));
+        clickOn(shown.window, "showTruth");
+    }
+    QVERIFY(texts[0] != texts[1]);
+    QVERIFY(installTranslator("mount", languages.front()));
 }
 
 QTEST_MAIN(MountPanelsTest)

@@ -24,6 +24,7 @@ private slots:
     void anglesOfTheDay();
     void theMountDoesNotMatter();
     void noTriangle();
+    void aStarInLineWithThePoleIsNoTriangle();
 };
 
 void StarAnglesTest::golden_data()
@@ -121,6 +122,21 @@ void StarAnglesTest::noTriangle()
     QVERIFY(!virtualmount::anglesError(angles, SkyState(), 0.0));
     std::swap(angles.angleBAP, angles.angleABP);
     QVERIFY(!virtualmount::anglesError(angles, SkyState(), 0.0));
+}
+
+/// Whether the circles about the two stars touch or cross then is a matter of rounding.
+void StarAnglesTest::aStarInLineWithThePoleIsNoTriangle()
+{
+    for (double degrees = 1.0; degrees < 180.0; degrees += 1.0) {
+        StarCatalogue angles;
+        angles.angleBAP = degrees;
+        angles.angleABP = 0.0;
+        QVERIFY2(!virtualmount::anglesError(angles, SkyState(), 0.0),
+                 qPrintable(QString::number(degrees)));
+        std::swap(angles.angleBAP, angles.angleABP);
+        QVERIFY2(!virtualmount::anglesError(angles, SkyState(), 0.0),
+                 qPrintable(QString::number(degrees)));
+    }
 }
 
 QTEST_GUILESS_MAIN(StarAnglesTest)
