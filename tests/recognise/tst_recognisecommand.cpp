@@ -299,7 +299,7 @@ void RecogniseCommandTest::pictureIsDrawn()
     const QJsonObject object = found.object();
     const int x = int(std::lround(object["pole_x"].toDouble()));
     const int y = int(std::lround(object["pole_y"].toDouble()));
-    for (const auto [right, down] : {std::pair(12, 0), {-12, 0}, {0, 12}, {0, -12}}) {
+    for (const auto &[right, down] : {std::pair(12, 0), {-12, 0}, {0, 12}, {0, -12}}) {
         const cv::Vec3b arm = picture.at<cv::Vec3b>(y + down, x + right);
         QVERIFY2(arm[2] > 180 && arm[1] < 120 && arm[0] < 120,
                  qPrintable(QString("%1, %2").arg(right).arg(down)));
