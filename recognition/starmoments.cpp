@@ -87,7 +87,8 @@ std::optional<Moments> measureMoments(const cv::Mat1f &values, double x, double 
 {
     Weight weight;
     double atX = x, atY = y;
-    double sigma = std::clamp(options.sigma, leastSigma, options.mostSigma);
+    // The greatest may be below the least, where the frame's stars are as narrow as that.
+    double sigma = std::min(std::max(options.sigma, leastSigma), options.mostSigma);
     for (int step = 0;; ++step) {
         const Sums sum = weight.apply(values, atX, atY, sigma);
         if (!(sum.light > 0.0))

@@ -5,13 +5,38 @@
 #include "resources/resources.h"
 #include "tests/support/wheel.h"
 #include "tests/virtualmount/mountwindowtest.h"
+#include "virtualmount/oneinstance.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QDial>
 #include <QDoubleSpinBox>
+#include <QLocalSocket>
 #include <QSet>
 #include <QSlider>
+#include <atomic>
+#include <thread>
+
+namespace
+{
+/// Counts the local sockets that Qt's event loop deletes while it exists.
+class DeletedSockets : public QObject
+{
+public:
+    DeletedSockets() { qApp->installEventFilter(this); }
+    int count() const { return deleted; }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::DeferredDelete && qobject_cast<QLocalSocket *>(watched))
+            ++deleted;
+        return false;
+    }
+
+private:
+    int deleted = 0;
+};
+} // namespace
 
 class MountWindowTest : public QObject
 {
@@ -31,6 +56,7 @@ private slots:
     void hasAnIcon();
     void returnPressesOnce_data();
     void returnPressesOnce();
+    void laterStartsLeaveNothingBehind();
 };
 
 void MountWindowTest::initTestCase()
@@ -235,6 +261,29 @@ void MountWindowTest::returnPressesOnce()
     tracking.setFocus();
     press(key);
     QCOMPARE(tracking.isChecked(), !before);
+}
+
+void MountWindowTest::laterStartsLeaveNothingBehind()
+{
+    const SkyFileFixture file;
+    ShownWindow shown(file.path());
+    virtualmount::OneInstance instance(file.path());
+    QVERIFY(!instance.isOpenElsewhere());
+    instance.announce(shown.window);
+    const DeletedSockets deleted;
+    constexpr int starts = 3;
+    int found = 0;
+    std::atomic<bool> areOver{false};
+    std::thread later([&] {
+        for (int i = 0; i < starts; ++i)
+            found += virtualmount::OneInstance(file.path()).isOpenElsewhere(false) ? 1 : 0;
+        areOver = true;
+    });
+    const bool haveEnded = comesTrue([&areOver] { return areOver.load(); });
+    later.join();
+    QVERIFY(haveEnded);
+    QCOMPARE(found, starts);
+    QTRY_COMPARE(deleted.count(), starts);
 }
 
 QTEST_MAIN(MountWindowTest)
