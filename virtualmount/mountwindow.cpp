@@ -276,7 +276,7 @@ void MountWindow::refreshTexts()
 QString MountWindow::statusText() const
 {
     if (!document.writeFault().isEmpty())
-        return tr("The sky file can not be written: %1.").arg(document.writeFault());
+        return tr("The sky file cannot be written: %1.").arg(document.writeFault());
     if (!document.fault().isEmpty())
         return tr("Fault in the sky file: %1. Nothing is written.").arg(document.fault());
     return tr("Arrow keys turn the bolts, with Shift finely.\nCtrl+1 to Ctrl+6 turn the axis, Esc "

@@ -30,8 +30,7 @@ void AssistantHangTest::hangIsReported()
     };
     QVERIFY(QTest::qWaitFor(hangs, 60000));
     const Status status = session.latest().status;
-    const double silent = status.advice.front().first;
-    QVERIFY(silent >= CameraOperator::silence && silent < 60.0);
+    QVERIFY(status.advice.front().first >= CameraOperator::silence);
     QVERIFY(!status.error);
     QElapsedTimer timer;
     timer.start();

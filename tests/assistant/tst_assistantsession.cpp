@@ -164,8 +164,7 @@ void AssistantSessionTest::unpluggedAndBack()
     QVERIFY(!lost.error && !lost.pole);
     QVERIFY(lost.axis.place.has_value());
     QVERIFY(lost.sky != nullptr);
-    const double silent = lost.advice.front().first;
-    QVERIFY(silent >= CameraOperator::silence && silent < patience / 1000.0);
+    QVERIFY(lost.advice.front().first >= CameraOperator::silence);
     unplugged.unplugged = false;
     mount.setSky(unplugged);
     QVERIFY(comes([&] { return session.latest().status.error.has_value(); }));

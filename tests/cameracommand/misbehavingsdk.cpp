@@ -50,8 +50,8 @@ void misbehaveIn(const std::string &call)
 
 bool isClosed = false;
 
-/// What a call for an open camera returns: no call may follow that closes it. "refuses InitVELDIX",
-/// for example.
+/// What a call for a camera returns: 1 for "refuses InitVELDIX", for example. A closed camera may
+/// not be used.
 std::uint32_t resultOf(const std::string &call)
 {
     if (isClosed)

@@ -56,8 +56,8 @@ public:
     }
     /// Ends each connection after so many good frames, 0: at once, -1: not at all.
     void leaveAfter(int frames) { framesAllowed = frames; }
-    /// From now on each client is told of video, with these frames; an exposure has one good frame.
-    /// Once a client has been told, its video has other frames at once.
+    /// From now on each client is offered video, with these frames; an exposure has one good frame.
+    /// A client that has video already gets the other frames at once.
     void offerStream(const QByteArray &frame)
     {
         define("<defSwitchVector name='CCD_VIDEO_STREAM' device='Camera' state='Ok' perm='rw' "
@@ -75,7 +75,7 @@ public:
     }
     /// Whether video has no frames.
     void mute(bool on) { isMute = on; }
-    /// From now on no client is told of exposures.
+    /// From now on exposures are defined to no client.
     void withholdExposures() { hasExposures = false; }
     /// Whether video goes on when it is switched off; exposures then wait for its end.
     void linger(bool on) { lingers = on; }

@@ -231,7 +231,7 @@ void MountFileTest::anUnwritablePlaceIsTold()
     file.writeText("[site]\n");
     const ShownWindow shown(file.path() + "/sky.ini"); // a file is not a folder
     clickOn(shown.window, "altitudeDown");
-    QVERIFY(textOf(shown.window, "status").contains("can not be written: Not a directory"));
+    QVERIFY(textOf(shown.window, "status").contains("cannot be written: Not a directory"));
     QCOMPARE(textOf(shown.window, "altitudeCount"), QString("0"));
     QVERIFY(!named<QAbstractButton>(shown.window, "replace").isVisible());
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Is the title of each of the virtual mount's panels above all that is in the panel?
+// Is everything in the virtual mount's panels where it belongs, with room for its text?
 #include "app/stylesheet.h"
 #include "core/languages.h"
 #include "resources/resources.h"

@@ -251,10 +251,10 @@ void SkyDocumentTest::replaceLeavesAGoodFileAlone()
     const SkyFileFixture file;
     file.writeText("nonsense\n");
     SkyDocument document(file.path());
-    const QByteArray mended = "[site]\nlatitude = 12 # fixed meanwhile\n";
-    file.writeText(mended);
+    const QByteArray corrected = "[site]\nlatitude = 12 # fixed meanwhile\n";
+    file.writeText(corrected);
     QVERIFY(document.replace());
-    QCOMPARE(file.text(), mended);
+    QCOMPARE(file.text(), corrected);
     QCOMPARE(document.state().latitude, 12.0);
 }
 

@@ -387,7 +387,7 @@
 %2 und %3.</translation>
     </message>
     <message>
-        <source>The sky file can not be written: %1.</source>
+        <source>The sky file cannot be written: %1.</source>
         <translation>Die Himmelsdatei lässt sich nicht schreiben: %1.</translation>
     </message>
     <message>

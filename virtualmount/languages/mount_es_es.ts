@@ -387,7 +387,7 @@
 %2 y %3.</translation>
     </message>
     <message>
-        <source>The sky file can not be written: %1.</source>
+        <source>The sky file cannot be written: %1.</source>
         <translation>No se puede escribir el archivo del cielo: %1.</translation>
     </message>
     <message>

@@ -387,7 +387,7 @@
 %2 et %3.</translation>
     </message>
     <message>
-        <source>The sky file can not be written: %1.</source>
+        <source>The sky file cannot be written: %1.</source>
         <translation>Impossible d&apos;écrire le fichier du ciel&#xa0;: %1.</translation>
     </message>
     <message>

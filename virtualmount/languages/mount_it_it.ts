@@ -387,7 +387,7 @@
 %2 e %3.</translation>
     </message>
     <message>
-        <source>The sky file can not be written: %1.</source>
+        <source>The sky file cannot be written: %1.</source>
         <translation>Impossibile scrivere il file del cielo: %1.</translation>
     </message>
     <message>

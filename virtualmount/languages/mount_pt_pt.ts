@@ -387,7 +387,7 @@
 %2 e %3.</translation>
     </message>
     <message>
-        <source>The sky file can not be written: %1.</source>
+        <source>The sky file cannot be written: %1.</source>
         <translation>Não é possível escrever o ficheiro do céu: %1.</translation>
     </message>
     <message>

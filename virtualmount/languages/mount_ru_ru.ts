@@ -387,7 +387,7 @@
 %2 и %3.</translation>
     </message>
     <message>
-        <source>The sky file can not be written: %1.</source>
+        <source>The sky file cannot be written: %1.</source>
         <translation>Не удаётся записать файл неба: %1.</translation>
     </message>
     <message>

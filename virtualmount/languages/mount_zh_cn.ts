@@ -387,7 +387,7 @@
 %2，%3。</translation>
     </message>
     <message>
-        <source>The sky file can not be written: %1.</source>
+        <source>The sky file cannot be written: %1.</source>
         <translation>无法写入天空文件：%1。</translation>
     </message>
     <message>
