@@ -19,8 +19,8 @@ namespace
 {
 /// Milliseconds after a signal: for a camera library that does not return from its call, and for a
 /// save that is under way in a thread that does not respond.
-constexpr int closingPatience = 2000;
-constexpr int lastSavePatience = 500;
+constexpr int closingTimeout = 2000;
+constexpr int lastSaveTimeout = 500;
 
 /// The present date for `--angles-of-date`, as UTC since 1970.
 std::optional<double> dateOfAngles()
@@ -64,10 +64,10 @@ int main(int argc, char *argv[])
     Session session;
     // Before the window, which calls the camera library as it is built.
     TerminationSignals termination([&session, path = settingsFilePath()] {
-        session.latestSettings.save(path, lastSavePatience);
+        session.latestSettings.save(path, lastSaveTimeout);
     });
     MainWindow window(session, nullptr, dateOfAngles());
-    termination.closeWindow(window, [&window] { window.hurry(closingPatience); });
+    termination.closeWindow(window, [&window] { window.hurry(closingTimeout); });
     if (QApplication::arguments().contains(QLatin1String("--maximized")))
         window.showMaximized();
     else

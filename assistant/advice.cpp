@@ -60,11 +60,10 @@ void orderAdvice(std::vector<Advice> &advice)
 
 std::size_t solidStars(const std::vector<recognition::DetectedStar> &stars)
 {
-    constexpr double leastRatio = 6.0;
+    constexpr double minRatio = 6.0;
     return std::size_t(
-        std::count_if(stars.begin(), stars.end(), [](const recognition::DetectedStar &star) {
-            return star.snr >= leastRatio;
-        }));
+        std::count_if(stars.begin(), stars.end(),
+                      [](const recognition::DetectedStar &star) { return star.snr >= minRatio; }));
 }
 
 Advice adviceOf(const LostSky &frame)
@@ -85,7 +84,7 @@ Advice adviceOf(const LostSky &frame)
     case ExtractionStatus::TooFewStars:
         break;
     }
-    if (frame.status == ExtractionStatus::Trailed && frame.stars >= recognition::leastStars)
+    if (frame.status == ExtractionStatus::Trailed && frame.stars >= recognition::minStars)
         return {AdviceCode::HoldStill, 0.0, 0.0, {}};
     if (!frame.hadSky && (frame.isFirst || frame.searching))
         return {AdviceCode::Searching, double(frame.stars), 0.0, {}};

@@ -19,11 +19,11 @@ using recognition::EarthView;
 using recognition::Recognition;
 
 constexpr double allowedSigmas = 4.0;
-constexpr double allowedArcseconds = 1.5;      // that are never taken for a bump
-constexpr int departuresOfABump = 3;           // in a row
-constexpr double leastGuessedTurn = 1.0;       // degrees
-constexpr double greatestGuessedSigma = 300.0; // arcseconds
-constexpr double scaleDifference = 0.02;       // relative, between frames of one camera
+constexpr double allowedArcseconds = 1.5; // that are never taken for a bump
+constexpr int departuresOfABump = 3;      // in a row
+constexpr double minGuessedTurn = 1.0;    // degrees
+constexpr double maxGuessedSigma = 300.0; // arcseconds
+constexpr double scaleDifference = 0.02;  // relative, between frames of one camera
 /// The frame's centre is taken to be within this angle's sine of the axis: between two frames it
 /// moves by no more than the turn times this.
 constexpr double farthestAxis = 0.3;
@@ -54,7 +54,7 @@ void AxisTracker::reset()
 
 void AxisTracker::shiftClock(double seconds)
 {
-    for (Place &one : kept)
+    for (AnglePlace &one : kept)
         for (Recognition &frame : one.frames)
             frame.utcSeconds += seconds;
     if (previous)
@@ -65,7 +65,7 @@ void AxisTracker::shiftClock(double seconds)
 
 double AxisTracker::turnedDegrees() const
 {
-    return greatestTurn - leastTurn;
+    return maxTurn - minTurn;
 }
 
 double AxisTracker::turnOf(const Recognition &frame) const
@@ -115,7 +115,7 @@ bool AxisTracker::isNewAngle(const Recognition &frame) const
 bool AxisTracker::wants(const Recognition &frame) const
 {
     const auto place = placeOf(turnOf(frame));
-    return !place || kept[*place].frames.size() < mostAtPlace;
+    return !place || kept[*place].frames.size() < maxAtPlace;
 }
 
 bool AxisTracker::isEnough() const
@@ -124,8 +124,8 @@ bool AxisTracker::isEnough() const
         return false;
     // Two places agree on some axis whatever happened: there must be three well apart.
     const auto isApart = [](double from, double to) { return to - from >= checkingTurn; };
-    const bool checked = std::any_of(kept.begin(), kept.end(), [&](const Place &one) {
-        return isApart(leastTurn, one.turn) && isApart(one.turn, greatestTurn);
+    const bool checked = std::any_of(kept.begin(), kept.end(), [&](const AnglePlace &one) {
+        return isApart(minTurn, one.turn) && isApart(one.turn, maxTurn);
     });
     return checked && (turnedDegrees() >= enoughTurn || known.sigmaArcseconds < enoughSigma);
 }
@@ -148,7 +148,7 @@ void AxisTracker::updateDirection()
 {
     directionX = directionY = 0.0;
     double number = 0.0;
-    for (const Place &one : kept)
+    for (const AnglePlace &one : kept)
         for (const Recognition &frame : one.frames) {
             const EarthView::Linear l = EarthView(frame, known.place).linear();
             directionX += l.x;
@@ -164,13 +164,13 @@ void AxisTracker::updateDirection()
 void AxisTracker::thin()
 {
     step *= 2.0;
-    std::vector<Place> fewer;
+    std::vector<AnglePlace> fewer;
     for (std::size_t i = 0; i < kept.size(); ++i) {
         if (i % 2 == 0) {
             fewer.push_back(std::move(kept[i]));
             continue;
         }
-        Place &into = fewer.back();
+        AnglePlace &into = fewer.back();
         std::move(kept[i].frames.begin(), kept[i].frames.end(), std::back_inserter(into.frames));
         into.angles += kept[i].angles;
     }
@@ -179,11 +179,11 @@ void AxisTracker::thin()
 
 void AxisTracker::keep(const Recognition &frame, double turn)
 {
-    if (kept.size() == mostKept)
+    if (kept.size() == maxKept)
         thin();
     kept.push_back({{slim(frame)}, turn, 1});
-    leastTurn = std::min(leastTurn, turn);
-    greatestTurn = std::max(greatestTurn, turn);
+    minTurn = std::min(minTurn, turn);
+    maxTurn = std::max(maxTurn, turn);
 }
 
 AxisTracker::Event AxisTracker::startFrom(const Recognition &frame, Event event)
@@ -198,7 +198,7 @@ AxisTracker::Event AxisTracker::startFrom(const Recognition &frame, Event event)
 AxisTracker::Event AxisTracker::solve()
 {
     std::vector<Recognition> frames;
-    for (const Place &one : kept)
+    for (const AnglePlace &one : kept)
         frames.push_back(one.frames.front());
     Axis axis = recognition::axisOfTurns(frames);
     if (axis.status == AxisStatus::Bumped ||
@@ -208,15 +208,15 @@ AxisTracker::Event AxisTracker::solve()
     }
     Event event = Event::None;
     if (!axis.bumped.empty()) {
-        std::vector<Place> agreed;
+        std::vector<AnglePlace> agreed;
         for (std::size_t i = 0; i < kept.size(); ++i)
             if (std::find(axis.bumped.begin(), axis.bumped.end(), i) == axis.bumped.end())
                 agreed.push_back(std::move(kept[i]));
         kept = std::move(agreed);
-        leastTurn = greatestTurn = kept.front().turn;
-        for (const Place &one : kept) {
-            leastTurn = std::min(leastTurn, one.turn);
-            greatestTurn = std::max(greatestTurn, one.turn);
+        minTurn = maxTurn = kept.front().turn;
+        for (const AnglePlace &one : kept) {
+            minTurn = std::min(minTurn, one.turn);
+            maxTurn = std::max(maxTurn, one.turn);
         }
         event = Event::Bumped;
     }
@@ -230,7 +230,7 @@ AxisTracker::Event AxisTracker::solve()
 
 std::size_t AxisTracker::framesKept() const
 {
-    const auto sum = [](std::size_t frames, const Place &one) {
+    const auto sum = [](std::size_t frames, const AnglePlace &one) {
         return frames + one.frames.size();
     };
     return std::accumulate(kept.begin(), kept.end(), std::size_t{0}, sum);
@@ -242,12 +242,12 @@ std::size_t AxisTracker::improve(Axis &axis) const
 {
     std::vector<EarthView> views;
     double x = 0.0, y = 0.0;
-    for (const Place &one : kept) {
+    for (const AnglePlace &one : kept) {
         views.emplace_back(one.frames.front(), axis.place);
         x += views.back().linear().x / double(kept.size());
         y += views.back().linear().y / double(kept.size());
     }
-    for (const Place &one : kept)
+    for (const AnglePlace &one : kept)
         for (std::size_t i = 1; i < one.frames.size(); ++i) {
             const EarthView view(one.frames[i], axis.place);
             const double off = arcseconds(std::hypot(view.linear().x - x, view.linear().y - y));
@@ -259,7 +259,7 @@ std::size_t AxisTracker::improve(Axis &axis) const
     const auto point = recognition::fixedPointOf(views, all);
     if (!point)
         return kept.size(); // the axis stays that of the first frames
-    const auto sum = [](std::size_t angles, const Place &one) { return angles + one.angles; };
+    const auto sum = [](std::size_t angles, const AnglePlace &one) { return angles + one.angles; };
     const double angles = double(std::accumulate(kept.begin(), kept.end(), std::size_t{0}, sum));
     const double atPlace = std::max(double(views.size()) / angles, 1.0);
     const double widening = 1.0 + sharedAtPlace * (atPlace - 1.0);
@@ -275,10 +275,10 @@ std::size_t AxisTracker::improve(Axis &axis) const
 
 std::optional<Axis> AxisTracker::guess() const
 {
-    if (turnedDegrees() < leastGuessedTurn)
+    if (turnedDegrees() < minGuessedTurn)
         return std::nullopt;
     std::vector<EarthView> views;
-    for (const Place &one : kept)
+    for (const AnglePlace &one : kept)
         views.emplace_back(one.frames.front(), kept.front().frames.front().pole);
     std::vector<std::size_t> all(views.size());
     std::iota(all.begin(), all.end(), std::size_t{0});
@@ -288,7 +288,7 @@ std::optional<Axis> AxisTracker::guess() const
     Axis axis;
     axis.place = point->pixel;
     improve(axis);
-    if (!(axis.sigmaArcseconds > 0.0 && axis.sigmaArcseconds < greatestGuessedSigma))
+    if (!(axis.sigmaArcseconds > 0.0 && axis.sigmaArcseconds < maxGuessedSigma))
         return std::nullopt;
     return axis;
 }
@@ -309,7 +309,7 @@ AxisTracker::Event AxisTracker::add(const Recognition &frame)
     if (departures > 0)
         return Event::None;
     if (const auto place = placeOf(turn)) {
-        if (kept[*place].frames.size() >= mostAtPlace)
+        if (kept[*place].frames.size() >= maxAtPlace)
             return Event::None;
         kept[*place].frames.push_back(slim(frame));
     } else {

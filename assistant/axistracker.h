@@ -12,9 +12,9 @@ namespace assistant
 {
 /// With so much turn the axis is known well enough in any case, degrees.
 inline constexpr double enoughTurn = 30.0;
-/// An axis known so well is enough, arcseconds, after `recognition::leastTurn`.
+/// An axis known so well is enough, arcseconds, after `recognition::minTurn`.
 inline constexpr double enoughSigma = 5.0;
-/// A third place of the axis so far from two others, degrees, tells whether they agree.
+/// Degrees. A third angle of the axis this far from two others shows whether all three agree.
 inline constexpr double checkingTurn = 5.0;
 
 /// Keeps the frames at one place for each step of the axis' angle. The steps are of one degree and
@@ -25,11 +25,11 @@ inline constexpr double checkingTurn = 5.0;
 class AxisTracker
 {
 public:
-    static constexpr std::size_t mostKept = 40; ///< places
+    static constexpr std::size_t maxKept = 40; ///< places
     /// Frames at one place, or those of both if two became one. By `sharedAtPlace` the variance is
     /// 0.40 of that of one frame; twenty would leave 0.24, but each costs a search for stars and a
     /// fit.
-    static constexpr std::size_t mostAtPlace = 4;
+    static constexpr std::size_t maxAtPlace = 4;
     /// Their stars fall on the same pixels, so that they share this part of their errors' variance
     /// (docs/assistant.md); the claim is widened by it.
     static constexpr double sharedAtPlace = 0.2;
@@ -52,8 +52,8 @@ public:
 
     /// Status Found, or why it is not known.
     const recognition::Axis &axis() const { return known; }
-    /// Where the axis seems to be after less turn than an axis needs: to be shown only, for a
-    /// tripod that yields looks like another axis over a short turn.
+    /// Where the axis seems to be after less turn than an axis needs. For display only: over a
+    /// short turn, a tripod that yields looks like another axis.
     const std::optional<recognition::Axis> &earlyAxis() const { return early; }
     double turnedDegrees() const;
     /// That the axis rests on, or, before it is known, that are kept for it.
@@ -66,7 +66,7 @@ public:
     double allowedDeparture(const recognition::Recognition &frame) const;
 
 private:
-    struct Place {
+    struct AnglePlace {
         std::vector<recognition::Recognition> frames; // never empty
         double turn;                                  // of the first, degrees since the first place
         std::size_t angles;                           // places that became this one
@@ -85,10 +85,10 @@ private:
     Event startFrom(const recognition::Recognition &frame, Event event);
     void updateDirection();
 
-    std::vector<Place> kept;
+    std::vector<AnglePlace> kept;
     std::optional<recognition::Recognition> previous;
     double previousTurn = 0.0;
-    double leastTurn = 0.0, greatestTurn = 0.0;
+    double minTurn = 0.0, maxTurn = 0.0;
     double step = 1.0; ///< degrees
     std::size_t counted = 0;
     int departures = 0; ///< in a row

@@ -52,8 +52,8 @@ void Beginning::recogniseAgain()
     recognition::RecognitionOptions options;
     options.utcSeconds = frame.utcSeconds;
     options.hemisphere = frame.hemisphere;
-    options.leastScale = frame.scale * (1.0 - scaleSlack);
-    options.greatestScale = frame.scale * (1.0 + scaleSlack);
+    options.minScale = frame.scale * (1.0 - scaleSlack);
+    options.maxScale = frame.scale * (1.0 + scaleSlack);
     options.mirrored = frame.mirrored;
     options.observer = observerOf(settings, frame.hemisphere);
     recognition::Recognition again =

@@ -11,8 +11,8 @@
 namespace assistant
 {
 /// The first frame that gave a figure, and the axis' pixel then. The direction that this pixel
-/// shows in that frame is where the axis pointed at first; another site, pole or air only says
-/// otherwise how far from the pole that is. Not for two threads at a time.
+/// shows in that frame is where the axis pointed at first; another site, pole or air changes only
+/// its computed distance from the pole. Not for two threads at a time.
 class Beginning
 {
 public:

@@ -20,7 +20,7 @@ using State = CameraLink::State;
 constexpr std::chrono::milliseconds frameRounds(100); // between looks at the frames
 constexpr double retry = 2.0;                         // seconds between attempts to connect
 constexpr int closingPoll = 50;                       // milliseconds
-constexpr std::size_t mostCameras = 64;
+constexpr std::size_t maxListedCameras = 64;
 } // namespace
 
 class CameraOperator::Call
@@ -166,7 +166,7 @@ void CameraOperator::load()
     const Call call(callBegan, clocks);
     session.camera.sdkReady = InitVELDIXResource() == 0 && libraryFault().isEmpty();
     if (session.camera.sdkReady) {
-        look();
+        listCameras();
         set(State::Idle);
         return;
     }
@@ -175,12 +175,12 @@ void CameraOperator::load()
     known.fault = libraryFault().toStdString();
 }
 
-void CameraOperator::look()
+void CameraOperator::listCameras()
 {
     std::vector<std::string> found;
     {
         const Call call(callBegan, clocks);
-        found = ::findCameras(mostCameras);
+        found = ::findCameras(maxListedCameras);
     }
     const std::lock_guard<std::mutex> lock(mutex);
     known.cameras = std::move(found);
@@ -191,7 +191,7 @@ void CameraOperator::obey(const Orders &orders)
     if (!session.camera.sdkReady)
         return;
     if (orders.find)
-        look();
+        listCameras();
     if (orders.exposure)
         exposure = orders.exposure;
     if (orders.gain)
@@ -216,7 +216,7 @@ void CameraOperator::obey(const Orders &orders)
 /// for; before that the ID is a preference, and another camera will do.
 bool CameraOperator::choose()
 {
-    look();
+    listCameras();
     std::vector<std::string> found;
     {
         const std::lock_guard<std::mutex> lock(mutex);

@@ -84,7 +84,7 @@ private:
     void load();
     Orders takeOrders();
     void obey(const Orders &orders);
-    void look();
+    void listCameras();
     void tryToOpen();
     bool choose();
     void applyParameters();

@@ -119,7 +119,7 @@ void addBolts(const FrameError &error, const Covariance &c, double latitude, Err
     figures.altitude =
         Measured{bolts.altitude, propagated((above.altitude - below.altitude) / (2.0 * step),
                                             (east.altitude - west.altitude) / (2.0 * step), c)};
-    if (90.0 - std::abs(latitude) < leastPolarDistance || bolts.zenithSine < nearZenith)
+    if (90.0 - std::abs(latitude) < minPolarDistance || bolts.zenithSine < nearZenith)
         return;
     const auto slope = [](double difference) {
         return std::remainder(difference, 1296000.0) / (2.0 * step);
@@ -145,11 +145,10 @@ std::optional<recognition::Observer> observerOf(const Settings &settings,
 
 bool isTrustworthy(const Recognition &followed)
 {
-    constexpr std::size_t leastMatched = 8;
-    constexpr double greatestResiduals = 0.35; // pixels
+    constexpr std::size_t minMatched = 8;
+    constexpr double maxResiduals = 0.35; // pixels
     return followed.status == recognition::RecognitionStatus::Recognised &&
-           followed.matched.size() >= leastMatched &&
-           followed.rms <= greatestResiduals * followed.scale;
+           followed.matched.size() >= minMatched && followed.rms <= maxResiduals * followed.scale;
 }
 
 std::optional<PolePlace> poleOf(const Recognition &frame, const Settings &settings)

@@ -10,7 +10,7 @@
 namespace assistant
 {
 /// Nearer to the Earth's pole than this, degrees, azimuth has no meaning.
-inline constexpr double leastPolarDistance = 1.0;
+inline constexpr double minPolarDistance = 1.0;
 
 /// The air by the settings.
 astrometry::RefractionConstants airOf(const Settings &settings);

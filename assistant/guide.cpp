@@ -21,7 +21,7 @@ using recognition::RecognitionStatus;
 constexpr int framesOfTheSky = 3;        // recognised in a row end the first stage
 constexpr std::uint64_t firstFrames = 2; // that may still be exposed as before the connection
 constexpr double eventSeconds = 20.0;    // for which a bump or slip is reported
-const std::size_t mostFollowed = recognition::FollowerOptions().mostStars;
+const std::size_t maxFollowed = recognition::FollowerOptions().maxStars;
 constexpr double searchInterval = 2.0; // seconds between searches for more stars
 constexpr double enoughSeconds = 4.0;  // for which the end of the turning is reported
 constexpr double clockSeconds = 60.0;  // for which a step of the clock is reported
@@ -185,7 +185,7 @@ void Guide::searchForMore(const Observation &observation, Recognition &found)
 {
     const double now = observation.steadySeconds;
     const bool exposedOtherwise = observation.exposureMicroseconds != searchedExposure;
-    if (!follower.followed() || found.matched.size() >= mostFollowed ||
+    if (!follower.followed() || found.matched.size() >= maxFollowed ||
         (!exposedOtherwise &&
          (found.matched.size() >= enoughStars || now - searchedAt < searchInterval)))
         return;
@@ -377,7 +377,7 @@ void Guide::adviseHints(const Observation &observation, Status &status) const
         status.advice.push_back({AdviceCode::ClockUnsure, 0.0, 0.0, {}});
     if (!settings.site)
         status.advice.push_back({AdviceCode::SiteMissing, 0.0, 0.0, {}});
-    else if (90.0 - std::abs(settings.site->latitude) < leastPolarDistance)
+    else if (90.0 - std::abs(settings.site->latitude) < minPolarDistance)
         status.advice.push_back({AdviceCode::SiteTooFarNorth, 0.0, 0.0, {}});
     if (!status.pole)
         return;

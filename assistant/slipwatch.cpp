@@ -18,7 +18,7 @@ using recognition::Recognition;
 
 constexpr double restingTurn = 0.1; // degrees from frame to frame: above tracking, below any hand
 constexpr double stepOfKept = 0.5;  // degrees
-constexpr std::size_t leastFrames = 4;
+constexpr std::size_t minFrames = 4;
 constexpr double movedSigmas = 4.0;
 constexpr double movedArcseconds = 1.5;
 constexpr double slipSigmas = 5.0;
@@ -91,10 +91,10 @@ bool SlipWatch::hasSlipped(const Recognition &frame, const recognition::Axis &ax
         else if (std::abs(turn - kept.back().turn) < stepOfKept)
             return false;
     }
-    if (kept.size() == mostKept)
+    if (kept.size() == maxKept)
         kept.erase(kept.begin());
     kept.push_back({frame, turn});
     kept.back().frame.matched = {};
-    return kept.size() >= leastFrames && turned() >= leastTurn && disagrees(axis);
+    return kept.size() >= minFrames && turned() >= minTurn && disagrees(axis);
 }
 } // namespace assistant

@@ -18,8 +18,8 @@ class SlipWatch
 {
 public:
     /// Degrees of turn from which a slip is looked for.
-    static constexpr double leastTurn = 5.0;
-    static constexpr std::size_t mostKept = 40;
+    static constexpr double minTurn = 5.0;
+    static constexpr std::size_t maxKept = 40;
 
     /// Takes a recognised frame of the time in which the bolts are turned.
     /// @param axis as it was measured

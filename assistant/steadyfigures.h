@@ -12,10 +12,10 @@ namespace assistant
 /// The mean over the last frames as long as the axis stays where it is: at most `most` frames of at
 /// most `longest` seconds. A frame that differs from the mean by more than its own error allows
 /// begins again; a drift leaves only the newest frames, so many that their mean hardly lags. The
-/// claim shrinks with the root of the frames' number, but of no more than `independent` of them and
-/// to no less than `floor`, since the stars' pixels, and with them a part of the errors, are the
-/// same in all frames. It grows by what the mean lags behind the newest frame by the drift that is
-/// seen, be it a bolt's or the noise's.
+/// claimed error falls with the square root of the number of frames, counted up to `independent`,
+/// and never below `floor`: the stars' pixels, and with them a part of the errors, are the same in
+/// all frames. The mean's lag behind the newest frame is added, whether a bolt or noise causes the
+/// drift.
 class SteadyFigures
 {
 public:

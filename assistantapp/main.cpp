@@ -19,9 +19,9 @@
 
 namespace
 {
-constexpr int closingPatience = 12000; // milliseconds
-constexpr int leastScreenHeight = 520; // pixels, below which the window fills the screen
-constexpr int badOption = 2;           // exit status for a bad option
+constexpr int closingTimeout = 12000; // milliseconds
+constexpr int minScreenHeight = 520;  // pixels, below which the window fills the screen
+constexpr int badOption = 2;          // exit status for a bad option
 
 /// Where the recorded frames go unless the user chooses.
 void chooseFolder(assistant::Settings &settings)
@@ -84,7 +84,7 @@ int main(int argc, char *argv[])
         termination.closeWindow(window);
         // On a small screen a title bar would push the last row out of sight.
         const QSize screen = QGuiApplication::primaryScreen()->availableSize();
-        if (options.maximized || screen.height() < leastScreenHeight)
+        if (options.maximized || screen.height() < minScreenHeight)
             window.showMaximized();
         else
             window.show();
@@ -93,7 +93,7 @@ int main(int argc, char *argv[])
         status = QApplication::exec();
     }
     // A thread that hangs in a library can neither be ended nor outlive its objects.
-    if (!instrument.close(closingPatience))
+    if (!instrument.close(closingTimeout))
         std::_Exit(status);
     return status;
 }

@@ -25,14 +25,14 @@ namespace
 {
 constexpr int refreshMilliseconds = 20;
 constexpr unsigned ticksBetweenLooks = 12;
-constexpr QSize leastSize(800, 440);
+constexpr QSize minSize(800, 440);
 } // namespace
 
 QSize usualSize(QSize screen)
 {
     constexpr int widest = 1180, highest = 740;
     constexpr int neighbour = 426; // the virtual mount's window with its frame
-    const int wide = std::clamp(screen.width() - neighbour, leastSize.width(), widest);
+    const int wide = std::clamp(screen.width() - neighbour, minSize.width(), widest);
     return QSize(wide, highest).boundedTo(screen);
 }
 
@@ -55,7 +55,7 @@ AssistantWindow::AssistantWindow(Instrument &theInstrument, const assistant::Set
           static_cast<QWidget *>(settingsPage), static_cast<QWidget *>(reportPage)})
         addWidget(page);
     // Said here: a hidden page's wrapped texts would ask for more height than they need when shown.
-    setMinimumSize(leastSize);
+    setMinimumSize(minSize);
     resize(usualSize(QGuiApplication::primaryScreen()->availableSize()));
     sitePanel->show(settings.site);
     settingsPage->show(settings);

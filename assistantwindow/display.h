@@ -48,7 +48,7 @@ struct Display {
 /// are not while the frames do not yet agree.
 double turnShare(const assistant::AxisProgress &axis);
 /// Where on the ring the turn may be enough at the earliest.
-inline constexpr double earliestShare = recognition::leastTurn / assistant::enoughTurn;
+inline constexpr double earliestShare = recognition::minTurn / assistant::enoughTurn;
 
 /// @param dismissed the user put away the advice that can be
 Display displayOf(const assistant::Status &status, const assistant::Settings &settings,

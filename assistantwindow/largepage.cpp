@@ -179,8 +179,8 @@ void LargePage::paintRow(QPainter &painter, const LargeRow &row, const QRectF &a
 
 double adviceRoom(double height, std::size_t rows)
 {
-    constexpr double leastDigits = 0.21; // of the height; a fifth is asked for
-    const double row = nameHeight + height * leastDigits / digitsShare;
+    constexpr double minDigits = 0.21; // of the height; a fifth is asked for
+    const double row = nameHeight + height * minDigits / digitsShare;
     return std::max(0.0, height - 3.0 * margin - double(rows) * row);
 }
 

@@ -277,7 +277,7 @@ void MainPage::retranslate()
     axisHint->setText(tr("%1 are enough, %2 if the axis is then known to %3. Further turning makes "
                          "it more exact.")
                           .arg(degreesText(assistant::enoughTurn, locale()),
-                               degreesText(recognition::leastTurn, locale()),
+                               degreesText(recognition::minTurn, locale()),
                                locale().toString(assistant::enoughSigma) + QStringLiteral("″")));
     toReportButton->setText(tr("Report"));
     toReportButton->setToolTip(QStringLiteral("F9"));

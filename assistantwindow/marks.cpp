@@ -15,9 +15,9 @@ namespace assistantwindow
 namespace
 {
 constexpr double pi = 3.14159265358979323846;
-constexpr double leastEllipse = 4.0; // widget pixels, so that it is visible
-constexpr std::size_t mostNames = 8;
-constexpr std::size_t mostRings = 40; // the brightest stars; the others have a dot
+constexpr double minEllipse = 4.0; // widget pixels, so that it is visible
+constexpr std::size_t maxNames = 8;
+constexpr std::size_t maxRings = 40; // the brightest stars; the others have a dot
 
 struct Canvas {
     QPainter &painter;
@@ -120,7 +120,7 @@ void paintNames(const Canvas &c, const std::vector<QPointF> &places, std::vector
     for (const QPointF &place : places)
         taken.emplace_back(place - QPointF(6, 6), QSizeF(12, 12));
     c.painter.setPen(c.theme.star);
-    for (const PlacedLabel &name : placedLabels(boxes, taken, c.bounds, mostNames))
+    for (const PlacedLabel &name : placedLabels(boxes, taken, c.bounds, maxNames))
         c.painter.drawText(name.box, Qt::AlignCenter, names[name.label]);
 }
 
@@ -132,7 +132,7 @@ void paintStars(const Canvas &c, const std::vector<QRectF> &taken)
             continue;
         const auto &star = c.status.stars[match.detected];
         const QPointF at = c.view.place(star.x, star.y);
-        if (ringed.size() < mostRings) {
+        if (ringed.size() < maxRings) {
             c.painter.setBrush(Qt::NoBrush);
             c.painter.setPen(QPen(c.theme.star, 1.3));
             c.painter.drawEllipse(at, 6.0, 6.0);
@@ -185,8 +185,8 @@ void paintEllipse(const Canvas &c, const QPointF &at, const recognition::Covaria
     c.painter.rotate(ellipse.degrees);
     c.painter.setPen(QPen(colour, 2.0));
     c.painter.setBrush(withAlpha(colour, 50));
-    c.painter.drawEllipse(QPointF(), std::max(leastEllipse, ellipse.longer * c.view.scale),
-                          std::max(leastEllipse, ellipse.shorter * c.view.scale));
+    c.painter.drawEllipse(QPointF(), std::max(minEllipse, ellipse.longer * c.view.scale),
+                          std::max(minEllipse, ellipse.shorter * c.view.scale));
     c.painter.restore();
 }
 

@@ -13,7 +13,7 @@ namespace
 {
 constexpr double share = 0.3; // of the picture's width and height
 constexpr double edgeMargin = 8.0;
-constexpr std::size_t mostStarRings = 20;
+constexpr std::size_t maxStarRings = 20;
 constexpr double lengths[] = {300.0, 120.0, 60.0, 30.0, 20.0, 10.0, 5.0, 2.0, 1.0}; // arcseconds
 } // namespace
 
@@ -47,7 +47,7 @@ void paintOverview(QPainter &painter, const QImage &picture, const assistant::St
     painter.setPen(QPen(theme.star, 1.0));
     std::size_t ringed = 0; // the brightest come first
     for (const recognition::MatchedStar &match : status.sky->matched)
-        if (match.detected < status.stars.size() && ringed++ < mostStarRings)
+        if (match.detected < status.stars.size() && ringed++ < maxStarRings)
             painter.drawEllipse(
                 view.place(status.stars[match.detected].x, status.stars[match.detected].y), 2.5,
                 2.5);

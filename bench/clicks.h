@@ -8,5 +8,5 @@
 /// Clicks `button` `count` times at uneven intervals while the event loop runs. The time of a click
 /// starts when another thread posts it to the event loop, as the thread that reads window system
 /// events does, and ends after the button's next repaint.
-/// \returns milliseconds of all clicks, sorted
+/// @return milliseconds of all clicks, sorted
 std::vector<double> clickTimes(QWidget &button, int count);

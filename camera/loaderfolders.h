@@ -15,5 +15,5 @@ QByteArrayList configuredFolders(const QByteArray &configurationFile);
 
 /// Everything with the library's name in the folders, readable or not: a file, a folder, a dangling
 /// link.
-/// \param name a file name, or a path, which is checked as it is
+/// @param name a file name, or a path, which is checked as it is
 QByteArrayList filesOfName(const QByteArray &name, const QByteArrayList &folders);

@@ -21,9 +21,9 @@ namespace
 using Clock = std::chrono::steady_clock;
 /// A copy can hang although the library is sound: another thread may have held a lock at the fork,
 /// of an allocator that does not care for forks, for example. So a second copy decides.
-constexpr std::chrono::seconds loadPatience[] = {std::chrono::seconds(4), std::chrono::seconds(6)};
+constexpr std::chrono::seconds loadTimeout[] = {std::chrono::seconds(4), std::chrono::seconds(6)};
 /// For what the library does as it is unloaded; the program never unloads one that it uses.
-constexpr std::chrono::seconds unloadPatience(2);
+constexpr std::chrono::seconds unloadTimeout(2);
 constexpr std::chrono::milliseconds pause(2);
 
 /// The loaded objects in the order of loading: address of each, and its program headers.
@@ -109,7 +109,7 @@ Trial awaitReport(pid_t child, int report, std::chrono::seconds patience)
     while (Clock::now() < end) {
         if (!returned && hasReported(report)) {
             returned = true;
-            end = Clock::now() + unloadPatience;
+            end = Clock::now() + unloadTimeout;
         }
         // Other code may have waited for it already.
         if (const pid_t ended = waitpid(child, nullptr, WNOHANG);
@@ -142,7 +142,7 @@ bool canLoadSafely(const QByteArray &name)
 {
     const char *const text = name.constData(); // the child calls no Qt code
     Trial trial = Trial::Hung;
-    for (const std::chrono::seconds patience : loadPatience)
+    for (const std::chrono::seconds patience : loadTimeout)
         if (trial == Trial::Hung)
             trial = tryToLoad(text, patience);
     return trial == Trial::Returned;

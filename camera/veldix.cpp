@@ -184,7 +184,7 @@ bool mayExist(const QString &name)
 }
 
 /// Loads one library, which then stays loaded.
-/// \param reason receives why it was not loaded
+/// @param reason receives why it was not loaded
 Outcome loadFrom(const QString &name, QString &reason)
 {
     const QByteArray file = QFile::encodeName(name);

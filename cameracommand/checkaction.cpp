@@ -38,9 +38,9 @@ void print(const Checked &found)
     const recognition::Recognition &sky = found.lens.sky;
     std::printf("scale: %.3f arcseconds a pixel%s\n", sky.scale / found.binning,
                 found.binning > 1 ? " of the sensor, unbinned" : "");
-    if (sky.scale / found.binning > pictures::programScale * pictures::greatestEnlargement)
+    if (sky.scale / found.binning > pictures::programScale * pictures::maxEnlargement)
         std::printf("too coarse for the star templates: frames are enlarged %.0f times at most\n",
-                    pictures::greatestEnlargement);
+                    pictures::maxEnlargement);
     std::printf("mirrored: %s\n", sky.mirrored ? "true" : "false");
     std::printf("roll: %.1f degrees\n", sky.rollDegrees);
     std::printf("hemisphere: %s\n",

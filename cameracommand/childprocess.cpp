@@ -20,8 +20,8 @@ namespace
 {
 using Clock = std::chrono::steady_clock;
 using Fate = ChildEnd::Fate;
-constexpr auto endPatience = std::chrono::seconds(2); // for what libraries do at the end
-constexpr auto killPatience = std::chrono::seconds(1);
+constexpr auto endTimeout = std::chrono::seconds(2); // for what libraries do at the end
+constexpr auto killTimeout = std::chrono::seconds(1);
 constexpr std::chrono::milliseconds look(50); // at the pipe
 
 /// What a line in the pipe is; its first character.
@@ -125,14 +125,14 @@ private:
 
     void awaitEnd()
     {
-        const auto end = Clock::now() + (isFinished ? endPatience : std::chrono::seconds(0));
+        const auto end = Clock::now() + (isFinished ? endTimeout : std::chrono::seconds(0));
         while (!hasEnded() && Clock::now() < end)
             ::usleep(2000);
         if (isOver)
             return;
         ::kill(child, SIGKILL);
         // A process that waits within the kernel, for a broken cable say, is left to it.
-        for (const auto last = Clock::now() + killPatience; !hasEnded() && Clock::now() < last;)
+        for (const auto last = Clock::now() + killTimeout; !hasEnded() && Clock::now() < last;)
             ::usleep(2000);
     }
 

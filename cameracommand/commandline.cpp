@@ -116,7 +116,7 @@ private:
         given.reset();
         if (equals != std::string::npos)
             given = argument.substr(equals + 1);
-        constexpr double longestExposure = 600000.0, mostFrames = 100000.0;
+        constexpr double longestExposure = 600000.0, maxFrames = 100000.0;
         if (option == "--help" || option == "-h")
             finish(Wish::Help);
         else if (option == "--version")
@@ -134,7 +134,7 @@ private:
         else if (option == "--gain")
             result.gain = number(option, 0.0, 100.0);
         else if (option == "--frames")
-            result.frames = int(std::floor(number(option, 1.0, mostFrames)));
+            result.frames = int(std::floor(number(option, 1.0, maxFrames)));
         else
             complain("There is no option " + option + ".");
         if (given)

@@ -95,10 +95,10 @@ std::optional<framesources::NativeFrame> awaitFrame(framesources::NativeCamera &
     wish.gain = wishes.gain;
     wish.whole = true;
     wish.wanted = true;
-    constexpr std::chrono::seconds absencePatience(8); // some tries to connect
+    constexpr std::chrono::seconds absenceTimeout(8); // some tries to connect
     const SteadyClock::time_point begin = SteadyClock::now();
     SteadyClock::time_point seen = begin;
-    while (SteadyClock::now() - begin < patience && SteadyClock::now() - seen < absencePatience) {
+    while (SteadyClock::now() - begin < patience && SteadyClock::now() - seen < absenceTimeout) {
         if (auto frame = camera.next(wish))
             return frame;
         if (camera.isPresent())

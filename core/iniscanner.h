@@ -29,7 +29,7 @@ struct IniEntry {
 class IniScanner
 {
 public:
-    /// \param longestEntry bytes; a longer entry is skipped up to the end of its line
+    /// @param longestEntry bytes; a longer entry is skipped up to the end of its line
     IniScanner(QIODevice &file, int longestEntry);
     /// The next entry; false at the end.
     bool next(IniEntry &entry);

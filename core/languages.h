@@ -40,13 +40,13 @@ QString languageCodes();
 
 /// The resource path of a compiled catalogue.
 QString cataloguePath(const QString &family, const Language &language);
-/// \return false if the catalogue is missing: then the translator keeps the one that it has
+/// @return false if the catalogue is missing: then the translator keeps the one that it has
 bool loadCatalogue(QTranslator &translator, const QString &family, const Language &language);
 /// Installs the catalogue in place of the one installed before. To be called before there is a
 /// window. In English, a family without an English catalogue shows the texts of the sources.
-/// \return false if the catalogue is missing
+/// @return false if the catalogue is missing
 bool installTranslator(const QString &family, const Language &language);
 /// Installs the language with this code (any case) and its number format; for an empty code the
 /// best of the system's languages.
-/// \return false for an unknown code, or if the catalogue is missing
+/// @return false for an unknown code, or if the catalogue is missing
 bool installRequestedLanguage(const QString &family, const QString &code);

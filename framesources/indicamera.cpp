@@ -15,12 +15,12 @@ namespace
 using namespace std::chrono_literals;
 constexpr auto slice = 50ms;
 constexpr double firstPause = 0.25, longestPause = 1.5; // seconds between two tries
-constexpr double appearPatience = 3.0;                  // seconds for the device's properties
-constexpr double connectPatience = 15.0;                // for the device to find its camera
-constexpr double definePatience = 2.0;                  // for what not every device has
-constexpr double readoutPatience = 1.5;                 // for a device to take region and binning
+constexpr double appearTimeout = 3.0;                   // seconds for the device's properties
+constexpr double connectTimeout = 15.0;                 // for the device to find its camera
+constexpr double defineTimeout = 2.0;                   // for what not every device has
+constexpr double readoutTimeout = 1.5;                  // for a device to take region and binning
 constexpr int readoutTries = 3;                         // some refuse while they expose
-constexpr double silencePatience = 6.0;                 // of exposures, beyond their length
+constexpr double silenceTimeout = 6.0;                  // of exposures, beyond their length
 constexpr double longestRemainder = 1.0;                // seconds of an exposure of another length
 constexpr double longestStreamed = 2.0;                 // seconds of an exposure
 
@@ -99,7 +99,7 @@ void IndiCamera::awaitDevice()
             client->sendSwitch("CONNECTION", "CONNECT");
         return;
     }
-    if (sinceStage() > appearPatience)
+    if (sinceStage() > appearTimeout)
         lose(client->devices().empty() ? std::string("the INDI server does not answer")
                                        : "the INDI server has no device of this name; it has: " +
                                              listOf(client->devices()));
@@ -111,11 +111,11 @@ void IndiCamera::awaitConnection()
     const bool on = client->isOn("CONNECTION", "CONNECT").value_or(false);
     const bool complete =
         client->has("CCD_INFO") && client->has("CCD_FRAME") && client->has("CCD_BINNING");
-    if (on && client->has("CCD1") && (complete || sinceStage() > definePatience) &&
+    if (on && client->has("CCD1") && (complete || sinceStage() > defineTimeout) &&
         (client->has("CCD_EXPOSURE") || client->has("CCD_VIDEO_STREAM")))
         return setUp();
     const bool refused = !on && client->state("CONNECTION") == IndiState::Alert;
-    if (!refused && sinceStage() < connectPatience)
+    if (!refused && sinceStage() < connectTimeout)
         return;
     const std::string message = client->takeMessage();
     lose((on ? "the device is no camera" : "the device does not connect") +
@@ -169,7 +169,7 @@ void IndiCamera::applyReadout(const Wish &wish)
     if (wanted != readout)
         readoutsSent = 0;
     else if (!binning || std::floor(binning->value) == wanted.binning ||
-             readoutsSent >= readoutTries || seconds(Clock::now() - readoutSent) < readoutPatience)
+             readoutsSent >= readoutTries || seconds(Clock::now() - readoutSent) < readoutTimeout)
         return;
     stopFrames();
     readout = wanted;
@@ -233,7 +233,7 @@ void IndiCamera::listen()
 /// lost.
 void IndiCamera::checkSilence()
 {
-    const double patience = streaming ? choice.patience() : silencePatience;
+    const double patience = streaming ? choice.patience() : silenceTimeout;
     if (seconds(silence) < exposure + patience)
         return;
     if (streaming && client->has("CCD_EXPOSURE") && client->isConnected()) {

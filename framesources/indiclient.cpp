@@ -18,7 +18,7 @@ namespace
 {
 using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
-constexpr milliseconds socketPatience{2000};
+constexpr milliseconds socketTimeout{2000};
 constexpr milliseconds longestReading{100}; // on end, of a server that never pauses
 
 std::string escaped(const std::string &text)
@@ -82,7 +82,7 @@ IndiClient::~IndiClient() = default;
 
 bool IndiClient::connectServer()
 {
-    if (!connection->socket.open(host, port, socketPatience))
+    if (!connection->socket.open(host, port, socketTimeout))
         return false;
     send("<getProperties version='1.7'/>\n");
     return true;

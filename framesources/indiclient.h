@@ -26,8 +26,8 @@ struct IndiBlob {
 
 /// One connection to a server, for one thread. What the server says is read in `waitForNews`, by
 /// INDI's parser; nothing else waits. INDI's own connection is not used: it has a second thread,
-/// which shares more than it locks when a server goes while something is sent, and it ends the
-/// program where a look-up of the host takes longer than its patience.
+/// which has data races if the server disappears during a send, and it ends the program where a
+/// look-up of the host takes longer than its time limit.
 class IndiClient
 {
 public:
@@ -41,7 +41,7 @@ public:
     /// False from when the server has gone.
     bool isConnected() const;
 
-    /// Waits until something new came, or the time is over. Then everything is known that is there.
+    /// Waits until something new came, or the time is over. All that has come is then processed.
     void waitForNews(std::chrono::milliseconds longest);
 
     /// The names of all devices of the server, in the order of their appearance.

@@ -8,9 +8,9 @@ namespace framesources
 {
 namespace
 {
-constexpr std::size_t mostMarkup = std::size_t(1) << 18; // bytes; the parser frees by recursion
-constexpr std::size_t mostText = std::size_t(3) << 27;   // 64 megapixels of 16 bits are less
-constexpr std::size_t mostBlobs = 8;                     // of a message; a camera's has one
+constexpr std::size_t maxMarkup = std::size_t(1) << 18; // bytes; the parser frees by recursion
+constexpr std::size_t maxText = std::size_t(3) << 27;   // 64 megapixels of 16 bits are less
+constexpr std::size_t maxBlobs = 8;                     // of a message; a camera's has one
 constexpr std::string_view blobTag = "oneBLOB";
 
 bool isSpace(char c)
@@ -20,7 +20,7 @@ bool isSpace(char c)
 } // namespace
 
 // The parser's complaint may quote two names.
-IndiReader::IndiReader() : parser(newLilXML(), &delLilXML), fault(2 * mostMarkup + 256) {}
+IndiReader::IndiReader() : parser(newLilXML(), &delLilXML), fault(2 * maxMarkup + 256) {}
 
 void IndiReader::beginMessage()
 {
@@ -42,7 +42,7 @@ bool IndiReader::read(std::string_view bytes, const Take &take)
         const std::size_t end = std::min(bytes.find('<'), bytes.size());
         blobs.back().append(bytes.substr(0, end));
         textLength += end;
-        if (textLength > mostText || blobs.size() > mostBlobs)
+        if (textLength > maxText || blobs.size() > maxBlobs)
             return false;
         bytes.remove_prefix(end);
         inBlob = bytes.empty();
@@ -52,7 +52,7 @@ bool IndiReader::read(std::string_view bytes, const Take &take)
 
 bool IndiReader::readMarkup(char c, const Take &take)
 {
-    if (++length > mostMarkup)
+    if (++length > maxMarkup)
         return false;
     follow(c);
     const std::unique_ptr<XMLEle, decltype(&delXMLEle)> message(

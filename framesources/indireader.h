@@ -12,8 +12,8 @@
 namespace framesources
 {
 /// INDI's own parser, with the text of BLOBs kept apart: it would take that one character at a
-/// time, or trust the length that the sender says. Bytes are not trusted; what is no XML is passed
-/// over.
+/// time, or trust the length that the sender says. Bytes are not trusted; what is no XML is
+/// skipped.
 class IndiReader
 {
 public:

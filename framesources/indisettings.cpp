@@ -25,7 +25,7 @@ std::pair<int, int> part(int side, double wanted, int binning)
 }
 } // namespace
 
-Readout planReadout(cv::Size sensor, int mostBinning, double scale, bool whole)
+Readout planReadout(cv::Size sensor, int maxBinning, double scale, bool whole)
 {
     using virtualsky::sensorHeight;
     using virtualsky::sensorWidth;
@@ -36,10 +36,10 @@ Readout planReadout(cv::Size sensor, int mostBinning, double scale, bool whole)
     if (scale > 0.0)
         binning = std::floor(pictures::programScale / scale);
     Readout readout;
-    readout.binning = int(std::clamp(binning, 1.0, double(std::max(mostBinning, 1))));
+    readout.binning = int(std::clamp(binning, 1.0, double(std::max(maxBinning, 1))));
     // The sensor's pixels that fill one of the program's.
     const double pixel =
-        scale > 0.0 ? std::max(pictures::programScale / scale, 1.0 / pictures::greatestEnlargement)
+        scale > 0.0 ? std::max(pictures::programScale / scale, 1.0 / pictures::maxEnlargement)
                     : readout.binning;
     const bool all = whole || (scale > 0.0 && pixel * sensorWidth >= sensor.width &&
                                pixel * sensorHeight >= sensor.height);

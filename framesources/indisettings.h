@@ -17,10 +17,10 @@ struct Readout {
 
 /// The region and the binning that come nearest to the program's frame.
 /// @param sensor size in pixels
-/// @param mostBinning of the device, 1 = none
+/// @param maxBinning of the device, 1 = none
 /// @param scale arcseconds a pixel of the sensor; 0 = unknown, or of no interest
 /// @param whole the whole sensor is wanted, so that its stars can be recognised
-Readout planReadout(cv::Size sensor, int mostBinning, double scale, bool whole);
+Readout planReadout(cv::Size sensor, int maxBinning, double scale, bool whole);
 
 /// How often a frame that came is binned: drivers may refuse what they were asked for.
 int binningOf(const Readout &readout, cv::Size frame);

@@ -21,9 +21,9 @@ namespace
 {
 using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
-constexpr std::size_t mostUnsent = std::size_t(1) << 20; // bytes
-constexpr std::size_t chunk = std::size_t(1) << 18;      // bytes read at once
-constexpr milliseconds farewell{300};                    // for the server to take the rest, and end
+constexpr std::size_t maxUnsent = std::size_t(1) << 20; // bytes
+constexpr std::size_t chunk = std::size_t(1) << 18;     // bytes read at once
+constexpr milliseconds farewell{300};                   // for the server to take the rest, and end
 
 struct Address {
     sockaddr_storage place = {};
@@ -171,7 +171,7 @@ void IndiSocket::send(std::string_view bytes)
         return;
     unsent += bytes;
     flush();
-    if (unsent.size() > mostUnsent)
+    if (unsent.size() > maxUnsent)
         close();
 }
 

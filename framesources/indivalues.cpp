@@ -14,8 +14,8 @@ namespace framesources
 {
 namespace
 {
-constexpr std::size_t mostBlobBytes = std::size_t(1) << 28; // a frame of 64 megapixels is less
-constexpr std::size_t mostNames = 5000;                     // of a server that means harm
+constexpr std::size_t maxBlobBytes = std::size_t(1) << 28; // a frame of 64 megapixels is less
+constexpr std::size_t maxNames = 5000;                     // of a server that means harm
 constexpr std::string_view spaces = " \t\r\n";
 
 /// Without one of these a device is no camera any more; others come and go with its settings.
@@ -56,7 +56,7 @@ void takeState(XMLEle *message, IndiState &state)
 
 void addName(std::vector<std::string> &names, const std::string &name)
 {
-    if (names.size() < mostNames && std::find(names.begin(), names.end(), name) == names.end())
+    if (names.size() < maxNames && std::find(names.begin(), names.end(), name) == names.end())
         names.push_back(name);
 }
 
@@ -113,7 +113,7 @@ std::string inflated(std::string &bytes)
     stream.avail_in = static_cast<uInt>(bytes.size());
     std::vector<char> part(std::size_t(1) << 18);
     int status = Z_OK;
-    while (status == Z_OK && out.size() < mostBlobBytes) {
+    while (status == Z_OK && out.size() < maxBlobBytes) {
         stream.next_out = reinterpret_cast<Bytef *>(part.data());
         stream.avail_out = static_cast<uInt>(part.size());
         status = inflate(&stream, Z_NO_FLUSH);
@@ -189,7 +189,7 @@ void IndiValues::define(XMLEle *message, const std::string &owner, const std::st
     addName(names, owner);
     if (name == "CCD_EXPOSURE" || name == "CCD_VIDEO_STREAM")
         addName(imaging, owner);
-    if (owner != device || (properties.size() >= mostNames && properties.count(name) == 0))
+    if (owner != device || (properties.size() >= maxNames && properties.count(name) == 0))
         return;
     Property property;
     takeState(message, property.state);

@@ -28,8 +28,8 @@ RecognisedLens recogniseLens(const cv::Mat &grey, double utcSeconds, bool soften
 {
     recognition::RecognitionOptions options;
     options.utcSeconds = utcSeconds;
-    options.leastScale = finestScale;
-    options.greatestScale = coarsestScale;
+    options.minScale = finestScale;
+    options.maxScale = coarsestScale;
     const auto stars = [&options](const cv::Mat &picture) {
         RecognisedLens out;
         out.extraction = recognition::extractStars(picture);

@@ -8,8 +8,8 @@ namespace framesources
 {
 /// A stream that is silent for too long gives way to single exposures. It is tried again a moment
 /// after a new connection, and after pauses that grow. Until it was steady it is given up soon, so
-/// that a try costs few frames; so is a stream that goes on with a new connection. After a try that
-/// failed a new connection is no reason for another one: the try may be what ended the last one. A
+/// that a try costs few frames; so is a stream that goes on with a new connection. After a
+/// failed try, a new connection does not trigger another: the try may have ended the last one. A
 /// connection that ends before the stream's first frame is such a failure.
 class StreamChoice
 {
@@ -38,9 +38,11 @@ public:
     void connected(Time now);
     /// The stream was switched on.
     void began() { hasCome = false; }
-    /// A frame of the stream came. False: it came before, too, since the last failure.
+    /// A frame of the stream came.
+    /// @return false if one had come before, since the last failure
     bool came(Time now);
-    /// False: it had not come since the last failure.
+    /// The stream was silent for too long.
+    /// @return false if no frame had come since the last failure
     bool fell(Time now);
     /// The connection was lost while the stream was on. As `fell`, but false where a frame had come
     /// since the stream began: that says nothing against it.

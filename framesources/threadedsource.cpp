@@ -17,7 +17,7 @@ namespace framesources
 namespace
 {
 using Clock = std::chrono::steady_clock;
-constexpr auto fetchPatience = std::chrono::seconds(2); // without a fetch, no frames are wanted
+constexpr auto fetchTimeout = std::chrono::seconds(2); // without a fetch, no frames are wanted
 constexpr std::size_t longestSerial = 26;
 
 void copyArea(const cv::Mat &frame, const virtualsky::Area &area, std::uint8_t *out)
@@ -40,7 +40,7 @@ struct ThreadedSource::Shared {
     Wish currentWish()
     {
         const std::lock_guard<std::mutex> lock(mutex);
-        wish.wanted = Clock::now() - asked < fetchPatience;
+        wish.wanted = Clock::now() - asked < fetchTimeout;
         return wish;
     }
 
@@ -88,7 +88,7 @@ ThreadedSource::ThreadedSource(const SourceSettings &settings, MakeCamera makeCa
                           : settings.address.device)),
       shared(std::make_shared<Shared>())
 {
-    shared->asked = Clock::now() - 2 * fetchPatience;
+    shared->asked = Clock::now() - 2 * fetchTimeout;
     std::thread([state = shared, settings, makeCamera = std::move(makeCamera),
                  report = std::move(report)] {
         try {
@@ -121,7 +121,7 @@ std::string ThreadedSource::serialNumber(unsigned)
 void ThreadedSource::pause()
 {
     const std::lock_guard<std::mutex> lock(shared->mutex);
-    shared->asked = Clock::now() - 2 * fetchPatience;
+    shared->asked = Clock::now() - 2 * fetchTimeout;
     shared->latest.release();
 }
 

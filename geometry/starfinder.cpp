@@ -16,8 +16,8 @@ constexpr int skySquare = 16;
 /// The level to which the sky is shifted, so that its darker half is not clipped, counts.
 constexpr int skyLevel = 32;
 /// Minimum brightness of a star above the sky: in standard deviations, and in counts.
-constexpr double leastDeviations = 5.0;
-constexpr double leastCounts = 3.0;
+constexpr double minDeviations = 5.0;
+constexpr double minCounts = 3.0;
 /// Area of a star in the filtered frame, pixels: more than a single pixel, less than a cloud.
 constexpr int smallestStar = 2;
 constexpr int largestStar = 1500;
@@ -71,7 +71,7 @@ double thresholdOf(const cv::Mat &flat)
     for (int value = 0; value < 256; ++value)
         distances[std::size_t(std::abs(value - middle))] += counts[std::size_t(value)];
     const double deviation = 1.4826 * medianOf(distances, total);
-    return middle + std::max(leastDeviations * deviation, leastCounts);
+    return middle + std::max(minDeviations * deviation, minCounts);
 }
 } // namespace
 

@@ -20,8 +20,8 @@ constexpr double ringSlack = 1.0;
 /// Rings whose centre is closer than this to the frame's edge are skipped, pixels.
 constexpr double frameEdge = 10.0;
 /// With fewer rings or stars no conclusion is drawn.
-constexpr int leastRings = 6;
-constexpr int leastStars = 4;
+constexpr int minRings = 6;
+constexpr int minStars = 4;
 
 QPointF turnedAbout(QPointF point, QPointF centre, double degrees)
 {
@@ -72,6 +72,6 @@ TemplateFit fitTemplate(const TemplatePlace &place, const StarCatalogue &catalog
 
 bool isMisfit(const TemplateFit &fit)
 {
-    return fit.rings >= leastRings && fit.stars >= leastStars &&
+    return fit.rings >= minRings && fit.stars >= minStars &&
            2 * fit.held < std::min(fit.rings, fit.stars);
 }

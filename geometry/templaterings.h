@@ -32,7 +32,7 @@ struct TemplateFit {
 
 std::vector<TemplateRing> templateRings(bool south);
 
-/// \param catalogue the hemisphere's, for the position of star B in the template
+/// @param catalogue the hemisphere's, for the position of star B in the template
 TemplateFit fitTemplate(const TemplatePlace &place, const StarCatalogue &catalogue,
                         const std::vector<FieldStar> &stars, QSize frame);
 

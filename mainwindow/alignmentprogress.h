@@ -22,11 +22,11 @@ class AlignmentProgress
 public:
     /// Enters a step; the steps that ask for a pick discard the earlier ones.
     void enter(int step);
-    /// Records an accepted double click. \param onStar whether there is a star at `place`
+    /// Records an accepted double click. @param onStar whether there is a star at `place`
     void pick(int step, QPointF place, bool onStar);
     /// Records that the axis was computed from the three picks.
     void fitAxis(QPointF axis);
-    /// Records the search for the two reference stars. \param dialDegrees reading of the tracking
+    /// Records the search for the two reference stars. @param dialDegrees reading of the tracking
     /// dial
     void prepareMonitor(int dialDegrees, const TemplateFit &fit);
 

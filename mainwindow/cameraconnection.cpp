@@ -171,7 +171,7 @@ void MainWindow::showDisconnected(CameraClosing::State state)
 /// time.
 int MainWindow::sdkCallTimeout() const
 {
-    return libraryHangs ? 0 : closingPatience;
+    return libraryHangs ? 0 : closingTimeout;
 }
 
 bool MainWindow::stopCaptureAndWait()

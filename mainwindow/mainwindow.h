@@ -70,7 +70,7 @@ public:
     bool stopCaptureAndWait();
     /// From now on, closing waits at most that many milliseconds for a call of the camera library
     /// in another thread.
-    void hurry(int milliseconds) { closingPatience = milliseconds; }
+    void hurry(int milliseconds) { closingTimeout = milliseconds; }
     /// The wizard's step, 1 to 13; 1 after construction.
     int step() const { return currentStep; }
 
@@ -302,8 +302,8 @@ private:
     /// Is scrolled to the middle of the view with the next picture, frame pixels.
     std::optional<QPointF> placeWithNextPicture;
     bool libraryHangs = false; ///< a call did not return during the last close operation
-    int closingPatience = CameraHandle::sdkCallTimeout; ///< milliseconds
-    ButtonPress buttonPress;                            ///< last press of a page's button
+    int closingTimeout = CameraHandle::sdkCallTimeout; ///< milliseconds
+    ButtonPress buttonPress;                           ///< last press of a page's button
     AlignmentProgress progress;
     QElapsedTimer sinceLastPicture; ///< or since the camera was connected
 

@@ -19,8 +19,8 @@ namespace pictures
 {
 namespace
 {
-constexpr long longestSide = 32767;             // pixels
-constexpr double mostPixels = 64.0 * (1 << 20); // of one plane
+constexpr long longestSide = 32767;            // pixels
+constexpr double maxPixels = 64.0 * (1 << 20); // of one plane
 
 /// A FITS file that is open; closes itself.
 class OpenFits
@@ -103,7 +103,7 @@ Shape findPicture(OpenFits &fits)
         fits_get_img_equivtype(fits.file, &type, &fits.status);
         const bool fair =
             sides[0] > 0 && sides[1] > 0 && sides[0] <= longestSide && sides[1] <= longestSide &&
-            double(sides[0]) * double(sides[1]) <= mostPixels && (sides[2] == 1 || sides[2] == 3);
+            double(sides[0]) * double(sides[1]) <= maxPixels && (sides[2] == 1 || sides[2] == 3);
         if (fits.status == 0 && fair)
             return {type, int(sides[2]), cv::Size(int(sides[0]), int(sides[1]))};
     }

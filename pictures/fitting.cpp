@@ -24,7 +24,7 @@ Fit planFit(cv::Size picture, cv::Size frame, double scale)
 {
     Fit fit;
     if (scale > 0.0) {
-        fit.factor = std::min(scale / programScale, greatestEnlargement);
+        fit.factor = std::min(scale / programScale, maxEnlargement);
     } else {
         const double times =
             std::min(double(picture.width) / frame.width, double(picture.height) / frame.height);

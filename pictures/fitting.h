@@ -6,8 +6,8 @@
 
 namespace pictures
 {
-inline constexpr double programScale = 30.45;      ///< arcseconds a pixel, of the star templates
-inline constexpr double greatestEnlargement = 4.0; ///< of both sides
+inline constexpr double programScale = 30.45; ///< arcseconds a pixel, of the star templates
+inline constexpr double maxEnlargement = 4.0; ///< of both sides
 
 /// From a picture's pixels to those of the frame that is made of it.
 struct Fit {
@@ -18,15 +18,15 @@ struct Fit {
 /// @param picture size in pixels
 /// @param frame size in pixels
 /// @param scale arcseconds a pixel of the picture, which is resampled to programScale but enlarged
-/// at most greatestEnlargement times; 0 = unknown: pixels are binned by whole numbers only, so that
+/// at most maxEnlargement times; 0 = unknown: pixels are binned by whole numbers only, so that
 /// the picture comes nearest to the frame's size
 Fit planFit(cv::Size picture, cv::Size frame, double scale);
 
 /// The region, resampled. Averages of 8-bit pixels are 16-bit, 256 times the values, so that what
 /// averaging gains is kept.
 /// @param grey 8 or 16 bit, one channel
-/// @param spread before pixels are averaged, their light is spread over as much as makes one: a
-/// star narrower than that keeps its place, which would be rounded to whole pixels
+/// @param spread before pixels are averaged, their light is blurred over the width of one output
+/// pixel: a star narrower than that keeps its place, which would be rounded to whole pixels
 cv::Mat resampled(const cv::Mat &grey, const Fit &fit, bool spread = false);
 
 /// The picture in the middle of a frame, cropped, or surrounded by the level of its own sky.

@@ -15,7 +15,7 @@
 
 namespace
 {
-constexpr std::streamoff mostBytes = std::streamoff(1) << 29; // 24 megapixels of 16 bits are less
+constexpr std::streamoff maxBytes = std::streamoff(1) << 29; // 24 megapixels of 16 bits are less
 
 std::string readFile(const std::string &path, std::string &complaint)
 {
@@ -29,7 +29,7 @@ std::string readFile(const std::string &path, std::string &complaint)
     std::ifstream file(path, std::ios::binary | std::ios::ate);
     const std::streamoff size = file ? std::streamoff(file.tellg()) : -1;
     std::string bytes;
-    if (size > mostBytes) {
+    if (size > maxBytes) {
         complaint = "The file is too large.";
     } else if (size >= 0 && file.seekg(0)) {
         bytes.resize(std::size_t(size));

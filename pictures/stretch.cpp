@@ -12,7 +12,7 @@ namespace pictures
 namespace
 {
 constexpr double fullScale = 255.0;
-constexpr double leastSigma = 0.3; // of whole values without noise
+constexpr double minSigma = 0.3; // of whole values without noise
 
 template <typename Value> std::vector<std::uint32_t> counts(const cv::Mat &grey)
 {
@@ -58,7 +58,7 @@ double softening(double top, double range, double slope)
 struct Curve {
     explicit Curve(const Levels &levels) : sky(levels.sky), top(levels.most - levels.sky)
     {
-        const double sigma = std::max(levels.sigma, leastSigma);
+        const double sigma = std::max(levels.sigma, minSigma);
         slope = sigmaLevels / sigma;
         if (slope * top > fullScale - skyLevel)
             soft = softening(top, fullScale - skyLevel, slope);

@@ -22,9 +22,8 @@ PictureReport recognisePicture(const std::string &name, const PictureFile &pictu
     options.utcSeconds = wishes.date.value_or(picture.date.value_or(now));
     options.hemisphere = wishes.hemisphere;
     if (wishes.scale) {
-        options.leastScale = wishes.scale->first / scaleMargin;
-        options.greatestScale =
-            std::min(wishes.scale->second * scaleMargin, recognition::coarsestScale);
+        options.minScale = wishes.scale->first / scaleMargin;
+        options.maxScale = std::min(wishes.scale->second * scaleMargin, recognition::coarsestScale);
     }
     using Clock = std::chrono::steady_clock;
     const Clock::time_point start = Clock::now();

@@ -13,7 +13,7 @@ using recognition::PixelPlace;
 using recognition::Recognition;
 
 const cv::Scalar matchedColour(90, 220, 90), otherColour(130, 130, 130), poleColour(70, 70, 255);
-constexpr std::size_t mostNames = 24;
+constexpr std::size_t maxNames = 24;
 constexpr int shift = 4; // OpenCV takes sixteenths of pixels
 
 /// Measures that fit pictures of every size.
@@ -105,7 +105,7 @@ void drawStars(cv::Mat &picture, const PictureReport &report, const Pen &pen)
         const DetectedStar &star = report.extraction.stars[match.detected];
         const double radius = ringRadius(star, pen);
         ring(picture, star.x, star.y, radius, matchedColour, pen.width);
-        if (names++ < mostNames)
+        if (names++ < maxNames)
             writeName(picture, recognition::starName(match.catalogue), star.x + radius + 2.0,
                       star.y + 4.0 * pen.unit, pen, matchedColour);
     }

@@ -60,11 +60,11 @@ Indices agreeing(const std::vector<EarthView> &views, const FixedPoint &point)
 // The largest set of frames that agrees on one point, tried from every pair.
 Indices largestAgreement(const std::vector<EarthView> &views, const std::vector<double> &turns)
 {
-    constexpr double leastPairTurn = 5.0; // degrees
+    constexpr double minPairTurn = 5.0; // degrees
     Indices best;
     for (std::size_t i = 0; i < views.size(); ++i)
         for (std::size_t k = i + 1; k < views.size(); ++k) {
-            if (std::abs(wrapped(turns[i] - turns[k])) < leastPairTurn)
+            if (std::abs(wrapped(turns[i] - turns[k])) < minPairTurn)
                 continue;
             const auto point = fixedPointOf(views, {i, k});
             if (!point)
@@ -117,7 +117,7 @@ std::optional<Consensus> consensusOf(const Turns &turns)
     for (const std::size_t i : used)
         usedTurns.push_back(turns.degrees[i]);
     const std::optional<FixedPoint> without = fixedPointOf(turns.views, used);
-    if (!without || spanOf(usedTurns) < leastTurn)
+    if (!without || spanOf(usedTurns) < minTurn)
         return std::nullopt;
     return Consensus{*without, used};
 }
@@ -165,7 +165,7 @@ Axis axisOfTurns(const std::vector<Recognition> &given)
     for (std::size_t i = 0; i < frames.size(); ++i)
         axis.turns[numbers[i]] = wrapped(turns.degrees[i]);
     axis.totalTurn = spanOf(turns.degrees);
-    if (axis.totalTurn < leastTurn) {
+    if (axis.totalTurn < minTurn) {
         axis.status = AxisStatus::TooLittleTurn;
         return axis;
     }

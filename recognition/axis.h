@@ -16,13 +16,13 @@
 namespace recognition
 {
 /// Least turn from the first to the last of the frames' angles, degrees.
-inline constexpr double leastTurn = 15.0;
+inline constexpr double minTurn = 15.0;
 
 enum class AxisStatus {
     Found,
     TooFewFrames,    ///< fewer than two recognised frames
     DifferentFrames, ///< not of one camera: size, mirroring, hemisphere or scale differ
-    TooLittleTurn,   ///< less than `leastTurn` in all
+    TooLittleTurn,   ///< less than `minTurn` in all
     Bumped           ///< the frames do not agree on one axis, and no majority does
 };
 

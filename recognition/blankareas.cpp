@@ -15,8 +15,8 @@ namespace
 constexpr int block = 8;          // pixels
 constexpr float flatRange = 0.5f; // values
 constexpr float likeFlat = 2.5f;  // values: the seams of compressed pictures
-constexpr double mostFlat = 0.6;  // part of the sky, or of the picture
-constexpr int leastSky = 4;       // blocks a side
+constexpr double maxFlat = 0.6;   // part of the sky, or of the picture
+constexpr int minSky = 4;         // blocks a side
 constexpr float structured = -1.0f;
 
 struct Range {
@@ -80,12 +80,12 @@ cv::Rect structuredArea(const cv::Mat1f &flat)
 bool isNoiseFreeSky(const cv::Mat1f &flat)
 {
     const cv::Rect sky = structuredArea(flat);
-    if (sky.width < leastSky || sky.height < leastSky)
+    if (sky.width < minSky || sky.height < minSky)
         return true;
     const cv::Mat1f inside = flat(sky);
     const auto between =
         std::count_if(inside.begin(), inside.end(), [](float value) { return value > structured; });
-    return double(between) > mostFlat * double(inside.total());
+    return double(between) > maxFlat * double(inside.total());
 }
 
 void blankLike(cv::Mat1f part, float value)
@@ -107,7 +107,7 @@ FlatAreas blankFlatAreas(cv::Mat1f &image, float saturated)
     }
     const auto bright = std::count_if(flat.begin(), flat.end(),
                                       [saturated](float value) { return value > saturated; });
-    if (count == 0 || double(bright) > mostFlat * double(flat.total()) || isNoiseFreeSky(flat))
+    if (count == 0 || double(bright) > maxFlat * double(flat.total()) || isNoiseFreeSky(flat))
         return {};
     for (int j = 0; j < flat.rows; ++j)
         for (int i = 0; i < flat.cols; ++i) {

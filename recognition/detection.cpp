@@ -13,9 +13,9 @@ namespace
 {
 constexpr double kernelSigma = 0.9; // pixels of the picture: between stars of 1.5 and 4 pixels
 constexpr int kernelSize = 5;
-constexpr std::size_t mostPeaks = 2000;
+constexpr std::size_t maxPeaks = 2000;
 constexpr std::size_t largestRegion = 4000; // pixels
-constexpr double mostLight = 0.2;           // part of the picture above the threshold
+constexpr double maxLight = 0.2;            // part of the picture above the threshold
 constexpr std::size_t sampled = 10000;      // pixels that the smoothed noise is measured by
 
 // Alone: the four pixels beside it have less than this share of its light together. Those of a star
@@ -119,8 +119,8 @@ std::vector<cv::Point> highestPeaks(const cv::Mat1f &image, float limit)
     });
     std::stable_sort(peaks.begin(), peaks.end(),
                      [&image](cv::Point a, cv::Point b) { return image(a) > image(b); });
-    if (peaks.size() > mostPeaks)
-        peaks.resize(mostPeaks);
+    if (peaks.size() > maxPeaks)
+        peaks.resize(maxPeaks);
     return peaks;
 }
 
@@ -208,7 +208,7 @@ Detection detect(const cv::Mat1f &normalised, double blankShare, int bin, double
     out.result = DetectionResult::TooMuchLight;
     const auto bright =
         std::count_if(sample.begin(), sample.end(), [limit](float value) { return value > limit; });
-    if (double(bright) > mostLight * double(sample.size()))
+    if (double(bright) > maxLight * double(sample.size()))
         return out;
     out.result = DetectionResult::Done;
     HalfHeightRegions regions(image);

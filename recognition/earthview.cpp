@@ -13,7 +13,7 @@ namespace
 using astrometry::Vector3;
 using Linear = EarthView::Linear;
 
-constexpr double leastOwnError = 1e-3 * astrometry::arcsecond; // so that weights are finite
+constexpr double minOwnError = 1e-3 * astrometry::arcsecond; // so that weights are finite
 
 // Unknowns: pixel offset (x, y) and direction (x, y).
 constexpr std::size_t unknowns = 4;
@@ -167,8 +167,8 @@ EarthView::EarthView(const Recognition &frame, PixelPlace pixel)
     const Covariance whole = frame.mapping.covarianceAt(pixel);
     error = scale * std::sqrt(0.5 * (whole.xx + whole.yy));
     own = onTheSky(values, frame.mapping.ownCovarianceAt(pixel));
-    own.xx += leastOwnError * leastOwnError;
-    own.yy += leastOwnError * leastOwnError;
+    own.xx += minOwnError * minOwnError;
+    own.yy += minOwnError * minOwnError;
 }
 
 EarthView::Point EarthView::at(PixelPlace pixel) const

@@ -46,15 +46,15 @@ void keepBrightest(std::vector<Candidate> &candidates, std::size_t most)
 DetectionResult search(cv::Mat1f &sky, double blankShare, int bin, const ExtractionOptions &options,
                        MeasuredStars &stars)
 {
-    const auto most = std::size_t(std::max(options.mostStars, 1));
+    const auto most = std::size_t(std::max(options.maxStars, 1));
     for (int level = 0; level <= coarserSearches; ++level) {
         Detection found = detect(sky, blankShare, bin, detectionThreshold);
         if (found.result != DetectionResult::Done)
             return level == 0 ? found.result : DetectionResult::Done;
         keepBrightest(found.candidates, candidatesAStar * most + 100);
-        stars.add(found, bin, options.leastSnr, most);
+        stars.add(found, bin, options.minSnr, most);
         const bool enough = stars.isWidthSure() && stars.fwhm() < widthToCoarsen * bin;
-        if (enough || sky.cols / 2 < leastSide || sky.rows / 2 < leastSide)
+        if (enough || sky.cols / 2 < minSide || sky.rows / 2 < minSide)
             break;
         sky = halved(sky);
         bin *= 2;
@@ -64,7 +64,7 @@ DetectionResult search(cv::Mat1f &sky, double blankShare, int bin, const Extract
 
 ExtractionStatus verdict(const Extraction &found, const ExtractionOptions &options)
 {
-    const bool few = found.stars.size() < std::size_t(std::max(options.leastStars, 0));
+    const bool few = found.stars.size() < std::size_t(std::max(options.minStars, 0));
     if (found.stars.size() >= starsForShape) {
         if (found.elongation > longTrail)
             return ExtractionStatus::Trailed;
@@ -113,8 +113,8 @@ Extraction extractStars(const cv::Mat &frame, const ExtractionOptions &options)
                                                            : ExtractionStatus::Black;
         return out;
     }
-    const double leastNoise = quantisationNoise / (bin * std::sqrt(double(frame.channels())));
-    const std::optional<SkyBackground> background = SkyBackground::measure(sky, float(leastNoise));
+    const double minNoise = quantisationNoise / (bin * std::sqrt(double(frame.channels())));
+    const std::optional<SkyBackground> background = SkyBackground::measure(sky, float(minNoise));
     if (!background) {
         out.status = ExtractionStatus::NoSky;
         return out;

@@ -27,13 +27,13 @@ enum class ExtractionStatus {
     NoSky,        ///< structure everywhere: not the sky at night
     OutOfFocus,   ///< `fwhm` above `ExtractionOptions::widestFwhm`
     Trailed,      ///< most stars are elongated, `elongation` times as long as wide
-    TooFewStars   ///< fewer than `ExtractionOptions::leastStars`
+    TooFewStars   ///< fewer than `ExtractionOptions::minStars`
 };
 
 struct ExtractionOptions {
-    int mostStars = 200;      ///< the brightest are kept
-    int leastStars = 6;       ///< below it the status is TooFewStars
-    double leastSnr = 4.5;    ///< fainter ones are left out
+    int maxStars = 200;       ///< the brightest are kept
+    int minStars = 6;         ///< below it the status is TooFewStars
+    double minSnr = 4.5;      ///< fainter ones are left out
     double widestFwhm = 10.0; ///< pixels
 };
 

@@ -56,7 +56,7 @@ FieldStars::FieldStars(const std::vector<std::size_t> &catalogueIndices,
 {
     for (std::size_t i = 0; i < places.size(); ++i) {
         const double forward = dot(places[i], plane.forward);
-        if (forward > leastForward)
+        if (forward > minForward)
             stars.push_back(
                 {catalogueIndices[i],
                  places[i],

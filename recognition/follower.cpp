@@ -68,7 +68,7 @@ void Follower::enrol(const Recognition &recognition)
 {
     roster.clear();
     for (const MatchedStar &star : recognition.matched)
-        if (roster.size() < 2 * given.mostStars)
+        if (roster.size() < 2 * given.maxStars)
             roster.push_back(star.catalogue);
     refreshPlaces(recognition.utcSeconds);
 }
@@ -116,7 +116,7 @@ Follower::Measured Follower::measure(const cv::Mat &frame, const std::vector<Tar
     Measured found;
     for (const Target &target : expected) {
         const PixelPlace place = {target.place.x + shift.x, target.place.y + shift.y};
-        if (found.tried == given.mostStars)
+        if (found.tried == given.maxStars)
             break;
         if (!isInside(place, frame, given.windowRadius + 1.0))
             continue;
@@ -141,7 +141,7 @@ std::optional<Recognition> Follower::byLastFrame(const cv::Mat &frame, double ut
         return std::nullopt;
     Measured found = measure(frame, expected, *shift);
     const double enough =
-        std::max(foundPart * static_cast<double>(found.tried), static_cast<double>(leastStars));
+        std::max(foundPart * static_cast<double>(found.tried), static_cast<double>(minStars));
     if (static_cast<double>(found.stars.size()) < enough)
         return std::nullopt;
     std::vector<Correspondence> known;
@@ -168,8 +168,8 @@ RecognitionOptions Follower::narrowed(RecognitionOptions options) const
 {
     options.hemisphere = last->hemisphere;
     options.mirrored = last->mirrored;
-    options.leastScale = std::max(options.leastScale, last->scale * (1.0 - knownScale));
-    options.greatestScale = std::min(options.greatestScale, last->scale * (1.0 + knownScale));
+    options.minScale = std::max(options.minScale, last->scale * (1.0 - knownScale));
+    options.maxScale = std::min(options.maxScale, last->scale * (1.0 + knownScale));
     return options;
 }
 

@@ -18,15 +18,15 @@ namespace recognition
 struct FollowerOptions {
     /// As for `recognise`; utcSeconds is replaced by each frame's own time.
     RecognitionOptions recognition;
-    int windowRadius = 6;       ///< pixels about a star's expected place, 4 to 64
-    int searchRadius = 24;      ///< pixels, for the brightest ones, which show how the field moved
-    std::size_t mostStars = 30; ///< measured in a frame, at least leastStars
+    int windowRadius = 6;      ///< pixels about a star's expected place, 4 to 64
+    int searchRadius = 24;     ///< pixels, for the brightest ones, which show how the field moved
+    std::size_t maxStars = 30; ///< measured in a frame, at least minStars
 };
 
-/// Looks only at windows about the stars of the last frame, as long as they are found there;
-/// otherwise the whole frame is searched, first with the scale, mirroring and hemisphere that were
-/// found before, then, in the first such frame and every second one after it, blind. Frames of
-/// another size than before are searched blind. Between frames the field may shift by
+/// Measures only windows around the stars of the last frame, as long as they are found there. If
+/// they are not, searches the whole frame with the scale, mirroring and hemisphere that were found
+/// before and, in every other such frame, beginning with the first, without them too. Frames of
+/// another size than before are searched without them. Between frames the field may shift by
 /// `searchRadius`, and turn by as much as leaves its stars in their windows: half a degree. Not for
 /// two threads at a time.
 class Follower

@@ -70,9 +70,9 @@ ExtractionStatus checkFrame(const cv::Mat &frame)
                       (frame.channels() == 1 || frame.channels() == 3);
     if (frame.dims != 2 || frame.empty() || !kind)
         return ExtractionStatus::BadFrame;
-    if (frame.cols < leastSide || frame.rows < leastSide)
+    if (frame.cols < minSide || frame.rows < minSide)
         return ExtractionStatus::BadFrame;
-    if (double(frame.cols) * double(frame.rows) > mostPixels)
+    if (double(frame.cols) * double(frame.rows) > maxPixels)
         return ExtractionStatus::TooLarge;
     return ExtractionStatus::Ok;
 }

@@ -8,8 +8,8 @@
 
 namespace recognition
 {
-inline constexpr int leastSide = 32;         ///< pixels
-inline constexpr double mostPixels = 24.5e6; ///< 24 megapixels as makers count them
+inline constexpr int minSide = 32;          ///< pixels
+inline constexpr double maxPixels = 24.5e6; ///< 24 megapixels as makers count them
 
 /// Ok, BadFrame or TooLarge.
 ExtractionStatus checkFrame(const cv::Mat &frame);

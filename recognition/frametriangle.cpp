@@ -22,24 +22,24 @@ double chordSquared(CentredPixel a, CentredPixel b, double squaredFocalLength)
 }
 } // namespace
 
-std::vector<ScaleRange> scaleRanges(double farthest, double leastScale, double greatestScale)
+std::vector<ScaleRange> scaleRanges(double farthest, double minScale, double maxScale)
 {
     std::vector<ScaleRange> ranges;
     // Drawn out by 1 + (farthest scale)^2 / 2 at most.
     const auto drawnOut = [farthest](double scale) {
         return 0.5 * farthest * farthest * scale * scale;
     };
-    double least = leastScale;
-    while (least < greatestScale) {
+    double least = minScale;
+    while (least < maxScale) {
         double greatest = farthest > 0.0
                               ? std::sqrt(2.0 * (drawnOut(least) + 2.0 * shapeChange)) / farthest
-                              : greatestScale;
-        greatest = std::min(greatest, greatestScale);
+                              : maxScale;
+        greatest = std::min(greatest, maxScale);
         ranges.push_back({least, greatest});
         least = greatest;
     }
     if (ranges.empty())
-        ranges.push_back({leastScale, greatestScale});
+        ranges.push_back({minScale, maxScale});
     return ranges;
 }
 

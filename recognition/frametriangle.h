@@ -23,7 +23,7 @@ struct ScaleRange {
 };
 
 /// @param farthest of the triangle's corners from the frame's centre, pixels
-std::vector<ScaleRange> scaleRanges(double farthest, double leastScale, double greatestScale);
+std::vector<ScaleRange> scaleRanges(double farthest, double minScale, double maxScale);
 
 /// A triangle of the frame, its stars in the order of the sides opposite them, longest
 /// first.

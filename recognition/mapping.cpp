@@ -14,14 +14,14 @@ using astrometry::Vector3;
 using Complex = SkyMapping::Complex;
 
 constexpr double jacobianStep = 1e-3; // pixels, of the Jacobian's differences
-constexpr int mostNewtonSteps = 25;
+constexpr int maxNewtonSteps = 25;
 constexpr double newtonTolerance = 1e-7; // pixels
 constexpr double inverseReach = 50.0;    // units from the frame's centre, of the inverse
 
 Complex polynomialAt(MappingModel terms,
-                     const std::array<Complex, SkyMapping::mostTerms> &coefficients, Complex z)
+                     const std::array<Complex, SkyMapping::maxTerms> &coefficients, Complex z)
 {
-    Complex values[SkyMapping::mostTerms];
+    Complex values[SkyMapping::maxTerms];
     evaluateTerms(terms, z, values);
     Complex sum = 0.0;
     for (std::size_t i = 0; i < termCount(terms); ++i)
@@ -106,7 +106,7 @@ Complex SkyMapping::planeOf(PixelPlace pixel) const
 std::optional<Complex> SkyMapping::planeOf(const Vector3 &sky) const
 {
     const double forward = dot(sky, axes.forward);
-    if (!(forward > leastForward))
+    if (!(forward > minForward))
         return std::nullopt;
     return Complex(dot(sky, axes.right) / forward, dot(sky, axes.down) / forward);
 }
@@ -139,7 +139,7 @@ std::optional<PixelPlace> SkyMapping::pixelOf(const Vector3 &sky) const
     if (!wanted)
         return std::nullopt;
     PixelPlace pixel = centre;
-    for (int i = 0; i < mostNewtonSteps; ++i) {
+    for (int i = 0; i < maxNewtonSteps; ++i) {
         const Complex error = *wanted - planeOf(pixel);
         const Jacobian j = jacobianAt(pixel);
         const double determinant = j.determinant();
@@ -178,14 +178,14 @@ Covariance SkyMapping::ownCovarianceAt(PixelPlace pixel) const
 // In the plane, radians squared, by the noise alone.
 Covariance SkyMapping::covarianceAt(Complex units, const Solution &solution) const
 {
-    Complex values[mostTerms];
+    Complex values[maxTerms];
     evaluateTerms(solution.terms, units, values);
     const std::size_t n = termCount(solution.terms);
-    std::array<Complex, mostTerms> columns = {}; // the values' row times the inverse
+    std::array<Complex, maxTerms> columns = {}; // the values' row times the inverse
     double leverage = 0.0;
     for (std::size_t k = 0; k < n; ++k) {
         for (std::size_t i = 0; i < n; ++i)
-            columns[k] += values[i] * solution.inverse[i * mostTerms + k];
+            columns[k] += values[i] * solution.inverse[i * maxTerms + k];
         leverage += std::real(columns[k] * std::conj(values[k]));
     }
     const Covariance &noise = solution.noise;
@@ -196,7 +196,7 @@ Covariance SkyMapping::covarianceAt(Complex units, const Solution &solution) con
             0.5 * (noise.xx + noise.yy) - std::hypot(0.5 * (noise.xx - noise.yy), noise.xy);
         const Complex twist = Complex(0.0, 1.0) * solution.coefficients[1] * columns[*term] /
                               std::abs(solution.coefficients[1]);
-        const double share = lesser / std::real(solution.inverse[*term * mostTerms + *term]);
+        const double share = lesser / std::real(solution.inverse[*term * maxTerms + *term]);
         c.xx -= share * twist.real() * twist.real();
         c.xy -= share * twist.real() * twist.imag();
         c.yy -= share * twist.imag() * twist.imag();

@@ -41,7 +41,7 @@ class SkyMapping
 {
 public:
     using Complex = std::complex<double>;
-    static constexpr std::size_t mostTerms = 10;
+    static constexpr std::size_t maxTerms = 10;
 
     /// The direction that a pixel shows: a unit vector of the celestial intermediate frame of
     /// date. Pixels far outside the frame extrapolate the polynomial.
@@ -77,20 +77,20 @@ public:
     /// One model's polynomial and how well it is known.
     struct Solution {
         MappingModel terms = MappingModel::Similarity;
-        std::array<Complex, mostTerms> coefficients = {};
+        std::array<Complex, maxTerms> coefficients = {};
         /// Inverse of the normal matrix, row by row; times `noise` the coefficients' covariance if
         /// they were all free.
-        std::array<Complex, mostTerms *mostTerms> inverse = {};
+        std::array<Complex, maxTerms *maxTerms> inverse = {};
         Covariance noise; ///< radians squared, of a star of unit weight, in the plane
     };
     /// Another model for the same stars.
     struct Rival : Solution {
         double probability = 0.0; ///< that it is this one's model
     };
-    static constexpr std::size_t mostRivals = 5;
+    static constexpr std::size_t maxRivals = 5;
     struct Fit : Solution {
         double floor2 = 0.0; ///< radians squared, added on each axis
-        std::array<Rival, mostRivals> rivals = {};
+        std::array<Rival, maxRivals> rivals = {};
     };
     SkyMapping() = default;
     /// @param unit pixels

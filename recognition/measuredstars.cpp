@@ -89,7 +89,7 @@ bool isSaturated(const cv::Mat1f &values, double brightest, double scale, double
 }
 
 struct MeasuredStars::Way {
-    double sigma, mostSigma; // pixels
+    double sigma, maxSigma; // pixels
     bool fixedSigma;
 };
 
@@ -115,7 +115,7 @@ MeasuredStars::Way MeasuredStars::wayFor(const Candidate &candidate, int searchB
 }
 
 std::optional<MeasuredStar> MeasuredStars::measure(const Candidate &candidate, const Way &way,
-                                                   double noiseScale, double leastSnr) const
+                                                   double noiseScale, double minSnr) const
 {
     // Wide enough for a star that turns out half as wide again.
     const double sigma = way.fixedSigma ? way.sigma : 1.5 * std::max(way.sigma, 1.0);
@@ -131,12 +131,12 @@ std::optional<MeasuredStar> MeasuredStars::measure(const Candidate &candidate, c
     replaceHotPixels(window.values, float(noise));
     const std::optional<Moments> moments =
         measureMoments(window.values, candidate.x - window.left, candidate.y - window.top,
-                       {way.sigma, way.fixedSigma, way.mostSigma, std::max(3.0, 2.0 * way.sigma)});
+                       {way.sigma, way.fixedSigma, way.maxSigma, std::max(3.0, 2.0 * way.sigma)});
     if (!moments)
         return std::nullopt;
     const double snr = moments->flux / (fluxNoise(*moments) * noise * noiseScale);
     const double fwhm = fwhmOf(moments->variance);
-    if (!(snr >= leastSnr) || !(fwhm >= leastFwhm))
+    if (!(snr >= minSnr) || !(fwhm >= minFwhm))
         return std::nullopt;
     const int x = int(std::lround(moments->x)), y = int(std::lround(moments->y));
     const int reach = std::max(2, int(fwhm));
@@ -164,7 +164,7 @@ void MeasuredStars::learnWidth()
     frameSigma = sigmaOf(*middle);
 }
 
-void MeasuredStars::add(const Detection &found, int searchBin, double leastSnr, std::size_t most)
+void MeasuredStars::add(const Detection &found, int searchBin, double minSnr, std::size_t most)
 {
     bool bright = true;
     for (const Candidate &candidate : found.candidates) {
@@ -177,7 +177,7 @@ void MeasuredStars::add(const Detection &found, int searchBin, double leastSnr, 
         if (known(candidate.x, candidate.y))
             continue;
         const std::optional<MeasuredStar> measured =
-            measure(candidate, wayFor(candidate, searchBin), found.noiseScale, leastSnr);
+            measure(candidate, wayFor(candidate, searchBin), found.noiseScale, minSnr);
         if (measured && insideEdges(measured->star, frame) &&
             !known(measured->star.x, measured->star.y))
             stars.push_back(*measured);

@@ -12,7 +12,7 @@
 
 namespace recognition
 {
-constexpr double leastFwhm = 0.7; ///< pixels; narrower is a hot pixel
+constexpr double minFwhm = 0.7; ///< pixels; narrower is a hot pixel
 
 struct MeasuredStar {
     DetectedStar star;
@@ -30,7 +30,7 @@ public:
     /// Measures what was found in a picture, brightest first, until there are `most` stars. Those
     /// that were known before are not measured again.
     /// @param searchBin pixels of the frame along one of that picture's
-    void add(const Detection &found, int searchBin, double leastSnr, std::size_t most);
+    void add(const Detection &found, int searchBin, double minSnr, std::size_t most);
 
     const std::vector<MeasuredStar> &all() const { return stars; }
     /// Median of the brighter ones' widths; 0 without stars.
@@ -48,7 +48,7 @@ private:
 
     Way wayFor(const Candidate &candidate, int searchBin) const;
     std::optional<MeasuredStar> measure(const Candidate &candidate, const Way &way,
-                                        double noiseScale, double leastSnr) const;
+                                        double noiseScale, double minSnr) const;
     bool known(double x, double y) const;
     void learnWidth();
 

@@ -13,13 +13,13 @@ namespace
 {
 using Complex = std::complex<double>;
 
-constexpr double biweightSigmas = 6.0;  // Tukey's constant, in sigmas of a star
-constexpr double leastVariance = 1e-24; // radians squared a pixel squared
-constexpr double roundStars = 12.0;     // so many stars' worth of roundness in the noise
+constexpr double biweightSigmas = 6.0; // Tukey's constant, in sigmas of a star
+constexpr double minVariance = 1e-24;  // radians squared a pixel squared
+constexpr double roundStars = 12.0;    // so many stars' worth of roundness in the noise
 
 Complex residualOf(const SkyMapping::Solution &fit, const FitPoint &point)
 {
-    std::array<Complex, SkyMapping::mostTerms> terms;
+    std::array<Complex, SkyMapping::maxTerms> terms;
     evaluateTerms(fit.terms, point.pixel, terms.data());
     Complex residual = point.plane;
     for (std::size_t i = 0; i < termCount(fit.terms); ++i)
@@ -49,7 +49,7 @@ Candidate judged(const PolynomialFit &fit)
 void addRivals(std::vector<Candidate> &candidates)
 {
     const Candidate &best = candidates.front();
-    std::array<double, SkyMapping::mostRivals> odds = {};
+    std::array<double, SkyMapping::maxRivals> odds = {};
     double sum = 1.0;
     for (std::size_t i = 1; i < candidates.size(); ++i) {
         const double worse = std::min(candidates[i].criterion - best.criterion,
@@ -75,7 +75,7 @@ std::optional<PolynomialFit> fitBestModel(const std::vector<FitPoint> &points)
     constexpr MappingModel models[] = {MappingModel::Similarity, MappingModel::Radial,
                                        MappingModel::Affine,     MappingModel::AffineRadial,
                                        MappingModel::Quadratic,  MappingModel::Cubic};
-    static_assert(std::size(models) == SkyMapping::mostRivals + 1);
+    static_assert(std::size(models) == SkyMapping::maxRivals + 1);
     std::vector<Candidate> candidates;
     for (const MappingModel model : models) {
         const auto terms = static_cast<double>(termCount(model));
@@ -104,7 +104,7 @@ void weighRobustly(const SkyMapping::Solution &fit, std::vector<FitPoint> &point
     const double used = 0.5 * static_cast<double>(freeNumbers(fit.terms));
     const double freedom = std::max(n - used, 1.0) / n;
     // Stars without any error leave no scatter to judge by.
-    const double variance = std::max(medianOf(squares) / medianOfTwoAxes / freedom, leastVariance);
+    const double variance = std::max(medianOf(squares) / medianOfTwoAxes / freedom, minVariance);
     for (std::size_t i = 0; i < points.size(); ++i) {
         const double u = squares[i] / (biweightSigmas * biweightSigmas * variance);
         points[i].weight = u < 1.0 ? (1.0 - u) * (1.0 - u) : 0.0;

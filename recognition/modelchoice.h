@@ -16,8 +16,8 @@ std::optional<PolynomialFit> fitBestModel(const std::vector<FitPoint> &points);
 /// Sets the weights to Tukey's biweight, for the scatter that the median residual shows.
 void weighRobustly(const SkyMapping::Solution &fit, std::vector<FitPoint> &points);
 
-/// The residuals' covariance for a centroid variance of 1. Few stars know their own scatter badly:
-/// it is drawn towards a round one, and widened as Student's distribution is.
+/// The residuals' covariance for a centroid variance of 1. Of few stars the scatter is poorly
+/// known: it is drawn towards a round one, and widened as Student's distribution is.
 Covariance noiseOf(const SkyMapping::Solution &fit, const std::vector<FitPoint> &points);
 
 /// The middle one, of an even number the upper one. At least one value.

@@ -28,11 +28,11 @@ Triple triple(std::size_t a, std::size_t b, std::size_t c)
 void addCircle(const std::vector<Vector3> &places, const Vector3 &centre, double radius,
                std::vector<Triple> &triples)
 {
-    const double leastCosine = std::cos(radius);
+    const double minCosine = std::cos(radius);
     std::array<std::size_t, starsInCircle> found;
     std::size_t n = 0;
     for (std::size_t i = 0; i < places.size() && n < starsInCircle; ++i)
-        if (dot(places[i], centre) >= leastCosine)
+        if (dot(places[i], centre) >= minCosine)
             found[n++] = i;
     for (std::size_t a = 0; a < n; ++a)
         for (std::size_t b = a + 1; b < n; ++b)

@@ -28,8 +28,8 @@ struct Shape {
 };
 
 /// Shapes nearer than this to isosceles are left out: the order of their stars is not sure.
-inline constexpr double leastAsymmetry = 0.015;
-inline constexpr double leastShortestRatio = 0.12;
+inline constexpr double minAsymmetry = 0.015;
+inline constexpr double minShortestRatio = 0.12;
 bool isUsable(const Shape &shape);
 
 class PatternIndex
@@ -67,8 +67,8 @@ const HemisphereIndex &hemisphereIndex(Hemisphere hemisphere);
 
 inline bool isUsable(const Shape &shape)
 {
-    return shape.shortestRatio > leastShortestRatio && 1.0 - shape.middleRatio > leastAsymmetry &&
-           shape.middleRatio - shape.shortestRatio > leastAsymmetry;
+    return shape.shortestRatio > minShortestRatio && 1.0 - shape.middleRatio > minAsymmetry &&
+           shape.middleRatio - shape.shortestRatio > minAsymmetry;
 }
 
 inline int PatternIndex::rowOf(double ratio)

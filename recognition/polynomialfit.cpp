@@ -9,28 +9,28 @@ namespace recognition
 namespace
 {
 using Complex = std::complex<double>;
-constexpr std::size_t mostTerms = SkyMapping::mostTerms;
-using Matrix = std::array<Complex, mostTerms * mostTerms>;
-using Vector = std::array<Complex, mostTerms>;
+constexpr std::size_t maxTerms = SkyMapping::maxTerms;
+using Matrix = std::array<Complex, maxTerms * maxTerms>;
+using Vector = std::array<Complex, maxTerms>;
 
 // Decomposes the lower triangle in place; false if the matrix is singular to working precision.
 bool decompose(Matrix &a, std::size_t n)
 {
-    constexpr double leastPivot = 1e-9; // of the diagonal: coordinates are of order 1
+    constexpr double minPivot = 1e-9; // of the diagonal: coordinates are of order 1
     for (std::size_t k = 0; k < n; ++k) {
-        double pivot = a[k * mostTerms + k].real();
+        double pivot = a[k * maxTerms + k].real();
         const double before = pivot;
         for (std::size_t j = 0; j < k; ++j)
-            pivot -= std::norm(a[k * mostTerms + j]);
-        if (!(pivot > leastPivot * before))
+            pivot -= std::norm(a[k * maxTerms + j]);
+        if (!(pivot > minPivot * before))
             return false;
         const double root = std::sqrt(pivot);
-        a[k * mostTerms + k] = root;
+        a[k * maxTerms + k] = root;
         for (std::size_t i = k + 1; i < n; ++i) {
-            Complex sum = a[i * mostTerms + k];
+            Complex sum = a[i * maxTerms + k];
             for (std::size_t j = 0; j < k; ++j)
-                sum -= a[i * mostTerms + j] * std::conj(a[k * mostTerms + j]);
-            a[i * mostTerms + k] = sum / root;
+                sum -= a[i * maxTerms + j] * std::conj(a[k * maxTerms + j]);
+            a[i * maxTerms + k] = sum / root;
         }
     }
     return true;
@@ -40,13 +40,13 @@ void solve(const Matrix &l, std::size_t n, Vector &x)
 {
     for (std::size_t i = 0; i < n; ++i) {
         for (std::size_t j = 0; j < i; ++j)
-            x[i] -= l[i * mostTerms + j] * x[j];
-        x[i] /= l[i * mostTerms + i];
+            x[i] -= l[i * maxTerms + j] * x[j];
+        x[i] /= l[i * maxTerms + i];
     }
     for (std::size_t i = n; i-- > 0;) {
         for (std::size_t j = i + 1; j < n; ++j)
-            x[i] -= std::conj(l[j * mostTerms + i]) * x[j];
-        x[i] /= l[i * mostTerms + i];
+            x[i] -= std::conj(l[j * maxTerms + i]) * x[j];
+        x[i] /= l[i * maxTerms + i];
     }
 }
 
@@ -58,7 +58,7 @@ void addToNormals(const Vector &terms, std::size_t n, const FitPoint &point, Mat
         const Complex weighted = weight * std::conj(terms[i]);
         right[i] += weighted * point.plane;
         for (std::size_t j = 0; j <= i; ++j)
-            normal[i * mostTerms + j] += weighted * terms[j];
+            normal[i * maxTerms + j] += weighted * terms[j];
     }
 }
 
@@ -72,10 +72,10 @@ void removeTwist(SkyMapping::Solution &solution)
         return;
     const Complex phase = solution.coefficients[1] / scale;
     const double twist = std::imag(std::conj(phase) * solution.coefficients[*term]);
-    const double variance = std::real(solution.inverse[*term * mostTerms + *term]);
+    const double variance = std::real(solution.inverse[*term * maxTerms + *term]);
     for (std::size_t i = 0; i < termCount(solution.terms); ++i)
         solution.coefficients[i] -=
-            Complex(0.0, twist / variance) * phase * solution.inverse[i * mostTerms + *term];
+            Complex(0.0, twist / variance) * phase * solution.inverse[i * maxTerms + *term];
 }
 } // namespace
 
@@ -101,7 +101,7 @@ std::optional<PolynomialFit> fitPolynomial(MappingModel model, const std::vector
         unit[column] = 1.0;
         solve(normal, n, unit);
         for (std::size_t row = 0; row < n; ++row)
-            result.fit.inverse[row * mostTerms + column] = unit[row];
+            result.fit.inverse[row * maxTerms + column] = unit[row];
     }
     removeTwist(result.fit);
     for (const FitPoint &point : points) {

@@ -57,7 +57,7 @@ Vector3 Pose::skyOf(CentredPixel pixel) const
 std::optional<CentredPixel> Pose::pixelOf(const Vector3 &sky) const
 {
     const Vector3 camera = apply(cameraFromSky, sky);
-    if (!(camera.z > leastForward))
+    if (!(camera.z > minForward))
         return std::nullopt;
     const double factor = focalLength / camera.z;
     return CentredPixel{camera.x * factor, camera.y * factor};

@@ -13,7 +13,7 @@
 namespace recognition
 {
 /// The cosine of 80 degrees: directions as far as that from the frame's centre have no place in it.
-inline constexpr double leastForward = 0.1736;
+inline constexpr double minForward = 0.1736;
 
 struct CentredPixel {
     double x, y;

@@ -16,17 +16,16 @@ namespace
 {
 using astrometry::Vector3;
 
-constexpr std::size_t mostStars = 1500; // more would only cost time
+constexpr std::size_t maxStars = 1500; // more would only cost time
 
 bool areValid(int width, int height, const RecognitionOptions &options)
 {
     constexpr double year1900 = -2208988800.0;
     constexpr double year2200 = 7258118400.0;
-    return width > 0 && height > 0 && width <= 65536 && height <= 65536 &&
-           options.leastScale > 0.0 && options.greatestScale >= options.leastScale &&
-           options.greatestScale <= coarsestScale && options.acceptedChance > 0.0 &&
-           options.acceptedChance < 1.0 && options.utcSeconds >= year1900 &&
-           options.utcSeconds <= year2200;
+    return width > 0 && height > 0 && width <= 65536 && height <= 65536 && options.minScale > 0.0 &&
+           options.maxScale >= options.minScale && options.maxScale <= coarsestScale &&
+           options.acceptedChance > 0.0 && options.acceptedChance < 1.0 &&
+           options.utcSeconds >= year1900 && options.utcSeconds <= year2200;
 }
 
 bool isFinite(const DetectedStar &star)
@@ -43,7 +42,7 @@ struct UsableStars {
 UsableStars usableStars(const std::vector<DetectedStar> &stars, int width, int height)
 {
     UsableStars usable;
-    for (std::size_t i = 0; i < stars.size() && usable.stars.size() < mostStars; ++i) {
+    for (std::size_t i = 0; i < stars.size() && usable.stars.size() < maxStars; ++i) {
         const DetectedStar &s = stars[i];
         const bool inside = isFinite(s) && s.x > -1.0 && s.y > -1.0 && s.x < width && s.y < height;
         if (!inside)
@@ -74,11 +73,11 @@ std::vector<std::size_t> fieldOf(const SearchResult &found, const FrameStars &fr
     constexpr double margin = 1.1;
     const Pose &pose = found.hypothesis.pose;
     const Vector3 &forward = pose.cameraFromSky.rows[2];
-    const double leastCosine = std::cos(std::atan(margin * frame.radius() / pose.focalLength));
+    const double minCosine = std::cos(std::atan(margin * frame.radius() / pose.focalLength));
     const std::vector<Vector3> places = stars.placesAt(utcSeconds);
     std::vector<std::size_t> field;
     for (std::size_t i = 0; i < places.size(); ++i)
-        if (dot(places[i], forward) > leastCosine)
+        if (dot(places[i], forward) > minCosine)
             field.push_back(stars.catalogueIndex(i));
     return field;
 }
@@ -97,7 +96,7 @@ Recognition recognise(const std::vector<DetectedStar> &stars, int width, int hei
         return result;
     }
     const UsableStars usable = usableStars(stars, width, height);
-    if (usable.stars.size() < leastStars) {
+    if (usable.stars.size() < minStars) {
         result.status = RecognitionStatus::TooFewStars;
         return result;
     }
@@ -112,7 +111,7 @@ Recognition recognise(const std::vector<DetectedStar> &stars, int width, int hei
     const std::optional<Refined> refined =
         refine({usable.stars, width, height}, found->hypothesis.mirrored, known,
                fieldOf(*found, frame, poleStars, options.utcSeconds), options);
-    if (!refined || refined->matched.size() < leastStars)
+    if (!refined || refined->matched.size() < minStars)
         return result;
     result = outcomeOf(*refined, {usable.stars, width, height}, found->hemisphere, found->logChance,
                        stars.size(), options);

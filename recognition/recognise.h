@@ -34,8 +34,8 @@ struct RecognitionOptions {
     std::optional<Hemisphere> hemisphere; ///< absent: both are tried
     /// Arcseconds a pixel at the frame's centre, above 0. Triangles of stars miss the scale by some
     /// thousandths, so that a range should be wider than one percent.
-    double leastScale = 2.0;
-    double greatestScale = 70.0;      ///< not below leastScale, up to `coarsestScale`
+    double minScale = 2.0;
+    double maxScale = 70.0;           ///< not below minScale, up to `coarsestScale`
     std::optional<bool> mirrored;     ///< absent: both are tried
     std::optional<Observer> observer; ///< absent: no refraction is applied
     double acceptedChance = 1e-9;     ///< greatest chance probability that is accepted, 0 to 1
@@ -43,14 +43,14 @@ struct RecognitionOptions {
 
 enum class RecognitionStatus {
     Recognised,
-    TooFewStars,   ///< fewer than `leastStars` were given
+    TooFewStars,   ///< fewer than `minStars` were given
     NoMatch,       ///< enough stars, but no part of the pole's sky is like them
     InvalidOptions ///< out of range: width or height (1 to 65536), scales (see RecognitionOptions),
                    ///< date (1900 to 2200), accepted chance (above 0, below 1)
 };
 
 /// Fewer stars than this are never recognised.
-inline constexpr std::size_t leastStars = 6;
+inline constexpr std::size_t minStars = 6;
 /// So many are recognised in nearly every frame, if they are real and the brightest; with fewer it
 /// is luck. `reason` asks for these.
 inline constexpr std::size_t enoughStars = 8;

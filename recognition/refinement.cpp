@@ -18,7 +18,7 @@ using Complex = std::complex<double>;
 
 constexpr int rounds = 10;
 constexpr double firstRadius = 5.0;     // pixels, of the first match
-constexpr double leastRadius = 1.5;     // pixels
+constexpr double minRadius = 1.5;       // pixels
 constexpr double matchSigmas = 6.0;     // of the residuals' scatter
 constexpr double blendWidths = 3.0;     // full widths within which two stars disturb each other
 constexpr double centroidFloor = 0.03;  // pixels, one axis
@@ -211,7 +211,7 @@ bool Refiner::iterate()
             return false;
         best = *chosen;
         const double next =
-            std::clamp(matchSigmas * residualPixels(fitted), leastRadius, firstRadius);
+            std::clamp(matchSigmas * residualPixels(fitted), minRadius, firstRadius);
         const bool settled =
             round > 2 && matches.size() == before && std::abs(next - radius) < 0.05 * radius;
         radius = next;

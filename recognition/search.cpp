@@ -18,10 +18,10 @@ using astrometry::Vector3;
 
 constexpr std::size_t brightestInFrame = 12;
 constexpr std::size_t brightestInPart = 7;
-constexpr double leastSide = 8.0;        // pixels
+constexpr double minSide = 8.0;          // pixels
 constexpr double lensTolerance = 0.0025; // relative, of a side, by distortion
 constexpr double widestTangent = 1.2;    // of the angle off the centre, of a triangle's corner
-constexpr double greatestPattern = 20.5 * astrometry::degree; // the index has none wider
+constexpr double maxPattern = 20.5 * astrometry::degree; // the index has none wider
 
 struct Sky {
     Hemisphere hemisphere;
@@ -85,7 +85,7 @@ bool Search::tryPattern(const FrameTriangle &t, const Sky &sky, const Pattern &p
     if (!pose)
         return false;
     const double exactScale = 1.0 / (pose->focalLength * astrometry::arcsecond);
-    if (exactScale < options.leastScale || exactScale > options.greatestScale)
+    if (exactScale < options.minScale || exactScale > options.maxScale)
         return false;
     const Hypothesis hypothesis = {*pose,
                                    mirrored,
@@ -113,11 +113,11 @@ bool Search::tryTriangle(const std::array<std::size_t, 3> &stars)
     const double c = distance(pixels[2], pixels[0]);
     const double shortest = std::min({a, b, c});
     const double longest = std::max({a, b, c});
-    if (!(shortest > leastSide))
+    if (!(shortest > minSide))
         return false;
-    const double least = options.leastScale * astrometry::arcsecond;
-    const double greatest = std::min({options.greatestScale * astrometry::arcsecond,
-                                      greatestPattern / longest, widestTangent / farthest});
+    const double least = options.minScale * astrometry::arcsecond;
+    const double greatest = std::min(
+        {options.maxScale * astrometry::arcsecond, maxPattern / longest, widestTangent / farthest});
     const double centroids = frame.centroidError() / longest;
     const double tolerance = lensTolerance + shapeChange + 1.3 * centroids;
     const double sideTolerance = lensTolerance + 1.3 * frame.centroidError() / shortest;

@@ -21,7 +21,7 @@ namespace
 constexpr int columnStride = 2;  // between the pixels that are looked at
 constexpr int tallPicture = 800; // pixels: its tiles hold enough in every fourth row
 constexpr int usualTile = 64;    // pixels
-constexpr int leastTile = 16;    // pixels
+constexpr int minTile = 16;      // pixels
 constexpr int filterTiles = 3;   // a median of 3 x 3 tiles against bright stars
 constexpr double filterLimit = 0.0;
 constexpr float clipSigmas = 2.5f;
@@ -29,7 +29,7 @@ constexpr float cutOffDepth = 2.0f; // times the noise: one pixel in a thousand 
 
 int tilesAlong(int pixels)
 {
-    const int tile = std::clamp(pixels / 4, leastTile, usualTile);
+    const int tile = std::clamp(pixels / 4, minTile, usualTile);
     return std::max(1, static_cast<int>(std::lround(double(pixels) / tile)));
 }
 
@@ -152,7 +152,7 @@ private:
 
 // SEP's mode of whole values is good to some tenths of a value only, and its noise has the gradient
 // within a tile in it. Mean and scatter of the pixels without stars are much better.
-void settle(const cv::Mat1f &tile, float leastNoise, Plane &plane)
+void settle(const cv::Mat1f &tile, float minNoise, Plane &plane)
 {
     constexpr int rounds = 5;
     constexpr float settled = 0.03f;        // of the noise
@@ -164,7 +164,7 @@ void settle(const cv::Mat1f &tile, float leastNoise, Plane &plane)
             return;
         const float shift = sums.sum() / n;
         const float variance = (sums.squares() / n - shift * shift) / keptVariance;
-        const float sigma = std::max(std::sqrt(std::max(variance, 0.0f)), leastNoise);
+        const float sigma = std::max(std::sqrt(std::max(variance, 0.0f)), minNoise);
         const bool still =
             std::abs(shift) < settled * sigma && std::abs(plane.sigma - sigma) < settled * sigma;
         plane.level += shift;
@@ -185,13 +185,13 @@ bool isCutOff(const cv::Mat1f &tile, const Plane &plane)
 }
 
 // A first plane without slopes.
-Plane levelPlane(const cv::Mat1f &tile, float level, float sigma, float leastNoise)
+Plane levelPlane(const cv::Mat1f &tile, float level, float sigma, float minNoise)
 {
     Plane plane;
     plane.level = level;
-    plane.sigma = std::max(sigma, leastNoise);
+    plane.sigma = std::max(sigma, minNoise);
     if (!isCutOff(tile, plane)) {
-        settle(tile, leastNoise, plane);
+        settle(tile, minNoise, plane);
         return plane;
     }
     // This is no normal distribution: its mean, and the scatter of its brighter half.
@@ -213,13 +213,13 @@ public:
                       cv::Rect(0, 0, looked.cols, looked.rows));
     }
     /// Improves levels and noise twice: the first levels give the slopes within the tiles.
-    void refine(cv::Mat1f &levels, cv::Mat1f &sigma, float leastNoise) const
+    void refine(cv::Mat1f &levels, cv::Mat1f &sigma, float minNoise) const
     {
         cv::Mat1b cutOff(levels.size());
         for (int j = 0; j < levels.rows; ++j)
             for (int i = 0; i < levels.cols; ++i) {
                 const cv::Mat1f tile = area(i, j);
-                const Plane plane = levelPlane(tile, levels(j, i), sigma(j, i), leastNoise);
+                const Plane plane = levelPlane(tile, levels(j, i), sigma(j, i), minNoise);
                 cutOff(j, i) = isCutOff(tile, plane);
                 levels(j, i) = plane.level;
                 sigma(j, i) = plane.sigma;
@@ -235,7 +235,7 @@ public:
                                0.5f * float(size.width - 1),
                                0.5f * float(size.height - 1)};
                 if (!cutOff(j, i))
-                    settle(area(i, j), leastNoise, plane);
+                    settle(area(i, j), minNoise, plane);
                 levels(j, i) = plane.level;
                 sigma(j, i) = plane.sigma;
             }
@@ -247,7 +247,7 @@ private:
 };
 
 // One sigma of a pixel as the differences of neighbours have it.
-double noiseOfNeighbours(const cv::Mat1f &image, double leastNoise)
+double noiseOfNeighbours(const cv::Mat1f &image, double minNoise)
 {
     std::vector<float> steps;
     for (int y = 0; y < image.rows; y += 6)
@@ -255,10 +255,10 @@ double noiseOfNeighbours(const cv::Mat1f &image, double leastNoise)
             if (image(y, x) > blankValue && image(y, x - 1) > blankValue)
                 steps.push_back(std::abs(image(y, x) - image(y, x - 1)));
     if (steps.empty())
-        return leastNoise;
+        return minNoise;
     const auto middle = steps.begin() + std::ptrdiff_t(steps.size() / 2);
     std::nth_element(steps.begin(), middle, steps.end());
-    return std::max(1.4826 / std::sqrt(2.0) * double(*middle), leastNoise);
+    return std::max(1.4826 / std::sqrt(2.0) * double(*middle), minNoise);
 }
 
 struct BackgroundDeleter {
@@ -282,7 +282,7 @@ BackgroundKeeper roughBackground(cv::Mat1f &picture, cv::Size tile)
 }
 } // namespace
 
-std::optional<SkyBackground> SkyBackground::measure(const cv::Mat1f &image, float leastNoise)
+std::optional<SkyBackground> SkyBackground::measure(const cv::Mat1f &image, float minNoise)
 {
     const int rowStep = rowStride(image);
     const cv::Mat1f looked = thinned(image, rowStep, columnStride);
@@ -302,13 +302,13 @@ std::optional<SkyBackground> SkyBackground::measure(const cv::Mat1f &image, floa
     cv::Mat1f sigma(measured->ny, measured->nx, measured->sigma);
     if (!cv::checkRange(back) || !cv::checkRange(sigma))
         return std::nullopt;
-    Tiles(looked, tile).refine(back, sigma, leastNoise);
+    Tiles(looked, tile).refine(back, sigma, minNoise);
     out.level = withRing(back);
     out.inverseNoise = withRing(cv::Mat1f(1.0f / sigma));
-    out.neighbourNoise = noiseOfNeighbours(looked, double(leastNoise));
+    out.neighbourNoise = noiseOfNeighbours(looked, double(minNoise));
     // Beyond the outer nodes a straight line may reach 0.
     for (float &value : out.inverseNoise)
-        value = std::clamp(value, 1e-9f, 1.0f / leastNoise);
+        value = std::clamp(value, 1e-9f, 1.0f / minNoise);
     return out;
 }
 

@@ -12,9 +12,9 @@ class SkyBackground
 {
 public:
     /// @param image pixels at or below `blankValue` are left out
-    /// @param leastNoise what the noise is at least, values
+    /// @param minNoise what the noise is at least, values
     /// @return nothing if there is no memory or hardly a pixel that counts
-    static std::optional<SkyBackground> measure(const cv::Mat1f &image, float leastNoise);
+    static std::optional<SkyBackground> measure(const cv::Mat1f &image, float minNoise);
 
     float levelAt(double x, double y) const { return valueAt(level, x, y); }
     float noiseAt(double x, double y) const { return 1.0f / valueAt(inverseNoise, x, y); }

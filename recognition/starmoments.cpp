@@ -14,10 +14,10 @@ namespace
 constexpr double pi = 3.141592653589793;
 constexpr double gaussianWidth = 2.3548200450309493; // full width at half maximum over sigma
 constexpr double pixelVariance = 1.0 / 12.0;
-constexpr double leastSigma = 0.7; // pixels, of the weight: narrower it would skip between pixels
-constexpr int mostSteps = 24;
+constexpr double minSigma = 0.7; // pixels, of the weight: narrower it would skip between pixels
+constexpr int maxSteps = 24;
 constexpr double settledShift = 0.001, settledSigma = 0.005;
-constexpr double mostElongation = 10.0;
+constexpr double maxElongation = 10.0;
 
 struct Sums {
     double light = 0, x = 0, y = 0, xx = 0, yy = 0, xy = 0;
@@ -72,7 +72,7 @@ StarShape shapeOf(const Sums &sum, double sigma)
 {
     const double xx = sum.xx / sum.light, yy = sum.yy / sum.light, xy = sum.xy / sum.light;
     const double middle = 0.5 * (xx + yy), half = std::hypot(0.5 * (xx - yy), xy);
-    const double widest = sigma * sigma * mostElongation * mostElongation;
+    const double widest = sigma * sigma * maxElongation * maxElongation;
     const auto bare = [&](double weighted) {
         const double inverse = 1.0 / std::max(weighted, 1e-3) - 1.0 / (sigma * sigma);
         return inverse > 1.0 / widest ? 1.0 / inverse : widest;
@@ -88,7 +88,7 @@ std::optional<Moments> measureMoments(const cv::Mat1f &values, double x, double 
     Weight weight;
     double atX = x, atY = y;
     // The greatest may be below the least, where the frame's stars are as narrow as that.
-    double sigma = std::min(std::max(options.sigma, leastSigma), options.mostSigma);
+    double sigma = std::min(std::max(options.sigma, minSigma), options.maxSigma);
     for (int step = 0;; ++step) {
         const Sums sum = weight.apply(values, atX, atY, sigma);
         if (!(sum.light > 0.0))
@@ -100,10 +100,10 @@ std::optional<Moments> measureMoments(const cv::Mat1f &values, double x, double 
         const double wanted =
             options.fixedSigma
                 ? sigma
-                : std::clamp(std::sqrt(star), leastSigma, std::min(options.mostSigma, 1.5 * sigma));
+                : std::clamp(std::sqrt(star), minSigma, std::min(options.maxSigma, 1.5 * sigma));
         const bool settled =
             std::hypot(dx, dy) < settledShift && std::abs(wanted - sigma) < settledSigma * sigma;
-        if (settled || step == mostSteps) {
+        if (settled || step == maxSteps) {
             const double flux = sum.light * factor;
             return Moments{atX,
                            atY,
@@ -111,11 +111,11 @@ std::optional<Moments> measureMoments(const cv::Mat1f &values, double x, double 
                            sigma,
                            shape.mean,
                            std::sqrt(std::clamp(shape.larger / std::max(shape.smaller, 1e-3), 1.0,
-                                                mostElongation * mostElongation))};
+                                                maxElongation * maxElongation))};
         }
         atX += std::clamp(dx, -sigma, sigma);
         atY += std::clamp(dy, -sigma, sigma);
-        if (std::hypot(atX - x, atY - y) > options.mostShift)
+        if (std::hypot(atX - x, atY - y) > options.maxShift)
             return std::nullopt;
         sigma = wanted;
     }

@@ -17,10 +17,10 @@ struct Moments {
 };
 
 struct MomentsOptions {
-    double sigma;     ///< to begin with, pixels
-    bool fixedSigma;  ///< the weight keeps its width
-    double mostSigma; ///< pixels
-    double mostShift; ///< pixels from the start; beyond it there is nothing to be found
+    double sigma;    ///< to begin with, pixels
+    bool fixedSigma; ///< the weight keeps its width
+    double maxSigma; ///< pixels
+    double maxShift; ///< pixels from the start; beyond it there is nothing to be found
 };
 
 /// @param values background 0

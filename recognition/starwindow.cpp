@@ -13,11 +13,11 @@ namespace recognition
 {
 namespace
 {
-constexpr int leastRadius = 2, widestWindow = 64; // pixels
+constexpr int minRadius = 2, widestWindow = 64; // pixels
 constexpr int margin = 6; // pixels about the place that the star's light may reach into
-constexpr double leastSnr = 5.0;
-constexpr double usualSigma = 1.2;       // pixels, to begin with
-constexpr double leastNoise = 0.2886751; // rounding to whole values
+constexpr double minSnr = 5.0;
+constexpr double usualSigma = 1.2;     // pixels, to begin with
+constexpr double minNoise = 0.2886751; // rounding to whole values
 
 struct Level {
     float background, noise;
@@ -37,7 +37,7 @@ Level levelOf(const cv::Mat1f &values, int channels)
     const float background = medianOf(sorted);
     for (float &value : sorted)
         value = std::abs(value - background);
-    const double least = leastNoise / std::sqrt(double(channels));
+    const double least = minNoise / std::sqrt(double(channels));
     return {background, std::max(1.4826f * medianOf(sorted), float(least))};
 }
 
@@ -68,7 +68,7 @@ cv::Point brightestPlace(const cv::Mat1f &values, double x, double y, int radius
 
 std::optional<DetectedStar> measureStar(const cv::Mat &frame, double x, double y, int radius)
 {
-    if (checkFrame(frame) != ExtractionStatus::Ok || radius < leastRadius || radius > widestWindow)
+    if (checkFrame(frame) != ExtractionStatus::Ok || radius < minRadius || radius > widestWindow)
         return std::nullopt;
     Window window = readWindow(frame, x, y, radius + margin);
     if (window.values.empty())
@@ -91,7 +91,7 @@ std::optional<DetectedStar> measureStar(const cv::Mat &frame, double x, double y
     const bool inside = moments->x >= edge && moments->y >= edge &&
                         moments->x <= window.values.cols - 1 - edge &&
                         moments->y <= window.values.rows - 1 - edge;
-    if (!inside || !(snr >= leastSnr) || !(fwhm >= leastFwhm))
+    if (!inside || !(snr >= minSnr) || !(fwhm >= minFwhm))
         return std::nullopt;
     return DetectedStar{moments->x + window.left,
                         moments->y + window.top,

@@ -13,16 +13,16 @@ namespace
 using astrometry::Vector3;
 using Complex = std::complex<double>;
 
-constexpr std::size_t mostOddsStars = 80; // of the frame, that odds are computed from
-constexpr double distractors = 0.55;      // part of the frame's stars that need be in no catalogue
+constexpr std::size_t maxOddsStars = 80; // of the frame, that odds are computed from
+constexpr double distractors = 0.55;     // part of the frame's stars that need be in no catalogue
 const double logOfStray = std::log(distractors); // odds of a star that is in no catalogue
 constexpr double lensDistortion = 0.0015;        // pixels a pixel of distance from the known stars
 constexpr double searchSigmas = 3.5;
 constexpr double hopeless = -7.0;      // of the logarithm of the odds: given up
 constexpr std::size_t trialStars = 18; // by which the odds must have risen
-constexpr double leastTrialOdds = 2.0; // of the logarithm
+constexpr double minTrialOdds = 2.0;   // of the logarithm
 constexpr double unevenness = 1.5;     // of the density of stars, in the trial
-constexpr double leastExpected = 3.0;  // stars in a frame
+constexpr double minExpected = 3.0;    // stars in a frame
 constexpr int densityColumns = 6;
 constexpr int densityRows = 5;
 
@@ -128,7 +128,7 @@ Verifier::Verifier(const Hypothesis &hypothesis, const FrameStars &frameStars,
       frame(frameStars),
       stars(poleStars),
       places(starPlaces),
-      brightest(brightestFor(std::min(frame.size(), mostOddsStars), given.pose, frame, stars)),
+      brightest(brightestFor(std::min(frame.size(), maxOddsStars), given.pose, frame, stars)),
       middle(0.0)
 {
     for (const auto &[star, catalogue] : given.triangle)
@@ -197,10 +197,10 @@ Verifier::Nearest Verifier::nearest(const Prediction &prediction) const
 std::size_t Verifier::expectedStars() const
 {
     const Vector3 &forward = given.pose.cameraFromSky.rows[2];
-    const double leastCosine = std::cos(std::atan(1.1 * frame.radius() / given.pose.focalLength));
+    const double minCosine = std::cos(std::atan(1.1 * frame.radius() / given.pose.focalLength));
     const auto last = places.begin() + static_cast<std::ptrdiff_t>(brightest);
     const auto n = std::count_if(places.begin(), last,
-                                 [&](const Vector3 &p) { return dot(p, forward) > leastCosine; });
+                                 [&](const Vector3 &p) { return dot(p, forward) > minCosine; });
     return static_cast<std::size_t>(n);
 }
 
@@ -230,7 +230,7 @@ bool Verifier::passesTrial()
     const double cap = capArea * given.pose.focalLength * given.pose.focalLength; // pixels
     const double expected =
         std::max(static_cast<double>(brightest) * std::min(unevenness * frame.area() / cap, 1.0),
-                 leastExpected);
+                 minExpected);
     std::vector<Pair> pairs;
     double logOdds = 0.0;
     std::size_t looked = 0;
@@ -242,15 +242,15 @@ bool Verifier::passesTrial()
         if (logOdds < hopeless)
             return false;
     }
-    return logOdds >= leastTrialOdds;
+    return logOdds >= minTrialOdds;
 }
 
 Verification Verifier::run()
 {
     Verification result;
     result.pairs.assign(given.triangle.begin(), given.triangle.end());
-    const double expected = std::max(static_cast<double>(expectedStars()), leastExpected);
-    const std::size_t n = std::min(frame.size(), mostOddsStars);
+    const double expected = std::max(static_cast<double>(expectedStars()), minExpected);
+    const std::size_t n = std::min(frame.size(), maxOddsStars);
     for (std::size_t i = 0; i < n; ++i)
         if (!ofTriangle(i))
             result.logOdds += addStar(i, expected, result.pairs);

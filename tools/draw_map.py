@@ -90,7 +90,7 @@ def drawn(uses, home):
     width = max(len(t) for t in ours)
     for target in sorted(ours, key=lambda t: (-rank[home[t]], t)):
         others = sorted(ours[target], key=lambda t: (-rank[home[t]], t))
-        lines.append(f"{target:<{width}}  {home[target] + '/':<16}{'─▶ ' + ', '.join(others) if others else ''}"
+        lines.append(f"{target:<{width}}  {home[target] + '/':<17}{'─▶ ' + ', '.join(others) if others else ''}"
                      .rstrip())
     return "```\n" + "\n".join(lines) + "\n```"
 

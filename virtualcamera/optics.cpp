@@ -8,12 +8,12 @@ namespace
 {
 // Focal length in pixels.
 const double focalLength = 1.0 / std::tan(pixelScale * arcsecond);
-constexpr double leastForward = 0.1736; // cos 80 degrees
+constexpr double minForward = 0.1736; // cos 80 degrees
 } // namespace
 
 std::optional<Point> project(const Vector3 &camera)
 {
-    if (!(camera.z > leastForward))
+    if (!(camera.z > minForward))
         return std::nullopt;
     const double factor = focalLength / camera.z;
     return Point{centreX + camera.x * factor, centreY + camera.y * factor};

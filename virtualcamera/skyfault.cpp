@@ -29,7 +29,7 @@ std::string_view pattern(SkyFaultCode code)
     case SkyFaultCode::NoAssignment:
         return "not of the form key = value";
     case SkyFaultCode::KeyBeforeSections:
-        return "stands before any section";
+        return "appears before any section";
     case SkyFaultCode::UnknownKey:
         return "unknown key in [%1]";
     case SkyFaultCode::DuplicateKey:

@@ -12,7 +12,7 @@ namespace virtualmount
 {
 namespace
 {
-constexpr int mostDraws = 100;
+constexpr int maxDraws = 100;
 constexpr double edge = 40.0; // minimum distance of a template star from the edges, pixels
 
 double poleErrorDegrees(const SkyState &state)
@@ -41,7 +41,7 @@ void beginExercise(SkyState &state, double utcSeconds, std::mt19937 &random)
 {
     std::uniform_real_distribution<double> bolt(-exerciseBolts, exerciseBolts);
     std::uniform_real_distribution<double> roll(-180.0, 180.0);
-    for (int draw = 0; draw < mostDraws; ++draw) {
+    for (int draw = 0; draw < maxDraws; ++draw) {
         state.boltAltitude = 0.0;
         turnBolt(state, &SkyState::boltAltitude, bolt(random));
         state.boltAzimuth = 0.0;

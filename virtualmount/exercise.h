@@ -20,7 +20,7 @@ constexpr double alignedError = 10.0 / 60.0;
 /// the pole, and the template stars A and B are well inside the picture. If few or no readings
 /// qualify, for example with the camera far off the axis, the last of a limited number of draws is
 /// used.
-/// \param utcSeconds UTC of the sky, seconds since 1970
+/// @param utcSeconds UTC of the sky, seconds since 1970
 void beginExercise(virtualsky::SkyState &state, double utcSeconds, std::mt19937 &random);
 
 /// Seeded from the system's random source.

@@ -32,7 +32,7 @@ const char *sourceText(Code code)
     case Code::NoAssignment:
         return QT_TRANSLATE_NOOP("SkyFault", "not of the form key = value");
     case Code::KeyBeforeSections:
-        return QT_TRANSLATE_NOOP("SkyFault", "stands before any section");
+        return QT_TRANSLATE_NOOP("SkyFault", "appears before any section");
     case Code::UnknownKey:
         return QT_TRANSLATE_NOOP("SkyFault", "unknown key in [%1]");
     case Code::DuplicateKey:

@@ -40,7 +40,7 @@ public:
     /// Beside a program that does not use the built-in star angles: the truth leaves them out.
     void leaveOutAngles();
     /// The panels scroll if they are higher than a screen allows.
-    /// \param height pixels of the screen that are available to windows
+    /// @param height pixels of the screen that are available to windows
     void fitScreen(int height);
     /// Fits the primary screen, and divides it between this window and the program's.
     WindowGeometries shareScreen();

@@ -17,7 +17,7 @@ namespace virtualmount
 namespace
 {
 /// Milliseconds to wait for an answer from a process that is starting.
-constexpr int startPatience = 5000;
+constexpr int startTimeout = 5000;
 constexpr char raiseRequest[] = "raise\n";
 constexpr char findRequest[] = "find\n";
 constexpr char answer[] = "here\n";
@@ -60,11 +60,11 @@ bool answers(const QString &name, const char *request)
 {
     QLocalSocket socket;
     socket.connectToServer(name);
-    if (!socket.waitForConnected(startPatience))
+    if (!socket.waitForConnected(startTimeout))
         return false;
     socket.write(request);
     while (!socket.canReadLine())
-        if (!socket.waitForReadyRead(startPatience))
+        if (!socket.waitForReadyRead(startTimeout))
             return false;
     return socket.readLine() == answer;
 }
@@ -79,8 +79,7 @@ OneInstance::OneInstance(const QString &skyFile)
 
 bool OneInstance::isOpenElsewhere(bool raise)
 {
-    for (const QDeadlineTimer deadline(startPatience); !deadline.hasExpired();
-         QThread::msleep(50)) {
+    for (const QDeadlineTimer deadline(startTimeout); !deadline.hasExpired(); QThread::msleep(50)) {
         if (lock.tryLock() || lock.error() != QLockFile::LockFailedError)
             return false;
         if (answers(name, raise ? raiseRequest : findRequest))

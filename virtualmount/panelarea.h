@@ -15,7 +15,7 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
-    /// \param height pixels of the screen that are available to windows; at first, any number is
+    /// @param height pixels of the screen that are available to windows; at first, any number is
     void setScreenHeight(int height);
 
 private:

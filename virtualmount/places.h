@@ -15,9 +15,9 @@ struct WindowGeometries {
     QRect program, mount;
 };
 
-/// \param screen the part of the screen that is available to windows
-/// \param mountSize the size that the mount's window needs
-/// \param frame the decoration that the window manager adds around a window
+/// @param screen the part of the screen that is available to windows
+/// @param mountSize the size that the mount's window needs
+/// @param frame the decoration that the window manager adds around a window
 WindowGeometries sharedScreen(const QRect &screen, const QSize &mountSize, const QMargins &frame);
 
 /// For scripts: "beside" or "behind", and a geometry for the program and for the mount in the

@@ -39,7 +39,7 @@ QWidget *MountWindow::truthPanel()
     truthButton->setMinimumWidth(widest);
     auto *const resetButton = new QPushButton(tr("&Reset"), panel);
     nameWidget(*resetButton, QStringLiteral("reset"), tr("Reset to the values at the start"),
-               tr("Sets everything as it was at first"));
+               tr("Resets everything to the values at the start"));
     connect(resetButton, &QPushButton::clicked, this, &MountWindow::reset);
     const auto line = [&](const char *name, const QString &says, const QString &longest) {
         auto *const label = new QLabel(panel);

@@ -11,7 +11,7 @@
 class ReturnPresses : public QObject
 {
 public:
-    /// \param window must already have all its buttons; those in its dialogs are ignored
+    /// @param window must already have all its buttons; those in its dialogs are ignored
     explicit ReturnPresses(QWidget &window) : QObject(&window)
     {
         for (QAbstractButton *const button : window.findChildren<QAbstractButton *>())

@@ -21,8 +21,8 @@ namespace
 using assistant::Stage;
 using assistant::Status;
 
-constexpr int closingPatience = 20000; // milliseconds
-constexpr int ticks = 60;              // milliseconds, a few of the window's timer
+constexpr int closingTimeout = 20000; // milliseconds
+constexpr int ticks = 60;             // milliseconds, a few of the window's timer
 constexpr QSize windowSize(800, 480);
 
 double rounded(double degrees)
@@ -103,7 +103,7 @@ WindowMount::~WindowMount()
 {
     hands.reset();
     window.reset();
-    instrument->close(closingPatience);
+    instrument->close(closingTimeout);
 }
 
 void WindowMount::enterSettings()

@@ -12,7 +12,7 @@ int reportFalseFrames(int first, int count)
 {
     struct Row {
         int frames = 0, recognised = 0, withoutStars = 0;
-        double leastChance = 1.0; // of those that were recognised
+        double minChance = 1.0; // of those that were recognised
     };
     std::array<Row, falseKinds> rows;
     for (int number = first; number < first + count; ++number) {
@@ -27,10 +27,10 @@ int reportFalseFrames(int first, int count)
             recognition::recognise(stars.stars, frame.picture.cols, frame.picture.rows, options);
         Row &row = rows[std::size_t(frame.kind)];
         ++row.frames;
-        row.withoutStars += stars.stars.size() < recognition::leastStars;
+        row.withoutStars += stars.stars.size() < recognition::minStars;
         if (found.status == recognition::RecognitionStatus::Recognised) {
             ++row.recognised;
-            row.leastChance = std::min(row.leastChance, found.chance);
+            row.minChance = std::min(row.minChance, found.chance);
             std::fprintf(stderr, "frame %d (%s): %zu of %zu stars, chance %g\n", number,
                          nameOf(frame.kind).c_str(), found.matched.size(), stars.stars.size(),
                          found.chance);

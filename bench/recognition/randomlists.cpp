@@ -13,8 +13,8 @@ namespace
 using recognition::DetectedStar;
 using recognition::PixelPlace;
 
-constexpr int mostStars = 60;
-constexpr int leastStarsOfShort = 5, mostStarsOfShort = 12;
+constexpr int maxStars = 60;
+constexpr int minStarsOfShort = 5, maxStarsOfShort = 12;
 constexpr std::uint64_t firstShort = 1000000; // list
 
 class ListDraw
@@ -41,8 +41,8 @@ struct Layout {
 int starsOf(std::uint64_t number, ListDraw &draw)
 {
     const bool isShort = number >= firstShort;
-    const double least = isShort ? leastStarsOfShort + 1.0 : 1.0;
-    const double most = isShort ? mostStarsOfShort + 2.0 : mostStars + 2.0;
+    const double least = isShort ? minStarsOfShort + 1.0 : 1.0;
+    const double most = isShort ? maxStarsOfShort + 2.0 : maxStars + 2.0;
     return int(std::exp(draw.between(std::log(least), std::log(most)))) - 1;
 }
 
@@ -97,8 +97,8 @@ RandomList randomList(std::uint64_t number)
     list.height = draw.whole(1, 4000);
     list.options.utcSeconds = draw.between(1.58e9, 2.24e9); // 2020 to 2040
     if (draw.whole(0, 1) == 0) {
-        list.options.leastScale = draw.between(1.0, 100.0); // arcseconds a pixel
-        list.options.greatestScale = list.options.leastScale * draw.between(1.0, 3.0);
+        list.options.minScale = draw.between(1.0, 100.0); // arcseconds a pixel
+        list.options.maxScale = list.options.minScale * draw.between(1.0, 3.0);
     }
     if (draw.whole(0, 1) == 0)
         list.options.hemisphere =

@@ -46,8 +46,8 @@ void measureFrame(RandomSky sky, SkyPainter &painter, Timings &times)
     const cv::Mat frame = painter.frameOf(sky);
     const RecognitionOptions blind = optionsOf(sky);
     RecognitionOptions known = blind;
-    known.leastScale = virtualsky::pixelScale / 1.05;
-    known.greatestScale = virtualsky::pixelScale * 1.05;
+    known.minScale = virtualsky::pixelScale / 1.05;
+    known.maxScale = virtualsky::pixelScale * 1.05;
     Extraction stars;
     times.extraction.push_back(timeOf([&] { stars = recognition::extractStars(frame); }));
     const auto match = [&](const RecognitionOptions &options) {

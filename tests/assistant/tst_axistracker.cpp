@@ -38,7 +38,7 @@ void AxisTrackerTest::manyFramesAreFewKept()
     const auto off =
         std::hypot(tracker.axis().place.x - eye.axis().x, tracker.axis().place.y - eye.axis().y);
     QVERIFY2(off * virtualsky::pixelScale < 1.5, qPrintable(QString::number(off)));
-    QVERIFY(tracker.axis().turns.size() <= AxisTracker::mostKept);
+    QVERIFY(tracker.axis().turns.size() <= AxisTracker::maxKept);
     QVERIFY(!tracker.isNewAngle(eye.lookAt(45.0)));
     QVERIFY(tracker.isNewAngle(eye.lookAt(100.0)));
 }
@@ -49,14 +49,14 @@ void AxisTrackerTest::everySharpFrameCounts()
     Eye eye(plainNight());
     AxisTracker tracker;
     std::vector<double> sigmas;
-    for (std::size_t round = 0; round <= AxisTracker::mostAtPlace; ++round) {
+    for (std::size_t round = 0; round <= AxisTracker::maxAtPlace; ++round) {
         for (int angle = 0; angle <= 16; angle += 2) {
             const Recognition frame = eye.lookAt(angle);
-            QCOMPARE(tracker.wants(frame), round < AxisTracker::mostAtPlace);
+            QCOMPARE(tracker.wants(frame), round < AxisTracker::maxAtPlace);
             QCOMPARE(tracker.isNewAngle(frame), round == 0);
             QVERIFY(tracker.add(frame) == AxisTracker::Event::None);
         }
-        QCOMPARE(tracker.frames(), 9 * std::min(round + 1, AxisTracker::mostAtPlace));
+        QCOMPARE(tracker.frames(), 9 * std::min(round + 1, AxisTracker::maxAtPlace));
         sigmas.push_back(tracker.axis().sigmaArcseconds);
     }
     const QString said = QStringLiteral("%1, %2, %3").arg(sigmas[0]).arg(sigmas[1]).arg(sigmas[3]);

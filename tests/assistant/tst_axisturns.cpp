@@ -66,7 +66,7 @@ void AxisTurnsTest::coarserStepsLoseNothing()
     AxisTracker tracker;
     double sigma = 0.0;
     for (double angle = 0.0; angle <= 99.0; angle += 1.05) {
-        for (std::size_t i = 0; i < (angle < 16.0 ? AxisTracker::mostAtPlace : 1); ++i)
+        for (std::size_t i = 0; i < (angle < 16.0 ? AxisTracker::maxAtPlace : 1); ++i)
             QVERIFY(tracker.add(eye.lookAt(angle)) == AxisTracker::Event::None);
         if (angle >= 30.0) {
             const double now = tracker.axis().sigmaArcseconds;
@@ -76,7 +76,7 @@ void AxisTurnsTest::coarserStepsLoseNothing()
             sigma = now;
         }
     }
-    QVERIFY(tracker.axis().turns.size() <= AxisTracker::mostKept);
+    QVERIFY(tracker.axis().turns.size() <= AxisTracker::maxKept);
 }
 
 void AxisTurnsTest::slipNeedsATurn_data()

@@ -54,7 +54,7 @@ void GuideTest::stagesEndByThemselves()
     QVERIFY(status.stage == Stage::Bolts);
     QVERIFY(saysFirst(status, AdviceCode::StopTurning));
     QVERIFY(status.axis.enough);
-    QVERIFY(status.axis.turnedDegrees >= recognition::leastTurn);
+    QVERIFY(status.axis.turnedDegrees >= recognition::minTurn);
     QVERIFY(status.axis.sigmaArcseconds < enoughSigma);
     QVERIFY(isTrue(status, mount));
     QVERIFY(status.firstError.has_value());

@@ -67,14 +67,14 @@ void AssistantAlignmentTest::connectsAgainAndStartsAgain()
     desk.hands->connectCamera();
     QCOMPARE(stage.text(), QStringLiteral("Axis"));
     desk.hands->click("pushButton_connect");
-    QTRY_COMPARE_WITH_TIMEOUT(stage.text(), QStringLiteral("Camera"), longPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(stage.text(), QStringLiteral("Camera"), longTimeout);
     QCOMPARE(desk.named<QAbstractButton>("pushButton_connect").text(), QStringLiteral("Connect"));
     desk.hands->connectCamera();
     desk.hands->turnAxis();
     QVERIFY(desk.hands->number("label_totalError"));
     desk.hands->click("pushButton_startAgain");
-    QTRY_VERIFY_WITH_TIMEOUT(!desk.hands->number("label_totalError"), longPatience);
-    QTRY_COMPARE_WITH_TIMEOUT(stage.text(), QStringLiteral("Axis"), longPatience);
+    QTRY_VERIFY_WITH_TIMEOUT(!desk.hands->number("label_totalError"), longTimeout);
+    QTRY_COMPARE_WITH_TIMEOUT(stage.text(), QStringLiteral("Axis"), longTimeout);
     QVERIFY(desk.named<QLabel>("label_axisTurn").text() != QStringLiteral("—"));
 }
 
@@ -96,7 +96,7 @@ void AssistantAlignmentTest::siteEnteredLaterGivesBolts()
         QTest::keyClick(field, Qt::Key_Return);
     }
     QTest::keyClick(desk.window.get(), Qt::Key_Escape);
-    QTRY_VERIFY_WITH_TIMEOUT(desk.hands->number("label_altitudeError"), longPatience);
+    QTRY_VERIFY_WITH_TIMEOUT(desk.hands->number("label_altitudeError"), longTimeout);
     QTRY_VERIFY(!desk.named<QAbstractButton>("pushButton_site").isVisible());
 }
 

@@ -125,7 +125,7 @@ void AssistantOperationTest::fingerAloneAligns()
         return widget.mapTo(desk.window.get(), widget.rect().center());
     };
     finger.press(middle("doubleSpinBox_latitude_step3")); // held, it repeats
-    QTRY_VERIFY_WITH_TIMEOUT(latitude.value() >= 18.0, longPatience);
+    QTRY_VERIFY_WITH_TIMEOUT(latitude.value() >= 18.0, longTimeout);
     finger.lift();
     for (int i = 0; i < 20 && latitude.value() > 22.5; ++i)
         QVERIFY(finger.tap("doubleSpinBox_latitude_step0"));
@@ -137,8 +137,7 @@ void AssistantOperationTest::fingerAloneAligns()
     QVERIFY(site && site->latitude == 22.0 && site->longitude == 3.0);
 
     QVERIFY(finger.tap("pushButton_connect"));
-    QTRY_COMPARE_WITH_TIMEOUT(desk.hands->text("label_stage"), QStringLiteral("Axis"),
-                              longPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(desk.hands->text("label_stage"), QStringLiteral("Axis"), longTimeout);
     desk.hands->turnAxis(); // knobs of the mount, none of the window
     QVERIFY(finger.tap("label_picture"));
     QVERIFY(desk.named<QWidget>("largePage").isVisible() && desk.window->isFullScreen());
@@ -147,7 +146,7 @@ void AssistantOperationTest::fingerAloneAligns()
     QVERIFY(desk.named<QWidget>("largePage").isVisible());
     finger.tap(desk.window->rect().center()); // anywhere
     QVERIFY(desk.named<QWidget>("mainPage").isVisible() && !desk.window->isFullScreen());
-    QTRY_VERIFY_WITH_TIMEOUT(says(desk, AdviceCode::Aligned), longPatience);
+    QTRY_VERIFY_WITH_TIMEOUT(says(desk, AdviceCode::Aligned), longTimeout);
     QVERIFY2(desk.knobs->poleError() < 15.0, qPrintable(QString::number(desk.knobs->poleError())));
 
     auto &slider = desk.named<QAbstractSlider>("slider_exposure");
@@ -179,7 +178,7 @@ void AssistantOperationTest::fingerAloneAligns()
     QVERIFY(finger.tap("pushButton_settingsBack"));
     QVERIFY(finger.tap("pushButton_connect"));
     QTRY_COMPARE_WITH_TIMEOUT(desk.hands->text("label_stage"), QStringLiteral("Camera"),
-                              longPatience);
+                              longTimeout);
 }
 
 /// Tab, Space, letters, arrows and the function keys; the mouse rests.
@@ -200,8 +199,7 @@ void AssistantOperationTest::keysAloneAlign()
     QVERIFY(pressByKeys("pushButton_connect"));
     const auto &site = desk.window->currentSettings().site;
     QVERIFY(site && site->latitude == -34.0 && site->longitude == 149.0);
-    QTRY_COMPARE_WITH_TIMEOUT(desk.hands->text("label_stage"), QStringLiteral("Axis"),
-                              longPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(desk.hands->text("label_stage"), QStringLiteral("Axis"), longTimeout);
     desk.hands->turnAxis();
     QVERIFY(pressByKeys("pushButton_largeView"));
     QVERIFY(desk.named<QWidget>("largePage").isVisible());
@@ -212,7 +210,7 @@ void AssistantOperationTest::keysAloneAlign()
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_F11);
     QVERIFY(desk.named<QWidget>("mainPage").isVisible() && !desk.window->isFullScreen());
     desk.hands->turnBolts();
-    QTRY_VERIFY_WITH_TIMEOUT(says(desk, AdviceCode::Aligned), longPatience);
+    QTRY_VERIFY_WITH_TIMEOUT(says(desk, AdviceCode::Aligned), longTimeout);
     QVERIFY2(desk.knobs->poleError() < 15.0, qPrintable(QString::number(desk.knobs->poleError())));
 
     QVERIFY(tabTo("slider_exposure"));
@@ -237,10 +235,10 @@ void AssistantOperationTest::keysAloneAlign()
     QCOMPARE(desk.window->currentSettings().target, recognition::PoleTarget::Refracted);
     QVERIFY(pressByKeys("pushButton_settingsBack"));
     QVERIFY(pressByKeys("pushButton_startAgain"));
-    QTRY_VERIFY_WITH_TIMEOUT(hasDashes(desk), longPatience);
+    QTRY_VERIFY_WITH_TIMEOUT(hasDashes(desk), longTimeout);
     QVERIFY(pressByKeys("pushButton_connect"));
     QTRY_COMPARE_WITH_TIMEOUT(desk.hands->text("label_stage"), QStringLiteral("Camera"),
-                              longPatience);
+                              longTimeout);
 }
 
 void AssistantOperationTest::unpluggedAndBack()
@@ -248,18 +246,18 @@ void AssistantOperationTest::unpluggedAndBack()
     const Desk desk(false, true);
     desk.hands->connectCamera();
     desk.hands->turnAxis();
-    QTRY_VERIFY_WITH_TIMEOUT(hasNumbers(desk) && isTrue(desk), longPatience);
+    QTRY_VERIFY_WITH_TIMEOUT(hasNumbers(desk) && isTrue(desk), longTimeout);
     desk.knobs->edit().unplugged = true;
     desk.knobs->write();
-    QTRY_VERIFY_WITH_TIMEOUT(hasDashes(desk), longPatience);
+    QTRY_VERIFY_WITH_TIMEOUT(hasDashes(desk), longTimeout);
     QTRY_VERIFY_WITH_TIMEOUT(says(desk, AdviceCode::CameraLost) || says(desk, AdviceCode::NoCamera),
-                             longPatience);
+                             longTimeout);
     QCOMPARE(desk.hands->text("label_uncertainty"), assistantwindow::dash());
     QTest::qWait(1000);
     QVERIFY(hasDashes(desk));
     desk.knobs->edit().unplugged = false;
     desk.knobs->write();
-    QTRY_VERIFY_WITH_TIMEOUT(hasNumbers(desk), longPatience);
+    QTRY_VERIFY_WITH_TIMEOUT(hasNumbers(desk), longTimeout);
     QVERIFY2(isTrue(desk), qPrintable(desk.hands->text("label_totalError")));
     QVERIFY(!says(desk, AdviceCode::CameraLost));
 }
@@ -270,12 +268,12 @@ void AssistantOperationTest::hangsAndComesBack()
     const Desk desk(false, true);
     desk.hands->connectCamera();
     desk.hands->turnAxis();
-    QTRY_VERIFY_WITH_TIMEOUT(hasNumbers(desk) && isTrue(desk), longPatience);
+    QTRY_VERIFY_WITH_TIMEOUT(hasNumbers(desk) && isTrue(desk), longTimeout);
     {
         const Hang hang;
-        QTRY_VERIFY_WITH_TIMEOUT(hung, longPatience);
-        QTRY_VERIFY_WITH_TIMEOUT(hasDashes(desk), longPatience);
-        QTRY_VERIFY_WITH_TIMEOUT(says(desk, AdviceCode::CameraHangs), longPatience);
+        QTRY_VERIFY_WITH_TIMEOUT(hung, longTimeout);
+        QTRY_VERIFY_WITH_TIMEOUT(hasDashes(desk), longTimeout);
+        QTRY_VERIFY_WITH_TIMEOUT(says(desk, AdviceCode::CameraHangs), longTimeout);
         QElapsedTimer timer;
         timer.start();
         for (const char *const name : {"pushButton_settings", "pushButton_settingsBack"})
@@ -283,7 +281,7 @@ void AssistantOperationTest::hangsAndComesBack()
         QVERIFY(timer.elapsed() < 1000);
         QVERIFY(hasDashes(desk) && says(desk, AdviceCode::CameraHangs));
     }
-    QTRY_VERIFY_WITH_TIMEOUT(hasNumbers(desk), longPatience);
+    QTRY_VERIFY_WITH_TIMEOUT(hasNumbers(desk), longTimeout);
     QVERIFY2(isTrue(desk), qPrintable(desk.hands->text("label_totalError")));
     QVERIFY(!says(desk, AdviceCode::CameraHangs));
 }

@@ -84,12 +84,12 @@ void AssistantViewTest::zoomDoesNotFlicker()
 /// From the whole frame to the goal, on the smallest screen: 240 pixels for the picture.
 void AssistantViewTest::errorIsSeenAtEveryZoom()
 {
-    constexpr double leastLength = 16.0; // pixels, of an arrow
+    constexpr double minLength = 16.0; // pixels, of an arrow
     int level = zoomLevel(0, 1800.0);
     for (double error = 1799.0; error > 5.0; error *= 0.99) {
         level = zoomLevel(level, error);
         const double scale = closeView({}, zoomRadius(level), {500, 240}).scale; // per arcsecond
-        QVERIFY2(error * scale >= leastLength, qPrintable(QString::number(error)));
+        QVERIFY2(error * scale >= minLength, qPrintable(QString::number(error)));
         QVERIFY2(error * scale < 120.0, qPrintable(QString::number(error)));
     }
 }

@@ -21,7 +21,7 @@ private slots:
     void ends_data();
     void ends();
     void endsWithoutAStatus();
-    void eachCallHasItsPatience();
+    void eachCallHasItsTimeout();
     void patienceWithTheLibrary_data();
     void patienceWithTheLibrary();
     void linesOutliveACrash();
@@ -116,7 +116,7 @@ void ChildProcessTest::endsWithoutAStatus()
              end.fault.c_str());
 }
 
-void ChildProcessTest::eachCallHasItsPatience()
+void ChildProcessTest::eachCallHasItsTimeout()
 {
     const auto work = [](const ChildReport &report) {
         for (const char *call : {"Open", "Scan"}) {

@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include "cameracommand/lenswriting.h"
+#include "tests/support/filetext.h"
 #include "tests/support/ordinaryuser.h"
 #include "virtualcamera/skyfile.h"
 
@@ -17,12 +18,6 @@ Q_DECLARE_METATYPE(virtualsky::Source)
 namespace
 {
 const MeasuredLens lens{20.0, false};
-
-QByteArray bytesOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
-}
 
 void write(const QString &path, const QByteArray &bytes)
 {

@@ -19,7 +19,7 @@
 
 /// Longer than the interval between two checks for a notice.
 constexpr int oneLook = 700;
-constexpr int noticePatience = 20000;
+constexpr int noticeTimeout = 20000;
 
 /// A shown window under the practice sky, with the mount's bolts off, and a person to operate it.
 class NoticeWindow
@@ -34,7 +34,7 @@ public:
         window = std::make_unique<SessionWindow>();
         window->resize(size);
         window->show();
-        if (!QTest::qWaitForWindowExposed(window.get(), noticePatience))
+        if (!QTest::qWaitForWindowExposed(window.get(), noticeTimeout))
             qFatal("the window does not appear");
     }
     ~NoticeWindow()
@@ -57,11 +57,11 @@ public:
     QString notice() const { return child<QLabel>("label_notice").text(); }
     bool comes(const QString &beginning) const
     {
-        return QTest::qWaitFor([&] { return notice().startsWith(beginning); }, noticePatience);
+        return QTest::qWaitFor([&] { return notice().startsWith(beginning); }, noticeTimeout);
     }
     bool goes() const
     {
-        return QTest::qWaitFor([&] { return notice().isEmpty(); }, noticePatience);
+        return QTest::qWaitFor([&] { return notice().isEmpty(); }, noticeTimeout);
     }
     /// The notice after the next check. Meanwhile frames come at the exposure's pace, so that
     /// waiting does not take a core.

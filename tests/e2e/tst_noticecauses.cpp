@@ -270,7 +270,7 @@ void NoticeCausesTest::starsLostAndFound()
     w.click("pushButton_finetunePole_done"); // the marks are still there, and so is the notice
     w.knobs.edit().boltAzimuth += 1.0;
     w.knobs.write();
-    QVERIFY(QTest::qWaitFor([&] { return !w.notice().isEmpty(); }, noticePatience));
+    QVERIFY(QTest::qWaitFor([&] { return !w.notice().isEmpty(); }, noticeTimeout));
     w.knobs.edit() = before;
     w.knobs.write();
     QVERIFY(w.goes());

@@ -21,12 +21,12 @@
 namespace displacedsky
 {
 /// A place on the sky, ICRS, degrees.
-struct Place {
+struct SkyDirection {
     double raDegrees, decDegrees;
 };
 
 /// Right ascension from the equinox of date of an ICRS place, degrees: what a mount shows.
-inline double raOfDate(const Place &place, double utcSeconds)
+inline double raOfDate(const SkyDirection &place, double utcSeconds)
 {
     astrometry::CatalogueStar star = {};
     star.raDegrees = place.raDegrees;
@@ -38,7 +38,7 @@ inline double raOfDate(const Place &place, double utcSeconds)
 
 /// The driver's projection backwards: the place that it draws at a pixel.
 /// @param centre of its field
-inline Place drawnAt(const virtualsky::Point &pixel, const Place &centre)
+inline SkyDirection drawnAt(const virtualsky::Point &pixel, const SkyDirection &centre)
 {
     using namespace astrometry;
     const double ra = centre.raDegrees * degree, dec = centre.decDegrees * degree;
@@ -54,16 +54,16 @@ inline Place drawnAt(const virtualsky::Point &pixel, const Place &centre)
 
 /// A star's light in the four pixels about its place, so that their centroid is the place.
 inline void divide(const astrometry::CatalogueStar &star, const virtualsky::Point &pixel,
-                   const Place &centre, std::vector<astrometry::CatalogueStar> &out)
+                   const SkyDirection &centre, std::vector<astrometry::CatalogueStar> &out)
 {
-    constexpr double leastShare = 0.001;
+    constexpr double minShare = 0.001;
     const double left = std::floor(pixel.x), top = std::floor(pixel.y);
     for (const double x : {left, left + 1.0})
         for (const double y : {top, top + 1.0}) {
             const double share = (1.0 - std::abs(pixel.x - x)) * (1.0 - std::abs(pixel.y - y));
-            if (share < leastShare)
+            if (share < minShare)
                 continue;
-            const Place drawn = drawnAt({x, y}, centre);
+            const SkyDirection drawn = drawnAt({x, y}, centre);
             astrometry::CatalogueStar part = star;
             part.raDegrees = std::fmod(drawn.raDegrees + 720.0, 360.0);
             part.decDegrees = drawn.decDegrees;
@@ -82,8 +82,8 @@ inline void spread(const astrometry::CatalogueStar &star,
     for (const int x : {-1, 0, 1})
         for (const int y : {-1, 0, 1}) {
             const double share = std::exp(-(x * x + y * y) / (2.0 * sigma * sigma)) / (row * row);
-            const Place drawn = drawnAt({virtualsky::centreX + x, virtualsky::centreY + y},
-                                        {star.raDegrees, star.decDegrees});
+            const SkyDirection drawn = drawnAt({virtualsky::centreX + x, virtualsky::centreY + y},
+                                               {star.raDegrees, star.decDegrees});
             astrometry::CatalogueStar part = star;
             part.raDegrees = std::fmod(drawn.raDegrees + 720.0, 360.0);
             part.decDegrees = drawn.decDegrees;
@@ -95,8 +95,8 @@ inline void spread(const astrometry::CatalogueStar &star,
 /// All stars of the picture, as the driver is to draw them.
 /// @param centre that the driver asks about; it belongs to the present time
 /// @param homeRa right ascension of the telescope, degrees, where the sky's RA angle is 0
-inline std::vector<astrometry::CatalogueStar> stars(virtualsky::SkyState sky, const Place &centre,
-                                                    double homeRa)
+inline std::vector<astrometry::CatalogueStar> stars(virtualsky::SkyState sky,
+                                                    const SkyDirection &centre, double homeRa)
 {
     const double now = double(std::time(nullptr));
     sky.raAngle = homeRa - raOfDate(centre, now);

@@ -19,7 +19,7 @@
 
 namespace
 {
-std::vector<astrometry::CatalogueStar> starsFor(const displacedsky::Place &centre)
+std::vector<astrometry::CatalogueStar> starsFor(const displacedsky::SkyDirection &centre)
 {
     const char *const sky = std::getenv("GSC_SKY");
     const char *const home = std::getenv("GSC_HOME");

@@ -12,8 +12,8 @@
 #include "framesources/threadedsource.h"
 #include "tests/support/processortimes.h"
 
-constexpr int returnPatience = 5000; // milliseconds from a fault's end to a frame
-constexpr qint64 callPatience = 100; // of every call
+constexpr int returnTimeout = 5000; // milliseconds from a fault's end to a frame
+constexpr qint64 callTimeout = 100; // of every call
 
 class IndiSource
 {

@@ -85,7 +85,7 @@ public:
                    telescope->state("EQUATORIAL_EOD_COORD") == framesources::IndiState::Ok;
         };
         telescope->sendNumbers("EQUATORIAL_EOD_COORD", {{"RA", wanted}, {"DEC", declination}});
-        if (!QTest::qWaitFor(isThere, slewPatience))
+        if (!QTest::qWaitFor(isThere, slewTimeout))
             return std::nullopt;
         QTest::qWait(1000); // its last correction, and its way to the camera
         telescope->waitForNews(std::chrono::milliseconds(1));
@@ -97,8 +97,8 @@ public:
     IndiServer server;
 
 private:
-    static constexpr double homeAngle = 30.0;   // hour angle of the telescope at home, degrees
-    static constexpr int slewPatience = 180000; // milliseconds; it turns by five degrees a second
+    static constexpr double homeAngle = 30.0;  // hour angle of the telescope at home, degrees
+    static constexpr int slewTimeout = 180000; // milliseconds; it turns by five degrees a second
 
     static double hours(double degrees) { return std::fmod(degrees + 720.0, 360.0) / 15.0; }
 

@@ -19,7 +19,7 @@ Q_DECLARE_METATYPE(std::string)
 
 namespace
 {
-constexpr qint64 connectPatience = 2000; // milliseconds
+constexpr qint64 connectTimeout = 2000; // milliseconds
 
 /// A server on loopback without any manners; its calls wait.
 class Server
@@ -140,7 +140,7 @@ void IndiConnectionTest::absentServer()
     IndiClient client(host, port, "Camera");
     QVERIFY(!client.connectServer());
     QVERIFY(!client.isConnected());
-    QVERIFY2(waiting.elapsed() < connectPatience + 500,
+    QVERIFY2(waiting.elapsed() < connectTimeout + 500,
              qPrintable(QString::number(waiting.elapsed())));
 }
 
@@ -157,8 +157,7 @@ void IndiConnectionTest::silentHost()
         connected = queue.back()->connectServer();
     }
     QVERIFY(!connected);
-    QVERIFY2(waiting.elapsed() >= connectPatience - 100 &&
-                 waiting.elapsed() < connectPatience + 500,
+    QVERIFY2(waiting.elapsed() >= connectTimeout - 100 && waiting.elapsed() < connectTimeout + 500,
              qPrintable(QString::number(waiting.elapsed())));
 }
 

@@ -133,8 +133,8 @@ void IndiHostileTest::goodFramesComeThrough()
     QVERIFY2(comesTrue([&] { return source.frame(20), server.harmsDone() > 0; }),
              qPrintable(source.lines().join("\n")));
     for (int i = 0; i < 3; ++i)
-        QVERIFY2(!source.frame(returnPatience).empty(), qPrintable(source.lines().join("\n")));
-    QVERIFY2(source.slowest < callPatience, qPrintable(QString::number(source.slowest)));
+        QVERIFY2(!source.frame(returnTimeout).empty(), qPrintable(source.lines().join("\n")));
+    QVERIFY2(source.slowest < callTimeout, qPrintable(QString::number(source.slowest)));
 }
 
 /// By each connection; some servers send them without being asked.
@@ -192,8 +192,8 @@ void IndiHostileTest::lossIsOnlyWhatACameraNeeds()
     };
     if (isLoss) {
         QTRY_VERIFY(saysLoss());
-        QVERIFY2(!source.frame(returnPatience).empty(), qPrintable(source.lines().join("\n")));
-        QVERIFY2(source.slowest < callPatience, qPrintable(QString::number(source.slowest)));
+        QVERIFY2(!source.frame(returnTimeout).empty(), qPrintable(source.lines().join("\n")));
+        QVERIFY2(source.slowest < callTimeout, qPrintable(QString::number(source.slowest)));
         return;
     }
     for (int i = 0; i < 20; ++i)
@@ -215,9 +215,9 @@ void IndiHostileTest::renamedDeviceIsNamedAndComesBack()
     while (!source.frame(300).empty()) { // none is left from before
     }
     server.rename(false);
-    QVERIFY2(!source.frame(returnPatience).empty(), qPrintable(source.lines().join("\n")));
+    QVERIFY2(!source.frame(returnTimeout).empty(), qPrintable(source.lines().join("\n")));
     QVERIFY(source.isPresent());
-    QVERIFY2(source.slowest < callPatience, qPrintable(QString::number(source.slowest)));
+    QVERIFY2(source.slowest < callTimeout, qPrintable(QString::number(source.slowest)));
 }
 
 void IndiHostileTest::jpegFramesAreRight_data()
@@ -305,7 +305,7 @@ void IndiHostileTest::lossesLeaveNothingBehind()
         if (cycle == warmUp)
             before = heldWithout(server, source);
         server.leaveAfter(2);
-        QVERIFY2(!source.frame(returnPatience).empty(), qPrintable(source.lines().join("\n")));
+        QVERIFY2(!source.frame(returnTimeout).empty(), qPrintable(source.lines().join("\n")));
         QTRY_VERIFY((source.frame(10), !source.isPresent()));
     }
     const Held after = heldWithout(server, source);
@@ -316,7 +316,7 @@ void IndiHostileTest::lossesLeaveNothingBehind()
              qPrintable(QString("%1, before %2").arg(after.descriptors).arg(before.descriptors)));
     QVERIFY2(after.bytes - before.bytes < 200000,
              qPrintable(QString("%1 bytes more").arg(after.bytes - before.bytes)));
-    QVERIFY2(source.slowest < callPatience, qPrintable(QString::number(source.slowest)));
+    QVERIFY2(source.slowest < callTimeout, qPrintable(QString::number(source.slowest)));
     qInfo("%d losses: %lld bytes", cycles, after.bytes - before.bytes);
 }
 

@@ -53,11 +53,11 @@ void IndiLossTest::serverKilled()
         while (!source.frame(500).empty()) {
         }
         QVERIFY(server.start());
-        QVERIFY2(!source.frame(returnPatience).empty(), qPrintable(source.lines().join("\n")));
+        QVERIFY2(!source.frame(returnTimeout).empty(), qPrintable(source.lines().join("\n")));
         QVERIFY(source.isPresent());
     }
     QVERIFY(source.lines().join("\n").contains("lost"));
-    QVERIFY2(source.slowest < callPatience, qPrintable(QString::number(source.slowest)));
+    QVERIFY2(source.slowest < callTimeout, qPrintable(QString::number(source.slowest)));
 }
 
 void IndiLossTest::serverStopped()
@@ -74,9 +74,9 @@ void IndiLossTest::serverStopped()
         while (stopped.elapsed() < pause)
             source.frame(200);
         server.signal(SIGCONT);
-        QVERIFY2(!source.frame(returnPatience).empty(), qPrintable(source.lines().join("\n")));
+        QVERIFY2(!source.frame(returnTimeout).empty(), qPrintable(source.lines().join("\n")));
     }
-    QVERIFY2(source.slowest < callPatience, qPrintable(QString::number(source.slowest)));
+    QVERIFY2(source.slowest < callTimeout, qPrintable(QString::number(source.slowest)));
 }
 
 void IndiLossTest::driverKilled()
@@ -90,9 +90,9 @@ void IndiLossTest::driverKilled()
         const int before = source.lines().size();
         server.signalDrivers(SIGKILL); // the server starts it again
         QTRY_VERIFY_WITH_TIMEOUT((source.frame(50), source.lines().size() > before), 20000);
-        QVERIFY2(!source.frame(returnPatience).empty(), qPrintable(source.lines().join("\n")));
+        QVERIFY2(!source.frame(returnTimeout).empty(), qPrintable(source.lines().join("\n")));
     }
-    QVERIFY2(source.slowest < callPatience, qPrintable(QString::number(source.slowest)));
+    QVERIFY2(source.slowest < callTimeout, qPrintable(QString::number(source.slowest)));
 }
 
 void IndiLossTest::noSuchDevice()
@@ -120,11 +120,11 @@ void IndiLossTest::networkCut()
         healed.start();
         cv::Mat frame;
         do
-            frame = source.frame(returnPatience);
+            frame = source.frame(returnTimeout);
         while (!frame.empty() && healed.elapsed() < 100); // one that was there before
         QVERIFY2(!frame.empty(), qPrintable(source.lines().join("\n")));
     }
-    QVERIFY2(source.slowest < callPatience, qPrintable(QString::number(source.slowest)));
+    QVERIFY2(source.slowest < callTimeout, qPrintable(QString::number(source.slowest)));
 }
 
 void IndiLossTest::sourceEndsAtOnce()
@@ -139,7 +139,7 @@ void IndiLossTest::sourceEndsAtOnce()
         QElapsedTimer ending;
         ending.start();
         source.source.reset();
-        QVERIFY2(ending.elapsed() < callPatience, qPrintable(QString::number(ending.elapsed())));
+        QVERIFY2(ending.elapsed() < callTimeout, qPrintable(QString::number(ending.elapsed())));
     }
 }
 

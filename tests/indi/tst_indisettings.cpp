@@ -32,7 +32,7 @@ private slots:
 void IndiSettingsTest::readout_data()
 {
     QTest::addColumn<QSize>("sensor");
-    QTest::addColumn<int>("mostBinning");
+    QTest::addColumn<int>("maxBinning");
     QTest::addColumn<double>("scale"); // arcseconds a pixel, 0 = unknown
     QTest::addColumn<bool>("whole");
     QTest::addColumn<int>("binning");
@@ -64,13 +64,13 @@ void IndiSettingsTest::readout_data()
 void IndiSettingsTest::readout()
 {
     QFETCH(QSize, sensor);
-    QFETCH(int, mostBinning);
+    QFETCH(int, maxBinning);
     QFETCH(double, scale);
     QFETCH(bool, whole);
     QFETCH(int, binning);
     QFETCH(QRect, region);
     const Readout plan = framesources::planReadout(cv::Size(sensor.width(), sensor.height()),
-                                                   mostBinning, scale, whole);
+                                                   maxBinning, scale, whole);
     QCOMPARE(plan.binning, binning);
     QCOMPARE(QRect(plan.region.x, plan.region.y, plan.region.width, plan.region.height), region);
 }

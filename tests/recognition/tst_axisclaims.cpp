@@ -36,8 +36,8 @@ Recognition disturbed(std::vector<DetectedStar> stars, const Recognition &frame,
     RecognitionOptions options;
     options.utcSeconds = frame.utcSeconds;
     options.hemisphere = frame.hemisphere;
-    options.leastScale = 0.95 * frame.scale;
-    options.greatestScale = 1.05 * frame.scale;
+    options.minScale = 0.95 * frame.scale;
+    options.maxScale = 1.05 * frame.scale;
     return recognise(stars, frame.width, frame.height, options);
 }
 

@@ -176,9 +176,9 @@ void ExtractionFramesTest::sizes()
     const int apart = width > 2000 ? 120 : 40;
     const cv::Mat1w frame = starField(width, height, apart);
     ExtractionOptions options;
-    options.mostStars = 100000;
-    options.leastStars = 1;
-    options.leastSnr = 10.0;
+    options.maxStars = 100000;
+    options.minStars = 1;
+    options.minSnr = 10.0;
     const Extraction found = extractStars(frame, options);
     QCOMPARE(found.status, ExtractionStatus::Ok);
     QVERIFY(isSane(found, frame));
@@ -228,7 +228,7 @@ void ExtractionFramesTest::channelsMakeNoDifference()
 void ExtractionFramesTest::noMoreStarsThanWanted()
 {
     ExtractionOptions options;
-    options.mostStars = 12;
+    options.maxStars = 12;
     const Extraction found = extractStars(starField(800, 600), options);
     QCOMPARE(found.stars.size(), std::size_t(12));
     // Brighter towards the right: the brightest are those that are kept.

@@ -115,7 +115,7 @@ void ManySkiesTest::theCountIsThatOfTheSky()
     const RandomSky sky = plainSky(1, false, 2026);
     const int counted = starsAbove(sky, 5.0);
     ExtractionOptions options;
-    options.mostStars = 1000;
+    options.maxStars = 1000;
     int found = 0;
     for (const DetectedStar &star : extractStars(painter.frameOf(sky), options).stars)
         found += star.snr > 5.5; // the count knows the photons' own noise too

@@ -169,8 +169,8 @@ void RecogniseTest::whatIsKnownIsHeeded()
         options.hemisphere = hemisphere == 0 ? Hemisphere::North : Hemisphere::South;
     if (mirrored >= 0)
         options.mirrored = mirrored == 1;
-    options.leastScale = least;
-    options.greatestScale = greatest;
+    options.minScale = least;
+    options.maxScale = greatest;
     const Recognition result = recognisedField(golden, options);
     QCOMPARE(result.status == RecognitionStatus::Recognised, found);
 }
@@ -204,7 +204,7 @@ void RecogniseTest::claimCoversTheError()
 }
 
 // At 40 degrees of latitude the air lifts the pole by 67 arcsec. The list knows no air, so that a
-// recognition that is told of air puts the Earth's pole below where the stars turn.
+// recognition with refraction puts the Earth's pole below where the stars turn.
 void RecogniseTest::refractionLiftsThePole()
 {
     const Field &field = fieldNamed("finder north");
@@ -272,7 +272,7 @@ void RecogniseTest::failuresHaveReasons()
         list.push_back({place(random), place(random), 1e4 / (i + 1.0), 50.0, 2.5, false});
     RecognitionOptions options;
     options.utcSeconds = date;
-    options.leastScale = least;
+    options.minScale = least;
     const Recognition result = recognise(list, width, 960, options);
     QCOMPARE(int(result.status), status);
     QVERIFY2(QString::fromStdString(reason(result)).contains(advice), reason(result).c_str());

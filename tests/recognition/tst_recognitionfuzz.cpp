@@ -79,7 +79,7 @@ void RecognitionFuzzTest::listsHaveEnoughStars()
     for (std::uint64_t i = 0; i < 80U * listKinds; ++i) {
         const RandomList list = randomList(i);
         QVERIFY(list.stars.size() <= 60 && list.width > 0 && list.height > 0);
-        enough[std::size_t(list.kind)] += list.stars.size() >= leastStars;
+        enough[std::size_t(list.kind)] += list.stars.size() >= minStars;
     }
     for (const int lists : enough)
         QVERIFY2(lists > 20, qPrintable(QString::number(lists)));

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/settingsfile.h"
+#include "tests/support/filetext.h"
 #include "tests/support/ordinaryuser.h"
 
 #include <QCoreApplication>
@@ -33,14 +34,6 @@ inline QStringList keptAside()
     for (const QFileInfo &file : place.dir().entryInfoList({place.fileName() + ".unread*"}))
         paths.append(file.filePath());
     return paths;
-}
-
-inline QByteArray bytesOf(const QString &path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("%s cannot be read", qPrintable(path));
-    return file.readAll();
 }
 
 /// Removes whatever a row has put there and restores its permissions.

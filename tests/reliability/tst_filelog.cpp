@@ -2,6 +2,7 @@
 // Does the log file hold every line of every thread, and does the program write one if built so?
 #include "app/logging.h"
 #include "tests/reliability/handledsignals.h"
+#include "tests/support/filetext.h"
 #include "tests/support/patience.h"
 
 #include <QDir>
@@ -27,17 +28,6 @@ void startLogging(QProcess &program, const QString &home)
     environment.insert("QT_LOGGING_TO_CONSOLE", "1");
     program.setProcessEnvironment(environment);
     program.start(LOGGING_PROGRAM, QStringList());
-}
-
-QStringList linesOf(const QString &path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    QStringList lines = QString::fromUtf8(file.readAll()).split('\n');
-    if (lines.takeLast() != QString())
-        return {"the last line has no end"};
-    return lines;
 }
 } // namespace
 

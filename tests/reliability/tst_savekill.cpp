@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Is the settings file complete, whenever the process that writes it is killed?
 #include "core/settingsfile.h"
+#include "tests/support/filetext.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -37,12 +38,6 @@ Settings recordOf(bool second)
     settings.axisX = 612.0;
     settings.axisY = 488.0;
     return settings;
-}
-
-QByteArray bytesOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 /// What the child does until it is killed.

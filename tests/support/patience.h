@@ -7,7 +7,7 @@
 /// Milliseconds: far longer than anything takes on a machine that is busy with other tests.
 constexpr int patience = 30000;
 /// The same for a part of an alignment.
-constexpr int longPatience = 2 * patience;
+constexpr int longTimeout = 2 * patience;
 
 /// Whether `condition` becomes true in that time. It is not evaluated again once it was true.
 template <typename Condition> bool comesTrue(const Condition &condition)

@@ -151,7 +151,7 @@ void SkyFileTest::refused_data()
     row("unknown key", "[site]\n\nlattitude = 3\n", "line 3: lattitude: unknown key in [site]");
     row("key of another section", "[site]\nfwhm = 3\n", "line 2: fwhm: unknown key in [site]");
     row("key in capitals", "[site]\nLatitude = 3\n", "line 2: Latitude: unknown key in [site]");
-    row("key before a section", "latitude = 3\n", "line 1: latitude: stands before any section");
+    row("key before a section", "latitude = 3\n", "line 1: latitude: appears before any section");
     row("twice", "[site]\nlatitude = 3\nlatitude = 3\n", "line 3: latitude: duplicate key");
     row("twice in a section given twice", "[site]\nlatitude = 3\n[site]\nlatitude = 3\n",
         "line 4: latitude: duplicate key");

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Where do the log's lines go, and what do they look like?
 #include "app/logging.h"
+#include "tests/support/filetext.h"
 #include "tests/support/ordinaryuser.h"
 
 #include <QDateTime>
@@ -19,20 +20,6 @@
 namespace
 {
 const QMessageLogContext context;
-
-QStringList linesOf(const QString &path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    QString text = QString::fromUtf8(file.readAll());
-    if (text.isEmpty())
-        return {};
-    if (!text.endsWith('\n'))
-        return {"no line end: " + text};
-    text.chop(1);
-    return text.split('\n');
-}
 
 const QDateTime start(QDate(2024, 5, 23), QTime(21, 4, 10));
 

@@ -15,9 +15,9 @@
 
 namespace
 {
-constexpr int skyPatience = 60000, axisPatience = 20000, boltPatience = 20000; // milliseconds
-constexpr double mostTurn = 120.0;                                             // degrees
-constexpr int mostTurns = 40;                                                  // of the bolts
+constexpr int skyTimeout = 60000, axisTimeout = 20000, boltTimeout = 20000; // milliseconds
+constexpr double maxTurn = 120.0;                                           // degrees
+constexpr int maxTurns = 40;                                                // of the bolts
 } // namespace
 
 AssistantHands::AssistantHands(QWidget &theWindow, Knobs &theKnobs, const Options &how)
@@ -97,7 +97,7 @@ void AssistantHands::connectCamera()
     const QString before = text(QStringLiteral("label_axisTurn"));
     click(QStringLiteral("pushButton_connect"));
     // Once the sky is recognised, the turn of the axis is a number.
-    waitFor([&] { return text(QStringLiteral("label_axisTurn")) != before; }, skyPatience,
+    waitFor([&] { return text(QStringLiteral("label_axisTurn")) != before; }, skyTimeout,
             "the sky is not recognised");
     dismissHint();
     arrive(QStringLiteral("sky"));
@@ -117,17 +117,17 @@ void AssistantHands::turnAxis()
     say(QStringLiteral("Turn the RA axis."));
     const double start = knobs.edit().raAngle;
     const auto isKnown = [&] { return number(QStringLiteral("label_totalError")).has_value(); };
-    for (double turned = options.axisStep; turned <= mostTurn && !isKnown();
+    for (double turned = options.axisStep; turned <= maxTurn && !isKnown();
          turned += options.axisStep) {
         const QString before = text(QStringLiteral("label_axisTurn"));
         knobs.turnRaAxisTo(start + turned);
         waitFor([&] { return isKnown() || text(QStringLiteral("label_axisTurn")) != before; },
-                axisPatience, "the turn of the axis does not show");
+                axisTimeout, "the turn of the axis does not show");
         if (turned > 7.0 && turned - options.axisStep <= 7.0 && !isKnown())
             arrive(QStringLiteral("axis"));
         pause();
     }
-    waitFor(isKnown, axisPatience, "the axis is not found");
+    waitFor(isKnown, axisTimeout, "the axis is not found");
     arrive(QStringLiteral("bolts"));
 }
 
@@ -144,7 +144,7 @@ void AssistantHands::turnBolts()
 {
     say(QStringLiteral("Turn the bolts as the arrows say."));
     bool wasNear = false;
-    for (int i = 0; i < mostTurns; ++i) {
+    for (int i = 0; i < maxTurns; ++i) {
         const auto total = number(QStringLiteral("label_totalError"));
         const auto altitude = number(QStringLiteral("label_altitudeError"));
         const auto azimuth = number(QStringLiteral("label_azimuthError"));
@@ -169,7 +169,7 @@ void AssistantHands::turnBolts()
                 const auto now = number(QStringLiteral("label_totalError"));
                 return now && (*now < expected || *now < options.goalArcseconds);
             },
-            boltPatience, "the numbers do not follow the bolts");
+            boltTimeout, "the numbers do not follow the bolts");
         QTest::qWait(700); // until the number stands still
         pause();
     }

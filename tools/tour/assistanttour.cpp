@@ -27,7 +27,7 @@
 namespace
 {
 constexpr QSize pictureSize(1000, 640);
-constexpr int closingPatience = 12000; // milliseconds
+constexpr int closingTimeout = 12000; // milliseconds
 
 /// The sky as it is now, with the refraction that the assistant takes into account.
 virtualsky::SkyState startingSky(bool south)
@@ -112,7 +112,7 @@ void run(const QCommandLineParser &options)
         }
         window.close();
     }
-    instrument.close(closingPatience);
+    instrument.close(closingTimeout);
 }
 } // namespace
 

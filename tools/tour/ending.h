@@ -6,9 +6,9 @@ class QString;
 class QWidget;
 
 /// Whether a user can see the result and press a key.
-/// \param isFast the tour runs without pauses for a viewer
-/// \param savesPictures the tour saves pictures for later
-/// \param platform Qt's platform name
+/// @param isFast the tour runs without pauses for a viewer
+/// @param savesPictures the tour saves pictures for later
+/// @param platform Qt's platform name
 bool isWatched(bool isFast, bool savesPictures, const QString &platform);
 
 /// Returns when a key was pressed in any of the program's windows, or the window was closed. The

@@ -131,7 +131,7 @@
         <translation>nicht in der Form Schlüssel = Wert</translation>
     </message>
     <message>
-        <source>stands before any section</source>
+        <source>appears before any section</source>
         <translation>steht vor dem ersten Abschnitt</translation>
     </message>
     <message>
@@ -349,7 +349,7 @@
         <translation>Alles wieder so einstellen, wie es am Anfang war</translation>
     </message>
     <message>
-        <source>Sets everything as it was at first</source>
+        <source>Resets everything to the values at the start</source>
         <translation>Stellt alles wieder so ein, wie es am Anfang war</translation>
     </message>
     <message>

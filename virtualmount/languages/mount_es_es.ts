@@ -131,7 +131,7 @@
         <translation>no tiene la forma clave = valor</translation>
     </message>
     <message>
-        <source>stands before any section</source>
+        <source>appears before any section</source>
         <translation>está antes de la primera sección</translation>
     </message>
     <message>
@@ -349,7 +349,7 @@
         <translation>Dejar todo como estaba al principio</translation>
     </message>
     <message>
-        <source>Sets everything as it was at first</source>
+        <source>Resets everything to the values at the start</source>
         <translation>Deja todo como estaba al principio</translation>
     </message>
     <message>

@@ -131,7 +131,7 @@
         <translation>n&apos;est pas de la forme clé = valeur</translation>
     </message>
     <message>
-        <source>stands before any section</source>
+        <source>appears before any section</source>
         <translation>se trouve avant toute section</translation>
     </message>
     <message>
@@ -349,7 +349,7 @@
         <translation>Tout remettre comme au début</translation>
     </message>
     <message>
-        <source>Sets everything as it was at first</source>
+        <source>Resets everything to the values at the start</source>
         <translation>Remet tout comme au début</translation>
     </message>
     <message>

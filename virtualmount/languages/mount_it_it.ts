@@ -131,7 +131,7 @@
         <translation>non è nella forma chiave = valore</translation>
     </message>
     <message>
-        <source>stands before any section</source>
+        <source>appears before any section</source>
         <translation>si trova prima di ogni sezione</translation>
     </message>
     <message>
@@ -349,7 +349,7 @@
         <translation>Rimetti tutto com&apos;era all&apos;inizio</translation>
     </message>
     <message>
-        <source>Sets everything as it was at first</source>
+        <source>Resets everything to the values at the start</source>
         <translation>Rimette tutto com&apos;era all&apos;inizio</translation>
     </message>
     <message>

@@ -131,7 +131,7 @@
         <translation>「キー = 値」の形ではありません</translation>
     </message>
     <message>
-        <source>stands before any section</source>
+        <source>appears before any section</source>
         <translation>最初のセクションより前にあります</translation>
     </message>
     <message>
@@ -349,7 +349,7 @@
         <translation>すべてを最初の状態に戻す</translation>
     </message>
     <message>
-        <source>Sets everything as it was at first</source>
+        <source>Resets everything to the values at the start</source>
         <translation>すべてを最初の状態に戻します</translation>
     </message>
     <message>

@@ -131,7 +131,7 @@
         <translation>‘키 = 값’ 형식이 아닙니다</translation>
     </message>
     <message>
-        <source>stands before any section</source>
+        <source>appears before any section</source>
         <translation>첫 섹션보다 앞에 있습니다</translation>
     </message>
     <message>
@@ -349,7 +349,7 @@
         <translation>모두 처음 상태로 되돌리기</translation>
     </message>
     <message>
-        <source>Sets everything as it was at first</source>
+        <source>Resets everything to the values at the start</source>
         <translation>모두 처음 상태로 되돌립니다</translation>
     </message>
     <message>

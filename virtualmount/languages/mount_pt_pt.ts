@@ -131,7 +131,7 @@
         <translation>não tem a forma chave = valor</translation>
     </message>
     <message>
-        <source>stands before any section</source>
+        <source>appears before any section</source>
         <translation>está antes da primeira secção</translation>
     </message>
     <message>
@@ -349,7 +349,7 @@
         <translation>Pôr tudo como estava no início</translation>
     </message>
     <message>
-        <source>Sets everything as it was at first</source>
+        <source>Resets everything to the values at the start</source>
         <translation>Põe tudo como estava no início</translation>
     </message>
     <message>

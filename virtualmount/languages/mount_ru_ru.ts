@@ -131,7 +131,7 @@
         <translation>не в форме ключ = значение</translation>
     </message>
     <message>
-        <source>stands before any section</source>
+        <source>appears before any section</source>
         <translation>стоит до первого раздела</translation>
     </message>
     <message>
@@ -349,7 +349,7 @@
         <translation>Вернуть всё в начальное состояние</translation>
     </message>
     <message>
-        <source>Sets everything as it was at first</source>
+        <source>Resets everything to the values at the start</source>
         <translation>Возвращает всё в начальное состояние</translation>
     </message>
     <message>

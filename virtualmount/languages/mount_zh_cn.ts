@@ -131,7 +131,7 @@
         <translation>不是“键 = 值”的形式</translation>
     </message>
     <message>
-        <source>stands before any section</source>
+        <source>appears before any section</source>
         <translation>出现在第一个节之前</translation>
     </message>
     <message>
@@ -349,7 +349,7 @@
         <translation>将一切恢复到最初的状态</translation>
     </message>
     <message>
-        <source>Sets everything as it was at first</source>
+        <source>Resets everything to the values at the start</source>
         <translation>将一切恢复到最初的状态</translation>
     </message>
     <message>

@@ -17,13 +17,13 @@ Q_DECLARE_METATYPE(assistant::Stage)
 
 namespace
 {
-const QLocale english(QLocale::English, QLocale::UnitedKingdom);
+const QLocale inBritain(QLocale::English, QLocale::UnitedKingdom);
 
 Display displayWith(const std::vector<assistant::Advice> &advice)
 {
     assistant::Status status;
     status.advice = advice;
-    return displayOf(status, {}, english);
+    return assistantwindow::displayOf(status, {}, inBritain);
 }
 
 QImage largeImage(QSize size, Stage stage, const QStringList &further)
@@ -126,11 +126,11 @@ void AssistantPagesTest::turnIsNotRoundedUp()
     status.stage = Stage::Axis;
     status.axis.turnedDegrees = 14.98;
     status.advice = {{AdviceCode::TurnFurther, 14.98, 0.0, {}}};
-    const Display display = displayOf(status, {}, english);
+    const Display display = assistantwindow::displayOf(status, {}, inBritain);
     QCOMPARE(display.axisTurn, QStringLiteral("14°"));
     QCOMPARE(display.advice, QStringLiteral("Turn the RA axis further: 14° so far."));
-    QCOMPARE(turnText(15.0, english), QStringLiteral("15°"));
-    QCOMPARE(turnText(0.3, english), QStringLiteral("0°"));
+    QCOMPARE(turnText(15.0, inBritain), QStringLiteral("15°"));
+    QCOMPARE(turnText(0.3, inBritain), QStringLiteral("0°"));
 }
 
 void AssistantPagesTest::hintNamesTheCondition()
@@ -305,7 +305,7 @@ void AssistantPagesTest::reportSaysWhichSide()
     assistant::Report report;
     report.after = madestatus::figuresOf({altitude, azimuth}, true);
     QString value;
-    for (const ReportRow &one : reportRows(report, english))
+    for (const ReportRow &one : reportRows(report, inBritain))
         if (one.name == row)
             value = one.value;
     QTEST(value, "value");
