@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: MIT
 """Which target links which, and which folder includes which? Generates the map in ARCHITECTURE.md.
 
-  tools/draw_map.py           prints the map
+  tools/draw_map.py           prints the map, and below it the folders whose headers each folder includes
   tools/draw_map.py --write   writes it into ARCHITECTURE.md
   tools/draw_map.py --check   fails if that map is out of date, or if an arrow points up
 
@@ -129,6 +129,8 @@ def main():
             return 1
     else:
         print(text)
+        for folder, others in reversed(includes().items()):
+            print(f"{folder + '/':<17}includes {', '.join(sorted(others)) or 'none'}")
     return 1 if wrong and options.check else 0
 
 
