@@ -21,7 +21,7 @@ namespace
 using Clock = std::chrono::steady_clock;
 /// A copy can hang although the library is sound: another thread may have held a lock at the fork,
 /// of an allocator that does not care for forks, for example. So a second copy decides.
-constexpr std::chrono::seconds loadTimeout[] = {std::chrono::seconds(4), std::chrono::seconds(6)};
+constexpr std::chrono::seconds loadTimeouts[] = {std::chrono::seconds(4), std::chrono::seconds(6)};
 /// For what the library does as it is unloaded; the program never unloads one that it uses.
 constexpr std::chrono::seconds unloadTimeout(2);
 constexpr std::chrono::milliseconds pause(2);
@@ -142,8 +142,8 @@ bool canLoadSafely(const QByteArray &name)
 {
     const char *const text = name.constData(); // the child calls no Qt code
     Trial trial = Trial::Hung;
-    for (const std::chrono::seconds patience : loadTimeout)
+    for (const std::chrono::seconds timeout : loadTimeouts)
         if (trial == Trial::Hung)
-            trial = tryToLoad(text, patience);
+            trial = tryToLoad(text, timeout);
     return trial == Trial::Returned;
 }

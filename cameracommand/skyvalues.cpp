@@ -13,7 +13,7 @@ using virtualsky::trimmed;
 constexpr std::size_t nowhere = std::string::npos;
 
 /// Offsets in the text.
-struct KeyLines {
+struct KeyLine {
     int line = 0;
     std::size_t begin = 0, end = 0;           // of the key's line, with its line end
     std::size_t equals = nowhere;             // nowhere: there is no such key
@@ -21,9 +21,9 @@ struct KeyLines {
     std::size_t insertion = nowhere;          // behind the section's line; nowhere: no such section
 };
 
-KeyLines placeOf(const std::string &text, const std::string &section, const std::string &key)
+KeyLine keyLineOf(const std::string &text, const std::string &section, const std::string &key)
 {
-    KeyLines place;
+    KeyLine place;
     std::string_view current;
     while (place.end < text.size()) {
         place.begin = place.end;
@@ -54,7 +54,7 @@ KeyLines placeOf(const std::string &text, const std::string &section, const std:
 std::optional<SkyLine> skyLine(const std::string &text, const std::string &section,
                                const std::string &key)
 {
-    const KeyLines place = placeOf(text, section, key);
+    const KeyLine place = keyLineOf(text, section, key);
     if (place.equals == nowhere)
         return std::nullopt;
     std::string line = text.substr(place.begin, place.end - place.begin);
@@ -65,7 +65,7 @@ std::optional<SkyLine> skyLine(const std::string &text, const std::string &secti
 std::string withSkyValue(const std::string &text, const std::string &section,
                          const std::string &key, const std::string &value)
 {
-    const KeyLines place = placeOf(text, section, key);
+    const KeyLine place = keyLineOf(text, section, key);
     if (place.equals != nowhere) {
         const bool isEmpty = place.valueBegin == place.valueEnd;
         return text.substr(0, place.valueBegin) + (isEmpty ? " " : "") + value +

@@ -79,6 +79,8 @@ private slots:
     void cleanupTestCase() { QVERIFY(installTranslator("mount", languages.front())); }
     void everyTextFits_data();
     void everyTextFits();
+    void theTruthButtonHasRoomForBothTexts_data() { everyTextFits_data(); }
+    void theTruthButtonHasRoomForBothTexts();
     void anAlignedStartFits_data() { everyTextFits_data(); }
     void anAlignedStartFits();
     void aLowScreen_data() { everyTextFits_data(); }
@@ -332,6 +334,23 @@ void MountLanguagesTest::thePartsOfTheTruth()
     const QString truth = textOf(shown.window, "truth");
     QVERIFY2(truth.contains(altitude) && truth.contains(azimuth), qPrintable(truth));
     QCOMPARE(truth.count("′"), 3);
+}
+
+/// Otherwise the buttons beside it would move at each click.
+void MountLanguagesTest::theTruthButtonHasRoomForBothTexts()
+{
+    QFETCH(int, number);
+    QVERIFY(installTranslator("mount", languages.at(std::size_t(number))));
+    const SkyFileFixture file;
+    const ShownWindow shown(file.path());
+    const auto &button = named<QAbstractButton>(shown.window, "showTruth");
+    QStringList texts;
+    for (int i = 0; i < 2; ++i) {
+        texts.append(button.text());
+        QVERIFY2(button.minimumWidth() >= button.sizeHint().width(), qPrintable(button.text()));
+        clickOn(shown.window, "showTruth");
+    }
+    QVERIFY(texts[0] != texts[1]);
 }
 
 QTEST_MAIN(MountLanguagesTest)

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Is everything in the virtual mount's panels where it belongs, with room for its text?
 #include "app/stylesheet.h"
-#include "core/languages.h"
 #include "resources/resources.h"
 #include "tests/virtualmount/mountwindowtest.h"
 
@@ -19,14 +18,11 @@ private slots:
     void theDialIsAboveItsAngle();
     void namesAreLeftOfWhatTheyName();
     void errorsAreNamed();
-    void theTruthButtonHasRoomForBothTexts_data();
-    void theTruthButtonHasRoomForBothTexts();
 };
 
 void MountPanelsTest::initTestCase()
 {
     initialiseResources();
-    Q_INIT_RESOURCE(mount_catalogues);
     applyStyleSheet(*qApp, QStringLiteral(":/qss/default.qss"));
 }
 
@@ -123,31 +119,6 @@ void MountPanelsTest::errorsAreNamed()
              QStringLiteral("Remaining error"));
     QCOMPARE(named<QLabel>(shown.window, "angles").accessibleName(),
              QStringLiteral("Error of the star angles"));
-}
-
-void MountPanelsTest::theTruthButtonHasRoomForBothTexts_data()
-{
-    QTest::addColumn<int>("number");
-    for (std::size_t i = 0; i < languages.size(); ++i)
-        QTest::newRow(languages[i].code) << int(i);
-}
-
-/// Otherwise the buttons beside it would move at each click.
-void MountPanelsTest::theTruthButtonHasRoomForBothTexts()
-{
-    QFETCH(int, number);
-    QVERIFY(installTranslator("mount", languages.at(std::size_t(number))));
-    const SkyFileFixture file;
-    const ShownWindow shown(file.path());
-    const auto &button = named<QAbstractButton>(shown.window, "showTruth");
-    QStringList texts;
-    for (int i = 0; i < 2; ++i) {
-        texts.append(button.text());
-        QVERIFY2(button.minimumWidth() >= button.sizeHint().width(), qPrintable(button.text()));
-        clickOn(shown.window, "showTruth");
-    }
-    QVERIFY(texts[0] != texts[1]);
-    QVERIFY(installTranslator("mount", languages.front()));
 }
 
 QTEST_MAIN(MountPanelsTest)
